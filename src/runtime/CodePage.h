@@ -1,0 +1,10 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+// Files for the office programs are written in Windows-1252, the code page they expect on a German machine.
+
+/// What the code page lacks becomes "?", one for each character (a surrogate pair is one).
+QByteArray toWindows1252(const QString& text);
+QString fromWindows1252(const QByteArray& bytes);

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "Recordset.h"
+
+#include <memory>
+
+class Connection;
+
+/// An open database file. A value with shared state; using an empty or closed one is error 91.
+class Database {
+public:
+    Database() = default;
+    explicit Database(std::shared_ptr<Connection> connection);
+
+    /// Opens a table (dbOpenTable, by its name; 3078 if there is none) or the result of one SELECT
+    /// (dbOpenDynaset; 3075 for what is no well-formed SELECT, 3061 for an unknown field, 3078 for an unknown
+    /// table).
+    Recordset OpenRecordset(const QString& nameOrSelect, RecordsetType type);
+    /// Ends the database and every cursor on it. What finished routines wrote is in the file.
+    void Close();
+    bool isOpen() const;
+
+private:
+    std::shared_ptr<Connection> m_connection;
+};

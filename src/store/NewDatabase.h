@@ -1,0 +1,8 @@
+#pragma once
+
+#include <QString>
+
+/// Makes the file that is delivered with the program: all tables, the two system categories, the group
+/// "Administratoren" with all rights, the user "Admin" with the empty password in it, and the one row of
+/// `System` with the given year, fee and hours 0. Error 3204 if the file exists, 3044 if its folder doesn't.
+void createDatabase(const QString& path, const QString& password, int year);
