@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QComboBox>
+
+/// A drop-down list. Its click runs when the user picks an entry, also the one that stands there already, and
+/// when the program changes the selection.
+class ComboBox : public QComboBox {
+    Q_OBJECT
+
+public:
+    enum class Order { AsAdded, Sorted };
+    enum class Kind { DropDownList, Editable };
+
+    explicit ComboBox(const QString& name, Order order = Order::AsAdded, Kind kind = Kind::DropDownList,
+                      QWidget* parent = nullptr);
+
+    int ListCount() const { return count(); }
+    int ListIndex() const { return currentIndex(); }
+    void Clear();
+    void AddItem(const QString& text);
+    void InsertItem(int index, const QString& text);
+    QString Text() const { return currentText(); }
+    /// Selects the entry of this text; error 383 if a drop-down list has none such (an empty text selects
+    /// nothing).
+    void setText(const QString& text);
+    /// -1 selects none.
+    void setListIndex(int index);
+
+Q_SIGNALS:
+    void Click();
+};

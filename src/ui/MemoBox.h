@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QPlainTextEdit>
+
+/// A text box of several lines with a vertical scroll bar. Tab leaves it.
+class MemoBox : public QPlainTextEdit {
+    Q_OBJECT
+
+public:
+    explicit MemoBox(const QString& name, QWidget* parent = nullptr);
+
+    /// Lines are joined by carriage return and line feed, as the tables hold them.
+    QString Text() const;
+    void setText(const QString& text);
+    /// Characters beyond are refused, pasted ones too; 0 is no limit.
+    void setLimit(int characters) { m_limit = characters; }
+
+Q_SIGNALS:
+    void GotFocus();
+    void LostFocus();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void insertFromMimeData(const QMimeData* source) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+private:
+    int m_limit = 0;
+};

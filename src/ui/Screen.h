@@ -1,0 +1,66 @@
+#pragma once
+
+#include "EventGuard.h"
+
+#include <QWidget>
+
+class QEventLoop;
+class Stage;
+
+/// A window of the program: one instance of each at most, made on first use, reached by its class.
+/// Controls are named members and carry their name as objectName, as does the screen itself.
+class Screen : public QWidget {
+    Q_OBJECT
+
+public:
+    /// `name` becomes the objectName, `caption` the window's title.
+    Screen(const QString& name, const QString& caption);
+
+    // The events of a screen. They run guarded (see runEvent); overriding is optional.
+    virtual void Form_Load() {}       ///< once, right after the instance is registered
+    virtual void Form_Activate() {}   ///< came to the front of the frame
+    virtual void Form_Deactivate() {} ///< another screen came to the front, or it was hidden there
+    virtual void Form_Paint() {}      ///< shown, uncovered or resized: the whole face is painted anew
+    virtual void Form_Unload() {}     ///< about to be destroyed by unload()
+    /// Sees each key before the focused control does; true swallows it.
+    virtual bool Form_KeyDown(int /*key*/, Qt::KeyboardModifiers /*modifiers*/) { return false; }
+    /// The user closes it by its border or by Esc where that applies. Default: hides or unloads as placed.
+    virtual void Form_QueryUnload();
+
+    /// Brings it to the front of the stage, or as a window of its own where there is no stage for it.
+    void Show();
+    /// As a modal window of its own above the frame; returns when it is hidden or unloaded. Neither activates
+    /// nor deactivates the screen below.
+    void ShowModal();
+    void Hide();
+    bool isModalNow() const { return m_modalLoop != nullptr; }
+    /// True if it stands in a window of its own (login, start-up picture) instead of on the stage.
+    bool isOwnWindow() const { return m_ownWindow; }
+
+    /// The pointer over the screen: an hourglass while a routine works, the arrow otherwise.
+    void setHourglass(bool on);
+    bool hasHourglass() const { return m_hourglass; }
+
+protected:
+    /// Login and the start-up picture stand alone, before there is a frame.
+    void standAlone() { m_ownWindow = true; }
+
+    /// Connects a control's signal to a handler that runs guarded.
+    template<typename Sender, typename Signal, typename Handler>
+    void on(Sender* sender, Signal signal, Handler handler)
+    {
+        connect(sender, signal, this, [handler](auto... arguments) {
+            runEvent([&] { handler(arguments...); });
+        });
+    }
+
+    void paintEvent(QPaintEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override; ///< key preview, installed on all controls
+    void childEvent(QChildEvent* event) override;
+
+private:
+    QEventLoop* m_modalLoop = nullptr;
+    bool m_ownWindow = false;
+    bool m_hourglass = false;
+};

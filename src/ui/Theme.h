@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QColor>
+
+class QApplication;
+class QIcon;
+class QString;
+
+/// The program's one look: the blue of the overview's child tables (172, 199, 247) and its darker relatives for
+/// the bar and the headings, neutral greys, one accent for focus and selection; spacing in multiples of four.
+namespace Theme {
+
+enum class Mode { Light, Dark };
+
+/// Style, palette, style sheet and fonts for the whole program; also loads the toolkit's German words.
+void apply(QApplication& application, Mode mode);
+/// Dark if the desktop asks for it.
+Mode desktopMode(const QApplication& application);
+Mode mode();
+
+QColor blue();     ///< (172, 199, 247)
+QColor darkBlue(); ///< bar and headings
+QColor accent();   ///< focus and selection
+
+/// A picture among the program's own (assets/icons/NAME.svg), drawn sharp at any scale and legible in both
+/// modes.
+QIcon icon(const QString& name);
+
+} // namespace Theme

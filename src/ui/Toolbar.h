@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QWidget>
+
+class QToolButton;
+class QHBoxLayout;
+
+/// The toolbar of a screen: keys with icon and caption, told apart by their key.
+class Toolbar : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit Toolbar(QWidget* parent = nullptr);
+
+    /// `icon` is the name of a picture among the program's own, without folder and ending.
+    QToolButton* addKey(const QString& key, const QString& caption, const QString& tip, const QString& icon);
+    void addSeparator();
+    QToolButton* key(const QString& key) const; ///< null if there is none
+    void setKeyEnabled(const QString& key, bool on);
+
+Q_SIGNALS:
+    void ButtonClick(const QString& key);
+
+private:
+    QHBoxLayout* m_row;
+};
