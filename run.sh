@@ -1,0 +1,55 @@
+#!/usr/bin/env bash
+# Builds Uferwart and starts it in a program folder of its own.
+set -euo pipefail
+# shellcheck source=tools/setup.sh
+. "$(dirname "$0")/tools/setup.sh"
+
+usage() {
+  cat <<TXT
+usage: ./run.sh [demo]
+
+  ./run.sh        builds the program, makes the folder programm/ if there is none yet, starts the program there
+  ./run.sh demo   the same in programm-demo/, with an invented club to look at
+
+Without a display it plays the tour instead and leaves its pictures in bilder/.
+TXT
+}
+
+case $#:${1:-} in
+  0:) folder=$top/programm kind=() ;;
+  1:demo) folder=$top/programm-demo kind=(--demo) ;;
+  1:-h | 1:--help) usage && exit ;;
+  *) usage >&2 && exit 2 ;;
+esac
+
+# True if Qt can open a window here; it ends with an abort if not.
+display_reachable() {
+  [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ] || return 1
+  case ${QT_QPA_PLATFORM:-} in offscreen* | minimal*) return 1 ;; esac
+  (ulimit -c 0 && timeout 20 "$top/build/release/tools/display-probe") >/dev/null 2>&1
+}
+
+play_tour() {
+  local tour=$top/tests/scenarios/rundgang.txt pictures=$top/bilder begun=$top/build/tour-begun
+  say "No display here: playing the tour without one, with its pictures in bilder/"
+  : >"$begun"
+  "$top/tests/play" --keep "$pictures" "$tour"
+  say "Pictures of the tour:"
+  find "$pictures" -name '*.png' -newer "$begun" | sort
+}
+
+start_program() {
+  [ -e "$folder" ] || "$top/build/release/tools/uferwart-neu" "$folder" "${kind[@]}"
+  # The program looks for its data beside its executable.
+  cp --update --remove-destination "$top/build/release/src/uferwart" "$folder/"
+  say "Starting $folder/uferwart (user Admin, no password)"
+  cd "$folder"
+  exec ./uferwart
+}
+
+require_platform
+packages=("${build_packages[@]}")
+[ -n "${WAYLAND_DISPLAY:-}" ] && packages+=(qt6-wayland)
+ensure_packages "${packages[@]}"
+build release uferwart uferwart-neu display-probe
+if display_reachable; then start_program; else play_tour; fi
