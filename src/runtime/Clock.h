@@ -2,8 +2,8 @@
 
 #include <QDateTime>
 
-/// The only source of today's date and the time. One at a time is in force for the whole program; the start-up
-/// puts the real one there, tests a fixed one.
+/// The only source of today's date and the time. One at a time is in force for the whole program; the
+/// start-up puts the real one there, tests a fixed one.
 class Clock {
 public:
     virtual ~Clock() = default;

@@ -7,4 +7,7 @@
 
 /// What the code page lacks becomes "?", one for each character (a surrogate pair is one).
 QByteArray toWindows1252(const QString& text);
+
+/// Every byte has a character; the five bytes that the code page leaves undefined become the control
+/// characters of the same number, and toWindows1252 turns them back.
 QString fromWindows1252(const QByteArray& bytes);

@@ -1,0 +1,54 @@
+#include "CodePage.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+
+namespace {
+
+// Qt leaves all but the Unicode encodings and Latin-1 to libraries that need not be there at run time. The
+// code page is Latin-1 but for these 32 places. The five that it leaves undefined stand for themselves, so
+// that no byte of a file is lost on the way in and out again.
+constexpr unsigned firstSpecial = 0x80;
+constexpr std::array<char16_t, 32> specials = {
+    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+
+constexpr bool isSpecialByte(unsigned byte) {
+    return byte >= firstSpecial && byte < firstSpecial + specials.size();
+}
+
+std::optional<char> byteOf(char16_t sign) {
+    if (sign <= 0xFF && !isSpecialByte(sign)) return static_cast<char>(sign);
+    const auto place = std::find(specials.begin(), specials.end(), sign);
+    if (place == specials.end()) return std::nullopt;
+    return static_cast<char>(firstSpecial + static_cast<unsigned>(place - specials.begin()));
+}
+
+char16_t signOf(char byte) {
+    const auto code = static_cast<unsigned char>(byte);
+    return isSpecialByte(code) ? specials[code - firstSpecial] : char16_t{code};
+}
+
+bool isPairAt(const QString& text, qsizetype place) {
+    return text.at(place).isHighSurrogate() && place + 1 < text.size() && text.at(place + 1).isLowSurrogate();
+}
+
+} // namespace
+
+QByteArray toWindows1252(const QString& text) {
+    QByteArray bytes;
+    bytes.reserve(text.size());
+    for (qsizetype place = 0; place < text.size(); ++place) {
+        bytes.append(byteOf(text.at(place).unicode()).value_or('?'));
+        if (isPairAt(text, place)) ++place;
+    }
+    return bytes;
+}
+
+QString fromWindows1252(const QByteArray& bytes) {
+    QString text(bytes.size(), Qt::Uninitialized);
+    std::transform(bytes.begin(), bytes.end(), text.begin(), [](char byte) { return QChar(signOf(byte)); });
+    return text;
+}

@@ -1,0 +1,93 @@
+#include "Conversions.h"
+
+#include "DateText.h"
+#include "NumberText.h"
+#include "RuntimeError.h"
+
+#include <cmath>
+#include <limits>
+
+namespace {
+
+double numberOf(const QString& text) {
+    const auto number = numberFromText(text);
+    if (!number) throw runtimeError(13);
+    if (std::isinf(*number)) throw runtimeError(6);
+    return *number;
+}
+
+template<typename Whole>
+Whole rounded(const Value& value) {
+    // Nobody changes the rounding mode, and its default is half to even.
+    const double whole = std::nearbyint(CDbl(value));
+    const bool fits =
+        whole >= std::numeric_limits<Whole>::min() && whole <= std::numeric_limits<Whole>::max();
+    if (!fits) throw runtimeError(6);
+    return static_cast<Whole>(whole);
+}
+
+Date dateFromDays(double days) {
+    const Date date{days};
+    if (!date.toQDate().isValid()) throw runtimeError(6);
+    return date;
+}
+
+} // namespace
+
+qint32 CLng(const Value& value) { return rounded<qint32>(value); }
+
+qint16 CInt(const Value& value) { return rounded<qint16>(value); }
+
+double CDbl(const Value& value) {
+    switch (value.kind()) {
+    case Value::Kind::Null:
+        break;
+    case Value::Kind::Boolean:
+        return value.boolean() ? -1 : 0;
+    case Value::Kind::Long:
+        return value.number();
+    case Value::Kind::Double:
+        return value.real();
+    case Value::Kind::Date:
+        return value.date().days;
+    case Value::Kind::Text:
+        return numberOf(value.text());
+    }
+    throw runtimeError(94);
+}
+
+QString CStr(const Value& value) {
+    switch (value.kind()) {
+    case Value::Kind::Null:
+        break;
+    case Value::Kind::Boolean:
+        return value.boolean() ? QStringLiteral("Wahr") : QStringLiteral("Falsch");
+    case Value::Kind::Long:
+        return QString::number(value.number());
+    case Value::Kind::Double:
+        return numberText(value.real());
+    case Value::Kind::Date:
+        return dateText(value.date());
+    case Value::Kind::Text:
+        return value.text();
+    }
+    throw runtimeError(94);
+}
+
+Date CDate(const Value& value) {
+    if (value.kind() != Value::Kind::Text) return dateFromDays(CDbl(value));
+    const auto date = dateFromText(value.text());
+    if (!date) throw runtimeError(13);
+    return *date;
+}
+
+bool IsDate(const Value& value) {
+    if (value.kind() == Value::Kind::Text) return dateFromText(value.text()).has_value();
+    return value.kind() == Value::Kind::Date;
+}
+
+bool IsNumeric(const Value& value) {
+    if (value.kind() != Value::Kind::Text) return !value.isNull();
+    const auto number = numberFromText(value.text());
+    return number && std::isfinite(*number);
+}

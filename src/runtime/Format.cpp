@@ -1,0 +1,87 @@
+#include "Format.h"
+
+#include "Conversions.h"
+#include "DateText.h"
+#include "NumberPattern.h"
+#include "NumberText.h"
+#include "RuntimeError.h"
+
+#include <cmath>
+#include <optional>
+
+namespace {
+
+bool isDatePlace(QChar sign) { return sign == u'd' || sign == u'm' || sign == u'M' || sign == u'y'; }
+
+/// The first sign that is a place decides: of a date, or of a number ("0 km").
+bool isForDates(QStringView pattern) {
+    for (qsizetype i = 0; i < pattern.size(); ++i) {
+        if (pattern.at(i) == u'\\')
+            ++i;
+        else if (isDatePlace(pattern.at(i)))
+            return true;
+        else if (pattern.at(i) == u'0' || pattern.at(i) == u'#')
+            return false;
+    }
+    return false;
+}
+
+std::optional<double> finite(std::optional<double> number) {
+    return number && std::isfinite(*number) ? number : std::nullopt;
+}
+
+/// What can be read both ways ("1.2") is what the pattern is for. Nothing if it is neither.
+std::optional<double> numberIn(const QString& text, bool preferDate) {
+    const auto date = dateFromText(text);
+    if (date && preferDate) return date->days;
+    if (const auto number = finite(numberFromText(text))) return number;
+    return date ? std::optional(date->days) : std::nullopt;
+}
+
+QString padded(int number, qsizetype width) { return QString::number(number).rightJustified(width, u'0'); }
+
+QString placeText(QDate day, QChar place, qsizetype length) {
+    if (place == u'd') return padded(day.day(), length);
+    if (place == u'y') return length > 2 ? padded(day.year(), 4) : padded(day.year() % 100, 2);
+    return padded(day.month(), length);
+}
+
+qsizetype lengthOfPlace(QStringView pattern) {
+    qsizetype length = 1;
+    const qsizetype longest = pattern.front() == u'y' ? 4 : 2;
+    while (length < pattern.size() && length < longest && pattern.at(length) == pattern.front()) ++length;
+    return length;
+}
+
+QString dateInPattern(QDate day, QStringView pattern) {
+    QString text;
+    while (!pattern.isEmpty()) {
+        const auto length = isDatePlace(pattern.front()) ? lengthOfPlace(pattern) : 1;
+        if (isDatePlace(pattern.front())) {
+            text += placeText(day, pattern.front(), length);
+        } else {
+            if (pattern.front() == u'\\' && pattern.size() > 1) pattern = pattern.sliced(1);
+            text += pattern.front();
+        }
+        pattern = pattern.sliced(length);
+    }
+    return text;
+}
+
+} // namespace
+
+QString Format(const Value& value, const QString& pattern) {
+    if (value.isNull()) return {};
+    if (pattern.isEmpty()) return CStr(value);
+
+    const bool isText = value.kind() == Value::Kind::Text;
+    const bool forDates = isForDates(pattern);
+    const auto number = isText ? numberIn(value.text(), forDates) : std::optional(CDbl(value));
+    if (!number) return value.text();
+    if (!forDates) return NumberPattern(pattern).textOf(*number);
+
+    const QDate day = Date{*number}.toQDate();
+    if (day.isValid()) return dateInPattern(day, pattern);
+    if (isText) return value.text();
+    throw runtimeError(6);
+}

@@ -1,0 +1,135 @@
+#include "NumberText.h"
+
+#include "DecimalDigits.h"
+
+#include <QByteArray>
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+namespace {
+
+void appendDigits(QString& text, const DecimalDigits& number, int fromPlace, int toPlace) {
+    for (int place = fromPlace; place >= toPlace; --place) text += QLatin1Char(number.digitAt(place));
+}
+
+QString plainText(const DecimalDigits& number) {
+    QString text;
+    appendDigits(text, number, std::max(number.integerDigits(), 1) - 1, 0);
+    if (number.decimals() == 0) return text;
+    text += u',';
+    appendDigits(text, number, -1, -number.decimals());
+    return text;
+}
+
+QString exponentText(const DecimalDigits& number) {
+    const int exponent = number.integerDigits() - 1;
+    QString text =
+        QString::fromLatin1(number.digits().data(), static_cast<qsizetype>(number.digits().size()));
+    if (text.size() > 1) text.insert(1, u',');
+    text += exponent < 0 ? u"E-" : u"E+";
+    if (std::abs(exponent) < 10) text += u'0';
+    return text + QString::number(std::abs(exponent));
+}
+
+QString unlimitedText(double number) {
+    if (std::isnan(number)) return QStringLiteral("-1,#IND");
+    return number < 0 ? QStringLiteral("-1,#INF") : QStringLiteral("1,#INF");
+}
+
+bool isDigit(QChar sign) { return sign >= u'0' && sign <= u'9'; }
+
+/// Reads a number from the front to the end and writes it down as C++ would have it.
+class NumberReader {
+public:
+    explicit NumberReader(QStringView text)
+        : m_rest(text) {}
+
+    bool read() {
+        if (takeAny(u"-"))
+            m_plain += '-';
+        else
+            takeAny(u"+");
+        return readMantissa() && readExponent() && m_rest.isEmpty();
+    }
+    const QByteArray& plain() const { return m_plain; }
+
+private:
+    bool takeAny(QStringView signs) {
+        if (m_rest.isEmpty() || !signs.contains(m_rest.front())) return false;
+        m_rest = m_rest.sliced(1);
+        return true;
+    }
+
+    bool readDigits() {
+        const auto before = m_rest.size();
+        while (!m_rest.isEmpty() && isDigit(m_rest.front())) {
+            m_plain += static_cast<char>(m_rest.front().unicode());
+            m_rest = m_rest.sliced(1);
+        }
+        return m_rest.size() < before;
+    }
+
+    bool readMantissa() {
+        const bool whole = readDigits();
+        while (whole && takeAny(u"."))
+            if (!readDigits()) return false;
+        if (!takeAny(u",")) return whole;
+        // A comma may end the number or begin it, but not stand alone.
+        if (!whole) m_plain += '0';
+        m_plain += '.';
+        const bool fraction = readDigits();
+        if (!fraction) m_plain += '0';
+        return whole || fraction;
+    }
+
+    bool readExponent() {
+        if (!takeAny(u"eE")) return true;
+        m_plain += 'e';
+        if (takeAny(u"-"))
+            m_plain += '-';
+        else
+            takeAny(u"+");
+        return readDigits();
+    }
+
+    QStringView m_rest;
+    QByteArray m_plain;
+};
+
+/// For a number that is either far too large or far too small for a double.
+bool isTooSmall(const QByteArray& plain) {
+    const auto mantissaEnd = plain.contains('e') ? plain.indexOf('e') : plain.size();
+    const auto point = plain.contains('.') ? plain.indexOf('.') : mantissaEnd;
+    const auto* first = std::find_if(plain.begin(), plain.end(), [](char sign) { return sign > '0'; });
+    const char* exponentText = plain.begin() + std::min(mantissaEnd + 1, plain.size());
+
+    qint64 exponent = 0;
+    const auto read = std::from_chars(exponentText, plain.end(), exponent);
+    if (read.ec == std::errc::result_out_of_range) return *exponentText == '-';
+    return exponent < first - plain.begin() - point;
+}
+
+double valueOf(const QByteArray& plain) {
+    double value = 0;
+    const auto read = std::from_chars(plain.begin(), plain.end(), value);
+    if (read.ec != std::errc::result_out_of_range) return value;
+    return isTooSmall(plain) ? 0 : std::numeric_limits<double>::infinity();
+}
+
+} // namespace
+
+QString numberText(double number) {
+    if (!std::isfinite(number)) return unlimitedText(number);
+    const DecimalDigits digits(number);
+    const bool plain = digits.integerDigits() > -4 && digits.integerDigits() <= 15;
+    const QString text = plain ? plainText(digits) : exponentText(digits);
+    return digits.isNegative() ? u'-' + text : text;
+}
+
+std::optional<double> numberFromText(QStringView text) {
+    NumberReader reader(text.trimmed());
+    if (!reader.read()) return std::nullopt;
+    return valueOf(reader.plain());
+}

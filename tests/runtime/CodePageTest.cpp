@@ -1,0 +1,27 @@
+#include "CodePage.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+TEST(CodePage, WritesGermanTextOneByteACharacter) {
+    EXPECT_EQ(toWindows1252(QStringLiteral("Äöüß €")), QByteArray("\xC4\xF6\xFC\xDF \x80"));
+    EXPECT_EQ(toWindows1252(QStringLiteral("„Žuža“ – Œ…")), QByteArray("\x84\x8Eu\x9E"
+                                                                       "a\x93 \x96 \x8C\x85"));
+}
+
+TEST(CodePage, WritesOneQuestionMarkForWhatItLacks) {
+    EXPECT_EQ(toWindows1252(QStringLiteral("a\u0141\U0001F41Fb")), QByteArray("a??b"));
+    EXPECT_EQ(toWindows1252(QString(QChar(0xD83D)) + u'x'), QByteArray("?x"));
+    EXPECT_EQ(toWindows1252(QString(QChar(0xDC1F)) + QChar(0xD83D)), QByteArray("??"));
+    EXPECT_EQ(toWindows1252(QString(QChar(0x0080))), QByteArray("?"));
+}
+
+TEST(CodePage, ReadsEveryByteAndWritesItBack) {
+    QByteArray all;
+    for (int byte = 0; byte < 256; ++byte) all += static_cast<char>(byte);
+    EXPECT_EQ(toWindows1252(fromWindows1252(all)), all);
+    EXPECT_EQ(fromWindows1252(QByteArray("\x80\x99\xFC")), QStringLiteral("€™ü"));
+}
+
+} // namespace

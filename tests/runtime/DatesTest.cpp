@@ -1,0 +1,181 @@
+#include "Clock.h"
+#include "Conversions.h"
+#include "ErrorNumber.h"
+
+#include <gtest/gtest.h>
+#include <limits>
+
+namespace {
+
+class FixedClock final : public Clock {
+public:
+    explicit FixedClock(QDateTime moment)
+        : m_moment(std::move(moment)) {}
+    QDateTime now() const override { return m_moment; }
+
+private:
+    QDateTime m_moment;
+};
+
+/// All dates without a year are read in 2005, no leap year.
+class Dates : public testing::Test {
+protected:
+    Dates() { setClock(&m_clock); }
+    ~Dates() override { setClock(nullptr); }
+
+private:
+    FixedClock m_clock{QDateTime(QDate(2005, 6, 15), QTime(23, 59, 59))};
+};
+
+TEST_F(Dates, AreReadAsGermansTypeThem) {
+    const struct {
+        const char* text;
+        QDate day;
+    } cases[] = {
+        {"24.12.1970", {1970, 12, 24}},
+        {" 1.2.05 ", {2005, 2, 1}},
+        {"01.02.2005", {2005, 2, 1}},
+        {"1-2-2005", {2005, 2, 1}},
+        {"1/2/2005", {2005, 2, 1}},
+        {"1. 2. 2005", {2005, 2, 1}},
+        {"1.1.29", {2029, 1, 1}},
+        {"1.1.30", {1930, 1, 1}},
+        {"1.1.5", {2005, 1, 1}},
+        {"1.2.", {2005, 2, 1}},
+        {"1.2", {2005, 2, 1}},
+        {"29.02.2004", {2004, 2, 29}},
+        {"1970-12-24", {1970, 12, 24}},
+        {"12.1970", {1970, 12, 1}},
+        {"24. Dezember 1970", {1970, 12, 24}},
+        {"24-dez-70", {1970, 12, 24}},
+        {"3 MÄRZ 2001", {2001, 3, 3}},
+        {"3. Mrz.", {2005, 3, 3}},
+        {"Dezember 1970", {1970, 12, 1}},
+        {"2/25/2005", {2005, 2, 25}},
+        {"12.24.1970", {1970, 12, 24}},
+        {"1.1.0100", {100, 1, 1}},
+        {"31.12.9999", {9999, 12, 31}},
+    };
+    for (const auto& [text, day] : cases) {
+        EXPECT_TRUE(IsDate(QString::fromUtf8(text))) << text;
+        EXPECT_TRUE(IsDate(QString::fromUtf8(text)) && CDate(QString::fromUtf8(text)) == Date::fromQDate(day))
+            << text;
+    }
+}
+
+TEST_F(Dates, AreNotReadFromOtherText) {
+    for (const auto* text : {"",
+                             "  ",
+                             ".",
+                             "5",
+                             "38353",
+                             "31.02.",
+                             "31.02.2005",
+                             "31.02.05",
+                             "29.02.",
+                             "29.02.2005",
+                             "30.2",
+                             "13.13.2005",
+                             "0.1.2005",
+                             "1.0.2005",
+                             "32.1.2005",
+                             "1.1.0000",
+                             "1.1.099",
+                             "1.1.10000",
+                             "1.2.3.4",
+                             "1.2.2005.",
+                             "1/2/",
+                             "1.2/2005",
+                             "1..2",
+                             "001.2.2005",
+                             "1 2 2005",
+                             "-1.2.2005",
+                             "1.2.2005x",
+                             "24. Xember 1970",
+                             "24. De 1970",
+                             "Dez. 24 1970",
+                             "24. Dezember 1970.",
+                             "13.1970",
+                             "1,2,2005",
+                             "1.2.2005 8",
+                             "\u0661.\u0662.2005",
+                             "99999999999999999999.1.2005",
+                             "Anglerverein"}) {
+        EXPECT_FALSE(IsDate(QString::fromUtf8(text))) << text;
+        EXPECT_EQ(errorNumberOf([&] { CDate(QString::fromUtf8(text)); }), 13) << text;
+    }
+    EXPECT_FALSE(IsDate(38353.0));
+    EXPECT_TRUE(IsDate(Date{38353}));
+}
+
+TEST_F(Dates, OfAnyLengthAreRefusedWithoutACrash) {
+    for (const auto* piece : {"9", ".", ":", " ", "1.", "x", "\U0001F41F"})
+        EXPECT_FALSE(IsDate(QString::fromUtf8(piece).repeated(50'000)));
+    EXPECT_FALSE(IsDate(QString(QChar(0xD83D))));
+}
+
+TEST_F(Dates, TakeATimeBehindThemOrAlone) {
+    EXPECT_EQ(CDate(u"01.01.2005 18:00").days, 38353.75);
+    EXPECT_EQ(CDate(u"1.1.  6:00:00").days, 38353.25);
+    EXPECT_EQ(CDate(u"12:00").days, 0.5);
+    EXPECT_EQ(CDate(u"29.12.1899 6:00").days, -1.25);
+    for (const auto* text : {"24:00", "12:60", "12:00:60", "12:", ":30", "12:30:", "1:2:3:4", "012:30",
+                             "31.02.2005 12:00", "12:00 1.1.2005", "12:Mai"})
+        EXPECT_FALSE(IsDate(QString::fromUtf8(text))) << text;
+}
+
+TEST_F(Dates, HaveAnEmptyOneThatIsWrittenAsMidnight) {
+    for (const auto* text : {"00:00:0000", "00:00:00", "0:00"}) {
+        EXPECT_TRUE(IsDate(QString::fromUtf8(text)));
+        EXPECT_TRUE(CDate(QString::fromUtf8(text)).isEmpty());
+    }
+    EXPECT_EQ(CStr(Date()).toStdString(), "00:00:00");
+    EXPECT_EQ(Date::fromQDate(QDate(1899, 12, 30)), Date());
+    EXPECT_EQ(Date::fromQDate(QDate()), Date());
+}
+
+TEST_F(Dates, AreWrittenInTheShortGermanForm) {
+    const struct {
+        double days;
+        const char* text;
+    } cases[] = {
+        {38353, "01.01.2005"},   {38353.75, "01.01.2005 18:00:00"}, {0.25, "06:00:00"},
+        {-1, "29.12.1899"},      {-1.25, "29.12.1899 06:00:00"},    {38353.9999999, "02.01.2005"},
+        {-657434, "01.01.0100"}, {2958465, "31.12.9999"},
+    };
+    for (const auto& [days, text] : cases) {
+        EXPECT_EQ(CStr(Date{days}).toStdString(), text);
+    }
+    EXPECT_EQ(CDate(CStr(Date{38353.75})), Date{38353.75});
+}
+
+TEST_F(Dates, OutsideTheCalendarAreOverflows) {
+    for (const double days :
+         {-657435.0, 2958466.0, 2958465.9999999, 1e300, -1e300, std::numeric_limits<double>::quiet_NaN(),
+          std::numeric_limits<double>::infinity()}) {
+        EXPECT_FALSE(Date{days}.toQDate().isValid()) << days;
+        EXPECT_FALSE(Date{days}.toQTime().isValid()) << days;
+        EXPECT_EQ(errorNumberOf([&] { CDate(days); }), 6) << days;
+        EXPECT_EQ(errorNumberOf([&] { CStr(Date{days}); }), 6) << days;
+    }
+    EXPECT_EQ(CDate(38353), Date{38353});
+}
+
+TEST_F(Dates, GoToTheCalendarAndBackOnEveryDay) {
+    for (QDate day(1582, 1, 1); day.year() < 2100; day = day.addDays(1)) {
+        const QTime time(23, 59, day.day());
+        const Date moment = Date::fromQDate(day, time);
+        ASSERT_EQ(moment.toQDate(), day);
+        ASSERT_EQ(moment.toQTime(), time);
+    }
+}
+
+TEST(SystemTime, IsBackWhenNoOtherClockIsInForce) {
+    const FixedClock fixed(QDateTime(QDate(2005, 6, 15), QTime(12, 0)));
+    setClock(&fixed);
+    EXPECT_EQ(today(), QDate(2005, 6, 15));
+    setClock(nullptr);
+    EXPECT_LT(qAbs(now().msecsTo(QDateTime::currentDateTime())), 60'000);
+}
+
+} // namespace
