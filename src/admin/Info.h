@@ -1,0 +1,32 @@
+#pragma once
+
+#include "Screen.h"
+
+class QGroupBox;
+class QLabel;
+class QPushButton;
+
+/// What the program is, and the club that uses it.
+class Info : public Screen {
+    Q_OBJECT
+
+public:
+    Info();
+
+    QLabel* lblTitle;
+    QLabel* lblDescription;
+    QGroupBox* fraVerein;
+    QLabel* lblVerein;
+    QLabel* lblStrasse;
+    QLabel* lblPLZ;
+    QLabel* lblOrt;
+    QLabel* lblTelefon;
+    QLabel* lblHersteller;
+    QLabel* lblRechte;
+    QPushButton* cmdSysInfo;
+    QPushButton* cmdOK;
+
+private:
+    QLabel* addValue(const QString& name);
+    void cmdOK_Click();
+};

@@ -1,0 +1,106 @@
+#include "System.h"
+
+#include "DataTable.h"
+#include "Face.h"
+#include "Heading.h"
+#include "Session.h"
+#include "TextBox.h"
+#include "Toolbar.h"
+#include "modRun.h"
+#include "modSystem.h"
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+
+System::System() : Screen(u"System"_qs, u"Systemparameter"_qs)
+{
+    Ueberschrift = new Heading(u"SYSTEMPARAMETER"_qs, this);
+    Toolbar1 = new Toolbar(this);
+    Toolbar1->addKey(u"tbSpeichern"_qs, u"&Speichern"_qs, u"Speichern"_qs, u"speichern"_qs);
+    Toolbar1->addSeparator();
+    Toolbar1->addKey(u"tbAnzLoeschen"_qs, u"&Anz. löschen"_qs, u"Anzeige löschen"_qs, u"anzeige-loeschen"_qs);
+    buildAddress();
+    buildGrid();
+    buildParameters();
+
+    QVBoxLayout* rest = Face::column(this, Ueberschrift, Toolbar1);
+    auto* halves = new QHBoxLayout;
+    halves->setSpacing(Face::gap);
+    halves->addWidget(Frame3, 1);
+    halves->addWidget(Frame1, 1);
+    rest->addLayout(halves);
+    rest->addWidget(Frame2, 1);
+
+    on(Toolbar1, &Toolbar::ButtonClick, [this](const QString& key) { Toolbar1_ButtonClick(key); });
+    on(tblSystem, &DataTable::OnGridCellOpen, [this](int row, int) { tblSystem_OnGridCellOpen(row); });
+    modRun::connectGridFocus(tblSystem);
+}
+
+void System::buildAddress()
+{
+    Frame3 = Face::frame(u"Frame3"_qs, u"Ihre Adressdaten..."_qs, this);
+    auto* form = new QGridLayout(Frame3);
+    const auto add = [&](const char16_t* name, const char16_t* text) {
+        auto* box = new TextBox(QString::fromUtf16(name), Frame3);
+        const int row = form->rowCount();
+        Face::addField(form, row, Face::label(u"lbl%1"_qs.arg(row), QString::fromUtf16(text), Frame3), box);
+        return box;
+    };
+    txtVerein = add(u"txtVerein", u"(Vereins-) Name:");
+    txtStrasse = add(u"txtStrasse", u"Strasse:");
+    txtPLZ = add(u"txtPLZ", u"PLZ:");
+    txtOrt = add(u"txtOrt", u"Ort:");
+    txtTelefon = add(u"txtTelefon", u"Telefon:");
+}
+
+void System::buildGrid()
+{
+    Frame2 = Face::frame(u"Frame2"_qs, u"Aktuelle Systemparameter..."_qs, this);
+    tblSystem = new DataTable(u"tblSystem"_qs, Frame2);
+    tblSystem->setColumns({{u"Parameter"_qs, 240}, {u"Wert"_qs, 120}});
+    auto* column = new QVBoxLayout(Frame2);
+    column->addWidget(tblSystem);
+}
+
+void System::buildParameters()
+{
+    Frame1 = Face::frame(u"Frame1"_qs, u"Systemparameter editieren..."_qs, this);
+    auto* form = new QGridLayout(Frame1);
+    const auto add = [&](int row, const char16_t* name, const char16_t* text) {
+        auto* box = new TextBox(QString::fromUtf16(name), Frame1);
+        // A refused key beeps and still goes into the box: a comma can be typed into the fee.
+        on(box, &TextBox::KeyPress, [](int code) { modRun::FilterZiffern(code); });
+        Face::addField(form, row, Face::label(u"lblParam%1"_qs.arg(row), QString::fromUtf16(text), Frame1), box);
+        return box;
+    };
+    txtJB = add(0, u"txtJB", u"Jahresbeitrag:");
+    txtFJahr = add(1, u"txtFJahr", u"Akt. Fangjahr:");
+    txtArbStd = add(2, u"txtArbStd", u"Arb.- Pflichtstunden:");
+    lblStd = Face::label(u"lblStd"_qs, u"Std."_qs, Frame1);
+    form->addWidget(lblStd, 2, 2);
+    form->setRowStretch(3, 1);
+}
+
+void System::Form_Deactivate() { modSystem::LeereParameter(); }
+
+void System::Toolbar1_ButtonClick(const QString& key)
+{
+    if (key == u"tbSpeichern"_qs) {
+        // Without a row opened, it is the address that the user has been working on.
+        if (session().Modus == u"EDIT"_qs) modSystem::UpdateParameter();
+        if (session().Modus == u"SAVE"_qs) modSystem::UpdateAdresse();
+    } else if (key == u"tbAnzLoeschen"_qs) {
+        modSystem::LeereParameter();
+    }
+    session().Modus = u"SAVE"_qs;
+}
+
+void System::tblSystem_OnGridCellOpen(int row)
+{
+    if (row < 0) return;
+    modSystem::LeereParameter();
+    modSystem::LadeParameter(row);
+    session().Modus = u"EDIT"_qs;
+    session().AktZeile = row;
+}

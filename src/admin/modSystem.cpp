@@ -1,0 +1,128 @@
+#include "modSystem.h"
+
+#include "Conversions.h"
+#include "DataTable.h"
+#include "ErrorTail.h"
+#include "Format.h"
+#include "Info.h"
+#include "Recordset.h"
+#include "Screens.h"
+#include "Session.h"
+#include "System.h"
+#include "TextBox.h"
+
+#include <QLabel>
+#include <array>
+
+namespace modSystem {
+
+namespace {
+
+const QString twoDecimals = u"###0.00"_qs;
+
+/// A line of the address: its field, its box, and the label of Info that repeats it.
+struct AddressLine {
+    QString field;
+    TextBox* box;
+    QLabel* label;
+};
+
+std::array<AddressLine, 5> address()
+{
+    System& form = screen<System>();
+    Info& info = screen<Info>();
+    return {{{u"Verein"_qs, form.txtVerein, info.lblVerein},
+             {u"Strasse"_qs, form.txtStrasse, info.lblStrasse},
+             {u"PLZ"_qs, form.txtPLZ, info.lblPLZ},
+             {u"Ort"_qs, form.txtOrt, info.lblOrt},
+             {u"Tel"_qs, form.txtTelefon, info.lblTelefon}}};
+}
+
+struct Parameter {
+    QString field;
+    TextBox* box;
+    QString label;
+};
+
+void writeParameter(Recordset& parameter, const Parameter& which)
+{
+    const QString text = which.box->Text();
+    if (text.isEmpty()) return;
+    parameter.Collect(which.field, CLng(text));
+    DataTable* grid = screen<System>().tblSystem;
+    int row = 0;
+    if (grid->find(0, row, which.label) >= 0) grid->setCell(row, 1, text);
+}
+
+void showAddress(ErrorTail& step, const Recordset& parameter)
+{
+    for (const AddressLine& line : address()) {
+        const auto text = [&] { return CStr(parameter.Fields(line.field).Value()); };
+        step([&] { line.label->setText(text()); });
+        step([&] { line.box->setText(text()); });
+    }
+}
+
+} // namespace
+
+QString labelJahresbeitrag() { return u"Jahresbeitrag"_qs; }
+QString labelFangjahr() { return u"akt. Fangjahr"_qs; }
+QString labelPflichtStd() { return u"Pflicht-Std. (Arbeit)"_qs; }
+
+void loadTblSystem()
+{
+    withErrorTail(u"modStart"_qs, u"loadTblSystem"_qs, [](ErrorTail& step) {
+        Recordset parameter;
+        DataTable* grid = screen<System>().tblSystem;
+        step([&] { parameter = session().AktDatenbank.OpenRecordset(u"SELECT * FROM System"_qs, dbOpenDynaset); });
+        if (step.test([&] { return parameter.RecordCount() != 0; })) step([&] { parameter.MoveFirst(); });
+        while (step.test([&] { return !parameter.Eof(); })) {
+            const auto value = [&](const QString& field) { return parameter.Fields(field).Value(); };
+            step([&] { grid->appendRow({labelJahresbeitrag(), Format(value(u"JBeitrag"_qs), twoDecimals)}); });
+            step([&] { grid->appendRow({labelFangjahr(), value(u"FJahr"_qs)}); });
+            step([&] { grid->appendRow({labelPflichtStd(), Format(value(u"PflichtStd"_qs), twoDecimals)}); });
+            showAddress(step, parameter);
+            step([&] { parameter.MoveNext(); });
+        }
+        step([&] { parameter.Close(); });
+    });
+}
+
+void UpdateParameter()
+{
+    System& form = screen<System>();
+    Recordset parameter = session().AktDatenbank.OpenRecordset(u"System"_qs, dbOpenTable);
+    parameter.Edit();
+    writeParameter(parameter, {u"FJahr"_qs, form.txtFJahr, labelFangjahr()});
+    writeParameter(parameter, {u"JBeitrag"_qs, form.txtJB, labelJahresbeitrag()});
+    writeParameter(parameter, {u"PflichtStd"_qs, form.txtArbStd, labelPflichtStd()});
+    parameter.Update();
+    parameter.Close();
+    LeereParameter();
+}
+
+void UpdateAdresse()
+{
+    Recordset parameter = session().AktDatenbank.OpenRecordset(u"System"_qs, dbOpenTable);
+    parameter.Edit();
+    for (const AddressLine& line : address()) parameter.Collect(line.field, line.box->Text());
+    parameter.Update();
+    parameter.Close();
+    for (const AddressLine& line : address()) line.label->setText(line.box->Text());
+}
+
+void LeereParameter()
+{
+    System& form = screen<System>();
+    for (TextBox* box : {form.txtJB, form.txtFJahr, form.txtArbStd}) box->setText(QString());
+}
+
+void LadeParameter(int row)
+{
+    System& form = screen<System>();
+    const std::array<TextBox*, 3> boxes = {form.txtJB, form.txtFJahr, form.txtArbStd};
+    if (row < static_cast<int>(boxes.size()))
+        boxes[static_cast<std::size_t>(row)]->setText(form.tblSystem->cellText(row, 1));
+}
+
+} // namespace modSystem

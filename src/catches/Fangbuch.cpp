@@ -1,0 +1,140 @@
+#include "Fangbuch.h"
+
+#include "Clock.h"
+#include "ComboBox.h"
+#include "Conversions.h"
+#include "DataTable.h"
+#include "MemoBox.h"
+#include "MsgBox.h"
+#include "ProgressBar.h"
+#include "Screens.h"
+#include "Session.h"
+#include "System.h"
+#include "TextBox.h"
+#include "Toolbar.h"
+#include "ValueLabel.h"
+#include "modFangbuch.h"
+#include "modRun.h"
+
+// The face of the screen is built in FangbuchFace.cpp; here is what it does.
+
+void Fangbuch::Form_Load()
+{
+    modFangbuch::InitFangbuch();
+    modFangbuch::loadcboFArt(cboFArt);
+    modFangbuch::loadcboGName(cboGName);
+    modFangbuch::loadcboFJahr(cboFJahr);
+    cboFJahr->setText(QString::number(session().AktJahr));
+    cboSelMonat->setText(session().AktMonat);
+    zeigeAnzahlen();
+}
+
+void Fangbuch::Form_Activate()
+{
+    // A catch that has just been opened from the evaluation must not lose what it shows.
+    if (session().Modus != u"SAVE"_qs) return;
+    zeigeAnzahlen();
+    modFangbuch::loadcboFArt(cboFArt);
+    modFangbuch::loadcboGName(cboGName);
+    cboFArt->setFocus();
+}
+
+void Fangbuch::Form_Deactivate() { modFangbuch::FangAnzeigeLoeschen(); }
+
+void Fangbuch::zeigeAnzahlen()
+{
+    lblAnzahl->setCaption(QString::number(tblFList->rowCount()));
+    lblGesAnz->setCaption(modFangbuch::Ermittle_DSAnzahl());
+}
+
+bool Fangbuch::Form_KeyDown(int key, Qt::KeyboardModifiers)
+{
+    switch (key) {
+    case Qt::Key_F2: modFangbuch::FangAnzeigeLoeschen(); break;
+    case Qt::Key_F3: Speichern(); break;
+    case Qt::Key_F8: Loeschen(); break;
+    default: return false;
+    }
+    session().Modus = u"SAVE"_qs;
+    return true;
+}
+
+void Fangbuch::Toolbar1_ButtonClick(const QString& key)
+{
+    if (key == u"tbSpeichern"_qs) Speichern();
+    if (key == u"tbLoeschen"_qs) Loeschen();
+    if (key == u"tbAnzLoeschen"_qs) modFangbuch::FangAnzeigeLoeschen();
+    session().Modus = u"SAVE"_qs;
+}
+
+void Fangbuch::Speichern()
+{
+    Session& s = session();
+    if (s.Modus == u"EDIT"_qs && modFangbuch::FangEingabeVollstaendig()) modFangbuch::UpdateFang(s.AktZeile);
+    if (s.Modus == u"SAVE"_qs && modFangbuch::FangEingabeVollstaendig()) modFangbuch::SpeicherFang();
+}
+
+void Fangbuch::Loeschen()
+{
+    Session& s = session();
+    if (s.Modus != u"EDIT"_qs) return;
+    s.MsgAntwort = MsgBox(u"ACHTUNG: Fangeintrag wirklich löschen ?"_qs, vbYesNo);
+    if (s.MsgAntwort == vbYes)
+        modFangbuch::LoescheFang(s.AktZeile);
+    else
+        modFangbuch::FangAnzeigeLoeschen();
+}
+
+void Fangbuch::Auswahl_Click(bool jahr)
+{
+    Session& s = session();
+    if (s.TabelleLaedt) return;
+    // The load takes year and month from the session; they are lent to it and put back.
+    s.AktMonatNr = modRun::ErmittleMonatsNr(cboSelMonat->Text());
+    s.AktJahr = CInt(cboFJahr->Text());
+    modFangbuch::loadTblFList(pb);
+    s.AktMonatNr = static_cast<qint16>(today().month());
+    s.AktJahr = CInt(screen<System>().tblSystem->cellText(1, 1));
+    lblAnzahl->setCaption(QString::number(tblFList->rowCount()));
+    if (jahr) lblGesAnz->setCaption(modFangbuch::Ermittle_DSAnzahl());
+}
+
+void Fangbuch::txtMonNr_KeyPress() { ++m_tastenZaehler; }
+
+void Fangbuch::txtMonNr_KeyDone()
+{
+    constexpr int keysOfAMonth = 2;
+    if (m_tastenZaehler == keysOfAMonth) txtNotiz->setFocus();
+}
+
+void Fangbuch::txtMonNr_LostFocus()
+{
+    constexpr int limit = 2;
+    if (!txtMonNr->Text().isEmpty() && txtMonNr->Text().length() <= limit) pruefeMonat();
+    m_tastenZaehler = 0;
+}
+
+void Fangbuch::pruefeMonat()
+{
+    const QString text = txtMonNr->Text();
+    // What was pasted past the key filter and is no number is no month either.
+    const qint32 month = IsNumeric(text) ? CLng(text) : 0;
+    if (text.length() == 1 && month >= 1 && month <= 9) {
+        txtMonNr->setText(u"0"_qs + text);
+        txtFangMonat->setText(modRun::ErmittleMonatsname(month));
+    } else if (month < 1 || month > 12) {
+        MsgBox(u"ACHTUNG: Unzulässige Monatsangabe, die Eingabe wird gelöscht !"_qs, vbInformation);
+        txtMonNr->setText(QString());
+    } else {
+        txtFangMonat->setText(modRun::ErmittleMonatsname(month));
+    }
+}
+
+void Fangbuch::tblFList_OnGridCellOpen(int row)
+{
+    if (row < 0) return;
+    modFangbuch::FangAnzeigeLoeschen();
+    modFangbuch::loadFang(tblFList, row);
+    session().Modus = u"EDIT"_qs;
+    session().AktZeile = row;
+}

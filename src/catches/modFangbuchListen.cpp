@@ -1,0 +1,160 @@
+#include "ComboBox.h"
+#include "Basis.h"
+#include "Conversions.h"
+#include "DataTable.h"
+#include "ErrorTail.h"
+#include "Fangbuch.h"
+#include "MsgBox.h"
+#include "ProgressBar.h"
+#include "Recordset.h"
+#include "Screens.h"
+#include "Session.h"
+#include "SqlText.h"
+#include "modFangbuch.h"
+#include "modRun.h"
+
+// The lists of the catch book: its grid, the combo boxes, and the way from a name to its number and back.
+
+namespace modFangbuch {
+
+namespace {
+
+Recordset abfrage(const QString& select) { return session().AktDatenbank.OpenRecordset(select, dbOpenDynaset); }
+
+/// The entries of the month, streamed from the file into the grid.
+void fuelleListe(ErrorTail& step, Recordset& liste, DataTable* grid, ProgressBar* pb)
+{
+    qint64 count = 0;
+    step([&] { liste.MoveFirst(); });
+    while (step.test([&] { return !liste.Eof(); })) {
+        step([&] {
+            grid->appendRow({liste.Collect(u"FangNr"_qs), liste.Collect(u"FName"_qs), liste.Collect(u"GName"_qs),
+                             modRun::ErmittleMonatsname(CLng(liste.Collect(u"FangMonat"_qs))),
+                             liste.Collect(u"Anzahl"_qs), liste.Collect(u"Gewicht"_qs)});
+        });
+        step([&] { liste.MoveNext(); });
+        pb->setProgress(++count);
+    }
+}
+
+} // namespace
+
+void loadTblFList(ProgressBar* pb)
+{
+    withErrorTail(u"modStart"_qs, u"loadTblFList"_qs, [pb](ErrorTail& step) {
+        const QString jahr = QString::number(session().AktJahr);
+        const QString monat = QString::number(session().AktMonatNr);
+        Recordset liste;
+        Recordset anzahl;
+        step([&] {
+            liste = abfrage(u"SELECT fa.FangNr, f.FName, g.GName, fa.FangMonat, fa.Anzahl, "
+                            u"fa.Gewicht FROM Fang fa , Fisch f, Gewaesser g WHERE fa.FangJahr = "_qs +
+                            jahr + u"AND fa.FangMonat = "_qs + monat +
+                            u" AND fa.FischNr = f.FNr AND fa.GNr = g.GNr"_qs);
+        });
+        step([&] {
+            anzahl = abfrage(u"SELECT COUNT(fa.FangNr) FROM Fang fa, Fisch f, Gewaesser g WHERE "
+                             u"fa.FangJahr = "_qs +
+                             jahr + u" AND fa.FangMonat = "_qs + monat +
+                             u" AND fa.FischNr = f.FNr AND fa.GNr = g.GNr"_qs);
+        });
+        pb->show();
+        step([&] {
+            const Value count = anzahl.Collect(u"Expr1000"_qs);
+            pb->setMax(count.isNull() ? 1 : CLng(count));
+        });
+        DataTable* grid = screen<Fangbuch>().tblFList;
+        step([&] { grid->clearRows(); });
+        if (step.test([&] { return liste.RecordCount() != 0; }))
+            fuelleListe(step, liste, grid, pb);
+        else if (!session().TabelleLaedt)
+            MsgBox(u"Keine Einträge für diesen Monat vorhanden !"_qs, vbInformation);
+        pb->hide();
+        step([&] { liste.Close(); });
+        step([&] { anzahl.Close(); });
+    });
+}
+
+namespace {
+
+/// Lowest or highest year in the catch book; AktJahr where there is none.
+qint32 grenzjahr(ErrorTail& step, const QString& select)
+{
+    qint32 jahr = session().AktJahr;
+    Recordset fang;
+    step([&] { fang = abfrage(select); });
+    step([&] {
+        const Value value = fang.RecordCount() == 0 ? Value() : fang.Collect(u"Expr1000"_qs);
+        if (!value.isNull() && CLng(value) != 0) jahr = CLng(value);
+    });
+    step([&] { fang.Close(); });
+    return jahr;
+}
+
+void fuelleAusGrid(ComboBox* combo, const DataTable* grid)
+{
+    combo->Clear();
+    for (int row = 0; row < grid->rowCount(); ++row) combo->AddItem(grid->cellText(row, 1));
+}
+
+/// One field of the first row of a query, or `otherwise` if it has no row.
+Value schlageNach(const QString& routine, const QString& field, const Value& otherwise,
+                  const std::function<QString()>& select)
+{
+    Value result = otherwise;
+    withErrorTail(u"modFangbuch"_qs, routine, [&](ErrorTail& step) {
+        Recordset satz;
+        step([&] { satz = abfrage(select()); });
+        if (step.test([&] { return satz.RecordCount() == 1; })) step([&] { result = satz.Collect(field); });
+        step([&] { satz.Close(); });
+    });
+    return result;
+}
+
+} // namespace
+
+void loadcboFJahr(ComboBox* combo)
+{
+    withErrorTail(u"modFAuswert"_qs, u"loadcboFJahr"_qs, [combo](ErrorTail& step) {
+        const qint32 aktJahr = session().AktJahr;
+        const qint32 lowest = grenzjahr(step, u"SELECT MIN(FangJahr) FROM Fang"_qs);
+        const qint32 highest = grenzjahr(step, u"SELECT MAX(FangJahr) FROM Fang"_qs);
+        const auto add = [&](qint32 jahr) { combo->AddItem(QString::number(jahr)); };
+        for (qint32 jahr = lowest; jahr <= highest; ++jahr) add(jahr);
+        if (highest < aktJahr) add(aktJahr);
+        for (qint32 jahr = aktJahr; jahr < lowest; ++jahr) add(jahr);
+    });
+}
+
+void loadcboFArt(ComboBox* combo) { fuelleAusGrid(combo, screen<Basis>().tblFBasis); }
+void loadcboGName(ComboBox* combo) { fuelleAusGrid(combo, screen<Basis>().tblGBasis); }
+
+qint32 ErmittleFischNr(const QString& name)
+{
+    return CLng(schlageNach(u"ErmittleFischNr"_qs, u"FNr"_qs, 0, [&] {
+        return u"SELECT FNr FROM Fisch WHERE FName = "_qs + quoted(name);
+    }));
+}
+
+QString ErmittleFischname(qint32 number)
+{
+    return CStr(schlageNach(u"ErmittleFischname"_qs, u"FName"_qs, QString(), [&] {
+        return u"SELECT FName FROM Fisch WHERE FNr = "_qs + QString::number(number);
+    }));
+}
+
+qint32 ErmittleGewaesserNr(const QString& name)
+{
+    return CLng(schlageNach(u"ErmittleGewaesserNr"_qs, u"GNr"_qs, 0, [&] {
+        return u"SELECT GNr FROM Gewaesser WHERE GName = "_qs + quoted(name);
+    }));
+}
+
+QString ErmittleGewaessername(qint32 number)
+{
+    return CStr(schlageNach(u"ErmittleGewaessername"_qs, u"GName"_qs, QString(), [&] {
+        return u"SELECT GName FROM Gewaesser WHERE GNr = "_qs + QString::number(number);
+    }));
+}
+
+} // namespace modFangbuch

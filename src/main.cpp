@@ -1,0 +1,19 @@
+#include "Program.h"
+#include "QtMessageBoxes.h"
+#include "Theme.h"
+
+#include <QApplication>
+
+int main(int argc, char* argv[])
+{
+    QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    Theme::apply(application, Theme::desktopMode(application));
+    QtMessageBoxes boxes;
+    setMessageBoxes(&boxes);
+
+    Program program(QApplication::applicationDirPath());
+    QObject::connect(&program, &Program::ended, &application, &QApplication::quit, Qt::QueuedConnection);
+    program.start();
+    return QApplication::exec();
+}

@@ -1,0 +1,26 @@
+#include "ErrorTail.h"
+
+#include "MsgBox.h"
+#include "Session.h"
+
+namespace {
+constexpr int boxesPerRoutine = 4;
+}
+
+void beginErrorTail() { session().FehlerZaehler = 0; }
+
+void ErrorTail::report(const RuntimeError& error)
+{
+    if (session().Beendet) throw LeaveRoutine{};
+    const QString title = u"Runtime - Error: %1"_qs.arg(error.number);
+    qint16& count = session().FehlerZaehler;
+    if (count < 0 || count >= boxesPerRoutine) {
+        MsgBox(u"Unvorhergesehener Fehler kann nicht behoben werden, Unterroutine wird verlassen !"_qs,
+               vbExclamation, title);
+        throw LeaveRoutine{};
+    }
+    MsgBox(u"Unvorhergesehener Fehler in Modul: "_qs + m_module + u" / Routine: "_qs + m_routine + u" !\n\r"_qs +
+               u"Beschreibung: "_qs + error.description,
+           vbExclamation, title);
+    ++count;
+}

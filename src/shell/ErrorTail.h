@@ -1,0 +1,71 @@
+#pragma once
+
+#include "RuntimeError.h"
+
+#include <QString>
+#include <utility>
+
+/// The error handling that every routine which touches the database or a grid has in common. A routine is a
+/// recipe of statements; an error in one shows the box and the routine goes on with the next:
+///
+///     withErrorTail(u"modBasis"_qs, u"SpeicherFisch"_qs, [](ErrorTail& step) {
+///         Recordset fisch;
+///         step([&] { fisch = session().AktDatenbank.OpenRecordset(u"Fisch"_qs, dbOpenTable); });
+///         step([&] { fisch.AddNew(); });
+///         ...
+///     });
+///
+/// After four such boxes the fifth error leaves the routine. The count is a session value, so a called routine
+/// with a tail of its own sets the caller's count to 0 as well. Statements that can't fail need no step.
+class ErrorTail {
+public:
+    ErrorTail(QString module, QString routine) : m_module(std::move(module)), m_routine(std::move(routine)) {}
+
+    /// Runs one statement.
+    template<typename Statement>
+    void operator()(Statement&& statement)
+    {
+        try {
+            statement();
+        } catch (const RuntimeError& error) {
+            report(error);
+        }
+    }
+
+    /// Runs the condition of a branch. After an error in it the next statement is the first in its branch, so an
+    /// error counts as true.
+    template<typename Condition>
+    bool test(Condition&& condition)
+    {
+        try {
+            return condition();
+        } catch (const RuntimeError& error) {
+            report(error);
+            return true;
+        }
+    }
+
+    /// Thrown by the fifth error, caught by withErrorTail.
+    struct LeaveRoutine {};
+
+    /// Shows the box; on the fifth error the last box, and leaves the routine.
+    void report(const RuntimeError& error);
+
+private:
+    QString m_module;
+    QString m_routine;
+};
+
+void beginErrorTail();
+
+template<typename Routine>
+void withErrorTail(const QString& module, const QString& routine, Routine&& body)
+{
+    beginErrorTail();
+    ErrorTail step(module, routine);
+    try {
+        body(step);
+    } catch (const ErrorTail::LeaveRoutine&) {
+        // The last box has told it; what stands behind in the routine is skipped.
+    }
+}

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "Screen.h"
+
+class QLabel;
+
+/// A background picture. Nothing shows it.
+class Hinter : public Screen {
+    Q_OBJECT
+
+public:
+    Hinter();
+
+    QLabel* Picture1;
+};

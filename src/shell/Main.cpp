@@ -1,0 +1,143 @@
+#include "Main.h"
+
+#include "Info.h"
+#include "NavigationBar.h"
+#include "Program.h"
+#include "Session.h"
+#include "Stage.h"
+#include "StatusBar.h"
+#include "modArbeit.h"
+#include "modEnde.h"
+#include "modFangbuch.h"
+#include "modKontakt.h"
+#include "modNavigation.h"
+#include "modStart.h"
+#include "modTools.h"
+
+#include <QBoxLayout>
+#include <QCursor>
+#include <QHideEvent>
+#include <QMenu>
+#include <QMenuBar>
+
+namespace {
+
+QAction* addItem(QMenu* menu, const char* name, const QString& caption)
+{
+    QAction* item = menu->addAction(caption);
+    item->setObjectName(QLatin1String(name));
+    return item;
+}
+
+QMenu* addMenu(QMenuBar* bar, const char* name, const QString& caption)
+{
+    QMenu* menu = bar->addMenu(caption);
+    menu->setObjectName(QLatin1String(name));
+    return menu;
+}
+
+QMenu* popup(QWidget* parent, const char* name, const QString& caption)
+{
+    auto* menu = new QMenu(caption, parent);
+    menu->setObjectName(QLatin1String(name));
+    return menu;
+}
+
+} // namespace
+
+Main::Main() : Screen(u"Main"_qs, u"Uferwart"_qs)
+{
+    standAlone();
+    menuBar = new QMenuBar(this);
+    ButtnBar = new NavigationBar(u"ButtnBar"_qs, this);
+    stage = new Stage(this);
+    StatusBar1 = new StatusBar(u"StatusBar1"_qs, this);
+    buildMenus();
+    buildPanels();
+
+    auto* middle = new QHBoxLayout;
+    middle->setSpacing(0);
+    middle->addWidget(ButtnBar);
+    middle->addWidget(stage, 1);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->setMenuBar(menuBar);
+    column->addLayout(middle, 1);
+    column->addWidget(StatusBar1);
+
+    on(ButtnBar, &NavigationBar::itemClicked, [this](const QString& key) { ButtnBar_ItemClick(key); });
+}
+
+void Main::buildMenus()
+{
+    mnuDatei = addMenu(menuBar, "mnuDatei", u"&Datei"_qs);
+    mnuBeenden = addItem(mnuDatei, "mnuBeenden", u"&Beenden"_qs);
+    mnuKontMenu_Mitgl = popup(this, "mnuKontMenu_Mitgl", u"Kontextmenü_Mitgl"_qs);
+    mnuArbContr = addItem(mnuKontMenu_Mitgl, "mnuArbContr", u"&Übernahme i. Arb.-Controlling"_qs);
+    mnuMitglInfo = addItem(mnuKontMenu_Mitgl, "mnuMitglInfo", u"&Mitgliederinformationen anzeigen"_qs);
+    mnuKontMenu_FAusw = popup(this, "mnuKontMenu_FAusw", u"Kontextmenü_FAusw"_qs);
+    mnuFangInfo = addItem(mnuKontMenu_FAusw, "mnuFangInfo", u"&Fang anzeigen"_qs);
+    mnuTools = addMenu(menuBar, "mnuTools", u"&Tools"_qs);
+    mnuKomprimiere = addItem(mnuTools, "mnuKomprimiere", u"&Datenbank komprimieren"_qs);
+    mnuRepariere = addItem(mnuTools, "mnuRepariere", u"&Datenbank reparieren"_qs);
+    mnuHilf = addMenu(menuBar, "mnuHilf", u"&?"_qs);
+    mnuInfo = addItem(mnuHilf, "mnuInfo", u"&Info"_qs);
+
+    on(mnuBeenden, &QAction::triggered, [](bool) { modEnde::mnuBeenden_Click(); });
+    on(mnuKomprimiere, &QAction::triggered, [](bool) { modTools::KomprimiereDatenbank(); });
+    on(mnuRepariere, &QAction::triggered, [](bool) { modTools::RepariereDatenbank(); });
+    on(mnuInfo, &QAction::triggered, [this](bool) { mnuInfo_Click(); });
+}
+
+void Main::buildPanels()
+{
+    using Style = StatusBar::Style;
+    StatusBar1->addPanel(Style::Date, QString(), u"Datum"_qs);
+    StatusBar1->addPanel(Style::Time, QString(), u"Zeit"_qs);
+    StatusBar1->addPanel(Style::Text, u"Benutzer:"_qs, u"Benutzer:"_qs);
+    StatusBar1->addPanel(Style::Text, QString(), u"Angemeldeter Benutzer"_qs);
+    StatusBar1->addPanel(Style::Text, QString(), QString());
+    StatusBar1->addPanel(Style::Text, QString(), u"Statusinformationen..."_qs, true);
+    StatusBar1->addPanel(Style::Text, u"Fangjahr:"_qs, u"Fangjahr:"_qs);
+    StatusBar1->addPanel(Style::Text, QString(), u"Akt. Fangjahr..."_qs);
+}
+
+void Main::Form_Load() { modStart::StarteUferwart(); }
+
+void Main::Form_Unload() { Program::current().finish(); }
+
+void Main::Form_QueryUnload() { unload<Main>(); }
+
+void Main::showEvent(QShowEvent* event)
+{
+    Screen::showEvent(event);
+    stage->setActive(true);
+}
+
+void Main::hideEvent(QHideEvent* event)
+{
+    Screen::hideEvent(event);
+    if (!event->spontaneous()) stage->setActive(false);
+}
+
+void Main::ButtnBar_ItemClick(const QString& key) { modNavigation::zeigeBereich(key); }
+
+void Main::mnuInfo_Click()
+{
+    modNavigation::binde(session().AktBarItem, screen<Info>());
+    screen<Info>().Show();
+}
+
+void Main::loadKontMenu_Mitgl()
+{
+    mnuMitglInfo->setEnabled(modKontakt::KontaktZugriff_Erlaubt());
+    mnuArbContr->setEnabled(modArbeit::ArbeitsZugriff_Erlaubt());
+    mnuKontMenu_Mitgl->popup(QCursor::pos());
+}
+
+void Main::loadKontMenu_FAusw()
+{
+    mnuFangInfo->setEnabled(modFangbuch::FangbuchZugriff_Erlaubt());
+    mnuKontMenu_FAusw->popup(QCursor::pos());
+}

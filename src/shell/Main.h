@@ -1,0 +1,56 @@
+#pragma once
+
+#include "Screen.h"
+
+class NavigationBar;
+class QAction;
+class QMenu;
+class QMenuBar;
+class Stage;
+class StatusBar;
+
+/// The frame: menus, navigation bar, the stage with the other screens, status bar. Its load is the start-up of
+/// the program, its unload the end.
+class Main : public Screen {
+    Q_OBJECT
+
+public:
+    Main();
+
+    void Form_Load() override;
+    void Form_Unload() override;
+    void Form_QueryUnload() override;
+
+    /// Pop up a context menu at the mouse, its items enabled by the rights of the moment.
+    void loadKontMenu_Mitgl();
+    void loadKontMenu_FAusw();
+
+    QMenuBar* menuBar;
+    NavigationBar* ButtnBar;
+    Stage* stage;
+    StatusBar* StatusBar1;
+
+    QMenu* mnuDatei;
+    QAction* mnuBeenden;
+    QMenu* mnuKontMenu_Mitgl;
+    QAction* mnuArbContr;
+    QAction* mnuMitglInfo;
+    QMenu* mnuKontMenu_FAusw;
+    QAction* mnuFangInfo;
+    QMenu* mnuTools;
+    QAction* mnuKomprimiere;
+    QAction* mnuRepariere;
+    QMenu* mnuHilf;
+    QAction* mnuInfo;
+
+protected:
+    // Screens are activated only while the frame can be seen.
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+
+private:
+    void buildMenus();
+    void buildPanels();
+    void ButtnBar_ItemClick(const QString& key);
+    void mnuInfo_Click();
+};

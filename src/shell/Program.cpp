@@ -1,0 +1,52 @@
+#include "Program.h"
+
+#include "EventGuard.h"
+#include "Main.h"
+#include "MsgBox.h"
+#include "Screens.h"
+#include "Session.h"
+
+namespace {
+Program* running = nullptr;
+}
+
+Program::Program(const QString& folder)
+{
+    running = this;
+    beginSession(folder);
+    setEventFailure([this](const RuntimeError& error) { fail(error); });
+}
+
+Program::~Program()
+{
+    finish();
+    setEventFailure({});
+    running = nullptr;
+}
+
+Program& Program::current() { return *running; }
+
+void Program::start()
+{
+    m_running = true;
+    screen<Main>();
+}
+
+void Program::finish()
+{
+    if (!m_running) return;
+    m_running = false;
+    session().Beendet = true;
+    unload<Main>();
+    Screens::removeAll();
+    session().AktBarItem = nullptr;
+    session().AktDatenbank = Database();
+    Q_EMIT ended();
+}
+
+void Program::fail(const RuntimeError& error)
+{
+    if (!m_running) return;
+    MsgBox(u"Laufzeitfehler '%1':\r\n\r\n%2"_qs.arg(error.number).arg(error.description), vbCritical);
+    finish();
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "RuntimeError.h"
+
+#include <QObject>
+
+/// One life of the program over one program folder, from the start-up to its end. The clock, the boxes and what
+/// else stands around the program are put in force by whoever makes it.
+class Program : public QObject {
+    Q_OBJECT
+
+public:
+    explicit Program(const QString& folder);
+    ~Program() override;
+
+    static Program& current();
+
+    /// Runs the start-up to the point where it waits for the user, or to its failure.
+    void start();
+    bool isRunning() const { return m_running; }
+    /// Ends the program: every screen goes, the database file is let go. Safe from within any handler.
+    void finish();
+
+Q_SIGNALS:
+    void ended();
+
+private:
+    void fail(const RuntimeError& error);
+
+    bool m_running = false;
+};

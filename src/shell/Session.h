@@ -1,0 +1,47 @@
+#pragma once
+
+#include "DBEngine.h"
+
+#include <QString>
+
+class BarGroup;
+class BarItem;
+
+/// What all routines share while the program runs: plain values that any routine may read and write. Safe
+/// because there is one thread.
+struct Session {
+    Workspace AktWorkspace;
+    Database AktDatenbank; ///< open from start to end except during compact and repair
+
+    qint16 AktTag = 0;     ///< day of the month at login
+    QString AktWochentag;  ///< name of the weekday at login
+    qint16 AktMonatNr = 0; ///< 1 to 12
+    QString AktMonat;
+    qint16 AktJahr = 0; ///< the year on which a change of year has been settled; lent to the selectors
+
+    int MsgAntwort = 0;           ///< answer of the last question: 6 yes, 7 no
+    QString Modus;                ///< "SAVE" a new record, "EDIT" the record of row AktZeile
+    qint32 AktZeile = 0;          ///< grid row of the record being edited
+    qint16 FehlerZaehler = 0;     ///< errors in the current routine
+    bool TabelleLaedt = false;    ///< LadeStammdaten is running: screens stay quiet
+    qint16 SuchAufrufer = 0;      ///< who opened the search: 0 the contact overview, 1 the work ledger
+    bool KontextZeileOK = false;  ///< the last press on a grid hit a data row
+    bool NachReport = false;      ///< a report was shown: the next activation leaves the lists alone
+    BarItem* AktBarItem = nullptr; ///< navigation item last made current
+
+    bool Beendet = false; ///< the program has ended; routines still on the stack tell nobody any more
+
+    BarGroup* GruppeSystem = nullptr;
+    BarGroup* GruppeOrganisation = nullptr;
+};
+
+Session& session();
+
+/// A session value by its name as text, for those who drive the program from outside; a null text for a name
+/// that there is not.
+QString sessionValue(const QString& name);
+
+/// The folder that holds the program, its database file and the folders beside it.
+const QString& programFolder();
+/// Begins a new session over a program folder; every value is back at its start.
+void beginSession(const QString& folder);

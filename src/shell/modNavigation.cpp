@@ -1,0 +1,133 @@
+#include "modNavigation.h"
+
+#include "Arbeit.h"
+#include "Basis.h"
+#include "Benutzer.h"
+#include "Besatzung.h"
+#include "ComboBox.h"
+#include "Fangauswertung.h"
+#include "Fangbuch.h"
+#include "Hinter.h"
+#include "KontaktUebers.h"
+#include "Main.h"
+#include "NavigationBar.h"
+#include "Screens.h"
+#include "Session.h"
+#include "System.h"
+
+namespace modNavigation {
+
+namespace {
+
+struct Item {
+    const char16_t* key;
+    const char16_t* caption;
+    const char16_t* icon;
+    Screen& (*screen)();
+};
+
+template<typename T>
+Screen& make()
+{
+    return screen<T>();
+}
+
+const Item systemItems[] = {
+    {u"Zugriff", u"Benutzer &&\r\nZugriffsverw.", u"zugriff", &make<Benutzer>},
+    {u"Parameter", u"Systempar.", u"parameter", &make<System>},
+    {u"Basisdaten", u"Basisdaten", u"basisdaten", &make<Basis>},
+};
+
+const Item organisationItems[] = {
+    {u"Fangbuch", u"Fangbuch", u"fangbuch", &make<Fangbuch>},
+    {u"Fangauswertung", u"Fangauswertung", u"fangauswertung", &make<Fangauswertung>},
+    {u"Kontakte", u"Kontakte u.\r\nMitgl.", u"kontakte", &make<KontaktUebers>},
+    {u"Arbeit", u"Arb.-Std.-\r\nControlling", u"arbeit", &make<Arbeit>},
+    {u"Besatzung", u"Besatz.-Liste", u"besatzung", &make<Besatzung>},
+};
+
+const Item* find(const QString& key)
+{
+    for (const Item& item : systemItems)
+        if (key == item.key) return &item;
+    for (const Item& item : organisationItems)
+        if (key == item.key) return &item;
+    return nullptr;
+}
+
+template<std::size_t count>
+BarGroup* addGroup(const QString& caption, const Item (&items)[count])
+{
+    BarGroup* group = screen<Main>().ButtnBar->addGroup(caption);
+    for (const Item& item : items)
+        group->addItem(QString::fromUtf16(item.key), QString::fromUtf16(item.caption), QString::fromUtf16(item.icon));
+    return group;
+}
+
+template<typename T>
+void hideIfLoaded()
+{
+    if (isLoaded<T>()) screen<T>().Hide();
+}
+
+/// Makes the item the current one, binds its screen and shows that.
+void showScreen(const QString& key)
+{
+    Screen& target = find(key)->screen();
+    session().AktBarItem = screen<Main>().ButtnBar->item(key);
+    binde(session().AktBarItem, target);
+    target.Show();
+}
+
+} // namespace
+
+void InitButtnBar()
+{
+    session().GruppeSystem = addGroup(u"System"_qs, systemItems);
+    session().GruppeOrganisation = addGroup(u"Organisation"_qs, organisationItems);
+    constexpr int organisation = 1;
+    constexpr int itemSpacing = 80;
+    screen<Main>().ButtnBar->setCurrentGroup(organisation);
+    screen<Main>().ButtnBar->setItemSpacing(itemSpacing);
+}
+
+void binde(BarItem* item, Screen& target)
+{
+    // A start-up that ended in a repair leaves the bar without items.
+    if (!item) return;
+    item->takeWindow(&target);
+    screen<Main>().ButtnBar->setCurrentItem(item);
+}
+
+void VersteckeFormen()
+{
+    hideIfLoaded<Benutzer>();
+    hideIfLoaded<System>();
+    hideIfLoaded<Fangbuch>();
+    hideIfLoaded<Fangauswertung>();
+    hideIfLoaded<KontaktUebers>();
+    hideIfLoaded<Basis>();
+    hideIfLoaded<Arbeit>();
+    hideIfLoaded<Besatzung>();
+    hideIfLoaded<Hinter>();
+}
+
+void zeigeBereich(const QString& key)
+{
+    if (key == u"Kontakte"_qs) session().SuchAufrufer = 0;
+    if (key == u"Arbeit"_qs) session().SuchAufrufer = 1;
+    VersteckeFormen();
+    showScreen(key);
+    if (key == u"Fangbuch"_qs) screen<Fangbuch>().cboFArt->setFocus();
+}
+
+void zeigeErstesFenster()
+{
+    NavigationBar* bar = screen<Main>().ButtnBar;
+    if (bar->item(u"Fangbuch"_qs)) return showScreen(u"Fangbuch"_qs);
+    // A user without the right to the catch book begins on the first screen he has, or on an empty frame.
+    for (BarGroup* group : {session().GruppeOrganisation, session().GruppeSystem})
+        if (!group->items().isEmpty()) return zeigeBereich(group->items().first()->key());
+}
+
+} // namespace modNavigation

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QString>
+
+class BarItem;
+class Screen;
+
+/// The navigation bar and the screens behind it.
+namespace modNavigation {
+
+/// Builds the two groups of the bar.
+void InitButtnBar();
+/// Gives the item the screen's window to keep track of; showing the screen is a separate step.
+void binde(BarItem* item, Screen& screen);
+/// Hides every screen that can be behind the bar.
+void VersteckeFormen();
+/// A click on the item of this key: all screens are hidden and its own is shown.
+void zeigeBereich(const QString& key);
+/// After the start-up: the catch book, or the first screen that the user's rights leave.
+void zeigeErstesFenster();
+
+} // namespace modNavigation

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "Recordset.h"
+
+#include <QString>
+
+class DataTable;
+class QAbstractButton;
+class QCheckBox;
+class TextBox;
+struct SelectionStyle;
+
+/// What all screens share.
+namespace modRun {
+
+/// The neutral colours in which the selected row of a grid shows while the grid has the focus.
+void SetzeGridFarben(SelectionStyle& style);
+/// What every grid does when it receives and when it loses the focus.
+void connectGridFocus(DataTable* grid);
+
+void MeldeNichtVorhanden();
+void MeldeNichtsGefunden();
+void MeldeEingabeFehler();
+
+bool WertAusCheckBox(const QCheckBox* box);
+int CheckBoxAusWert(const Field& field);
+bool WertAusOption(const QAbstractButton* option);
+
+/// The text of the box as a date, or the empty date if it is none.
+Date DatumAusText(const TextBox* box);
+/// The date as text, or the empty text if it is the empty date.
+QString TextAusDatum(const Field& field);
+
+/// 1 to 12; any other number is told in a box and gives "Januar".
+QString ErmittleMonatsname(qint32 number);
+/// The names above, compared exactly; any other text is told in a box and gives 1.
+qint16 ErmittleMonatsNr(const QString& name);
+/// 1 (Sunday) to 7; any other number gives the empty text.
+QString WochentagName(int number);
+
+/// Keeps a grid in step after a base record has changed. "LOESCHEN" removes every row whose cell in the column
+/// is `text`; "UPDATE" writes `text` into every cell of the column that is `oldText`; any other word does
+/// nothing.
+void GridVerweiseAbgleichen(DataTable* grid, int column, const QString& text, const QString& mode,
+                            const QString& oldText);
+
+// Key filters: give the typed code back, or 0 after a beep.
+int FilterZiffern(int code); ///< digits
+int FilterKomma(int code);   ///< digits and comma
+int FilterTelefon(int code); ///< digits, minus, blank
+int FilterDatum(int code);   ///< digits and point
+int FilterSuche(int code);   ///< digits, A to Z, a to z, asterisk, blank
+
+} // namespace modRun

@@ -1,0 +1,206 @@
+#include "modStart.h"
+
+#include "Clock.h"
+#include "Eroef.h"
+#include "ErrorTail.h"
+#include "Fangbuch.h"
+#include "KontaktUebers.h"
+#include "Login.h"
+#include "Main.h"
+#include "MsgBox.h"
+#include "NavigationBar.h"
+#include "ProgressBar.h"
+#include "Screens.h"
+#include "Session.h"
+#include "SqlText.h"
+#include "Stage.h"
+#include "StatusBar.h"
+#include "TextBox.h"
+#include "modBasis.h"
+#include "modFangbuch.h"
+#include "modNavigation.h"
+#include "modRun.h"
+#include "modSystem.h"
+#include "modTools.h"
+
+namespace modStart {
+
+namespace {
+
+constexpr int fileNotFound = 3024;
+constexpr int wrongPassword = 3031;
+
+/// Sizes were given in twips, fifteen to a pixel.
+constexpr int twips(int count) { return count / 15; }
+
+void tellEnd(const QString& text, const QString& title = u"Uferwart"_qs)
+{
+    MsgBox(text, vbCritical, title);
+    unload<Main>();
+}
+
+void askForRepair()
+{
+    session().MsgAntwort = MsgBox(u"ACHTUNG: Datenbank konnte nicht geöffnet werden. Soll Uferwart versuchen die "_qs +
+                                      u"Datenbank zu reparieren?"_qs,
+                                  vbYesNo);
+    if (session().MsgAntwort != vbYes) return tellEnd(u"Uferwart beendet sich jetzt !"_qs);
+    modTools::RepariereDatenbank();
+    // The frame stands open with an empty bar: the user starts the program again.
+    if (isLoaded<Main>()) screen<Main>().Show();
+}
+
+void startFailed(const RuntimeError& error)
+{
+    switch (error.number) {
+    case fileNotFound:
+        return tellEnd(u"ACHTUNG: Datenbank nicht gefunden ! Bitte stellen Sie sicher das sich die Datenbank im \n\r"_qs +
+                           u"im Root - Verzeichnis von Uferwart befindet (z.B: C:\\...\\Uferwart\\uw01.mdb) ! "_qs +
+                           u"Uferwart beendet sich jetzt !"_qs,
+                       u"Runtime - Error: %1"_qs.arg(error.number));
+    case wrongPassword:
+        return tellEnd(u"ACHTUNG: Datenbank - Passwort nicht korrekt ! Uferwart beendet sich jetzt !"_qs);
+    default: return askForRepair();
+    }
+}
+
+/// The bar's item goes, whether or not it is still there.
+void removeItem(BarGroup* group, const QString& key)
+{
+    session().AktBarItem = group->item(key);
+    group->removeItem(key);
+    session().AktBarItem = nullptr;
+}
+
+void continueAfterLogin()
+{
+    screen<::Login>().Hide();
+    screen<Eroef>().Show();
+    screen<Eroef>().repaint();
+    SetzeDatumsVariablen();
+    if (!KontrolliereSystemJahr()) {
+        unload<Eroef>();
+        unload<Main>();
+        unload<::Login>();
+        SchliesseDatenbank();
+        return;
+    }
+    LadeStammdaten();
+    ZeigeFangjahr();
+    unload<Eroef>();
+    screen<Main>().Show();
+    modNavigation::zeigeErstesFenster();
+    unload<::Login>();
+}
+
+} // namespace
+
+void StarteUferwart()
+{
+    try {
+        OeffneDatenbank();
+        modNavigation::InitButtnBar();
+        SetzeFensterGroesse();
+        screen<Main>().Hide();
+        screen<::Login>().Show();
+    } catch (const RuntimeError& error) {
+        startFailed(error);
+    }
+}
+
+void OeffneDatenbank()
+{
+    session().AktWorkspace = DBEngine::Workspaces(0);
+    session().AktDatenbank =
+        session().AktWorkspace.OpenDatabase(programFolder() + u"/uw01.mdb"_qs, false, false, modTools::connectText());
+}
+
+void SchliesseDatenbank()
+{
+    // The repair offered by a failed start comes here without an open database.
+    if (session().AktDatenbank.isOpen()) session().AktDatenbank.Close();
+}
+
+void SetzeFensterGroesse()
+{
+    constexpr int firstWidth = 1000;
+    screen<Main>().resize(firstWidth, twips(8625));
+    screen<Main>().ButtnBar->resize(screen<Main>().ButtnBar->width(), twips(7695));
+}
+
+void Anmelden()
+{
+    ::Login& form = screen<::Login>();
+    if (form.txtBenutzer->Text().isEmpty()) return form.txtBenutzer->setFocus();
+    if (Login(form.txtBenutzer->Text(), form.txtPassw->Text())) return continueAfterLogin();
+    form.txtBenutzer->setText(QString());
+    form.txtPassw->setText(QString());
+    form.txtBenutzer->setFocus();
+}
+
+bool Login(const QString& name, const QString& passwort)
+{
+    bool valid = false;
+    withErrorTail(u"modStart"_qs, u"Login"_qs, [&](ErrorTail& step) {
+        Recordset gruppe;
+        step([&] {
+            gruppe = session().AktDatenbank.OpenRecordset(
+                u"SELECT * FROM Gruppen WHERE GNr = (SELECT GNr FROM Benutzer WHERE Name = "_qs + quoted(name) +
+                    u" AND Passwort = "_qs + quoted(passwort) + u")"_qs,
+                dbOpenDynaset);
+        });
+        if (step.test([&] { return gruppe.RecordCount() == 0; })) {
+            MsgBox(u"Anmeldung fehlgeschlagen, bitte versuchen Sie es erneut!"_qs, vbCritical, u"UFERWART"_qs);
+            valid = false;
+        } else {
+            screen<Main>().StatusBar1->setPanelText(4, name);
+            step([&] { WendeRechteAn(gruppe); });
+            valid = true;
+        }
+        step([&] { gruppe.Close(); });
+    });
+    return valid;
+}
+
+void WendeRechteAn(const Recordset& gruppe)
+{
+    const auto denied = [&](const QString& right) { return gruppe.Fields(right).Value() == Value(false); };
+    BarGroup* organisation = session().GruppeOrganisation;
+    BarGroup* system = session().GruppeSystem;
+    if (denied(u"Fangbuch"_qs)) removeItem(organisation, u"Fangbuch"_qs);
+    if (denied(u"Fangauswertung"_qs)) removeItem(organisation, u"Fangauswertung"_qs);
+    if (denied(u"KontUebers"_qs)) removeItem(organisation, u"Kontakte"_qs);
+    if (denied(u"Arbeit"_qs)) removeItem(organisation, u"Arbeit"_qs);
+    if (denied(u"Besatz"_qs)) removeItem(organisation, u"Besatzung"_qs);
+    if (denied(u"Basis"_qs)) removeItem(system, u"Basisdaten"_qs);
+    if (denied(u"KontListe"_qs)) screen<KontaktUebers>().Toolbar1->setKeyEnabled(u"tbMitglList"_qs, false);
+    if (denied(u"Benutzerverwaltung"_qs)) removeItem(system, u"Zugriff"_qs);
+    if (denied(u"System"_qs)) removeItem(system, u"Parameter"_qs);
+}
+
+void SetzeDatumsVariablen()
+{
+    const QDate date = today();
+    // The week of the names begins on Sunday.
+    session().AktWochentag = modRun::WochentagName(date.dayOfWeek() % 7 + 1);
+    session().AktTag = static_cast<qint16>(date.day());
+    session().AktMonat = modRun::ErmittleMonatsname(date.month());
+    session().AktJahr = static_cast<qint16>(date.year());
+    session().AktMonatNr = static_cast<qint16>(date.month());
+}
+
+bool KontrolliereSystemJahr() { return true; }
+
+void LadeStammdaten()
+{
+    session().TabelleLaedt = true;
+    modBasis::loadTblFBasis();
+    modBasis::loadTblGBasis();
+    modSystem::loadTblSystem();
+    modFangbuch::loadTblFList(screen<Eroef>().pb);
+    session().TabelleLaedt = false;
+}
+
+void ZeigeFangjahr() { screen<Main>().StatusBar1->setPanelText(8, QString::number(session().AktJahr)); }
+
+} // namespace modStart

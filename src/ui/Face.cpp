@@ -1,0 +1,69 @@
+#include "Face.h"
+
+#include "Heading.h"
+#include "Toolbar.h"
+
+#include <QBoxLayout>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+
+namespace Face {
+
+QLabel* label(const QString& name, const QString& text, QWidget* parent)
+{
+    auto* made = new QLabel(parent);
+    made->setTextFormat(Qt::PlainText);
+    made->setText(text);
+    made->setObjectName(name);
+    return made;
+}
+
+QGroupBox* frame(const QString& name, const QString& title, QWidget* parent)
+{
+    auto* made = new QGroupBox(title, parent);
+    made->setObjectName(name);
+    return made;
+}
+
+QPushButton* button(const QString& name, const QString& caption, QWidget* parent)
+{
+    auto* made = new QPushButton(caption, parent);
+    made->setObjectName(name);
+    return made;
+}
+
+QVBoxLayout* column(QWidget* window)
+{
+    auto* made = new QVBoxLayout(window);
+    made->setContentsMargins(12, 12, 12, 12);
+    made->setSpacing(gap);
+    return made;
+}
+
+QVBoxLayout* column(QWidget* screen, Heading* heading, Toolbar* toolbar)
+{
+    auto* whole = new QVBoxLayout(screen);
+    whole->setContentsMargins(0, 0, 0, 0);
+    whole->setSpacing(0);
+    whole->addWidget(heading);
+    if (toolbar) whole->addWidget(toolbar);
+    auto* rest = new QVBoxLayout;
+    rest->setContentsMargins(12, gap, 12, 12);
+    rest->setSpacing(gap);
+    whole->addLayout(rest, 1);
+    return rest;
+}
+
+void addField(QGridLayout* form, int row, QLabel* label, QWidget* field, int column)
+{
+    form->addWidget(label, row, column);
+    form->addWidget(field, row, column + 1);
+    label->setBuddy(field);
+    QString spoken = label->text();
+    while (spoken.endsWith(u':') || spoken.endsWith(u'.') || spoken.endsWith(u' ')) spoken.chop(1);
+    field->setAccessibleName(spoken);
+}
+
+} // namespace Face

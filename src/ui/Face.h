@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QString>
+
+class Heading;
+class QGridLayout;
+class QGroupBox;
+class QLabel;
+class QPushButton;
+class QVBoxLayout;
+class QWidget;
+class Toolbar;
+
+/// What the faces of the screens are made of: labels left of their fields on common lines, frames, a heading with
+/// the toolbar below it. Distances are multiples of four.
+namespace Face {
+
+constexpr int gap = 8;
+
+/// A plain text label.
+QLabel* label(const QString& name, const QString& text, QWidget* parent);
+QGroupBox* frame(const QString& name, const QString& title, QWidget* parent);
+QPushButton* button(const QString& name, const QString& caption, QWidget* parent);
+
+/// The column that holds everything on a window.
+QVBoxLayout* column(QWidget* window);
+/// The column of a screen on the stage: heading, toolbar, and room for the rest. It is the rest that is returned.
+QVBoxLayout* column(QWidget* screen, Heading* heading, Toolbar* toolbar);
+
+/// A row of a form. The label becomes the field's name for screen readers.
+void addField(QGridLayout* form, int row, QLabel* label, QWidget* field, int column = 0);
+
+} // namespace Face

@@ -1,0 +1,262 @@
+#include "modBasis.h"
+
+#include "Basis.h"
+#include "Conversions.h"
+#include "DataTable.h"
+#include "ErrorTail.h"
+#include "Fangbuch.h"
+#include "MemoBox.h"
+#include "MsgBox.h"
+#include "Recordset.h"
+#include "Screens.h"
+#include "Session.h"
+#include "TextBox.h"
+#include "ValueLabel.h"
+#include "modRun.h"
+
+#include <QTabWidget>
+
+namespace modBasis {
+
+namespace {
+
+/// What tells kinds of fish and waters apart; the routines are the same for both.
+struct Art {
+    QString tabelle;
+    QString feldNr;
+    QString feldName;
+    ValueLabel* lblNr;
+    TextBox* txtName;
+    MemoBox* txtNotiz;
+    DataTable* grid;
+    ValueLabel* lblAnzahl;
+    int spalteImFangbuch; ///< where the catch book's grid shows the name
+    QString nichtGefunden; ///< said when opening finds no record
+};
+
+Art fisch()
+{
+    const Basis& form = screen<Basis>();
+    return {u"Fisch"_qs, u"FNr"_qs,      u"FName"_qs,     form.lblFNr, form.txtFArt, form.txtFNotiz, form.tblFBasis,
+            form.lblFAnzahl, 1, u"FEHLER: Datensatz nicht vorhanden o. nicht gefunden !"_qs};
+}
+
+Art gewaesser()
+{
+    const Basis& form = screen<Basis>();
+    return {u"Gewaesser"_qs, u"GNr"_qs,      u"GName"_qs,     form.lblGNr, form.txtGName, form.txtGNotiz, form.tblGBasis,
+            form.lblGAnzahl, 2, u"Fehler: Datensatz nicht vorhanden o. nicht gefunden !"_qs};
+}
+
+/// The name of the record that was last opened; one for both pages.
+QString alterName;
+
+constexpr int fishPage = 0;
+const Art artInFront() { return screen<Basis>().TabBasis->currentIndex() == fishPage ? fisch() : gewaesser(); }
+
+void leere(const Art& art)
+{
+    art.lblNr->setCaption(QString());
+    art.txtName->setText(QString());
+    art.txtNotiz->setText(QString());
+}
+
+void zeigeAnzahl(const Art& art) { art.lblAnzahl->setCaption(QString::number(art.grid->rowCount())); }
+
+Recordset oeffne(const QString& nameOrSelect, RecordsetType type)
+{
+    return session().AktDatenbank.OpenRecordset(nameOrSelect, type);
+}
+
+void fuelleGrid(const QString& routine, const Art& art, const QString& select)
+{
+    withErrorTail(u"modStart"_qs, routine, [&](ErrorTail& step) {
+        Recordset satz;
+        step([&] { satz = oeffne(select, dbOpenDynaset); });
+        if (step.test([&] { return satz.RecordCount() != 0; })) {
+            step([&] { satz.MoveFirst(); });
+            while (step.test([&] { return !satz.Eof(); })) {
+                step([&] { art.grid->appendRow({satz.Collect(art.feldNr), satz.Collect(art.feldName)}); });
+                step([&] { satz.MoveNext(); });
+            }
+        }
+        step([&] { satz.Close(); });
+    });
+}
+
+void speichere(const QString& routine, const Art& art)
+{
+    withErrorTail(u"modBasis"_qs, routine, [&](ErrorTail& step) {
+        Recordset satz;
+        step([&] { satz = oeffne(art.tabelle, dbOpenTable); });
+        step([&] { satz.AddNew(); });
+        step([&] { satz.Collect(art.feldName, art.txtName->Text()); });
+        step([&] { satz.Collect(u"Notiz"_qs, art.txtNotiz->Text()); });
+        step([&] { satz.Update(); });
+        step([&] { satz.Index(u"PrimaryKey"_qs); });
+        step([&] { satz.MoveLast(); });
+        step([&] { art.grid->appendRow({satz.Collect(art.feldNr), satz.Collect(art.feldName)}); });
+        BasisAnzeigeLoeschen();
+        zeigeAnzahl(art);
+        step([&] { satz.Close(); });
+    });
+}
+
+/// Opens the table and seeks the record of the form.
+void sucheOffenen(ErrorTail& step, Recordset& satz, const Art& art)
+{
+    step([&] { satz = oeffne(art.tabelle, dbOpenTable); });
+    step([&] { satz.Index(u"PrimaryKey"_qs); });
+    step([&] { satz.Seek(u"="_qs, CLng(art.lblNr->Caption())); });
+}
+
+void aendere(const QString& routine, const Art& art, int row)
+{
+    withErrorTail(u"modBasis"_qs, routine, [&](ErrorTail& step) {
+        Recordset satz;
+        sucheOffenen(step, satz, art);
+        if (step.test([&] { return satz.NoMatch(); })) {
+            MsgBox(u"FEHLER: Datensatz nicht vorhanden o. nicht gefunden !"_qs, vbCritical);
+        } else {
+            const QString name = art.txtName->Text();
+            step([&] { satz.Edit(); });
+            step([&] { satz.Collect(art.feldName, name); });
+            step([&] { satz.Collect(u"Notiz"_qs, art.txtNotiz->Text()); });
+            step([&] { satz.Update(); });
+            step([&] { art.grid->setCell(row, 1, name); });
+            step([&] {
+                modRun::GridVerweiseAbgleichen(screen<Fangbuch>().tblFList, art.spalteImFangbuch, name, u"UPDATE"_qs,
+                                               alterName);
+            });
+        }
+        BasisAnzeigeLoeschen();
+        step([&] { satz.Close(); });
+    });
+}
+
+void loesche(const QString& routine, const Art& art, int row)
+{
+    withErrorTail(u"modBasis"_qs, routine, [&](ErrorTail& step) {
+        Recordset satz;
+        sucheOffenen(step, satz, art);
+        if (step.test([&] { return satz.NoMatch(); })) {
+            MsgBox(u"FEHLER: Datensatz kann nicht gelöscht oder gefunden werden !"_qs, vbCritical);
+        } else {
+            step([&] { satz.Delete(); });
+            step([&] { art.grid->removeRow(row); });
+            zeigeAnzahl(art);
+            step([&] {
+                modRun::GridVerweiseAbgleichen(screen<Fangbuch>().tblFList, art.spalteImFangbuch, art.txtName->Text(),
+                                               u"LOESCHEN"_qs, QString());
+            });
+        }
+        BasisAnzeigeLoeschen();
+        step([&] { satz.Close(); });
+    });
+}
+
+void ladeAuswahl(const QString& routine, const Art& art, int row)
+{
+    withErrorTail(u"modBasis"_qs, routine, [&](ErrorTail& step) {
+        Recordset satz;
+        step([&] {
+            satz = oeffne(u"SELECT * FROM "_qs + art.tabelle + u" WHERE "_qs + art.feldNr + u" = "_qs +
+                              art.grid->cellText(row, 0),
+                          dbOpenDynaset);
+        });
+        if (step.test([&] { return satz.RecordCount() != 0; })) {
+            step([&] { art.lblNr->setCaption(CStr(satz.Collect(art.feldNr))); });
+            step([&] { art.txtName->setText(CStr(satz.Collect(art.feldName))); });
+            step([&] { art.txtNotiz->setText(CStr(satz.Collect(u"Notiz"_qs))); });
+            step([&] { alterName = CStr(satz.Collect(art.feldName)); });
+        } else {
+            MsgBox(art.nichtGefunden, vbCritical);
+        }
+        step([&] { satz.Close(); });
+    });
+}
+
+bool vollstaendig(const Art& art)
+{
+    if (!art.txtName->Text().isEmpty()) return true;
+    modRun::MeldeEingabeFehler();
+    return false;
+}
+
+/// The routines behind the toolbar for one page.
+struct Routinen {
+    bool (*vollstaendig)();
+    void (*speicher)();
+    void (*update)(int);
+    void (*loesche)(int);
+    QString warnung;
+};
+
+void bediene(const QString& key, const Routinen& routinen)
+{
+    Session& s = session();
+    if (key == u"tbSpeichern"_qs) {
+        if (s.Modus == u"EDIT"_qs && routinen.vollstaendig()) routinen.update(s.AktZeile);
+        if (s.Modus == u"SAVE"_qs && routinen.vollstaendig()) routinen.speicher();
+    } else if (key == u"tbLoeschen"_qs && s.Modus == u"EDIT"_qs) {
+        s.MsgAntwort = MsgBox(routinen.warnung + u"\r\nTrotzdem löschen ?"_qs, vbYesNo);
+        if (s.MsgAntwort == vbYes)
+            routinen.loesche(s.AktZeile);
+        else
+            BasisAnzeigeLoeschen();
+    } else if (key == u"tbAnzLoeschen"_qs) {
+        BasisAnzeigeLoeschen();
+    }
+}
+
+} // namespace
+
+void InitBasis()
+{
+    session().Modus = u"SAVE"_qs;
+    session().AktZeile = 0;
+    alterName.clear();
+}
+
+void BasisAnzeigeLoeschen()
+{
+    const Art art = artInFront();
+    leere(art);
+    art.txtName->setFocus();
+}
+
+void BasisAlleAnzeigenLoeschen()
+{
+    for (const Art& art : {fisch(), gewaesser()}) {
+        leere(art);
+        art.lblAnzahl->setCaption(QString());
+    }
+}
+
+void loadTblFBasis() { fuelleGrid(u"loadTblFBasis"_qs, fisch(), u"SELECT * FROM Fisch"_qs); }
+void loadTblGBasis() { fuelleGrid(u"loadTblGBasis"_qs, gewaesser(), u"SELECT GNr, GName FROM Gewaesser"_qs); }
+
+bool FischEingabeVollstaendig() { return vollstaendig(fisch()); }
+bool GewaesserEingabeVollstaendig() { return vollstaendig(gewaesser()); }
+void SpeicherFisch() { speichere(u"SpeicherFisch"_qs, fisch()); }
+void SpeicherGewaesser() { speichere(u"SpeicherGewaesser"_qs, gewaesser()); }
+void UpdateFisch(int row) { aendere(u"UpdateFisch"_qs, fisch(), row); }
+void UpdateGewaesser(int row) { aendere(u"UpdateGewaesser"_qs, gewaesser(), row); }
+void LoescheFisch(int row) { loesche(u"LoescheFisch"_qs, fisch(), row); }
+void LoescheGewaesser(int row) { loesche(u"LoescheGewaesser"_qs, gewaesser(), row); }
+void loadFAuswahl(int row, int /*column*/) { ladeAuswahl(u"loadFAuswahl"_qs, fisch(), row); }
+void loadGAuswahl(int row, int /*column*/) { ladeAuswahl(u"loadGAuswahl"_qs, gewaesser(), row); }
+
+void bedieneFisch(const QString& key)
+{
+    bediene(key, {&FischEingabeVollstaendig, &SpeicherFisch, &UpdateFisch, &LoescheFisch,
+                  u"ACHTUNG: Fisch - Referenzen im Fangbuch werden ebenfalls gelöscht !"_qs});
+}
+
+void bedieneGewaesser(const QString& key)
+{
+    bediene(key, {&GewaesserEingabeVollstaendig, &SpeicherGewaesser, &UpdateGewaesser, &LoescheGewaesser,
+                  u"ACHTUNG: Gewässer - Referenzen im Fangbuch werden ebenfalls gelöscht !"_qs});
+}
+
+} // namespace modBasis
