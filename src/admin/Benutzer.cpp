@@ -5,8 +5,8 @@
 
 #include <QBoxLayout>
 
-Benutzer::Benutzer() : Screen(u"Benutzer"_qs, u"Benutzerverwaltung"_qs)
-{
+Benutzer::Benutzer()
+    : Screen(u"Benutzer"_qs, u"Benutzerverwaltung"_qs) {
     Ueberschrift = new Heading(u"BENUTZERVERWALTUNG"_qs, this);
     Face::column(this, Ueberschrift, nullptr)->addStretch();
 }

@@ -10,8 +10,8 @@
 #include <QLabel>
 #include <QPushButton>
 
-Info::Info() : Screen(u"Info"_qs, u"Info"_qs)
-{
+Info::Info()
+    : Screen(u"Info"_qs, u"Info"_qs) {
     lblTitle = Face::label(u"lblTitle"_qs, u"Uferwart Version 2.0"_qs, this);
     QFont titleFont(u"Comic Sans MS"_qs);
     titleFont.setPointSize(16);
@@ -41,7 +41,8 @@ Info::Info() : Screen(u"Info"_qs, u"Info"_qs)
     keys->addStretch();
     keys->addWidget(cmdOK);
     auto* column = Face::column(this);
-    for (QWidget* widget : std::initializer_list<QWidget*>{lblTitle, lblDescription, fraVerein, lblHersteller, lblRechte})
+    for (QWidget* widget :
+         std::initializer_list<QWidget*>{lblTitle, lblDescription, fraVerein, lblHersteller, lblRechte})
         column->addWidget(widget);
     column->addStretch();
     column->addLayout(keys);
@@ -50,8 +51,7 @@ Info::Info() : Screen(u"Info"_qs, u"Info"_qs)
     on(cmdOK, &QPushButton::clicked, [this](bool) { cmdOK_Click(); });
 }
 
-QLabel* Info::addValue(const QString& name)
-{
+QLabel* Info::addValue(const QString& name) {
     QLabel* value = Face::label(name, QString(), fraVerein);
     fraVerein->layout()->addWidget(value);
     return value;

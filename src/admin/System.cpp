@@ -13,8 +13,8 @@
 #include <QGroupBox>
 #include <QLabel>
 
-System::System() : Screen(u"System"_qs, u"Systemparameter"_qs)
-{
+System::System()
+    : Screen(u"System"_qs, u"Systemparameter"_qs) {
     Ueberschrift = new Heading(u"SYSTEMPARAMETER"_qs, this);
     Toolbar1 = new Toolbar(this);
     Toolbar1->addKey(u"tbSpeichern"_qs, u"&Speichern"_qs, u"Speichern"_qs, u"speichern"_qs);
@@ -37,8 +37,7 @@ System::System() : Screen(u"System"_qs, u"Systemparameter"_qs)
     modRun::connectGridFocus(tblSystem);
 }
 
-void System::buildAddress()
-{
+void System::buildAddress() {
     Frame3 = Face::frame(u"Frame3"_qs, u"Ihre Adressdaten..."_qs, this);
     auto* form = new QGridLayout(Frame3);
     const auto add = [&](const char16_t* name, const char16_t* text) {
@@ -54,8 +53,7 @@ void System::buildAddress()
     txtTelefon = add(u"txtTelefon", u"Telefon:");
 }
 
-void System::buildGrid()
-{
+void System::buildGrid() {
     Frame2 = Face::frame(u"Frame2"_qs, u"Aktuelle Systemparameter..."_qs, this);
     tblSystem = new DataTable(u"tblSystem"_qs, Frame2);
     tblSystem->setColumns({{u"Parameter"_qs, 240}, {u"Wert"_qs, 120}});
@@ -63,15 +61,15 @@ void System::buildGrid()
     column->addWidget(tblSystem);
 }
 
-void System::buildParameters()
-{
+void System::buildParameters() {
     Frame1 = Face::frame(u"Frame1"_qs, u"Systemparameter editieren..."_qs, this);
     auto* form = new QGridLayout(Frame1);
     const auto add = [&](int row, const char16_t* name, const char16_t* text) {
         auto* box = new TextBox(QString::fromUtf16(name), Frame1);
         // A refused key beeps and still goes into the box: a comma can be typed into the fee.
         on(box, &TextBox::KeyPress, [](int code) { modRun::FilterZiffern(code); });
-        Face::addField(form, row, Face::label(u"lblParam%1"_qs.arg(row), QString::fromUtf16(text), Frame1), box);
+        Face::addField(form, row, Face::label(u"lblParam%1"_qs.arg(row), QString::fromUtf16(text), Frame1),
+                       box);
         return box;
     };
     txtJB = add(0, u"txtJB", u"Jahresbeitrag:");
@@ -84,8 +82,7 @@ void System::buildParameters()
 
 void System::Form_Deactivate() { modSystem::LeereParameter(); }
 
-void System::Toolbar1_ButtonClick(const QString& key)
-{
+void System::Toolbar1_ButtonClick(const QString& key) {
     if (key == u"tbSpeichern"_qs) {
         // Without a row opened, it is the address that the user has been working on.
         if (session().Modus == u"EDIT"_qs) modSystem::UpdateParameter();
@@ -96,8 +93,7 @@ void System::Toolbar1_ButtonClick(const QString& key)
     session().Modus = u"SAVE"_qs;
 }
 
-void System::tblSystem_OnGridCellOpen(int row)
-{
+void System::tblSystem_OnGridCellOpen(int row) {
     if (row < 0) return;
     modSystem::LeereParameter();
     modSystem::LadeParameter(row);

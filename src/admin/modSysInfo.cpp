@@ -15,8 +15,7 @@ struct Tool {
 };
 
 /// Where desktops keep what they tell about the machine, the settings programs' own pages first.
-QVector<Tool> placesToLook()
-{
+QVector<Tool> placesToLook() {
     return {{u"gnome-control-center"_qs, {u"system"_qs, u"about"_qs}},
             {u"kinfocenter"_qs, {}},
             {u"xfce4-about"_qs, {}},
@@ -29,8 +28,7 @@ QVector<Tool> placesToLook()
 
 } // namespace
 
-void StartSysInfo()
-{
+void StartSysInfo() {
     for (const Tool& tool : placesToLook()) {
         const QString path = QStandardPaths::findExecutable(tool.program);
         if (!path.isEmpty() && QProcess::startDetached(path, tool.arguments)) return;

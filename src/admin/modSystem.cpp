@@ -27,8 +27,7 @@ struct AddressLine {
     QLabel* label;
 };
 
-std::array<AddressLine, 5> address()
-{
+std::array<AddressLine, 5> address() {
     System& form = screen<System>();
     Info& info = screen<Info>();
     return {{{u"Verein"_qs, form.txtVerein, info.lblVerein},
@@ -44,8 +43,7 @@ struct Parameter {
     QString label;
 };
 
-void writeParameter(Recordset& parameter, const Parameter& which)
-{
+void writeParameter(Recordset& parameter, const Parameter& which) {
     const QString text = which.box->Text();
     if (text.isEmpty()) return;
     parameter.Collect(which.field, CLng(text));
@@ -54,8 +52,7 @@ void writeParameter(Recordset& parameter, const Parameter& which)
     if (grid->find(0, row, which.label) >= 0) grid->setCell(row, 1, text);
 }
 
-void showAddress(ErrorTail& step, const Recordset& parameter)
-{
+void showAddress(ErrorTail& step, const Recordset& parameter) {
     for (const AddressLine& line : address()) {
         const auto text = [&] { return CStr(parameter.Fields(line.field).Value()); };
         step([&] { line.label->setText(text()); });
@@ -69,16 +66,19 @@ QString labelJahresbeitrag() { return u"Jahresbeitrag"_qs; }
 QString labelFangjahr() { return u"akt. Fangjahr"_qs; }
 QString labelPflichtStd() { return u"Pflicht-Std. (Arbeit)"_qs; }
 
-void loadTblSystem()
-{
+void loadTblSystem() {
     withErrorTail(u"modStart"_qs, u"loadTblSystem"_qs, [](ErrorTail& step) {
         Recordset parameter;
         DataTable* grid = screen<System>().tblSystem;
-        step([&] { parameter = session().AktDatenbank.OpenRecordset(u"SELECT * FROM System"_qs, dbOpenDynaset); });
+        step([&] {
+            parameter = session().AktDatenbank.OpenRecordset(u"SELECT * FROM System"_qs, dbOpenDynaset);
+        });
         if (step.test([&] { return parameter.RecordCount() != 0; })) step([&] { parameter.MoveFirst(); });
         while (step.test([&] { return !parameter.Eof(); })) {
             const auto value = [&](const QString& field) { return parameter.Fields(field).Value(); };
-            step([&] { grid->appendRow({labelJahresbeitrag(), Format(value(u"JBeitrag"_qs), twoDecimals)}); });
+            step([&] {
+                grid->appendRow({labelJahresbeitrag(), Format(value(u"JBeitrag"_qs), twoDecimals)});
+            });
             step([&] { grid->appendRow({labelFangjahr(), value(u"FJahr"_qs)}); });
             step([&] { grid->appendRow({labelPflichtStd(), Format(value(u"PflichtStd"_qs), twoDecimals)}); });
             showAddress(step, parameter);
@@ -88,8 +88,7 @@ void loadTblSystem()
     });
 }
 
-void UpdateParameter()
-{
+void UpdateParameter() {
     System& form = screen<System>();
     Recordset parameter = session().AktDatenbank.OpenRecordset(u"System"_qs, dbOpenTable);
     parameter.Edit();
@@ -101,8 +100,7 @@ void UpdateParameter()
     LeereParameter();
 }
 
-void UpdateAdresse()
-{
+void UpdateAdresse() {
     Recordset parameter = session().AktDatenbank.OpenRecordset(u"System"_qs, dbOpenTable);
     parameter.Edit();
     for (const AddressLine& line : address()) parameter.Collect(line.field, line.box->Text());
@@ -111,14 +109,12 @@ void UpdateAdresse()
     for (const AddressLine& line : address()) line.label->setText(line.box->Text());
 }
 
-void LeereParameter()
-{
+void LeereParameter() {
     System& form = screen<System>();
     for (TextBox* box : {form.txtJB, form.txtFJahr, form.txtArbStd}) box->setText(QString());
 }
 
-void LadeParameter(int row)
-{
+void LadeParameter(int row) {
     System& form = screen<System>();
     const std::array<TextBox*, 3> boxes = {form.txtJB, form.txtFJahr, form.txtArbStd};
     if (row < static_cast<int>(boxes.size()))

@@ -12,8 +12,8 @@ QString labelPflichtStd();
 
 /// Reads the row into the grid, the address boxes and the labels of Info.
 void loadTblSystem();
-/// Writes the parameters whose boxes are filled, as whole numbers. A text that is no number is an error of the
-/// caller's.
+/// Writes the parameters whose boxes are filled, as whole numbers. A text that is no number is an error of
+/// the caller's.
 void UpdateParameter();
 /// Writes the address as it stands in its boxes, empty or not.
 void UpdateAdresse();

@@ -33,8 +33,7 @@ public:
     Hourglass& operator=(const Hourglass&) = delete;
 };
 
-void rewriteFile()
-{
+void rewriteFile() {
     const Hourglass hourglass;
     const QString file = programFolder() + u"/uw01.mdb"_qs;
     const QString work = programFolder() + u"/temp/uwtmp.mdb"_qs;
@@ -44,8 +43,7 @@ void rewriteFile()
     if (!QFile::rename(work, file)) throw runtimeError(accessDenied);
 }
 
-void tellFailure(const RuntimeError& error, const Words& words)
-{
+void tellFailure(const RuntimeError& error, const Words& words) {
     const QString title = u"Runtime - Error: %1"_qs.arg(error.number);
     if (error.number == cannotBeRepaired) {
         MsgBox(words.cannotBeRepaired, vbCritical, title);
@@ -56,8 +54,7 @@ void tellFailure(const RuntimeError& error, const Words& words)
     modStart::OeffneDatenbank();
 }
 
-void rewriteDatabase(const Words& words)
-{
+void rewriteDatabase(const Words& words) {
     try {
         rewriteFile();
         MsgBox(words.success, vbInformation);
@@ -71,18 +68,18 @@ void rewriteDatabase(const Words& words)
 
 QString connectText() { return u";pwd=qx-1987-nkr"_qs; }
 
-void KomprimiereDatenbank()
-{
-    rewriteDatabase({u"Komprimierung der Datenbank erfolgreich durchgeführt !"_qs,
-                     u"ACHTUNG: Ein Fehler trat beim Komprimieren der Datenbank auf, die Komprimierung war nicht erfolgreich !"_qs,
-                     u"ACHTUNG: Datenbank konnte nicht erfolgreich komprimiert werden ! Uferwart beendet sich jetzt !"_qs});
+void KomprimiereDatenbank() {
+    rewriteDatabase(
+        {u"Komprimierung der Datenbank erfolgreich durchgeführt !"_qs,
+         u"ACHTUNG: Ein Fehler trat beim Komprimieren der Datenbank auf, die Komprimierung war nicht erfolgreich !"_qs,
+         u"ACHTUNG: Datenbank konnte nicht erfolgreich komprimiert werden ! Uferwart beendet sich jetzt !"_qs});
 }
 
-void RepariereDatenbank()
-{
-    rewriteDatabase({u"Datenbank wurde erfolgreich repariert !"_qs,
-                     u"ACHTUNG: Ein Fehler trat beim Reparieren der Datenbank auf, die Reparatur war nicht erfolgreich !"_qs,
-                     u"ACHTUNG: Datenbank konnte nicht erfolgreich repariert werden ! Uferwart beendet sich jetzt !"_qs});
+void RepariereDatenbank() {
+    rewriteDatabase(
+        {u"Datenbank wurde erfolgreich repariert !"_qs,
+         u"ACHTUNG: Ein Fehler trat beim Reparieren der Datenbank auf, die Reparatur war nicht erfolgreich !"_qs,
+         u"ACHTUNG: Datenbank konnte nicht erfolgreich repariert werden ! Uferwart beendet sich jetzt !"_qs});
 }
 
 } // namespace modTools

@@ -5,8 +5,8 @@
 
 #include <QBoxLayout>
 
-Fangauswertung::Fangauswertung() : Screen(u"Fangauswertung"_qs, u"Fangauswertung"_qs)
-{
+Fangauswertung::Fangauswertung()
+    : Screen(u"Fangauswertung"_qs, u"Fangauswertung"_qs) {
     Ueberschrift = new Heading(u"FANGAUSWERTUNG"_qs, this);
     Face::column(this, Ueberschrift, nullptr)->addStretch();
 }

@@ -18,8 +18,7 @@
 
 // The face of the screen is built in FangbuchFace.cpp; here is what it does.
 
-void Fangbuch::Form_Load()
-{
+void Fangbuch::Form_Load() {
     modFangbuch::InitFangbuch();
     modFangbuch::loadcboFArt(cboFArt);
     modFangbuch::loadcboGName(cboGName);
@@ -29,8 +28,7 @@ void Fangbuch::Form_Load()
     zeigeAnzahlen();
 }
 
-void Fangbuch::Form_Activate()
-{
+void Fangbuch::Form_Activate() {
     // A catch that has just been opened from the evaluation must not lose what it shows.
     if (session().Modus != u"SAVE"_qs) return;
     zeigeAnzahlen();
@@ -41,41 +39,43 @@ void Fangbuch::Form_Activate()
 
 void Fangbuch::Form_Deactivate() { modFangbuch::FangAnzeigeLoeschen(); }
 
-void Fangbuch::zeigeAnzahlen()
-{
+void Fangbuch::zeigeAnzahlen() {
     lblAnzahl->setCaption(QString::number(tblFList->rowCount()));
     lblGesAnz->setCaption(modFangbuch::Ermittle_DSAnzahl());
 }
 
-bool Fangbuch::Form_KeyDown(int key, Qt::KeyboardModifiers)
-{
+bool Fangbuch::Form_KeyDown(int key, Qt::KeyboardModifiers) {
     switch (key) {
-    case Qt::Key_F2: modFangbuch::FangAnzeigeLoeschen(); break;
-    case Qt::Key_F3: Speichern(); break;
-    case Qt::Key_F8: Loeschen(); break;
-    default: return false;
+    case Qt::Key_F2:
+        modFangbuch::FangAnzeigeLoeschen();
+        break;
+    case Qt::Key_F3:
+        Speichern();
+        break;
+    case Qt::Key_F8:
+        Loeschen();
+        break;
+    default:
+        return false;
     }
     session().Modus = u"SAVE"_qs;
     return true;
 }
 
-void Fangbuch::Toolbar1_ButtonClick(const QString& key)
-{
+void Fangbuch::Toolbar1_ButtonClick(const QString& key) {
     if (key == u"tbSpeichern"_qs) Speichern();
     if (key == u"tbLoeschen"_qs) Loeschen();
     if (key == u"tbAnzLoeschen"_qs) modFangbuch::FangAnzeigeLoeschen();
     session().Modus = u"SAVE"_qs;
 }
 
-void Fangbuch::Speichern()
-{
+void Fangbuch::Speichern() {
     Session& s = session();
     if (s.Modus == u"EDIT"_qs && modFangbuch::FangEingabeVollstaendig()) modFangbuch::UpdateFang(s.AktZeile);
     if (s.Modus == u"SAVE"_qs && modFangbuch::FangEingabeVollstaendig()) modFangbuch::SpeicherFang();
 }
 
-void Fangbuch::Loeschen()
-{
+void Fangbuch::Loeschen() {
     Session& s = session();
     if (s.Modus != u"EDIT"_qs) return;
     s.MsgAntwort = MsgBox(u"ACHTUNG: Fangeintrag wirklich löschen ?"_qs, vbYesNo);
@@ -85,8 +85,7 @@ void Fangbuch::Loeschen()
         modFangbuch::FangAnzeigeLoeschen();
 }
 
-void Fangbuch::Auswahl_Click(bool jahr)
-{
+void Fangbuch::Auswahl_Click(bool jahr) {
     Session& s = session();
     if (s.TabelleLaedt) return;
     // The load takes year and month from the session; they are lent to it and put back.
@@ -101,21 +100,18 @@ void Fangbuch::Auswahl_Click(bool jahr)
 
 void Fangbuch::txtMonNr_KeyPress() { ++m_tastenZaehler; }
 
-void Fangbuch::txtMonNr_KeyDone()
-{
+void Fangbuch::txtMonNr_KeyDone() {
     constexpr int keysOfAMonth = 2;
     if (m_tastenZaehler == keysOfAMonth) txtNotiz->setFocus();
 }
 
-void Fangbuch::txtMonNr_LostFocus()
-{
+void Fangbuch::txtMonNr_LostFocus() {
     constexpr int limit = 2;
     if (!txtMonNr->Text().isEmpty() && txtMonNr->Text().length() <= limit) pruefeMonat();
     m_tastenZaehler = 0;
 }
 
-void Fangbuch::pruefeMonat()
-{
+void Fangbuch::pruefeMonat() {
     const QString text = txtMonNr->Text();
     // What was pasted past the key filter and is no number is no month either.
     const qint32 month = IsNumeric(text) ? CLng(text) : 0;
@@ -130,8 +126,7 @@ void Fangbuch::pruefeMonat()
     }
 }
 
-void Fangbuch::tblFList_OnGridCellOpen(int row)
-{
+void Fangbuch::tblFList_OnGridCellOpen(int row) {
     if (row < 0) return;
     modFangbuch::FangAnzeigeLoeschen();
     modFangbuch::loadFang(tblFList, row);

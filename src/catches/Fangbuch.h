@@ -74,5 +74,6 @@ private:
     void pruefeMonat();
     void tblFList_OnGridCellOpen(int row);
 
-    qint16 m_tastenZaehler = 0; ///< keys pressed in txtMonNr since it got the focus; the second ends the month
+    qint16 m_tastenZaehler =
+        0; ///< keys pressed in txtMonNr since it got the focus; the second ends the month
 };

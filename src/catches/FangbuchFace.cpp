@@ -14,8 +14,8 @@
 #include <QGroupBox>
 #include <QLabel>
 
-Fangbuch::Fangbuch() : Screen(u"Fangbuch"_qs, u"Fangbuch"_qs)
-{
+Fangbuch::Fangbuch()
+    : Screen(u"Fangbuch"_qs, u"Fangbuch"_qs) {
     Ueberschrift = new Heading(u"FANGBUCH"_qs, this);
     Toolbar1 = new Toolbar(this);
     Toolbar1->addKey(u"tbSpeichern"_qs, u"&Speichern [ F3 ]"_qs, u"Speichern des Eintrages ins Fangbuch"_qs,
@@ -23,7 +23,8 @@ Fangbuch::Fangbuch() : Screen(u"Fangbuch"_qs, u"Fangbuch"_qs)
     Toolbar1->addSeparator();
     Toolbar1->addKey(u"tbLoeschen"_qs, u"&Löschen [ F8 ]"_qs, u"Löschen des Eintrages"_qs, u"loeschen"_qs);
     Toolbar1->addSeparator();
-    Toolbar1->addKey(u"tbAnzLoeschen"_qs, u"&Anz. löschen [ F2 ]"_qs, u"Anzeige löschen"_qs, u"anzeige-loeschen"_qs);
+    Toolbar1->addKey(u"tbAnzLoeschen"_qs, u"&Anz. löschen [ F2 ]"_qs, u"Anzeige löschen"_qs,
+                     u"anzeige-loeschen"_qs);
     buildEntry();
     layOutEntry();
     buildTable();
@@ -33,8 +34,7 @@ Fangbuch::Fangbuch() : Screen(u"Fangbuch"_qs, u"Fangbuch"_qs)
     connectEvents();
 }
 
-void Fangbuch::buildEntry()
-{
+void Fangbuch::buildEntry() {
     constexpr int monthLimit = 2;
     constexpr int noteLimit = 255;
     fraNr2 = Face::frame(u"fraNr2"_qs, u"Einträge..."_qs, this);
@@ -65,8 +65,7 @@ void Fangbuch::buildEntry()
     }
 }
 
-void Fangbuch::layOutEntry()
-{
+void Fangbuch::layOutEntry() {
     auto* form = new QGridLayout(fraNr2);
     form->setHorizontalSpacing(Face::gap);
     Face::addField(form, 0, lblFJahrBez, cboFJahr);
@@ -108,11 +107,11 @@ void Fangbuch::layOutEntry()
     lblFNr->setAccessibleName(u"Fang - Nr"_qs);
 }
 
-void Fangbuch::buildTable()
-{
+void Fangbuch::buildTable() {
     Frame1 = Face::frame(u"Frame1"_qs, u"Fangbuchtabelle..."_qs, this);
     Label2 = Face::label(u"Label2"_qs, u"Fangbucheintr. f. Monat:"_qs, Frame1);
-    cboSelMonat = new ComboBox(u"cboSelMonat"_qs, ComboBox::Order::AsAdded, ComboBox::Kind::DropDownList, Frame1);
+    cboSelMonat =
+        new ComboBox(u"cboSelMonat"_qs, ComboBox::Order::AsAdded, ComboBox::Kind::DropDownList, Frame1);
     for (int month = 1; month <= 12; ++month) cboSelMonat->AddItem(modRun::ErmittleMonatsname(month));
     Label3 = Face::label(u"Label3"_qs, u"Einträge i. Tabelle:"_qs, Frame1);
     lblAnzahl = new ValueLabel(u"lblAnzahl"_qs, Frame1);
@@ -148,8 +147,7 @@ void Fangbuch::buildTable()
     column->addWidget(tblFList, 1);
 }
 
-void Fangbuch::connectEvents()
-{
+void Fangbuch::connectEvents() {
     on(Toolbar1, &Toolbar::ButtonClick, [this](const QString& key) { Toolbar1_ButtonClick(key); });
     on(cboFJahr, &ComboBox::Click, [this] { Auswahl_Click(true); });
     on(cboSelMonat, &ComboBox::Click, [this] { Auswahl_Click(false); });
@@ -160,5 +158,6 @@ void Fangbuch::connectEvents()
     on(tblFList, &DataTable::OnGridCellOpen, [this](int row, int) { tblFList_OnGridCellOpen(row); });
     modRun::connectGridFocus(tblFList);
     // Here the selection also goes when the grid receives the focus.
-    on(tblFList, &DataTable::OnGridGotFocus, [this] { tblFList->selectRows(0, tblFList->rowCount(), false); });
+    on(tblFList, &DataTable::OnGridGotFocus,
+       [this] { tblFList->selectRows(0, tblFList->rowCount(), false); });
 }

@@ -21,14 +21,12 @@ namespace {
 
 const QString modul = u"modFangbuch"_qs;
 
-Recordset oeffne(const QString& nameOrSelect, RecordsetType type)
-{
+Recordset oeffne(const QString& nameOrSelect, RecordsetType type) {
     return session().AktDatenbank.OpenRecordset(nameOrSelect, type);
 }
 
 /// The seven fields of the form, in the order in which they are written.
-void schreibeFelder(ErrorTail& step, Recordset& fang, const Fangbuch& form)
-{
+void schreibeFelder(ErrorTail& step, Recordset& fang, const Fangbuch& form) {
     step([&] { fang.Collect(u"FangJahr"_qs, CLng(form.cboFJahr->Text())); });
     step([&] { fang.Collect(u"FangMonat"_qs, CLng(form.txtMonNr->Text())); });
     step([&] { fang.Collect(u"FischNr"_qs, ErmittleFischNr(form.cboFArt->Text())); });
@@ -40,21 +38,18 @@ void schreibeFelder(ErrorTail& step, Recordset& fang, const Fangbuch& form)
 }
 
 /// Opens the table and seeks the record whose number the form shows.
-void sucheOffenen(ErrorTail& step, Recordset& fang, const Fangbuch& form)
-{
+void sucheOffenen(ErrorTail& step, Recordset& fang, const Fangbuch& form) {
     step([&] { fang = oeffne(u"Fang"_qs, dbOpenTable); });
     step([&] { fang.Index(u"PrimaryKey"_qs); });
     step([&] { fang.Seek(u"="_qs, CLng(form.lblFNr->Caption())); });
 }
 
-bool imGewaehltenMonat(const Fangbuch& form)
-{
+bool imGewaehltenMonat(const Fangbuch& form) {
     return CLng(form.txtMonNr->Text()) == modRun::ErmittleMonatsNr(form.cboSelMonat->Text());
 }
 
 /// The record just made as a row of the grid, if its month is the one on show.
-void zeigeNeuen(ErrorTail& step, const Recordset& fang, Fangbuch& form)
-{
+void zeigeNeuen(ErrorTail& step, const Recordset& fang, Fangbuch& form) {
     const auto number = [&](const QString& field) { return CLng(fang.Collect(field)); };
     const auto monat = [&] { return modRun::ErmittleMonatsname(number(u"FangMonat"_qs)); };
     if (!step.test([&] { return form.cboSelMonat->Text() == monat(); })) return;
@@ -73,14 +68,12 @@ void zeigeNeuen(ErrorTail& step, const Recordset& fang, Fangbuch& form)
 
 } // namespace
 
-void InitFangbuch()
-{
+void InitFangbuch() {
     session().Modus = u"SAVE"_qs;
     session().AktZeile = 0;
 }
 
-void SpeicherFang()
-{
+void SpeicherFang() {
     withErrorTail(modul, u"SpeicherFang"_qs, [](ErrorTail& step) {
         Fangbuch& form = screen<Fangbuch>();
         Recordset fang;
@@ -98,8 +91,7 @@ void SpeicherFang()
     });
 }
 
-void UpdateFang(int row)
-{
+void UpdateFang(int row) {
     withErrorTail(modul, u"UpdateFang"_qs, [row](ErrorTail& step) {
         Fangbuch& form = screen<Fangbuch>();
         Recordset fang;
@@ -109,8 +101,9 @@ void UpdateFang(int row)
         } else {
             step([&] { fang.Edit(); });
             schreibeFelder(step, fang, form);
-            std::vector<Value> zeile = {form.lblFNr->Caption(),      form.cboFArt->Text(),   form.cboGName->Text(),
-                                        form.txtFangMonat->Text(), form.txtAnzahl->Text(), form.txtGewicht->Text()};
+            std::vector<Value> zeile = {form.lblFNr->Caption(), form.cboFArt->Text(),
+                                        form.cboGName->Text(),  form.txtFangMonat->Text(),
+                                        form.txtAnzahl->Text(), form.txtGewicht->Text()};
             step([&] { form.tblFList->removeRow(row); });
             if (step.test([&] { return imGewaehltenMonat(form); })) {
                 step([&] { form.tblFList->insertRow(row, std::move(zeile)); });
@@ -122,8 +115,7 @@ void UpdateFang(int row)
     });
 }
 
-void LoescheFang(int row)
-{
+void LoescheFang(int row) {
     withErrorTail(modul, u"LoescheFang"_qs, [row](ErrorTail& step) {
         Fangbuch& form = screen<Fangbuch>();
         Recordset fang;
@@ -144,14 +136,12 @@ void LoescheFang(int row)
 namespace {
 
 /// The month as the form writes it: always two digits.
-QString zweistellig(qint32 monat)
-{
+QString zweistellig(qint32 monat) {
     constexpr qint32 lastOfOneDigit = 9;
     return (monat <= lastOfOneDigit ? u"0"_qs : QString()) + QString::number(monat);
 }
 
-void zeigeFang(ErrorTail& step, const Recordset& fang, Fangbuch& form)
-{
+void zeigeFang(ErrorTail& step, const Recordset& fang, Fangbuch& form) {
     const auto text = [&](const QString& field) { return CStr(fang.Collect(field)); };
     const auto monat = [&] { return CLng(fang.Collect(u"FangMonat"_qs)); };
     step([&] { form.lblFNr->setCaption(text(u"FangNr"_qs)); });
@@ -167,8 +157,7 @@ void zeigeFang(ErrorTail& step, const Recordset& fang, Fangbuch& form)
 
 } // namespace
 
-void loadFang(DataTable* grid, int row)
-{
+void loadFang(DataTable* grid, int row) {
     withErrorTail(modul, u"loadFang"_qs, [grid, row](ErrorTail& step) {
         Recordset fang;
         step([&] {
@@ -185,8 +174,7 @@ void loadFang(DataTable* grid, int row)
     });
 }
 
-void FangAnzeigeLoeschen()
-{
+void FangAnzeigeLoeschen() {
     Fangbuch& form = screen<Fangbuch>();
     form.lblFNr->setCaption(QString());
     form.txtFangMonat->setText(QString());
@@ -198,8 +186,7 @@ void FangAnzeigeLoeschen()
     form.txtNotiz->setText(QString());
 }
 
-bool FangEingabeVollstaendig()
-{
+bool FangEingabeVollstaendig() {
     const Fangbuch& form = screen<Fangbuch>();
     const QString fields[] = {form.cboFArt->Text(), form.cboGName->Text(), form.txtAnzahl->Text(),
                               form.txtGewicht->Text(), form.txtMonNr->Text()};
@@ -211,10 +198,11 @@ bool FangEingabeVollstaendig()
     return true;
 }
 
-bool FangbuchZugriff_Erlaubt() { return zugriffErlaubt(modul, u"FangbuchZugriff_Erlaubt"_qs, u"Fangbuch"_qs); }
+bool FangbuchZugriff_Erlaubt() {
+    return zugriffErlaubt(modul, u"FangbuchZugriff_Erlaubt"_qs, u"Fangbuch"_qs);
+}
 
-QString Ermittle_DSAnzahl()
-{
+QString Ermittle_DSAnzahl() {
     QString anzahl = u"0"_qs;
     withErrorTail(modul, u"Ermittle_DSAnzahl"_qs, [&](ErrorTail& step) {
         Recordset fang;

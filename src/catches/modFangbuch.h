@@ -31,8 +31,8 @@ QString Ermittle_DSAnzahl();
 
 /// The entries of AktMonatNr of AktJahr into the catch book's grid.
 void loadTblFList(ProgressBar* pb);
-/// Appends a year list. It is not emptied first; a gap between the highest stored year and AktJahr stays a gap,
-/// and years before the stored ones stand behind them.
+/// Appends a year list. It is not emptied first; a gap between the highest stored year and AktJahr stays a
+/// gap, and years before the stored ones stand behind them.
 void loadcboFJahr(ComboBox* combo);
 /// From the grids of the base data, not from the file.
 void loadcboFArt(ComboBox* combo);

@@ -1,5 +1,5 @@
-#include "ComboBox.h"
 #include "Basis.h"
+#include "ComboBox.h"
 #include "Conversions.h"
 #include "DataTable.h"
 #include "ErrorTail.h"
@@ -19,16 +19,18 @@ namespace modFangbuch {
 
 namespace {
 
-Recordset abfrage(const QString& select) { return session().AktDatenbank.OpenRecordset(select, dbOpenDynaset); }
+Recordset abfrage(const QString& select) {
+    return session().AktDatenbank.OpenRecordset(select, dbOpenDynaset);
+}
 
 /// The entries of the month, streamed from the file into the grid.
-void fuelleListe(ErrorTail& step, Recordset& liste, DataTable* grid, ProgressBar* pb)
-{
+void fuelleListe(ErrorTail& step, Recordset& liste, DataTable* grid, ProgressBar* pb) {
     qint64 count = 0;
     step([&] { liste.MoveFirst(); });
     while (step.test([&] { return !liste.Eof(); })) {
         step([&] {
-            grid->appendRow({liste.Collect(u"FangNr"_qs), liste.Collect(u"FName"_qs), liste.Collect(u"GName"_qs),
+            grid->appendRow({liste.Collect(u"FangNr"_qs), liste.Collect(u"FName"_qs),
+                             liste.Collect(u"GName"_qs),
                              modRun::ErmittleMonatsname(CLng(liste.Collect(u"FangMonat"_qs))),
                              liste.Collect(u"Anzahl"_qs), liste.Collect(u"Gewicht"_qs)});
         });
@@ -39,8 +41,7 @@ void fuelleListe(ErrorTail& step, Recordset& liste, DataTable* grid, ProgressBar
 
 } // namespace
 
-void loadTblFList(ProgressBar* pb)
-{
+void loadTblFList(ProgressBar* pb) {
     withErrorTail(u"modStart"_qs, u"loadTblFList"_qs, [pb](ErrorTail& step) {
         const QString jahr = QString::number(session().AktJahr);
         const QString monat = QString::number(session().AktMonatNr);
@@ -78,8 +79,7 @@ void loadTblFList(ProgressBar* pb)
 namespace {
 
 /// Lowest or highest year in the catch book; AktJahr where there is none.
-qint32 grenzjahr(ErrorTail& step, const QString& select)
-{
+qint32 grenzjahr(ErrorTail& step, const QString& select) {
     qint32 jahr = session().AktJahr;
     Recordset fang;
     step([&] { fang = abfrage(select); });
@@ -91,16 +91,14 @@ qint32 grenzjahr(ErrorTail& step, const QString& select)
     return jahr;
 }
 
-void fuelleAusGrid(ComboBox* combo, const DataTable* grid)
-{
+void fuelleAusGrid(ComboBox* combo, const DataTable* grid) {
     combo->Clear();
     for (int row = 0; row < grid->rowCount(); ++row) combo->AddItem(grid->cellText(row, 1));
 }
 
 /// One field of the first row of a query, or `otherwise` if it has no row.
 Value schlageNach(const QString& routine, const QString& field, const Value& otherwise,
-                  const std::function<QString()>& select)
-{
+                  const std::function<QString()>& select) {
     Value result = otherwise;
     withErrorTail(u"modFangbuch"_qs, routine, [&](ErrorTail& step) {
         Recordset satz;
@@ -113,8 +111,7 @@ Value schlageNach(const QString& routine, const QString& field, const Value& oth
 
 } // namespace
 
-void loadcboFJahr(ComboBox* combo)
-{
+void loadcboFJahr(ComboBox* combo) {
     withErrorTail(u"modFAuswert"_qs, u"loadcboFJahr"_qs, [combo](ErrorTail& step) {
         const qint32 aktJahr = session().AktJahr;
         const qint32 lowest = grenzjahr(step, u"SELECT MIN(FangJahr) FROM Fang"_qs);
@@ -129,29 +126,23 @@ void loadcboFJahr(ComboBox* combo)
 void loadcboFArt(ComboBox* combo) { fuelleAusGrid(combo, screen<Basis>().tblFBasis); }
 void loadcboGName(ComboBox* combo) { fuelleAusGrid(combo, screen<Basis>().tblGBasis); }
 
-qint32 ErmittleFischNr(const QString& name)
-{
-    return CLng(schlageNach(u"ErmittleFischNr"_qs, u"FNr"_qs, 0, [&] {
-        return u"SELECT FNr FROM Fisch WHERE FName = "_qs + quoted(name);
-    }));
+qint32 ErmittleFischNr(const QString& name) {
+    return CLng(schlageNach(u"ErmittleFischNr"_qs, u"FNr"_qs, 0,
+                            [&] { return u"SELECT FNr FROM Fisch WHERE FName = "_qs + quoted(name); }));
 }
 
-QString ErmittleFischname(qint32 number)
-{
+QString ErmittleFischname(qint32 number) {
     return CStr(schlageNach(u"ErmittleFischname"_qs, u"FName"_qs, QString(), [&] {
         return u"SELECT FName FROM Fisch WHERE FNr = "_qs + QString::number(number);
     }));
 }
 
-qint32 ErmittleGewaesserNr(const QString& name)
-{
-    return CLng(schlageNach(u"ErmittleGewaesserNr"_qs, u"GNr"_qs, 0, [&] {
-        return u"SELECT GNr FROM Gewaesser WHERE GName = "_qs + quoted(name);
-    }));
+qint32 ErmittleGewaesserNr(const QString& name) {
+    return CLng(schlageNach(u"ErmittleGewaesserNr"_qs, u"GNr"_qs, 0,
+                            [&] { return u"SELECT GNr FROM Gewaesser WHERE GName = "_qs + quoted(name); }));
 }
 
-QString ErmittleGewaessername(qint32 number)
-{
+QString ErmittleGewaessername(qint32 number) {
     return CStr(schlageNach(u"ErmittleGewaessername"_qs, u"GName"_qs, QString(), [&] {
         return u"SELECT GName FROM Gewaesser WHERE GNr = "_qs + QString::number(number);
     }));

@@ -4,8 +4,7 @@
 
 namespace modKontakt {
 
-bool KontaktZugriff_Erlaubt()
-{
+bool KontaktZugriff_Erlaubt() {
     return zugriffErlaubt(u"modKontakt"_qs, u"KontaktZugriff_Erlaubt"_qs, u"Kontakt"_qs);
 }
 

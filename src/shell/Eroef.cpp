@@ -8,8 +8,8 @@
 #include <QIcon>
 #include <QLabel>
 
-Eroef::Eroef() : Screen(u"Eroef"_qs, u"Uferwart"_qs)
-{
+Eroef::Eroef()
+    : Screen(u"Eroef"_qs, u"Uferwart"_qs) {
     standAlone();
     setWindowFlags(Qt::SplashScreen);
     Picture1 = Face::label(u"Picture1"_qs, QString(), this);

@@ -9,8 +9,7 @@ constexpr int boxesPerRoutine = 4;
 
 void beginErrorTail() { session().FehlerZaehler = 0; }
 
-void ErrorTail::report(const RuntimeError& error)
-{
+void ErrorTail::report(const RuntimeError& error) {
     if (session().Beendet) throw LeaveRoutine{};
     const QString title = u"Runtime - Error: %1"_qs.arg(error.number);
     qint16& count = session().FehlerZaehler;
@@ -19,8 +18,8 @@ void ErrorTail::report(const RuntimeError& error)
                vbExclamation, title);
         throw LeaveRoutine{};
     }
-    MsgBox(u"Unvorhergesehener Fehler in Modul: "_qs + m_module + u" / Routine: "_qs + m_routine + u" !\n\r"_qs +
-               u"Beschreibung: "_qs + error.description,
+    MsgBox(u"Unvorhergesehener Fehler in Modul: "_qs + m_module + u" / Routine: "_qs + m_routine +
+               u" !\n\r"_qs + u"Beschreibung: "_qs + error.description,
            vbExclamation, title);
     ++count;
 }

@@ -15,16 +15,18 @@
 ///         ...
 ///     });
 ///
-/// After four such boxes the fifth error leaves the routine. The count is a session value, so a called routine
-/// with a tail of its own sets the caller's count to 0 as well. Statements that can't fail need no step.
+/// After four such boxes the fifth error leaves the routine. The count is a session value, so a called
+/// routine with a tail of its own sets the caller's count to 0 as well. Statements that can't fail need no
+/// step.
 class ErrorTail {
 public:
-    ErrorTail(QString module, QString routine) : m_module(std::move(module)), m_routine(std::move(routine)) {}
+    ErrorTail(QString module, QString routine)
+        : m_module(std::move(module))
+        , m_routine(std::move(routine)) {}
 
     /// Runs one statement.
     template<typename Statement>
-    void operator()(Statement&& statement)
-    {
+    void operator()(Statement&& statement) {
         try {
             statement();
         } catch (const RuntimeError& error) {
@@ -32,11 +34,10 @@ public:
         }
     }
 
-    /// Runs the condition of a branch. After an error in it the next statement is the first in its branch, so an
-    /// error counts as true.
+    /// Runs the condition of a branch. After an error in it the next statement is the first in its branch, so
+    /// an error counts as true.
     template<typename Condition>
-    bool test(Condition&& condition)
-    {
+    bool test(Condition&& condition) {
         try {
             return condition();
         } catch (const RuntimeError& error) {
@@ -59,8 +60,7 @@ private:
 void beginErrorTail();
 
 template<typename Routine>
-void withErrorTail(const QString& module, const QString& routine, Routine&& body)
-{
+void withErrorTail(const QString& module, const QString& routine, Routine&& body) {
     beginErrorTail();
     ErrorTail step(module, routine);
     try {

@@ -14,8 +14,8 @@
 #include <QIcon>
 #include <QPushButton>
 
-Login::Login() : Screen(u"Login"_qs, u"Uferwart - ANMELDUNG -"_qs)
-{
+Login::Login()
+    : Screen(u"Login"_qs, u"Uferwart - ANMELDUNG -"_qs) {
     standAlone();
     Picture1 = Face::label(u"Picture1"_qs, QString(), this);
     Picture1->setPixmap(Theme::icon(u"login"_qs).pixmap(QSize(64, 64), devicePixelRatio()));
@@ -53,15 +53,13 @@ void Login::Form_Paint() { txtBenutzer->setFocus(); }
 
 void Login::Form_QueryUnload() { cmdEsc_Click(); }
 
-bool Login::Form_KeyDown(int key, Qt::KeyboardModifiers)
-{
+bool Login::Form_KeyDown(int key, Qt::KeyboardModifiers) {
     if (key != Qt::Key_Return && key != Qt::Key_Enter) return false;
     modStart::Anmelden();
     return true;
 }
 
-void Login::cmdEsc_Click()
-{
+void Login::cmdEsc_Click() {
     unload<Login>();
     unload<Main>();
 }

@@ -3,6 +3,7 @@
 #include "Info.h"
 #include "NavigationBar.h"
 #include "Program.h"
+#include "Screens.h"
 #include "Session.h"
 #include "Stage.h"
 #include "StatusBar.h"
@@ -22,22 +23,19 @@
 
 namespace {
 
-QAction* addItem(QMenu* menu, const char* name, const QString& caption)
-{
+QAction* addItem(QMenu* menu, const char* name, const QString& caption) {
     QAction* item = menu->addAction(caption);
     item->setObjectName(QLatin1String(name));
     return item;
 }
 
-QMenu* addMenu(QMenuBar* bar, const char* name, const QString& caption)
-{
+QMenu* addMenu(QMenuBar* bar, const char* name, const QString& caption) {
     QMenu* menu = bar->addMenu(caption);
     menu->setObjectName(QLatin1String(name));
     return menu;
 }
 
-QMenu* popup(QWidget* parent, const char* name, const QString& caption)
-{
+QMenu* popup(QWidget* parent, const char* name, const QString& caption) {
     auto* menu = new QMenu(caption, parent);
     menu->setObjectName(QLatin1String(name));
     return menu;
@@ -45,8 +43,8 @@ QMenu* popup(QWidget* parent, const char* name, const QString& caption)
 
 } // namespace
 
-Main::Main() : Screen(u"Main"_qs, u"Uferwart"_qs)
-{
+Main::Main()
+    : Screen(u"Main"_qs, u"Uferwart"_qs) {
     standAlone();
     menuBar = new QMenuBar(this);
     ButtnBar = new NavigationBar(u"ButtnBar"_qs, this);
@@ -69,8 +67,7 @@ Main::Main() : Screen(u"Main"_qs, u"Uferwart"_qs)
     on(ButtnBar, &NavigationBar::itemClicked, [this](const QString& key) { ButtnBar_ItemClick(key); });
 }
 
-void Main::buildMenus()
-{
+void Main::buildMenus() {
     mnuDatei = addMenu(menuBar, "mnuDatei", u"&Datei"_qs);
     mnuBeenden = addItem(mnuDatei, "mnuBeenden", u"&Beenden"_qs);
     mnuKontMenu_Mitgl = popup(this, "mnuKontMenu_Mitgl", u"Kontextmenü_Mitgl"_qs);
@@ -90,8 +87,7 @@ void Main::buildMenus()
     on(mnuInfo, &QAction::triggered, [this](bool) { mnuInfo_Click(); });
 }
 
-void Main::buildPanels()
-{
+void Main::buildPanels() {
     using Style = StatusBar::Style;
     StatusBar1->addPanel(Style::Date, QString(), u"Datum"_qs);
     StatusBar1->addPanel(Style::Time, QString(), u"Zeit"_qs);
@@ -109,35 +105,30 @@ void Main::Form_Unload() { Program::current().finish(); }
 
 void Main::Form_QueryUnload() { unload<Main>(); }
 
-void Main::showEvent(QShowEvent* event)
-{
+void Main::showEvent(QShowEvent* event) {
     Screen::showEvent(event);
     stage->setActive(true);
 }
 
-void Main::hideEvent(QHideEvent* event)
-{
+void Main::hideEvent(QHideEvent* event) {
     Screen::hideEvent(event);
     if (!event->spontaneous()) stage->setActive(false);
 }
 
 void Main::ButtnBar_ItemClick(const QString& key) { modNavigation::zeigeBereich(key); }
 
-void Main::mnuInfo_Click()
-{
+void Main::mnuInfo_Click() {
     modNavigation::binde(session().AktBarItem, screen<Info>());
     screen<Info>().Show();
 }
 
-void Main::loadKontMenu_Mitgl()
-{
+void Main::loadKontMenu_Mitgl() {
     mnuMitglInfo->setEnabled(modKontakt::KontaktZugriff_Erlaubt());
     mnuArbContr->setEnabled(modArbeit::ArbeitsZugriff_Erlaubt());
     mnuKontMenu_Mitgl->popup(QCursor::pos());
 }
 
-void Main::loadKontMenu_FAusw()
-{
+void Main::loadKontMenu_FAusw() {
     mnuFangInfo->setEnabled(modFangbuch::FangbuchZugriff_Erlaubt());
     mnuKontMenu_FAusw->popup(QCursor::pos());
 }

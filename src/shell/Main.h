@@ -9,8 +9,8 @@ class QMenuBar;
 class Stage;
 class StatusBar;
 
-/// The frame: menus, navigation bar, the stage with the other screens, status bar. Its load is the start-up of
-/// the program, its unload the end.
+/// The frame: menus, navigation bar, the stage with the other screens, status bar. Its load is the start-up
+/// of the program, its unload the end.
 class Main : public Screen {
     Q_OBJECT
 

@@ -10,15 +10,13 @@ namespace {
 Program* running = nullptr;
 }
 
-Program::Program(const QString& folder)
-{
+Program::Program(const QString& folder) {
     running = this;
     beginSession(folder);
     setEventFailure([this](const RuntimeError& error) { fail(error); });
 }
 
-Program::~Program()
-{
+Program::~Program() {
     finish();
     setEventFailure({});
     running = nullptr;
@@ -26,14 +24,12 @@ Program::~Program()
 
 Program& Program::current() { return *running; }
 
-void Program::start()
-{
+void Program::start() {
     m_running = true;
     screen<Main>();
 }
 
-void Program::finish()
-{
+void Program::finish() {
     if (!m_running) return;
     m_running = false;
     session().Beendet = true;
@@ -44,8 +40,7 @@ void Program::finish()
     Q_EMIT ended();
 }
 
-void Program::fail(const RuntimeError& error)
-{
+void Program::fail(const RuntimeError& error) {
     if (!m_running) return;
     MsgBox(u"Laufzeitfehler '%1':\r\n\r\n%2"_qs.arg(error.number).arg(error.description), vbCritical);
     finish();

@@ -4,8 +4,8 @@
 
 #include <QObject>
 
-/// One life of the program over one program folder, from the start-up to its end. The clock, the boxes and what
-/// else stands around the program are put in force by whoever makes it.
+/// One life of the program over one program folder, from the start-up to its end. The clock, the boxes and
+/// what else stands around the program are put in force by whoever makes it.
 class Program : public QObject {
     Q_OBJECT
 

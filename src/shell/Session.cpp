@@ -12,8 +12,7 @@ struct State {
     QString folder;
 };
 
-State& state()
-{
+State& state() {
     static State one;
     return one;
 }
@@ -24,14 +23,12 @@ Session& session() { return state().values; }
 
 const QString& programFolder() { return state().folder; }
 
-void beginSession(const QString& folder)
-{
+void beginSession(const QString& folder) {
     state().values = Session{};
     state().folder = folder;
 }
 
-QString sessionValue(const QString& name)
-{
+QString sessionValue(const QString& name) {
     const Session& s = session();
     const QHash<QString, Value> values = {
         {u"AktTag"_qs, qint32(s.AktTag)},

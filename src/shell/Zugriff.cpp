@@ -7,8 +7,7 @@
 #include "SqlText.h"
 #include "StatusBar.h"
 
-bool zugriffErlaubt(const QString& module, const QString& routine, const QString& right)
-{
+bool zugriffErlaubt(const QString& module, const QString& routine, const QString& right) {
     bool allowed = false;
     withErrorTail(module, routine, [&](ErrorTail& step) {
         // The status bar is the only record of who is logged in.
@@ -16,7 +15,8 @@ bool zugriffErlaubt(const QString& module, const QString& routine, const QString
         Recordset gruppe;
         step([&] {
             gruppe = session().AktDatenbank.OpenRecordset(
-                u"SELECT * FROM Gruppen WHERE GNr = (SELECT GNr FROM Benutzer WHERE Name = "_qs + quoted(name) + u")"_qs,
+                u"SELECT * FROM Gruppen WHERE GNr = (SELECT GNr FROM Benutzer WHERE Name = "_qs +
+                    quoted(name) + u")"_qs,
                 dbOpenDynaset);
         });
         if (step.test([&] { return gruppe.RecordCount() >= 1; }))

@@ -6,8 +6,7 @@
 
 namespace modEnde {
 
-void mnuBeenden_Click()
-{
+void mnuBeenden_Click() {
     modStart::SchliesseDatenbank();
     unload<Main>();
 }

@@ -27,8 +27,7 @@ struct Item {
 };
 
 template<typename T>
-Screen& make()
-{
+Screen& make() {
     return screen<T>();
 }
 
@@ -46,8 +45,7 @@ const Item organisationItems[] = {
     {u"Besatzung", u"Besatz.-Liste", u"besatzung", &make<Besatzung>},
 };
 
-const Item* find(const QString& key)
-{
+const Item* find(const QString& key) {
     for (const Item& item : systemItems)
         if (key == item.key) return &item;
     for (const Item& item : organisationItems)
@@ -56,23 +54,21 @@ const Item* find(const QString& key)
 }
 
 template<std::size_t count>
-BarGroup* addGroup(const QString& caption, const Item (&items)[count])
-{
+BarGroup* addGroup(const QString& caption, const Item (&items)[count]) {
     BarGroup* group = screen<Main>().ButtnBar->addGroup(caption);
     for (const Item& item : items)
-        group->addItem(QString::fromUtf16(item.key), QString::fromUtf16(item.caption), QString::fromUtf16(item.icon));
+        group->addItem(QString::fromUtf16(item.key), QString::fromUtf16(item.caption),
+                       QString::fromUtf16(item.icon));
     return group;
 }
 
 template<typename T>
-void hideIfLoaded()
-{
+void hideIfLoaded() {
     if (isLoaded<T>()) screen<T>().Hide();
 }
 
 /// Makes the item the current one, binds its screen and shows that.
-void showScreen(const QString& key)
-{
+void showScreen(const QString& key) {
     Screen& target = find(key)->screen();
     session().AktBarItem = screen<Main>().ButtnBar->item(key);
     binde(session().AktBarItem, target);
@@ -81,8 +77,7 @@ void showScreen(const QString& key)
 
 } // namespace
 
-void InitButtnBar()
-{
+void InitButtnBar() {
     session().GruppeSystem = addGroup(u"System"_qs, systemItems);
     session().GruppeOrganisation = addGroup(u"Organisation"_qs, organisationItems);
     constexpr int organisation = 1;
@@ -91,16 +86,14 @@ void InitButtnBar()
     screen<Main>().ButtnBar->setItemSpacing(itemSpacing);
 }
 
-void binde(BarItem* item, Screen& target)
-{
+void binde(BarItem* item, Screen& target) {
     // A start-up that ended in a repair leaves the bar without items.
     if (!item) return;
     item->takeWindow(&target);
     screen<Main>().ButtnBar->setCurrentItem(item);
 }
 
-void VersteckeFormen()
-{
+void VersteckeFormen() {
     hideIfLoaded<Benutzer>();
     hideIfLoaded<System>();
     hideIfLoaded<Fangbuch>();
@@ -112,8 +105,7 @@ void VersteckeFormen()
     hideIfLoaded<Hinter>();
 }
 
-void zeigeBereich(const QString& key)
-{
+void zeigeBereich(const QString& key) {
     if (key == u"Kontakte"_qs) session().SuchAufrufer = 0;
     if (key == u"Arbeit"_qs) session().SuchAufrufer = 1;
     VersteckeFormen();
@@ -121,8 +113,7 @@ void zeigeBereich(const QString& key)
     if (key == u"Fangbuch"_qs) screen<Fangbuch>().cboFArt->setFocus();
 }
 
-void zeigeErstesFenster()
-{
+void zeigeErstesFenster() {
     NavigationBar* bar = screen<Main>().ButtnBar;
     if (bar->item(u"Fangbuch"_qs)) return showScreen(u"Fangbuch"_qs);
     // A user without the right to the catch book begins on the first screen he has, or on an empty frame.

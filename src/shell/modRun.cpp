@@ -14,16 +14,14 @@ namespace modRun {
 
 namespace {
 
-const std::array<QString, 12>& monthNames()
-{
+const std::array<QString, 12>& monthNames() {
     static const std::array<QString, 12> names = {
         u"Januar"_qs, u"Februar"_qs, u"März"_qs,      u"April"_qs,   u"Mai"_qs,      u"Juni"_qs,
         u"Juli"_qs,   u"August"_qs,  u"September"_qs, u"Oktober"_qs, u"November"_qs, u"Dezember"_qs};
     return names;
 }
 
-void tellWrongMonth(const QString& inserted)
-{
+void tellWrongMonth(const QString& inserted) {
     MsgBox(u"FEHLER: Monatsbezeichnung fehlerhaft ! Es wird Standartmonat - "_qs + inserted +
                u" - eingesetzt.\n\rBitte ändern Sie den Datensatz um diesen fehler zu vermeiden !"_qs,
            vbCritical);
@@ -35,8 +33,7 @@ constexpr int enter = 13;
 bool isDigit(int code) { return code >= '0' && code <= '9'; }
 bool isLetter(int code) { return (code >= 'A' && code <= 'Z') || (code >= 'a' && code <= 'z'); }
 
-int passOrBeep(int code, bool accepted)
-{
+int passOrBeep(int code, bool accepted) {
     if (accepted) return code;
     QApplication::beep();
     return 0;
@@ -44,30 +41,28 @@ int passOrBeep(int code, bool accepted)
 
 } // namespace
 
-void SetzeGridFarben(SelectionStyle& style)
-{
+void SetzeGridFarben(SelectionStyle& style) {
     style.back = QColor(255, 255, 255);
     style.fore = QColor(0, 0, 0);
     style.style = 1;
 }
 
-void connectGridFocus(DataTable* grid)
-{
+void connectGridFocus(DataTable* grid) {
     QObject::connect(grid, &DataTable::OnGridGotFocus, grid,
                      [grid] { runEvent([grid] { SetzeGridFarben(grid->selectionStyle()); }); });
     QObject::connect(grid, &DataTable::OnGridLostFocus, grid,
                      [grid] { runEvent([grid] { grid->selectRows(0, grid->rowCount(), false); }); });
 }
 
-void MeldeNichtVorhanden() { MsgBox(u"FEHLER: Datensatz nicht vorhanden o. nicht vorhanden !"_qs, vbCritical); }
+void MeldeNichtVorhanden() {
+    MsgBox(u"FEHLER: Datensatz nicht vorhanden o. nicht vorhanden !"_qs, vbCritical);
+}
 
-void MeldeNichtsGefunden()
-{
+void MeldeNichtsGefunden() {
     MsgBox(u"Keine passenden Datensätze gefunden, bitte versuchen Sie es erneut!"_qs, vbInformation);
 }
 
-void MeldeEingabeFehler()
-{
+void MeldeEingabeFehler() {
     MsgBox(u"ACHTUNG: Eingabefelder nicht korrekt, Vorgang abgebrochen !"_qs, vbInformation);
 }
 
@@ -77,27 +72,23 @@ int CheckBoxAusWert(const Field& field) { return field.Value() == Value(true) ? 
 
 bool WertAusOption(const QAbstractButton* option) { return option->isChecked(); }
 
-Date DatumAusText(const TextBox* box)
-{
+Date DatumAusText(const TextBox* box) {
     const Value text(box->Text());
     return CDate(IsDate(text) ? text : Value(u"00:00:0000"_qs));
 }
 
-QString TextAusDatum(const Field& field)
-{
+QString TextAusDatum(const Field& field) {
     const Value value = field.Value();
     return CDate(value).isEmpty() ? QString() : CStr(value);
 }
 
-QString ErmittleMonatsname(qint32 number)
-{
+QString ErmittleMonatsname(qint32 number) {
     if (number >= 1 && number <= 12) return monthNames()[static_cast<std::size_t>(number - 1)];
     tellWrongMonth(u"Januar"_qs);
     return u"Januar"_qs;
 }
 
-qint16 ErmittleMonatsNr(const QString& name)
-{
+qint16 ErmittleMonatsNr(const QString& name) {
     const auto& names = monthNames();
     for (std::size_t i = 0; i < names.size(); ++i)
         if (names[i] == name) return static_cast<qint16>(i + 1);
@@ -105,16 +96,15 @@ qint16 ErmittleMonatsNr(const QString& name)
     return 1;
 }
 
-QString WochentagName(int number)
-{
-    static const std::array<QString, 7> names = {u"Sonntag"_qs,    u"Montag"_qs,   u"Dienstag"_qs, u"Mittwoch"_qs,
-                                                 u"Donnerstag"_qs, u"Freistag"_qs, u"Samstag"_qs};
+QString WochentagName(int number) {
+    static const std::array<QString, 7> names = {u"Sonntag"_qs,  u"Montag"_qs,     u"Dienstag"_qs,
+                                                 u"Mittwoch"_qs, u"Donnerstag"_qs, u"Freistag"_qs,
+                                                 u"Samstag"_qs};
     return number >= 1 && number <= 7 ? names[static_cast<std::size_t>(number - 1)] : QString();
 }
 
 void GridVerweiseAbgleichen(DataTable* grid, int column, const QString& text, const QString& mode,
-                            const QString& oldText)
-{
+                            const QString& oldText) {
     if (mode == u"LOESCHEN"_qs) {
         grid->removeRowsWithText(column, text);
     } else if (mode == u"UPDATE"_qs) {
@@ -124,21 +114,19 @@ void GridVerweiseAbgleichen(DataTable* grid, int column, const QString& text, co
 
 int FilterZiffern(int code) { return passOrBeep(code, isDigit(code) || code == backspace || code == enter); }
 
-int FilterKomma(int code)
-{
+int FilterKomma(int code) {
     return passOrBeep(code, isDigit(code) || code == backspace || code == enter || code == ',');
 }
 
-int FilterTelefon(int code)
-{
+int FilterTelefon(int code) {
     return passOrBeep(code, isDigit(code) || code == backspace || code == '-' || code == ' ');
 }
 
 int FilterDatum(int code) { return passOrBeep(code, isDigit(code) || code == backspace || code == '.'); }
 
-int FilterSuche(int code)
-{
-    return passOrBeep(code, isDigit(code) || isLetter(code) || code == backspace || code == '*' || code == ' ');
+int FilterSuche(int code) {
+    return passOrBeep(code,
+                      isDigit(code) || isLetter(code) || code == backspace || code == '*' || code == ' ');
 }
 
 } // namespace modRun

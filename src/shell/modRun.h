@@ -38,9 +38,9 @@ qint16 ErmittleMonatsNr(const QString& name);
 /// 1 (Sunday) to 7; any other number gives the empty text.
 QString WochentagName(int number);
 
-/// Keeps a grid in step after a base record has changed. "LOESCHEN" removes every row whose cell in the column
-/// is `text`; "UPDATE" writes `text` into every cell of the column that is `oldText`; any other word does
-/// nothing.
+/// Keeps a grid in step after a base record has changed. "LOESCHEN" removes every row whose cell in the
+/// column is `text`; "UPDATE" writes `text` into every cell of the column that is `oldText`; any other word
+/// does nothing.
 void GridVerweiseAbgleichen(DataTable* grid, int column, const QString& text, const QString& mode,
                             const QString& oldText);
 

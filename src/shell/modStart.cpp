@@ -16,6 +16,7 @@
 #include "Stage.h"
 #include "StatusBar.h"
 #include "TextBox.h"
+#include "Toolbar.h"
 #include "modBasis.h"
 #include "modFangbuch.h"
 #include "modNavigation.h"
@@ -33,47 +34,45 @@ constexpr int wrongPassword = 3031;
 /// Sizes were given in twips, fifteen to a pixel.
 constexpr int twips(int count) { return count / 15; }
 
-void tellEnd(const QString& text, const QString& title = u"Uferwart"_qs)
-{
+void tellEnd(const QString& text, const QString& title = u"Uferwart"_qs) {
     MsgBox(text, vbCritical, title);
     unload<Main>();
 }
 
-void askForRepair()
-{
-    session().MsgAntwort = MsgBox(u"ACHTUNG: Datenbank konnte nicht geöffnet werden. Soll Uferwart versuchen die "_qs +
-                                      u"Datenbank zu reparieren?"_qs,
-                                  vbYesNo);
+void askForRepair() {
+    session().MsgAntwort =
+        MsgBox(u"ACHTUNG: Datenbank konnte nicht geöffnet werden. Soll Uferwart versuchen die "_qs +
+                   u"Datenbank zu reparieren?"_qs,
+               vbYesNo);
     if (session().MsgAntwort != vbYes) return tellEnd(u"Uferwart beendet sich jetzt !"_qs);
     modTools::RepariereDatenbank();
     // The frame stands open with an empty bar: the user starts the program again.
     if (isLoaded<Main>()) screen<Main>().Show();
 }
 
-void startFailed(const RuntimeError& error)
-{
+void startFailed(const RuntimeError& error) {
     switch (error.number) {
     case fileNotFound:
-        return tellEnd(u"ACHTUNG: Datenbank nicht gefunden ! Bitte stellen Sie sicher das sich die Datenbank im \n\r"_qs +
-                           u"im Root - Verzeichnis von Uferwart befindet (z.B: C:\\...\\Uferwart\\uw01.mdb) ! "_qs +
-                           u"Uferwart beendet sich jetzt !"_qs,
-                       u"Runtime - Error: %1"_qs.arg(error.number));
+        return tellEnd(
+            u"ACHTUNG: Datenbank nicht gefunden ! Bitte stellen Sie sicher das sich die Datenbank im \n\r"_qs +
+                u"im Root - Verzeichnis von Uferwart befindet (z.B: C:\\...\\Uferwart\\uw01.mdb) ! "_qs +
+                u"Uferwart beendet sich jetzt !"_qs,
+            u"Runtime - Error: %1"_qs.arg(error.number));
     case wrongPassword:
         return tellEnd(u"ACHTUNG: Datenbank - Passwort nicht korrekt ! Uferwart beendet sich jetzt !"_qs);
-    default: return askForRepair();
+    default:
+        return askForRepair();
     }
 }
 
 /// The bar's item goes, whether or not it is still there.
-void removeItem(BarGroup* group, const QString& key)
-{
+void removeItem(BarGroup* group, const QString& key) {
     session().AktBarItem = group->item(key);
     group->removeItem(key);
     session().AktBarItem = nullptr;
 }
 
-void continueAfterLogin()
-{
+void continueAfterLogin() {
     screen<::Login>().Hide();
     screen<Eroef>().Show();
     screen<Eroef>().repaint();
@@ -95,8 +94,7 @@ void continueAfterLogin()
 
 } // namespace
 
-void StarteUferwart()
-{
+void StarteUferwart() {
     try {
         OeffneDatenbank();
         modNavigation::InitButtnBar();
@@ -108,28 +106,24 @@ void StarteUferwart()
     }
 }
 
-void OeffneDatenbank()
-{
+void OeffneDatenbank() {
     session().AktWorkspace = DBEngine::Workspaces(0);
-    session().AktDatenbank =
-        session().AktWorkspace.OpenDatabase(programFolder() + u"/uw01.mdb"_qs, false, false, modTools::connectText());
+    session().AktDatenbank = session().AktWorkspace.OpenDatabase(programFolder() + u"/uw01.mdb"_qs, false,
+                                                                 false, modTools::connectText());
 }
 
-void SchliesseDatenbank()
-{
+void SchliesseDatenbank() {
     // The repair offered by a failed start comes here without an open database.
     if (session().AktDatenbank.isOpen()) session().AktDatenbank.Close();
 }
 
-void SetzeFensterGroesse()
-{
+void SetzeFensterGroesse() {
     constexpr int firstWidth = 1000;
     screen<Main>().resize(firstWidth, twips(8625));
     screen<Main>().ButtnBar->resize(screen<Main>().ButtnBar->width(), twips(7695));
 }
 
-void Anmelden()
-{
+void Anmelden() {
     ::Login& form = screen<::Login>();
     if (form.txtBenutzer->Text().isEmpty()) return form.txtBenutzer->setFocus();
     if (Login(form.txtBenutzer->Text(), form.txtPassw->Text())) return continueAfterLogin();
@@ -138,19 +132,19 @@ void Anmelden()
     form.txtBenutzer->setFocus();
 }
 
-bool Login(const QString& name, const QString& passwort)
-{
+bool Login(const QString& name, const QString& passwort) {
     bool valid = false;
     withErrorTail(u"modStart"_qs, u"Login"_qs, [&](ErrorTail& step) {
         Recordset gruppe;
         step([&] {
             gruppe = session().AktDatenbank.OpenRecordset(
-                u"SELECT * FROM Gruppen WHERE GNr = (SELECT GNr FROM Benutzer WHERE Name = "_qs + quoted(name) +
-                    u" AND Passwort = "_qs + quoted(passwort) + u")"_qs,
+                u"SELECT * FROM Gruppen WHERE GNr = (SELECT GNr FROM Benutzer WHERE Name = "_qs +
+                    quoted(name) + u" AND Passwort = "_qs + quoted(passwort) + u")"_qs,
                 dbOpenDynaset);
         });
         if (step.test([&] { return gruppe.RecordCount() == 0; })) {
-            MsgBox(u"Anmeldung fehlgeschlagen, bitte versuchen Sie es erneut!"_qs, vbCritical, u"UFERWART"_qs);
+            MsgBox(u"Anmeldung fehlgeschlagen, bitte versuchen Sie es erneut!"_qs, vbCritical,
+                   u"UFERWART"_qs);
             valid = false;
         } else {
             screen<Main>().StatusBar1->setPanelText(4, name);
@@ -162,8 +156,7 @@ bool Login(const QString& name, const QString& passwort)
     return valid;
 }
 
-void WendeRechteAn(const Recordset& gruppe)
-{
+void WendeRechteAn(const Recordset& gruppe) {
     const auto denied = [&](const QString& right) { return gruppe.Fields(right).Value() == Value(false); };
     BarGroup* organisation = session().GruppeOrganisation;
     BarGroup* system = session().GruppeSystem;
@@ -178,8 +171,7 @@ void WendeRechteAn(const Recordset& gruppe)
     if (denied(u"System"_qs)) removeItem(system, u"Parameter"_qs);
 }
 
-void SetzeDatumsVariablen()
-{
+void SetzeDatumsVariablen() {
     const QDate date = today();
     // The week of the names begins on Sunday.
     session().AktWochentag = modRun::WochentagName(date.dayOfWeek() % 7 + 1);
@@ -191,8 +183,7 @@ void SetzeDatumsVariablen()
 
 bool KontrolliereSystemJahr() { return true; }
 
-void LadeStammdaten()
-{
+void LadeStammdaten() {
     session().TabelleLaedt = true;
     modBasis::loadTblFBasis();
     modBasis::loadTblGBasis();

@@ -11,8 +11,7 @@
 
 namespace Face {
 
-QLabel* label(const QString& name, const QString& text, QWidget* parent)
-{
+QLabel* label(const QString& name, const QString& text, QWidget* parent) {
     auto* made = new QLabel(parent);
     made->setTextFormat(Qt::PlainText);
     made->setText(text);
@@ -20,30 +19,26 @@ QLabel* label(const QString& name, const QString& text, QWidget* parent)
     return made;
 }
 
-QGroupBox* frame(const QString& name, const QString& title, QWidget* parent)
-{
+QGroupBox* frame(const QString& name, const QString& title, QWidget* parent) {
     auto* made = new QGroupBox(title, parent);
     made->setObjectName(name);
     return made;
 }
 
-QPushButton* button(const QString& name, const QString& caption, QWidget* parent)
-{
+QPushButton* button(const QString& name, const QString& caption, QWidget* parent) {
     auto* made = new QPushButton(caption, parent);
     made->setObjectName(name);
     return made;
 }
 
-QVBoxLayout* column(QWidget* window)
-{
+QVBoxLayout* column(QWidget* window) {
     auto* made = new QVBoxLayout(window);
     made->setContentsMargins(12, 12, 12, 12);
     made->setSpacing(gap);
     return made;
 }
 
-QVBoxLayout* column(QWidget* screen, Heading* heading, Toolbar* toolbar)
-{
+QVBoxLayout* column(QWidget* screen, Heading* heading, Toolbar* toolbar) {
     auto* whole = new QVBoxLayout(screen);
     whole->setContentsMargins(0, 0, 0, 0);
     whole->setSpacing(0);
@@ -56,8 +51,7 @@ QVBoxLayout* column(QWidget* screen, Heading* heading, Toolbar* toolbar)
     return rest;
 }
 
-void addField(QGridLayout* form, int row, QLabel* label, QWidget* field, int column)
-{
+void addField(QGridLayout* form, int row, QLabel* label, QWidget* field, int column) {
     form->addWidget(label, row, column);
     form->addWidget(field, row, column + 1);
     label->setBuddy(field);

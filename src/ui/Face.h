@@ -11,8 +11,8 @@ class QVBoxLayout;
 class QWidget;
 class Toolbar;
 
-/// What the faces of the screens are made of: labels left of their fields on common lines, frames, a heading with
-/// the toolbar below it. Distances are multiples of four.
+/// What the faces of the screens are made of: labels left of their fields on common lines, frames, a heading
+/// with the toolbar below it. Distances are multiples of four.
 namespace Face {
 
 constexpr int gap = 8;
@@ -24,7 +24,8 @@ QPushButton* button(const QString& name, const QString& caption, QWidget* parent
 
 /// The column that holds everything on a window.
 QVBoxLayout* column(QWidget* window);
-/// The column of a screen on the stage: heading, toolbar, and room for the rest. It is the rest that is returned.
+/// The column of a screen on the stage: heading, toolbar, and room for the rest. It is the rest that is
+/// returned.
 QVBoxLayout* column(QWidget* screen, Heading* heading, Toolbar* toolbar);
 
 /// A row of a form. The label becomes the field's name for screen readers.

@@ -10,8 +10,9 @@ namespace {
 constexpr int refreshMilliseconds = 1000;
 }
 
-StatusBar::StatusBar(const QString& name, QWidget* parent) : QWidget(parent), m_timer(new QTimer(this))
-{
+StatusBar::StatusBar(const QString& name, QWidget* parent)
+    : QWidget(parent)
+    , m_timer(new QTimer(this)) {
     setObjectName(name);
     setAccessibleName(tr("Statusleiste"));
     setAttribute(Qt::WA_StyledBackground);
@@ -22,8 +23,7 @@ StatusBar::StatusBar(const QString& name, QWidget* parent) : QWidget(parent), m_
     m_timer->start(refreshMilliseconds);
 }
 
-void StatusBar::addPanel(Style style, const QString& text, const QString& tip, bool stretch)
-{
+void StatusBar::addPanel(Style style, const QString& text, const QString& tip, bool stretch) {
     auto* label = new QLabel(text, this);
     label->setTextFormat(Qt::PlainText);
     label->setToolTip(tip);
@@ -37,10 +37,11 @@ void StatusBar::addPanel(Style style, const QString& text, const QString& tip, b
 
 QString StatusBar::panelText(int number) const { return m_panels.at(number - 1).label->text(); }
 
-void StatusBar::setPanelText(int number, const QString& text) { m_panels.at(number - 1).label->setText(text); }
+void StatusBar::setPanelText(int number, const QString& text) {
+    m_panels.at(number - 1).label->setText(text);
+}
 
-void StatusBar::showTime()
-{
+void StatusBar::showTime() {
     const QDateTime moment = now();
     for (const Panel& panel : m_panels) {
         if (panel.style == Style::Date) panel.label->setText(moment.toString(u"dd.MM.yyyy"_qs));

@@ -6,8 +6,8 @@
 class QLabel;
 class QTimer;
 
-/// The status bar of the frame: panels numbered from 1. A panel shows a text, the date or the time; the last two
-/// keep themselves up to date.
+/// The status bar of the frame: panels numbered from 1. A panel shows a text, the date or the time; the last
+/// two keep themselves up to date.
 class StatusBar : public QWidget {
     Q_OBJECT
 

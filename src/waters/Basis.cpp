@@ -37,8 +37,7 @@ struct Page {
     ValueLabel* count;
 };
 
-void layOut(const Page& page)
-{
+void layOut(const Page& page) {
     auto* form = new QGridLayout;
     Face::addField(form, 0, page.numberLabel, page.number);
     Face::addField(form, 1, page.nameLabel, page.name);
@@ -62,8 +61,7 @@ void layOut(const Page& page)
     column->addWidget(page.grid, 1);
 }
 
-QWidget* asTab(QGroupBox* frame)
-{
+QWidget* asTab(QGroupBox* frame) {
     auto* tab = new QWidget;
     auto* column = new QVBoxLayout(tab);
     column->setContentsMargins(Face::gap, Face::gap, Face::gap, Face::gap);
@@ -73,8 +71,8 @@ QWidget* asTab(QGroupBox* frame)
 
 } // namespace
 
-Basis::Basis() : Screen(u"Basis"_qs, u"Basisdaten"_qs)
-{
+Basis::Basis()
+    : Screen(u"Basis"_qs, u"Basisdaten"_qs) {
     Ueberschrift = new Heading(u"BASISDATEN"_qs, this);
     Toolbar1 = new Toolbar(this);
     Toolbar1->addKey(u"tbSpeichern"_qs, u"&Speichern "_qs, u"Speichern"_qs, u"speichern"_qs);
@@ -99,8 +97,7 @@ Basis::Basis() : Screen(u"Basis"_qs, u"Basisdaten"_qs)
     modRun::connectGridFocus(tblGBasis);
 }
 
-void Basis::buildFishPage()
-{
+void Basis::buildFishPage() {
     Frame1 = Face::frame(u"Frame1"_qs, u"Fische"_qs, nullptr);
     lblFischNr = Face::label(u"lblFischNr"_qs, u"Fisch-Nr:"_qs, Frame1);
     lblFNr = new ValueLabel(u"lblFNr"_qs, Frame1);
@@ -114,12 +111,11 @@ void Basis::buildFishPage()
     tblFBasis->setColumns({{u"Fisch-Nr."_qs, 88, true}, {u"Fischart"_qs, 320}});
     lblFAnz = Face::label(u"lblFAnz"_qs, u"Anzahl:"_qs, Frame1);
     lblFAnzahl = new ValueLabel(u"lblFAnzahl"_qs, Frame1);
-    layOut({Frame1, lblFischNr, lblFNr, lblFischArt, txtFArt, lblFNotiz, txtFNotiz, lblÜberschr, tblFBasis, lblFAnz,
-            lblFAnzahl});
+    layOut({Frame1, lblFischNr, lblFNr, lblFischArt, txtFArt, lblFNotiz, txtFNotiz, lblÜberschr, tblFBasis,
+            lblFAnz, lblFAnzahl});
 }
 
-void Basis::buildWaterPage()
-{
+void Basis::buildWaterPage() {
     Frame2 = Face::frame(u"Frame2"_qs, u"Gewässer"_qs, nullptr);
     lblGewNr = Face::label(u"lblGewNr"_qs, u"Gew.- Nr:"_qs, Frame2);
     lblGNr = new ValueLabel(u"lblGNr"_qs, Frame2);
@@ -133,26 +129,23 @@ void Basis::buildWaterPage()
     tblGBasis->setColumns({{u"Gew.-Nr"_qs, 88, true}, {u"Gewässer"_qs, 320}});
     lblGAnz = Face::label(u"lblGAnz"_qs, u"Anzahl:"_qs, Frame2);
     lblGAnzahl = new ValueLabel(u"lblGAnzahl"_qs, Frame2);
-    layOut({Frame2, lblGewNr, lblGNr, lblGewBez, txtGName, lblGNotiz, txtGNotiz, lblÜbersch2, tblGBasis, lblGAnz,
-            lblGAnzahl});
+    layOut({Frame2, lblGewNr, lblGNr, lblGewBez, txtGName, lblGNotiz, txtGNotiz, lblÜbersch2, tblGBasis,
+            lblGAnz, lblGAnzahl});
 }
 
-void Basis::Form_Load()
-{
+void Basis::Form_Load() {
     TabBasis->setCurrentIndex(fishPage);
     modBasis::InitBasis();
 }
 
-void Basis::Form_Paint()
-{
+void Basis::Form_Paint() {
     lblFAnzahl->setCaption(QString::number(tblFBasis->rowCount()));
     lblGAnzahl->setCaption(QString::number(tblGBasis->rowCount()));
 }
 
 void Basis::Form_Deactivate() { modBasis::BasisAlleAnzeigenLoeschen(); }
 
-void Basis::Toolbar1_ButtonClick(const QString& key)
-{
+void Basis::Toolbar1_ButtonClick(const QString& key) {
     // The page in front decides at the moment of the click.
     if (TabBasis->currentIndex() == fishPage)
         modBasis::bedieneFisch(key);
@@ -161,8 +154,7 @@ void Basis::Toolbar1_ButtonClick(const QString& key)
     session().Modus = u"SAVE"_qs;
 }
 
-void Basis::tblFBasis_OnGridCellOpen(int row, int column)
-{
+void Basis::tblFBasis_OnGridCellOpen(int row, int column) {
     if (row < 0) return;
     modBasis::BasisAnzeigeLoeschen();
     modBasis::loadFAuswahl(row, column);
@@ -170,8 +162,7 @@ void Basis::tblFBasis_OnGridCellOpen(int row, int column)
     session().AktZeile = row;
 }
 
-void Basis::tblGBasis_OnGridCellOpen(int row, int column)
-{
+void Basis::tblGBasis_OnGridCellOpen(int row, int column) {
     if (row < 0) return;
     modBasis::BasisAnzeigeLoeschen();
     modBasis::loadGAuswahl(row, column);

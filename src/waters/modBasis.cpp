@@ -30,32 +30,47 @@ struct Art {
     MemoBox* txtNotiz;
     DataTable* grid;
     ValueLabel* lblAnzahl;
-    int spalteImFangbuch; ///< where the catch book's grid shows the name
+    int spalteImFangbuch;  ///< where the catch book's grid shows the name
     QString nichtGefunden; ///< said when opening finds no record
 };
 
-Art fisch()
-{
+Art fisch() {
     const Basis& form = screen<Basis>();
-    return {u"Fisch"_qs, u"FNr"_qs,      u"FName"_qs,     form.lblFNr, form.txtFArt, form.txtFNotiz, form.tblFBasis,
-            form.lblFAnzahl, 1, u"FEHLER: Datensatz nicht vorhanden o. nicht gefunden !"_qs};
+    return {u"Fisch"_qs,
+            u"FNr"_qs,
+            u"FName"_qs,
+            form.lblFNr,
+            form.txtFArt,
+            form.txtFNotiz,
+            form.tblFBasis,
+            form.lblFAnzahl,
+            1,
+            u"FEHLER: Datensatz nicht vorhanden o. nicht gefunden !"_qs};
 }
 
-Art gewaesser()
-{
+Art gewaesser() {
     const Basis& form = screen<Basis>();
-    return {u"Gewaesser"_qs, u"GNr"_qs,      u"GName"_qs,     form.lblGNr, form.txtGName, form.txtGNotiz, form.tblGBasis,
-            form.lblGAnzahl, 2, u"Fehler: Datensatz nicht vorhanden o. nicht gefunden !"_qs};
+    return {u"Gewaesser"_qs,
+            u"GNr"_qs,
+            u"GName"_qs,
+            form.lblGNr,
+            form.txtGName,
+            form.txtGNotiz,
+            form.tblGBasis,
+            form.lblGAnzahl,
+            2,
+            u"Fehler: Datensatz nicht vorhanden o. nicht gefunden !"_qs};
 }
 
 /// The name of the record that was last opened; one for both pages.
 QString alterName;
 
 constexpr int fishPage = 0;
-const Art artInFront() { return screen<Basis>().TabBasis->currentIndex() == fishPage ? fisch() : gewaesser(); }
+const Art artInFront() {
+    return screen<Basis>().TabBasis->currentIndex() == fishPage ? fisch() : gewaesser();
+}
 
-void leere(const Art& art)
-{
+void leere(const Art& art) {
     art.lblNr->setCaption(QString());
     art.txtName->setText(QString());
     art.txtNotiz->setText(QString());
@@ -63,13 +78,11 @@ void leere(const Art& art)
 
 void zeigeAnzahl(const Art& art) { art.lblAnzahl->setCaption(QString::number(art.grid->rowCount())); }
 
-Recordset oeffne(const QString& nameOrSelect, RecordsetType type)
-{
+Recordset oeffne(const QString& nameOrSelect, RecordsetType type) {
     return session().AktDatenbank.OpenRecordset(nameOrSelect, type);
 }
 
-void fuelleGrid(const QString& routine, const Art& art, const QString& select)
-{
+void fuelleGrid(const QString& routine, const Art& art, const QString& select) {
     withErrorTail(u"modStart"_qs, routine, [&](ErrorTail& step) {
         Recordset satz;
         step([&] { satz = oeffne(select, dbOpenDynaset); });
@@ -84,8 +97,7 @@ void fuelleGrid(const QString& routine, const Art& art, const QString& select)
     });
 }
 
-void speichere(const QString& routine, const Art& art)
-{
+void speichere(const QString& routine, const Art& art) {
     withErrorTail(u"modBasis"_qs, routine, [&](ErrorTail& step) {
         Recordset satz;
         step([&] { satz = oeffne(art.tabelle, dbOpenTable); });
@@ -103,15 +115,13 @@ void speichere(const QString& routine, const Art& art)
 }
 
 /// Opens the table and seeks the record of the form.
-void sucheOffenen(ErrorTail& step, Recordset& satz, const Art& art)
-{
+void sucheOffenen(ErrorTail& step, Recordset& satz, const Art& art) {
     step([&] { satz = oeffne(art.tabelle, dbOpenTable); });
     step([&] { satz.Index(u"PrimaryKey"_qs); });
     step([&] { satz.Seek(u"="_qs, CLng(art.lblNr->Caption())); });
 }
 
-void aendere(const QString& routine, const Art& art, int row)
-{
+void aendere(const QString& routine, const Art& art, int row) {
     withErrorTail(u"modBasis"_qs, routine, [&](ErrorTail& step) {
         Recordset satz;
         sucheOffenen(step, satz, art);
@@ -125,8 +135,8 @@ void aendere(const QString& routine, const Art& art, int row)
             step([&] { satz.Update(); });
             step([&] { art.grid->setCell(row, 1, name); });
             step([&] {
-                modRun::GridVerweiseAbgleichen(screen<Fangbuch>().tblFList, art.spalteImFangbuch, name, u"UPDATE"_qs,
-                                               alterName);
+                modRun::GridVerweiseAbgleichen(screen<Fangbuch>().tblFList, art.spalteImFangbuch, name,
+                                               u"UPDATE"_qs, alterName);
             });
         }
         BasisAnzeigeLoeschen();
@@ -134,8 +144,7 @@ void aendere(const QString& routine, const Art& art, int row)
     });
 }
 
-void loesche(const QString& routine, const Art& art, int row)
-{
+void loesche(const QString& routine, const Art& art, int row) {
     withErrorTail(u"modBasis"_qs, routine, [&](ErrorTail& step) {
         Recordset satz;
         sucheOffenen(step, satz, art);
@@ -146,8 +155,8 @@ void loesche(const QString& routine, const Art& art, int row)
             step([&] { art.grid->removeRow(row); });
             zeigeAnzahl(art);
             step([&] {
-                modRun::GridVerweiseAbgleichen(screen<Fangbuch>().tblFList, art.spalteImFangbuch, art.txtName->Text(),
-                                               u"LOESCHEN"_qs, QString());
+                modRun::GridVerweiseAbgleichen(screen<Fangbuch>().tblFList, art.spalteImFangbuch,
+                                               art.txtName->Text(), u"LOESCHEN"_qs, QString());
             });
         }
         BasisAnzeigeLoeschen();
@@ -155,8 +164,7 @@ void loesche(const QString& routine, const Art& art, int row)
     });
 }
 
-void ladeAuswahl(const QString& routine, const Art& art, int row)
-{
+void ladeAuswahl(const QString& routine, const Art& art, int row) {
     withErrorTail(u"modBasis"_qs, routine, [&](ErrorTail& step) {
         Recordset satz;
         step([&] {
@@ -176,8 +184,7 @@ void ladeAuswahl(const QString& routine, const Art& art, int row)
     });
 }
 
-bool vollstaendig(const Art& art)
-{
+bool vollstaendig(const Art& art) {
     if (!art.txtName->Text().isEmpty()) return true;
     modRun::MeldeEingabeFehler();
     return false;
@@ -192,8 +199,7 @@ struct Routinen {
     QString warnung;
 };
 
-void bediene(const QString& key, const Routinen& routinen)
-{
+void bediene(const QString& key, const Routinen& routinen) {
     Session& s = session();
     if (key == u"tbSpeichern"_qs) {
         if (s.Modus == u"EDIT"_qs && routinen.vollstaendig()) routinen.update(s.AktZeile);
@@ -211,22 +217,19 @@ void bediene(const QString& key, const Routinen& routinen)
 
 } // namespace
 
-void InitBasis()
-{
+void InitBasis() {
     session().Modus = u"SAVE"_qs;
     session().AktZeile = 0;
     alterName.clear();
 }
 
-void BasisAnzeigeLoeschen()
-{
+void BasisAnzeigeLoeschen() {
     const Art art = artInFront();
     leere(art);
     art.txtName->setFocus();
 }
 
-void BasisAlleAnzeigenLoeschen()
-{
+void BasisAlleAnzeigenLoeschen() {
     for (const Art& art : {fisch(), gewaesser()}) {
         leere(art);
         art.lblAnzahl->setCaption(QString());
@@ -247,14 +250,12 @@ void LoescheGewaesser(int row) { loesche(u"LoescheGewaesser"_qs, gewaesser(), ro
 void loadFAuswahl(int row, int /*column*/) { ladeAuswahl(u"loadFAuswahl"_qs, fisch(), row); }
 void loadGAuswahl(int row, int /*column*/) { ladeAuswahl(u"loadGAuswahl"_qs, gewaesser(), row); }
 
-void bedieneFisch(const QString& key)
-{
+void bedieneFisch(const QString& key) {
     bediene(key, {&FischEingabeVollstaendig, &SpeicherFisch, &UpdateFisch, &LoescheFisch,
                   u"ACHTUNG: Fisch - Referenzen im Fangbuch werden ebenfalls gelöscht !"_qs});
 }
 
-void bedieneGewaesser(const QString& key)
-{
+void bedieneGewaesser(const QString& key) {
     bediene(key, {&GewaesserEingabeVollstaendig, &SpeicherGewaesser, &UpdateGewaesser, &LoescheGewaesser,
                   u"ACHTUNG: Gewässer - Referenzen im Fangbuch werden ebenfalls gelöscht !"_qs});
 }

@@ -4,8 +4,7 @@
 
 namespace modArbeit {
 
-bool ArbeitsZugriff_Erlaubt()
-{
+bool ArbeitsZugriff_Erlaubt() {
     return zugriffErlaubt(u"modArbeit"_qs, u"ArbeitsZugriff_Erlaubt"_qs, u"Arbeit"_qs);
 }
 
