@@ -16,16 +16,28 @@ public:
 
     int ListCount() const { return count(); }
     int ListIndex() const { return currentIndex(); }
-    void Clear();
+    void Clear(); ///< no click
+    /// At its place in the German order, regardless of case, or at the end. The selection stays.
     void AddItem(const QString& text);
     void InsertItem(int index, const QString& text);
+    /// If it was the selected entry, none is selected afterwards; no click.
+    void RemoveItem(int index);
     QString Text() const { return currentText(); }
     /// Selects the entry of this text; error 383 if a drop-down list has none such (an empty text selects
-    /// nothing).
+    /// nothing). An editable one takes any text.
     void setText(const QString& text);
-    /// -1 selects none.
+    /// -1 selects none; error 380 beyond the list.
     void setListIndex(int index);
 
 Q_SIGNALS:
     void Click();
+
+protected:
+    void wheelEvent(QWheelEvent* event) override;
+
+private:
+    int placeFor(const QString& text) const;
+    int indexOf(const QString& text) const;
+
+    Order m_order;
 };

@@ -11,8 +11,10 @@ public:
 
     /// Lines are joined by carriage return and line feed, as the tables hold them.
     QString Text() const;
+    /// Takes line breaks of any kind.
     void setText(const QString& text);
-    /// Characters beyond are refused, pasted ones too; 0 is no limit.
+    /// Characters beyond are refused, pasted ones too; 0 is no limit. A line break counts as the two
+    /// characters that the tables hold for it.
     void setLimit(int characters) { m_limit = characters; }
 
 Q_SIGNALS:
@@ -27,5 +29,8 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
+    QString whatFits(const QString& text) const;
+
     int m_limit = 0;
+    bool m_hasFocus = false;
 };

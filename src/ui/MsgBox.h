@@ -15,8 +15,9 @@ public:
     virtual MsgBoxResult show(const QString& text, int style, const QString& title) = 0;
 };
 
-/// Puts an implementation in force; it must outlive its use.
+/// Puts an implementation in force; it must outlive its use. With null, boxes are windows.
 void setMessageBoxes(MessageBoxes* boxes);
 
 /// The one way to a box.
-MsgBoxResult MsgBox(const QString& text, int style = vbOKOnly, const QString& title = QStringLiteral("Uferwart"));
+MsgBoxResult MsgBox(const QString& text, int style = vbOKOnly,
+                    const QString& title = QStringLiteral("Uferwart"));

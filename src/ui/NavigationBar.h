@@ -5,9 +5,11 @@
 #include <QVector>
 #include <QWidget>
 
+class QScrollArea;
 class QVBoxLayout;
 
-/// An item of the bar. It keeps track of the window that it brings forward.
+/// An item of the bar. It keeps track of the window that it brings forward. Its caption may have two lines;
+/// "&&" in it is one ampersand, and nothing in it is a mnemonic.
 class BarItem : public QToolButton {
     Q_OBJECT
 
@@ -17,13 +19,29 @@ public:
     const QString& key() const { return m_key; }
     void takeWindow(QWidget* window) { m_window = window; }
     QWidget* boundWindow() const { return m_window; }
+    /// The caption as it stands on the screen.
+    const QString& caption() const { return m_caption; }
+    void setSpacing(int percent);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+Q_SIGNALS:
+    void neighbourWanted(int step); ///< 1 is the next item down, -1 the next one up
+
+protected:
+    void nextCheckState() override {} ///< only the bar says which item is the current one
+    void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     QString m_key;
+    QString m_caption;
     QPointer<QWidget> m_window;
+    int m_spacing = 100;
 };
 
-/// A group of items under a heading.
+/// A group of items under a heading. It stays when its last item has gone.
 class BarGroup : public QWidget {
     Q_OBJECT
 
@@ -35,17 +53,22 @@ public:
     BarItem* item(const QString& key) const; ///< null if there is none
     QVector<BarItem*> items() const { return m_items; }
     void removeItem(const QString& key); ///< one that is not there is left alone
+    void setItemSpacing(int percent);
 
 Q_SIGNALS:
     void itemClicked(const QString& key);
+    void itemsChanged();
+    void neighbourWanted(BarItem* from, int step);
 
 private:
     QString m_caption;
     QVector<BarItem*> m_items;
     QVBoxLayout* m_column;
+    int m_spacing = 100;
 };
 
-/// The navigation bar at the left of the frame: all groups stand open, one below the other.
+/// The navigation bar at the left of the frame: all groups stand open, one below the other. One item at a
+/// time is in the tab order; the arrow keys go from item to item.
 class NavigationBar : public QWidget {
     Q_OBJECT
 
@@ -53,7 +76,7 @@ public:
     explicit NavigationBar(const QString& name, QWidget* parent = nullptr);
 
     BarGroup* addGroup(const QString& caption);
-    BarGroup* group(const QString& caption) const;
+    BarGroup* group(const QString& caption) const; ///< null if there is none
     QVector<BarGroup*> groups() const { return m_groups; }
     BarItem* item(const QString& key) const; ///< in whichever group; null if there is none
     /// The group whose first item takes the focus when the bar does.
@@ -63,11 +86,24 @@ public:
     /// Shows an item as the one whose screen is in front; null for none.
     void setCurrentItem(BarItem* item);
 
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
 Q_SIGNALS:
     void itemClicked(const QString& key);
 
 private:
+    QVector<BarItem*> allItems() const;
+    BarItem* firstItem() const;
+    void setTabStop(BarItem* item);
+    void renewTabStop();
+    void goToNeighbour(BarItem* from, int step);
+
     QVector<BarGroup*> m_groups;
+    QPointer<BarItem> m_current;
     int m_currentGroup = 0;
+    int m_spacing = 100;
+    QScrollArea* m_scroll;
+    QWidget* m_face;
     QVBoxLayout* m_column;
 };

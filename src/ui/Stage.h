@@ -9,6 +9,9 @@ class Screen;
 /// The inside of the frame, where the screens lie one upon the other; the front one fills it. Activation
 /// belongs to the stage, not to the window system: a screen is activated when it comes to the front and
 /// deactivated when another one does or when it is hidden while in front.
+///
+/// The events run when the stage has already changed, so their handlers may bring forward, withdraw or unload
+/// screens in turn; then only what is in front at last is activated.
 class Stage : public QWidget {
     Q_OBJECT
 
@@ -25,8 +28,12 @@ public:
     Screen* front() const;
     bool shows(const Screen* screen) const;
 
-    /// While off (frame hidden) screens come and go without being activated; switching on activates the front.
+    /// While off (frame hidden) screens come and go without being activated; switching on activates the
+    /// front. A new stage is off.
     void setActive(bool on);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
     void frontChanged(Screen* front);
@@ -35,6 +42,12 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void uncover(Screen* screen);
+    void announce();
+    void settle();
+
     QVector<QPointer<Screen>> m_order; ///< back to front
+    QPointer<Screen> m_activated;
+    QPointer<Screen> m_announced;
     bool m_active = false;
 };

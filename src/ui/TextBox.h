@@ -8,7 +8,7 @@
 using KeyFilter = std::function<int(int code)>;
 
 /// A one-line text box with the events the screens use. A refused key beeps (the filter does that) and
-/// changes nothing. Pasted text passes no key filter.
+/// changes nothing. Pasted text passes no key filter, and keys such as copy and undo are no characters.
 class TextBox : public QLineEdit {
     Q_OBJECT
 
@@ -33,12 +33,16 @@ Q_SIGNALS:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
+    bool admits(int code);
+
     KeyFilter m_filter;
     bool m_selectAllOnFocus = false;
     bool m_selectOnRelease = false;
+    bool m_hasFocus = false;
 };

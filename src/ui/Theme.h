@@ -6,21 +6,29 @@ class QApplication;
 class QIcon;
 class QString;
 
-/// The program's one look: the blue of the overview's child tables (172, 199, 247) and its darker relatives for
-/// the bar and the headings, neutral greys, one accent for focus and selection; spacing in multiples of four.
+/// The program's one look: the blue of the overview's child tables (172, 199, 247) and its darker relatives
+/// for the bar and the headings, neutral greys, one accent for focus and selection; spacing in multiples of
+/// four.
 namespace Theme {
 
 enum class Mode { Light, Dark };
 
-/// Style, palette, style sheet and fonts for the whole program; also loads the toolkit's German words.
+/// Style, palette, style sheet and fonts for the whole program; also loads the toolkit's German words and
+/// makes German the locale of dates and numbers. May be called again to change the mode.
 void apply(QApplication& application, Mode mode);
-/// Dark if the desktop asks for it.
+/// Dark if the desktop asks for it. To be asked before the first apply().
 Mode desktopMode(const QApplication& application);
 Mode mode();
 
 QColor blue();     ///< (172, 199, 247)
-QColor darkBlue(); ///< bar and headings
+QColor darkBlue(); ///< a ground for white text in both modes; bar and headings
 QColor accent();   ///< focus and selection
+
+QColor headingInk(); ///< text of headings, legible on the window in both modes
+QColor outline();    ///< border of fields and keys
+QColor faintLine();  ///< border of frames, separators
+QColor barGround();
+QColor barItemGround(bool current, bool hovered, bool pressed);
 
 /// A picture among the program's own (assets/icons/NAME.svg), drawn sharp at any scale and legible in both
 /// modes.

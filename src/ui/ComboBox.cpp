@@ -1,0 +1,95 @@
+#include "ComboBox.h"
+
+#include "RuntimeError.h"
+
+#include <QCollator>
+#include <QWheelEvent>
+
+namespace {
+
+const QCollator& germanOrder() {
+    static const QCollator order = [] {
+        QCollator collator(QLocale(QLocale::German, QLocale::Germany));
+        collator.setCaseSensitivity(Qt::CaseInsensitive);
+        return collator;
+    }();
+    return order;
+}
+
+} // namespace
+
+ComboBox::ComboBox(const QString& name, Order order, Kind kind, QWidget* parent)
+    : QComboBox(parent)
+    , m_order(order) {
+    setObjectName(name);
+    setEditable(kind == Kind::Editable);
+    setInsertPolicy(QComboBox::NoInsert);
+    setFocusPolicy(Qt::StrongFocus);
+    connect(this, &QComboBox::activated, this, &ComboBox::Click);
+}
+
+void ComboBox::Clear() { clear(); }
+
+void ComboBox::AddItem(const QString& text) {
+    InsertItem(m_order == Order::Sorted ? placeFor(text) : count(), text);
+}
+
+void ComboBox::InsertItem(int index, const QString& text) {
+    const bool noneSelected = currentIndex() < 0;
+    const QString typed = currentText();
+    insertItem(index, text);
+    // The toolkit selects the first entry that comes into an empty list.
+    if (!noneSelected || currentIndex() < 0) return;
+    setCurrentIndex(-1);
+    if (isEditable()) setEditText(typed);
+}
+
+void ComboBox::RemoveItem(int index) {
+    if (index == currentIndex()) setCurrentIndex(-1);
+    const bool noneSelected = currentIndex() < 0;
+    removeItem(index);
+    if (noneSelected) setCurrentIndex(-1);
+}
+
+void ComboBox::setText(const QString& text) {
+    if (isEditable()) {
+        setEditText(text);
+        return;
+    }
+    const int index = indexOf(text);
+    if (index < 0 && !text.isEmpty()) throw runtimeError(383);
+    setListIndex(index);
+}
+
+void ComboBox::setListIndex(int index) {
+    if (index < -1 || index >= count()) throw runtimeError(380);
+    if (index == currentIndex()) return;
+    setCurrentIndex(index);
+    Q_EMIT Click();
+}
+
+// Rolling a screen must not change the fields that pass under the pointer.
+void ComboBox::wheelEvent(QWheelEvent* event) {
+    if (hasFocus())
+        QComboBox::wheelEvent(event);
+    else
+        event->ignore();
+}
+
+int ComboBox::placeFor(const QString& text) const {
+    int first = 0;
+    int last = count();
+    while (first < last) {
+        const int middle = (first + last) / 2;
+        if (germanOrder().compare(itemText(middle), text) <= 0)
+            first = middle + 1;
+        else
+            last = middle;
+    }
+    return first;
+}
+
+int ComboBox::indexOf(const QString& text) const {
+    const int exact = findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive);
+    return exact >= 0 ? exact : findText(text, Qt::MatchFixedString);
+}

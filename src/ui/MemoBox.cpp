@@ -1,0 +1,81 @@
+#include "MemoBox.h"
+
+#include "FocusMove.h"
+#include "LineBreaks.h"
+
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QTextDocumentFragment>
+
+namespace {
+
+qsizetype storedLength(const QString& text) { return text.size() + text.count(u'\n'); }
+
+QString insertedBy(const QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) return u"\n"_qs;
+    const QString text = event->text();
+    return !text.isEmpty() && text.front().isPrint() ? text : QString();
+}
+
+} // namespace
+
+MemoBox::MemoBox(const QString& name, QWidget* parent)
+    : QPlainTextEdit(parent) {
+    setObjectName(name);
+    setTabChangesFocus(true);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+}
+
+QString MemoBox::Text() const { return toPlainText().replace(u'\n', u"\r\n"_qs); }
+
+void MemoBox::setText(const QString& text) { setPlainText(withPlainBreaks(text)); }
+
+QString MemoBox::whatFits(const QString& text) const {
+    if (m_limit <= 0) return text;
+    const QString replaced = withPlainBreaks(textCursor().selection().toPlainText());
+    qsizetype room = m_limit - storedLength(toPlainText()) + storedLength(replaced);
+    qsizetype end = 0;
+    for (; end < text.size(); ++end) {
+        room -= text[end] == u'\n' ? 2 : 1;
+        if (room < 0) break;
+    }
+    // Half of a character outside the basic plane is none.
+    if (end > 0 && end < text.size() && text[end - 1].isHighSurrogate()) --end;
+    return text.left(end);
+}
+
+void MemoBox::keyPressEvent(QKeyEvent* event) {
+    const QString inserted = insertedBy(event);
+    if (whatFits(inserted) == inserted)
+        QPlainTextEdit::keyPressEvent(event);
+    else
+        event->accept();
+}
+
+void MemoBox::insertFromMimeData(const QMimeData* source) {
+    if (isReadOnly() || !source->hasText()) return;
+    textCursor().insertText(whatFits(withPlainBreaks(source->text())));
+    ensureCursorVisible();
+}
+
+void MemoBox::inputMethodEvent(QInputMethodEvent* event) {
+    QInputMethodEvent passed(event->preeditString(), event->attributes());
+    passed.setCommitString(whatFits(event->commitString()), event->replacementStart(),
+                           event->replacementLength());
+    QPlainTextEdit::inputMethodEvent(&passed);
+}
+
+void MemoBox::focusInEvent(QFocusEvent* event) {
+    QPlainTextEdit::focusInEvent(event);
+    if (!movesFocus(event->reason()) && m_hasFocus) return;
+    m_hasFocus = true;
+    Q_EMIT GotFocus();
+}
+
+void MemoBox::focusOutEvent(QFocusEvent* event) {
+    QPlainTextEdit::focusOutEvent(event);
+    if (!movesFocus(event->reason())) return;
+    m_hasFocus = false;
+    Q_EMIT LostFocus();
+}

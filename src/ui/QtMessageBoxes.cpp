@@ -1,0 +1,61 @@
+#include "QtMessageBoxes.h"
+
+#include "LineBreaks.h"
+#include "Stage.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace {
+
+constexpr int iconBits = 0x70;
+
+QMessageBox::Icon iconOf(int style) {
+    switch (style & iconBits) {
+    case vbCritical:
+        return QMessageBox::Critical;
+    case vbExclamation:
+        return QMessageBox::Warning;
+    case vbInformation:
+        return QMessageBox::Information;
+    default:
+        return QMessageBox::NoIcon;
+    }
+}
+
+QWidget* windowBelow() {
+    if (QWidget* active = QApplication::activeWindow()) return active;
+    const Stage* stage = Stage::current();
+    QWidget* frame = stage ? stage->window() : nullptr;
+    return frame && frame->isVisible() ? frame : nullptr;
+}
+
+// The toolkit's own German words are a package apart, which may be missing.
+void addButton(QMessageBox& box, QMessageBox::StandardButton which, const QString& english,
+               const QString& german) {
+    QPushButton* button = box.addButton(which);
+    if (button->text() == english) button->setText(german);
+}
+
+} // namespace
+
+MsgBoxResult QtMessageBoxes::show(const QString& text, int style, const QString& title) {
+    const bool question = (style & vbYesNo) != 0;
+    QMessageBox box(windowBelow());
+    box.setWindowTitle(title);
+    box.setIcon(iconOf(style));
+    box.setTextFormat(Qt::PlainText);
+    box.setText(withPlainBreaks(text));
+    if (question) {
+        addButton(box, QMessageBox::Yes, u"&Yes"_qs, u"&Ja"_qs);
+        addButton(box, QMessageBox::No, u"&No"_qs, u"&Nein"_qs);
+        box.setDefaultButton(QMessageBox::Yes);
+        box.setEscapeButton(QMessageBox::No);
+    } else {
+        box.setStandardButtons(QMessageBox::Ok);
+    }
+    const int answer = box.exec();
+    if (!question) return vbOK;
+    return answer == QMessageBox::Yes ? vbYes : vbNo;
+}

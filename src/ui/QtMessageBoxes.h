@@ -1,0 +1,10 @@
+#pragma once
+
+#include "MsgBox.h"
+
+/// Boxes as windows above the active one. The text stands there as it is, never read as markup; Esc answers a
+/// question with no.
+class QtMessageBoxes : public MessageBoxes {
+public:
+    MsgBoxResult show(const QString& text, int style, const QString& title) override;
+};

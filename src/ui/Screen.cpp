@@ -1,0 +1,193 @@
+#include "Screen.h"
+
+#include "Screens.h"
+#include "Stage.h"
+
+#include <QApplication>
+#include <QChildEvent>
+#include <QCloseEvent>
+#include <QEventLoop>
+#include <QKeyEvent>
+#include <QPaintEvent>
+#include <QScreen>
+
+namespace {
+
+QWidget* windowBelow(const QWidget* window) {
+    const Stage* stage = Stage::current();
+    for (QWidget* below : {QApplication::activeModalWidget(), QApplication::activeWindow()}) {
+        if (below && below != window) return below;
+    }
+    return stage ? stage->window() : nullptr;
+}
+
+} // namespace
+
+Screen::Screen(const QString& name, const QString& caption) {
+    setObjectName(name);
+    setWindowTitle(caption);
+    setAccessibleName(caption);
+    installEventFilter(this);
+}
+
+Screen::~Screen() {
+    Screens::forget(this);
+    if (m_modalLoop) m_modalLoop->quit();
+}
+
+void Screen::Form_QueryUnload() {
+    if (m_ownWindow && !isModalNow())
+        Screens::remove(this);
+    else
+        Hide();
+}
+
+void Screen::Show() {
+    if (m_ownWindow || isModalNow())
+        showAsWindow();
+    else if (Stage* stage = Stage::current())
+        stage->bringToFront(this);
+}
+
+void Screen::showAsWindow() {
+    if (!testAttribute(Qt::WA_Resized)) adjustSize();
+    if (!m_placed && parentWidget())
+        centreOn(parentWidget()->frameGeometry());
+    else if (!m_placed)
+        centreOn(QWidget::screen()->availableGeometry());
+    m_placed = true;
+    show();
+    raise();
+    activateWindow();
+}
+
+void Screen::centreOn(const QRect& place) {
+    QRect face(QPoint(0, 0), size());
+    face.moveCenter(place.center());
+    const QRect room = QWidget::screen()->availableGeometry();
+    move(std::max(room.left(), face.left()), std::max(room.top(), face.top()));
+}
+
+void Screen::ShowModal() {
+    if (isModalNow()) {
+        showAsWindow();
+        return;
+    }
+    Hide();
+    const QPointer<QWidget> below = windowBelow(this);
+    const QPointer<Screen> alive(this);
+    setParent(below, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                         Qt::WindowCloseButtonHint | Qt::WindowMaximizeButtonHint);
+    setWindowModality(Qt::ApplicationModal);
+    m_placed = false;
+    QEventLoop loop;
+    m_modalLoop = &loop;
+    showAsWindow();
+    // Showing sends events, and their handlers may have ended it already.
+    if (alive && m_modalLoop) loop.exec(QEventLoop::DialogExec);
+    if (below) below->activateWindow();
+    if (!alive) return;
+    m_modalLoop = nullptr;
+    setWindowModality(Qt::NonModal);
+    // A window that goes must not take this one along.
+    setParent(nullptr);
+}
+
+void Screen::Hide() {
+    Stage* stage = Stage::current();
+    if (stage && stage->shows(this))
+        stage->withdraw(this);
+    else
+        hide();
+}
+
+void Screen::hideEvent(QHideEvent* event) {
+    QWidget::hideEvent(event);
+    if (event->spontaneous() || !m_modalLoop) return;
+    m_modalLoop->quit();
+    m_modalLoop = nullptr;
+}
+
+void Screen::setHourglass(bool on) {
+    m_hourglass = on;
+    if (on)
+        setCursor(Qt::WaitCursor);
+    else
+        unsetCursor();
+}
+
+void Screen::paintEvent(QPaintEvent* event) {
+    QWidget::paintEvent(event);
+    // Controls that fill their ground are cut out of the region, so only its bounds tell.
+    if (m_paintPending || !event->region().boundingRect().contains(rect())) return;
+    m_paintPending = true;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            m_paintPending = false;
+            if (isVisible()) runEvent([this] { Form_Paint(); });
+        },
+        Qt::QueuedConnection);
+}
+
+void Screen::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    runEvent([this] { Form_QueryUnload(); });
+}
+
+void Screen::childEvent(QChildEvent* event) {
+    QWidget::childEvent(event);
+    if (event->added()) watch(event->child());
+    if (event->removed()) unwatch(event->child());
+}
+
+// A screen inside another one (on the stage of the frame) looks after its own controls.
+void Screen::watch(QObject* control) {
+    if (!control->isWidgetType() || qobject_cast<Screen*>(control)) return;
+    control->installEventFilter(this);
+    for (QObject* inner : control->children()) watch(inner);
+}
+
+void Screen::unwatch(QObject* control) {
+    if (!control->isWidgetType() || qobject_cast<Screen*>(control)) return;
+    control->removeEventFilter(this);
+    for (QObject* inner : control->children()) unwatch(inner);
+}
+
+bool Screen::eventFilter(QObject* watched, QEvent* event) {
+    switch (event->type()) {
+    case QEvent::ChildAdded:
+        if (watched != this) watch(static_cast<QChildEvent*>(event)->child());
+        break;
+    case QEvent::ChildRemoved:
+        if (watched != this) unwatch(static_cast<QChildEvent*>(event)->child());
+        break;
+    case QEvent::ShortcutOverride:
+    case QEvent::KeyRelease:
+        m_key = nullptr;
+        break;
+    case QEvent::KeyPress:
+        return previewKey(static_cast<QWidget*>(watched), static_cast<QKeyEvent*>(event));
+    default:
+        break;
+    }
+    return false;
+}
+
+// A control that has no use for a key lets it climb to its parent: the same event, one step up.
+bool Screen::isOnItsWay(const QWidget* control, const QKeyEvent* event) const {
+    return event == m_key && m_keyAt && m_keyAt->parentWidget() == control;
+}
+
+bool Screen::previewKey(QWidget* control, QKeyEvent* event) {
+    const QWidget* window = control->window();
+    const bool own = window == this->window() || window->windowType() == Qt::Popup;
+    const bool seen = isOnItsWay(control, event);
+    m_key = event;
+    m_keyAt = control;
+    if (!own || seen || event->isAutoRepeat()) return false;
+    bool swallowed = false;
+    runEvent([&] { swallowed = Form_KeyDown(event->key(), event->modifiers()); });
+    if (swallowed) event->accept();
+    return swallowed;
+}

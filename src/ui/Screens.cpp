@@ -1,0 +1,82 @@
+#include "Screens.h"
+
+#include <algorithm>
+
+namespace {
+
+struct Entry {
+    Screen* screen;
+    bool leaving; ///< its unload has begun
+};
+
+QVector<Entry>& entries() {
+    static QVector<Entry> alive;
+    return alive;
+}
+
+QVector<Entry>::iterator find(const Screen* screen) {
+    return std::find_if(entries().begin(), entries().end(),
+                        [screen](const Entry& entry) { return entry.screen == screen; });
+}
+
+// A handler of the screen may be on the stack, even below the loop of a modal one; so the screen goes when
+// all handlers have returned, and then by way of the event loop, for slots that run unguarded.
+void destroyWhenSafe(Screen* screen) {
+    whenNoEventRuns([screen = QPointer<Screen>(screen)] {
+        if (screen) screen->deleteLater();
+    });
+}
+
+Screen* latestToGo() {
+    const auto found =
+        std::find_if(entries().rbegin(), entries().rend(), [](const Entry& entry) { return !entry.leaving; });
+    return found == entries().rend() ? nullptr : found->screen;
+}
+
+} // namespace
+
+namespace Screens {
+
+void add(Screen* screen) {
+    if (find(screen) == entries().end()) entries().append({screen, false});
+}
+
+void remove(Screen* screen) {
+    const auto entry = find(screen);
+    if (entry == entries().end() || entry->leaving) return;
+    entry->leaving = true;
+    const QPointer<Screen> alive(screen);
+    runEvent([screen] { screen->Form_Unload(); });
+    if (alive) screen->Hide();
+    forget(screen);
+    if (!alive) return;
+    // Off the frame, so that neither its end nor a search among its controls meets this screen again.
+    if (!screen->isModalNow()) screen->setParent(nullptr);
+    destroyWhenSafe(screen);
+}
+
+void forget(const Screen* screen) {
+    const auto entry = find(screen);
+    if (entry != entries().end()) entries().erase(entry);
+}
+
+bool isAlive(const Screen* screen) { return screen && find(screen) != entries().end(); }
+
+QVector<Screen*> all() {
+    QVector<Screen*> screens;
+    for (const Entry& entry : entries()) screens.append(entry.screen);
+    return screens;
+}
+
+Screen* byName(const QString& name) {
+    for (const Entry& entry : entries()) {
+        if (entry.screen->objectName() == name) return entry.screen;
+    }
+    return nullptr;
+}
+
+void removeAll() {
+    while (Screen* screen = latestToGo()) remove(screen);
+}
+
+} // namespace Screens

@@ -1,0 +1,123 @@
+#include "Stage.h"
+
+#include "Screen.h"
+
+namespace {
+
+Stage* stageInForce = nullptr;
+
+bool takesFocus(const QWidget* control, const Screen* screen) {
+    return (control->focusPolicy() & Qt::TabFocus) && control->isEnabled() && control->isVisibleTo(screen) &&
+           screen->isAncestorOf(control);
+}
+
+// The control that had the focus when the screen was last in front, or its first one.
+QWidget* focusOf(Screen* screen) {
+    QWidget* last = screen->focusWidget();
+    if (last && last != screen && last->isEnabled() && last->isVisibleTo(screen)) return last;
+    for (QWidget* next = screen->nextInFocusChain(); next != screen; next = next->nextInFocusChain()) {
+        if (takesFocus(next, screen)) return next;
+    }
+    return screen;
+}
+
+} // namespace
+
+Stage::Stage(QWidget* parent)
+    : QWidget(parent) {
+    setObjectName(u"stage"_qs);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    stageInForce = this;
+}
+
+// Screens are ended by their unload, never by the frame's end.
+Stage::~Stage() {
+    if (stageInForce == this) stageInForce = nullptr;
+    const auto screens = findChildren<Screen*>(QString(), Qt::FindDirectChildrenOnly);
+    for (Screen* screen : screens) screen->setParent(nullptr);
+}
+
+Stage* Stage::current() { return stageInForce; }
+
+void Stage::bringToFront(Screen* screen) {
+    const QPointer<Screen> before = front();
+    m_order.removeAll(screen);
+    m_order.append(screen);
+    if (screen->parentWidget() != this) screen->setParent(this, Qt::Widget);
+    uncover(screen);
+    if (before == screen) return;
+    if (before) before->hide();
+    announce();
+    settle();
+}
+
+void Stage::withdraw(Screen* screen) {
+    if (!shows(screen)) return;
+    const bool wasFront = front() == screen;
+    m_order.removeAll(screen);
+    if (wasFront && front()) uncover(front());
+    screen->hide();
+    if (!wasFront) return;
+    announce();
+    settle();
+}
+
+// Shown before the one in front of it is hidden, and with the focus, which would wander off otherwise.
+void Stage::uncover(Screen* screen) {
+    screen->setGeometry(rect());
+    screen->show();
+    screen->raise();
+    updateGeometry();
+    QWidget* focused = window()->focusWidget();
+    if (!focused || !screen->isAncestorOf(focused)) focusOf(screen)->setFocus(Qt::OtherFocusReason);
+}
+
+void Stage::announce() {
+    if (m_announced == front()) return;
+    m_announced = front();
+    Q_EMIT frontChanged(m_announced);
+}
+
+void Stage::settle() {
+    if (!m_active || m_activated == front()) return;
+    const QPointer<Stage> alive(this);
+    const QPointer<Screen> before = m_activated;
+    m_activated.clear();
+    if (before) runEvent([&] { before->Form_Deactivate(); });
+    // That handler may have changed the front and so have settled it.
+    if (!alive || !m_active || m_activated || !front()) return;
+    m_activated = front();
+    runEvent([screen = m_activated.data()] { screen->Form_Activate(); });
+}
+
+Screen* Stage::front() const {
+    for (auto screen = m_order.rbegin(); screen != m_order.rend(); ++screen) {
+        if (*screen) return *screen;
+    }
+    return nullptr;
+}
+
+bool Stage::shows(const Screen* screen) const { return screen && m_order.contains(screen); }
+
+void Stage::setActive(bool on) {
+    if (on == m_active) return;
+    m_active = on;
+    m_activated.clear();
+    settle();
+}
+
+// The frame grows with the screen that needs the most room instead of squeezing its controls.
+QSize Stage::minimumSizeHint() const {
+    QSize room;
+    for (const QPointer<Screen>& screen : m_order) {
+        if (screen) room = room.expandedTo(screen->minimumSizeHint());
+    }
+    return room;
+}
+
+QSize Stage::sizeHint() const { return minimumSizeHint().expandedTo({640, 480}); }
+
+void Stage::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    if (Screen* screen = front()) screen->setGeometry(rect());
+}

@@ -1,0 +1,144 @@
+#include "Theme.h"
+
+#include "ThemeIcon.h"
+
+#include <QApplication>
+#include <QIcon>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QPalette>
+#include <QStyleFactory>
+#include <QToolTip>
+#include <QTranslator>
+
+// The pictures lie in a static library, which the linker leaves out unless somebody asks for them by name;
+// the asking must not stand in a namespace.
+static void loadPictures() { Q_INIT_RESOURCE(assets); }
+
+namespace {
+
+Theme::Mode modeInForce = Theme::Mode::Light;
+
+constexpr double bodyPoints = 9.75;
+
+bool dark() { return modeInForce == Theme::Mode::Dark; }
+
+QColor either(QRgb light, QRgb onDark) { return QColor(dark() ? onDark : light); }
+
+void setDisabled(QPalette& palette) {
+    const QColor pale = either(0xff7d8694, 0xff7f8896);
+    for (const auto role :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::PlaceholderText})
+        palette.setColor(QPalette::Disabled, role, pale);
+    palette.setColor(QPalette::Disabled, QPalette::Base, palette.color(QPalette::Window));
+    palette.setColor(QPalette::Disabled, QPalette::Highlight, either(0xffc4cad4, 0xff454d5a));
+    palette.setColor(QPalette::Disabled, QPalette::HighlightedText, pale);
+}
+
+QPalette paletteInForce() {
+    QPalette palette;
+    const QColor ink = either(0xff1b2230, 0xffe7ebf3);
+    const QColor window = either(0xfff3f5f8, 0xff20242c);
+    palette.setColor(QPalette::Window, window);
+    palette.setColor(QPalette::WindowText, ink);
+    palette.setColor(QPalette::Base, either(0xffffffff, 0xff171a20));
+    palette.setColor(QPalette::AlternateBase, either(0xfff4f8fe, 0xff1c2129));
+    palette.setColor(QPalette::Text, ink);
+    palette.setColor(QPalette::PlaceholderText, either(0xff667080, 0xff9aa4b4));
+    palette.setColor(QPalette::Button, either(0xfffbfcfe, 0xff2c323d));
+    palette.setColor(QPalette::ButtonText, ink);
+    palette.setColor(QPalette::BrightText, Qt::white);
+    palette.setColor(QPalette::Highlight, either(0xff2b62c4, 0xff35609f));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::Link, either(0xff2b62c4, 0xff8fb6fa));
+    palette.setColor(QPalette::LinkVisited, either(0xff6a4fb3, 0xffb9a5f2));
+    palette.setColor(QPalette::ToolTipBase, either(0xff1f3f77, 0xffdfe9fb));
+    palette.setColor(QPalette::ToolTipText, either(0xffffffff, 0xff17233b));
+    palette.setColor(QPalette::Light, either(0xffffffff, 0xff3a414d));
+    palette.setColor(QPalette::Midlight, either(0xffe6eaf0, 0xff2e343f));
+    palette.setColor(QPalette::Mid, either(0xffc3cad5, 0xff4a5261));
+    palette.setColor(QPalette::Dark, either(0xff8b94a4, 0xff6d7686));
+    palette.setColor(QPalette::Shadow, either(0xff5a6372, 0xff0d0f13));
+    setDisabled(palette);
+    return palette;
+}
+
+QFont bodyFont() {
+    QFont::insertSubstitutions(u"MS Sans Serif"_qs, {u"Liberation Sans"_qs, u"Arial"_qs});
+    QFont::insertSubstitution(u"Comic Sans MS"_qs, u"Comic Neue"_qs);
+    QFont font(u"MS Sans Serif"_qs);
+    font.setPointSizeF(bodyPoints);
+    font.setStyleHint(QFont::SansSerif);
+    return font;
+}
+
+// Only what a palette can't say.
+QString styleSheet() {
+    return u"Heading, #groupHeading { color: %1; }"
+           "#groupHeading { font-weight: bold; border-bottom: 1px solid %2; }"
+           "NavigationBar { background: %3; border-right: 1px solid %2; }"
+           "NavigationBar QScrollArea { background: transparent; }"
+           "Toolbar, StatusBar { background: %4; }"_qs.arg(
+               Theme::headingInk().name(), Theme::faintLine().name(), Theme::barGround().name(),
+               either(0xffe9edf3, 0xff282d37).name());
+}
+
+void loadGermanWords(QApplication& application) {
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    const QString name = u"qtbase_de"_qs;
+    if (application.findChild<QTranslator*>(name)) return;
+    auto* translator = new QTranslator(&application);
+    translator->setObjectName(name);
+    if (translator->load(name, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(translator);
+}
+
+} // namespace
+
+namespace Theme {
+
+void apply(QApplication& application, Mode mode) {
+    loadPictures();
+    modeInForce = mode;
+    loadGermanWords(application);
+    QApplication::setStyle(QStyleFactory::create(u"Fusion"_qs));
+    QApplication::setPalette(paletteInForce());
+    QToolTip::setPalette(paletteInForce());
+    QApplication::setFont(bodyFont());
+    application.setStyleSheet(styleSheet());
+    QApplication::setWindowIcon(icon(u"uferwart"_qs));
+}
+
+Mode desktopMode(const QApplication& /*application*/) {
+    const QPalette palette = QApplication::palette();
+    const bool darkWindow =
+        palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
+    return darkWindow ? Mode::Dark : Mode::Light;
+}
+
+Mode mode() { return modeInForce; }
+
+QColor blue() { return {172, 199, 247}; }
+
+QColor darkBlue() { return either(0xff1f3f77, 0xff294a82); }
+
+QColor accent() { return either(0xff2b62c4, 0xff7fabf7); }
+
+QColor headingInk() { return either(0xff1f3f77, 0xffb4cdf9); }
+
+QColor outline() { return either(0xff8b94a4, 0xff6d7686); }
+
+QColor faintLine() { return either(0xffc9d3e4, 0xff3d4757); }
+
+QColor barGround() { return either(0xffe3ecfc, 0xff1a2233); }
+
+QColor barItemGround(bool current, bool hovered, bool pressed) {
+    if (current) return either(0xffacc7f7, 0xff2f4f86);
+    if (pressed) return either(0xffbcd2f8, 0xff2a4373);
+    if (hovered) return either(0xffd0dffa, 0xff25334f);
+    return Qt::transparent;
+}
+
+QIcon icon(const QString& name) { return QIcon(new ThemeIcon(name)); }
+
+} // namespace Theme

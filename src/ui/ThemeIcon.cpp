@@ -1,0 +1,85 @@
+#include "ThemeIcon.h"
+
+#include "Theme.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QImageReader>
+#include <QPainter>
+#include <QPixmapCache>
+
+namespace {
+
+constexpr double disabledOpacity = 0.38;
+
+// The pictures are drawn in these two; the rest of their colours stands on any ground.
+const QByteArray lineColour = QByteArrayLiteral("#1f3f77");
+const QByteArray fillColour = QByteArrayLiteral("#acc7f7");
+const QByteArray lineColourOnDark = QByteArrayLiteral("#c6d9fb");
+const QByteArray fillColourOnDark = QByteArrayLiteral("#3a5c99");
+
+QByteArray recoloured(QByteArray picture) {
+    if (Theme::mode() == Theme::Mode::Light) return picture;
+    return picture.replace(lineColour, lineColourOnDark).replace(fillColour, fillColourOnDark);
+}
+
+QByteArray contentsOf(const QString& name) {
+    QFile file(u":/uferwart/icons/%1.svg"_qs.arg(name));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QImage faded(const QImage& image) {
+    QImage pale(image.size(), QImage::Format_ARGB32_Premultiplied);
+    pale.fill(Qt::transparent);
+    QPainter painter(&pale);
+    painter.setOpacity(disabledOpacity);
+    painter.drawImage(0, 0, image);
+    return pale;
+}
+
+} // namespace
+
+ThemeIcon::ThemeIcon(const QString& name)
+    : m_name(name)
+    , m_picture(contentsOf(name)) {}
+
+// In the middle of the room, its proportions kept.
+QImage ThemeIcon::drawn(const QSize& size) const {
+    QByteArray data = recoloured(m_picture);
+    QBuffer buffer(&data);
+    QImageReader reader(&buffer, QByteArrayLiteral("svg"));
+    const QSize fitting = reader.size().scaled(size, Qt::KeepAspectRatio);
+    reader.setScaledSize(fitting);
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.drawImage((size.width() - fitting.width()) / 2, (size.height() - fitting.height()) / 2,
+                      reader.read());
+    return image;
+}
+
+QPixmap ThemeIcon::pixmap(const QSize& size, QIcon::Mode mode, QIcon::State /*state*/) {
+    if (m_picture.isEmpty() || size.isEmpty()) return {};
+    const QString key = u"uferwart/%1/%2x%3/%4/%5"_qs.arg(m_name)
+                            .arg(size.width())
+                            .arg(size.height())
+                            .arg(static_cast<int>(mode))
+                            .arg(static_cast<int>(Theme::mode()));
+    QPixmap found;
+    if (QPixmapCache::find(key, &found)) return found;
+    const QImage image = drawn(size);
+    found = QPixmap::fromImage(mode == QIcon::Disabled ? faded(image) : image);
+    QPixmapCache::insert(key, found);
+    return found;
+}
+
+QPixmap ThemeIcon::scaledPixmap(const QSize& size, QIcon::Mode mode, QIcon::State state, qreal /*scale*/) {
+    return pixmap(size, mode, state);
+}
+
+void ThemeIcon::paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) {
+    const qreal ratio = painter->device() ? painter->device()->devicePixelRatioF() : 1.0;
+    const QSize pixels = (QSizeF(rect.size()) * ratio).toSize();
+    painter->setRenderHint(QPainter::SmoothPixmapTransform);
+    painter->drawPixmap(rect, pixmap(pixels, mode, state));
+}

@@ -1,0 +1,58 @@
+#include "Toolbar.h"
+
+#include "Theme.h"
+
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QIcon>
+#include <QToolButton>
+
+namespace {
+constexpr int iconEdge = 24;
+constexpr int gap = 4;
+} // namespace
+
+Toolbar::Toolbar(QWidget* parent)
+    : QWidget(parent)
+    , m_row(new QHBoxLayout(this)) {
+    setObjectName(u"Toolbar1"_qs);
+    setAttribute(Qt::WA_StyledBackground);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    m_row->setContentsMargins(gap, gap, gap, gap);
+    m_row->setSpacing(gap);
+    m_row->addStretch(1);
+}
+
+QToolButton* Toolbar::addKey(const QString& key, const QString& caption, const QString& tip,
+                             const QString& icon) {
+    auto* button = new QToolButton(this);
+    button->setObjectName(key);
+    button->setText(caption);
+    button->setToolTip(tip);
+    button->setAccessibleName(QString(caption).remove(u'&'));
+    button->setAccessibleDescription(tip);
+    button->setIcon(Theme::icon(icon));
+    button->setIconSize({iconEdge, iconEdge});
+    button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    button->setAutoRaise(true);
+    // A press must leave the focus with the field being filled in.
+    button->setFocusPolicy(Qt::NoFocus);
+    connect(button, &QToolButton::clicked, this, [this, key] { Q_EMIT ButtonClick(key); });
+    m_row->insertWidget(m_row->count() - 1, button);
+    return button;
+}
+
+void Toolbar::addSeparator() {
+    auto* line = new QFrame(this);
+    line->setFrameStyle(QFrame::VLine | QFrame::Plain);
+    line->setObjectName(u"separator"_qs);
+    m_row->insertWidget(m_row->count() - 1, line);
+}
+
+QToolButton* Toolbar::key(const QString& key) const {
+    return findChild<QToolButton*>(key, Qt::FindDirectChildrenOnly);
+}
+
+void Toolbar::setKeyEnabled(const QString& key, bool on) {
+    if (QToolButton* button = this->key(key)) button->setEnabled(on);
+}

@@ -1,0 +1,19 @@
+#include "ValueLabel.h"
+
+namespace {
+constexpr int minimumValueWidth = 48;
+constexpr int innerMargin = 2;
+} // namespace
+
+ValueLabel::ValueLabel(const QString& name, QWidget* parent)
+    : QLabel(parent) {
+    setObjectName(name);
+    setTextFormat(Qt::PlainText);
+    setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
+    setMargin(innerMargin);
+    setMinimumWidth(minimumValueWidth);
+}
+
+void ValueLabel::setCaption(const QString& caption) {
+    if (caption != text()) setText(caption);
+}
