@@ -1,0 +1,68 @@
+#include "ProgramFolder.h"
+#include "OpenFolder.h"
+#include "RuntimeError.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace {
+
+int failureOf(const QString& folder) {
+    try {
+        makeProgramFolder(folder, 2026, false);
+    } catch (const RuntimeError& error) {
+        return error.number;
+    }
+    return 0;
+}
+
+QByteArray contents(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
+
+TEST(ProgramFolder, HoldsAllThatTheProgramExpectsWhateverItsPath) {
+    QTemporaryDir place;
+    const QString longName = QStringLiteral("/Lang ").repeated(1) + QString(120, u'x');
+    for (const QString& name :
+         {QStringLiteral("/neu"), QStringLiteral("/Müllers Ordner mit ß, 'Strich' & %1"),
+          QStringLiteral("/a/b/c"), longName + longName}) {
+        SCOPED_TRACE(name.toStdString());
+        const QString folder = place.path() + name;
+        makeProgramFolder(folder, 2024, false);
+        EXPECT_TRUE(QDir(folder + QStringLiteral("/temp")).exists());
+        EXPECT_TRUE(QDir(folder + QStringLiteral("/SeqData")).exists());
+        EXPECT_TRUE(contents(folder + QStringLiteral("/Graphics/bmp/Cut.bmp")).startsWith("BM"));
+        Database database = openFolder(folder);
+        Recordset system = database.OpenRecordset(QStringLiteral("System"), dbOpenTable);
+        EXPECT_EQ(system.Collect(QStringLiteral("FJahr")), Value(2024));
+    }
+}
+
+TEST(ProgramFolder, NeverTouchesADatabaseThatIsAlreadyThere) {
+    QTemporaryDir place;
+    QFile data(place.filePath(QStringLiteral("uw01.mdb")));
+    ASSERT_TRUE(data.open(QIODevice::WriteOnly));
+    data.write("mine");
+    data.close();
+    EXPECT_EQ(failureOf(place.path()), 3204);
+    EXPECT_EQ(contents(data.fileName()), "mine");
+    EXPECT_FALSE(QDir(place.filePath(QStringLiteral("temp"))).exists());
+}
+
+TEST(ProgramFolder, LeavesNothingBehindWhenItFails) {
+    QTemporaryDir place;
+    QDir inside(place.path());
+    // A file stands where the last of the folders should be.
+    ASSERT_TRUE(inside.mkpath(QStringLiteral("alt")));
+    QFile obstacle(place.filePath(QStringLiteral("alt/Graphics")));
+    ASSERT_TRUE(obstacle.open(QIODevice::WriteOnly));
+    EXPECT_EQ(failureOf(place.filePath(QStringLiteral("alt"))), 75);
+    EXPECT_EQ(QDir(place.filePath(QStringLiteral("alt"))).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+              QStringList{QStringLiteral("Graphics")});
+    EXPECT_EQ(failureOf(obstacle.fileName() + QStringLiteral("/neu")), 75);
+}
