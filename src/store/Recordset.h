@@ -17,14 +17,16 @@ public:
 
 private:
     friend class Recordset;
-    Field(std::shared_ptr<Cursor> cursor, int column) : m_cursor(std::move(cursor)), m_column(column) {}
+    Field(std::shared_ptr<Cursor> cursor, int column)
+        : m_cursor(std::move(cursor))
+        , m_column(column) {}
     std::shared_ptr<Cursor> m_cursor;
     int m_column;
 };
 
 /// A cursor over a table or over the result of a SELECT. A value with shared state: copies speak of the same
-/// cursor, the last one closes it. Any use of an empty or closed one is error 91; reading without a current row
-/// is 3021; an unknown field name is 3265. Names compare without regard to case.
+/// cursor, the last one closes it. Any use of an empty or closed one is error 91; reading without a current
+/// row is 3021; an unknown field name is 3265. Names compare without regard to case.
 class Recordset {
 public:
     Recordset() = default;
@@ -32,8 +34,8 @@ public:
 
     /// Orders a table cursor by an index. "PrimaryKey" is the only one there is; others are error 3015.
     void Index(const QString& name);
-    /// Goes to the row whose key equals the value; "=" is the only comparison. Without a hit NoMatch is true and
-    /// there is no current row. Needs Index first (3019).
+    /// Goes to the row whose key equals the value; "=" is the only comparison. Without a hit NoMatch is true
+    /// and there is no current row. Needs Index first (3019).
     void Seek(const QString& comparison, const Value& key);
     bool NoMatch() const;
 
@@ -57,8 +59,8 @@ public:
     /// Writes the buffer. After AddNew the current row stays what it was before.
     void Update();
     void Delete();
-    /// Ends the cursor. If it was the last one that has written, this is where the user action reaches the disk,
-    /// and where a failure to do so is reported.
+    /// Ends the cursor. If it was the last one that has written, this is where the user action reaches the
+    /// disk, and where a failure to do so is reported.
     void Close();
 
 private:

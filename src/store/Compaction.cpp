@@ -1,0 +1,92 @@
+#include "Compaction.h"
+
+#include "UnfinishedFile.h"
+
+namespace {
+
+struct SchemaObject {
+    QString name;
+    QByteArray sql;
+};
+
+QList<SchemaObject> schemaObjects(Connection& source, const QByteArray& condition) {
+    QList<SchemaObject> objects;
+    Statement found =
+        source.prepare("SELECT name, sql FROM sqlite_master WHERE sql IS NOT NULL AND " + condition +
+                       " AND name NOT LIKE 'sqlite\\_%' ESCAPE '\\' ORDER BY rowid");
+    while (found.step()) objects.push_back({found.text(0), found.text(1).toUtf8()});
+    return objects;
+}
+
+QByteArray insertSql(const QString& table, int columns) {
+    QByteArrayList parameters;
+    for (int i = 0; i < columns; ++i) parameters += "?";
+    return "INSERT INTO " + quotedName(table) + " VALUES (" + parameters.join(", ") + ')';
+}
+
+void copyRows(Connection& source, Connection& target, const QString& table) {
+    Statement rows = source.prepare("SELECT * FROM " + quotedName(table));
+    const int columns = rows.columnCount();
+    Statement insert = target.prepare(insertSql(table, columns));
+    while (rows.step()) {
+        for (int i = 0; i < columns; ++i) insert.bindColumn(i + 1, rows, i);
+        insert.run();
+    }
+}
+
+qint64 countRows(Connection& connection, const QString& table) {
+    Statement count = connection.prepare("SELECT COUNT(*) FROM " + quotedName(table));
+    count.step();
+    return count.integer(0);
+}
+
+QList<SchemaObject> userTables(Connection& connection) { return schemaObjects(connection, "type = 'table'"); }
+
+/// Numbers that were given out once are not given out again, so the counters go along.
+void copyCounters(Connection& source, Connection& target) {
+    target.execute("DELETE FROM sqlite_sequence");
+    copyRows(source, target, QStringLiteral("sqlite_sequence"));
+}
+
+void copyAll(Connection& source, Connection& target) {
+    const QList<SchemaObject> tables = userTables(source);
+    for (const SchemaObject& table : tables) {
+        target.execute(table.sql);
+        copyRows(source, target, table.name);
+    }
+    copyCounters(source, target);
+    for (const SchemaObject& object : schemaObjects(source, "type <> 'table'")) target.execute(object.sql);
+}
+
+void verifyCopy(Connection& source, const QString& target, const QString& password) {
+    Connection copy(target, password, Connection::Access::ReadOnly);
+    Statement check = copy.prepare("PRAGMA integrity_check");
+    if (!check.step() || check.text(0) != u"ok") throw runtimeError(3343, target);
+    for (const SchemaObject& table : userTables(source))
+        if (countRows(source, table.name) != countRows(copy, table.name)) throw runtimeError(3343, target);
+}
+
+/// A file so damaged that not even its tables can be read is beyond repair.
+std::unique_ptr<Connection> openSource(const QString& source, const QString& password) {
+    try {
+        return std::make_unique<Connection>(source, password, Connection::Access::ReadWrite);
+    } catch (const RuntimeError& error) {
+        if (error.number == 3343) throw runtimeError(3056, source);
+        throw;
+    }
+}
+
+} // namespace
+
+void compactFile(const QString& source, const QString& target, const QString& password) {
+    requireNewFile(target);
+    const auto original = openSource(source, password);
+    UnfinishedFile copy(target, password);
+    // Nobody may write to the original while it is read table by table.
+    original->execute("BEGIN");
+    copyAll(*original, copy.connection());
+    copy.write();
+    verifyCopy(*original, target, password);
+    original->execute("COMMIT");
+    copy.finish();
+}

@@ -1,0 +1,141 @@
+#include "Connection.h"
+
+#include "Cursor.h"
+#include "FileShape.h"
+#include "SelectRewriter.h"
+#include "SqlFunctions.h"
+#include "Sqlite.h"
+#include "SqliteError.h"
+
+namespace {
+
+constexpr int busyMilliseconds = 1500;
+
+int openFlags(Connection::Access access) {
+    switch (access) {
+    case Connection::Access::ReadOnly:
+        return SQLITE_OPEN_READONLY;
+    case Connection::Access::ReadWrite:
+        return SQLITE_OPEN_READWRITE;
+    case Connection::Access::Create:
+        break;
+    }
+    return SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE;
+}
+
+/// The same failures have other numbers when they keep a file from being opened.
+RuntimeError openError(const RuntimeError& error, const QString& path) {
+    switch (error.number) {
+    case 3260:
+        return runtimeError(3045, path);
+    case 3027:
+        return runtimeError(3051, path);
+    case 3051:
+        return runtimeError(3051, path);
+    case 3343:
+        return runtimeError(3343, path);
+    default:
+        return error;
+    }
+}
+
+} // namespace
+
+void Connection::Closer::operator()(sqlite3* database) const { sqlite3_close_v2(database); }
+
+Connection::Connection(const QString& path, const QString& password, Access access) {
+    const bool exists = access != Access::Create;
+    if (exists) requireReadableFile(path);
+    const bool interrupted = exists && hasJournal(path);
+    if (exists && !interrupted) requirePageShape(path);
+    openFile(path, access);
+    m_cache.emplace(m_database.get());
+    m_transaction.emplace(m_database.get());
+    try {
+        unlock(password);
+        if (!exists) return;
+        readFirstPage(path);
+        if (interrupted) requirePageShape(path);
+        requireTables(path);
+    } catch (const RuntimeError& error) {
+        throw openError(error, path);
+    }
+}
+
+Connection::~Connection() = default;
+
+void Connection::openFile(const QString& path, Access access) {
+    sqlite3* database = nullptr;
+    const int code = sqlite3_open_v2(path.toUtf8().constData(), &database, openFlags(access), nullptr);
+    m_database.reset(database);
+    if (database == nullptr) throw runtimeError(7);
+    if (code != SQLITE_OK) throw openError(sqliteError(database), path);
+    sqlite3_extended_result_codes(database, 1);
+    sqlite3_busy_timeout(database, busyMilliseconds);
+}
+
+void Connection::unlock(const QString& password) {
+    const QByteArray key = password.toUtf8();
+    const int code = sqlite3_key(m_database.get(), key.constData(), static_cast<int>(key.size()));
+    if (code != SQLITE_OK) throw sqliteError(m_database.get());
+    // A library without encryption would take any key, and write in the clear.
+    if (!prepare("PRAGMA cipher_version").step())
+        throw RuntimeError{3000, QStringLiteral("Die Datenbankbibliothek kann nicht verschlüsseln.")};
+    // Newer libraries have another format of their own; older ones pass over this.
+    execute("PRAGMA cipher_compatibility = 3");
+    execute("PRAGMA foreign_keys = ON");
+    execute("PRAGMA synchronous = FULL");
+    execute("PRAGMA cache_size = -32768");
+    registerSqlFunctions(m_database.get());
+}
+
+/// Takes back what a killed process left half-written, and shows whether the password is right.
+void Connection::readFirstPage(const QString& path) {
+    prepare("SELECT COUNT(*) FROM sqlite_master").step();
+    Statement pages = prepare("PRAGMA page_count");
+    if (pages.step()) requirePages(path, pages.integer(0));
+}
+
+void Connection::requireTables(const QString& path) {
+    Statement named = prepare("SELECT 1 FROM sqlite_master WHERE type = 'table' AND name = ?1");
+    for (const TableSpec& table : schemaTables()) {
+        named.bind(1, table.name.toString());
+        if (!named.step()) throw runtimeError(3343, path);
+        named.reset();
+    }
+}
+
+void Connection::close() {
+    std::optional<RuntimeError> failure;
+    while (!m_cursors.empty()) {
+        try {
+            m_cursors.back()->close();
+        } catch (const RuntimeError& error) {
+            if (!failure) failure = error;
+        }
+    }
+    m_cache->clear();
+    m_database.reset();
+    if (failure) throw *failure;
+}
+
+StatementCache::Loan Connection::select(QStringView source) {
+    lexStatement(source, m_lexed);
+    StatementCache::Loan loan = m_cache->take(m_lexed.key);
+    if (!loan) loan = m_cache->add(m_lexed.key, rewriteSelect(source, m_lexed));
+    int position = 1;
+    for (const Value& literal : m_lexed.literals) loan->bind(position++, literal);
+    return loan;
+}
+
+int Connection::changes() const { return sqlite3_changes(m_database.get()); }
+
+void Connection::remove(Cursor* cursor) { std::erase(m_cursors, cursor); }
+
+QString passwordOf(const QString& connect) {
+    const QString name = QStringLiteral("pwd=");
+    const QStringList parts = connect.split(u';');
+    for (const QString& part : parts)
+        if (part.startsWith(name, Qt::CaseInsensitive)) return part.sliced(name.size());
+    return {};
+}

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "Lexer.h"
+#include "StatementCache.h"
+#include "WriteTransaction.h"
+
+#include <QString>
+#include <memory>
+#include <optional>
+#include <vector>
+
+class Cursor;
+struct sqlite3;
+
+/// An open database file.
+class Connection {
+public:
+    enum class Access : quint8 { ReadWrite, ReadOnly, Create };
+
+    /// Opens a file, which this alone never changes. Create is for a file that is to be made and does not
+    /// check what it holds. Errors as for Workspace::OpenDatabase.
+    Connection(const QString& path, const QString& password, Access access);
+    ~Connection();
+    Connection(const Connection&) = delete;
+    Connection& operator=(const Connection&) = delete;
+
+    /// Ends every cursor, which commits what they have written, and lets go of the file. The first failure is
+    /// thrown when all is done.
+    void close();
+    bool isOpen() const { return m_database != nullptr; }
+
+    /// A statement of the dialect, ready to be stepped.
+    StatementCache::Loan select(QStringView source);
+    /// A statement of the store's own.
+    StatementCache::Loan statement(const QByteArray& sql) { return m_cache->take(sql); }
+    /// As above, but not kept: for what runs once.
+    Statement prepare(const QByteArray& sql) { return Statement(m_database.get(), sql); }
+    void execute(const QByteArray& sql) { prepare(sql).run(); }
+    WriteTransaction& transaction() { return *m_transaction; }
+    /// How many rows the last write touched.
+    int changes() const;
+
+    void add(Cursor* cursor) { m_cursors.push_back(cursor); }
+    void remove(Cursor* cursor);
+
+private:
+    struct Closer {
+        void operator()(sqlite3* database) const;
+    };
+
+    void openFile(const QString& path, Access access);
+    void unlock(const QString& password);
+    void readFirstPage(const QString& path);
+    void requireTables(const QString& path);
+
+    std::unique_ptr<sqlite3, Closer> m_database;
+    std::optional<StatementCache> m_cache;
+    std::optional<WriteTransaction> m_transaction;
+    std::vector<Cursor*> m_cursors;
+    LexedStatement m_lexed; ///< kept for its buffers
+};
+
+/// The password in a connect text such as ";pwd=...".
+QString passwordOf(const QString& connect);

@@ -1,0 +1,135 @@
+#include "Cursor.h"
+
+#include <QtGlobal>
+#include <utility>
+
+namespace {
+
+RuntimeError notSupported() {
+    return {3251, QStringLiteral("Operation wird für diesen Objekttyp nicht unterstützt.")};
+}
+
+} // namespace
+
+Cursor::Cursor(std::shared_ptr<Connection> connection)
+    : m_connection(std::move(connection)) {
+    m_connection->add(this);
+}
+
+Cursor::~Cursor() {
+    try {
+        leave();
+    } catch (const RuntimeError& error) {
+        // Routines close what they have written to; this is a cursor that an error carried away.
+        qWarning("%s", qUtf8Printable(error.description));
+    }
+}
+
+void Cursor::close() {
+    releaseRows();
+    leave();
+}
+
+void Cursor::leave() {
+    const auto ended = std::exchange(m_connection, nullptr);
+    if (ended == nullptr) return;
+    ended->remove(this);
+    const bool hasWritten = m_writer.has_value();
+    m_writer.reset();
+    if (hasWritten) ended->transaction().leave();
+}
+
+void Cursor::moveTo(Place place) {
+    m_place = place;
+    m_buffer.end();
+    m_written.end();
+}
+
+void Cursor::requireRow() const {
+    if (m_place == Place::Deleted) throw runtimeError(3167);
+    if (m_place != Place::Row) throw runtimeError(3021);
+}
+
+Value Cursor::value(int column) {
+    const int field = fieldOfColumn(column);
+    if (m_buffer.mode() == CopyBuffer::Mode::Adding) return m_buffer.initial(field);
+    requireRow();
+    for (const CopyBuffer* buffer : {&m_buffer, &m_written}) {
+        if (buffer->mode() == CopyBuffer::Mode::Idle) continue;
+        if (const Value* known = buffer->find(field)) return *known;
+    }
+    return storedValue(column);
+}
+
+void Cursor::useIndex(const QString&) { throw notSupported(); }
+
+void Cursor::seek(const QString&, const Value&) { throw notSupported(); }
+
+const TableSpec& Cursor::requireTarget() const {
+    if (target() == nullptr) throw runtimeError(3027);
+    return *target();
+}
+
+void Cursor::addNew() { m_buffer.begin(CopyBuffer::Mode::Adding, requireTarget()); }
+
+void Cursor::edit() {
+    requireRow();
+    m_buffer.begin(CopyBuffer::Mode::Editing, requireTarget());
+}
+
+void Cursor::collect(const QString& name, const Value& value) {
+    if (m_buffer.mode() == CopyBuffer::Mode::Idle) throw runtimeError(3020);
+    const int field = fieldOfColumn(columnIndex(name));
+    if (field < 0) throw runtimeError(3027);
+    m_buffer.set(field, value);
+}
+
+/// A key that was changed is the row's number from then on.
+qint64 Cursor::currentRow() {
+    const bool keyed = requireTarget().keyed && m_written.mode() != CopyBuffer::Mode::Idle;
+    const Value* key = keyed ? m_written.find(0) : nullptr;
+    return key != nullptr ? key->number() : storedRow();
+}
+
+RowWriter& Cursor::writer() {
+    if (m_writer) {
+        m_connection->transaction().requireIntact();
+        return *m_writer;
+    }
+    m_connection->transaction().join();
+    return m_writer.emplace(*m_connection, requireTarget());
+}
+
+template<typename Write>
+void Cursor::write(Write write) {
+    RowWriter& rows = writer();
+    try {
+        write(rows);
+    } catch (const RuntimeError& error) {
+        m_connection->transaction().noteFailure(error);
+        throw;
+    }
+}
+
+void Cursor::update() {
+    switch (m_buffer.mode()) {
+    case CopyBuffer::Mode::Idle:
+        throw runtimeError(3020);
+    case CopyBuffer::Mode::Adding:
+        write([this](RowWriter& rows) { rows.insert(m_buffer); });
+        break;
+    case CopyBuffer::Mode::Editing:
+        write([this, row = currentRow()](RowWriter& rows) { rows.update(row, m_buffer); });
+        if (m_written.mode() == CopyBuffer::Mode::Idle) m_written.begin(CopyBuffer::Mode::Editing, *target());
+        m_written.take(m_buffer);
+        break;
+    }
+    m_buffer.end();
+}
+
+void Cursor::remove() {
+    requireRow();
+    write([row = currentRow()](RowWriter& rows) { rows.remove(row); });
+    moveTo(Place::Deleted);
+    afterRemove();
+}

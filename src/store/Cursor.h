@@ -1,0 +1,77 @@
+#pragma once
+
+#include "Connection.h"
+#include "CopyBuffer.h"
+#include "RowWriter.h"
+
+#include <memory>
+#include <optional>
+
+/// What the two kinds of cursors have in common: a place, a copy buffer, and their part in the user action's
+/// transaction. Values of the current row that this cursor has written itself stand over the stored ones.
+class Cursor {
+public:
+    explicit Cursor(std::shared_ptr<Connection> connection);
+    virtual ~Cursor();
+    Cursor(const Cursor&) = delete;
+    Cursor& operator=(const Cursor&) = delete;
+
+    bool isOpen() const { return m_connection != nullptr; }
+    /// The last cursor that has written commits.
+    void close();
+
+    /// Error 3265 if there is none.
+    virtual int columnIndex(const QString& name) const = 0;
+    Value value(int column);
+
+    virtual void moveFirst() = 0;
+    virtual void moveLast() = 0;
+    virtual void moveNext() = 0;
+    bool eof() const { return m_place == Place::Empty || m_place == Place::After; }
+    bool bof() const { return m_place == Place::Empty; }
+    virtual qint32 recordCount() const = 0;
+    virtual qint32 absolutePosition() const = 0;
+
+    // Only a table cursor has an index (3251).
+    virtual void useIndex(const QString& name);
+    virtual void seek(const QString& comparison, const Value& key);
+    virtual bool noMatch() const { return false; }
+
+    void addNew();
+    void edit();
+    void collect(const QString& name, const Value& value);
+    void update();
+    void remove();
+
+protected:
+    /// Nowhere is after a Seek that found nothing.
+    enum class Place : quint8 { Empty, Row, Deleted, Nowhere, After };
+
+    Connection& connection() const { return *m_connection; }
+    Place place() const { return m_place; }
+    /// Moving gives up an unfinished change.
+    void moveTo(Place place);
+    /// Error 3021 without a current row, 3167 on one that was deleted.
+    void requireRow() const;
+
+    virtual const TableSpec* target() const = 0; ///< null if the rows cannot be edited
+    virtual int fieldOfColumn(int column) const = 0;
+    virtual Value storedValue(int column) = 0;
+    virtual qint64 storedRow() = 0;
+    virtual void afterRemove() {}
+    virtual void releaseRows() noexcept = 0;
+
+private:
+    const TableSpec& requireTarget() const;
+    qint64 currentRow();
+    RowWriter& writer();
+    template<typename Write>
+    void write(Write write);
+    void leave();
+
+    std::shared_ptr<Connection> m_connection;
+    Place m_place = Place::Empty;
+    CopyBuffer m_buffer;
+    CopyBuffer m_written; ///< on the current row
+    std::optional<RowWriter> m_writer;
+};

@@ -1,0 +1,23 @@
+#include "Database.h"
+
+#include "Connection.h"
+#include "QueryCursor.h"
+#include "TableCursor.h"
+
+Database::Database(std::shared_ptr<Connection> connection)
+    : m_connection(std::move(connection)) {}
+
+bool Database::isOpen() const { return m_connection != nullptr && m_connection->isOpen(); }
+
+Recordset Database::OpenRecordset(const QString& nameOrSelect, RecordsetType type) {
+    if (!isOpen()) throw runtimeError(91);
+    if (type == dbOpenDynaset) return Recordset(std::make_shared<QueryCursor>(m_connection, nameOrSelect));
+    const TableSpec* table = findTable(nameOrSelect);
+    if (table == nullptr) throw runtimeError(3078, nameOrSelect);
+    return Recordset(std::make_shared<TableCursor>(m_connection, *table));
+}
+
+void Database::Close() {
+    if (!isOpen()) throw runtimeError(91);
+    m_connection->close();
+}

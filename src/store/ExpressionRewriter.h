@@ -1,0 +1,53 @@
+#pragma once
+
+#include "Operand.h"
+#include "Scope.h"
+#include "TokenReader.h"
+
+/// Reads one expression of the dialect and writes it as the database engine understands it.
+///
+/// From the weakest to the strongest binding: OR; AND; NOT; comparison, IS, LIKE, IN, BETWEEN; &; + -; * /;
+/// sign.
+class ExpressionRewriter {
+public:
+    enum class Aggregates : quint8 { Allowed, Refused };
+
+    ExpressionRewriter(TokenReader& reader, const Scope& scope, Aggregates aggregates)
+        : m_reader(reader)
+        , m_scope(scope)
+        , m_aggregates(aggregates) {}
+
+    Operand read();
+    /// As above for a condition, which a bare text is not (3464).
+    Operand readCondition();
+
+private:
+    using Part = Operand (ExpressionRewriter::*)();
+
+    Operand readChain(QStringView word, Part part);
+    Operand readConjunction();
+    Operand readNegation();
+    Operand readComparison();
+    Operand readTest(Operand left);
+    Operand readNullTest(const Operand& left);
+    Operand readLike(const Operand& left, const QByteArray& negation);
+    Operand readIn(const Operand& left, const QByteArray& negation);
+    Operand readInList(const Operand& left, const QByteArray& negation);
+    Operand readBetween(const Operand& left, const QByteArray& negation);
+    Operand readConcatenation();
+    Operand readSum();
+    Operand readProduct();
+    Operand readSigned();
+    Operand readPrimary();
+    Operand readLiteral();
+    Operand readBracketed();
+    Operand readExists();
+    Operand readNamed();
+    Operand readAggregate(const QString& name);
+    Operand readAggregateArgument();
+    Operand fieldOperand(const FieldReference& reference) const;
+
+    TokenReader& m_reader;
+    const Scope& m_scope;
+    Aggregates m_aggregates;
+};

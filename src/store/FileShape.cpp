@@ -1,0 +1,29 @@
+#include "FileShape.h"
+
+#include "RuntimeError.h"
+
+#include <QFileInfo>
+
+namespace {
+
+constexpr qint64 pageBytes = 1024;
+
+} // namespace
+
+void requireReadableFile(const QString& path) {
+    const QFileInfo file(path);
+    if (!file.exists()) throw runtimeError(3024, path);
+    // Not tried by opening it: closing it again would drop the locks that this process holds on the file.
+    if (!file.isFile() || !file.isReadable()) throw runtimeError(3051, path);
+}
+
+void requirePageShape(const QString& path) {
+    const qint64 size = QFileInfo(path).size();
+    if (size == 0 || size % pageBytes != 0) throw runtimeError(3343, path);
+}
+
+void requirePages(const QString& path, qint64 pages) {
+    if (QFileInfo(path).size() < pages * pageBytes) throw runtimeError(3343, path);
+}
+
+bool hasJournal(const QString& path) { return QFileInfo(path + QStringLiteral("-journal")).size() > 0; }

@@ -1,0 +1,53 @@
+#include "Recordset.h"
+
+#include "Cursor.h"
+
+Value Field::Value() const {
+    if (!m_cursor->isOpen()) throw runtimeError(91);
+    return m_cursor->value(m_column);
+}
+
+Recordset::Recordset(std::shared_ptr<Cursor> cursor)
+    : m_cursor(std::move(cursor)) {}
+
+Cursor& Recordset::cursor() const {
+    if (m_cursor == nullptr || !m_cursor->isOpen()) throw runtimeError(91);
+    return *m_cursor;
+}
+
+void Recordset::Index(const QString& name) { cursor().useIndex(name); }
+
+void Recordset::Seek(const QString& comparison, const Value& key) { cursor().seek(comparison, key); }
+
+bool Recordset::NoMatch() const { return cursor().noMatch(); }
+
+void Recordset::MoveFirst() { cursor().moveFirst(); }
+
+void Recordset::MoveLast() { cursor().moveLast(); }
+
+void Recordset::MoveNext() { cursor().moveNext(); }
+
+bool Recordset::Eof() const { return cursor().eof(); }
+
+bool Recordset::Bof() const { return cursor().bof(); }
+
+qint32 Recordset::RecordCount() const { return cursor().recordCount(); }
+
+qint32 Recordset::AbsolutePosition() const { return cursor().absolutePosition(); }
+
+Field Recordset::Fields(const QString& name) const {
+    const int column = cursor().columnIndex(name);
+    return {m_cursor, column};
+}
+
+void Recordset::AddNew() { cursor().addNew(); }
+
+void Recordset::Edit() { cursor().edit(); }
+
+void Recordset::Collect(const QString& name, const Value& value) { cursor().collect(name, value); }
+
+void Recordset::Update() { cursor().update(); }
+
+void Recordset::Delete() { cursor().remove(); }
+
+void Recordset::Close() { cursor().close(); }

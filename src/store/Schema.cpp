@@ -1,0 +1,246 @@
+#include "Schema.h"
+
+#include <array>
+
+namespace {
+
+using enum FieldKind;
+
+constexpr auto systemFields = std::to_array<FieldSpec>({
+    {u"FJahr", Long},
+    {u"JBeitrag", Number},
+    {u"PflichtStd", Number},
+    {u"Verein", Text},
+    {u"Strasse", Text},
+    {u"PLZ", Text},
+    {u"Ort", Text},
+    {u"Tel", Text},
+});
+
+constexpr auto fischFields = std::to_array<FieldSpec>({
+    {u"FNr", AutoNumber},
+    {u"FName", Text},
+    {u"Notiz", Text},
+});
+
+constexpr auto gewaesserFields = std::to_array<FieldSpec>({
+    {u"GNr", AutoNumber},
+    {u"GName", Text},
+    {u"Notiz", Text},
+});
+
+constexpr auto fangFields = std::to_array<FieldSpec>({
+    {u"FangNr", AutoNumber},
+    {u"FangJahr", Long},
+    {u"FangMonat", Long},
+    {u"FischNr", Long},
+    {u"GNr", Long},
+    {u"Notiz", Text},
+    {u"Anzahl", Long},
+    {u"Gewicht", Long},
+});
+
+constexpr auto besatzungFields = std::to_array<FieldSpec>({
+    {u"BNr", AutoNumber},
+    {u"BJahr", Long},
+    {u"FNr", Long},
+    {u"GNr", Long},
+    {u"Zeit", Text},
+    {u"Menge", Double},
+});
+
+constexpr auto kategoFields = std::to_array<FieldSpec>({
+    {u"KategoNr", AutoNumber},
+    {u"Kategorie", Text},
+});
+
+constexpr auto kontaktFields = std::to_array<FieldSpec>({
+    {u"KNr", AutoNumber}, {u"KategoNr", Long},       {u"Anrede", Text},   {u"Nachname", Text},
+    {u"Vorname", Text},   {u"Strasse", Text},        {u"PLZ", Text},      {u"Ort", Text},
+    {u"Tel1", Text},      {u"Tel2", Text},           {u"Mobil", Text},    {u"Fax", Text},
+    {u"EMail", Text},     {u"Firma", Text},          {u"GebDatum", Date}, {u"Bankeinzug", Boolean},
+    {u"BLZ", Text},       {u"KreditInstitut", Text}, {u"KontoNr", Text},  {u"Notiz", Text},
+});
+
+constexpr auto mitgliedFields = std::to_array<FieldSpec>({
+    {u"KNr", Long},
+    {u"Geschlecht", Boolean},
+    {u"Befreit", Boolean},
+    {u"Bezahlt", Boolean},
+    {u"Eintritt", Date},
+    {u"Austritt", Date},
+    {u"JG", Boolean},
+});
+
+constexpr auto arbeitFields = std::to_array<FieldSpec>({
+    {u"ArbNr", AutoNumber},
+    {u"KNr", Long},
+    {u"Jahr", Long},
+    {u"Datum", Date},
+    {u"ArbStd", Double},
+    {u"Notiz", Text},
+});
+
+constexpr auto benutzerFields = std::to_array<FieldSpec>({
+    {u"BNr", AutoNumber},
+    {u"Name", Text},
+    {u"Passwort", Text},
+    {u"GNr", Long},
+});
+
+constexpr auto gruppenFields = std::to_array<FieldSpec>({
+    {u"GNr", AutoNumber},
+    {u"GName", Text},
+    {u"Fangbuch", Boolean},
+    {u"Fangauswertung", Boolean},
+    {u"KontUebers", Boolean},
+    {u"KontListe", Boolean},
+    {u"Kontakt", Boolean},
+    {u"Arbeit", Boolean},
+    {u"Besatz", Boolean},
+    {u"Basis", Boolean},
+    {u"Benutzerverwaltung", Boolean},
+    {u"System", Boolean},
+});
+
+// The staging tables take over what a grid shows: names and months as texts, amounts as numbers that the
+// report formats and adds up.
+constexpr auto druckFanglisteFields = std::to_array<FieldSpec>({
+    {u"FangNr", Long},
+    {u"Name", Text},
+    {u"Gewässer", Text},
+    {u"Monat", Text},
+    {u"FangJahr", Long},
+    {u"Anzahl", Long},
+    {u"Gewicht", Long},
+});
+
+// A birthday that is not known is shown, and staged, as an empty text.
+constexpr auto druckMitglListFields = std::to_array<FieldSpec>({
+    {u"KontaktNr", Long},
+    {u"Nachname", Text},
+    {u"Vorname", Text},
+    {u"Strasse", Text},
+    {u"PLZ", Text},
+    {u"Ort", Text},
+    {u"Tel", Text},
+    {u"GebDatum", Text},
+});
+
+constexpr auto druckArbStdFields = std::to_array<FieldSpec>({
+    {u"KontaktNr", Long},
+    {u"Nachname", Text},
+    {u"Vorname", Text},
+    {u"pflstd", Double},
+    {u"GelStd", Double},
+    {u"SollHaben", Double},
+});
+
+constexpr auto druckArbListeFields = std::to_array<FieldSpec>({
+    {u"ArbNr", Long},
+    {u"GelStd", Double},
+    {u"Datum", Date},
+});
+
+constexpr auto druckBesatzlisteFields = std::to_array<FieldSpec>({
+    {u"BNr", Long},
+    {u"FName", Text},
+    {u"GName", Text},
+    {u"Zeit", Text},
+    {u"Menge", Double},
+});
+
+constexpr auto tables = std::to_array<TableSpec>({
+    {u"System", systemFields, false},
+    {u"Fisch", fischFields, true},
+    {u"Gewaesser", gewaesserFields, true},
+    {u"Fang", fangFields, true},
+    {u"Besatzung", besatzungFields, true},
+    {u"Katego", kategoFields, true},
+    {u"Kontakt", kontaktFields, true},
+    {u"Mitglied", mitgliedFields, true},
+    {u"Arbeit", arbeitFields, true},
+    {u"Gruppen", gruppenFields, true},
+    {u"Benutzer", benutzerFields, true},
+    {u"Druck_Fangliste", druckFanglisteFields, false},
+    {u"Druck_MitglList", druckMitglListFields, false},
+    {u"Druck_ArbStd", druckArbStdFields, false},
+    {u"Druck_ArbListe", druckArbListeFields, false},
+    {u"Druck_Besatzliste", druckBesatzlisteFields, false},
+});
+
+struct IndexSpec {
+    const char* name;
+    const char* target;
+};
+
+// What the routines ask for again and again. Lists are joined from the catch or the contact outward, so the
+// numbers that point from there to other tables need none.
+constexpr auto indexes = std::to_array<IndexSpec>({
+    {"FangJahrMonat", "\"Fang\"(\"FangJahr\", \"FangMonat\")"},
+    {"ArbeitMitgliedJahr", "\"Arbeit\"(\"KNr\", \"Jahr\")"},
+    {"ArbeitJahr", "\"Arbeit\"(\"Jahr\")"},
+    {"ArbeitDatum", "\"Arbeit\"(\"Datum\")"},
+    {"KontaktKatego", "\"Kontakt\"(\"KategoNr\")"},
+    {"BesatzungJahr", "\"Besatzung\"(\"BJahr\")"},
+    {"BenutzerGruppe", "\"Benutzer\"(\"GNr\")"},
+});
+
+QByteArray columnType(FieldKind kind) {
+    switch (kind) {
+    case AutoNumber:
+        return "INTEGER PRIMARY KEY AUTOINCREMENT";
+    case Long:
+    case Number:
+        return "INTEGER";
+    case Boolean:
+        return "INTEGER NOT NULL DEFAULT 0";
+    case Double:
+    case Date:
+        return "REAL";
+    default:
+        return "TEXT";
+    }
+}
+
+QByteArray columnDefinition(const TableSpec& table, const FieldSpec& field) {
+    QByteArray definition = quotedName(field.name) + ' ' + columnType(field.kind);
+    const bool isKey = table.keyed && &field == &table.fields.front();
+    if (isKey && field.kind == Long) definition += " PRIMARY KEY";
+    // The one relation that the file enforces: the users go with their group.
+    if (table.name == u"Benutzer" && field.name == u"GNr")
+        definition += " REFERENCES \"Gruppen\"(\"GNr\") ON DELETE CASCADE";
+    return definition;
+}
+
+QByteArray tableDefinition(const TableSpec& table) {
+    QByteArrayList columns;
+    for (const FieldSpec& field : table.fields) columns += columnDefinition(table, field);
+    return "CREATE TABLE " + quotedName(table.name) + " (" + columns.join(", ") + ')';
+}
+
+} // namespace
+
+int TableSpec::fieldIndex(QStringView fieldName) const {
+    for (size_t i = 0; i < fields.size(); ++i)
+        if (fields[i].name.compare(fieldName, Qt::CaseInsensitive) == 0) return static_cast<int>(i);
+    return -1;
+}
+
+std::span<const TableSpec> schemaTables() { return tables; }
+
+const TableSpec* findTable(QStringView name) {
+    for (const TableSpec& table : tables)
+        if (table.name.compare(name, Qt::CaseInsensitive) == 0) return &table;
+    return nullptr;
+}
+
+QList<QByteArray> schemaStatements() {
+    QList<QByteArray> statements;
+    for (const TableSpec& table : tables) statements += tableDefinition(table);
+    for (const IndexSpec& index : indexes)
+        statements += QByteArray("CREATE INDEX \"") + index.name + "\" ON " + index.target;
+    return statements;
+}
+
+QByteArray quotedName(QStringView name) { return '"' + name.toUtf8().replace('"', "\"\"") + '"'; }

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "Operand.h"
+#include "Scope.h"
+#include "SelectPlan.h"
+#include "TokenReader.h"
+
+/// Reads a whole statement, which must be a single SELECT.
+///
+/// Errors: 3075 for what is not well-formed; 3061 and 3079 for fields, 3078 for tables that cannot be found;
+/// 3464 for a comparison of a text with a number; 3122 for a field beside an aggregate.
+SelectPlan rewriteSelect(QStringView source, const LexedStatement& statement);
+
+// Sub-selects, read from their SELECT up to the bracket that ends them.
+
+/// One that stands for a value: Null without a row, error 3354 with more than one, 3306 with more than one
+/// column.
+Operand readValueSelect(TokenReader& reader, const Scope& outer);
+/// One that stands for a list of values.
+Operand readListSelect(TokenReader& reader, const Scope& outer);
+QByteArray readExistsSelect(TokenReader& reader, const Scope& outer);

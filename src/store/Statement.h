@@ -1,0 +1,47 @@
+#pragma once
+
+#include "Schema.h"
+#include "Value.h"
+
+#include <QByteArray>
+#include <memory>
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+/// A prepared statement. Failures are RuntimeErrors; a failed statement is reset, so that it can run again.
+class Statement {
+public:
+    Statement() = default;
+    Statement(sqlite3* database, const QByteArray& sql);
+
+    explicit operator bool() const { return m_statement != nullptr; }
+
+    /// Positions count from 1. One that the statement does not have is passed over.
+    void bind(int position, const Value& value);
+    void bind(int position, qint64 number);
+    /// Binds what a column of another statement's row holds, just as it is stored.
+    void bindColumn(int position, const Statement& row, int index);
+    /// True when there is a row to read, false when the statement is through.
+    bool step();
+    /// Steps a statement that gives no rows.
+    void run();
+    void reset() noexcept;
+    /// Lets go of the bound texts.
+    void clear() noexcept;
+
+    /// Columns count from 0. Error 6 for a Long beyond 32 bits.
+    Value column(int index, FieldKind kind) const;
+    qint64 integer(int index) const;
+    QString text(int index) const;
+
+    int columnCount() const;
+
+private:
+    struct Finalizer {
+        void operator()(sqlite3_stmt* statement) const;
+    };
+    void check(int code) const;
+
+    std::unique_ptr<sqlite3_stmt, Finalizer> m_statement;
+};

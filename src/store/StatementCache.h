@@ -1,0 +1,65 @@
+#pragma once
+
+#include "SelectPlan.h"
+#include "Statement.h"
+
+#include <QHash>
+#include <QString>
+#include <list>
+#include <memory>
+#include <vector>
+
+struct sqlite3;
+
+/// The prepared statements of a connection, the least recently used ones given up first. A statement is out
+/// of the cache while somebody holds it; a second user of the same key gets one of his own.
+class StatementCache {
+public:
+    explicit StatementCache(sqlite3* database)
+        : m_database(database) {}
+
+private:
+    struct Entry {
+        QString key;
+        std::shared_ptr<const SelectPlan> plan;
+        std::vector<Statement> idle;
+    };
+
+public:
+    /// A statement on loan. Goes back, reset, when this ends.
+    class Loan {
+    public:
+        Loan() = default;
+        ~Loan() { giveBack(); }
+        Loan(Loan&&) noexcept = default;
+        Loan& operator=(Loan&& other) noexcept;
+
+        explicit operator bool() const { return static_cast<bool>(m_statement); }
+        Statement* operator->() { return &m_statement; }
+        const Statement* operator->() const { return &m_statement; }
+        const SelectPlan& plan() const { return *m_plan; }
+        void giveBack() noexcept;
+
+    private:
+        friend class StatementCache;
+        Statement m_statement;
+        std::shared_ptr<const SelectPlan> m_plan;
+        std::shared_ptr<Entry> m_home; ///< null for one that is used only once
+    };
+
+    /// Empty if nothing is known of the key yet.
+    Loan take(const QString& key);
+    /// Prepares a statement for a rewritten SELECT.
+    Loan add(const QString& key, SelectPlan plan);
+    /// A statement of the store's own.
+    Loan take(const QByteArray& sql);
+    void clear();
+
+private:
+    Loan lend(const std::shared_ptr<Entry>& entry);
+    std::shared_ptr<Entry> remember(const QString& key, SelectPlan plan);
+
+    sqlite3* m_database;
+    std::list<std::shared_ptr<Entry>> m_entries; ///< the most recently used one in front
+    QHash<QString, std::list<std::shared_ptr<Entry>>::iterator> m_places;
+};

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "DialectError.h"
+#include "Lexer.h"
+
+/// Walks over the tokens of one statement.
+class TokenReader {
+public:
+    TokenReader(QStringView source, const LexedStatement& statement)
+        : m_source(source)
+        , m_statement(statement) {}
+
+    const Token& peek(size_t ahead = 0) const;
+    const Token& take();
+    bool at(TokenKind kind) const { return peek().kind == kind; }
+    bool accept(TokenKind kind);
+    bool atWord(QStringView word, size_t ahead = 0) const;
+    bool acceptWord(QStringView word);
+    void expect(TokenKind kind, SyntaxFault fault);
+    void expectWord(QStringView word, SyntaxFault fault);
+
+    /// True for a name that is not one of the language's own words.
+    bool atName(size_t ahead = 0) const;
+    QString takeName(SyntaxFault fault);
+
+    const Value& literal(const Token& token) const;
+
+    size_t place() const { return m_place; }
+    void moveTo(size_t place) { m_place = place; }
+    /// The place of the FROM that belongs to the SELECT just read, over all brackets; that of the end if
+    /// none.
+    size_t findFrom() const;
+
+    /// What is read from here on is named in errors.
+    void beginClause() { m_clause = peek().start; }
+    [[noreturn]] void fail(SyntaxFault fault) const;
+    QStringView clause() const;
+
+    /// Counts a level of nesting while it lives. Error 3075 when a statement goes so deep that it might
+    /// exhaust the stack.
+    class Level {
+    public:
+        explicit Level(TokenReader& reader);
+        ~Level() { --m_reader.m_depth; }
+        Level(const Level&) = delete;
+        Level& operator=(const Level&) = delete;
+
+    private:
+        TokenReader& m_reader;
+    };
+
+    /// A name for a table that no other one in the statement has.
+    QByteArray nextAlias() { return 't' + QByteArray::number(m_aliases++); }
+
+private:
+    QStringView textOf(const Token& token) const { return m_source.sliced(token.start, token.length); }
+
+    QStringView m_source;
+    const LexedStatement& m_statement;
+    size_t m_place = 0;
+    qsizetype m_clause = 0;
+    int m_depth = 0;
+    int m_aliases = 0;
+};

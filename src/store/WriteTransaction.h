@@ -1,0 +1,35 @@
+#pragma once
+
+#include "RuntimeError.h"
+
+#include <QByteArray>
+#include <optional>
+
+struct sqlite3;
+
+/// One user action's writes. Begins with the first write of a cursor and reaches the disk when the last
+/// cursor that has written is closed, so an action is either wholly in the file or not at all.
+class WriteTransaction {
+public:
+    explicit WriteTransaction(sqlite3* database)
+        : m_database(database) {}
+
+    /// A cursor is about to write for the first time. Error 3260 while another process writes.
+    void join();
+    /// A cursor that has joined is closed; the last one commits. Failing that, everything is rolled back and
+    /// the failure is thrown.
+    void leave();
+    /// To be told of each failed write: the library may have taken back all writes of the action, which must
+    /// then not go on as if nothing were missing.
+    void noteFailure(const RuntimeError& cause);
+    /// Throws that cause again once it has happened.
+    void requireIntact() const;
+
+private:
+    void execute(const QByteArray& sql);
+    bool isOpen() const;
+
+    sqlite3* m_database;
+    int m_writers = 0;
+    std::optional<RuntimeError> m_lost;
+};
