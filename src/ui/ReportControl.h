@@ -1,0 +1,73 @@
+#pragma once
+
+#include <QRect>
+#include <QString>
+
+/// A control of a report section: a fixed label, a text bound to a field, a sum over all detail rows, a rule
+/// or a frame. Places are tenths of a millimetre from the section's top left corner; what a control shows
+/// never leaves its place.
+class ReportControl {
+public:
+    enum class Kind { Label, Text, Sum, Line, Shape };
+    enum class Align { Left, Centre, Right };
+
+    ReportControl(Kind kind, const QString& name, const QRect& place);
+
+    // How it looks; to be chained where the report is described.
+    ReportControl& points(double size); ///< height of the letters in points; 9 unless set
+    ReportControl& bold();
+    ReportControl& align(Align align);
+    /// A pattern for Format(); without one the value stands as CStr writes it.
+    ReportControl& format(const QString& pattern);
+    /// A label that breaks its text into as many lines as its place holds.
+    ReportControl& wrapped();
+    /// A label whose text has places for the page number (%p), the number of pages (%P) and the day of
+    /// printing (%d). All others keep these signs, since a user may have typed them.
+    ReportControl& withPageNumbers();
+    /// A shape: its ground. Without one it is a bare frame.
+    ReportControl& ground(QRgb colour);
+    /// A line, a shape's border, the letters: their ink. Black unless set.
+    ReportControl& ink(QRgb colour);
+    /// A line or a shape's border: its breadth in tenths of a millimetre, 2 unless set; 0 for no border.
+    ReportControl& breadth(int tenths);
+
+    Kind kind() const { return m_kind; }
+    const QString& name() const { return m_name; }
+    const QRect& place() const { return m_place; }
+    double points() const { return m_points; }
+    bool isBold() const { return m_bold; }
+    Align align() const { return m_align; }
+    const QString& format() const { return m_format; }
+    bool isWrapped() const { return m_wrapped; }
+    bool hasPageNumbers() const { return m_pageNumbers; }
+    QRgb ground() const { return m_ground; } ///< transparent for none
+    QRgb ink() const { return m_ink; }
+    int breadth() const { return m_breadth; }
+
+    /// The text of a label. It stays until it is set again. Error 438 for other controls.
+    void setCaption(const QString& caption);
+    const QString& caption() const { return m_caption; }
+    /// The field that a text or a sum shows, without regard to case; empty for none. Error 438 for other
+    /// controls.
+    void setDataField(const QString& field);
+    const QString& dataField() const { return m_dataField; }
+    void setVisible(bool visible) { m_visible = visible; }
+    bool isVisible() const { return m_visible; }
+
+private:
+    Kind m_kind;
+    Align m_align = Align::Left;
+    bool m_bold = false;
+    bool m_wrapped = false;
+    bool m_pageNumbers = false;
+    bool m_visible = true;
+    QRgb m_ground = 0;
+    QRgb m_ink = 0xff000000;
+    int m_breadth = 2;
+    double m_points = 9;
+    QRect m_place;
+    QString m_name;
+    QString m_format;
+    QString m_caption;
+    QString m_dataField;
+};

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "DataTableTexts.h"
+#include "Value.h"
+
+#include <QStringList>
+#include <memory>
+#include <optional>
+#include <vector>
+
+/// Where a report's rows come from: a record set, a grid, a list in a test.
+class ReportRowSource {
+public:
+    virtual ~ReportRowSource() = default;
+    virtual QStringList fields() const = 0;
+    /// Writes the next row into `row`, a value a field in their order; false when there is none left.
+    virtual bool next(std::vector<Value>& row) = 0;
+};
+
+/// All rows of a report, taken over from their source: nine bytes a cell, and each text once.
+class ReportRows {
+public:
+    ReportRows() = default; ///< no fields, no rows
+    explicit ReportRows(ReportRowSource& source);
+
+    int rowCount() const { return m_rowCount; }
+    int fieldCount() const { return static_cast<int>(m_fields.size()); }
+    /// By name, without regard to case, umlauts too.
+    std::optional<int> fieldIndex(const QString& name) const;
+    Value value(int row, int field) const;
+    /// Of all rows, Null counting as nothing; a text that is a number counts as one. None if a value of the
+    /// field is no number.
+    std::optional<double> sum(int field) const { return m_sums[std::size_t(field)]; }
+
+    std::size_t memoryInUse() const;
+
+private:
+    void append(const std::vector<Value>& row);
+    quint64 bitsOf(const Value& value);
+    void addUp(std::size_t field, const Value& value);
+
+    QStringList m_fields; ///< case-folded
+    std::vector<std::optional<double>> m_sums;
+    std::vector<Value::Kind> m_kinds;
+    std::vector<quint64> m_bits; ///< number, days, or number of the text
+    DataTableTexts m_texts;
+    int m_rowCount = 0;
+};
