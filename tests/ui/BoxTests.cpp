@@ -1,0 +1,98 @@
+#include "MsgBox.h"
+#include "ProgressBar.h"
+#include "Toolbar.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <QToolButton>
+#include <QVBoxLayout>
+#include <gtest/gtest.h>
+
+namespace {
+
+struct Seen {
+    QString text;
+    QString buttons;
+    QMessageBox::Icon icon = QMessageBox::NoIcon;
+    Qt::TextFormat format = Qt::AutoText;
+};
+
+// Looks at the box that opens and presses a key in it.
+Seen answer(const QString& text, int style, Qt::Key key, MsgBoxResult& result) {
+    Seen seen;
+    QTimer::singleShot(0, [&] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        ASSERT_TRUE(box);
+        seen = {box->text(), QString(), box->icon(), box->textFormat()};
+        for (QAbstractButton* button : box->buttons()) seen.buttons += button->text().remove(u'&') + u' ';
+        QTest::keyClick(box, key);
+    });
+    result = MsgBox(text, style, u"Titel"_qs);
+    return seen;
+}
+
+TEST(MsgBoxTest, BoxesAreGermanPlainAndBreakTheirLinesOnce) {
+    MsgBoxResult result = vbNo;
+    Seen seen = answer(u"eins\n\rzwei\r\ndrei <b>\n\n\rvier"_qs, vbCritical, Qt::Key_Return, result);
+    EXPECT_EQ(seen.text, u"eins\nzwei\ndrei <b>\n\nvier"_qs);
+    EXPECT_EQ(seen.buttons, u"OK "_qs);
+    EXPECT_EQ(seen.icon, QMessageBox::Critical);
+    EXPECT_EQ(seen.format, Qt::PlainText);
+    EXPECT_EQ(result, vbOK);
+
+    seen = answer(u"?"_qs, vbYesNo, Qt::Key_Return, result);
+    EXPECT_EQ(seen.buttons, u"Ja Nein "_qs);
+    EXPECT_EQ(seen.icon, QMessageBox::NoIcon);
+    EXPECT_EQ(result, vbYes) << "the first key is the default";
+    seen = answer(u"?"_qs, vbYesNo | vbExclamation, Qt::Key_Escape, result);
+    EXPECT_EQ(seen.icon, QMessageBox::Warning);
+    EXPECT_EQ(result, vbNo);
+    answer(u"!"_qs, vbInformation, Qt::Key_Escape, result);
+    EXPECT_EQ(result, vbOK);
+}
+
+TEST(ToolbarTest, AKeyIsToldByItsNameAndLeavesTheFocusAlone) {
+    QWidget window;
+    auto* column = new QVBoxLayout(&window);
+    auto* toolbar = new Toolbar;
+    auto* box = new QLineEdit;
+    column->addWidget(toolbar);
+    column->addWidget(box);
+    QToolButton* save =
+        toolbar->addKey(u"tbSpeichern"_qs, u"&Speichern"_qs, u"Speichern"_qs, u"speichern"_qs);
+    toolbar->addSeparator();
+    toolbar->addKey(u"tbLoeschen"_qs, u"&Löschen"_qs, u"Löschen"_qs, u"loeschen"_qs);
+    QStringList pressed;
+    QObject::connect(toolbar, &Toolbar::ButtonClick, [&](const QString& key) { pressed.append(key); });
+    window.show();
+    QApplication::setActiveWindow(&window);
+    box->setFocus();
+    QTest::mouseClick(save, Qt::LeftButton);
+    EXPECT_TRUE(box->hasFocus());
+    QTest::keyClick(box, Qt::Key_L, Qt::AltModifier);
+    QTest::qWait(200);
+    toolbar->setKeyEnabled(u"tbSpeichern"_qs, false);
+    QTest::mouseClick(save, Qt::LeftButton);
+    EXPECT_EQ(pressed.join(u' '), u"tbSpeichern tbLoeschen"_qs);
+    EXPECT_EQ(toolbar->key(u"tbEsc"_qs), nullptr);
+}
+
+TEST(ProgressBarTest, ItShowsHundredthsOfAnyNumberOfRows) {
+    ProgressBar bar(u"pb"_qs);
+    int changes = 0;
+    QObject::connect(&bar, &QProgressBar::valueChanged, [&] { ++changes; });
+    bar.setMax(1'000'000);
+    for (qint64 row = 1; row <= 1'000'000; ++row) bar.setProgress(row);
+    EXPECT_EQ(bar.value(), 100);
+    EXPECT_EQ(changes, 100);
+    bar.setMax(0);
+    EXPECT_EQ(bar.value(), 0);
+    bar.setProgress(5);
+    EXPECT_EQ(bar.progress(), 1) << "there is at least one row";
+}
+
+} // namespace

@@ -1,0 +1,121 @@
+#include "ComboBox.h"
+#include "RuntimeError.h"
+
+#include <QAbstractItemView>
+#include <QTest>
+#include <QWheelEvent>
+#include <gtest/gtest.h>
+
+namespace {
+
+class ComboBoxTest : public ::testing::Test {
+protected:
+    ComboBoxTest() {
+        for (const QString& fish : {u"Hecht"_qs, u"Zander"_qs, u"Aal"_qs}) combo.AddItem(fish);
+        QObject::connect(&combo, &ComboBox::Click, [this] { ++clicks; });
+        combo.show();
+    }
+
+    void pick(int row) {
+        combo.showPopup();
+        QAbstractItemView* list = combo.view();
+        const QModelIndex entry = combo.model()->index(row, 0);
+        QTest::mouseMove(list->viewport(), list->visualRect(entry).center());
+        // The list takes a release right after its opening for the end of the press that opened it.
+        QTest::qWait(QApplication::doubleClickInterval() + 50);
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, list->visualRect(entry).center());
+    }
+
+    int takeClicks() { return std::exchange(clicks, 0); }
+
+    ComboBox combo{u"cboFArt"_qs};
+    int clicks = 0;
+};
+
+TEST_F(ComboBoxTest, FillingSelectsNothingAndDoesNotClick) {
+    combo.AddItem(u"Karpfen"_qs);
+    EXPECT_EQ(combo.ListIndex(), -1);
+    combo.setListIndex(1);
+    takeClicks();
+    combo.InsertItem(0, u"Barsch"_qs);
+    EXPECT_EQ(combo.Text(), u"Zander"_qs);
+    combo.RemoveItem(2);
+    EXPECT_EQ(combo.ListIndex(), -1);
+    combo.Clear();
+    EXPECT_EQ(combo.ListCount(), 0);
+    EXPECT_EQ(takeClicks(), 0);
+}
+
+TEST_F(ComboBoxTest, AChangeByProgramClicksOnce) {
+    combo.setText(u"Zander"_qs);
+    EXPECT_EQ(takeClicks(), 1);
+    combo.setText(u"Zander"_qs);
+    EXPECT_EQ(takeClicks(), 0) << "nothing has changed";
+    combo.setText(u"aal"_qs);
+    EXPECT_EQ(combo.Text(), u"Aal"_qs) << "entries are found regardless of case";
+    combo.setText(QString());
+    EXPECT_EQ(combo.ListIndex(), -1);
+    EXPECT_EQ(takeClicks(), 2);
+}
+
+TEST_F(ComboBoxTest, AnUnknownTextOrIndexIsAnError) {
+    combo.setListIndex(0);
+    const auto errorOf = [](const std::function<void()>& statement) {
+        try {
+            statement();
+        } catch (const RuntimeError& error) {
+            return error.number;
+        }
+        return 0;
+    };
+    EXPECT_EQ(errorOf([&] { combo.setText(u"Wal"_qs); }), 383);
+    EXPECT_EQ(errorOf([&] { combo.setListIndex(3); }), 380);
+    EXPECT_EQ(combo.Text(), u"Hecht"_qs);
+}
+
+TEST_F(ComboBoxTest, APickClicksOnceAlsoOfTheSameEntry) {
+    pick(1);
+    EXPECT_EQ(combo.Text(), u"Zander"_qs);
+    EXPECT_EQ(takeClicks(), 1);
+    pick(1);
+    EXPECT_EQ(takeClicks(), 1);
+    QTest::keyClick(&combo, Qt::Key_Down);
+    EXPECT_EQ(combo.Text(), u"Aal"_qs);
+    EXPECT_EQ(takeClicks(), 1);
+}
+
+TEST_F(ComboBoxTest, SortedEntriesStandInGermanOrder) {
+    ComboBox sorted(u"cboGew"_qs, ComboBox::Order::Sorted);
+    for (const QString& name : {u"Zander"_qs, u"öhe"_qs, u"Ohm"_qs, u"apfel"_qs, u"Äsche"_qs, u"Ast"_qs}) {
+        sorted.AddItem(name);
+        if (name == u"Ohm") sorted.setText(name);
+    }
+    QStringList entries;
+    for (int i = 0; i < sorted.ListCount(); ++i) entries.append(sorted.itemText(i));
+    EXPECT_EQ(entries.join(u' '), u"apfel Äsche Ast öhe Ohm Zander"_qs);
+    EXPECT_EQ(sorted.Text(), u"Ohm"_qs);
+}
+
+TEST_F(ComboBoxTest, TheWheelChangesItOnlyWithTheFocus) {
+    combo.setListIndex(0);
+    takeClicks();
+    QWheelEvent roll({5, 5}, {5, 5}, {0, -120}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
+                     false);
+    QApplication::setActiveWindow(nullptr);
+    QApplication::sendEvent(&combo, &roll);
+    EXPECT_EQ(combo.ListIndex(), 0);
+    QApplication::setActiveWindow(&combo);
+    combo.setFocus();
+    QApplication::sendEvent(&combo, &roll);
+    EXPECT_EQ(combo.ListIndex(), 1);
+}
+
+TEST_F(ComboBoxTest, AnEditableOneTakesAnyText) {
+    ComboBox free(u"cboFrei"_qs, ComboBox::Order::AsAdded, ComboBox::Kind::Editable);
+    free.setText(u"Wal"_qs);
+    free.AddItem(u"Hecht"_qs);
+    EXPECT_EQ(free.Text(), u"Wal"_qs);
+    EXPECT_EQ(free.ListCount(), 1);
+}
+
+} // namespace

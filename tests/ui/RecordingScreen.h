@@ -1,0 +1,36 @@
+#pragma once
+
+#include "Screen.h"
+
+#include <QStringList>
+#include <functional>
+
+/// Writes down which of its events have run; the log is shared, so that the order among screens shows.
+class RecordingScreen : public Screen {
+public:
+    RecordingScreen(const QString& name, QStringList& log)
+        : Screen(name, name)
+        , m_log(log) {}
+
+    void Form_Activate() override { note(u"+"_qs, onActivate); }
+    void Form_Deactivate() override { note(u"-"_qs, onDeactivate); }
+    void Form_Paint() override { ++paints; }
+    bool Form_KeyDown(int key, Qt::KeyboardModifiers) override {
+        keys.append(key);
+        return key == swallowed;
+    }
+
+    std::function<void()> onActivate;
+    std::function<void()> onDeactivate;
+    QList<int> keys;
+    int swallowed = 0;
+    int paints = 0;
+
+private:
+    void note(const QString& event, const std::function<void()>& handler) {
+        m_log.append(event + objectName());
+        if (handler) handler();
+    }
+
+    QStringList& m_log;
+};

@@ -1,0 +1,216 @@
+#include "ComboBox.h"
+#include "MsgBox.h"
+#include "RecordingScreen.h"
+#include "Screens.h"
+#include "Stage.h"
+#include "TextBox.h"
+
+#include <QApplication>
+#include <QGroupBox>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <QVBoxLayout>
+#include <gtest/gtest.h>
+
+namespace {
+
+QStringList lifeLog;
+
+class Search : public Screen {
+public:
+    Search()
+        : Screen(u"Search"_qs, u"Suche"_qs) {
+        lifeLog.append(u"made"_qs);
+    }
+    ~Search() override { lifeLog.append(u"gone"_qs); }
+    void Form_Load() override { lifeLog.append(u"load"_qs); }
+    void Form_Unload() override { lifeLog.append(&screen<Search>() == this ? u"unload"_qs : u"another"_qs); }
+};
+
+class Frame : public Screen {
+public:
+    Frame()
+        : Screen(u"Frame"_qs, u"Rahmen"_qs)
+        , stage(new Stage(this)) {
+        standAlone();
+    }
+    void Form_Load() override { screen<Search>().Show(); }
+    void Form_Unload() override { Screens::removeAll(); }
+
+    Stage* stage;
+};
+
+void settle() {
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+class ScreenTest : public ::testing::Test {
+protected:
+    ScreenTest() { lifeLog.clear(); }
+    ~ScreenTest() override {
+        Screens::removeAll();
+        settle();
+    }
+
+    QStringList log;
+};
+
+TEST_F(ScreenTest, ThereIsOneInstanceUntilItIsUnloaded) {
+    EXPECT_FALSE(isLoaded<Search>());
+    Screen& first = screen<Search>();
+    EXPECT_EQ(&screen<Search>(), &first);
+    EXPECT_EQ(Screens::byName(u"Search"_qs), &first);
+    unload<Search>();
+    EXPECT_FALSE(isLoaded<Search>());
+    EXPECT_EQ(Screens::byName(u"Search"_qs), nullptr);
+    screen<Search>();
+    settle();
+    EXPECT_EQ(lifeLog.join(u' '), u"made load unload made load gone"_qs);
+    EXPECT_TRUE(isLoaded<Search>());
+}
+
+TEST_F(ScreenTest, AScreenMayUnloadItselfInItsOwnHandler) {
+    QPointer<Search> search = &screen<Search>();
+    auto* key = new QPushButton(search);
+    QObject::connect(key, &QPushButton::clicked, search, [&] {
+        runEvent([&] {
+            unload<Search>();
+            EXPECT_FALSE(isLoaded<Search>());
+            settle();
+            ASSERT_TRUE(search) << "its handler is still running";
+            search->setWindowTitle(u"noch da"_qs);
+        });
+    });
+    key->click();
+    settle();
+    EXPECT_FALSE(search);
+}
+
+TEST_F(ScreenTest, TheProgramMayBeStartedAgainInTheSameProcess) {
+    for (int life = 0; life < 2; ++life) {
+        lifeLog.clear();
+        screen<Frame>().Show();
+        EXPECT_EQ(Stage::current(), screen<Frame>().stage);
+        EXPECT_EQ(Stage::current()->front(), &screen<Search>());
+        QTimer::singleShot(0, [] {
+            runEvent([] { unload<Frame>(); });
+            QApplication::quit();
+        });
+        QApplication::exec();
+        EXPECT_EQ(Stage::current(), nullptr);
+        EXPECT_TRUE(Screens::all().isEmpty());
+        EXPECT_EQ(lifeLog.join(u' '), u"made load unload gone"_qs);
+    }
+}
+
+TEST_F(ScreenTest, AModalScreenReturnsWhenItIsHiddenClosedOrUnloaded) {
+    const std::function<void()> endings[] = {
+        [] { screen<Search>().Hide(); },
+        [] { screen<Search>().close(); },
+        [] { unload<Search>(); },
+    };
+    for (const auto& ending : endings) {
+        Frame frame;
+        frame.show();
+        bool wasModal = false;
+        QTimer::singleShot(0, [&] {
+            wasModal =
+                screen<Search>().isModalNow() && QApplication::activeModalWidget() == &screen<Search>();
+            runEvent(ending);
+        });
+        runEvent([] { screen<Search>().ShowModal(); });
+        EXPECT_TRUE(wasModal);
+        const Search* left = isLoaded<Search>() ? &screen<Search>() : nullptr;
+        EXPECT_FALSE(left && (left->isVisible() || left->isModalNow()));
+        settle();
+    }
+    EXPECT_EQ(lifeLog.join(u' '), u"made load unload gone"_qs) << "hiding and closing keep it";
+}
+
+TEST_F(ScreenTest, AModalScreenLeavesTheActivationBelowAlone) {
+    QWidget frame;
+    Stage stage(&frame);
+    stage.setActive(true);
+    RecordingScreen below(u"below"_qs, log);
+    RecordingScreen modal(u"modal"_qs, log);
+    below.Show();
+    QTimer::singleShot(0, [&] { modal.Hide(); });
+    modal.ShowModal();
+    EXPECT_EQ(log.join(u' '), u"+below"_qs);
+    EXPECT_EQ(stage.front(), &below);
+    modal.Show();
+    EXPECT_EQ(log.join(u' '), u"+below -below +modal"_qs) << "next time it may stand on the stage";
+}
+
+TEST_F(ScreenTest, TheWholeFacePaintedIsAnEventASmallUpdateIsNot) {
+    RecordingScreen face(u"face"_qs, log);
+    auto* column = new QVBoxLayout(&face);
+    auto* box = new QLineEdit;
+    column->addWidget(box);
+    face.resize(300, 200);
+    face.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&face));
+    QTest::qWait(20);
+    EXPECT_EQ(face.paints, 1);
+    box->update();
+    face.update(10, 10, 20, 20);
+    QTest::qWait(20);
+    EXPECT_EQ(face.paints, 1);
+    face.resize(320, 220);
+    QTest::qWait(20);
+    EXPECT_EQ(face.paints, 2);
+    face.hide();
+    face.show();
+    QTest::qWait(20);
+    EXPECT_EQ(face.paints, 3);
+}
+
+TEST_F(ScreenTest, EachKeyIsSeenOnceBeforeTheControl) {
+    RecordingScreen form(u"form"_qs, log);
+    auto* group = new QGroupBox(&form);
+    auto* inner = new QWidget;
+    auto* key = new QPushButton(inner);
+    inner->setParent(group);
+    auto* box = new TextBox(u"txt"_qs, inner);
+    form.show();
+    // Neither the button nor its parents have a use for F3, so it climbs through all of them.
+    QTest::keyClick(key, Qt::Key_F3);
+    QTest::keyClick(key, Qt::Key_F3);
+    EXPECT_EQ(form.keys, (QList<int>{Qt::Key_F3, Qt::Key_F3}));
+    form.swallowed = Qt::Key_X;
+    QTest::keyClicks(box, u"axb"_qs);
+    EXPECT_EQ(box->Text(), u"ab"_qs);
+    EXPECT_EQ(form.keys.mid(2), (QList<int>{Qt::Key_A, Qt::Key_X, Qt::Key_B}));
+
+    form.keys.clear();
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_F3, Qt::NoModifier, QString(), true);
+    QApplication::sendEvent(key, &held);
+    EXPECT_TRUE(form.keys.isEmpty()) << "a key held down saves once, not thirty times a second";
+}
+
+TEST_F(ScreenTest, KeysInABoxAboveTheScreenAreNotTheScreens) {
+    RecordingScreen form(u"form"_qs, log);
+    form.show();
+    QWidget above(&form, Qt::Dialog);
+    above.show();
+    QTest::keyClick(&above, Qt::Key_F3);
+    EXPECT_TRUE(form.keys.isEmpty());
+}
+
+TEST_F(ScreenTest, AnErrorThatNobodyCaughtGoesToTheFailureRoutine) {
+    QList<int> numbers;
+    setEventFailure([&](const RuntimeError& error) { numbers.append(error.number); });
+    runEvent([&] {
+        runEvent([] { throw RuntimeError{13, {}}; });
+        numbers.append(0);
+    });
+    runEvent([] { throw std::bad_alloc(); });
+    runEvent([] { throw std::logic_error("x"); });
+    setEventFailure({});
+    EXPECT_EQ(numbers, (QList<int>{13, 0, 7, 440})) << "the innermost catches, the outer one goes on";
+    EXPECT_THROW(runEvent([] { throw RuntimeError{6, {}}; }), RuntimeError);
+}
+
+} // namespace

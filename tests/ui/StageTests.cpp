@@ -1,0 +1,121 @@
+#include "RecordingScreen.h"
+#include "Stage.h"
+
+#include <QLineEdit>
+#include <QTest>
+#include <QVBoxLayout>
+#include <gtest/gtest.h>
+
+namespace {
+
+class StageTest : public ::testing::Test {
+protected:
+    StageTest() {
+        frame.resize(400, 300);
+        auto* column = new QVBoxLayout(&frame);
+        stage = new Stage;
+        column->addWidget(stage);
+        frame.show();
+        stage->setActive(true);
+    }
+
+    QString takeLog() { return std::exchange(log, {}).join(u' '); }
+
+    QStringList log;
+    QWidget frame;
+    Stage* stage;
+    RecordingScreen a{u"a"_qs, log};
+    RecordingScreen b{u"b"_qs, log};
+    RecordingScreen c{u"c"_qs, log};
+};
+
+TEST_F(StageTest, ActivationFollowsTheFront) {
+    a.Show();
+    b.Show();
+    EXPECT_EQ(takeLog(), u"+a -a +b"_qs);
+    b.Show();
+    EXPECT_EQ(takeLog(), QString()) << "it is in front already";
+    a.Hide();
+    EXPECT_EQ(takeLog(), QString()) << "hidden from behind";
+    a.Show();
+    a.Hide();
+    EXPECT_EQ(takeLog(), u"-b +a -a +b"_qs);
+    b.Hide();
+    EXPECT_EQ(takeLog(), u"-b"_qs);
+    EXPECT_EQ(stage->front(), nullptr);
+}
+
+TEST_F(StageTest, OnlyTheFrontIsVisibleAndItFillsTheStage) {
+    a.Show();
+    b.Show();
+    EXPECT_FALSE(a.isVisible());
+    ASSERT_TRUE(b.isVisible());
+    EXPECT_EQ(b.geometry(), stage->rect());
+    frame.resize(600, 500);
+    QTest::qWait(1);
+    EXPECT_EQ(b.geometry(), stage->rect());
+    b.Hide();
+    EXPECT_EQ(a.geometry(), stage->rect());
+}
+
+TEST_F(StageTest, HandlersMayChangeTheFrontInTheMiddleOfAChange) {
+    a.Show();
+    a.onDeactivate = [this] { c.Show(); };
+    takeLog();
+    b.Show();
+    EXPECT_EQ(takeLog(), u"-a +c"_qs) << "b was covered before its turn came";
+    EXPECT_EQ(stage->front(), &c);
+
+    b.onActivate = [this] { b.Hide(); };
+    b.Show();
+    EXPECT_EQ(takeLog(), u"-c +b -b +c"_qs);
+    EXPECT_EQ(stage->front(), &c);
+    EXPECT_TRUE(c.isVisible());
+}
+
+TEST_F(StageTest, NothingIsActivatedWhileTheFrameIsHidden) {
+    stage->setActive(false);
+    a.Show();
+    b.Show();
+    b.Hide();
+    EXPECT_EQ(takeLog(), QString());
+    stage->setActive(true);
+    EXPECT_EQ(takeLog(), u"+a"_qs);
+}
+
+TEST_F(StageTest, AnErrorInAHandlerDoesNotStopTheChange) {
+    int caught = 0;
+    setEventFailure([&](const RuntimeError& error) { caught = error.number; });
+    a.Show();
+    a.onDeactivate = [] { throw runtimeError(91); };
+    b.Show();
+    setEventFailure({});
+    EXPECT_EQ(caught, 91);
+    EXPECT_EQ(takeLog(), u"+a -a +b"_qs);
+}
+
+TEST_F(StageTest, AScreenGetsItsFocusBackWithTheFront) {
+    QLineEdit first(&a);
+    QLineEdit second(&a);
+    QLineEdit other(&b);
+    a.Show();
+    QApplication::setActiveWindow(&frame);
+    EXPECT_TRUE(first.hasFocus());
+    second.setFocus();
+    b.Show();
+    EXPECT_TRUE(other.hasFocus());
+    b.Hide();
+    EXPECT_TRUE(second.hasFocus());
+}
+
+TEST_F(StageTest, ScreensOutliveTheFrame) {
+    auto another = std::make_unique<Stage>();
+    another->bringToFront(&a);
+    another.reset();
+    EXPECT_EQ(Stage::current(), nullptr);
+    EXPECT_EQ(a.parentWidget(), nullptr);
+    a.Show();
+    EXPECT_FALSE(a.isVisible()) << "there is no stage for it";
+}
+
+} // namespace

@@ -1,0 +1,162 @@
+#include "MemoBox.h"
+#include "TextBox.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QMenu>
+#include <QTest>
+#include <QVBoxLayout>
+#include <gtest/gtest.h>
+
+namespace {
+
+int digitsOnly(int code) { return (code >= '0' && code <= '9') || code == 8 || code == 13 ? code : 0; }
+
+class TextBoxTest : public ::testing::Test {
+protected:
+    TextBoxTest() {
+        auto* column = new QVBoxLayout(&window);
+        column->addWidget(box);
+        column->addWidget(other);
+        column->addWidget(memo);
+        QObject::connect(box, &TextBox::KeyPress,
+                         [this](int code) { log += u"p%1:%2 "_qs.arg(code).arg(box->Text()); });
+        QObject::connect(box, &TextBox::KeyDone,
+                         [this](int code) { log += u"d%1:%2 "_qs.arg(code).arg(box->Text()); });
+        QObject::connect(box, &TextBox::GotFocus, [this] { focusLog += u"+box"_qs; });
+        QObject::connect(box, &TextBox::LostFocus, [this] { focusLog += u"-box"_qs; });
+        window.show();
+        QApplication::setActiveWindow(&window);
+        other->setFocus();
+    }
+
+    QWidget window;
+    TextBox* box = new TextBox(u"txtAnzahl"_qs);
+    TextBox* other = new TextBox(u"txtGewicht"_qs);
+    MemoBox* memo = new MemoBox(u"txtNotiz"_qs);
+    QString log;
+    QString focusLog;
+};
+
+TEST_F(TextBoxTest, AKeyIsToldThenFilteredThenItWorks) {
+    box->setKeyFilter(digitsOnly);
+    QTest::keyClicks(box, u"1x2"_qs);
+    EXPECT_EQ(log, u"p49: d49:1 p120:1 d120:1 p50:1 d50:12 "_qs);
+    log.clear();
+    QTest::keyClick(box, Qt::Key_Backspace);
+    QTest::keyClick(box, Qt::Key_Return);
+    EXPECT_EQ(log, u"p8:12 d8:1 p13:1 d13:1 "_qs);
+}
+
+TEST_F(TextBoxTest, KeysThatMakeNoCharacterAreNotToldAndNotFiltered) {
+    box->setKeyFilter([](int) { return 0; });
+    box->setText(u"12"_qs);
+    box->selectAll();
+    QTest::keyClick(box, Qt::Key_C, Qt::ControlModifier);
+    QTest::keyClick(box, Qt::Key_End);
+    QTest::keyClick(box, Qt::Key_Left);
+    QTest::keyClick(box, Qt::Key_V, Qt::ControlModifier);
+    QTest::keyClick(box, Qt::Key_Delete);
+    EXPECT_EQ(box->Text(), u"112"_qs) << "pasted between 1 and 2, and the last character deleted";
+    EXPECT_EQ(log, QString());
+}
+
+TEST_F(TextBoxTest, UmlautsSignsAndComposedCharactersAreCharacters) {
+    QTest::sendKeyEvent(QTest::Click, box, Qt::Key_unknown, u"ä"_qs, Qt::NoModifier);
+    QTest::sendKeyEvent(QTest::Click, box, Qt::Key_At, u"@"_qs, Qt::ControlModifier | Qt::AltModifier);
+    QInputMethodEvent composed;
+    composed.setCommitString(u"é1"_qs);
+    QApplication::sendEvent(box, &composed);
+    EXPECT_EQ(box->Text(), u"ä@é1"_qs);
+    box->setKeyFilter(digitsOnly);
+    QApplication::sendEvent(box, &composed);
+    EXPECT_EQ(box->Text(), u"ä@é11"_qs) << "the filter holds for them, too";
+}
+
+TEST_F(TextBoxTest, ALimitRefusesFurtherCharacters) {
+    box->setLimit(2);
+    QTest::keyClicks(box, u"123"_qs);
+    EXPECT_EQ(box->Text(), u"12"_qs);
+}
+
+TEST_F(TextBoxTest, EnterReachesTheParent) {
+    class Parent : public QWidget {
+    public:
+        void keyPressEvent(QKeyEvent* event) override { key = event->key(); }
+        int key = 0;
+    } parent;
+    TextBox inner(u"inner"_qs, &parent);
+    parent.show();
+    QTest::keyClick(&inner, Qt::Key_Return);
+    EXPECT_EQ(parent.key, Qt::Key_Return);
+}
+
+TEST_F(TextBoxTest, TheWholeTextIsSelectedByKeyAndByMouse) {
+    box->setSelectAllOnFocus(true);
+    box->setText(u"12345"_qs);
+    box->setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(box->selectedText(), u"12345"_qs);
+    other->setFocus();
+    box->deselect();
+    QTest::mouseClick(box, Qt::LeftButton, Qt::NoModifier, QPoint(8, box->height() / 2));
+    EXPECT_EQ(box->selectedText(), u"12345"_qs);
+    QTest::mouseClick(box, Qt::LeftButton, Qt::NoModifier, QPoint(8, box->height() / 2));
+    EXPECT_EQ(box->selectedText(), QString()) << "a second press places the caret";
+}
+
+TEST_F(TextBoxTest, AMenuOrAnotherWindowOnlyBorrowsTheFocus) {
+    focusLog.clear();
+    box->setFocus();
+    EXPECT_EQ(focusLog, u"+box"_qs);
+    QWidget above(&window, Qt::Dialog);
+    above.show();
+    QApplication::setActiveWindow(&above);
+    ASSERT_FALSE(box->hasFocus());
+    QApplication::setActiveWindow(&window);
+    ASSERT_TRUE(box->hasFocus());
+    QFocusEvent toMenu(QEvent::FocusOut, Qt::PopupFocusReason);
+    QApplication::sendEvent(box, &toMenu);
+    QFocusEvent fromMenu(QEvent::FocusIn, Qt::PopupFocusReason);
+    QApplication::sendEvent(box, &fromMenu);
+    EXPECT_EQ(focusLog, u"+box"_qs);
+    other->setFocus();
+    EXPECT_EQ(focusLog, u"+box-box"_qs);
+}
+
+TEST_F(TextBoxTest, AMemoKeepsLinesAsTheTablesDo) {
+    for (const QString& lineBreak : {u"\r\n"_qs, u"\n"_qs, u"\r"_qs, u"\n\r"_qs}) {
+        memo->setText(u"a"_qs + lineBreak + lineBreak + u"b"_qs);
+        EXPECT_EQ(memo->Text(), u"a\r\n\r\nb"_qs);
+    }
+}
+
+TEST_F(TextBoxTest, AMemoRefusesWhatGoesBeyondItsLimit) {
+    memo->setLimit(6);
+    QTest::keyClicks(memo, u"abc"_qs);
+    QTest::keyClick(memo, Qt::Key_Return);
+    QTest::keyClicks(memo, u"dx"_qs);
+    EXPECT_EQ(memo->Text(), u"abc\r\nd"_qs) << "a line break is two characters";
+    QTest::keyClick(memo, Qt::Key_Backspace);
+    QTest::keyClick(memo, Qt::Key_Return);
+    EXPECT_EQ(memo->Text(), u"abc\r\n"_qs) << "there is room for one character only";
+
+    QApplication::clipboard()->setText(u"1\r\n23456789"_qs);
+    memo->selectAll();
+    memo->paste();
+    EXPECT_EQ(memo->Text(), u"1\r\n234"_qs) << "what is replaced makes room";
+    memo->setText(u"12345"_qs);
+    memo->moveCursor(QTextCursor::End);
+    QInputMethodEvent composed;
+    composed.setCommitString(u"éé"_qs);
+    QApplication::sendEvent(memo, &composed);
+    EXPECT_EQ(memo->Text(), u"12345é"_qs);
+}
+
+TEST_F(TextBoxTest, TabLeavesAMemo) {
+    memo->setFocus();
+    QTest::keyClick(memo, Qt::Key_Backtab);
+    EXPECT_TRUE(other->hasFocus());
+    EXPECT_EQ(memo->Text(), QString());
+}
+
+} // namespace
