@@ -68,8 +68,8 @@ void fillDemoClub(Database& database, int year) {
     Recordset club = describeClub(database);
     addUsers(database);
     const DemoWaters numbers = addFishAndWaters(database);
-    addFirms(database, dice);
     const QVector<DemoMember> members = addMembers(database, dice, year);
+    addFirms(database, dice);
     for (int past = year - 2; past <= year; ++past) {
         addStocking(database, dice, numbers, past);
         addCatches(database, dice, numbers, past);
