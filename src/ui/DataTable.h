@@ -1,5 +1,6 @@
 #pragma once
 
+#include "DataTableColumn.h"
 #include "Value.h"
 
 #include <QTreeView>
@@ -14,15 +15,6 @@ struct SelectionStyle {
     QColor back;
     QColor fore;
     int style = 0;
-};
-
-/// A column of a grid. `width` is in pixels at 100 %; the last visible column takes what room is left.
-struct GridColumn {
-    QString head;
-    int width = 100;
-    bool numeric = false; ///< right-aligned
-    int minimumWidth = 24;
-    bool picture = false; ///< the cell holds the path of a picture
 };
 
 /// Names the table that cells are addressed in: the top level, or the child table of one of its rows.
@@ -45,12 +37,15 @@ public:
     explicit DataTable(const QString& name, QWidget* parent = nullptr);
     ~DataTable() override;
 
+    /// Drops all rows.
     void setColumns(const QVector<GridColumn>& columns);
-    /// The columns of every child table; calling it makes the grid a two-level one: rows of the top level then
-    /// span the width with the text of `captionColumn`, and the header shows the child columns.
+    /// The columns of every child table; calling it makes the grid a two-level one: rows of the top level
+    /// then span the width with the text of `captionColumn`, and the header shows the child columns. Calling
+    /// it again with the same columns changes nothing.
     void setChildColumns(const QVector<GridColumn>& columns, int captionColumn);
 
     int rowCount() const;
+    /// Of the top level: drops the child tables as well.
     void clearRows();
     void appendRow(std::vector<Value> cells);
     /// A row beyond the end is appended.
@@ -67,51 +62,101 @@ public:
     /// The cell as it stands on the screen; Null is empty.
     QString cellText(int row, int column) const;
     void setCell(int row, int column, const Value& value);
-    /// Looks for a cell of exactly this text from a row on (-1 counts as the first); the start row becomes the
-    /// row found. -1 if there is none.
+    /// Looks for a cell of exactly this text from a row on (-1 counts as the first); the start row becomes
+    /// the row found. -1 if there is none.
     int find(int column, int& startRow, const QString& text) const;
 
     SelectionStyle& selectionStyle() { return m_selectionStyle; }
     void refresh();
 
-    // Two levels. Entering gives back what was current before; enter it again to return.
+    // Two levels. Entering gives back what was current before; enter it again to return. The rows named here
+    // are those of the top level, whatever is current; error 9 for one that is not there.
+
+    /// A child table that is not there yet is made.
     TableHandle enterChild(int row);
     TableHandle enter(TableHandle table);
+    /// During an event it is the table in which the event happened, and stays so until another is entered or
+    /// another event comes.
     TableHandle currentTable() const { return m_current; }
+    /// An empty child table; one that is there already is replaced. Whether the row is expanded stays as is.
     void createChild(int row);
+    /// Where the child is the current table, the top level is current afterwards.
     void removeChild(int row);
     bool hasChild(int row) const;
+    /// Only where there is a child table. The rows take the colours by turns, the second one softened.
     void setChildColours(int row, const QColor& back, const QColor& second);
 
     /// Bytes held by rows, cells and shared texts, for the benchmarks.
     std::size_t memoryInUse() const;
 
-    /// Lets the view catch up with rows appended since the last turn of the event loop.
+    /// Lets the view catch up with the rows appended and cells changed since the last turn of the event loop.
+    /// Happens by itself while the grid can be seen; a hidden one catches up when it is shown.
     void publish();
     QVector<QString> visibleHeads() const;
-    /// The cell's rectangle in the viewport, scrolled into view; column -5 is the row header. Empty if there is
-    /// none. Lets a driver press where a user would.
+    /// The cell's rectangle in the viewport, scrolled into view; column -5 is the row header. Empty if there
+    /// is none. Lets a driver press where a user would.
     QRect revealCell(TableHandle table, int row, int column);
 
 Q_SIGNALS:
     void OnGridGotFocus();
     void OnGridLostFocus();
-    /// A press: row -1 is beyond the rows, column -5 the row header. Rows are those of the table in which the
-    /// press happened, which is then the current one.
+    /// A press with the left or right button: row -1 is beyond the rows (the column is -1 as well), column -5
+    /// the row header. Rows are those of the table in which the press happened, which is then the current
+    /// one. A press on a category's row header expands or collapses it after the handlers have run, if it has
+    /// a child table by then; the keys Right, Left, + and - do the same through the same event. On the text
+    /// of a category the column is the caption column.
     void OnGridCellDown(int row, int column);
-    void OnGridCellOpen(int row, int column); ///< double click, or Enter on a row
-    void OnGridCellMenu();                    ///< right mouse button, or the menu key
+    /// Double click, or Enter on a row. The first press of a double click comes as OnGridCellDown before. Not
+    /// on the row header of a category, where the second press would only undo the first.
+    void OnGridCellOpen(int row, int column);
+    /// Right mouse button, or the menu key; OnGridCellDown comes before.
+    void OnGridCellMenu();
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
+    void dataChanged(const QModelIndex& first, const QModelIndex& last, const QVector<int>& roles) override;
+    void drawRow(QPainter* painter, const QStyleOptionViewItem& option,
+                 const QModelIndex& index) const override;
 
 private:
+    /// Where a press landed.
+    struct Spot {
+        TableHandle table;
+        int row = -1;
+        int column = -1;
+    };
+
+    Spot spotAt(QPoint position) const;
+    Spot spotOf(const QModelIndex& index) const;
+    Spot currentSpot() const;
+    bool isCategory(const Spot& spot) const;
+    void cellDown(const Spot& spot);
+    void cellOpen(const Spot& spot);
+    bool foldByKey(int key);
+    QString clippedText(QPoint position) const;
+    void toggle(int row);
+
+    void schedulePublish();
+    void showColumns();
+    void columnResized(int section, int width);
+    void fitColumns();
+    QModelIndex lastIndex() const;
+    QRect spaceBelowRows() const;
+
     std::unique_ptr<DataTableModel> m_model;
     SelectionStyle m_selectionStyle;
     TableHandle m_current;
+    bool m_publishScheduled = false;
+    bool m_fitting = false;
+    QVector<int> m_widths; ///< as given or as the user wants them; the last visible column may get more
 };

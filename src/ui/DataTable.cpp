@@ -1,0 +1,295 @@
+#include "DataTable.h"
+
+#include "DataTableHeader.h"
+#include "DataTableLook.h"
+#include "DataTableModel.h"
+#include "DataTableRowPainter.h"
+#include "RuntimeError.h"
+
+#include <QItemSelection>
+#include <QPainter>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+#include <QStyledItemDelegate>
+#include <algorithm>
+
+namespace {
+
+/// All rows are as high as one line of text with some air.
+class OneLine : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        const int width = QStyledItemDelegate::sizeHint(option, index).width() + 2 * DataTableLook::padding;
+        return {width, option.fontMetrics.height() + 8};
+    }
+};
+
+} // namespace
+
+DataTable::DataTable(const QString& name, QWidget* parent)
+    : QTreeView(parent)
+    , m_model(std::make_unique<DataTableModel>()) {
+    setObjectName(name);
+    setAccessibleName(name);
+    setHeader(new DataTableHeader(this));
+    setModel(m_model.get());
+    setItemDelegate(new OneLine(this));
+    setUniformRowHeights(true);
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(SingleSelection);
+    setEditTriggers(NoEditTriggers);
+    setHorizontalScrollMode(ScrollPerPixel);
+    // Expanding is ours: the view itself would do it behind the back of the handlers.
+    setRootIsDecorated(false);
+    setIndentation(0);
+    setItemsExpandable(false);
+    setExpandsOnDoubleClick(false);
+
+    connect(header(), &QHeaderView::sectionResized, this,
+            [this](int section, int /*before*/, int width) { columnResized(section, width); });
+    connect(horizontalScrollBar(), &QScrollBar::valueChanged, this, [this] {
+        header()->viewport()->update();
+        viewport()->update();
+    });
+}
+
+DataTable::~DataTable() = default;
+
+void DataTable::setColumns(const QVector<GridColumn>& columns) {
+    m_current = {};
+    m_model->setColumns(columns);
+    showColumns();
+}
+
+void DataTable::setChildColumns(const QVector<GridColumn>& columns, int captionColumn) {
+    if (!m_model->setChildColumns(columns, captionColumn)) return;
+    m_current = {};
+    showColumns();
+}
+
+int DataTable::rowCount() const { return m_model->rows(m_current.parentRow); }
+
+void DataTable::clearRows() { m_model->clear(m_current.parentRow); }
+
+void DataTable::appendRow(std::vector<Value> cells) {
+    m_model->append(m_current.parentRow, cells);
+    schedulePublish();
+}
+
+void DataTable::insertRow(int row, std::vector<Value> cells) {
+    m_model->insert(m_current.parentRow, row, cells);
+    schedulePublish();
+}
+
+void DataTable::removeRow(int row) { m_model->remove(m_current.parentRow, row); }
+
+int DataTable::removeRowsWithText(int column, const QString& text) {
+    return m_model->removeWithText(m_current.parentRow, column, text);
+}
+
+void DataTable::selectRows(int first, int count, bool on) {
+    const int rows = rowCount();
+    const int from = std::clamp(first, 0, rows);
+    const int to = from + std::clamp(count, 0, rows - from);
+    if (!on && from == 0 && to == rows) {
+        clearSelection();
+        return;
+    }
+    if (from == to) return;
+    publish();
+    const int table = m_current.parentRow;
+    const QItemSelection range(m_model->indexOf(table, from, 0),
+                               m_model->indexOf(table, to - 1, m_model->gutterColumn()));
+    selectionModel()->select(range, on ? QItemSelectionModel::Select : QItemSelectionModel::Deselect);
+}
+
+const Value DataTable::cell(int row, int column) const {
+    return m_model->value(m_current.parentRow, row, column);
+}
+
+QString DataTable::cellText(int row, int column) const {
+    return m_model->text(m_current.parentRow, row, column);
+}
+
+void DataTable::setCell(int row, int column, const Value& value) {
+    m_model->set(m_current.parentRow, row, column, value);
+    schedulePublish();
+}
+
+int DataTable::find(int column, int& startRow, const QString& text) const {
+    const int row = m_model->find(m_current.parentRow, column, startRow, text);
+    if (row >= 0) startRow = row;
+    return row;
+}
+
+void DataTable::refresh() {
+    publish();
+    viewport()->update();
+}
+
+TableHandle DataTable::enterChild(int row) {
+    if (!m_model->hasChild(row)) m_model->createChild(row);
+    return enter({row});
+}
+
+TableHandle DataTable::enter(TableHandle table) {
+    if (table.parentRow != DataTableModel::top && !m_model->hasChild(table.parentRow)) throw runtimeError(9);
+    return std::exchange(m_current, table);
+}
+
+void DataTable::createChild(int row) { m_model->createChild(row); }
+
+void DataTable::removeChild(int row) {
+    m_model->removeChild(row);
+    if (m_current.parentRow == row) m_current = {};
+    viewport()->update();
+}
+
+bool DataTable::hasChild(int row) const { return m_model->hasChild(row); }
+
+void DataTable::setChildColours(int row, const QColor& back, const QColor& second) {
+    m_model->setChildColours(row, back, second);
+    viewport()->update();
+}
+
+std::size_t DataTable::memoryInUse() const { return m_model->memoryInUse(); }
+
+void DataTable::publish() { m_model->publish(); }
+
+void DataTable::schedulePublish() {
+    if (m_publishScheduled || !isVisible()) return;
+    m_publishScheduled = true;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            m_publishScheduled = false;
+            publish();
+        },
+        Qt::QueuedConnection);
+}
+
+QVector<QString> DataTable::visibleHeads() const {
+    QVector<QString> heads;
+    const auto& columns = m_model->shownColumns();
+    for (int column = 0; column < columns.size(); ++column) {
+        if (!isColumnHidden(column)) heads.push_back(columns[column].head);
+    }
+    return heads;
+}
+
+QRect DataTable::revealCell(TableHandle table, int row, int column) {
+    publish();
+    if (row < 0) return spaceBelowRows();
+    if (table.parentRow != DataTableModel::top && !m_model->hasChild(table.parentRow)) return {};
+    if (table.parentRow != DataTableModel::top)
+        expand(m_model->indexOf(DataTableModel::top, table.parentRow, 0));
+    const QModelIndex index = m_model->indexOf(table.parentRow, row, std::max(column, 0));
+    if (!index.isValid()) return {};
+    scrollTo(index);
+    const QRect line(0, visualRect(index.siblingAtColumn(m_model->gutterColumn())).top(), viewport()->width(),
+                     rowHeight(index));
+    if (column == rowHeaderColumn) return line.intersected(QRect(0, 0, DataTableLook::gutterWidth, height()));
+    const QRect cells = line.adjusted(DataTableLook::gutterWidth, 0, 0, 0);
+    return m_model->isCategory(index) ? cells : visualRect(index).intersected(cells);
+}
+
+QModelIndex DataTable::lastIndex() const {
+    const int last = m_model->rowCount() - 1;
+    const QModelIndex index = m_model->index(last, 0);
+    const int children = isExpanded(index) ? m_model->rowCount(index) : 0;
+    return children > 0 ? m_model->index(children - 1, 0, index) : index;
+}
+
+QRect DataTable::spaceBelowRows() const {
+    const QModelIndex last = lastIndex();
+    const int top =
+        last.isValid() ? visualRect(last.siblingAtColumn(m_model->gutterColumn())).bottom() + 1 : 0;
+    return {0, top, viewport()->width(), std::max(0, viewport()->height() - top)};
+}
+
+void DataTable::showColumns() {
+    QHeaderView* heads = header();
+    for (int section = 0; section < heads->count(); ++section) {
+        heads->moveSection(heads->visualIndex(section), section);
+    }
+    const int gutter = m_model->gutterColumn();
+    const auto& columns = m_model->shownColumns();
+    if (columns.isEmpty()) return;
+    const QScopedValueRollback fitting(m_fitting, true);
+    m_widths.clear();
+    for (int column = 0; column < columns.size(); ++column) {
+        m_widths.push_back(std::max(columns[column].width, columns[column].minimumWidth));
+        heads->setSectionResizeMode(column, QHeaderView::Interactive);
+        heads->setSectionHidden(column, columns[column].width <= 0);
+    }
+    heads->moveSection(heads->visualIndex(gutter), 0);
+    heads->setSectionHidden(gutter, false);
+    heads->setSectionResizeMode(gutter, QHeaderView::Fixed);
+    heads->resizeSection(gutter, DataTableLook::gutterWidth);
+    fitColumns();
+}
+
+void DataTable::columnResized(int section, int width) {
+    if (m_fitting || section >= m_widths.size()) return;
+    // Width 0 comes while a column is being hidden, and is no wish of the user's.
+    if (width > 0) m_widths[section] = std::max(width, m_model->shownColumns()[section].minimumWidth);
+    fitColumns();
+}
+
+void DataTable::fitColumns() {
+    const QScopedValueRollback fitting(m_fitting, true);
+    QHeaderView* heads = header();
+    int last = -1;
+    int others = DataTableLook::gutterWidth;
+    for (int column = 0; column < m_widths.size(); ++column) {
+        if (heads->sectionSize(column) == 0) continue;
+        heads->resizeSection(column, m_widths[column]);
+        others += m_widths[column];
+        last = column;
+    }
+    if (last < 0) return;
+    const int room = viewport()->width() - others;
+    if (room > 0) heads->resizeSection(last, m_widths[last] + room);
+}
+
+void DataTable::showEvent(QShowEvent* event) {
+    publish();
+    QTreeView::showEvent(event);
+}
+
+void DataTable::resizeEvent(QResizeEvent* event) {
+    QTreeView::resizeEvent(event);
+    fitColumns();
+}
+
+void DataTable::paintEvent(QPaintEvent* event) {
+    QTreeView::paintEvent(event);
+    const DataTableLook look(palette());
+    QRect gutter = spaceBelowRows();
+    gutter.setWidth(DataTableLook::gutterWidth);
+    QPainter painter(viewport());
+    painter.fillRect(gutter, look.gutter);
+    painter.fillRect(QRect(gutter.right(), gutter.top(), 1, gutter.height()), look.gutterEdge);
+}
+
+void DataTable::dataChanged(const QModelIndex& first, const QModelIndex& last, const QVector<int>& roles) {
+    // The view would sum up the places of all these rows to know what to paint, which takes long for many.
+    if (first.row() == last.row()) {
+        QTreeView::dataChanged(first, last, roles);
+    } else {
+        viewport()->update();
+    }
+}
+
+void DataTable::drawRow(QPainter* painter, const QStyleOptionViewItem& option,
+                        const QModelIndex& index) const {
+    DataTableRowState state;
+    state.rect = option.rect;
+    state.selected = selectionModel()->isSelected(index);
+    state.current = currentIndex().siblingAtColumn(index.column()) == index;
+    state.expanded = isExpanded(index);
+    state.focused = hasFocus();
+    DataTableRowPainter(*painter, *m_model, *header()).paint(index, state, m_selectionStyle, palette());
+}

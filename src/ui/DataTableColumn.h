@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QString>
+
+/// A column of a grid. `width` is in pixels at 100 %, 0 hides the column; the last visible column takes what
+/// room is left.
+struct GridColumn {
+    QString head;
+    int width = 100;
+    bool numeric = false; ///< right-aligned
+    int minimumWidth = 24;
+    bool picture = false; ///< the cell holds the path of a picture
+
+    friend bool operator==(const GridColumn&, const GridColumn&) = default;
+};

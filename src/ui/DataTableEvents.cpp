@@ -1,0 +1,137 @@
+#include "DataTable.h"
+
+#include "DataTableLook.h"
+#include "DataTableModel.h"
+
+#include <QContextMenuEvent>
+#include <QHelpEvent>
+#include <QPointer>
+#include <QToolTip>
+
+namespace {
+
+bool isPopup(const QFocusEvent& event) {
+    return event.reason() == Qt::PopupFocusReason || event.reason() == Qt::MenuBarFocusReason;
+}
+
+} // namespace
+
+// What the user does in the grid, told as its events. Handlers may change the rows and even close the screen
+// with the grid on it, so nothing of the grid is touched after an event unless it is known to be alive.
+
+DataTable::Spot DataTable::spotOf(const QModelIndex& index) const {
+    if (!index.isValid()) return {};
+    const bool gutter = index.column() == m_model->gutterColumn();
+    const int column = m_model->isCategory(index) ? m_model->captionColumn() : index.column();
+    return {{m_model->tableOf(index)}, index.row(), gutter ? rowHeaderColumn : column};
+}
+
+DataTable::Spot DataTable::spotAt(QPoint position) const {
+    Spot spot = spotOf(indexAt(position));
+    if (spot.row >= 0 && position.x() < DataTableLook::gutterWidth) spot.column = rowHeaderColumn;
+    return spot;
+}
+
+/// What a key refers to. A press on the row header leaves that as the current cell, but the key means the
+/// row.
+DataTable::Spot DataTable::currentSpot() const {
+    const QModelIndex index = currentIndex();
+    return spotOf(index.column() == m_model->gutterColumn() ? index.siblingAtColumn(0) : index);
+}
+
+bool DataTable::isCategory(const Spot& spot) const {
+    return m_model->isTwoLevel() && spot.row >= 0 && spot.table.parentRow == DataTableModel::top;
+}
+
+void DataTable::cellDown(const Spot& spot) {
+    m_current = spot.table;
+    const QPointer<DataTable> alive(this);
+    Q_EMIT OnGridCellDown(spot.row, spot.column);
+    if (alive && isCategory(spot) && spot.column == rowHeaderColumn) toggle(spot.row);
+}
+
+void DataTable::cellOpen(const Spot& spot) {
+    m_current = spot.table;
+    Q_EMIT OnGridCellOpen(spot.row, spot.column);
+}
+
+void DataTable::toggle(int row) {
+    publish();
+    if (!m_model->hasChild(row)) return;
+    const QModelIndex index = m_model->indexOf(DataTableModel::top, row, 0);
+    setExpanded(index, !isExpanded(index));
+}
+
+/// Right and + expand a category, Left and - collapse it, as far as it is not so already.
+bool DataTable::foldByKey(int key) {
+    const bool opens = key == Qt::Key_Right || key == Qt::Key_Plus;
+    const bool closes = key == Qt::Key_Left || key == Qt::Key_Minus;
+    Spot spot = currentSpot();
+    if ((!opens && !closes) || !isCategory(spot) || !m_model->hasChild(spot.row)) return false;
+    if (isExpanded(currentIndex().siblingAtColumn(0)) == opens) return false;
+    spot.column = rowHeaderColumn;
+    cellDown(spot);
+    return true;
+}
+
+void DataTable::mousePressEvent(QMouseEvent* event) {
+    publish();
+    const Spot spot = spotAt(event->position().toPoint());
+    QTreeView::mousePressEvent(event);
+    if (event->button() == Qt::LeftButton || event->button() == Qt::RightButton) cellDown(spot);
+}
+
+void DataTable::mouseMoveEvent(QMouseEvent* event) {
+    // Dragging would move the selection away from the row whose press the handlers have seen.
+    if (event->buttons() == Qt::NoButton) QTreeView::mouseMoveEvent(event);
+}
+
+void DataTable::mouseDoubleClickEvent(QMouseEvent* event) {
+    const Spot spot = spotAt(event->position().toPoint());
+    if (event->button() != Qt::LeftButton || spot.row < 0) return;
+    if (isCategory(spot) && spot.column == rowHeaderColumn) return;
+    cellOpen(spot);
+}
+
+void DataTable::contextMenuEvent(QContextMenuEvent* event) {
+    event->accept();
+    const QPointer<DataTable> alive(this);
+    if (event->reason() == QContextMenuEvent::Keyboard) cellDown(currentSpot());
+    if (alive) Q_EMIT OnGridCellMenu();
+}
+
+void DataTable::keyPressEvent(QKeyEvent* event) {
+    publish();
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (enter && currentIndex().isValid()) {
+        cellOpen(currentSpot());
+    } else if (!foldByKey(event->key())) {
+        QTreeView::keyPressEvent(event);
+    }
+}
+
+void DataTable::focusInEvent(QFocusEvent* event) {
+    QTreeView::focusInEvent(event);
+    if (!isPopup(*event)) Q_EMIT OnGridGotFocus();
+}
+
+void DataTable::focusOutEvent(QFocusEvent* event) {
+    QTreeView::focusOutEvent(event);
+    if (!isPopup(*event)) Q_EMIT OnGridLostFocus();
+}
+
+bool DataTable::viewportEvent(QEvent* event) {
+    if (event->type() != QEvent::ToolTip) return QTreeView::viewportEvent(event);
+    const auto* help = static_cast<QHelpEvent*>(event);
+    QToolTip::showText(help->globalPos(), clippedText(help->pos()), viewport());
+    return true;
+}
+
+/// The text of the cell there if it does not show as a whole, else nothing.
+QString DataTable::clippedText(QPoint position) const {
+    const QModelIndex index = indexAt(position);
+    if (!index.isValid() || m_model->isCategory(index)) return {};
+    const QString text = index.data().toString();
+    const int room = columnWidth(index.column()) - 2 * DataTableLook::padding;
+    return fontMetrics().horizontalAdvance(text) > room ? text : QString();
+}

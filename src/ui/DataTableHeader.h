@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QHeaderView>
+
+/// The heads of a grid's columns, in the house's blue. The corner above the row headers stays where it is
+/// when the columns are scrolled, as the row headers do.
+class DataTableHeader : public QHeaderView {
+    Q_OBJECT
+
+public:
+    explicit DataTableHeader(QWidget* parent);
+
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void paintSection(QPainter* painter, const QRect& rect, int section) const override;
+};

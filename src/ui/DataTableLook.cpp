@@ -1,0 +1,109 @@
+#include "DataTableLook.h"
+
+#include "Theme.h"
+
+#include <QPainter>
+#include <QPainterPath>
+#include <QPixmapCache>
+
+namespace {
+
+QColor mixed(const QColor& from, const QColor& to, double share) {
+    const auto part = [share](float a, float b) { return static_cast<float>(a + (b - a) * share); };
+    return QColor::fromRgbF(part(from.redF(), to.redF()), part(from.greenF(), to.greenF()),
+                            part(from.blueF(), to.blueF()));
+}
+
+bool isDark(const QPalette& palette) { return palette.color(QPalette::Base).lightness() < 128; }
+
+QPixmap loadedPicture(const QString& path, QSize room, double ratio) {
+    const QString key =
+        QStringLiteral("%1|%2x%3@%4").arg(path).arg(room.width()).arg(room.height()).arg(ratio);
+    QPixmap picture;
+    if (QPixmapCache::find(key, &picture)) return picture;
+    // The program's folders are written with either slash.
+    picture = QPixmap(QString(path).replace(u'\\', u'/'));
+    if (picture.isNull()) return picture;
+    const QSize fitting = picture.size().scaled(room, Qt::KeepAspectRatio).boundedTo(picture.size());
+    picture = picture.scaled(fitting * ratio, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    picture.setDevicePixelRatio(ratio);
+    QPixmapCache::insert(key, picture);
+    return picture;
+}
+
+} // namespace
+
+DataTableLook::DataTableLook(const QPalette& palette) {
+    const QColor base = palette.color(QPalette::Base);
+    const QColor ink = palette.color(QPalette::Text);
+    const QColor blue = Theme::blue();
+    const QColor deep = Theme::darkBlue();
+    const bool dark = isDark(palette);
+
+    even = base;
+    odd = dark ? mixed(base, deep, 0.16) : mixed(base, blue, 0.12);
+    text = ink;
+    rule = mixed(base, ink, dark ? 0.14 : 0.11);
+    gutter = dark ? mixed(base, deep, 0.40) : mixed(base, blue, 0.30);
+    gutterEdge = dark ? mixed(base, blue, 0.26) : mixed(base, blue, 0.80);
+    mark = dark ? blue : deep;
+    band = dark ? mixed(base, deep, 0.62) : mixed(base, blue, 0.42);
+    bandText = dark ? mixed(blue, Qt::white, 0.4) : mixed(deep, Qt::black, 0.35);
+    head = deep;
+    headText = Qt::white;
+    headEdge = mixed(deep, Qt::white, 0.25);
+    childText = Qt::black;
+    childRule = mixed(blue, deep, 0.30);
+    focus = Theme::accent();
+}
+
+namespace DataTableShapes {
+
+void text(QPainter& painter, const QRect& cell, Qt::Alignment alignment, const QString& text) {
+    const QRect room = cell.adjusted(DataTableLook::padding, 0, -DataTableLook::padding, 0);
+    if (room.width() <= 0 || text.isEmpty()) return;
+    const QString shown = painter.fontMetrics().elidedText(text, Qt::ElideRight, room.width());
+    painter.drawText(room, static_cast<int>(alignment) | Qt::TextSingleLine, shown);
+}
+
+void currentMark(QPainter& painter, const QRect& gutter, const QColor& colour) {
+    const QPointF centre = QRectF(gutter).center();
+    QPainterPath triangle(centre + QPointF(-2.5, -4));
+    triangle.lineTo(centre + QPointF(3, 0));
+    triangle.lineTo(centre + QPointF(-2.5, 4));
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillPath(triangle, colour);
+    painter.restore();
+}
+
+void expandMark(QPainter& painter, const QRect& gutter, bool open, const QColor& colour) {
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(colour, 1.8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.translate(QRectF(gutter).center());
+    if (open) painter.rotate(90);
+    const QPointF angle[] = {{-2, -4}, {2, 0}, {-2, 4}};
+    painter.drawPolyline(angle, 3);
+    painter.restore();
+}
+
+void picture(QPainter& painter, const QRect& cell, const QString& path) {
+    const QRect room = cell.adjusted(2, 2, -2, -2);
+    if (path.trimmed().isEmpty() || room.isEmpty()) return;
+    const QPixmap picture = loadedPicture(path, room.size(), painter.device()->devicePixelRatioF());
+    if (picture.isNull()) return;
+    QRectF place(QPointF(0, 0), picture.deviceIndependentSize());
+    place.moveCenter(QRectF(room).center());
+    painter.drawPixmap(place.toRect(), picture);
+}
+
+void frame(QPainter& painter, const QRect& row, const QColor& colour) {
+    painter.save();
+    painter.setPen(QPen(colour, 2, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(QRectF(row).adjusted(1, 1, -1, -1));
+    painter.restore();
+}
+
+} // namespace DataTableShapes

@@ -1,0 +1,147 @@
+#include "DataTableRows.h"
+
+#include "Conversions.h"
+#include "RuntimeError.h"
+
+#include <algorithm>
+#include <bit>
+
+namespace {
+
+/// What a usual allocator really takes for a block of so many bytes.
+constexpr std::size_t allocated(std::size_t bytes) { return (bytes + sizeof(std::size_t) + 15) / 16 * 16; }
+
+quint64 wordOf(const Value& value, DataTableTexts& texts) {
+    switch (value.kind()) {
+    case Value::Kind::Null:
+        break;
+    case Value::Kind::Boolean:
+        return value.boolean() ? 1 : 0;
+    case Value::Kind::Long:
+        return static_cast<quint32>(value.number());
+    case Value::Kind::Double:
+        return std::bit_cast<quint64>(value.real());
+    case Value::Kind::Date:
+        return std::bit_cast<quint64>(value.date().days);
+    case Value::Kind::Text:
+        return texts.numberOf(value.text());
+    }
+    return 0;
+}
+
+qint32 numberIn(quint64 word) { return static_cast<qint32>(static_cast<quint32>(word)); }
+
+/// All kinds but texts, which need their pool.
+Value plainValue(Value::Kind kind, quint64 word) {
+    switch (kind) {
+    case Value::Kind::Boolean:
+        return word != 0;
+    case Value::Kind::Long:
+        return numberIn(word);
+    case Value::Kind::Double:
+        return std::bit_cast<double>(word);
+    case Value::Kind::Date:
+        return Date{std::bit_cast<double>(word)};
+    case Value::Kind::Null:
+    case Value::Kind::Text:
+        break;
+    }
+    return {};
+}
+
+QString shown(const Value& value) { return value.isNull() ? QString() : CStr(value); }
+
+} // namespace
+
+DataTableRows::Wanted::Wanted(const QString& text, const DataTableTexts& texts)
+    : m_text(text)
+    , m_pooled(texts.find(text)) {
+    bool whole = false;
+    const qint32 number = text.toInt(&whole);
+    if (whole && CStr(number) == text) m_number = number;
+}
+
+void DataTableRows::append(const std::vector<Value>& cells, DataTableTexts& texts) {
+    m_rows.push_back(packed(cells, texts));
+}
+
+void DataTableRows::insert(int row, const std::vector<Value>& cells, DataTableTexts& texts) {
+    if (row < 0 || row > rowCount()) throw runtimeError(9);
+    m_rows.insert(m_rows.begin() + row, packed(cells, texts));
+}
+
+void DataTableRows::remove(int row) {
+    if (row < 0 || row >= rowCount()) throw runtimeError(9);
+    m_rows.erase(m_rows.begin() + row);
+}
+
+void DataTableRows::remove(const std::vector<int>& rows) {
+    auto next = rows.begin();
+    int row = 0;
+    std::erase_if(m_rows, [&](const Row&) {
+        const bool hit = next != rows.end() && *next == row;
+        if (hit) ++next;
+        ++row;
+        return hit;
+    });
+}
+
+void DataTableRows::clear() { std::vector<Row>().swap(m_rows); }
+
+Value DataTableRows::value(int row, int column, const DataTableTexts& texts) const {
+    const quint64* cells = rowWith(row, column);
+    const Value::Kind held = kind(cells, column);
+    if (held == Value::Kind::Text) return texts.text(static_cast<quint32>(cells[column]));
+    return plainValue(held, cells[column]);
+}
+
+QString DataTableRows::text(int row, int column, const DataTableTexts& texts) const {
+    return shown(value(row, column, texts));
+}
+
+void DataTableRows::set(int row, int column, const Value& value, DataTableTexts& texts) {
+    rowWith(row, column);
+    put(m_rows[static_cast<std::size_t>(row)].get(), column, value, texts);
+}
+
+int DataTableRows::find(int column, int first, const Wanted& wanted) const {
+    if (column < 0 || column >= columnCount()) throw runtimeError(9);
+    const auto start = m_rows.begin() + std::clamp(first, 0, rowCount());
+    const auto hit =
+        std::find_if(start, m_rows.end(), [&](const Row& row) { return matches(row.get(), column, wanted); });
+    return hit == m_rows.end() ? -1 : static_cast<int>(hit - m_rows.begin());
+}
+
+std::size_t DataTableRows::memoryInUse() const {
+    return m_rows.capacity() * sizeof(Row) + m_rows.size() * allocated(words() * sizeof(quint64));
+}
+
+DataTableRows::Row DataTableRows::packed(const std::vector<Value>& cells, DataTableTexts& texts) const {
+    static const Value null;
+    Row row = std::make_unique_for_overwrite<quint64[]>(words());
+    for (std::size_t column = 0; column < m_columns; ++column) {
+        put(row.get(), static_cast<int>(column), column < cells.size() ? cells[column] : null, texts);
+    }
+    return row;
+}
+
+void DataTableRows::put(quint64* row, int column, const Value& value, DataTableTexts& texts) const {
+    row[column] = wordOf(value, texts);
+    reinterpret_cast<quint8*>(row + m_columns)[column] = static_cast<quint8>(value.kind());
+}
+
+Value::Kind DataTableRows::kind(const quint64* row, int column) const {
+    return static_cast<Value::Kind>(reinterpret_cast<const quint8*>(row + m_columns)[column]);
+}
+
+bool DataTableRows::matches(const quint64* row, int column, const Wanted& wanted) const {
+    const Value::Kind held = kind(row, column);
+    if (held == Value::Kind::Text) return wanted.m_pooled == static_cast<quint32>(row[column]);
+    if (held == Value::Kind::Long) return wanted.m_number == numberIn(row[column]);
+    return shown(plainValue(held, row[column])) == wanted.m_text;
+}
+
+const quint64* DataTableRows::rowWith(int row, int column) const {
+    if (row < 0 || row >= rowCount() || column < 0 || column >= columnCount()) throw runtimeError(9);
+    return m_rows[static_cast<std::size_t>(row)].get();
+}

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "DataTableTexts.h"
+#include "Value.h"
+
+#include <memory>
+
+/// The rows of one table of a grid, kept small: nine bytes a cell and a pointer a row, texts in the pool that
+/// is handed in. Rows are allocated one by one, so that inserting and removing moves pointers only.
+/// Knows no view. Asking for a row or column that is not there is error 9.
+class DataTableRows {
+public:
+    /// A text to look for, prepared once: cells with texts and whole numbers are then compared as numbers.
+    class Wanted {
+    public:
+        Wanted(const QString& text, const DataTableTexts& texts);
+
+    private:
+        friend class DataTableRows;
+        QString m_text;
+        std::optional<quint32> m_pooled;
+        std::optional<qint32> m_number;
+    };
+
+    explicit DataTableRows(int columns)
+        : m_columns(static_cast<std::size_t>(columns)) {}
+
+    int rowCount() const { return static_cast<int>(m_rows.size()); }
+    int columnCount() const { return static_cast<int>(m_columns); }
+
+    /// Missing cells become Null; what is beyond the columns is dropped.
+    void append(const std::vector<Value>& cells, DataTableTexts& texts);
+    void insert(int row, const std::vector<Value>& cells, DataTableTexts& texts);
+    void remove(int row);
+    /// Removes these rows, which must be sorted, in one pass.
+    void remove(const std::vector<int>& rows);
+    void clear();
+
+    Value value(int row, int column, const DataTableTexts& texts) const;
+    /// The cell as it stands on the screen.
+    QString text(int row, int column, const DataTableTexts& texts) const;
+    void set(int row, int column, const Value& value, DataTableTexts& texts);
+
+    /// The first row from `first` on whose cell has the text, or -1.
+    int find(int column, int first, const Wanted& wanted) const;
+
+    std::size_t memoryInUse() const;
+
+private:
+    /// The cells' contents, a word each, and behind them their kinds, a byte each.
+    using Row = std::unique_ptr<quint64[]>;
+
+    std::size_t words() const { return m_columns + (m_columns + 7) / sizeof(quint64); }
+    Row packed(const std::vector<Value>& cells, DataTableTexts& texts) const;
+    void put(quint64* row, int column, const Value& value, DataTableTexts& texts) const;
+    Value::Kind kind(const quint64* row, int column) const;
+    bool matches(const quint64* row, int column, const Wanted& wanted) const;
+    const quint64* rowWith(int row, int column) const;
+
+    std::size_t m_columns;
+    std::vector<Row> m_rows;
+};

@@ -1,0 +1,256 @@
+#include "DataTable.h"
+
+#include <QContextMenuEvent>
+#include <QLineEdit>
+#include <QMenu>
+#include <QTest>
+#include <QVBoxLayout>
+#include <gtest/gtest.h>
+
+namespace {
+
+/// A grid beside a field, with what its handlers hear: "down 1 2", with the table before it where it is a
+/// child.
+class DataTableEventsTest : public testing::Test {
+protected:
+    DataTableEventsTest()
+        : m_grid(new DataTable(QStringLiteral("tblProbe"), &m_screen))
+        , m_field(new QLineEdit(&m_screen)) {
+        auto* layout = new QVBoxLayout(&m_screen);
+        layout->addWidget(m_field);
+        layout->addWidget(m_grid);
+        m_screen.resize(500, 400);
+        const auto cell = [this](const char16_t* event, int row, int column) {
+            const int table = m_grid->currentTable().parentRow;
+            hear((table < 0 ? QString() : QString::number(table) + u'/') + QString::fromUtf16(event) +
+                 QStringLiteral(" %1 %2").arg(row).arg(column));
+        };
+        QObject::connect(m_grid, &DataTable::OnGridCellDown, m_grid,
+                         [cell](int row, int column) { cell(u"down", row, column); });
+        QObject::connect(m_grid, &DataTable::OnGridCellOpen, m_grid,
+                         [cell](int row, int column) { cell(u"open", row, column); });
+        QObject::connect(m_grid, &DataTable::OnGridCellMenu, m_grid, [this] { hear(u"menu"_qs); });
+        QObject::connect(m_grid, &DataTable::OnGridGotFocus, m_grid, [this] { hear(u"got"_qs); });
+        QObject::connect(m_grid, &DataTable::OnGridLostFocus, m_grid, [this] { hear(u"lost"_qs); });
+    }
+
+    void showFlat() {
+        m_grid->setColumns({{u"Nr"_qs, 60}, {u"Name"_qs, 100}, {u"Ort"_qs, 100}});
+        for (int row = 0; row < 4; ++row) m_grid->appendRow({row, u"Name", u"Ort"});
+        show();
+    }
+
+    void showTwoLevels() {
+        m_grid->setColumns({{QString()}, {QString()}, {QString()}});
+        m_grid->setChildColumns({{u"Nr"_qs, 60}, {u"Name"_qs, 100}}, 2);
+        for (int row = 0; row < 3; ++row) m_grid->appendRow({row, u"+", u"Kategorie"});
+        m_grid->enter(m_grid->enterChild(0));
+        show();
+    }
+
+    void show() {
+        m_screen.show();
+        m_screen.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&m_screen));
+        m_grid->setFocus();
+        m_heard.clear();
+    }
+
+    void press(int row, int column, Qt::MouseButton button = Qt::LeftButton, TableHandle table = {}) {
+        QTest::mouseClick(m_grid->viewport(), button, {}, m_grid->revealCell(table, row, column).center());
+    }
+
+    /// As the window system does: the second press comes as the double click.
+    void doubleClick(int row, int column) {
+        press(row, column);
+        QTest::mouseDClick(m_grid->viewport(), Qt::LeftButton, {},
+                           m_grid->revealCell({}, row, column).center());
+    }
+
+    void key(Qt::Key pressed) { QTest::keyClick(m_grid, pressed); }
+    void hear(const QString& event) { m_heard.push_back(event); }
+    bool isOpen(int row) const { return m_grid->isExpanded(m_grid->model()->index(row, 0)); }
+
+    QString heard() {
+        const QString all = m_heard.join(u", "_qs);
+        m_heard.clear();
+        return all;
+    }
+
+    QStringList m_heard; // before the screen, whose end the grid may still tell of
+    QWidget m_screen;
+    DataTable* m_grid;
+    QLineEdit* m_field;
+};
+
+TEST_F(DataTableEventsTest, APressTellsRowAndColumnAndMakesTheRowCurrent) {
+    showFlat();
+    press(2, 1);
+    EXPECT_EQ(heard(), "down 2 1");
+    EXPECT_EQ(m_grid->currentIndex().row(), 2);
+    EXPECT_TRUE(m_grid->selectionModel()->isRowSelected(2));
+    press(1, DataTable::rowHeaderColumn);
+    EXPECT_EQ(heard(), "down 1 -5");
+    EXPECT_FALSE(m_grid->selectionModel()->isRowSelected(2));
+    press(-1, 0);
+    EXPECT_EQ(heard(), "down -1 -1");
+    press(3, 2, Qt::RightButton);
+    EXPECT_EQ(heard(), "down 3 2");
+    press(0, 0, Qt::MiddleButton);
+    EXPECT_EQ(heard(), "");
+}
+
+TEST_F(DataTableEventsTest, APressOnRowsThatTheViewHasNotSeenYetHitsThem) {
+    showFlat();
+    const QPoint place = m_grid->revealCell({}, 2, 1).center();
+    m_grid->clearRows();
+    for (int row = 0; row < 3; ++row) m_grid->appendRow({row});
+    QTest::mouseClick(m_grid->viewport(), Qt::LeftButton, {}, place);
+    EXPECT_EQ(heard(), "down 2 1");
+}
+
+TEST_F(DataTableEventsTest, DraggingDoesNotMoveTheSelectionOffThePressedRow) {
+    showFlat();
+    const QPoint from = m_grid->revealCell({}, 0, 1).center();
+    const QPoint to = m_grid->revealCell({}, 3, 1).center();
+    QTest::mousePress(m_grid->viewport(), Qt::LeftButton, {}, from);
+    QMouseEvent move(QEvent::MouseMove, to, m_grid->viewport()->mapToGlobal(to), Qt::NoButton, Qt::LeftButton,
+                     {});
+    QCoreApplication::sendEvent(m_grid->viewport(), &move);
+    EXPECT_EQ(m_grid->currentIndex().row(), 0);
+    EXPECT_TRUE(m_grid->selectionModel()->isRowSelected(0));
+}
+
+TEST_F(DataTableEventsTest, ADoubleClickAndEnterOpenTheRow) {
+    showFlat();
+    doubleClick(1, 2);
+    EXPECT_EQ(heard(), "down 1 2, open 1 2");
+    key(Qt::Key_Down);
+    key(Qt::Key_Return);
+    EXPECT_EQ(heard(), "open 2 2");
+    press(3, DataTable::rowHeaderColumn);
+    key(Qt::Key_Enter);
+    EXPECT_EQ(heard(), "down 3 -5, open 3 0");
+    doubleClick(-1, 0);
+    EXPECT_EQ(heard(), "down -1 -1");
+}
+
+TEST_F(DataTableEventsTest, TheMenuComesAfterThePressAlsoByKey) {
+    showFlat();
+    press(1, 1);
+    heard();
+    const QPoint place = m_grid->revealCell({}, 2, 1).center();
+    QTest::mousePress(m_grid->viewport(), Qt::RightButton, {}, place);
+    QContextMenuEvent byMouse(QContextMenuEvent::Mouse, place, m_grid->viewport()->mapToGlobal(place));
+    QCoreApplication::sendEvent(m_grid->viewport(), &byMouse);
+    EXPECT_EQ(heard(), "down 2 1, menu");
+    QContextMenuEvent byKey(QContextMenuEvent::Keyboard, {}, {});
+    QCoreApplication::sendEvent(m_grid, &byKey);
+    EXPECT_EQ(heard(), "down 2 1, menu");
+}
+
+TEST_F(DataTableEventsTest, KeysMoveTheCurrentRowAndTabLeaves) {
+    showFlat();
+    press(1, 1);
+    const std::vector<std::pair<Qt::Key, int>> moves{
+        {Qt::Key_Down, 2}, {Qt::Key_Up, 1}, {Qt::Key_End, 3}, {Qt::Key_Home, 0}, {Qt::Key_PageDown, 3}};
+    for (const auto& [pressed, row] : moves) {
+        key(pressed);
+        EXPECT_EQ(m_grid->currentIndex().row(), row) << pressed;
+        EXPECT_TRUE(m_grid->selectionModel()->isRowSelected(row)) << pressed;
+    }
+    key(Qt::Key_Tab);
+    EXPECT_TRUE(m_field->hasFocus());
+}
+
+TEST_F(DataTableEventsTest, FocusIsToldButNotWhileAMenuIsOpen) {
+    showFlat();
+    m_field->setFocus();
+    m_grid->setFocus();
+    EXPECT_EQ(heard(), "lost, got");
+    for (const auto type : {QEvent::FocusOut, QEvent::FocusIn}) {
+        QFocusEvent event(type, Qt::PopupFocusReason);
+        QCoreApplication::sendEvent(m_grid, &event);
+    }
+    EXPECT_EQ(heard(), "");
+}
+
+TEST_F(DataTableEventsTest, AHandlerMayDestroyTheGrid) {
+    showTwoLevels();
+    QObject::connect(m_grid, &DataTable::OnGridCellDown, m_field, [this] {
+        delete m_grid;
+        m_grid = nullptr;
+    });
+    const QPoint place = m_grid->revealCell({}, 0, DataTable::rowHeaderColumn).center();
+    QTest::mousePress(m_grid->viewport(), Qt::LeftButton, {}, place);
+    EXPECT_EQ(m_grid, nullptr);
+}
+
+TEST_F(DataTableEventsTest, TheRowHeaderOfACategoryFoldsItAfterTheHandlerHasFilledIt) {
+    showTwoLevels();
+    QObject::connect(m_grid, &DataTable::OnGridCellDown, m_grid, [this](int row, int) {
+        const TableHandle parent = m_grid->enterChild(row);
+        m_grid->clearRows();
+        for (int child = 0; child < 3; ++child) m_grid->appendRow({child, u"Name"});
+        m_grid->enter(parent);
+    });
+    press(0, DataTable::rowHeaderColumn);
+    EXPECT_TRUE(isOpen(0));
+    EXPECT_EQ(m_grid->revealCell({0}, 2, 1).bottom() + 1, m_grid->revealCell({}, 1, 0).top());
+    press(0, DataTable::rowHeaderColumn);
+    EXPECT_FALSE(isOpen(0));
+    EXPECT_EQ(heard(), "down 0 -5, down 0 -5");
+}
+
+TEST_F(DataTableEventsTest, OnlyTheRowHeaderFoldsAndOnlyWhereThereIsAChildTable) {
+    showTwoLevels();
+    press(0, 0);
+    EXPECT_FALSE(isOpen(0));
+    press(1, DataTable::rowHeaderColumn);
+    EXPECT_FALSE(isOpen(1));
+    EXPECT_EQ(heard(), "down 0 2, down 1 -5");
+    doubleClick(0, 0);
+    EXPECT_EQ(heard(), "down 0 2, open 0 2");
+    doubleClick(0, DataTable::rowHeaderColumn);
+    EXPECT_EQ(heard(), "down 0 -5");
+    EXPECT_TRUE(isOpen(0));
+}
+
+TEST_F(DataTableEventsTest, KeysFoldThroughTheSameEvent) {
+    showTwoLevels();
+    press(0, 0);
+    heard();
+    const std::vector<std::pair<Qt::Key, bool>> folds{
+        {Qt::Key_Right, true}, {Qt::Key_Left, false}, {Qt::Key_Plus, true}, {Qt::Key_Minus, false}};
+    for (const auto& [pressed, open] : folds) {
+        key(pressed);
+        EXPECT_EQ(heard(), "down 0 -5") << pressed;
+        EXPECT_EQ(isOpen(0), open) << pressed;
+    }
+    key(Qt::Key_Minus);
+    key(Qt::Key_Asterisk);
+    EXPECT_EQ(heard(), "");
+    EXPECT_FALSE(isOpen(0));
+}
+
+TEST_F(DataTableEventsTest, AnEventInAChildTableMakesItCurrentUntilTheNextOne) {
+    showTwoLevels();
+    m_grid->enterChild(0);
+    m_grid->appendRow({1, u"Name"});
+    m_grid->appendRow({2, u"Name"});
+    m_grid->enter({});
+    press(1, 1, Qt::LeftButton, {0});
+    EXPECT_EQ(heard(), "0/down 1 1");
+    EXPECT_EQ(m_grid->currentTable().parentRow, 0);
+    m_grid->enter({});
+    key(Qt::Key_Return);
+    EXPECT_EQ(heard(), "0/open 1 1");
+    press(1, DataTable::rowHeaderColumn, Qt::LeftButton, {0});
+    EXPECT_EQ(heard(), "0/down 1 -5");
+    EXPECT_TRUE(isOpen(0));
+    press(1, 0);
+    EXPECT_EQ(heard(), "down 1 2");
+    EXPECT_EQ(m_grid->currentTable().parentRow, -1);
+}
+
+} // namespace

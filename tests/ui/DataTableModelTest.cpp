@@ -1,0 +1,262 @@
+#include "DataTableModel.h"
+#include "RuntimeError.h"
+
+#include <QAbstractItemModelTester>
+#include <QSignalSpy>
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr int top = DataTableModel::top;
+
+QVector<GridColumn> columns(int count) {
+    QVector<GridColumn> made;
+    for (int column = 0; column < count; ++column) made.push_back({QStringLiteral("Spalte %1").arg(column)});
+    return made;
+}
+
+/// Every change below also runs past the toolkit's own checks of what a model may tell its views.
+class DataTableModelTest : public testing::Test {
+protected:
+    DataTableModelTest()
+        : m_tester(&m_model, QAbstractItemModelTester::FailureReportingMode::Fatal) {
+        m_model.setColumns(columns(2));
+    }
+
+    void fill(int table, std::initializer_list<const char16_t*> names) {
+        int key = m_model.rows(table);
+        for (const char16_t* name : names) m_model.append(table, {key++, name});
+    }
+
+    void fillTwoLevels() {
+        m_model.setChildColumns(columns(3), 1);
+        fill(top, {u"eins", u"zwei", u"drei"});
+        for (int row : {0, 2}) {
+            m_model.createChild(row);
+            fill(row, {u"a", u"b", u"c"});
+        }
+        m_model.publish();
+    }
+
+    std::string names(int table) const {
+        QString all;
+        for (int row = 0; row < m_model.rows(table); ++row) all += m_model.text(table, row, 1) + u' ';
+        return all.trimmed().toStdString();
+    }
+
+    std::string shownNames(const QModelIndex& parent = {}) const {
+        const int column = parent.isValid() || !m_model.isTwoLevel() ? 1 : 0;
+        QString all;
+        for (int row = 0; row < m_model.rowCount(parent); ++row) {
+            all += m_model.index(row, column, parent).data().toString() + u' ';
+        }
+        return all.trimmed().toStdString();
+    }
+
+    DataTableModel m_model;
+    QAbstractItemModelTester m_tester;
+};
+
+TEST_F(DataTableModelTest, CellsComeBackAsTheyWentIn) {
+    m_model.setColumns(columns(7));
+    const std::vector<Value> cells{
+        Value(), true, qint32(-5), 2.5, Date{25000}, Date{}, QStringLiteral("Hecht")};
+    const std::vector<QString> texts{QString(),
+                                     QStringLiteral("Wahr"),
+                                     QStringLiteral("-5"),
+                                     QStringLiteral("2,5"),
+                                     QStringLiteral("11.06.1968"),
+                                     QStringLiteral("00:00:00"),
+                                     QStringLiteral("Hecht")};
+    m_model.append(top, cells);
+    for (int column = 0; column < 7; ++column) {
+        const auto place = static_cast<std::size_t>(column);
+        EXPECT_EQ(m_model.value(top, 0, column), cells[place]) << column;
+        EXPECT_EQ(m_model.text(top, 0, column), texts[place]) << column;
+        m_model.set(top, 0, column, cells[6 - place]);
+        EXPECT_EQ(m_model.value(top, 0, column), cells[6 - place]) << column;
+        m_model.set(top, 0, column, cells[place]);
+    }
+}
+
+TEST_F(DataTableModelTest, MissingCellsAreNullAndSurplusOnesAreDropped) {
+    m_model.append(top, {1});
+    m_model.append(top, {1, 2, 3});
+    EXPECT_TRUE(m_model.value(top, 0, 1).isNull());
+    EXPECT_EQ(m_model.value(top, 1, 1), Value(2));
+}
+
+TEST_F(DataTableModelTest, WhatIsNotThereIsErrorNine) {
+    fill(top, {u"a"});
+    const std::vector<std::function<void()>> reaches{
+        [&] { m_model.value(top, 1, 0); },         [&] { m_model.value(top, 0, 2); },
+        [&] { m_model.value(top, -1, 0); },        [&] { m_model.set(top, 1, 0, 1); },
+        [&] { m_model.set(top, 0, -1, 1); },       [&] { m_model.insert(top, -1, {}); },
+        [&] { m_model.find(top, 2, 0, u"a"_qs); }, [&] { m_model.rows(0); },
+        [&] { m_model.createChild(0); },
+    };
+    for (std::size_t which = 0; which < reaches.size(); ++which) {
+        try {
+            reaches[which]();
+            ADD_FAILURE() << which;
+        } catch (const RuntimeError& error) {
+            EXPECT_EQ(error.number, 9) << which;
+        }
+    }
+    EXPECT_EQ(names(top), "a");
+}
+
+TEST_F(DataTableModelTest, AppendedRowsReachTheViewOnlyWhenPublishedAndAllAtOnce) {
+    const QSignalSpy inserted(&m_model, &QAbstractItemModel::rowsInserted);
+    fill(top, {u"a", u"b", u"c"});
+    EXPECT_EQ(m_model.rows(top), 3);
+    EXPECT_EQ(m_model.text(top, 2, 1), u"c"_qs);
+    EXPECT_EQ(m_model.rowCount(), 0);
+    m_model.publish();
+    EXPECT_EQ(shownNames(), "a b c");
+    m_model.publish();
+    EXPECT_EQ(inserted.size(), 1);
+}
+
+TEST_F(DataTableModelTest, ChangedCellsAreToldTogether) {
+    fill(top, {u"a", u"b", u"c", u"d"});
+    m_model.publish();
+    fill(top, {u"e"});
+    const QSignalSpy changed(&m_model, &QAbstractItemModel::dataChanged);
+    m_model.set(top, 2, 1, u"C");
+    m_model.set(top, 1, 1, u"B");
+    m_model.set(top, 4, 1, u"E");
+    EXPECT_EQ(changed.size(), 0);
+    m_model.publish();
+    ASSERT_EQ(changed.size(), 1);
+    EXPECT_EQ(changed[0][0].toModelIndex().row(), 1);
+    EXPECT_EQ(changed[0][1].toModelIndex().row(), 2);
+    EXPECT_EQ(shownNames(), "a B C d E");
+}
+
+TEST_F(DataTableModelTest, RowsAreInsertedAndRemovedOnBothSidesOfWhatTheViewKnows) {
+    fill(top, {u"a", u"b"});
+    m_model.publish();
+    fill(top, {u"c", u"d"});
+    m_model.insert(top, 1, {9, u"x"});
+    m_model.insert(top, 4, {9, u"y"});
+    m_model.insert(top, 99, {9, u"z"});
+    EXPECT_EQ(names(top), "a x b c y d z");
+    EXPECT_EQ(shownNames(), "a x b");
+    m_model.remove(top, 0);
+    m_model.remove(top, 3);
+    m_model.remove(top, 99);
+    m_model.remove(top, -1);
+    EXPECT_EQ(names(top), "x b c d z");
+    EXPECT_EQ(shownNames(), "x b");
+    m_model.publish();
+    EXPECT_EQ(shownNames(), "x b c d z");
+}
+
+TEST_F(DataTableModelTest, RowsOfOneTextGoTogetherAndTheOthersKeepTheirPlaceInTheView) {
+    fill(top, {u"a", u"weg", u"b", u"weg"});
+    m_model.publish();
+    fill(top, {u"weg", u"c"});
+    const QPersistentModelIndex kept = m_model.index(2, 1);
+    const QPersistentModelIndex gone = m_model.index(3, 0);
+    const QSignalSpy layouts(&m_model, &QAbstractItemModel::layoutChanged);
+    EXPECT_EQ(m_model.removeWithText(top, 1, u"weg"_qs), 3);
+    EXPECT_EQ(layouts.size(), 1);
+    EXPECT_EQ(names(top), "a b c");
+    EXPECT_EQ(shownNames(), "a b");
+    EXPECT_EQ(kept.row(), 1);
+    EXPECT_FALSE(gone.isValid());
+    EXPECT_EQ(m_model.removeWithText(top, 1, u"weg"_qs), 0);
+    EXPECT_EQ(layouts.size(), 1);
+}
+
+TEST_F(DataTableModelTest, FindComparesTheTextOnScreenWhateverKindTheCellIs) {
+    m_model.setColumns(columns(1));
+    for (const Value& value : std::vector<Value>{u"12", 12, 12.5, Value(), u"Aal", Date{25000}, true, -1}) {
+        m_model.append(top, {value});
+    }
+    const auto found = [this](const char16_t* text, int first = 0) {
+        return m_model.find(top, 0, first, QString::fromUtf16(text));
+    };
+    EXPECT_EQ(found(u"12"), 0);
+    EXPECT_EQ(found(u"12", 1), 1);
+    EXPECT_EQ(found(u"12", 2), -1);
+    EXPECT_EQ(found(u"12,5"), 2);
+    EXPECT_EQ(found(u""), 3);
+    EXPECT_EQ(found(u"aal"), -1);
+    EXPECT_EQ(found(u"Aal"), 4);
+    EXPECT_EQ(found(u"11.06.1968"), 5);
+    EXPECT_EQ(found(u"Wahr"), 6);
+    EXPECT_EQ(found(u"-1"), 7);
+    EXPECT_EQ(found(u"012"), -1);
+    EXPECT_EQ(found(u"12", -7), 0);
+}
+
+TEST_F(DataTableModelTest, ChildTablesStandUnderTheirRow) {
+    fillTwoLevels();
+    EXPECT_EQ(shownNames(), "eins zwei drei");
+    EXPECT_EQ(shownNames(m_model.index(2, 0)), "a b c");
+    EXPECT_FALSE(m_model.hasChildren(m_model.index(1, 0)));
+    EXPECT_EQ(m_model.headerData(2, Qt::Horizontal, Qt::DisplayRole).toString(), u"Spalte 2"_qs);
+    EXPECT_EQ(m_model.parent(m_model.index(1, 1, m_model.index(2, 0))), m_model.index(2, 0));
+}
+
+TEST_F(DataTableModelTest, ChildTablesMoveWithTheirRow) {
+    fillTwoLevels();
+    const QPersistentModelIndex child = m_model.index(1, 1, m_model.index(2, 0));
+    m_model.insert(top, 1, {9, u"neu"});
+    EXPECT_EQ(child.parent().row(), 3);
+    EXPECT_TRUE(m_model.hasChild(3));
+    m_model.remove(top, 0);
+    EXPECT_EQ(child.parent().row(), 2);
+    EXPECT_EQ(m_model.removeWithText(top, 1, u"neu"_qs), 1);
+    EXPECT_EQ(child.parent().row(), 1);
+    EXPECT_EQ(names(1), "a b c");
+    EXPECT_EQ(m_model.removeWithText(1, 1, u"a"_qs), 1);
+    EXPECT_EQ(child.row(), 0);
+    EXPECT_EQ(m_model.removeWithText(top, 1, u"drei"_qs), 1);
+    EXPECT_FALSE(child.isValid());
+    EXPECT_EQ(shownNames(), "zwei");
+}
+
+TEST_F(DataTableModelTest, AChildTableIsEmptiedReplacedAndRemovedWithoutTouchingTheOthers) {
+    fillTwoLevels();
+    m_model.clear(0);
+    EXPECT_EQ(m_model.rowCount(m_model.index(0, 0)), 0);
+    m_model.createChild(2);
+    EXPECT_EQ(m_model.rows(2), 0);
+    fill(0, {u"x"});
+    m_model.publish();
+    EXPECT_EQ(shownNames(m_model.index(0, 0)), "x");
+    m_model.removeChild(0);
+    EXPECT_FALSE(m_model.hasChild(0));
+    EXPECT_TRUE(m_model.hasChild(2));
+    EXPECT_EQ(names(top), "eins zwei drei");
+    m_model.clear(top);
+    EXPECT_EQ(m_model.rowCount(), 0);
+    EXPECT_FALSE(m_model.hasChild(2));
+}
+
+TEST_F(DataTableModelTest, TheSameChildColumnsAgainKeepTheChildTables) {
+    fillTwoLevels();
+    EXPECT_FALSE(m_model.setChildColumns(columns(3), 1));
+    EXPECT_EQ(names(2), "a b c");
+    EXPECT_TRUE(m_model.setChildColumns(columns(4), 1));
+    EXPECT_FALSE(m_model.hasChild(2));
+}
+
+TEST_F(DataTableModelTest, EqualTextsAreHeldOnceAndGivenBackWhenTheGridIsCleared) {
+    const QString name(500, u'x');
+    const std::size_t before = m_model.memoryInUse();
+    for (int row = 0; row < 1000; ++row) m_model.append(top, {row, QString(name)});
+    const std::size_t perRow = (m_model.memoryInUse() - before) / 1000;
+    EXPECT_LT(perRow, 60U);
+    EXPECT_GT(perRow, 2 * sizeof(quint64));
+    for (int row = 0; row < 1000; ++row) m_model.append(top, {row, name + QString::number(row)});
+    EXPECT_GT(m_model.memoryInUse(), 1000U * 1000U);
+    EXPECT_EQ(m_model.text(top, 1999, 1), name + u"999"_qs);
+    m_model.clear(top);
+    EXPECT_EQ(m_model.memoryInUse(), before);
+}
+
+} // namespace

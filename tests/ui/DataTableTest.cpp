@@ -1,0 +1,213 @@
+#include "DataTable.h"
+#include "RuntimeError.h"
+
+#include <QHeaderView>
+#include <QSignalSpy>
+#include <QTest>
+#include <gtest/gtest.h>
+
+namespace {
+
+class DataTableTest : public testing::Test {
+protected:
+    DataTableTest()
+        : m_grid(QStringLiteral("tblProbe")) {
+        m_grid.setColumns({{u"Nr"_qs, 60, true}, {u"Name"_qs, 120}, {u"verborgen"_qs, 0}, {u"Ort"_qs, 80}});
+        m_grid.resize(600, 300);
+    }
+
+    void fill(int rows) {
+        for (int row = 0; row < rows; ++row) m_grid.appendRow({row, u"Name", row % 2, u"Ort"});
+    }
+
+    int shownRows() const { return m_grid.model()->rowCount(); }
+    int selectedRows() const { return static_cast<int>(m_grid.selectionModel()->selectedRows().size()); }
+
+    DataTable m_grid;
+};
+
+TEST_F(DataTableTest, AVisibleGridShowsAppendedRowsInTheNextTurnAndAHiddenOneWhenItIsShown) {
+    fill(3);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(m_grid.rowCount(), 3);
+    EXPECT_EQ(shownRows(), 0);
+    m_grid.show();
+    EXPECT_EQ(shownRows(), 3);
+    fill(2);
+    EXPECT_EQ(shownRows(), 3);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(shownRows(), 5);
+    m_grid.setCell(0, 1, u"neu");
+    const QSignalSpy changed(m_grid.model(), &QAbstractItemModel::dataChanged);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(changed.size(), 1);
+}
+
+TEST_F(DataTableTest, FindReadsAndWritesTheStartRow) {
+    fill(6);
+    m_grid.setCell(1, 1, u"Aal");
+    m_grid.setCell(4, 1, u"Aal");
+    int start = -1;
+    EXPECT_EQ(m_grid.find(1, start, u"Aal"_qs), 1);
+    EXPECT_EQ(start, 1);
+    EXPECT_EQ(m_grid.find(1, ++start, u"Aal"_qs), 4);
+    EXPECT_EQ(start, 4);
+    start = 5;
+    EXPECT_EQ(m_grid.find(1, start, u"Aal"_qs), -1);
+    EXPECT_EQ(start, 5);
+    start = 99;
+    EXPECT_EQ(m_grid.find(1, start, u"Aal"_qs), -1);
+}
+
+TEST_F(DataTableTest, SelectionIsSetAndClearedByRange) {
+    fill(10);
+    m_grid.selectRows(2, 3, true);
+    EXPECT_EQ(selectedRows(), 3);
+    m_grid.selectRows(3, 1, false);
+    EXPECT_EQ(selectedRows(), 2);
+    m_grid.selectRows(8, 99, true);
+    EXPECT_EQ(selectedRows(), 4);
+    m_grid.selectRows(-3, 99, false);
+    EXPECT_EQ(selectedRows(), 0);
+    m_grid.clearRows();
+    m_grid.selectRows(0, 0, true);
+    m_grid.selectRows(0, 0, false);
+    EXPECT_EQ(selectedRows(), 0);
+}
+
+TEST_F(DataTableTest, ColumnsKeepTheirNumbersHideAtWidthZeroAndFillTheRoom) {
+    fill(1);
+    m_grid.show();
+    EXPECT_EQ(m_grid.visibleHeads(), (QVector<QString>{u"Nr"_qs, u"Name"_qs, u"Ort"_qs}));
+    EXPECT_EQ(m_grid.columnWidth(0), 60);
+    EXPECT_EQ(m_grid.columnViewportPosition(3) + m_grid.columnWidth(3), m_grid.viewport()->width());
+    m_grid.setColumnWidth(1, 5);
+    EXPECT_EQ(m_grid.columnWidth(1), 24);
+    m_grid.setColumnHidden(3, true);
+    EXPECT_EQ(m_grid.columnViewportPosition(1) + m_grid.columnWidth(1), m_grid.viewport()->width());
+    m_grid.setColumns({{u"Anders"_qs, 70}, {u"Zwei"_qs, 70}});
+    EXPECT_EQ(m_grid.visibleHeads(), (QVector<QString>{u"Anders"_qs, u"Zwei"_qs}));
+    EXPECT_EQ(m_grid.header()->visualIndex(0), 1);
+    EXPECT_EQ(m_grid.columnViewportPosition(0) + m_grid.columnWidth(0), m_grid.columnViewportPosition(1));
+}
+
+TEST_F(DataTableTest, ARevealedCellIsScrolledIntoViewAndTheSpaceBelowIsThatLeftByTheRows) {
+    fill(500);
+    m_grid.show();
+    EXPECT_TRUE(m_grid.revealCell({}, -1, 0).isEmpty());
+    const QRect cell = m_grid.revealCell({}, 400, 1);
+    EXPECT_TRUE(m_grid.viewport()->rect().contains(cell));
+    EXPECT_EQ(m_grid.indexAt(cell.center()), m_grid.model()->index(400, 1));
+    EXPECT_LT(m_grid.revealCell({}, 400, DataTable::rowHeaderColumn).right(), cell.left());
+    EXPECT_TRUE(m_grid.revealCell({}, 500, 1).isEmpty());
+    EXPECT_TRUE(m_grid.revealCell({}, 3, 2).isEmpty());
+    EXPECT_TRUE(m_grid.revealCell({3}, 0, 1).isEmpty());
+    m_grid.clearRows();
+    fill(2);
+    const QRect below = m_grid.revealCell({}, -1, 0);
+    EXPECT_EQ(below.top(), m_grid.revealCell({}, 1, 1).bottom() + 1);
+    EXPECT_FALSE(m_grid.indexAt(below.center()).isValid());
+}
+
+TEST_F(DataTableTest, SelectedRowsTakeTheColoursThatTheProgramSets) {
+    fill(3);
+    m_grid.show();
+    const QPoint place = m_grid.revealCell({}, 1, 3).center();
+    const auto backAt = [&] { return m_grid.viewport()->grab().toImage().pixelColor(place); };
+    const QColor plain = backAt();
+    m_grid.selectRows(1, 1, true);
+    EXPECT_EQ(backAt(), m_grid.palette().color(QPalette::Inactive, QPalette::Highlight));
+    m_grid.selectionStyle().back = QColor(1, 2, 3);
+    EXPECT_EQ(backAt(), QColor(1, 2, 3));
+    m_grid.selectRows(0, 3, false);
+    EXPECT_EQ(backAt(), plain);
+}
+
+/// The overview of contacts in small: categories with children of three columns.
+class TwoLevelDataTableTest : public testing::Test {
+protected:
+    TwoLevelDataTableTest()
+        : m_grid(QStringLiteral("tblProbe")) {
+        m_grid.setColumns({{QString(), 40}, {QString(), 40}, {QString(), 300}});
+        m_grid.setChildColumns({{u"Nr"_qs, 60}, {u"Name"_qs, 120}, {u"Ort"_qs, 80}}, 2);
+        m_grid.resize(600, 400);
+        for (int row = 0; row < 3; ++row) m_grid.appendRow({row + 1, u"+", u"Kategorie"});
+    }
+
+    void fillChild(int row, int count) {
+        const TableHandle parent = m_grid.enterChild(row);
+        for (int child = 0; child < count; ++child) m_grid.appendRow({child, u"Name", u"Ort"});
+        m_grid.enter(parent);
+    }
+
+    DataTable m_grid;
+};
+
+TEST_F(TwoLevelDataTableTest, RowsAndCellsAreThoseOfTheTableThatHasBeenEntered) {
+    fillChild(1, 5);
+    EXPECT_EQ(m_grid.rowCount(), 3);
+    const TableHandle top = m_grid.enterChild(1);
+    EXPECT_EQ(m_grid.rowCount(), 5);
+    m_grid.setCell(4, 1, u"letzter");
+    m_grid.removeRow(0);
+    EXPECT_EQ(m_grid.cellText(3, 1), u"letzter"_qs);
+    EXPECT_EQ(m_grid.enter(top).parentRow, 1);
+    EXPECT_EQ(m_grid.cellText(1, 2), u"Kategorie"_qs);
+    EXPECT_EQ(m_grid.visibleHeads(), (QVector<QString>{u"Nr"_qs, u"Name"_qs, u"Ort"_qs}));
+}
+
+TEST_F(TwoLevelDataTableTest, RemovingTheCurrentChildTableLeadsBackToTheTop) {
+    fillChild(1, 2);
+    m_grid.enterChild(1);
+    m_grid.removeChild(1);
+    EXPECT_EQ(m_grid.currentTable().parentRow, -1);
+    EXPECT_FALSE(m_grid.hasChild(1));
+    EXPECT_EQ(m_grid.rowCount(), 3);
+    EXPECT_THROW(m_grid.enter({1}), RuntimeError);
+    EXPECT_THROW(m_grid.enterChild(3), RuntimeError);
+}
+
+TEST_F(TwoLevelDataTableTest, ACategoryRevealsItsBandAndItsChildrenUnfold) {
+    fillChild(0, 2);
+    m_grid.show();
+    const QRect band = m_grid.revealCell({}, 1, 2);
+    EXPECT_EQ(band.right(), m_grid.viewport()->width() - 1);
+    EXPECT_EQ(band, m_grid.revealCell({}, 1, 0));
+    EXPECT_FALSE(m_grid.isExpanded(m_grid.model()->index(0, 0)));
+    const QRect child = m_grid.revealCell({0}, 1, 1);
+    EXPECT_GT(child.top(), m_grid.revealCell({}, 0, 0).bottom());
+    EXPECT_LT(child.bottom(), m_grid.revealCell({}, 1, 0).top());
+    EXPECT_GT(m_grid.revealCell({}, -1, 0).top(), m_grid.revealCell({}, 2, 0).bottom());
+}
+
+TEST_F(TwoLevelDataTableTest, AnExpandedCategoryStaysSoWhileItsChildrenAreReplaced) {
+    fillChild(0, 2);
+    m_grid.show();
+    m_grid.revealCell({0}, 0, 0);
+    m_grid.createChild(0);
+    QCoreApplication::processEvents();
+    fillChild(0, 4);
+    QCoreApplication::processEvents();
+    const QModelIndex category = m_grid.model()->index(0, 0);
+    EXPECT_TRUE(m_grid.isExpanded(category));
+    EXPECT_FALSE(m_grid.visualRect(m_grid.model()->index(3, 0, category)).isEmpty());
+    EXPECT_EQ(m_grid.removeRowsWithText(0, u"3"_qs), 1);
+    EXPECT_TRUE(m_grid.isExpanded(m_grid.model()->index(0, 0)));
+    EXPECT_FALSE(m_grid.hasChild(2));
+}
+
+TEST_F(TwoLevelDataTableTest, ChildRowsTakeTheirColoursByTurns) {
+    fillChild(0, 3);
+    m_grid.setChildColours(0, QColor(172, 199, 247), QColor(100, 199, 247));
+    m_grid.show();
+    m_grid.revealCell({0}, 0, 0);
+    const QImage face = m_grid.viewport()->grab().toImage();
+    const auto backOf = [&](int row) {
+        return face.pixelColor(m_grid.revealCell({0}, row, 2).adjusted(0, 0, -4, -4).bottomRight());
+    };
+    EXPECT_EQ(backOf(0), QColor(172, 199, 247));
+    EXPECT_EQ(backOf(2), backOf(0));
+    EXPECT_NE(backOf(1), backOf(0));
+}
+
+} // namespace
