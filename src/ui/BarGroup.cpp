@@ -17,6 +17,9 @@ BarGroup::BarGroup(const QString& caption, QWidget* parent)
     auto* heading = new QLabel(caption, this);
     heading->setObjectName(u"groupHeading"_qs);
     heading->setTextFormat(Qt::PlainText);
+    QFont bold = heading->font();
+    bold.setBold(true);
+    heading->setFont(bold);
     heading->setContentsMargins(headingGap, headingGap, headingGap, headingGap);
     m_column->setContentsMargins(0, 0, 0, 0);
     m_column->setSpacing(itemGap);

@@ -2,7 +2,8 @@
 
 namespace {
 constexpr double headingPoints = 16;
-}
+constexpr QMargins room(12, 8, 12, 4);
+} // namespace
 
 Heading::Heading(const QString& text, QWidget* parent)
     : QLabel(text, parent) {
@@ -13,5 +14,6 @@ Heading::Heading(const QString& text, QWidget* parent)
     face.setPointSizeF(headingPoints);
     face.setBold(true);
     setFont(face);
+    setContentsMargins(room);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }

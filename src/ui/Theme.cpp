@@ -1,5 +1,6 @@
 #include "Theme.h"
 
+#include "HouseStyle.h"
 #include "ThemeIcon.h"
 
 #include <QApplication>
@@ -7,7 +8,6 @@
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QPalette>
-#include <QStyleFactory>
 #include <QToolTip>
 #include <QTranslator>
 
@@ -72,17 +72,6 @@ QFont bodyFont() {
     return font;
 }
 
-// Only what a palette can't say.
-QString styleSheet() {
-    return u"Heading, #groupHeading { color: %1; }"
-           "#groupHeading { font-weight: bold; border-bottom: 1px solid %2; }"
-           "NavigationBar { background: %3; border-right: 1px solid %2; }"
-           "NavigationBar QScrollArea { background: transparent; }"
-           "Toolbar, StatusBar { background: %4; }"_qs.arg(
-               Theme::headingInk().name(), Theme::faintLine().name(), Theme::barGround().name(),
-               either(0xffe9edf3, 0xff282d37).name());
-}
-
 void loadGermanWords(QApplication& application) {
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
     const QString name = u"qtbase_de"_qs;
@@ -101,11 +90,10 @@ void apply(QApplication& application, Mode mode) {
     loadPictures();
     modeInForce = mode;
     loadGermanWords(application);
-    QApplication::setStyle(QStyleFactory::create(u"Fusion"_qs));
+    QApplication::setStyle(new HouseStyle);
     QApplication::setPalette(paletteInForce());
     QToolTip::setPalette(paletteInForce());
     QApplication::setFont(bodyFont());
-    application.setStyleSheet(styleSheet());
     QApplication::setWindowIcon(icon(u"uferwart"_qs));
 }
 
@@ -131,6 +119,8 @@ QColor outline() { return either(0xff8b94a4, 0xff6d7686); }
 QColor faintLine() { return either(0xffc9d3e4, 0xff3d4757); }
 
 QColor barGround() { return either(0xffe3ecfc, 0xff1a2233); }
+
+QColor toolbarGround() { return either(0xffe9edf3, 0xff282d37); }
 
 QColor barItemGround(bool current, bool hovered, bool pressed) {
     if (current) return either(0xffacc7f7, 0xff2f4f86);

@@ -13,7 +13,7 @@ namespace Theme {
 
 enum class Mode { Light, Dark };
 
-/// Style, palette, style sheet and fonts for the whole program; also loads the toolkit's German words and
+/// Style, palette and fonts for the whole program; also loads the toolkit's German words and
 /// makes German the locale of dates and numbers. May be called again to change the mode.
 void apply(QApplication& application, Mode mode);
 /// Dark if the desktop asks for it. To be asked before the first apply().
@@ -28,6 +28,7 @@ QColor headingInk(); ///< text of headings, legible on the window in both modes
 QColor outline();    ///< border of fields and keys
 QColor faintLine();  ///< border of frames, separators
 QColor barGround();
+QColor toolbarGround(); ///< toolbars and the status bar
 QColor barItemGround(bool current, bool hovered, bool pressed);
 
 /// A picture among the program's own (assets/icons/NAME.svg), drawn sharp at any scale and legible in both

@@ -12,15 +12,19 @@ namespace {
 
 constexpr double disabledOpacity = 0.38;
 
-// The pictures are drawn in these two; the rest of their colours stands on any ground.
+// The pictures are drawn in these three; the rest of their colours stands on any ground.
 const QByteArray lineColour = QByteArrayLiteral("#1f3f77");
 const QByteArray fillColour = QByteArrayLiteral("#acc7f7");
+const QByteArray paperColour = QByteArrayLiteral("#ffffff");
 const QByteArray lineColourOnDark = QByteArrayLiteral("#c6d9fb");
 const QByteArray fillColourOnDark = QByteArrayLiteral("#3a5c99");
+const QByteArray paperColourOnDark = QByteArrayLiteral("#1c2330");
 
 QByteArray recoloured(QByteArray picture) {
     if (Theme::mode() == Theme::Mode::Light) return picture;
-    return picture.replace(lineColour, lineColourOnDark).replace(fillColour, fillColourOnDark);
+    picture.replace(lineColour, lineColourOnDark);
+    picture.replace(fillColour, fillColourOnDark);
+    return picture.replace(paperColour, paperColourOnDark);
 }
 
 QByteArray contentsOf(const QString& name) {

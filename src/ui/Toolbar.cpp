@@ -2,14 +2,30 @@
 
 #include "Theme.h"
 
-#include <QFrame>
 #include <QHBoxLayout>
 #include <QIcon>
+#include <QPainter>
 #include <QToolButton>
 
 namespace {
 constexpr int iconEdge = 24;
 constexpr int gap = 4;
+constexpr int margin = 8;
+constexpr int separatorWidth = 9;
+
+class Separator : public QWidget {
+public:
+    explicit Separator(QWidget* parent)
+        : QWidget(parent) {
+        setFixedWidth(separatorWidth);
+    }
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override {
+        QPainter(this).fillRect(QRect(width() / 2, gap, 1, height() - 2 * gap), Theme::outline());
+    }
+};
+
 } // namespace
 
 Toolbar::Toolbar(QWidget* parent)
@@ -18,7 +34,7 @@ Toolbar::Toolbar(QWidget* parent)
     setObjectName(u"Toolbar1"_qs);
     setAttribute(Qt::WA_StyledBackground);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
-    m_row->setContentsMargins(gap, gap, gap, gap);
+    m_row->setContentsMargins(margin, gap, margin, gap);
     m_row->setSpacing(gap);
     m_row->addStretch(1);
 }
@@ -42,12 +58,7 @@ QToolButton* Toolbar::addKey(const QString& key, const QString& caption, const Q
     return button;
 }
 
-void Toolbar::addSeparator() {
-    auto* line = new QFrame(this);
-    line->setFrameStyle(QFrame::VLine | QFrame::Plain);
-    line->setObjectName(u"separator"_qs);
-    m_row->insertWidget(m_row->count() - 1, line);
-}
+void Toolbar::addSeparator() { m_row->insertWidget(m_row->count() - 1, new Separator(this)); }
 
 QToolButton* Toolbar::key(const QString& key) const {
     return findChild<QToolButton*>(key, Qt::FindDirectChildrenOnly);

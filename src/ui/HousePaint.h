@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QColor>
+#include <QRectF>
+#include <qnamespace.h>
+
+class QPainter;
+class QStyleOption;
+class QStyleOptionTab;
+
+/// How the parts of the controls look; each draws into the option's rectangle unless told otherwise.
+namespace HousePaint {
+
+/// The ground and border of a text box, a combo box and their like; the border is the focus ring as well.
+void field(const QStyleOption* option, QPainter* painter);
+/// The border alone, around something that paints its own ground.
+void fieldBorder(const QStyleOption* option, QPainter* painter);
+/// A value that only shows.
+void sunkenPanel(const QStyleOption* option, QPainter* painter);
+void pushButton(const QStyleOption* option, QPainter* painter, bool isDefault);
+void toolButton(const QStyleOption* option, QPainter* painter);
+void focusRing(const QStyleOption* option, QPainter* painter);
+void checkBox(const QStyleOption* option, QPainter* painter);
+void radioButton(const QStyleOption* option, QPainter* painter);
+/// The ground of a toolbar, the status bar or the navigation bar, with a line where it ends.
+void bar(const QRect& place, const QColor& ground, Qt::Edge end, QPainter* painter);
+void chevron(const QRectF& place, Qt::ArrowType direction, const QStyleOption* option, QPainter* painter);
+void tab(const QStyleOptionTab* option, QPainter* painter);
+void framePanel(const QRectF& place, QPainter* painter);
+void progressGroove(const QStyleOption* option, QPainter* painter);
+void progressContents(const QRectF& filled, const QStyleOption* option, QPainter* painter);
+void scrollHandle(const QRectF& place, const QStyleOption* option, bool pressed, QPainter* painter);
+
+} // namespace HousePaint
