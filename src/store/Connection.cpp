@@ -75,6 +75,8 @@ void Connection::openFile(const QString& path, Access access) {
 }
 
 void Connection::unlock(const QString& password) {
+    // The library takes no empty key.
+    if (password.isEmpty()) throw runtimeError(3031);
     const QByteArray key = password.toUtf8();
     const int code = sqlite3_key(m_database.get(), key.constData(), static_cast<int>(key.size()));
     if (code != SQLITE_OK) throw sqliteError(m_database.get());

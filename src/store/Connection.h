@@ -37,6 +37,7 @@ public:
     Statement prepare(const QByteArray& sql) { return Statement(m_database.get(), sql); }
     void execute(const QByteArray& sql) { prepare(sql).run(); }
     WriteTransaction& transaction() { return *m_transaction; }
+    sqlite3* handle() const { return m_database.get(); }
     /// How many rows the last write touched.
     int changes() const;
 

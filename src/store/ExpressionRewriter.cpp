@@ -34,10 +34,6 @@ FieldKind literalKind(const Value& value) {
     }
 }
 
-void requireTruth(const Operand& operand) {
-    if (operand.isText()) throw unlikeKinds();
-}
-
 bool named(const QString& name, QStringView function) {
     return name.compare(function, Qt::CaseInsensitive) == 0;
 }
@@ -47,6 +43,12 @@ bool named(const QString& name, QStringView function) {
 Operand ExpressionRewriter::read() {
     const TokenReader::Level level(m_reader);
     return readChain(u"OR", &ExpressionRewriter::readConjunction);
+}
+
+/// A number or a text alone is a comparison that was left unfinished.
+void ExpressionRewriter::requireTruth(const Operand& operand) const {
+    if (operand.kind != FieldKind::Boolean && operand.kind != FieldKind::Untyped)
+        m_reader.fail(SyntaxFault::Operator);
 }
 
 Operand ExpressionRewriter::readCondition() {

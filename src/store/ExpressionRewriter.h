@@ -18,12 +18,13 @@ public:
         , m_aggregates(aggregates) {}
 
     Operand read();
-    /// As above for a condition, which a bare text is not (3464).
+    /// As above for a condition, which is a comparison or a truth (3075).
     Operand readCondition();
 
 private:
     using Part = Operand (ExpressionRewriter::*)();
 
+    void requireTruth(const Operand& operand) const;
     Operand readChain(QStringView word, Part part);
     Operand readConjunction();
     Operand readNegation();

@@ -37,7 +37,7 @@ Operand calculated(const Operand& left, char sign, const Operand& right) {
     if (left.isText() || right.isText()) throw unlikeKinds();
     // A quotient has its fraction, also that of two whole numbers.
     const QByteArray first = sign == '/' ? "CAST(" + asNumber(left) + " AS REAL)" : asNumber(left);
-    return joined(left, right, '(' + first + ' ' + sign + ' ' + asNumber(right) + ')', FieldKind::Untyped);
+    return joined(left, right, '(' + first + ' ' + sign + ' ' + asNumber(right) + ')', FieldKind::Number);
 }
 
 Operand concatenated(const Operand& left, const Operand& right) {

@@ -186,7 +186,8 @@ void SelectRewriter::readOrderTerm() {
     const Operand term =
         item != nullptr ? item->operand : ExpressionRewriter(m_reader, m_scope, Aggregates::Refused).read();
     m_order += m_order.isEmpty() ? " ORDER BY " : ", ";
-    m_order += collated(term);
+    // The sign keeps the engine from walking along an index, for the reason told at the plan.
+    m_order += '+' + collated(term);
     if (m_reader.acceptWord(u"DESC"))
         m_order += " DESC";
     else
@@ -249,8 +250,12 @@ SelectPlan SelectRewriter::plan() const {
         plan.sql = sql(columns());
         return plan;
     }
-    plan.editable = m_scope.sources().front().table;
-    plan.sql = sql(m_scope.sources().front().alias + ".rowid, " + columns());
+    const Source& source = m_scope.sources().front();
+    plan.editable = source.table;
+    plan.sql = sql(source.alias + ".rowid, " + columns());
+    // Walking along an index, the cursor would meet a row again whose place in it a change has moved ahead.
+    // In the order of the keys it cannot.
+    if (m_order.isEmpty()) plan.sql += " ORDER BY " + source.alias + ".rowid";
     return plan;
 }
 

@@ -1,0 +1,75 @@
+#include "StoreFixture.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+class CompactionTest : public StoreTest {
+protected:
+    CompactionTest() { database.Close(); }
+
+    QString target() const { return file(u"uwtmp.mdb"_qs); }
+
+    int compact(const QString& password = connect()) {
+        return errorOf([&] { DBEngine::CompactDatabase(path(), target(), password); });
+    }
+};
+
+TEST_F(CompactionTest, CopiesEverythingIntoASmallerFile) {
+    execute("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 20000) "
+            "INSERT INTO Fang (FangJahr, Notiz) SELECT 1990, 'x' || i FROM n");
+    execute("DELETE FROM Fang WHERE FangJahr = 1990");
+    execute("UPDATE Fang SET Gewicht = 'viel', Anzahl = 7000000000 WHERE FangNr = 1");
+    execute("INSERT INTO Benutzer VALUES (9, 'Waise', NULL, 1)");
+    execute("PRAGMA foreign_keys = OFF");
+    execute("CREATE TABLE Eigenes (Was TEXT)");
+    execute("INSERT INTO Eigenes VALUES ('eins')");
+    EXPECT_EQ(compact(), 0);
+    EXPECT_LT(QFileInfo(target()).size(), QFileInfo(path()).size() / 2);
+
+    const auto copy = connectTo(target());
+    for (const TableSpec& spec : schemaTables()) {
+        const QString all = u"SELECT * FROM "_qs + spec.name.toString();
+        if (spec.name == u"Fang") continue;
+        EXPECT_EQ(rowsOf(*copy, all), rowsInFile(all)) << spec.name.toString().toStdString();
+    }
+    Statement raw =
+        copy->prepare("SELECT Anzahl || Gewicht || (SELECT Was FROM Eigenes) FROM Fang WHERE FangNr = 1");
+    ASSERT_TRUE(raw.step());
+    EXPECT_EQ(raw.text(0), u"7000000000vieleins");
+
+    Recordset entries = Database(copy).OpenRecordset(u"Fang"_qs, dbOpenTable);
+    entries.AddNew();
+    entries.Update();
+    entries.MoveLast();
+    EXPECT_GT(entries.Fields(u"FangNr"_qs).Value().number(), 20'000) << "numbers are not given out twice";
+}
+
+TEST_F(CompactionTest, RefusesATargetThatExistsOrHasNoFolder) {
+    QFile existing(target());
+    ASSERT_TRUE(existing.open(QIODevice::WriteOnly));
+    existing.close();
+    EXPECT_EQ(compact(), 3204);
+    EXPECT_TRUE(QFile::exists(target()));
+    EXPECT_EQ(errorOf([&] { DBEngine::CompactDatabase(path(), file(u"temp/x.mdb"_qs), connect()); }), 3044);
+    EXPECT_EQ(rowsInFile(u"SELECT COUNT(*) FROM Fisch"_qs), u"4");
+}
+
+TEST_F(CompactionTest, LeavesNoTargetBehindWhenItFails) {
+    EXPECT_EQ(compact(u";pwd=falsch"_qs), 3031);
+    EXPECT_FALSE(QFile::exists(target()));
+
+    execute("INSERT INTO Fisch (Notiz) VALUES (hex(randomblob(20000)))");
+    QFile source(path());
+    ASSERT_TRUE(source.open(QIODevice::ReadWrite));
+    source.seek(source.size() - 5000);
+    source.write("x");
+    source.close();
+    EXPECT_EQ(compact(), 3343);
+    EXPECT_FALSE(QFile::exists(target()));
+
+    ASSERT_TRUE(source.resize(1500));
+    EXPECT_EQ(compact(), 3056);
+    ASSERT_TRUE(source.remove());
+    EXPECT_EQ(compact(), 3024);
+    EXPECT_FALSE(QFile::exists(target()));
+}

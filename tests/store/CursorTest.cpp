@@ -1,0 +1,191 @@
+#include "StoreFixture.h"
+
+class CursorTest : public StoreTest {
+protected:
+    static qint32 number(const Recordset& recordset, QStringView field) {
+        return recordset.Fields(field.toString()).Value().number();
+    }
+
+    /// What a cursor tells of its place: count, position, and which ends it is at.
+    static QString place(const Recordset& recordset) {
+        return u"%1 %2%3%4"_qs.arg(recordset.RecordCount())
+            .arg(recordset.AbsolutePosition())
+            .arg(recordset.Bof() ? u" bof"_qs : QString(), recordset.Eof() ? u" eof"_qs : QString());
+    }
+
+    QString walk(const QString& select, QStringView field) {
+        QStringList values;
+        for (Recordset all = query(select); !all.Eof(); all.MoveNext())
+            values += shown(all.Fields(field.toString()).Value());
+        return values.join(u' ');
+    }
+};
+
+TEST_F(CursorTest, CountsTheRowsOfAQueryAsTheyAreReached) {
+    Recordset fish = query(u"SELECT * FROM Fisch"_qs);
+    EXPECT_EQ(place(fish), u"1 0");
+    fish.MoveNext();
+    EXPECT_EQ(place(fish), u"2 1");
+    fish.MoveFirst();
+    EXPECT_EQ(place(fish), u"2 0");
+    fish.MoveLast();
+    EXPECT_EQ(place(fish), u"4 3");
+    EXPECT_EQ(number(fish, u"FNr"), 4);
+    fish.MoveNext();
+    EXPECT_EQ(place(fish), u"4 -1 eof");
+    EXPECT_EQ(errorOf([&] { fish.MoveNext(); }), 3021);
+    EXPECT_EQ(errorOf([&] { number(fish, u"FNr"); }), 3021);
+    fish.MoveFirst();
+    EXPECT_EQ(number(fish, u"FNr"), 1);
+    fish.MoveLast();
+    fish.MoveNext();
+    EXPECT_TRUE(fish.Eof());
+}
+
+TEST_F(CursorTest, TellsAnEmptyQueryByItsCount) {
+    Recordset none = query(u"SELECT * FROM Fisch WHERE FNr = 99"_qs);
+    EXPECT_EQ(place(none), u"0 -1 bof eof");
+    EXPECT_EQ(errorOf([&] { none.MoveFirst(); }), 3021);
+    EXPECT_EQ(errorOf([&] { none.MoveLast(); }), 3021);
+    EXPECT_EQ(errorOf([&] { none.MoveNext(); }), 3021);
+    EXPECT_EQ(errorOf([&] { none.Delete(); }), 3021);
+}
+
+TEST_F(CursorTest, GivesEachFieldItsKind) {
+    const Recordset contact = query(u"SELECT * FROM Kontakt WHERE KNr = 1"_qs);
+    EXPECT_EQ(contact.Fields(u"knr"_qs).Value(), Value(1));
+    EXPECT_EQ(contact.Fields(u"Bankeinzug"_qs).Value(), Value(true));
+    EXPECT_EQ(contact.Fields(u"GEBDATUM"_qs).Value(), Value(Date{25569}));
+    EXPECT_EQ(contact.Fields(u"Nachname"_qs).Value(), Value(u"Müller"));
+    EXPECT_TRUE(contact.Fields(u"Firma"_qs).Value().isNull());
+    EXPECT_EQ(errorOf([&] { contact.Fields(u"Nix"_qs); }), 3265);
+    EXPECT_EQ(table(u"Arbeit").Fields(u"ArbStd"_qs).Value(), Value(2.5));
+}
+
+TEST_F(CursorTest, BearsStoredValuesOfTheWrongKind) {
+    execute("UPDATE Fang SET Anzahl = 5000000000, Gewicht = 'viel', FangMonat = 1.5 WHERE FangNr = 1");
+    execute("UPDATE System SET JBeitrag = 12.5, PflichtStd = NULL");
+    const Recordset entry = seek(u"Fang", 1);
+    EXPECT_EQ(errorOf([&] { entry.Fields(u"Anzahl"_qs).Value(); }), 6);
+    EXPECT_EQ(entry.Fields(u"Gewicht"_qs).Value(), Value(u"viel"));
+    EXPECT_EQ(entry.Fields(u"FangMonat"_qs).Value(), Value(1.5));
+    EXPECT_EQ(table(u"System").Fields(u"JBeitrag"_qs).Value(), Value(12.5));
+    EXPECT_TRUE(table(u"System").Fields(u"PflichtStd"_qs).Value().isNull());
+}
+
+TEST_F(CursorTest, SeeksByKey) {
+    Recordset fish = table(u"Fisch");
+    EXPECT_EQ(errorOf([&] { fish.Seek(u"="_qs, 1); }), 3019);
+    EXPECT_EQ(errorOf([&] { fish.Index(u"Name"_qs); }), 3015);
+    fish.Index(u"primarykey"_qs);
+    fish.Seek(u"="_qs, Value(u"3"));
+    EXPECT_FALSE(fish.NoMatch());
+    EXPECT_EQ(shown(fish.Fields(u"FName"_qs).Value()), u"Äsche");
+    EXPECT_EQ(fish.AbsolutePosition(), 2);
+    fish.MoveNext();
+    EXPECT_EQ(number(fish, u"FNr"), 4);
+    for (const Value& missing : {Value(99), Value(-1), Value()}) {
+        fish.Seek(u"="_qs, missing);
+        EXPECT_TRUE(fish.NoMatch());
+        EXPECT_EQ(errorOf([&] { number(fish, u"FNr"); }), 3021);
+        EXPECT_EQ(errorOf([&] { fish.Edit(); }), 3021);
+    }
+    fish.Seek(u"="_qs, 1);
+    EXPECT_EQ(number(fish, u"FNr"), 1);
+    EXPECT_EQ(errorOf([&] { fish.Seek(u">"_qs, 1); }), 3001);
+    EXPECT_EQ(errorOf([&] { fish.Seek(u"="_qs, Value(u"drei")); }), 13);
+    EXPECT_EQ(errorOf([&] { table(u"System").Index(u"PrimaryKey"_qs); }), 3015);
+    EXPECT_EQ(errorOf([&] { query(u"SELECT * FROM Fisch"_qs).Index(u"PrimaryKey"_qs); }), 3251);
+    EXPECT_EQ(errorOf([&] { table(u"Fische"); }), 3078);
+}
+
+TEST_F(CursorTest, WalksATableInTheOrderOfItsKeys) {
+    Recordset fish = table(u"Fisch");
+    EXPECT_EQ(place(fish), u"4 0");
+    fish.MoveLast();
+    EXPECT_EQ(number(fish, u"FNr"), 4);
+    EXPECT_EQ(place(fish), u"4 3");
+    fish.MoveNext();
+    EXPECT_EQ(place(fish), u"4 -1 eof");
+    EXPECT_EQ(errorOf([&] { fish.MoveNext(); }), 3021);
+    fish.MoveFirst();
+    EXPECT_EQ(number(fish, u"FNr"), 1);
+    EXPECT_EQ(place(table(u"Druck_ArbListe")), u"0 -1 bof eof");
+    EXPECT_EQ(errorOf([&] { table(u"Druck_ArbListe").MoveLast(); }), 3021);
+}
+
+TEST_F(CursorTest, WalksOnWhileItsRowsAreChanged) {
+    Recordset members = query(u"SELECT * FROM Mitglied WHERE Bezahlt = True"_qs);
+    for (; !members.Eof(); members.MoveNext()) {
+        members.Edit();
+        members.Collect(u"Bezahlt"_qs, false);
+        members.Update();
+        EXPECT_EQ(members.Fields(u"Bezahlt"_qs).Value(), Value(false));
+    }
+    members.Close();
+    EXPECT_EQ(walk(u"SELECT Bezahlt FROM Mitglied"_qs, u"Bezahlt"), u"False False False");
+}
+
+TEST_F(CursorTest, WalksOnWhileAnotherCursorDeletesItsRows) {
+    Recordset found = query(u"SELECT ArbNr FROM Arbeit WHERE Datum = #1/1/2005#"_qs);
+    found.MoveFirst();
+    found.MoveLast();
+    EXPECT_EQ(found.RecordCount(), 2);
+    found.MoveFirst();
+    Recordset work = table(u"Arbeit");
+    work.Index(u"PrimaryKey"_qs);
+    for (; !found.Eof(); found.MoveNext()) {
+        work.Seek(u"="_qs, found.Fields(u"ArbNr"_qs).Value());
+        ASSERT_FALSE(work.NoMatch());
+        work.Delete();
+    }
+    work.Close();
+    EXPECT_EQ(walk(u"SELECT ArbNr FROM Arbeit"_qs, u"ArbNr"), u"2 4");
+}
+
+TEST_F(CursorTest, ReachesEachRowOnceThoughItsPlaceInTheIndexMoves) {
+    Recordset work = query(u"SELECT * FROM Arbeit WHERE Jahr >= 2000"_qs);
+    int changed = 0;
+    for (; !work.Eof() && changed < 100; work.MoveNext(), ++changed) {
+        work.Edit();
+        work.Collect(u"Jahr"_qs, number(work, u"Jahr") + 10);
+        work.Update();
+    }
+    EXPECT_EQ(changed, 4);
+    work.Close();
+    EXPECT_EQ(walk(u"SELECT Jahr FROM Arbeit"_qs, u"Jahr"), u"2015 2015 2015 2014");
+}
+
+TEST_F(CursorTest, HasNoRowAfterADeletionUntilItMoves) {
+    for (const bool isTable : {true, false}) {
+        Recordset fish = isTable ? table(u"Fisch") : query(u"SELECT * FROM Fisch"_qs);
+        fish.Delete();
+        EXPECT_EQ(errorOf([&] { number(fish, u"FNr"); }), 3167);
+        EXPECT_EQ(errorOf([&] { fish.Edit(); }), 3167);
+        EXPECT_EQ(errorOf([&] { fish.Delete(); }), 3167);
+        fish.MoveNext();
+        EXPECT_GT(number(fish, u"FNr"), 1);
+        fish.Close();
+    }
+    EXPECT_EQ(walk(u"SELECT FNr FROM Fisch"_qs, u"FNr"), u"3 4");
+    for (Recordset fish = table(u"Fisch"); !fish.Eof(); fish.MoveNext()) fish.Delete();
+    EXPECT_EQ(place(table(u"Fisch")), u"0 -1 bof eof");
+}
+
+TEST_F(CursorTest, IsOverOnceClosed) {
+    Recordset fish = table(u"Fisch");
+    const Field name = fish.Fields(u"FName"_qs);
+    fish.Close();
+    EXPECT_EQ(errorOf([&] { name.Value(); }), 91);
+    EXPECT_EQ(errorOf([&] { fish.Close(); }), 91);
+    EXPECT_EQ(errorOf([&] { fish.Eof(); }), 91);
+    EXPECT_EQ(errorOf([&] { Recordset().MoveFirst(); }), 91);
+    EXPECT_EQ(errorOf([&] { Database().OpenRecordset(u"Fisch"_qs, dbOpenTable); }), 91);
+
+    Recordset open = query(u"SELECT * FROM Fisch"_qs);
+    Database copy = database;
+    database.Close();
+    EXPECT_EQ(errorOf([&] { open.MoveNext(); }), 91);
+    EXPECT_EQ(errorOf([&] { query(u"SELECT * FROM Fisch"_qs); }), 91);
+    EXPECT_EQ(errorOf([&] { copy.Close(); }), 91);
+}

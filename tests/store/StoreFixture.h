@@ -1,0 +1,56 @@
+#pragma once
+
+#include "Connection.h"
+#include "DBEngine.h"
+#include "NewDatabase.h"
+#include "RuntimeError.h"
+
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+/// A new database file in a folder of its own, opened, with a small club in it.
+class StoreTest : public ::testing::Test {
+    QTemporaryDir m_folder; // outlives what is open in it
+
+protected:
+    StoreTest();
+
+    static QString password() { return QStringLiteral("geheim"); }
+    static QString connect() { return QStringLiteral(";pwd=geheim"); }
+    QString file(const QString& name) const { return m_folder.filePath(name); }
+    QString path() const { return file(QStringLiteral("uw01.mdb")); }
+
+    std::shared_ptr<Connection> connectTo(const QString& file) const;
+    Recordset table(QStringView name) { return database.OpenRecordset(name.toString(), dbOpenTable); }
+    Recordset query(const QString& select) { return database.OpenRecordset(select, dbOpenDynaset); }
+    /// A table cursor on the row with this key.
+    Recordset seek(QStringView name, qint32 key);
+    /// Rows joined by ";", their values by "|".
+    QString rows(const QString& select) { return rowsOf(*connection, select); }
+    /// As above through another connection, which sees only what is in the file.
+    QString rowsInFile(const QString& select) const { return rowsOf(*connectTo(path()), select); }
+    /// Runs a statement of the database engine itself.
+    void execute(const QByteArray& sql) const;
+
+    static QString rowsOf(Connection& connection, const QString& select);
+
+    std::shared_ptr<Connection> connection;
+    Database database;
+};
+
+QString shown(const Value& value);
+
+/// The number of the error that a statement ends with, 0 if it ends well.
+template<typename Statement>
+int errorOf(Statement statement) {
+    try {
+        statement();
+    } catch (const RuntimeError& error) {
+        EXPECT_FALSE(error.description.isEmpty());
+        return error.number;
+    }
+    return 0;
+}
+
+// What GoogleTest shows of a text that is not as expected.
+inline void PrintTo(const QString& text, std::ostream* stream) { *stream << text.toStdString(); }

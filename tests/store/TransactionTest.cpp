@@ -1,0 +1,148 @@
+#include "StoreFixture.h"
+
+#include <QFileInfo>
+#include <csignal>
+#include <functional>
+#include <sys/wait.h>
+#include <unistd.h>
+
+class TransactionTest : public StoreTest {
+protected:
+    static void rename(Recordset& fish, const QString& name) {
+        fish.Edit();
+        fish.Collect(u"FName"_qs, name);
+        fish.Update();
+    }
+
+    QString namesInFile() const { return rowsInFile(u"SELECT FName FROM Fisch"_qs); }
+
+    static void die() { ::kill(getpid(), SIGKILL); }
+
+    /// Runs something in a process of its own, which opens the file itself and ends without warning.
+    void runUntilDeath(const std::function<void(Database&)>& action) {
+        const pid_t child = fork();
+        if (child == 0) {
+            Database own(connectTo(path()));
+            action(own);
+            _exit(0);
+        }
+        int status = 0;
+        waitpid(child, &status, 0);
+        ASSERT_TRUE(WIFSIGNALED(status));
+    }
+
+    static constexpr QStringView unchanged = u"Hecht;Zander;Äsche;Barsch";
+};
+
+TEST_F(TransactionTest, WritesWhenTheLastWritingCursorIsClosed) {
+    Recordset reading = query(u"SELECT * FROM Kontakt"_qs);
+    Recordset fish = table(u"Fisch");
+    Recordset waters = table(u"Gewaesser");
+    rename(fish, u"Aal"_qs);
+    waters.Delete();
+    fish.Close();
+    EXPECT_EQ(namesInFile(), unchanged);
+    waters.Close();
+    EXPECT_EQ(namesInFile(), u"Aal;Zander;Äsche;Barsch");
+    reading.MoveNext();
+    EXPECT_EQ(reading.Fields(u"KNr"_qs).Value(), Value(2));
+}
+
+TEST_F(TransactionTest, CommitsWhenTheDatabaseIsClosedOrACursorIsForgotten) {
+    Recordset fish = table(u"Fisch");
+    rename(fish, u"Aal"_qs);
+    fish = Recordset();
+    EXPECT_EQ(namesInFile(), u"Aal;Zander;Äsche;Barsch");
+    Recordset again = table(u"Fisch");
+    rename(again, u"Stör"_qs);
+    database.Close();
+    EXPECT_EQ(namesInFile(), u"Stör;Zander;Äsche;Barsch");
+}
+
+TEST_F(TransactionTest, KeepsWhatWasWrittenBeforeAnError) {
+    Recordset members = table(u"Mitglied");
+    members.Delete();
+    members.AddNew();
+    members.Collect(u"KNr"_qs, 2);
+    EXPECT_EQ(errorOf([&] { members.Update(); }), 3022);
+    members.Close();
+    EXPECT_EQ(rowsInFile(u"SELECT KNr FROM Mitglied"_qs), u"2;4");
+}
+
+TEST_F(TransactionTest, LeavesNothingOfAnActionThatWasKilledBeforeItsEnd) {
+    runUntilDeath([](Database& own) {
+        Recordset fish = own.OpenRecordset(u"Fisch"_qs, dbOpenTable);
+        for (; !fish.Eof(); fish.MoveNext()) rename(fish, u"Aal"_qs);
+        die();
+    });
+    EXPECT_EQ(namesInFile(), unchanged);
+}
+
+TEST_F(TransactionTest, HasAllOfAnActionThatWasKilledRightAfterItsEnd) {
+    runUntilDeath([](Database& own) {
+        Recordset fish = own.OpenRecordset(u"Fisch"_qs, dbOpenTable);
+        for (; !fish.Eof(); fish.MoveNext()) rename(fish, u"Aal"_qs);
+        fish.Close();
+        die();
+    });
+    EXPECT_EQ(namesInFile(), u"Aal;Aal;Aal;Aal");
+}
+
+TEST_F(TransactionTest, TakesBackAHalfWrittenFileOfAnySize) {
+    // More than the cache holds, so that pages reach the file before the end, and the file grows.
+    runUntilDeath([](Database& own) {
+        Recordset fish = own.OpenRecordset(u"Fisch"_qs, dbOpenTable);
+        for (int i = 0; i < 40; ++i) {
+            fish.AddNew();
+            fish.Collect(u"Notiz"_qs, QString(1'000'000, u'x'));
+            fish.Update();
+        }
+        die();
+    });
+    ASSERT_GT(QFileInfo(path() + u"-journal"_qs).size(), 0);
+    connection->close();
+    EXPECT_EQ(truncate(path().toUtf8().constData(), QFileInfo(path()).size() - 100), 0);
+    EXPECT_EQ(namesInFile(), unchanged);
+}
+
+TEST_F(TransactionTest, ReportsAFileThatAnotherProcessWritesTo) {
+    const auto other = connectTo(path());
+    other->execute("BEGIN IMMEDIATE");
+    Recordset fish = table(u"Fisch");
+    EXPECT_EQ(errorOf([&] { rename(fish, u"Aal"_qs); }), 3260);
+    other->execute("ROLLBACK");
+    rename(fish, u"Aal"_qs);
+    fish.Close();
+    EXPECT_EQ(namesInFile(), u"Aal;Zander;Äsche;Barsch");
+}
+
+TEST_F(TransactionTest, ReportsAFailedCommitAtTheCloseAndStaysUsable) {
+    const auto other = connectTo(path());
+    other->execute("BEGIN");
+    rowsOf(*other, u"SELECT FNr FROM Fisch"_qs);
+    Recordset fish = table(u"Fisch");
+    rename(fish, u"Aal"_qs);
+    EXPECT_EQ(errorOf([&] { fish.Close(); }), 3260);
+    EXPECT_EQ(errorOf([&] { fish.Close(); }), 91);
+    other->execute("COMMIT");
+    EXPECT_EQ(namesInFile(), unchanged);
+    Recordset again = table(u"Fisch");
+    rename(again, u"Stör"_qs);
+    again.Close();
+    EXPECT_EQ(namesInFile(), u"Stör;Zander;Äsche;Barsch");
+}
+
+TEST_F(TransactionTest, WritesNothingMoreOfAnActionThatAFullDiskHasUndone) {
+    connection->execute("PRAGMA max_page_count = 60");
+    Recordset fish = table(u"Fisch");
+    Recordset waters = table(u"Gewaesser");
+    waters.Delete();
+    fish.AddNew();
+    fish.Collect(u"Notiz"_qs, QString(1'000'000, u'x'));
+    EXPECT_EQ(errorOf([&] { fish.Update(); }), 3026);
+    const bool undone = errorOf([&] { rename(fish, u"Aal"_qs); }) == 3026;
+    EXPECT_EQ(errorOf([&] { fish.Close(); }), 0);
+    EXPECT_EQ(errorOf([&] { waters.Close(); }), undone ? 3026 : 0);
+    EXPECT_EQ(namesInFile(), undone ? unchanged : u"Aal;Zander;Äsche;Barsch");
+    EXPECT_EQ(rowsInFile(u"SELECT COUNT(*) FROM Gewaesser"_qs), undone ? u"2" : u"1");
+}

@@ -1,0 +1,148 @@
+#include "StoreFixture.h"
+
+class WritingTest : public StoreTest {
+protected:
+    static void addFish(Recordset& fish, const QString& name) {
+        fish.AddNew();
+        fish.Collect(u"FName"_qs, name);
+        fish.Update();
+    }
+
+    /// The error of setting a field of a new row, and what the field then holds.
+    QString collected(QStringView tableName, QStringView field, const Value& value) {
+        Recordset rows = table(tableName);
+        rows.AddNew();
+        const int error = errorOf([&] { rows.Collect(field.toString(), value); });
+        return error != 0 ? QString::number(error) : shown(rows.Fields(field.toString()).Value());
+    }
+};
+
+TEST_F(WritingTest, ReadsBackANewKeyAtTheLastRow) {
+    Recordset fish = table(u"Fisch");
+    fish.Index(u"PrimaryKey"_qs);
+    addFish(fish, u"Aal"_qs);
+    EXPECT_EQ(fish.Fields(u"FNr"_qs).Value(), Value(1)) << "the current row is the one from before";
+    fish.MoveLast();
+    EXPECT_EQ(fish.Fields(u"FNr"_qs).Value(), Value(5));
+    EXPECT_EQ(fish.Fields(u"FName"_qs).Value(), Value(u"Aal"));
+    EXPECT_TRUE(fish.Fields(u"Notiz"_qs).Value().isNull());
+}
+
+TEST_F(WritingTest, NeverGivesANumberOutTwice) {
+    Recordset last = seek(u"Fisch", 4);
+    last.Delete();
+    addFish(last, u"Aal"_qs);
+    last.Close();
+    EXPECT_EQ(rowsInFile(u"SELECT FNr FROM Fisch"_qs), u"1;2;3;5");
+}
+
+TEST_F(WritingTest, FindsTheFirstRowOfATableThatWasEmpty) {
+    Recordset staging = table(u"Druck_Fangliste");
+    staging.AddNew();
+    staging.Collect(u"gewässer"_qs, u"Mühlbach"_qs);
+    staging.Update();
+    EXPECT_EQ(errorOf([&] { staging.Fields(u"Name"_qs).Value(); }), 3021);
+    staging.MoveLast();
+    EXPECT_EQ(staging.Fields(u"Gewässer"_qs).Value(), Value(u"Mühlbach"));
+}
+
+TEST_F(WritingTest, ConvertsToTheKindOfTheField) {
+    EXPECT_EQ(collected(u"Fang", u"Anzahl", Value(u"12")), u"12");
+    EXPECT_EQ(collected(u"Fang", u"Anzahl", Value(2.5)), u"2");
+    EXPECT_EQ(collected(u"Fang", u"Anzahl", Value(u"99999999999")), u"6");
+    EXPECT_EQ(collected(u"Fang", u"Anzahl", Value(u"")), u"13");
+    EXPECT_EQ(collected(u"Fang", u"Anzahl", Value()), u"Null");
+    EXPECT_EQ(collected(u"Fang", u"FangNr", Value(7)), u"3164");
+    EXPECT_EQ(collected(u"Fang", u"Nix", Value(7)), u"3265");
+    EXPECT_EQ(collected(u"Fang", u"Notiz", Value(2.5)), u"2,5");
+    EXPECT_EQ(collected(u"Arbeit", u"ArbStd", Value(u"3,25")), u"3.25d");
+    EXPECT_EQ(collected(u"Arbeit", u"Datum", Value(u"24.12.2004")), u"2004-12-24");
+    EXPECT_EQ(collected(u"Arbeit", u"Datum", Value(u"00:00:0000")), u"1899-12-30");
+    EXPECT_EQ(collected(u"Arbeit", u"Datum", Value(u"31.02.2004")), u"13");
+    EXPECT_EQ(collected(u"Mitglied", u"JG", Value(-1)), u"True");
+    EXPECT_EQ(collected(u"Mitglied", u"JG", Value(0)), u"False");
+    EXPECT_EQ(collected(u"Mitglied", u"JG", Value()), u"False");
+    EXPECT_EQ(collected(u"System", u"JBeitrag", Value(20)), u"20");
+    EXPECT_EQ(collected(u"System", u"JBeitrag", Value(20.5)), u"20.5d");
+}
+
+TEST_F(WritingTest, KeepsAFieldThatRefusedItsValue) {
+    Recordset entry = seek(u"Fang", 1);
+    entry.Edit();
+    EXPECT_EQ(errorOf([&] { entry.Collect(u"Anzahl"_qs, Value(u"viele")); }), 13);
+    entry.Collect(u"Gewicht"_qs, 99);
+    entry.Update();
+    entry.Close();
+    EXPECT_EQ(rowsInFile(u"SELECT Anzahl, Gewicht, Notiz FROM Fang WHERE FangNr = 1"_qs), u"3|99|früh");
+}
+
+TEST_F(WritingTest, FillsFieldsThatWereNotSet) {
+    Recordset members = table(u"Mitglied");
+    members.AddNew();
+    members.Collect(u"KNr"_qs, 3);
+    members.Update();
+    members.Close();
+    EXPECT_EQ(rowsInFile(u"SELECT * FROM Mitglied WHERE KNr = 3"_qs), u"3|False|False|False|Null|Null|False");
+}
+
+TEST_F(WritingTest, ChangesNothingWithoutAStartedChange) {
+    Recordset fish = table(u"Fisch");
+    EXPECT_EQ(errorOf([&] { fish.Collect(u"FName"_qs, u"x"_qs); }), 3020);
+    EXPECT_EQ(errorOf([&] { fish.Update(); }), 3020);
+    fish.Edit();
+    fish.Collect(u"FName"_qs, u"x"_qs);
+    fish.MoveNext();
+    EXPECT_EQ(errorOf([&] { fish.Update(); }), 3020) << "moving gives the change up";
+    Recordset join = query(u"SELECT k.KNr FROM Kontakt k, Mitglied m WHERE k.KNr = m.KNr"_qs);
+    EXPECT_EQ(errorOf([&] { join.Edit(); }), 3027);
+    EXPECT_EQ(errorOf([&] { join.AddNew(); }), 3027);
+    EXPECT_EQ(errorOf([&] { join.Delete(); }), 3027);
+    EXPECT_EQ(errorOf([&] { query(u"SELECT COUNT(*) FROM Fisch"_qs).Edit(); }), 3027);
+    EXPECT_EQ(rows(u"SELECT FName FROM Fisch"_qs), u"Hecht;Zander;Äsche;Barsch");
+}
+
+TEST_F(WritingTest, RefusesKeysThatAreDoubleOrNull) {
+    Recordset members = table(u"Mitglied");
+    members.AddNew();
+    EXPECT_EQ(errorOf([&] { members.Update(); }), 3058);
+    members.Collect(u"KNr"_qs, 1);
+    EXPECT_EQ(errorOf([&] { members.Update(); }), 3022);
+    members.Collect(u"KNr"_qs, 3);
+    members.Update();
+    members.Close();
+    EXPECT_EQ(rowsInFile(u"SELECT KNr FROM Mitglied"_qs), u"1;2;3;4");
+}
+
+TEST_F(WritingTest, FollowsARowWhoseKeyChanges) {
+    Recordset member = seek(u"Mitglied", 4);
+    for (const qint32 key : {30, 31}) {
+        member.Edit();
+        member.Collect(u"KNr"_qs, key);
+        member.Update();
+    }
+    member.Close();
+    EXPECT_EQ(rowsInFile(u"SELECT KNr FROM Mitglied"_qs), u"1;2;31");
+}
+
+TEST_F(WritingTest, DeletesTheUsersOfADeletedGroupAndNothingElse) {
+    for (Recordset gone : {seek(u"Gruppen", 1), seek(u"Fisch", 1), seek(u"Kontakt", 1)}) {
+        gone.Delete();
+        gone.Close();
+    }
+    EXPECT_EQ(rowsInFile(u"SELECT COUNT(*) FROM Benutzer"_qs), u"0");
+    EXPECT_EQ(rowsInFile(u"SELECT COUNT(*) FROM Fang"_qs), u"4");
+    EXPECT_EQ(rowsInFile(u"SELECT KNr FROM Mitglied WHERE KNr = 1"_qs), u"1");
+    Recordset users = table(u"Benutzer");
+    users.AddNew();
+    users.Collect(u"GNr"_qs, 77);
+    EXPECT_EQ(errorOf([&] { users.Update(); }), 3201);
+}
+
+TEST_F(WritingTest, NoticesThatARowIsGone) {
+    Recordset entry = seek(u"Fang", 1);
+    Recordset other = seek(u"Fang", 1);
+    other.Delete();
+    entry.Edit();
+    entry.Collect(u"Anzahl"_qs, 1);
+    EXPECT_EQ(errorOf([&] { entry.Update(); }), 3167);
+}
