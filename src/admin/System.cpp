@@ -56,7 +56,7 @@ void System::buildAddress() {
 void System::buildGrid() {
     Frame2 = Face::frame(u"Frame2"_qs, u"Aktuelle Systemparameter..."_qs, this);
     tblSystem = new DataTable(u"tblSystem"_qs, Frame2);
-    tblSystem->setColumns({{u"Parameter"_qs, 240}, {u"Wert"_qs, 120}});
+    tblSystem->setColumns({{u"Parameter"_qs, 240}, {u"Wert"_qs, 120, true}});
     auto* column = new QVBoxLayout(Frame2);
     column->addWidget(tblSystem);
 }

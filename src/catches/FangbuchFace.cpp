@@ -73,12 +73,14 @@ void Fangbuch::layOutEntry() {
     Face::addField(form, 2, lblGewaesser, cboGName);
 
     auto* count = new QHBoxLayout;
+    count->setSpacing(Face::gap);
     count->addWidget(txtAnzahl, 1);
     count->addWidget(txtGewicht, 1);
     count->addWidget(lblEinheit);
     form->addWidget(lblAnzGew, 3, 0);
     form->addLayout(count, 3, 1);
     auto* month = new QHBoxLayout;
+    month->setSpacing(Face::gap);
     month->addWidget(txtMonNr);
     month->addWidget(txtFangMonat, 1);
     txtMonNr->setFixedWidth(48);
@@ -88,11 +90,15 @@ void Fangbuch::layOutEntry() {
     constexpr int noteColumn = 3;
     form->setColumnMinimumWidth(noteColumn - 1, 2 * Face::gap);
     auto* number = new QHBoxLayout;
+    number->setSpacing(Face::gap);
     number->addWidget(lblFNrBez);
     number->addWidget(lblFNr, 1);
     form->addLayout(number, 0, noteColumn);
     form->addWidget(lblNotiz, 1, noteColumn);
     form->addWidget(txtNotiz, 2, noteColumn, 3, 1);
+    // The note takes the height of the rows beside it, and the frame no more than it needs.
+    txtNotiz->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+    fraNr2->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     form->setColumnStretch(1, 3);
     form->setColumnStretch(noteColumn, 4);
 

@@ -37,11 +37,17 @@ void schreibeFelder(ErrorTail& step, Recordset& fang, const Fangbuch& form) {
     step([&] { fang.Update(); });
 }
 
-/// Opens the table and seeks the record whose number the form shows.
-void sucheOffenen(ErrorTail& step, Recordset& fang, const Fangbuch& form) {
+/// Opens the table and seeks the record whose number the form shows. False also when the seek itself failed:
+/// the cursor then stands on some other record, which nobody may touch.
+bool findeOffenen(ErrorTail& step, Recordset& fang, const Fangbuch& form) {
+    bool gefunden = false;
     step([&] { fang = oeffne(u"Fang"_qs, dbOpenTable); });
     step([&] { fang.Index(u"PrimaryKey"_qs); });
-    step([&] { fang.Seek(u"="_qs, CLng(form.lblFNr->Caption())); });
+    step([&] {
+        fang.Seek(u"="_qs, CLng(form.lblFNr->Caption()));
+        gefunden = !fang.NoMatch();
+    });
+    return gefunden;
 }
 
 bool imGewaehltenMonat(const Fangbuch& form) {
@@ -95,8 +101,7 @@ void UpdateFang(int row) {
     withErrorTail(modul, u"UpdateFang"_qs, [row](ErrorTail& step) {
         Fangbuch& form = screen<Fangbuch>();
         Recordset fang;
-        sucheOffenen(step, fang, form);
-        if (step.test([&] { return fang.NoMatch(); })) {
+        if (!findeOffenen(step, fang, form)) {
             modRun::MeldeNichtVorhanden();
         } else {
             step([&] { fang.Edit(); });
@@ -119,8 +124,7 @@ void LoescheFang(int row) {
     withErrorTail(modul, u"LoescheFang"_qs, [row](ErrorTail& step) {
         Fangbuch& form = screen<Fangbuch>();
         Recordset fang;
-        sucheOffenen(step, fang, form);
-        if (step.test([&] { return !fang.NoMatch(); })) {
+        if (findeOffenen(step, fang, form)) {
             step([&] { fang.Delete(); });
             step([&] { form.tblFList->removeRow(row); });
             form.lblAnzahl->setCaption(QString::number(form.tblFList->rowCount()));

@@ -238,20 +238,38 @@ void DataTable::columnResized(int section, int width) {
     fitColumns();
 }
 
+QVector<int> DataTable::elasticColumns() const {
+    const auto& columns = m_model->shownColumns();
+    QVector<int> elastic;
+    int last = -1;
+    for (int column = 0; column < m_widths.size(); ++column) {
+        if (header()->sectionSize(column) == 0) continue;
+        last = column;
+        if (!columns[column].numeric && !columns[column].picture) elastic.push_back(column);
+    }
+    if (elastic.isEmpty() && last >= 0) elastic.push_back(last);
+    return elastic;
+}
+
 void DataTable::fitColumns() {
     const QScopedValueRollback fitting(m_fitting, true);
     QHeaderView* heads = header();
-    int last = -1;
-    int others = DataTableLook::gutterWidth;
+    int room = viewport()->width() - DataTableLook::gutterWidth;
     for (int column = 0; column < m_widths.size(); ++column) {
         if (heads->sectionSize(column) == 0) continue;
         heads->resizeSection(column, m_widths[column]);
-        others += m_widths[column];
-        last = column;
+        room -= m_widths[column];
     }
-    if (last < 0) return;
-    const int room = viewport()->width() - others;
-    if (room > 0) heads->resizeSection(last, m_widths[last] + room);
+    int wanted = 0;
+    const QVector<int> elastic = elasticColumns();
+    for (const int column : elastic) wanted += m_widths[column];
+    for (const int column : elastic) {
+        const int share = room * m_widths[column] / std::max(wanted, 1);
+        const int narrowest = m_widths[column] * 2 / 3;
+        heads->resizeSection(column, std::max(m_widths[column] + share, narrowest));
+        room -= share;
+        wanted -= m_widths[column];
+    }
 }
 
 void DataTable::showEvent(QShowEvent* event) {

@@ -149,6 +149,8 @@ private:
     void schedulePublish();
     void showColumns();
     void columnResized(int section, int width);
+    /// Columns of texts share what room is left or lacking; numbers keep their width.
+    QVector<int> elasticColumns() const;
     void fitColumns();
     QModelIndex lastIndex() const;
     QRect spaceBelowRows() const;
@@ -158,5 +160,5 @@ private:
     TableHandle m_current;
     bool m_publishScheduled = false;
     bool m_fitting = false;
-    QVector<int> m_widths; ///< as given or as the user wants them; the last visible column may get more
+    QVector<int> m_widths; ///< as given or as the user wants them; elastic columns may get more or less
 };

@@ -2,8 +2,8 @@
 
 #include <QString>
 
-/// A column of a grid. `width` is in pixels at 100 %, 0 hides the column; the last visible column takes what
-/// room is left.
+/// A column of a grid. `width` is in pixels at 100 %, 0 hides the column; columns of texts share what room is
+/// left, or give up to a third where it lacks.
 struct GridColumn {
     QString head;
     int width = 100;

@@ -114,18 +114,23 @@ void speichere(const QString& routine, const Art& art) {
     });
 }
 
-/// Opens the table and seeks the record of the form.
-void sucheOffenen(ErrorTail& step, Recordset& satz, const Art& art) {
+/// Opens the table and seeks the record of the form. False also when the seek itself failed: the cursor then
+/// stands on some other record, which nobody may touch.
+bool findeOffenen(ErrorTail& step, Recordset& satz, const Art& art) {
+    bool gefunden = false;
     step([&] { satz = oeffne(art.tabelle, dbOpenTable); });
     step([&] { satz.Index(u"PrimaryKey"_qs); });
-    step([&] { satz.Seek(u"="_qs, CLng(art.lblNr->Caption())); });
+    step([&] {
+        satz.Seek(u"="_qs, CLng(art.lblNr->Caption()));
+        gefunden = !satz.NoMatch();
+    });
+    return gefunden;
 }
 
 void aendere(const QString& routine, const Art& art, int row) {
     withErrorTail(u"modBasis"_qs, routine, [&](ErrorTail& step) {
         Recordset satz;
-        sucheOffenen(step, satz, art);
-        if (step.test([&] { return satz.NoMatch(); })) {
+        if (!findeOffenen(step, satz, art)) {
             MsgBox(u"FEHLER: Datensatz nicht vorhanden o. nicht gefunden !"_qs, vbCritical);
         } else {
             const QString name = art.txtName->Text();
@@ -147,8 +152,7 @@ void aendere(const QString& routine, const Art& art, int row) {
 void loesche(const QString& routine, const Art& art, int row) {
     withErrorTail(u"modBasis"_qs, routine, [&](ErrorTail& step) {
         Recordset satz;
-        sucheOffenen(step, satz, art);
-        if (step.test([&] { return satz.NoMatch(); })) {
+        if (!findeOffenen(step, satz, art)) {
             MsgBox(u"FEHLER: Datensatz kann nicht gelöscht oder gefunden werden !"_qs, vbCritical);
         } else {
             step([&] { satz.Delete(); });
