@@ -1,11 +1,12 @@
 #pragma once
 
 #include <QRect>
+#include <QRgb>
 #include <QString>
 
 /// A control of a report section: a fixed label, a text bound to a field, a sum over all detail rows, a rule
-/// or a frame. Places are tenths of a millimetre from the section's top left corner; what a control shows
-/// never leaves its place.
+/// or a frame. Places are tenths of a millimetre from the section's top left corner; a text too wide for its
+/// place ends in an ellipsis.
 class ReportControl {
 public:
     enum class Kind { Label, Text, Sum, Line, Shape };

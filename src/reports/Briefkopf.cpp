@@ -1,0 +1,195 @@
+#include "Briefkopf.h"
+
+#include "ReportPaper.h"
+
+namespace {
+
+constexpr int breadth = ReportPaper::bodyWidth;
+
+// The letterhead: the address at the left, the title and what the list was made for at the right.
+constexpr int addressTop = 64;
+constexpr int addressLine = 46;
+constexpr int captionBreadth = 180;
+constexpr int addressBreadth = 800;
+constexpr int codeBreadth = 120;
+constexpr int titleLeft = 1040;
+constexpr int settingTop = 110;
+constexpr int settingCaption = 260;
+constexpr int headTop = 290;
+constexpr int headHeight = 66;
+
+constexpr int rowHeight = 54;
+constexpr int cellPadding = 16;
+
+constexpr int footHeight = 80;
+constexpr int summaryTop = 60;
+constexpr int summaryHeading = 76;
+constexpr int summaryLine = 52;
+constexpr int summaryCaption = 430;
+constexpr int summaryValue = 330;
+constexpr int wrappedLine = 44;
+
+constexpr double bodyPoints = 9.5;
+
+constexpr QRgb clubBlue = 0xff1f3f77;
+constexpr QRgb paleBlue = 0xffe3ecfc;
+constexpr QRgb faint = 0xffb8c2d4;
+constexpr QRgb grey = 0xff505866;
+
+} // namespace
+
+Briefkopf::Briefkopf(Report& report)
+    : m_head(report.section(u"Section2"_qs))
+    , m_detail(report.section(u"Section1"_qs))
+    , m_foot(report.section(u"Section3"_qs))
+    , m_summary(report.section(u"Section5"_qs)) {
+    addAddress();
+    addFooter();
+}
+
+void Briefkopf::addAddress() {
+    m_head.addLabel(u"Label13"_qs, u"Anschrift:"_qs, {0, 0, addressBreadth, 54})
+        .points(11)
+        .bold()
+        .ink(clubBlue);
+    addAddressLine(u"Label10"_qs, u"Name   :"_qs, u"lblVerein"_qs, 0).bold();
+    addAddressLine(u"Label11"_qs, u"Strasse :"_qs, u"lblStrasse"_qs, 1);
+    const int top = addressTop + 2 * addressLine;
+    addCaption(u"Label12"_qs, u"PLZ /Ort:"_qs, {0, top, captionBreadth, addressLine});
+    m_head.addLabel(u"lblPLZ"_qs, {}, {captionBreadth, top, codeBreadth, addressLine}).points(bodyPoints);
+    const int town = captionBreadth + codeBreadth;
+    m_head.addLabel(u"lblOrt"_qs, {}, {town, top, addressBreadth - town, addressLine}).points(bodyPoints);
+    addAddressLine(u"Label15"_qs, u"Tel         :"_qs, u"lblTelefon"_qs, 3);
+}
+
+void Briefkopf::addCaption(const QString& label, const QString& caption, const QRect& place) {
+    m_head.addLabel(label, caption, place).points(bodyPoints).ink(grey);
+}
+
+ReportControl& Briefkopf::addAddressLine(const QString& label, const QString& caption, const QString& value,
+                                         int line) {
+    const int top = addressTop + line * addressLine;
+    addCaption(label, caption, {0, top, captionBreadth, addressLine});
+    const QRect place(captionBreadth, top, addressBreadth - captionBreadth, addressLine);
+    return m_head.addLabel(value, {}, place).points(bodyPoints);
+}
+
+void Briefkopf::addFooter() {
+    m_foot.setHeight(footHeight);
+    m_foot.addLabel(u"Label9"_qs, u"Seite %p von %P (gedruckt am %d)"_qs, {0, footHeight - 44, breadth, 44})
+        .points(8.5)
+        .align(ReportControl::Align::Right)
+        .ink(grey)
+        .withPageNumbers();
+}
+
+void Briefkopf::addTitle(const QString& label, const QString& title) {
+    m_head.addLabel(label, title, {titleLeft, 0, breadth - titleLeft, 90}).points(20).bold().ink(clubBlue);
+}
+
+void Briefkopf::addSetting(const QString& label, const QString& caption, const QString& value) {
+    const int top = settingTop + m_settings++ * addressLine;
+    addCaption(label, caption, {titleLeft, top, settingCaption, addressLine});
+    const int left = titleLeft + settingCaption;
+    m_head.addLabel(value, {}, {left, top, breadth - left, addressLine}).points(bodyPoints);
+}
+
+void Briefkopf::addColumns(std::initializer_list<ReportColumn> columns) {
+    int whole = 0;
+    for (const ReportColumn& column : columns) whole += column.breadth;
+    m_head.setHeight(headTop + headHeight);
+    m_detail.setHeight(rowHeight);
+    m_head.addShape(u"Shape1"_qs, {0, headTop, breadth, headHeight}).ground(paleBlue).ink(clubBlue);
+    int passed = 0;
+    for (const ReportColumn& column : columns) {
+        const int left = breadth * passed / whole + cellPadding;
+        passed += column.breadth;
+        const int width = breadth * passed / whole - cellPadding - left;
+        addColumn(column, left, width);
+    }
+    m_detail.addLine(u"Line1"_qs, {0, rowHeight, breadth, 0}).ink(faint).breadth(1);
+    m_detail.addLine(u"Line2"_qs, {0, 0, 0, rowHeight}).ink(clubBlue);
+    m_detail.addLine(u"Line3"_qs, {breadth, 0, 0, rowHeight}).ink(clubBlue);
+}
+
+void Briefkopf::addColumn(const ReportColumn& column, int left, int width) {
+    m_head.addLabel(column.label, column.head, {left, headTop, width, headHeight})
+        .points(bodyPoints)
+        .bold()
+        .ink(clubBlue)
+        .align(column.align);
+    m_detail.addText(column.text, {left, 0, width, rowHeight})
+        .points(bodyPoints)
+        .align(column.align)
+        .format(column.format);
+}
+
+QRect Briefkopf::summaryPlace(int left, int width, int height) const {
+    return {left, std::max(m_summary.height(), summaryTop), width, height};
+}
+
+void Briefkopf::endSummaryLine(int height) {
+    m_summary.setHeight(std::max(m_summary.height(), summaryTop) + height);
+}
+
+void Briefkopf::addSummaryHeading(const QString& label, const QString& text) {
+    const int space = m_summary.height() > 0 ? summaryLine / 2 : 0;
+    if (space > 0) endSummaryLine(space);
+    m_summary.addLabel(label, text, summaryPlace(0, breadth, summaryHeading)).points(11).bold().ink(clubBlue);
+    endSummaryLine(summaryHeading);
+}
+
+void Briefkopf::addSummaryCaption(const QString& label, const QString& caption) {
+    m_summary.addLabel(label, caption, summaryPlace(0, summaryCaption, summaryLine))
+        .points(bodyPoints)
+        .ink(grey);
+}
+
+ReportControl& Briefkopf::addSummary(const QString& label, const QString& caption, const QString& value) {
+    addSummaryCaption(label, caption);
+    const QRect place = summaryPlace(summaryCaption, breadth - summaryCaption, summaryLine);
+    endSummaryLine(summaryLine);
+    return m_summary.addLabel(value, {}, place).points(bodyPoints);
+}
+
+ReportControl& Briefkopf::addSummaryText(const QString& label, const QString& caption, const QString& value,
+                                         int lines) {
+    addSummaryCaption(label, caption);
+    const int height = lines * wrappedLine;
+    // Down to where the caption's letters stand, in the middle of their line.
+    QRect place = summaryPlace(summaryCaption, breadth - summaryCaption, height);
+    place.translate(0, (summaryLine - wrappedLine) / 2);
+    endSummaryLine(height + summaryLine - wrappedLine);
+    return m_summary.addLabel(value, {}, place).points(bodyPoints).wrapped();
+}
+
+ReportControl& Briefkopf::addNumber(const QString& label, const QString& caption, const QString& value) {
+    addSummaryCaption(label, caption);
+    const QRect place = summaryPlace(summaryCaption, summaryValue, summaryLine);
+    endSummaryLine(summaryLine);
+    return m_summary.addLabel(value, {}, place).points(bodyPoints).align(ReportControl::Align::Right);
+}
+
+ReportControl& Briefkopf::addSum(const QString& label, const QString& caption, const QString& sum) {
+    addSummaryCaption(label, caption);
+    const QRect place = summaryPlace(summaryCaption, summaryValue, summaryLine);
+    endSummaryLine(summaryLine);
+    return m_summary.addSum(sum, place)
+        .points(bodyPoints)
+        .bold()
+        .format(u"#.##0"_qs)
+        .align(ReportControl::Align::Right);
+}
+
+void Briefkopf::addUnit(const QString& label, const QString& text) {
+    const int left = summaryCaption + summaryValue + cellPadding;
+    const QRect place(left, m_summary.height() - summaryLine, breadth - left, summaryLine);
+    m_summary.addLabel(label, text, place).points(bodyPoints).ink(grey);
+}
+
+void Briefkopf::addSummaryRule(const QString& name) {
+    const int above = 8;
+    endSummaryLine(above);
+    m_summary.addLine(name, summaryPlace(0, summaryCaption + summaryValue, 0)).ink(clubBlue);
+    endSummaryLine(above);
+}

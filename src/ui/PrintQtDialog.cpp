@@ -1,0 +1,53 @@
+#include "PrintQtDialog.h"
+
+#include <QApplication>
+#include <QPageRanges>
+#include <QPrintDialog>
+#include <algorithm>
+#include <numeric>
+
+namespace {
+
+void preset(QPrinter& printer, const QString& caption) {
+    printer.setDocName(caption);
+    printer.setCreator(QCoreApplication::applicationName());
+    printer.setPageSize(QPageSize(QPageSize::A4));
+    printer.setPageOrientation(QPageLayout::Portrait);
+    printer.setPrintRange(QPrinter::AllPages);
+}
+
+bool isWanted(const QPrinter& printer, int number) {
+    const QPageRanges ranges = printer.pageRanges();
+    if (!ranges.isEmpty()) return ranges.contains(number);
+    return number >= printer.fromPage() && (printer.toPage() == 0 || number <= printer.toPage());
+}
+
+QVector<int> wantedPages(const QPrinter& printer, int pages, int page) {
+    QVector<int> wanted(pages);
+    std::iota(wanted.begin(), wanted.end(), 0);
+    if (printer.printRange() == QPrinter::CurrentPage) wanted = {page};
+    if (printer.printRange() == QPrinter::PageRange)
+        wanted.removeIf([&](int number) { return !isWanted(printer, number + 1); });
+    if (printer.pageOrder() == QPrinter::LastPageFirst) std::reverse(wanted.begin(), wanted.end());
+    return wanted;
+}
+
+} // namespace
+
+std::optional<PrintTarget> PrintQtDialog::choose(const QString& caption, int pages, int page) {
+    PrintTarget target;
+    target.printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
+    preset(*target.printer, caption);
+    QPrintDialog dialog(target.printer.get(), QApplication::activeWindow());
+    dialog.setWindowTitle(u"Drucken: %1"_qs.arg(caption));
+    dialog.setOption(QAbstractPrintDialog::PrintPageRange);
+    dialog.setOption(QAbstractPrintDialog::PrintCurrentPage);
+    dialog.setMinMax(1, pages);
+    if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+    target.pages = wantedPages(*target.printer, pages, page);
+    if (target.printer->outputFormat() == QPrinter::PdfFormat)
+        target.pdfFile = target.printer->outputFileName();
+    else if (!target.printer->supportsMultipleCopies())
+        target.copies = target.printer->copyCount();
+    return target;
+}

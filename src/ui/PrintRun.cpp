@@ -1,0 +1,94 @@
+#include "PrintRun.h"
+
+#include "Clock.h"
+#include "PrintDialog.h"
+#include "ReportPainter.h"
+#include "ReportPaper.h"
+#include "RuntimeError.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QSaveFile>
+#include <numeric>
+
+namespace {
+
+RuntimeError printerError() { return {482, u"Druckerfehler"_qs}; }
+
+// On a sheet smaller than A4 the page shrinks; nothing is cut off.
+double unitOn(const QPaintDevice& device) {
+    const double tenths = 254.0;
+    const double resolution = device.logicalDpiX() / tenths;
+    const double breadth = double(device.width()) / ReportPaper::width;
+    const double height = double(device.height()) / ReportPaper::height;
+    return std::min({resolution, breadth, height});
+}
+
+QVector<int> pagesOf(const ReportDocument& document, const PrintTarget& target) {
+    QVector<int> once = target.pages;
+    if (once.isEmpty()) {
+        once.resize(document.pageCount());
+        std::iota(once.begin(), once.end(), 0);
+    }
+    QVector<int> all;
+    for (int copy = 0; copy < target.copies; ++copy) all += once;
+    return all;
+}
+
+void paintPages(QPagedPaintDevice& device, const ReportDocument& document, const QVector<int>& pages) {
+    QPainter painter;
+    if (!painter.begin(&device)) throw printerError();
+    painter.scale(unitOn(device), unitOn(device));
+    ReportPainter report(document, today());
+    bool first = true;
+    for (const int page : pages) {
+        if (!first && !device.newPage()) throw printerError();
+        report.paint(painter, page);
+        first = false;
+    }
+    if (!painter.end()) throw printerError();
+}
+
+void printOn(QPrinter& printer, const ReportDocument& document, const QVector<int>& pages) {
+    printer.setFullPage(true);
+    paintPages(printer, document, pages);
+    if (printer.printerState() == QPrinter::Error) throw printerError();
+}
+
+RuntimeError errorOf(const QSaveFile& file) {
+    if (!QFileInfo(file.fileName()).dir().exists()) return runtimeError(76);
+    return runtimeError(file.error() == QFileDevice::ResourceError ? 61 : 75);
+}
+
+// By way of a file beside it, so that a full disk leaves what stood there before.
+void writePdf(const QString& name, const ReportDocument& document, const QVector<int>& pages) {
+    QSaveFile file(name);
+    if (!file.open(QIODevice::WriteOnly)) throw errorOf(file);
+    QPdfWriter writer(&file);
+    writer.setTitle(document.caption());
+    writer.setCreator(u"Uferwart"_qs);
+    writer.setPageSize(QPageSize(QPageSize::A4));
+    writer.setPageMargins({});
+    paintPages(writer, document, pages);
+    if (!file.commit()) throw errorOf(file);
+}
+
+} // namespace
+
+void printReport(const ReportDocument& document, const PrintTarget& target) {
+    const QVector<int> pages = pagesOf(document, target);
+    if (!target.pdfFile.isEmpty())
+        writePdf(target.pdfFile, document, pages);
+    else if (target.printer)
+        printOn(*target.printer, document, pages);
+    else
+        throw printerError();
+}
+
+void saveReportAsPdf(const ReportDocument& document, const QString& file) {
+    PrintTarget target;
+    target.pdfFile = file;
+    printReport(document, target);
+}

@@ -1,0 +1,181 @@
+#include "ReportPageView.h"
+
+#include "Clock.h"
+#include "ReportPaper.h"
+#include "Theme.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <QWheelEvent>
+#include <cmath>
+
+namespace {
+
+constexpr int rim = 20;
+constexpr int shadow = 6;
+constexpr int lineStep = 40;
+constexpr int wheelNotch = 120;
+constexpr double tenthsPerInch = 254.0;
+
+QColor tableColour() {
+    return Theme::mode() == Theme::Mode::Dark ? QColor(0x12, 0x15, 0x1a) : QColor(0xcd, 0xd4, 0xdf);
+}
+
+void paintSheet(QPainter& painter, const QRectF& sheet) {
+    painter.setPen(Qt::NoPen);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(QColor(0, 0, 0, Theme::mode() == Theme::Mode::Dark ? 40 : 14));
+    for (int spread = shadow; spread > 0; --spread)
+        painter.drawRoundedRect(sheet.adjusted(-spread, 2 - spread, spread, 2 + spread), spread, spread);
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.fillRect(sheet, Qt::white);
+}
+
+} // namespace
+
+ReportPageView::ReportPageView(QWidget* parent)
+    : QAbstractScrollArea(parent) {
+    setObjectName(u"pageView"_qs);
+    setAccessibleName(u"Seite des Berichts"_qs);
+    setFocusPolicy(Qt::StrongFocus);
+    setFrameShape(QFrame::NoFrame);
+    horizontalScrollBar()->setSingleStep(lineStep);
+    verticalScrollBar()->setSingleStep(lineStep);
+}
+
+void ReportPageView::setDocument(std::shared_ptr<const ReportDocument> document) {
+    m_document = std::move(document);
+    m_painter = std::make_unique<ReportPainter>(*m_document, today());
+    m_page = 0;
+    verticalScrollBar()->setValue(0);
+    horizontalScrollBar()->setValue(0);
+    viewport()->update();
+    Q_EMIT pageChanged(m_page);
+}
+
+void ReportPageView::setPage(int page) {
+    if (!m_document) return;
+    const int wanted = std::clamp(page, 0, m_document->pageCount() - 1);
+    m_wheel = 0;
+    if (wanted != m_page) {
+        m_page = wanted;
+        verticalScrollBar()->setValue(0);
+        viewport()->update();
+    }
+    Q_EMIT pageChanged(m_page);
+}
+
+void ReportPageView::setZoom(int zoom) {
+    m_zoom = zoom;
+    renewScrollBars();
+    viewport()->update();
+}
+
+double ReportPageView::shownPercent() const { return 100 * pixelsPerTenth() / trueScale(); }
+
+double ReportPageView::trueScale() const { return logicalDpiX() / tenthsPerInch; }
+
+// Fitting reckons with the room that the scroll bar takes, whether or not it is there: the page's breadth
+// would decide on the scroll bar and that on the breadth, for ever.
+double ReportPageView::pixelsPerTenth() const {
+    const QSize room = maximumViewportSize() - QSize(2 * rim, 2 * rim);
+    const int bar = verticalScrollBar()->sizeHint().width();
+    const double breadth = std::max(0.1, double(room.width() - bar) / ReportPaper::width);
+    if (m_zoom == PageWidth) return breadth;
+    if (m_zoom == WholePage)
+        return std::max(0.1, std::min(double(room.width()) / ReportPaper::width,
+                                      double(room.height()) / ReportPaper::height));
+    return trueScale() * m_zoom / 100;
+}
+
+QSizeF ReportPageView::sheetSize() const {
+    return QSizeF(ReportPaper::width, ReportPaper::height) * pixelsPerTenth();
+}
+
+QPointF ReportPageView::sheetCorner() const {
+    const QSizeF sheet = sheetSize();
+    const double left = std::max<double>(rim, std::floor((viewport()->width() - sheet.width()) / 2));
+    const double top = std::max<double>(rim, std::floor((viewport()->height() - sheet.height()) / 2));
+    return {left - horizontalScrollBar()->value(), top - verticalScrollBar()->value()};
+}
+
+void ReportPageView::renewScrollBars() {
+    const QSize whole(static_cast<int>(std::ceil(sheetSize().width())) + 2 * rim,
+                      static_cast<int>(std::ceil(sheetSize().height())) + 2 * rim);
+    // With both bars off the room is the greatest; a bar appears where the sheet does not fit even so.
+    const QSize room = maximumViewportSize();
+    const QSize view = viewport()->size();
+    horizontalScrollBar()->setPageStep(view.width());
+    verticalScrollBar()->setPageStep(view.height());
+    horizontalScrollBar()->setRange(0, whole.width() > room.width() ? whole.width() - view.width() : 0);
+    verticalScrollBar()->setRange(0, whole.height() > room.height() ? whole.height() - view.height() : 0);
+}
+
+void ReportPageView::paintEvent(QPaintEvent* event) {
+    QPainter painter(viewport());
+    painter.fillRect(event->rect(), tableColour());
+    if (!m_document) return;
+    const QRectF sheet(sheetCorner(), sheetSize());
+    paintSheet(painter, sheet);
+    painter.setClipRect(sheet);
+    painter.translate(sheet.topLeft());
+    painter.scale(pixelsPerTenth(), pixelsPerTenth());
+    m_painter->paint(painter, m_page);
+}
+
+void ReportPageView::resizeEvent(QResizeEvent* event) {
+    QAbstractScrollArea::resizeEvent(event);
+    renewScrollBars();
+}
+
+void ReportPageView::scrollContentsBy(int /*dx*/, int /*dy*/) { viewport()->update(); }
+
+void ReportPageView::keyPressEvent(QKeyEvent* event) {
+    switch (event->key()) {
+    case Qt::Key_PageDown:
+        return setPage(m_page + 1);
+    case Qt::Key_PageUp:
+        return setPage(m_page - 1);
+    case Qt::Key_Home:
+        return setPage(0);
+    case Qt::Key_End:
+        return setPage(m_document ? m_document->pageCount() - 1 : 0);
+    case Qt::Key_Plus:
+        Q_EMIT zoomStepWanted(1);
+        return;
+    case Qt::Key_Minus:
+        Q_EMIT zoomStepWanted(-1);
+        return;
+    default:
+        QAbstractScrollArea::keyPressEvent(event);
+    }
+}
+
+void ReportPageView::wheelEvent(QWheelEvent* event) {
+    const int angle = event->angleDelta().y();
+    if (event->modifiers().testFlag(Qt::ControlModifier)) {
+        if (angle != 0) Q_EMIT zoomStepWanted(angle > 0 ? 1 : -1);
+        event->accept();
+    } else if (turnByWheel(angle)) {
+        event->accept();
+    } else {
+        QAbstractScrollArea::wheelEvent(event);
+    }
+}
+
+// At the end of a page the wheel turns it over.
+bool ReportPageView::turnByWheel(int angle) {
+    const QScrollBar* bar = verticalScrollBar();
+    const bool atEnd = angle < 0 ? bar->value() == bar->maximum() : bar->value() == bar->minimum();
+    if (!m_document || angle == 0 || !atEnd) {
+        m_wheel = 0;
+        return false;
+    }
+    m_wheel += angle;
+    if (std::abs(m_wheel) < wheelNotch) return true;
+    const int before = m_page;
+    setPage(m_page + (angle < 0 ? 1 : -1));
+    if (angle > 0 && m_page != before) verticalScrollBar()->setValue(bar->maximum());
+    return true;
+}

@@ -1,0 +1,141 @@
+#include "ReportTypesetter.h"
+
+#include <QPainter>
+#include <QTextLayout>
+#include <cmath>
+
+namespace {
+
+constexpr double unitsPerPoint = 254.0 * ReportTypesetter::unitsPerTenth / 72.0;
+/// Names and months repeat, other texts don't; so what was measured is kept, but not for ever.
+constexpr int settingsKept = 8192;
+
+QFont fontOf(const ReportControl& look) {
+    QFont font;
+    font.setFamilies({u"Arial"_qs, u"Liberation Sans"_qs, u"Helvetica"_qs});
+    font.setStyleHint(QFont::SansSerif);
+    font.setPixelSize(qRound(look.points() * unitsPerPoint));
+    font.setBold(look.isBold());
+    // Letters moved to whole pixels would be broader on a screen than on paper.
+    font.setHintingPreference(QFont::PreferNoHinting);
+    return font;
+}
+
+// A break or a tab in a text must not take it out of its line.
+QString onOneLine(QString text) {
+    const auto breaks = [](QChar sign) {
+        return sign < u' ' || sign == QChar::LineSeparator || sign == QChar::ParagraphSeparator;
+    };
+    std::replace_if(text.begin(), text.end(), breaks, QChar(u' '));
+    return text;
+}
+
+double leftEnd(const QRectF& place, double width, ReportControl::Align align) {
+    switch (align) {
+    case ReportControl::Align::Right:
+        return place.right() - width;
+    case ReportControl::Align::Centre:
+        return place.center().x() - width / 2;
+    case ReportControl::Align::Left:
+        break;
+    }
+    return place.left();
+}
+
+// The text cut into lines at its own breaks and between words. The last one that there is room for takes
+// all the rest.
+QStringList linesOf(QString text, const QFont& font, double width, int most) {
+    text.replace(u"\r\n"_qs, u"\n"_qs).replace(u'\r', u'\n').replace(u'\n', QChar::LineSeparator);
+    QTextLayout layout(text, font);
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    layout.setTextOption(option);
+    QStringList lines;
+    layout.beginLayout();
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(width);
+        const bool last = lines.size() == most - 1;
+        lines.append(text.mid(line.textStart(), last ? -1 : line.textLength()));
+        if (last) break;
+    }
+    layout.endLayout();
+    return lines;
+}
+
+} // namespace
+
+ReportTypesetter::Face::Face(const QFont& wanted)
+    : font(wanted)
+    , metrics(wanted) {}
+
+ReportTypesetter::Face& ReportTypesetter::faceFor(const ReportControl& look) {
+    const auto key = std::pair(look.points(), look.isBold());
+    const auto found = m_faces.find(key);
+    return found != m_faces.end() ? found->second : m_faces.emplace(key, fontOf(look)).first->second;
+}
+
+const ReportTypesetter::Setting& ReportTypesetter::setting(Face& face, const QString& text) {
+    const auto found = face.settings.constFind(text);
+    if (found != face.settings.constEnd()) return *found;
+    if (face.settings.size() >= settingsKept) face.settings.clear();
+    QTextLayout layout(text, face.font);
+    layout.beginLayout();
+    QTextLine line = layout.createLine();
+    line.setPosition({0, -line.ascent()});
+    layout.endLayout();
+    return *face.settings.insert(text, {layout.glyphRuns(), line.naturalTextWidth()});
+}
+
+const ReportTypesetter::Setting& ReportTypesetter::fitting(Face& face, const QString& text, double width) {
+    const Setting& whole = setting(face, text);
+    if (whole.width <= width) return whole;
+    return setting(face, face.metrics.elidedText(text, Qt::ElideRight, width));
+}
+
+void ReportTypesetter::set(const QRectF& place, const QString& text, const ReportControl& look) {
+    if (text.isEmpty()) return;
+    Face& face = faceFor(look);
+    if (!look.isWrapped()) {
+        setLine(face, place, onOneLine(text), look);
+        return;
+    }
+    const double height = face.metrics.lineSpacing();
+    const int most = std::max(1, static_cast<int>(place.height() / height));
+    QRectF line(place.topLeft(), QSizeF(place.width(), height));
+    for (const QString& part : linesOf(text, face.font, place.width(), most)) {
+        setLine(face, line, onOneLine(part), look);
+        line.translate(0, height);
+    }
+}
+
+void ReportTypesetter::setLine(Face& face, const QRectF& place, const QString& text,
+                               const ReportControl& look) {
+    const Setting& fit = fitting(face, text, place.width());
+    const double letters = face.metrics.ascent() + face.metrics.descent();
+    const QPointF start(leftEnd(place, fit.width, look.align()),
+                        place.top() + (place.height() - letters) / 2 + face.metrics.ascent());
+    for (const QGlyphRun& run : fit.runs) {
+        Batch& batch = batchFor(run.rawFont(), look.ink());
+        batch.letters += run.glyphIndexes();
+        for (const QPointF& position : run.positions()) batch.positions.append(start + position);
+    }
+}
+
+ReportTypesetter::Batch& ReportTypesetter::batchFor(const QRawFont& font, QRgb ink) {
+    for (Batch& batch : m_batches) {
+        if (batch.ink == ink && batch.font == font) return batch;
+    }
+    return m_batches.emplace_back(Batch{font, ink, {}, {}});
+}
+
+void ReportTypesetter::paint(QPainter& painter) {
+    for (const Batch& batch : m_batches) {
+        QGlyphRun run;
+        run.setRawFont(batch.font);
+        run.setGlyphIndexes(batch.letters);
+        run.setPositions(batch.positions);
+        painter.setPen(QColor(batch.ink));
+        painter.drawGlyphRun({}, run);
+    }
+    m_batches.clear();
+}

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "ReportControl.h"
+
+#include <QFont>
+#include <QFontMetricsF>
+#include <QGlyphRun>
+#include <QHash>
+#include <QList>
+#include <map>
+#include <vector>
+
+class QPainter;
+
+/// Sets texts into their places, in Arial. It measures without any device, so that a text ends at the same
+/// letter on the screen and on paper; and it collects a page's letters to paint all of one font and colour at
+/// once, which halves the time that a long list takes to print.
+class ReportTypesetter {
+public:
+    /// Units of the painter to a tenth of a millimetre: fonts have a whole number of units.
+    static constexpr int unitsPerTenth = 10;
+
+    /// Takes in a text; `place` in units. One too wide ends in an ellipsis; one in a wrapped label takes
+    /// as many lines as the place holds.
+    void set(const QRectF& place, const QString& text, const ReportControl& look);
+    /// Paints what was taken in, and forgets it.
+    void paint(QPainter& painter);
+
+private:
+    /// A text that has been measured, its letters relative to its left end on the base line.
+    struct Setting {
+        QList<QGlyphRun> runs;
+        double width = 0;
+    };
+    struct Face {
+        explicit Face(const QFont& wanted);
+
+        QFont font;
+        QFontMetricsF metrics;
+        QHash<QString, Setting> settings;
+    };
+    struct Batch {
+        QRawFont font;
+        QRgb ink;
+        QList<quint32> letters;
+        QList<QPointF> positions;
+    };
+
+    Face& faceFor(const ReportControl& look);
+    const Setting& setting(Face& face, const QString& text);
+    const Setting& fitting(Face& face, const QString& text, double width);
+    void setLine(Face& face, const QRectF& place, const QString& text, const ReportControl& look);
+    Batch& batchFor(const QRawFont& font, QRgb ink);
+
+    std::map<std::pair<double, bool>, Face> m_faces;
+    std::vector<Batch> m_batches;
+};

@@ -1,0 +1,241 @@
+#include "Vorschau.h"
+
+#include "ComboBox.h"
+#include "Face.h"
+#include "Heading.h"
+#include "MsgBox.h"
+#include "PrintDialog.h"
+#include "PrintRun.h"
+#include "PrintSaveDialog.h"
+#include "ReportDocument.h"
+#include "ReportPageView.h"
+#include "Screens.h"
+#include "TextBox.h"
+#include "Toolbar.h"
+
+#include <QBoxLayout>
+#include <QDir>
+#include <QLabel>
+#include <QToolButton>
+
+namespace {
+
+constexpr int zoomLevels[] = {50, 75, 100, 125, 150, 200};
+constexpr int zoomCount = static_cast<int>(std::size(zoomLevels));
+constexpr int pageWidthEntry = zoomCount;
+
+/// The hourglass over the preview for as long as it lives; the screen may end before it does.
+class HourglassOver {
+public:
+    explicit HourglassOver(Screen* shown)
+        : m_screen(shown) {
+        m_screen->setHourglass(true);
+    }
+    ~HourglassOver() {
+        if (m_screen) m_screen->setHourglass(false);
+    }
+    HourglassOver(const HourglassOver&) = delete;
+    HourglassOver& operator=(const HourglassOver&) = delete;
+
+private:
+    QPointer<Screen> m_screen;
+};
+
+QString fileNameFor(QString caption) {
+    for (const QChar sign : u"\\/:*?\"<>|"_qs) caption.remove(sign);
+    return caption.simplified() + u".pdf"_qs;
+}
+
+void addToRow(Toolbar* toolbar, QWidget* control) {
+    auto* row = static_cast<QBoxLayout*>(toolbar->layout());
+    row->insertWidget(row->count() - 1, control);
+}
+
+} // namespace
+
+Vorschau::Vorschau()
+    : Screen(u"Vorschau"_qs, u"Vorschau"_qs)
+    , Ueberschrift(new Heading(u"Vorschau"_qs, this))
+    , Toolbar1(new Toolbar(this))
+    , pageView(new ReportPageView(this)) {
+    buildToolbar();
+    auto* whole = new QVBoxLayout(this);
+    whole->setContentsMargins(0, 0, 0, 0);
+    whole->setSpacing(0);
+    whole->addWidget(Ueberschrift);
+    whole->addWidget(Toolbar1);
+    whole->addWidget(pageView, 1);
+    on(Toolbar1, &Toolbar::ButtonClick, [this](const QString& key) { Toolbar1_ButtonClick(key); });
+    on(pageView, &ReportPageView::pageChanged, [this](int) { showPageNumber(); });
+    on(pageView, &ReportPageView::zoomStepWanted, [this](int step) { zoom(step); });
+    cboZoom->setListIndex(pageWidthEntry);
+    showPageNumber();
+}
+
+void Vorschau::buildToolbar() {
+    const auto turn = [this](const QString& key, const QString& caption, const QString& tip,
+                             const QString& icon) {
+        Toolbar1->addKey(key, caption, tip, icon)->setToolButtonStyle(Qt::ToolButtonIconOnly);
+    };
+    turn(u"tbErste"_qs, u"Erste Seite"_qs, u"Erste Seite [ Pos1 ]"_qs, u"seite-erste"_qs);
+    turn(u"tbZurueck"_qs, u"Vorige Seite"_qs, u"Vorige Seite [ Bild auf ]"_qs, u"seite-zurueck"_qs);
+    buildPageBox();
+    turn(u"tbWeiter"_qs, u"Nächste Seite"_qs, u"Nächste Seite [ Bild ab ]"_qs, u"seite-weiter"_qs);
+    turn(u"tbLetzte"_qs, u"Letzte Seite"_qs, u"Letzte Seite [ Ende ]"_qs, u"seite-letzte"_qs);
+    Toolbar1->addSeparator();
+    buildZoomBox();
+    Toolbar1->addSeparator();
+    Toolbar1->addKey(u"tbDruck"_qs, u"D&rucken"_qs, u"Bericht drucken..."_qs, u"drucken"_qs);
+    Toolbar1->addKey(u"tbPdf"_qs, u"&PDF"_qs, u"Bericht als PDF-Datei speichern..."_qs, u"pdf"_qs);
+    Toolbar1->addSeparator();
+    Toolbar1->addKey(u"tbSchliessen"_qs, u"&Schließen"_qs, u"Vorschau schließen [ Esc ]"_qs,
+                     u"schliessen"_qs);
+}
+
+void Vorschau::buildPageBox() {
+    txtSeite = new TextBox(u"txtSeite"_qs, Toolbar1);
+    txtSeite->setAlignment(Qt::AlignRight);
+    txtSeite->setMaxLength(7);
+    txtSeite->setFixedWidth(txtSeite->fontMetrics().horizontalAdvance(u"0000000"_qs) + 16);
+    txtSeite->setSelectAllOnFocus(true);
+    txtSeite->setAccessibleName(u"Seite"_qs);
+    txtSeite->setToolTip(u"Seitenzahl, mit Enter bestätigen"_qs);
+    txtSeite->setKeyFilter([](int code) { return code < 32 || (code >= '0' && code <= '9') ? code : 0; });
+    addToRow(Toolbar1, txtSeite);
+    lblSeiten = Face::label(u"lblSeiten"_qs, {}, Toolbar1);
+    addToRow(Toolbar1, lblSeiten);
+    on(txtSeite, &TextBox::returnPressed, [this] { txtSeite_Enter(); });
+    on(txtSeite, &TextBox::LostFocus, [this] { showPageNumber(); });
+}
+
+void Vorschau::buildZoomBox() {
+    cboZoom = new ComboBox(u"cboZoom"_qs, ComboBox::Order::AsAdded, ComboBox::Kind::DropDownList, Toolbar1);
+    for (const int percent : zoomLevels) cboZoom->AddItem(u"%1 %"_qs.arg(percent));
+    cboZoom->AddItem(u"Seitenbreite"_qs);
+    cboZoom->AddItem(u"ganze Seite"_qs);
+    cboZoom->setAccessibleName(u"Zoom"_qs);
+    cboZoom->setToolTip(u"Größe der Darstellung [ + ] [ - ]"_qs);
+    addToRow(Toolbar1, cboZoom);
+    on(cboZoom, &ComboBox::Click, [this] { cboZoom_Click(); });
+}
+
+void Vorschau::Form_QueryUnload() { unload<Vorschau>(); }
+
+// The page box keeps the keys that move its caret.
+bool Vorschau::Form_KeyDown(int key, Qt::KeyboardModifiers modifiers) {
+    if (key == Qt::Key_Plus || key == Qt::Key_Minus) {
+        zoom(key == Qt::Key_Plus ? 1 : -1);
+        return true;
+    }
+    if (modifiers & (Qt::ControlModifier | Qt::AltModifier | Qt::ShiftModifier)) return false;
+    const bool typing = txtSeite->hasFocus();
+    switch (key) {
+    case Qt::Key_Escape:
+        unload<Vorschau>();
+        return true;
+    case Qt::Key_PageUp:
+        pageView->setPage(pageView->page() - 1);
+        return true;
+    case Qt::Key_PageDown:
+        pageView->setPage(pageView->page() + 1);
+        return true;
+    case Qt::Key_Home:
+        if (!typing) pageView->setPage(0);
+        return !typing;
+    case Qt::Key_End:
+        if (!typing && m_document) pageView->setPage(m_document->pageCount() - 1);
+        return !typing;
+    default:
+        return false;
+    }
+}
+
+void Vorschau::zeige(std::shared_ptr<const ReportDocument> document) {
+    m_document = std::move(document);
+    setWindowTitle(m_document->caption());
+    setAccessibleName(m_document->caption());
+    Ueberschrift->setText(m_document->caption());
+    pageView->setDocument(m_document);
+    Show();
+    pageView->setFocus(Qt::OtherFocusReason);
+}
+
+void Vorschau::Toolbar1_ButtonClick(const QString& key) {
+    if (key == u"tbSchliessen"_qs) {
+        unload<Vorschau>();
+        return;
+    }
+    if (!m_document) return;
+    if (key == u"tbErste"_qs) pageView->setPage(0);
+    if (key == u"tbZurueck"_qs) pageView->setPage(pageView->page() - 1);
+    if (key == u"tbWeiter"_qs) pageView->setPage(pageView->page() + 1);
+    if (key == u"tbLetzte"_qs) pageView->setPage(m_document->pageCount() - 1);
+    if (key == u"tbDruck"_qs) drucke();
+    if (key == u"tbPdf"_qs) speicherPdf();
+}
+
+void Vorschau::txtSeite_Enter() {
+    const int wanted = txtSeite->text().toInt();
+    if (wanted > 0) pageView->setPage(wanted - 1);
+    showPageNumber();
+    txtSeite->selectAll();
+}
+
+void Vorschau::showPageNumber() {
+    const int pages = m_document ? m_document->pageCount() : 0;
+    const int page = pageView->page() + 1;
+    txtSeite->setText(pages > 0 ? QString::number(page) : QString());
+    lblSeiten->setText(u"von %1"_qs.arg(pages));
+    Toolbar1->setKeyEnabled(u"tbErste"_qs, page > 1);
+    Toolbar1->setKeyEnabled(u"tbZurueck"_qs, page > 1);
+    Toolbar1->setKeyEnabled(u"tbWeiter"_qs, page < pages);
+    Toolbar1->setKeyEnabled(u"tbLetzte"_qs, page < pages);
+    Toolbar1->setKeyEnabled(u"tbDruck"_qs, pages > 0);
+    Toolbar1->setKeyEnabled(u"tbPdf"_qs, pages > 0);
+}
+
+void Vorschau::cboZoom_Click() {
+    const int chosen = cboZoom->ListIndex();
+    if (chosen < 0) return;
+    if (chosen < zoomCount)
+        pageView->setZoom(zoomLevels[chosen]);
+    else
+        pageView->setZoom(chosen == pageWidthEntry ? ReportPageView::PageWidth : ReportPageView::WholePage);
+}
+
+// From the size that is shown, which a fitted page may have between two levels.
+void Vorschau::zoom(int step) {
+    const double shown = pageView->shownPercent();
+    int level = step > 0 ? 0 : zoomCount - 1;
+    while (level >= 0 && level < zoomCount && (zoomLevels[level] - shown) * step < 0.5) level += step;
+    if (level >= 0 && level < zoomCount) cboZoom->setListIndex(level);
+}
+
+// The dialog runs its own event loop, in which everything may end; the report's data stay in hand.
+void Vorschau::drucke() {
+    const QPointer<Vorschau> alive(this);
+    const auto printed = m_document;
+    const auto target = choosePrintTarget(printed->caption(), printed->pageCount(), pageView->page());
+    if (!target || !alive) return;
+    try {
+        const HourglassOver hourglass(this);
+        printReport(*printed, *target);
+    } catch (const RuntimeError& error) {
+        MsgBox(u"Der Bericht konnte nicht gedruckt werden !\r\n\r\n"_qs + error.description, vbExclamation);
+    }
+}
+
+void Vorschau::speicherPdf() {
+    const QPointer<Vorschau> alive(this);
+    const auto saved = m_document;
+    const QString file = choosePdfFile(fileNameFor(saved->caption()));
+    if (file.isEmpty() || !alive) return;
+    try {
+        const HourglassOver hourglass(this);
+        saveReportAsPdf(*saved, file);
+    } catch (const RuntimeError& error) {
+        MsgBox(u"Die Datei '%1' konnte nicht geschrieben werden !\r\n\r\n%2"_qs.arg(
+                   QDir::toNativeSeparators(file), error.description),
+               vbExclamation);
+    }
+}

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "Screen.h"
+
+#include <memory>
+
+class ComboBox;
+class Heading;
+class QLabel;
+class ReportDocument;
+class ReportPageView;
+class TextBox;
+class Toolbar;
+
+/// The preview of a report, a screen on the stage. There is one: a second report takes the place of the
+/// first. Closing it unloads it and gives the front back.
+class Vorschau : public Screen {
+    Q_OBJECT
+
+public:
+    Vorschau();
+
+    void Form_QueryUnload() override;
+    bool Form_KeyDown(int key, Qt::KeyboardModifiers modifiers) override;
+
+    /// Shows the first page and comes to the front.
+    void zeige(std::shared_ptr<const ReportDocument> document);
+    /// What is shown; null before the first zeige().
+    const std::shared_ptr<const ReportDocument>& document() const { return m_document; }
+
+    Heading* Ueberschrift;
+    Toolbar* Toolbar1;
+    TextBox* txtSeite;
+    QLabel* lblSeiten;
+    ComboBox* cboZoom;
+    ReportPageView* pageView;
+
+private:
+    void buildToolbar();
+    void buildPageBox();
+    void buildZoomBox();
+    void Toolbar1_ButtonClick(const QString& key);
+    void txtSeite_Enter();
+    void showPageNumber();
+    void cboZoom_Click();
+    void zoom(int step);
+    void drucke();
+    void speicherPdf();
+
+    std::shared_ptr<const ReportDocument> m_document;
+};
