@@ -269,7 +269,7 @@ QSize HouseStyle::sizeFromContents(ContentsType type, const QStyleOption* option
     case CT_ComboBox:
         return size.expandedTo({0, fieldHeight});
     case CT_SpinBox:
-        return {size.width(), std::max(fieldHeight, contents.height() + 4)};
+        return {size.width(), std::max(fieldHeight, option->fontMetrics.height() + 8)};
     case CT_PushButton:
         return QSize(size.width() + 8, size.height()).expandedTo({0, fieldHeight + 2});
     case CT_ToolButton:

@@ -9,6 +9,7 @@
 #include <QEventLoop>
 #include <QKeyEvent>
 #include <QPaintEvent>
+#include <QPushButton>
 #include <QScreen>
 
 namespace {
@@ -139,6 +140,16 @@ void Screen::childEvent(QChildEvent* event) {
     QWidget::childEvent(event);
     if (event->added()) watch(event->child());
     if (event->removed()) unwatch(event->child());
+}
+
+// Outside dialogs the toolkit's buttons take the space bar only.
+void Screen::keyPressEvent(QKeyEvent* event) {
+    auto* button = qobject_cast<QPushButton*>(focusWidget());
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (enter && button && button->isEnabled())
+        button->click();
+    else
+        QWidget::keyPressEvent(event);
 }
 
 // A screen inside another one (on the stage of the frame) looks after its own controls.

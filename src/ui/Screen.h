@@ -67,6 +67,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void hideEvent(QHideEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override; ///< Enter presses the button that has the focus
     bool eventFilter(QObject* watched, QEvent* event) override; ///< key preview, installed on all controls
     void childEvent(QChildEvent* event) override;
 

@@ -190,6 +190,20 @@ TEST_F(ScreenTest, EachKeyIsSeenOnceBeforeTheControl) {
     EXPECT_TRUE(form.keys.isEmpty()) << "a key held down saves once, not thirty times a second";
 }
 
+TEST_F(ScreenTest, EnterPressesTheButtonWithTheFocus) {
+    RecordingScreen form(u"form"_qs, log);
+    QPushButton ok(&form);
+    QPushButton cancel(&form);
+    QStringList pressed;
+    QObject::connect(&ok, &QPushButton::clicked, [&] { pressed.append(u"ok"_qs); });
+    QObject::connect(&cancel, &QPushButton::clicked, [&] { pressed.append(u"cancel"_qs); });
+    form.show();
+    QApplication::setActiveWindow(&form);
+    cancel.setFocus();
+    QTest::keyClick(&cancel, Qt::Key_Return);
+    EXPECT_EQ(pressed.join(u' '), u"cancel"_qs);
+}
+
 TEST_F(ScreenTest, KeysInABoxAboveTheScreenAreNotTheScreens) {
     RecordingScreen form(u"form"_qs, log);
     form.show();
