@@ -51,9 +51,12 @@ void Cursor::requireRow() const {
 }
 
 Value Cursor::value(int column) {
-    const int field = fieldOfColumn(column);
-    if (m_buffer.mode() == CopyBuffer::Mode::Adding) return m_buffer.initial(field);
+    if (m_buffer.mode() == CopyBuffer::Mode::Adding) return m_buffer.initial(fieldOfColumn(column));
     requireRow();
+    const bool unchanged =
+        m_buffer.mode() == CopyBuffer::Mode::Idle && m_written.mode() == CopyBuffer::Mode::Idle;
+    if (unchanged) return storedValue(column);
+    const int field = fieldOfColumn(column);
     for (const CopyBuffer* buffer : {&m_buffer, &m_written}) {
         if (buffer->mode() == CopyBuffer::Mode::Idle) continue;
         if (const Value* known = buffer->find(field)) return *known;

@@ -299,6 +299,9 @@ SelectRewriter readSubselect(TokenReader& reader, const Scope& outer) {
 } // namespace
 
 SelectPlan rewriteSelect(QStringView source, const LexedStatement& statement) {
+    // Many times what a screen can put together, and little enough to be refused in no time.
+    constexpr size_t mostTokens = 10'000;
+    if (statement.tokens.size() > mostTokens) throw tooComplex();
     TokenReader reader(source, statement);
     SelectRewriter select(reader, nullptr);
     select.read();
