@@ -1,3 +1,4 @@
+#include "LibreOfficeCalc.h"
 #include "Program.h"
 #include "QtMessageBoxes.h"
 #include "Theme.h"
@@ -10,6 +11,8 @@ int main(int argc, char* argv[]) {
     Theme::apply(application, Theme::desktopMode(application));
     QtMessageBoxes boxes;
     setMessageBoxes(&boxes);
+    LibreOfficeCalc calc;
+    setSpreadsheetProgram(&calc);
 
     Program program(QApplication::applicationDirPath());
     QObject::connect(&program, &Program::ended, &application, &QApplication::quit, Qt::QueuedConnection);

@@ -66,7 +66,8 @@ void rewriteDatabase(const Words& words) {
 
 } // namespace
 
-QString connectText() { return u";pwd=qx-1987-nkr"_qs; }
+QString passwort() { return u"qx-1987-nkr"_qs; }
+QString connectText() { return u";pwd="_qs + passwort(); }
 
 void KomprimiereDatenbank() {
     rewriteDatabase(

@@ -5,6 +5,8 @@
 /// Compacting and repairing the database file.
 namespace modTools {
 
+/// The password of the database file.
+QString passwort();
 /// The connect text with the password of the database file.
 QString connectText();
 

@@ -1,12 +1,110 @@
 #include "Fangauswertung.h"
 
-#include "Face.h"
-#include "Heading.h"
+#include "ComboBox.h"
+#include "DataTable.h"
+#include "Fangbuch.h"
+#include "Main.h"
+#include "MsgBox.h"
+#include "Screens.h"
+#include "Session.h"
+#include "Toolbar.h"
+#include "ValueLabel.h"
+#include "modFAuswert.h"
+#include "modFangbuch.h"
+#include "modRun.h"
 
-#include <QBoxLayout>
+#include <algorithm>
 
-Fangauswertung::Fangauswertung()
-    : Screen(u"Fangauswertung"_qs, u"Fangauswertung"_qs) {
-    Ueberschrift = new Heading(u"FANGAUSWERTUNG"_qs, this);
-    Face::column(this, Ueberschrift, nullptr)->addStretch();
+// The face of the screen is built in FangauswertungFace.cpp; here is what it does.
+
+void Fangauswertung::Form_Load() {
+    modFangbuch::loadcboFArt(cboFArt);
+    modFangbuch::loadcboGName(cboGName);
+    modFangbuch::loadcboFJahr(cboFJahr);
+    cboFJahr->setText(QString::number(session().AktJahr));
+    cboFMonat->setText(session().AktMonat);
+}
+
+void Fangauswertung::Form_Activate() {
+    // The return from a report must not lose the choice in the two lists.
+    if (session().NachReport) {
+        session().NachReport = false;
+        return;
+    }
+    modFangbuch::loadcboFArt(cboFArt);
+    modFangbuch::loadcboGName(cboGName);
+}
+
+void Fangauswertung::Toolbar1_ButtonClick(const QString& key) {
+    if (key == u"tbSuch"_qs) tbSuch_Click();
+    if (key == u"tbAnzLoeschen"_qs) modFAuswert::AuswertAnzeigeLoeschen();
+    if (key == u"tbExcel"_qs) tbExcel_Click();
+    if (key == u"tbVorschau"_qs) drucke(u"vorschau"_qs);
+    if (key == u"tbDruck"_qs) drucke(u"drucken"_qs);
+}
+
+void Fangauswertung::tbSuch_Click() {
+    if (!modFAuswert::AuswahlGueltig()) return modRun::MeldeEingabeFehler();
+    Session& s = session();
+    const bool filtered =
+        std::find(s.AuswertFilter.begin(), s.AuswertFilter.end(), true) != s.AuswertFilter.end();
+    if (!filtered) {
+        s.MsgAntwort =
+            MsgBox(u"ACHTUNG: Wirklich alle Fangdaten aus der Datenbank laden ?\r\n"_qs
+                   u"Bendenken Sie das die Ladezeit je nach Grösse der Datenbank sehr lange dauern kann !"_qs,
+                   vbYesNo);
+        if (s.MsgAntwort != vbYes) {
+            MsgBox(u"Vorgang von User abgebrochen !"_qs, vbInformation);
+            return;
+        }
+    }
+    tblFAusw->clearRows();
+    for (ValueLabel* label : {lblGefDS, lblSumAnz, lblSumGew}) label->setCaption(QString());
+    modFAuswert::LadeAuswahl();
+}
+
+void Fangauswertung::tbExcel_Click() {
+    Session& s = session();
+    s.MsgAntwort = MsgBox(
+        u"Wollen Sie eine in Excel zu importierende Datei mit der Bezeichnung - FANG.csv - erzeugen ?\n\r"_qs
+        u"ACHTUNG: Der Datei liegen die gerade erzeugten Fangdaten zugrunde ! "_qs
+        u"Wollen Sie die Datei jetzt erzeugen ?"_qs,
+        vbYesNo);
+    if (s.MsgAntwort != vbYes) {
+        MsgBox(u"Vorgang von User abgebrochen !"_qs, vbInformation);
+    } else if (tblFAusw->rowCount() == 0) {
+        MsgBox(u"Keine Daten zum erzeugen der Datei - FANG.csv - gefunden, der Vorgang wird abgebrochen !"_qs,
+               vbInformation);
+    } else {
+        modFAuswert::ErzeugeFangDatei();
+    }
+}
+
+void Fangauswertung::drucke(const QString& wort) {
+    session().NachReport = true;
+    modFAuswert::DruckeFangListe(wort);
+}
+
+void Fangauswertung::tblFAusw_OnGridCellDown(int row) {
+    session().KontextZeileOK = row >= 0;
+    if (row >= 0) session().AktZeile = row;
+}
+
+void Fangauswertung::tblFAusw_OnGridCellMenu() {
+    const Session& s = session();
+    if (s.AktZeile >= 0 && tblFAusw->rowCount() >= 1 && s.KontextZeileOK) screen<Main>().loadKontMenu_FAusw();
+}
+
+void Fangauswertung::tblFAusw_OnGridCellOpen(int row) {
+    if (row < 0) return;
+    if (!modFangbuch::FangbuchZugriff_Erlaubt()) {
+        MsgBox(u"Sie haben keine Zugriffsberechtigung auf diese Funktion !"_qs, vbInformation);
+        return;
+    }
+    modFangbuch::FangAnzeigeLoeschen();
+    session().Modus = u"EDIT"_qs;
+    session().AktZeile = row;
+    Hide();
+    screen<Fangbuch>().Show();
+    modFangbuch::loadFang(tblFAusw, row);
 }

@@ -2,13 +2,88 @@
 
 #include "Screen.h"
 
+class ComboBox;
+class DataTable;
 class Heading;
+class ProgressBar;
+class QCheckBox;
+class QGridLayout;
+class QGroupBox;
+class QLabel;
+class TextBox;
+class Toolbar;
+class ValueLabel;
 
+/// The catch book by free filters, with sums; source of the CSV file and of the printed list.
 class Fangauswertung : public Screen {
     Q_OBJECT
 
 public:
     Fangauswertung();
 
+    void Form_Load() override;
+    void Form_Activate() override;
+
+    /// A lower or upper bound: its comparison and its number.
+    struct Bound {
+        ComboBox* comparison;
+        TextBox* number;
+    };
+
     Heading* Ueberschrift;
+    Toolbar* Toolbar1;
+
+    QGroupBox* Frame1;
+    QCheckBox* chkArchiv;
+    ComboBox* cboFJahr;
+    QCheckBox* chkFArt;
+    ComboBox* cboFArt;
+    QCheckBox* chkGName;
+    ComboBox* cboGName;
+    QCheckBox* chkFMonat;
+    ComboBox* cboFMonat;
+    QLabel* Label1;
+    QLabel* Label2;
+    QCheckBox* chkAnzahl;
+    ComboBox* cboOptAnz01;
+    TextBox* txtAnz01;
+    ComboBox* cboOptAnz02;
+    TextBox* txtAnz02;
+    QCheckBox* chkGewicht;
+    ComboBox* cboOptGew01;
+    TextBox* txtGew01;
+    ComboBox* cboOptGew02;
+    TextBox* txtGew02;
+
+    DataTable* tblFAusw;
+    QLabel* lblAnzDS;
+    ValueLabel* lblGefDS;
+    QLabel* lblSAnz;
+    ValueLabel* lblSumAnz;
+    QLabel* lblSGew;
+    ValueLabel* lblSumGew;
+    ProgressBar* pb;
+
+private:
+    void buildToolbar();
+    void buildLists();
+    void buildBounds();
+    void buildGrid();
+    void layOutFilters();
+    QWidget* layOutSums();
+    void connectEvents();
+
+    QCheckBox* addCheckBox(const QString& name, const QString& caption);
+    ComboBox* addList(const QString& name, QCheckBox* captionedBy);
+    Bound addBound(const QString& list, const QString& box, const QString& spoken, bool enabled);
+    /// A click on the check box enables its controls and sets its flag, or the reverse.
+    void connectFilter(QCheckBox* box, std::size_t flag, const QVector<QWidget*>& controls);
+
+    void Toolbar1_ButtonClick(const QString& key);
+    void tbSuch_Click();
+    void tbExcel_Click();
+    void drucke(const QString& wort);
+    void tblFAusw_OnGridCellDown(int row);
+    void tblFAusw_OnGridCellOpen(int row);
+    void tblFAusw_OnGridCellMenu();
 };

@@ -7,12 +7,12 @@ namespace {
 constexpr int breadth = ReportPaper::bodyWidth;
 
 // The letterhead: the address at the left, the title and what the list was made for at the right.
-constexpr int addressTop = 64;
+constexpr int addressTop = 60;
 constexpr int addressLine = 46;
 constexpr int captionBreadth = 180;
-constexpr int addressBreadth = 800;
+constexpr int addressBreadth = 980;
 constexpr int codeBreadth = 120;
-constexpr int titleLeft = 1040;
+constexpr int titleLeft = 1060;
 constexpr int settingTop = 110;
 constexpr int settingCaption = 260;
 constexpr int headTop = 290;
@@ -20,6 +20,7 @@ constexpr int headHeight = 66;
 
 constexpr int rowHeight = 54;
 constexpr int cellPadding = 16;
+constexpr int sideRule = 4; // what the rules below the rows leave to those at the sides
 
 constexpr int footHeight = 80;
 constexpr int summaryTop = 60;
@@ -107,7 +108,7 @@ void Briefkopf::addColumns(std::initializer_list<ReportColumn> columns) {
         const int width = breadth * passed / whole - cellPadding - left;
         addColumn(column, left, width);
     }
-    m_detail.addLine(u"Line1"_qs, {0, rowHeight, breadth, 0}).ink(faint).breadth(1);
+    m_detail.addLine(u"Line1"_qs, {sideRule, rowHeight, breadth - 2 * sideRule, 0}).ink(faint).breadth(1);
     m_detail.addLine(u"Line2"_qs, {0, 0, 0, rowHeight}).ink(clubBlue);
     m_detail.addLine(u"Line3"_qs, {breadth, 0, 0, rowHeight}).ink(clubBlue);
 }

@@ -54,9 +54,17 @@ void Login::Form_Paint() { txtBenutzer->setFocus(); }
 void Login::Form_QueryUnload() { cmdEsc_Click(); }
 
 bool Login::Form_KeyDown(int key, Qt::KeyboardModifiers) {
-    if (key != Qt::Key_Return && key != Qt::Key_Enter) return false;
-    modStart::Anmelden();
-    return true;
+    switch (key) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        modStart::Anmelden();
+        return true;
+    case Qt::Key_Escape:
+        cmdEsc_Click();
+        return true;
+    default:
+        return false;
+    }
 }
 
 void Login::cmdEsc_Click() {

@@ -9,6 +9,7 @@
 #include "StatusBar.h"
 #include "modArbeit.h"
 #include "modEnde.h"
+#include "modFAuswert.h"
 #include "modFangbuch.h"
 #include "modKontakt.h"
 #include "modNavigation.h"
@@ -84,6 +85,7 @@ void Main::buildMenus() {
     on(mnuBeenden, &QAction::triggered, [](bool) { modEnde::mnuBeenden_Click(); });
     on(mnuKomprimiere, &QAction::triggered, [](bool) { modTools::KomprimiereDatenbank(); });
     on(mnuRepariere, &QAction::triggered, [](bool) { modTools::RepariereDatenbank(); });
+    on(mnuFangInfo, &QAction::triggered, [](bool) { modFAuswert::mnuFangInfo_Click(); });
     on(mnuInfo, &QAction::triggered, [this](bool) { mnuInfo_Click(); });
 }
 

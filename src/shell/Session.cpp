@@ -2,6 +2,7 @@
 
 #include "Conversions.h"
 #include "NavigationBar.h"
+#include "Report.h"
 
 #include <QHash>
 

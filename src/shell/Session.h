@@ -3,9 +3,13 @@
 #include "DBEngine.h"
 
 #include <QString>
+#include <array>
+#include <map>
+#include <memory>
 
 class BarGroup;
 class BarItem;
+class Report;
 
 /// What all routines share while the program runs: plain values that any routine may read and write. Safe
 /// because there is one thread.
@@ -30,6 +34,12 @@ struct Session {
     BarItem* AktBarItem = nullptr; ///< navigation item last made current
 
     bool Beendet = false; ///< the program has ended; routines still on the stack tell nobody any more
+
+    /// The filters of the evaluation that are ticked: year, kind of fish, water, month, number, weight.
+    std::array<bool, 6> AuswertFilter{};
+
+    /// Reports that have been used, by name.
+    std::map<QString, std::shared_ptr<Report>> Berichte;
 
     BarGroup* GruppeSystem = nullptr;
     BarGroup* GruppeOrganisation = nullptr;

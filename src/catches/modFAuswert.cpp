@@ -1,0 +1,186 @@
+#include "modFAuswert.h"
+
+#include "ComboBox.h"
+#include "Conversions.h"
+#include "DataTable.h"
+#include "ErrorTail.h"
+#include "Fangauswertung.h"
+#include "Fangbuch.h"
+#include "MsgBox.h"
+#include "ProgressBar.h"
+#include "Recordset.h"
+#include "Screens.h"
+#include "Session.h"
+#include "SqlText.h"
+#include "TextBox.h"
+#include "ValueLabel.h"
+#include "modFangbuch.h"
+#include "modRun.h"
+
+#include <QCheckBox>
+
+namespace modFAuswert {
+
+namespace {
+
+/// What all four statements have in common. A filter that can't be put into SQL fails each of them, just as
+/// an invalid statement does.
+QString selektion() {
+    QString text = u" FROM Fang fa , Fisch f, Gewaesser g WHERE fa.FischNr = f.FNr AND fa.GNr = g.GNr"_qs;
+    ErgaenzeSelektion(text);
+    return text;
+}
+
+Recordset abfrage(const QString& select) {
+    return session().AktDatenbank.OpenRecordset(select, dbOpenDynaset);
+}
+
+using Bound = Fangauswertung::Bound;
+
+QString klausel(const QString& field, const Bound& bound) {
+    return u" AND fa."_qs + field + u' ' + bound.comparison->Text() + u' ' + bound.number->Text();
+}
+
+/// Both halves filled, or the lower one alone.
+bool boundGueltig(const QCheckBox* box, const Bound& low, const Bound& high) {
+    if (!box->isChecked()) return true;
+    const bool lowFilled = !low.comparison->Text().isEmpty() && !low.number->Text().isEmpty();
+    const bool highFilled = !high.comparison->Text().isEmpty() && !high.number->Text().isEmpty();
+    const bool highEmpty = high.comparison->Text().isEmpty() && high.number->Text().isEmpty();
+    return lowFilled && (highFilled || highEmpty);
+}
+
+bool listeGueltig(const QCheckBox* box, const ComboBox* list) {
+    return !box->isChecked() || !list->Text().isEmpty();
+}
+
+void zeigeSumme(ErrorTail& step, Recordset& summe, ValueLabel* label, const QString& field) {
+    step([&] { summe = abfrage(u"SELECT SUM(fa."_qs + field + u")"_qs + selektion()); });
+    step([&] {
+        const Value value = summe.Collect(u"Expr1000"_qs);
+        label->setCaption(value.isNull() ? u"0"_qs : CStr(value));
+    });
+}
+
+void fuelleListe(ErrorTail& step, Recordset& liste, Fangauswertung& form) {
+    form.pb->show();
+    step([&] { liste.MoveFirst(); });
+    qint64 count = 0;
+    while (step.test([&] { return !liste.Eof(); })) {
+        step([&] {
+            form.tblFAusw->appendRow(
+                {liste.Collect(u"FangNr"_qs), liste.Collect(u"FName"_qs), liste.Collect(u"GName"_qs),
+                 modRun::ErmittleMonatsname(CLng(liste.Collect(u"FangMonat"_qs))),
+                 liste.Collect(u"FangJahr"_qs), liste.Collect(u"Anzahl"_qs), liste.Collect(u"Gewicht"_qs)});
+        });
+        step([&] { liste.MoveNext(); });
+        form.pb->setProgress(++count);
+    }
+}
+
+} // namespace
+
+void LadeAuswahl() {
+    withErrorTail(u"modFAuswert"_qs, u"LadeAuswahl"_qs, [](ErrorTail& step) {
+        Fangauswertung& form = screen<Fangauswertung>();
+        form.setHourglass(true);
+        Recordset liste, anzahl, summeAnzahl, summeGewicht;
+        step([&] {
+            liste = abfrage(
+                u"SELECT fa.FangNr, f.FName, g.GName, fa.FangJahr, fa.FangMonat, fa.Anzahl, fa.Gewicht"_qs +
+                selektion());
+        });
+        qint32 gefunden = 0;
+        step([&] { anzahl = abfrage(u"SELECT COUNT(fa.FangNr)"_qs + selektion()); });
+        step([&] {
+            gefunden = CLng(anzahl.Collect(u"Expr1000"_qs));
+            form.lblGefDS->setCaption(QString::number(gefunden));
+            if (gefunden > 0) form.pb->setMax(gefunden);
+        });
+        zeigeSumme(step, summeAnzahl, form.lblSumAnz, u"Anzahl"_qs);
+        zeigeSumme(step, summeGewicht, form.lblSumGew, u"Gewicht"_qs);
+        form.tblFAusw->clearRows();
+        if (gefunden <= 0)
+            MsgBox(u"Keine passenden Einträge gefunden !"_qs, vbInformation);
+        else
+            fuelleListe(step, liste, form);
+        form.lblGefDS->setCaption(QString::number(form.tblFAusw->rowCount()));
+        form.pb->hide();
+        form.setHourglass(false);
+        for (Recordset* offen : {&liste, &summeAnzahl, &summeGewicht}) step([&] { offen->Close(); });
+    });
+}
+
+void ErgaenzeSelektion(QString& filter) {
+    const Fangauswertung& form = screen<Fangauswertung>();
+    const auto& ticked = session().AuswertFilter;
+    if (ticked[0]) filter += u" AND fa.FangJahr = "_qs + form.cboFJahr->Text();
+    if (ticked[1]) filter += u" AND f.FName = "_qs + quoted(form.cboFArt->Text());
+    if (ticked[2]) filter += u" AND g.GName = "_qs + quoted(form.cboGName->Text());
+    if (ticked[3])
+        filter +=
+            u" AND fa.FangMonat = "_qs + QString::number(modRun::ErmittleMonatsNr(form.cboFMonat->Text()));
+    if (ticked[4])
+        filter += klausel(u"Anzahl"_qs, {form.cboOptAnz01, form.txtAnz01}) +
+                  klausel(u"Anzahl"_qs, {form.cboOptAnz02, form.txtAnz02});
+    if (ticked[5])
+        filter += klausel(u"Gewicht"_qs, {form.cboOptGew01, form.txtGew01}) +
+                  klausel(u"Gewicht"_qs, {form.cboOptGew02, form.txtGew02});
+}
+
+bool AuswahlGueltig() {
+    const Fangauswertung& form = screen<Fangauswertung>();
+    return listeGueltig(form.chkFArt, form.cboFArt) && listeGueltig(form.chkArchiv, form.cboFJahr) &&
+           listeGueltig(form.chkFMonat, form.cboFMonat) &&
+           boundGueltig(form.chkGewicht, {form.cboOptGew01, form.txtGew01},
+                        {form.cboOptGew02, form.txtGew02}) &&
+           boundGueltig(form.chkAnzahl, {form.cboOptAnz01, form.txtAnz01},
+                        {form.cboOptAnz02, form.txtAnz02}) &&
+           listeGueltig(form.chkGName, form.cboGName);
+}
+
+namespace {
+
+void leereFilter(QCheckBox* box, ComboBox* list) {
+    list->setEnabled(false);
+    box->setChecked(false);
+}
+
+void leereBounds(QCheckBox* box, const Bound& low, const Bound& high) {
+    for (const Bound& bound : {low, high}) {
+        bound.comparison->setListIndex(-1);
+        bound.comparison->setEnabled(false);
+        bound.number->setText(QString());
+        bound.number->setEnabled(false);
+    }
+    box->setChecked(false);
+}
+
+} // namespace
+
+void AuswertAnzeigeLoeschen() {
+    Fangauswertung& form = screen<Fangauswertung>();
+    form.cboFJahr->setText(QString::number(session().AktJahr));
+    leereFilter(form.chkArchiv, form.cboFJahr);
+    form.cboFArt->setListIndex(-1);
+    leereFilter(form.chkFArt, form.cboFArt);
+    form.cboFMonat->setText(modRun::ErmittleMonatsname(session().AktMonatNr));
+    leereFilter(form.chkFMonat, form.cboFMonat);
+    form.cboGName->setListIndex(-1);
+    leereFilter(form.chkGName, form.cboGName);
+    leereBounds(form.chkAnzahl, {form.cboOptAnz01, form.txtAnz01}, {form.cboOptAnz02, form.txtAnz02});
+    leereBounds(form.chkGewicht, {form.cboOptGew01, form.txtGew01}, {form.cboOptGew02, form.txtGew02});
+    form.tblFAusw->clearRows();
+    for (ValueLabel* label : {form.lblGefDS, form.lblSumAnz, form.lblSumGew}) label->setCaption(QString());
+}
+
+void mnuFangInfo_Click() {
+    Fangauswertung& form = screen<Fangauswertung>();
+    modFangbuch::FangAnzeigeLoeschen();
+    modFangbuch::loadFang(form.tblFAusw, session().AktZeile);
+    session().Modus = u"EDIT"_qs;
+    form.Hide();
+    screen<Fangbuch>().Show();
+}
+
+} // namespace modFAuswert

@@ -1,0 +1,89 @@
+#include "CsvDatei.h"
+#include "DataTable.h"
+#include "Fangauswertung.h"
+#include "MsgBox.h"
+#include "RuntimeError.h"
+#include "Screens.h"
+#include "SeqData.h"
+#include "Session.h"
+#include "Spreadsheet.h"
+#include "modFAuswert.h"
+#include "modRun.h"
+
+// The evaluation as a file for the spreadsheet.
+
+namespace modFAuswert {
+
+namespace {
+
+/// Year, point and two digits of the month: sorts and reads as a number with two decimals.
+QString fangdatum(const QString& jahr, const QString& monatsname) {
+    constexpr int lastOfOneDigit = 9;
+    const int monat = modRun::ErmittleMonatsNr(monatsname);
+    return jahr + (monat <= lastOfOneDigit ? u".0"_qs : u"."_qs) + QString::number(monat);
+}
+
+void schreibeZeile(CsvDatei& datei, const DataTable& grid, int row) {
+    const auto text = [&](int column) { return grid.cellText(row, column); };
+    datei.writeField(text(0), 15, CsvDatei::Fill::Padded);
+    datei.writeField(text(1), 50);
+    datei.writeField(text(2), 50);
+    datei.writeField(fangdatum(text(4), text(3)), 20);
+    datei.writeField(text(5), 5);
+    datei.writeField(text(6), 10);
+    datei.endLine();
+}
+
+void schreibeDatei(const DataTable& grid) {
+    CsvDatei datei(SeqData::path(u"FANG.csv"_qs));
+    for (const QString& head :
+         {u"FangNr"_qs, u"Fischart"_qs, u"Gewässer"_qs, u"Fangdatum(jjjj.m)"_qs, u"Anzahl"_qs, u"Gewicht"_qs})
+        datei.writeHead(head);
+    datei.endLine();
+    for (int row = 0; row < grid.rowCount(); ++row) schreibeZeile(datei, grid, row);
+    datei.close();
+}
+
+/// The running spreadsheet or a new one; null after the box that says there is none.
+std::unique_ptr<Spreadsheet> erreicheExcel() {
+    constexpr int noObject = 429;
+    try {
+        try {
+            return spreadsheetProgram().running();
+        } catch (const RuntimeError& error) {
+            if (error.number != noObject) throw;
+            return spreadsheetProgram().start();
+        }
+    } catch (const RuntimeError&) {
+        MsgBox(u"Es ist kein Excel verfügbar !"_qs, vbInformation);
+        return nullptr;
+    }
+}
+
+} // namespace
+
+void ErzeugeFangDatei() {
+    try {
+        schreibeDatei(*screen<Fangauswertung>().tblFAusw);
+    } catch (const RuntimeError&) {
+        MsgBox(u"ACHTUNG: Ein unerwarteter Fehler trat beim Erzeugen der Fangdatei - FANG.csv - auf !\r\n"_qs
+               u"Bitte überprüfen Sie ob noch genug Speicher auf den Datenträger verfügbar ist."_qs,
+               vbCritical);
+        return;
+    }
+    MsgBox(u"Datei - FANG.CSV - wurde erfolgreich im Pfad: ..\\uferwart\\seqdata\\ erstellt !"_qs,
+           vbInformation);
+    session().MsgAntwort = MsgBox(u"Möchten Sie jetzt Excel starten ?"_qs, vbYesNo);
+    if (session().MsgAntwort == vbYes) StarteExcelFang();
+}
+
+void StarteExcelFang() {
+    const std::unique_ptr<Spreadsheet> excel = erreicheExcel();
+    if (!excel) return;
+    excel->setVisible(true);
+    excel->openWorkbook(SeqData::path(u"Fang.csv"_qs));
+    for (const QString& range : {u"A:A"_qs, u"B:B"_qs, u"C:C"_qs, u"D:D"_qs, u"E:E"_qs, u"F:F"_qs})
+        excel->autoFitColumns(range);
+}
+
+} // namespace modFAuswert

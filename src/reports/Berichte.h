@@ -1,0 +1,11 @@
+#pragma once
+
+#include "Report.h"
+
+/// The five reports by name, made on first use; their labels keep what was last set for as long as the
+/// program runs.
+namespace Berichte {
+
+Report& rpt_Fangliste();
+
+} // namespace Berichte

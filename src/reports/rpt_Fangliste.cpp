@@ -1,0 +1,42 @@
+#include "Berichte.h"
+#include "Briefkopf.h"
+#include "Session.h"
+
+namespace {
+
+std::shared_ptr<Report> makeFangliste() {
+    using Align = ReportControl::Align;
+    auto report = std::make_shared<Report>(u"Fangliste"_qs);
+    Briefkopf face(*report);
+    face.addTitle(u"Label8"_qs, u"Fangliste"_qs);
+    face.addSetting(u"Label23"_qs, u"Fangjahr    :"_qs, u"lblFJahr"_qs);
+    face.addSetting(u"Label24"_qs, u"Fangmonat:"_qs, u"lblFMonat"_qs);
+    face.addColumns({{u"Label1"_qs, u"FangNr:"_qs, u"Text1"_qs, 14, Align::Right},
+                     {u"Label2"_qs, u"Fischart:"_qs, u"Text2"_qs, 38},
+                     {u"Label3"_qs, u"Gewässer:"_qs, u"Text3"_qs, 38},
+                     {u"Label4"_qs, u"Monat:"_qs, u"Text4"_qs, 20},
+                     {u"Label5"_qs, u"Fangjahr:"_qs, u"Text5"_qs, 17, Align::Right},
+                     {u"Label6"_qs, u"Anzahl:"_qs, u"Text6"_qs, 15, Align::Right},
+                     {u"Label7"_qs, u"Gewicht:"_qs, u"Text7"_qs, 20, Align::Right}});
+    face.addSummaryHeading(u"Label14"_qs, u"Endaufstellung:"_qs);
+    face.addSum(u"Label16"_qs, u"Fischanzahl [gesamt]    :"_qs, u"SumAnzahl"_qs);
+    face.addSum(u"Label17"_qs, u"Fischgewicht [gesamt] :"_qs, u"SumGewicht"_qs);
+    face.addUnit(u"Label18"_qs, u"i.Gramm"_qs);
+    face.addSummaryHeading(u"Label19"_qs, u"Settings der Fangliste:"_qs);
+    face.addSummary(u"Label20"_qs, u"gewählte Fischart        :"_qs, u"lblFischart"_qs);
+    face.addSummary(u"Label21"_qs, u"gewähltes Gewässer :"_qs, u"lblGewässer"_qs);
+    face.addSummary(u"Label22"_qs, u"Anzahl d. gef. Einträge:"_qs, u"lblGefDS"_qs);
+    return report;
+}
+
+} // namespace
+
+namespace Berichte {
+
+Report& rpt_Fangliste() {
+    auto& report = session().Berichte[u"rpt_Fangliste"_qs];
+    if (!report) report = makeFangliste();
+    return *report;
+}
+
+} // namespace Berichte

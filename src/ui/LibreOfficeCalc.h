@@ -1,0 +1,16 @@
+#pragma once
+
+#include "Spreadsheet.h"
+
+/// LibreOffice as the spreadsheet, where its `soffice` is on the PATH. It is started for each workbook and
+/// not waited for; if it runs already, it takes the workbook over by itself.
+class LibreOfficeCalc final : public SpreadsheetProgram {
+public:
+    /// It offers no object of a running program: always error 429.
+    std::unique_ptr<Spreadsheet> running() override;
+    std::unique_ptr<Spreadsheet> start() override;
+
+    /// The words that open a semicolon-separated file in Windows-1252 without a question: separator 59, quote
+    /// 34, code page 1, from the first line on, German (1031), dates recognised.
+    static QStringList arguments(const QString& fileName);
+};
