@@ -9,6 +9,7 @@ namespace {
 constexpr double unitsPerPoint = 254.0 * ReportTypesetter::unitsPerTenth / 72.0;
 /// Names and months repeat, other texts don't; so what was measured is kept, but not for ever.
 constexpr int settingsKept = 8192;
+constexpr double endless = 1e6;
 
 QFont fontOf(const ReportControl& look) {
     QFont font;
@@ -81,6 +82,7 @@ const ReportTypesetter::Setting& ReportTypesetter::setting(Face& face, const QSt
     QTextLayout layout(text, face.font);
     layout.beginLayout();
     QTextLine line = layout.createLine();
+    line.setLineWidth(endless);
     line.setPosition({0, -line.ascent()});
     layout.endLayout();
     return *face.settings.insert(text, {layout.glyphRuns(), line.naturalTextWidth()});

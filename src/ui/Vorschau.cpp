@@ -216,7 +216,7 @@ void Vorschau::drucke() {
     const QPointer<Vorschau> alive(this);
     const auto printed = m_document;
     const auto target = choosePrintTarget(printed->caption(), printed->pageCount(), pageView->page());
-    if (!target || !alive) return;
+    if (!target || !Screens::isAlive(alive)) return;
     try {
         const HourglassOver hourglass(this);
         printReport(*printed, *target);
@@ -229,7 +229,7 @@ void Vorschau::speicherPdf() {
     const QPointer<Vorschau> alive(this);
     const auto saved = m_document;
     const QString file = choosePdfFile(fileNameFor(saved->caption()));
-    if (file.isEmpty() || !alive) return;
+    if (file.isEmpty() || !Screens::isAlive(alive)) return;
     try {
         const HourglassOver hourglass(this);
         saveReportAsPdf(*saved, file);

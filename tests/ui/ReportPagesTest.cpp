@@ -1,0 +1,188 @@
+#include "PrintDialog.h"
+#include "PrintRun.h"
+#include "ReportPainter.h"
+#include "ReportPaper.h"
+#include "ReportSample.h"
+#include "RuntimeError.h"
+
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QPainter>
+#include <QPicture>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <csignal>
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+
+namespace {
+
+const QDate someDay(2026, 3, 14);
+
+// A pixel a tenth of a millimetre.
+QImage pictureOf(const Report& report, int page) {
+    QImage picture(ReportPaper::width, ReportPaper::height, QImage::Format_RGB32);
+    picture.fill(Qt::white);
+    QPainter painter(&picture);
+    const auto document = report.document();
+    ReportPainter(*document, someDay).paint(painter, page);
+    return picture;
+}
+
+// An area told from the body's corner.
+bool hasInk(const QImage& picture, const QRect& area) {
+    const QRect there = area.translated(ReportPaper::left, ReportPaper::top);
+    for (int y = there.top(); y <= there.bottom(); ++y) {
+        for (int x = there.left(); x <= there.right(); ++x) {
+            if (picture.pixel(x, y) != qRgb(255, 255, 255)) return true;
+        }
+    }
+    return false;
+}
+
+int pagesIn(const QString& name) {
+    QFile file(name);
+    if (!file.open(QIODevice::ReadOnly)) return -1;
+    const QByteArray pdf = file.readAll();
+    return static_cast<int>(pdf.count("/Type /Page\n"));
+}
+
+QByteArray contentsOf(const QString& name) {
+    QFile file(name);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+int errorOf(const std::function<void()>& statement) {
+    try {
+        statement();
+    } catch (const RuntimeError& error) {
+        return error.number;
+    }
+    return 0;
+}
+
+TEST(ReportPainterTest, NoTextLeavesItsPlaceWhateverItsAlignment) {
+    using Align = ReportControl::Align;
+    const QRect place(300, 0, 200, 50);
+    const QString longest = u"Europäischer Flussaal "_qs.repeated(5);
+    for (const Align align : {Align::Left, Align::Centre, Align::Right}) {
+        for (const QString& text : {longest, u"Aal"_qs}) {
+            Report report(u"Eins"_qs);
+            ReportSection& head = report.section(u"Section2"_qs);
+            head.setHeight(200);
+            head.addLabel(u"a"_qs, text, place).align(align);
+            const QImage picture = pictureOf(report, 0);
+            EXPECT_TRUE(hasInk(picture, place));
+            EXPECT_FALSE(hasInk(picture, {0, 0, 300, 200})) << qPrintable(text);
+            EXPECT_FALSE(hasInk(picture, {500, 0, 500, 200})) << qPrintable(text);
+            EXPECT_FALSE(hasInk(picture, {0, 50, 1000, 150})) << qPrintable(text);
+        }
+    }
+}
+
+TEST(ReportPainterTest, AWrappedLabelTakesTheLinesItHasRoomFor) {
+    Report report(u"Eins"_qs);
+    ReportSection& head = report.section(u"Section2"_qs);
+    head.setHeight(400);
+    head.addLabel(u"a"_qs, u"Alle, die im Herbst geholfen haben. "_qs.repeated(9), {0, 0, 500, 130})
+        .wrapped();
+    const QImage picture = pictureOf(report, 0);
+    EXPECT_TRUE(hasInk(picture, {0, 80, 500, 40})) << "the third line";
+    EXPECT_FALSE(hasInk(picture, {0, 130, 500, 200}));
+    EXPECT_FALSE(hasInk(picture, {500, 0, 500, 200}));
+}
+
+TEST(ReportPainterTest, NumbersEndOnOneEdgeAndRulesAreOfOneBreadthAtAnyScale) {
+    SampleReport report;
+    report.bindRows(10);
+    const QImage picture = pictureOf(report, 0);
+    for (const int row : {0, 9}) {
+        const int top = 600 + row * 195;
+        EXPECT_TRUE(hasInk(picture, {180, top + 5, 20, 50}));
+        EXPECT_FALSE(hasInk(picture, {200, top + 5, 20, 50})) << "nothing between the columns";
+    }
+    for (const double scale : {0.3, 0.37, 0.5, 1.1}) {
+        QImage page(int(ReportPaper::width * scale), int(ReportPaper::height * scale), QImage::Format_RGB32);
+        page.fill(Qt::white);
+        QPainter painter(&page);
+        painter.scale(scale, scale);
+        const auto document = report.document();
+        ReportPainter(*document, someDay).paint(painter, 0);
+        const int column = int((ReportPaper::left + 1400) * scale);
+        int black = 0;
+        for (int y = int((ReportPaper::top + 650) * scale); y < int(2600 * scale); ++y)
+            black += page.pixel(column, y) == qRgb(0, 0, 0) ? 1 : 0;
+        EXPECT_EQ(black, 9 * std::max(1, qRound(2 * scale))) << scale;
+    }
+}
+
+TEST(ReportPainterTest, APageIsPaintedAlikeBeforeTenRowsAndBeforeAHundredThousand) {
+    SampleReport report;
+    report.control(u"Section3"_qs, u"Label9"_qs).setCaption(u"Seite %p"_qs);
+    const auto painted = [&](int rows) {
+        report.bindRows(rows);
+        const auto document = report.document();
+        QPicture picture;
+        QPainter painter(&picture);
+        ReportPainter(*document, someDay).paint(painter, 0);
+        painter.end();
+        return QByteArray(picture.data(), picture.size());
+    };
+    EXPECT_EQ(painted(100), painted(100000));
+    EXPECT_NE(painted(100), painted(5));
+}
+
+TEST(PrintRunTest, ThePdfHasTheWantedPagesAndItsTextCanBeSearched) {
+    QTemporaryDir folder;
+    const QString all = folder.filePath(u"alle.pdf"_qs);
+    const QString some = folder.filePath(u"einige.pdf"_qs);
+    SampleReport report;
+    RowList rows({u"Nr"_qs, u"Gewässer"_qs, u"Gewicht"_qs},
+                 QVector<std::vector<Value>>(
+                     25, {Value(7), Value(QString(u"Oder-Spree-Kanal "_qs).repeated(9)), Value(1234)}));
+    report.bind(rows);
+    const auto document = report.document();
+    saveReportAsPdf(*document, all);
+    printReport(*document, {some, nullptr, {2, 0}, 2});
+    EXPECT_EQ(pagesIn(all), 3);
+    EXPECT_EQ(pagesIn(some), 4);
+    if (QStandardPaths::findExecutable(u"pdftotext"_qs).isEmpty()) GTEST_SKIP() << "no pdftotext here";
+    QProcess reader;
+    reader.start(u"pdftotext"_qs, {u"-layout"_qs, u"-f"_qs, u"3"_qs, all, u"-"_qs});
+    ASSERT_TRUE(reader.waitForFinished());
+    const QString text = QString::fromUtf8(reader.readAllStandardOutput()).simplified();
+    EXPECT_TRUE(text.startsWith(u"Erkner 7 Oder-Spree-Kanal Oder-Spr… 1.234"_qs) ||
+                text.contains(u"… 1.234"_qs))
+        << qPrintable(text);
+    EXPECT_TRUE(text.contains(u"30.850"_qs)) << qPrintable(text);
+    EXPECT_TRUE(text.contains(u"Seite 3 von 3"_qs)) << qPrintable(text);
+}
+
+TEST(PrintRunTest, AFileThatCannotBeWrittenIsAnErrorAndStaysAsItWas) {
+    QTemporaryDir folder;
+    SampleReport report;
+    report.bindRows(200);
+    const auto document = report.document();
+    EXPECT_EQ(errorOf([&] { saveReportAsPdf(*document, folder.filePath(u"fehlt/a.pdf"_qs)); }), 76);
+    EXPECT_EQ(errorOf([&] { saveReportAsPdf(*document, folder.path()); }), 75);
+    EXPECT_EQ(errorOf([&] { printReport(*document, {}); }), 482) << "neither file nor printer";
+
+    const QString name = folder.filePath(u"da.pdf"_qs);
+    saveReportAsPdf(*document, name);
+    const QByteArray before = contentsOf(name);
+    rlimit usual{};
+    getrlimit(RLIMIT_FSIZE, &usual);
+    const auto usualSignal = std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit little{1000, usual.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &little);
+    const int error = errorOf([&] { saveReportAsPdf(*document, name); });
+    setrlimit(RLIMIT_FSIZE, &usual);
+    std::signal(SIGXFSZ, usualSignal);
+    EXPECT_EQ(error, 75);
+    EXPECT_EQ(contentsOf(name), before);
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files).size(), 1) << "nothing half-written beside it";
+}
+
+} // namespace

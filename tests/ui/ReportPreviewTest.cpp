@@ -1,0 +1,226 @@
+#include "ComboBox.h"
+#include "MsgBox.h"
+#include "PrintDialog.h"
+#include "PrintSaveDialog.h"
+#include "PrinterList.h"
+#include "RecordingScreen.h"
+#include "ReportDocument.h"
+#include "ReportPageView.h"
+#include "ReportSample.h"
+#include "Screens.h"
+#include "Stage.h"
+#include "TextBox.h"
+#include "Toolbar.h"
+#include "Vorschau.h"
+
+#include <QFile>
+#include <QLabel>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QToolButton>
+#include <gtest/gtest.h>
+
+namespace {
+
+class Boxes : public MessageBoxes {
+public:
+    MsgBoxResult show(const QString& text, int, const QString&) override {
+        texts.append(text);
+        return vbOK;
+    }
+    QStringList texts;
+};
+
+class Dialogs : public PrintDialog, public PrintSaveDialog {
+public:
+    std::optional<PrintTarget> choose(const QString&, int pages, int page) override {
+        asked = QString::number(pages) + u'/' + QString::number(page);
+        if (whileOpen) whileOpen();
+        if (file.isEmpty()) return std::nullopt;
+        return PrintTarget{file, nullptr, {}, 1};
+    }
+    QString choose(const QString& proposal) override {
+        asked = proposal;
+        if (whileOpen) whileOpen();
+        return file;
+    }
+
+    QString asked;
+    QString file;
+    std::function<void()> whileOpen;
+};
+
+class ReportPreviewTest : public ::testing::Test {
+protected:
+    ReportPreviewTest() {
+        setMessageBoxes(&boxes);
+        setPrintDialog(&dialogs);
+        setPrintSaveDialog(&dialogs);
+        stage.resize(900, 600);
+        stage.show();
+        stage.setActive(true);
+        caller.Show();
+        log.clear();
+    }
+    ~ReportPreviewTest() override {
+        Screens::removeAll();
+        settle();
+        setPrintSaveDialog(nullptr);
+        setPrintDialog(nullptr);
+        setMessageBoxes(nullptr);
+    }
+
+    static void settle() {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QCoreApplication::processEvents();
+    }
+    void open(int rows) {
+        report.bindRows(rows);
+        report.Show();
+    }
+    static Vorschau& preview() { return screen<Vorschau>(); }
+    static void press(const QString& key) { preview().Toolbar1->key(key)->click(); }
+    static QString where() { return preview().txtSeite->text() + u' ' + preview().lblSeiten->text(); }
+    QString takeLog() { return std::exchange(log, {}).join(u' '); }
+
+    Boxes boxes;
+    Dialogs dialogs;
+    QStringList log;
+    Stage stage;
+    RecordingScreen caller{u"caller"_qs, log};
+    RecordingScreen other{u"other"_qs, log};
+    SampleReport report{u"Besatz - Plan"_qs};
+};
+
+TEST_F(ReportPreviewTest, ItComesToTheFrontAndGivesItBack) {
+    open(25);
+    EXPECT_EQ(stage.front(), &preview());
+    EXPECT_EQ(preview().windowTitle(), u"Besatz - Plan"_qs);
+    EXPECT_EQ(where(), u"1 von 3"_qs);
+    EXPECT_EQ(takeLog(), u"-caller"_qs);
+    QTest::keyClick(preview().pageView, Qt::Key_Escape);
+    EXPECT_FALSE(isLoaded<Vorschau>());
+    EXPECT_EQ(stage.front(), &caller);
+    EXPECT_EQ(takeLog(), u"+caller"_qs);
+}
+
+TEST_F(ReportPreviewTest, ASecondReportTakesThePlaceOfTheFirst) {
+    open(25);
+    press(u"tbLetzte"_qs);
+    const Vorschau* first = &preview();
+    SampleReport second(u"Fangliste"_qs);
+    second.bindRows(100000);
+    second.Show();
+    EXPECT_EQ(&preview(), first);
+    EXPECT_EQ(preview().windowTitle(), u"Fangliste"_qs);
+    EXPECT_EQ(where(), u"1 von 10001"_qs);
+    settle();
+    press(u"tbLetzte"_qs);
+    settle();
+    EXPECT_EQ(where(), u"10001 von 10001"_qs);
+}
+
+TEST_F(ReportPreviewTest, ItMayBeClosedFromBehindOpenedAnewAndOutliveItsReport) {
+    open(25);
+    other.Show();
+    takeLog();
+    preview().close();
+    settle();
+    EXPECT_FALSE(isLoaded<Vorschau>());
+    EXPECT_EQ(takeLog(), QString()) << "the screen in front is not disturbed";
+    EXPECT_EQ(stage.front(), &other);
+    {
+        SampleReport shortLived;
+        shortLived.bindRows(25);
+        shortLived.Show();
+    }
+    press(u"tbWeiter"_qs);
+    preview().grab();
+    EXPECT_EQ(where(), u"2 von 3"_qs);
+    Screens::removeAll();
+    settle();
+    EXPECT_FALSE(isLoaded<Vorschau>());
+}
+
+TEST_F(ReportPreviewTest, PagesTurnByKeysButtonsAndTheirNumber) {
+    open(25);
+    ReportPageView* view = preview().pageView;
+    EXPECT_FALSE(preview().Toolbar1->key(u"tbZurueck"_qs)->isEnabled());
+    QTest::keyClick(view, Qt::Key_PageDown);
+    EXPECT_EQ(where(), u"2 von 3"_qs);
+    QTest::keyClick(view, Qt::Key_End);
+    QTest::keyClick(view, Qt::Key_PageDown);
+    EXPECT_EQ(where(), u"3 von 3"_qs);
+    EXPECT_FALSE(preview().Toolbar1->key(u"tbWeiter"_qs)->isEnabled());
+    QTest::keyClick(view, Qt::Key_PageUp);
+    press(u"tbErste"_qs);
+    EXPECT_EQ(where(), u"1 von 3"_qs);
+
+    const auto enter = [&](const QString& number) {
+        preview().txtSeite->selectAll();
+        QTest::keyClicks(preview().txtSeite, number + u'\r');
+        return where();
+    };
+    EXPECT_EQ(enter(u"2"_qs), u"2 von 3"_qs);
+    EXPECT_EQ(enter(u"99x"_qs), u"3 von 3"_qs) << "the letter is refused, the last page is the nearest";
+    EXPECT_EQ(enter(u"0"_qs), u"3 von 3"_qs);
+}
+
+TEST_F(ReportPreviewTest, ZoomGoesFromTheFittedSizeToTheNextLevel) {
+    open(5);
+    settle();
+    ReportPageView* view = preview().pageView;
+    const double fitted = view->shownPercent();
+    QTest::keyClick(view, Qt::Key_Plus);
+    EXPECT_GT(view->shownPercent(), fitted);
+    preview().cboZoom->setText(u"ganze Seite"_qs);
+    EXPECT_LT(view->shownPercent(), 75);
+    preview().cboZoom->setText(u"200 %"_qs);
+    QTest::keyClick(view, Qt::Key_Plus);
+    EXPECT_DOUBLE_EQ(view->shownPercent(), 200);
+    QTest::keyClick(view, Qt::Key_Minus);
+    EXPECT_EQ(preview().cboZoom->Text(), u"150 %"_qs);
+}
+
+TEST_F(ReportPreviewTest, PrintingAndSavingAskFirstAndTellWhatFailed) {
+    QTemporaryDir folder;
+    open(25);
+    press(u"tbWeiter"_qs);
+    press(u"tbDruck"_qs);
+    EXPECT_EQ(dialogs.asked, u"3/1"_qs);
+    press(u"tbPdf"_qs);
+    EXPECT_EQ(dialogs.asked, u"Besatz - Plan.pdf"_qs);
+    EXPECT_TRUE(QDir(folder.path()).isEmpty()) << "called off";
+
+    dialogs.file = folder.filePath(u"a.pdf"_qs);
+    press(u"tbPdf"_qs);
+    EXPECT_TRUE(QFile::exists(dialogs.file));
+    EXPECT_TRUE(report.PrintReport());
+    EXPECT_TRUE(boxes.texts.isEmpty());
+
+    dialogs.file = folder.filePath(u"fehlt/a.pdf"_qs);
+    press(u"tbPdf"_qs);
+    press(u"tbDruck"_qs);
+    ASSERT_EQ(boxes.texts.size(), 2);
+    EXPECT_TRUE(boxes.texts[0].startsWith(u"Die Datei '"_qs)) << qPrintable(boxes.texts[0]);
+    EXPECT_TRUE(boxes.texts[1].endsWith(u"Pfad nicht gefunden"_qs)) << qPrintable(boxes.texts[1]);
+    EXPECT_FALSE(preview().hasHourglass());
+}
+
+TEST_F(ReportPreviewTest, TheProgramMayEndWhileADialogIsOpen) {
+    QTemporaryDir folder;
+    dialogs.file = folder.filePath(u"a.pdf"_qs);
+    dialogs.whileOpen = [] { Screens::removeAll(); };
+    open(25);
+    press(u"tbDruck"_qs);
+    settle();
+    open(25);
+    press(u"tbPdf"_qs);
+    settle();
+    EXPECT_FALSE(isLoaded<Vorschau>());
+    EXPECT_FALSE(QFile::exists(dialogs.file));
+}
+
+TEST(PrinterListTest, ThePdfFileCountsAsAPrinter) { EXPECT_GE(printerCount(), 1); }
+
+} // namespace

@@ -1,0 +1,89 @@
+#pragma once
+
+#include "Clock.h"
+#include "Report.h"
+
+#include <QVector>
+
+/// Rows told one by one.
+class RowList : public ReportRowSource {
+public:
+    RowList(const QStringList& fields, const QVector<std::vector<Value>>& rows)
+        : m_fields(fields)
+        , m_rows(rows) {}
+
+    QStringList fields() const override { return m_fields; }
+    bool next(std::vector<Value>& row) override {
+        if (m_next == m_rows.size()) return false;
+        row = m_rows[m_next++];
+        return true;
+    }
+
+private:
+    QStringList m_fields;
+    QVector<std::vector<Value>> m_rows;
+    qsizetype m_next = 0;
+};
+
+/// As many rows as wanted: their number, a name, a weight.
+class ManyRows : public ReportRowSource {
+public:
+    explicit ManyRows(int rows)
+        : m_rows(rows) {}
+
+    QStringList fields() const override { return {u"Nr"_qs, u"Gewässer"_qs, u"Gewicht"_qs}; }
+    bool next(std::vector<Value>& row) override {
+        if (m_done == m_rows) return false;
+        ++m_done;
+        row = {Value(m_done), Value(u"Großer See"), Value(1000)};
+        return true;
+    }
+
+private:
+    int m_rows;
+    int m_done = 0;
+};
+
+class FixedClock : public Clock {
+public:
+    QDateTime now() const override { return {QDate(2026, 3, 14), QTime(10, 0)}; }
+};
+
+/// A report of three columns, ten rows a page (nine on the last, below which the sum stands).
+class SampleReport : public Report {
+public:
+    explicit SampleReport(const QString& caption = u"Probe"_qs)
+        : Report(caption) {
+        ReportSection& head = section(u"Section2"_qs);
+        head.setHeight(600);
+        head.addLabel(u"lblOrt"_qs, u"Erkner"_qs, {0, 0, 800, 60});
+        head.addShape(u"Shape1"_qs, {0, 500, 1500, 60}).ground(0xffe3ecfc);
+        ReportSection& detail = section(u"Section1"_qs);
+        detail.setHeight(195);
+        detail.addText(u"Text1"_qs, {0, 0, 200, 60}).align(ReportControl::Align::Right);
+        detail.addText(u"Text2"_qs, {220, 0, 400, 60});
+        detail.addText(u"Text3"_qs, {640, 0, 300, 60}).format(u"#.##0"_qs);
+        detail.addLine(u"Line1"_qs, {0, 195, 1500, 0});
+        ReportSection& foot = section(u"Section3"_qs);
+        foot.setHeight(100);
+        foot.addLabel(u"Label9"_qs, u"Seite %p von %P (gedruckt am %d)"_qs, {0, 0, 900, 60})
+            .withPageNumbers();
+        ReportSection& summary = section(u"Section5"_qs);
+        summary.setHeight(200);
+        summary.addSum(u"SumGewicht"_qs, {0, 0, 400, 60}).format(u"#.##0"_qs);
+        bindFields();
+    }
+
+    void bindRows(int rows) {
+        ManyRows source(rows);
+        bind(source);
+    }
+
+private:
+    void bindFields() {
+        control(u"Section1"_qs, u"Text1"_qs).setDataField(u"nr"_qs);
+        control(u"Section1"_qs, u"Text2"_qs).setDataField(u"GEWÄSSER"_qs);
+        control(u"Section1"_qs, u"Text3"_qs).setDataField(u"Gewicht"_qs);
+        control(u"Section5"_qs, u"SumGewicht"_qs).setDataField(u"Gewicht"_qs);
+    }
+};
