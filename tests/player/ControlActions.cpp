@@ -1,0 +1,250 @@
+#include "ControlActions.h"
+
+#include "CommandFailure.h"
+#include "Controls.h"
+#include "EventGuard.h"
+#include "GridCells.h"
+#include "Hand.h"
+#include "Main.h"
+#include "NavigationBar.h"
+#include "Screens.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDateTimeEdit>
+#include <QLineEdit>
+#include <QLocale>
+#include <QPlainTextEdit>
+#include <QPointer>
+#include <QRadioButton>
+#include <QStyleOptionButton>
+#include <QStyleOptionComboBox>
+#include <QTabBar>
+#include <QTabWidget>
+
+namespace {
+
+void clickOn(QWidget* widget, QPoint place, const QString& name) {
+    Controls::requireReachable(widget, place, name);
+    Hand::click(widget, place);
+}
+
+/// Where a check box or an option can be clicked whatever its width.
+QPoint markOf(const QAbstractButton* button, QStyle::SubElement mark) {
+    QStyleOptionButton look;
+    look.initFrom(button);
+    return button->style()->subElementRect(mark, &look, button).center();
+}
+
+QPoint placeOn(const QAbstractButton* button) {
+    if (qobject_cast<const QCheckBox*>(button)) return markOf(button, QStyle::SE_CheckBoxIndicator);
+    if (qobject_cast<const QRadioButton*>(button)) return markOf(button, QStyle::SE_RadioButtonIndicator);
+    return button->rect().center();
+}
+
+void clickButton(QAbstractButton* button, const QString& name) { clickOn(button, placeOn(button), name); }
+
+/// The part of a control that a text is typed into; null if it takes none.
+QWidget* textField(QWidget* control) {
+    if (auto* combo = qobject_cast<QComboBox*>(control)) return combo->lineEdit();
+    if (qobject_cast<QLineEdit*>(control) || qobject_cast<QPlainTextEdit*>(control)) return control;
+    return nullptr;
+}
+
+bool hasSelection(const QWidget* field) {
+    if (const auto* line = qobject_cast<const QLineEdit*>(field)) return line->hasSelectedText();
+    return qobject_cast<const QPlainTextEdit*>(field)->textCursor().hasSelection();
+}
+
+/// A click behind the text; a long text still needs the key that goes to its end.
+void clickBehindText(QWidget* field, const QString& name) {
+    constexpr int margin = 6;
+    clickOn(field, {std::max(field->width() - margin, field->width() / 2), field->height() / 2}, name);
+    if (field->hasFocus() && !hasSelection(field))
+        Hand::key(Qt::Key_End, qobject_cast<QLineEdit*>(field) ? Qt::NoModifier : Qt::ControlModifier);
+}
+
+QWidget* requireTextField(const QString& name) {
+    QWidget* field = textField(Controls::find(name));
+    if (!field) Controls::refuseKind(name, u"text field"_qs);
+    Controls::requireUsable(field, name);
+    return field;
+}
+
+/// A handler may send the focus elsewhere at the first click (leaving the catch book's note does); a user
+/// clicks again.
+QWidget* enterField(const QString& name) {
+    QWidget* field = requireTextField(name);
+    constexpr int clicks = 2;
+    for (int click = 0; click < clicks && !field->hasFocus(); ++click) clickBehindText(field, name);
+    if (!field->hasFocus()) throw CommandFailure{u"%1 does not take the focus"_qs.arg(name)};
+    return field;
+}
+
+bool isEmpty(const QWidget* field) {
+    if (const auto* line = qobject_cast<const QLineEdit*>(field)) return line->text().isEmpty();
+    return qobject_cast<const QPlainTextEdit*>(field)->document()->isEmpty();
+}
+
+QPoint arrowOf(const QComboBox* combo) {
+    QStyleOptionComboBox look;
+    look.initFrom(combo);
+    look.editable = combo->isEditable();
+    look.subControls = QStyle::SC_All;
+    return combo->style()
+        ->subControlRect(QStyle::CC_ComboBox, &look, QStyle::SC_ComboBoxArrow, combo)
+        .center();
+}
+
+QStringList entriesOf(const QComboBox* combo) {
+    QStringList entries;
+    for (int entry = 0; entry < combo->count(); ++entry) entries.append(combo->itemText(entry));
+    return entries;
+}
+
+/// The list takes a release for a choice only after the mouse has moved in it.
+void clickEntry(QComboBox* combo, int entry, const QString& name) {
+    QAbstractItemView* list = combo->view();
+    if (!list->isVisible()) throw CommandFailure{u"the list of %1 did not open"_qs.arg(name)};
+    const QModelIndex index = combo->model()->index(entry, combo->modelColumn(), combo->rootModelIndex());
+    list->scrollTo(index);
+    QWidget* face = list->viewport();
+    Hand::move(face, face->rect().bottomRight());
+    Hand::move(face, face->rect().topLeft());
+    Hand::click(face, list->visualRect(index).center());
+}
+
+NavigationBar* bar() { return qobject_cast<Main*>(Controls::findScreen(u"Main"_qs))->ButtnBar; }
+
+QWidget* keyReceiver(Screen* screen) {
+    QWidget* focused = QApplication::focusWidget();
+    if (focused && (focused == screen || screen->isAncestorOf(focused))) return nullptr;
+    return screen->focusWidget() ? screen->focusWidget() : screen;
+}
+
+} // namespace
+
+namespace ControlActions {
+
+void type(const QString& name, const QString& text) {
+    enterField(name);
+    Hand::type(text);
+}
+
+void set(const QString& name, const QString& text) {
+    const QWidget* field = enterField(name);
+    const bool nothingToReplace = isEmpty(field);
+    if (!nothingToReplace) Hand::key(Qt::Key_A, Qt::ControlModifier);
+    if (!text.isEmpty())
+        Hand::type(text);
+    else if (!nothingToReplace)
+        Hand::key(Qt::Key_Delete);
+}
+
+void choose(const QString& name, const QString& entry) {
+    auto* combo = Controls::find<QComboBox>(name, u"combo box"_qs);
+    const int place = combo->findText(entry, Qt::MatchExactly | Qt::MatchCaseSensitive);
+    if (place < 0)
+        throw CommandFailure{u"%1 has only the entries %2"_qs.arg(name, entriesOf(combo).join(u"|"_qs))};
+    clickOn(combo, arrowOf(combo), name);
+    clickEntry(combo, place, name);
+}
+
+void tick(const QString& name, bool on) {
+    auto* box = Controls::find<QCheckBox>(name, u"check box"_qs);
+    Controls::requireUsable(box, name);
+    if (box->isChecked() != on) clickButton(box, name);
+}
+
+void option(const QString& name) {
+    clickButton(Controls::find<QRadioButton>(name, u"option button"_qs), name);
+}
+
+void click(const QString& name) {
+    QWidget* control = Controls::find(name);
+    if (auto* button = qobject_cast<QAbstractButton*>(control)) return clickButton(button, name);
+    clickOn(control, control->rect().center(), name);
+}
+
+void setDate(const QString& name, QDate date) {
+    QWidget* control = Controls::find(name);
+    auto* field = control->findChild<QLineEdit*>();
+    if (!field) Controls::refuseKind(name, u"date control"_qs);
+    const auto* edit = qobject_cast<QDateTimeEdit*>(control);
+    const QString format = edit ? edit->displayFormat() : u"dd.MM.yyyy"_qs;
+    clickOn(field, {field->width() / 2, field->height() / 2}, name);
+    Hand::key(Qt::Key_A, Qt::ControlModifier);
+    Hand::type(QLocale(QLocale::German).toString(date, format));
+}
+
+void selectTab(const QString& name, int page) {
+    QWidget* control = Controls::find(name);
+    const auto* pages = qobject_cast<QTabWidget*>(control);
+    QTabBar* tabs = pages ? pages->tabBar() : qobject_cast<QTabBar*>(control);
+    if (!tabs) Controls::refuseKind(name, u"tab control"_qs);
+    if (page < 0 || page >= tabs->count()) throw CommandFailure{u"%1 has no page %2"_qs.arg(name).arg(page)};
+    if (!tabs->isTabEnabled(page)) throw CommandFailure{u"page %1 is not enabled"_qs.arg(page)};
+    clickOn(tabs, tabs->tabRect(page).center(), name);
+}
+
+// A click on anything but a text field would do more than move the focus.
+void focus(const QString& name) {
+    QWidget* control = Controls::find(name);
+    Controls::requireUsable(control, name);
+    if (QWidget* field = textField(control)) return clickBehindText(field, name);
+    if (!(control->focusPolicy() & Qt::ClickFocus))
+        throw CommandFailure{u"%1 takes no focus by a click"_qs.arg(name)};
+    control->setFocus(Qt::MouseFocusReason);
+    Hand::settle();
+}
+
+void pressKey(const QString& screenName, const QString& key) {
+    Screen* screen = Controls::findScreen(screenName);
+    Controls::requireUsable(screen, screenName);
+    if (QWidget* receiver = keyReceiver(screen)) receiver->setFocus(Qt::OtherFocusReason);
+    if (!Hand::namedKey(key)) throw CommandFailure{u"there is no key %1"_qs.arg(key)};
+}
+
+// A screen on the stage has no border of its own.
+void close(const QString& screenName) {
+    Screen* screen = Controls::findScreen(screenName);
+    Controls::requireUsable(screen, screenName);
+    if (screen->isWindow())
+        screen->close();
+    else
+        runEvent([screen] { screen->Form_QueryUnload(); });
+    Hand::settle();
+}
+
+void clickBarItem(const QString& key) {
+    BarItem* item = bar()->item(key);
+    if (!item) throw CommandFailure{u"the bar has no item %1"_qs.arg(key)};
+    clickButton(item, key);
+}
+
+void openCell(const QString& grid, const QString& row, const QString& column) {
+    auto* table = Controls::find<DataTable>(grid, u"grid"_qs);
+    Controls::requireUsable(table, grid);
+    const GridCells::Row there = GridCells::parseRow(row);
+    const QPoint place = GridCells::placeOf(table, grid, there, GridCells::parseNumber(column));
+    Controls::requireReachable(table->viewport(), place, grid);
+    Hand::doubleClick(table->viewport(), place);
+}
+
+void pressCell(const QString& grid, const QString& row, const QString& column, Qt::MouseButton button) {
+    auto* table = Controls::find<DataTable>(grid, u"grid"_qs);
+    Controls::requireUsable(table, grid);
+    const GridCells::Row there = GridCells::parseRow(row);
+    const QPoint place = GridCells::placeOf(table, grid, there, GridCells::parseNumber(column));
+    Controls::requireReachable(table->viewport(), place, grid);
+    Hand::click(table->viewport(), place, button);
+}
+
+void logIn(const QString& name, const QString& password) {
+    set(u"Login.txtBenutzer"_qs, name);
+    set(u"Login.txtPassw"_qs, password);
+    pressKey(u"Login"_qs, u"Return"_qs);
+}
+
+} // namespace ControlActions

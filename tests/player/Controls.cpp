@@ -1,0 +1,88 @@
+#include "Controls.h"
+
+#include "CommandFailure.h"
+#include "Screens.h"
+
+#include <QApplication>
+#include <QScrollArea>
+
+namespace {
+
+QWidget* findOn(const Screen* screen, const QString& name) {
+    const auto controls = screen->findChildren<QWidget*>(name);
+    for (QWidget* control : controls) {
+        if (Controls::screenOf(control) == screen) return control;
+    }
+    return nullptr;
+}
+
+// The toolkit's own parts of a control bear names of that kind.
+bool isNamed(const QWidget* widget) {
+    return !widget->objectName().isEmpty() && !widget->objectName().startsWith(u"qt_"_qs);
+}
+
+void scrollIntoView(QWidget* control) {
+    for (QWidget* around = control->parentWidget(); around; around = around->parentWidget()) {
+        if (auto* area = qobject_cast<QScrollArea*>(around)) area->ensureWidgetVisible(control);
+    }
+}
+
+} // namespace
+
+namespace Controls {
+
+Screen* findScreen(const QString& name) {
+    Screen* screen = Screens::byName(name);
+    if (!screen) throw CommandFailure{u"there is no screen %1"_qs.arg(name)};
+    return screen;
+}
+
+QWidget* find(const QString& name) {
+    const qsizetype point = name.indexOf(u'.');
+    Screen* screen = findScreen(name.left(point));
+    if (point < 0) return screen;
+    QWidget* control = findOn(screen, name.mid(point + 1));
+    if (!control) throw CommandFailure{u"there is no control %1"_qs.arg(name)};
+    return control;
+}
+
+Screen* screenOf(const QWidget* control) {
+    QWidget* around = control ? control->parentWidget() : nullptr;
+    while (around && !qobject_cast<Screen*>(around)) around = around->parentWidget();
+    return qobject_cast<Screen*>(around);
+}
+
+QString nameOf(const QWidget* widget) {
+    while (widget && !isNamed(widget)) widget = widget->parentWidget();
+    if (!widget) return u"none"_qs;
+    const Screen* screen = screenOf(widget);
+    if (qobject_cast<const Screen*>(widget) || !screen) return widget->objectName();
+    return screen->objectName() + u'.' + widget->objectName();
+}
+
+void requireNotBlocked(const QWidget* widget, const QString& name) {
+    const QWidget* modal = QApplication::activeModalWidget();
+    if (modal && modal != widget->window())
+        throw CommandFailure{u"%1 lies behind the modal screen %2"_qs.arg(name, modal->objectName())};
+}
+
+void requireUsable(QWidget* control, const QString& name) {
+    if (!control->isVisible()) throw CommandFailure{u"%1 is not visible"_qs.arg(name)};
+    requireNotBlocked(control, name);
+    if (!control->isEnabled()) throw CommandFailure{u"%1 is not enabled"_qs.arg(name)};
+}
+
+void requireReachable(QWidget* control, QPoint place, const QString& name) {
+    requireUsable(control, name);
+    scrollIntoView(control);
+    QWidget* window = control->window();
+    const QWidget* hit = window->childAt(control->mapTo(window, place));
+    if (hit == control || control->isAncestorOf(hit) || (!hit && control == window)) return;
+    throw CommandFailure{u"%1 is covered by %2"_qs.arg(name, hit ? nameOf(hit) : u"the window's edge"_qs)};
+}
+
+void refuseKind(const QString& name, const QString& kind) {
+    throw CommandFailure{u"%1 is no %2"_qs.arg(name, kind)};
+}
+
+} // namespace Controls

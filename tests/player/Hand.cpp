@@ -1,0 +1,188 @@
+#include "Hand.h"
+
+#include <QAbstractEventDispatcher>
+#include <QApplication>
+#include <QMetaEnum>
+#include <QPointer>
+#include <QWidget>
+#include <QWindow>
+#include <QtTest/qtestkeyboard.h>
+#include <QtTest/qtestmouse.h>
+
+namespace {
+
+/// The mouse as the window system sees it.
+struct Mouse {
+    QPointer<QWindow> pressedIn;
+    QPoint place;
+    Qt::MouseButton button = Qt::NoButton;
+    int time = 1;
+};
+
+Mouse& mouse() {
+    static Mouse one;
+    return one;
+}
+
+/// Longer than what makes a double click of two.
+constexpr int breather = 1000;
+
+QPoint inWindow(const QWidget* widget, QPoint place) { return widget->mapTo(widget->window(), place); }
+
+void send(QWindow* window, QPoint place, Qt::MouseButton button, QEvent::Type type) {
+    const Qt::MouseButtons down = mouse().button;
+    qt_handleMouseEvent(window, place, window->mapToGlobal(place), down, button, type, Qt::NoModifier,
+                        ++mouse().time);
+}
+
+void press(QWindow* window, QPoint place, Qt::MouseButton button) {
+    mouse().pressedIn = window;
+    mouse().place = place;
+    mouse().button = button;
+    send(window, place, button, QEvent::MouseButtonPress);
+}
+
+bool isUsable(const QWidget* window) {
+    return window->isVisible() && window->windowType() != Qt::Popup && window->windowType() != Qt::ToolTip;
+}
+
+QString textOf(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+    switch (key) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return u"\r"_qs;
+    case Qt::Key_Tab:
+        return u"\t"_qs;
+    case Qt::Key_Backspace:
+        return u"\b"_qs;
+    case Qt::Key_Escape:
+        return QChar(0x1b);
+    case Qt::Key_Delete:
+        return QChar(0x7f);
+    default:
+        break;
+    }
+    if (key > 0xff || modifiers & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) return {};
+    const QChar letter(static_cast<char16_t>(key));
+    return modifiers & Qt::ShiftModifier ? letter : letter.toLower();
+}
+
+void sendKey(Qt::Key key, const QString& text, Qt::KeyboardModifiers modifiers) {
+    QWidget* front = QApplication::activePopupWidget();
+    if (!front) front = Hand::windowInFront();
+    QWindow* window = front ? front->windowHandle() : nullptr;
+    if (window) QTest::sendKeyEvent(QTest::Click, window, key, text, modifiers);
+}
+
+void typeCharacter(const QString& character) {
+    const char32_t code = character.toUcs4().value(0);
+    if (code == U'\n' || code == U'\r') return Hand::key(Qt::Key_Return);
+    if (code == U'\t') return Hand::key(Qt::Key_Tab);
+    const bool capital = character.toLower() != character;
+    const auto key = static_cast<Qt::Key>(QChar::toUpper(code));
+    sendKey(key, character, capital ? Qt::ShiftModifier : Qt::NoModifier);
+}
+
+Qt::KeyboardModifiers takeModifiers(QStringList& words) {
+    static const QHash<QString, Qt::KeyboardModifier> modifiers = {{u"Ctrl"_qs, Qt::ControlModifier},
+                                                                   {u"Shift"_qs, Qt::ShiftModifier},
+                                                                   {u"Alt"_qs, Qt::AltModifier},
+                                                                   {u"Meta"_qs, Qt::MetaModifier}};
+    Qt::KeyboardModifiers taken;
+    while (words.size() > 1 && modifiers.contains(words.first())) taken |= modifiers[words.takeFirst()];
+    return taken;
+}
+
+} // namespace
+
+namespace Hand {
+
+// Bounded, since a timer without a breather would keep the loop busy for ever.
+void settle() {
+    constexpr int turns = 50;
+    for (int turn = 0; turn < turns; ++turn) {
+        if (!QAbstractEventDispatcher::instance()->processEvents(QEventLoop::AllEvents)) return;
+    }
+}
+
+QWidget* windowInFront() {
+    if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+    QWidget* active = QApplication::activeWindow();
+    if (active && isUsable(active)) return active;
+    QWidget* front = nullptr;
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (isUsable(window)) front = window;
+    }
+    return front;
+}
+
+void activateWindow() {
+    QWidget* front = windowInFront();
+    if (!front || QApplication::activePopupWidget()) return;
+    if (QApplication::activeWindow() == front && QGuiApplication::focusWindow() == front->windowHandle())
+        return;
+    front->activateWindow();
+    settle();
+}
+
+void move(QWidget* widget, QPoint place) {
+    if (QWindow* window = widget->window()->windowHandle())
+        send(window, inWindow(widget, place), Qt::NoButton, QEvent::MouseMove);
+}
+
+void releaseButton() {
+    Mouse& m = mouse();
+    if (m.button == Qt::NoButton) return;
+    const Qt::MouseButton button = std::exchange(m.button, Qt::NoButton);
+    if (m.pressedIn) send(m.pressedIn, m.place, button, QEvent::MouseButtonRelease);
+}
+
+void click(QWidget* widget, QPoint place, Qt::MouseButton button) {
+    QWindow* window = widget->window()->windowHandle();
+    if (!window) return;
+    move(widget, place);
+    mouse().time += breather;
+    press(window, inWindow(widget, place), button);
+    releaseButton();
+    settle();
+}
+
+void doubleClick(QWidget* widget, QPoint place) {
+    const QPointer<QWindow> window = widget->window()->windowHandle();
+    if (!window) return;
+    const QPoint there = inWindow(widget, place);
+    move(widget, place);
+    mouse().time += breather;
+    press(window, there, Qt::LeftButton);
+    releaseButton();
+    if (window) press(window, there, Qt::LeftButton);
+    releaseButton();
+    settle();
+}
+
+void key(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+    sendKey(key, textOf(key, modifiers), modifiers);
+    settle();
+}
+
+void type(const QString& text) {
+    for (qsizetype at = 0; at < text.size(); ++at) {
+        if (text[at] == u'\r' && text.mid(at + 1, 1) == u"\n"_qs) continue;
+        const bool pair = text[at].isHighSurrogate() && at + 1 < text.size();
+        typeCharacter(text.mid(at, pair ? 2 : 1));
+        if (pair) ++at;
+    }
+    settle();
+}
+
+bool namedKey(const QString& name) {
+    QStringList words = name.split(u'+');
+    const Qt::KeyboardModifiers modifiers = takeModifiers(words);
+    bool known = false;
+    const QByteArray wanted = "Key_" + words.join(u'+').toUtf8();
+    const int value = QMetaEnum::fromType<Qt::Key>().keyToValue(wanted.constData(), &known);
+    if (known) key(static_cast<Qt::Key>(value), modifiers);
+    return known;
+}
+
+} // namespace Hand

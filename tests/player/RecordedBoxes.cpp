@@ -1,0 +1,42 @@
+#include "RecordedBoxes.h"
+
+#include "LineText.h"
+
+#include <utility>
+
+namespace {
+
+bool isQuestion(int style) { return (style & vbYesNo) != 0; }
+
+QString kindOf(int style) {
+    constexpr int icons = 0x70;
+    if (isQuestion(style)) return u"yesno"_qs;
+    switch (style & icons) {
+    case vbCritical:
+        return u"critical"_qs;
+    case vbExclamation:
+        return u"exclamation"_qs;
+    case vbInformation:
+        return u"information"_qs;
+    default:
+        return u"plain"_qs;
+    }
+}
+
+} // namespace
+
+MsgBoxResult RecordedBoxes::show(const QString& text, int style, const QString& title) {
+    const QString box = kindOf(style) + u" · "_qs + lineText(title) + u" · "_qs + lineText(text);
+    m_boxes.append(box);
+    return isQuestion(style) ? answer(box) : vbOK;
+}
+
+MsgBoxResult RecordedBoxes::answer(const QString& box) {
+    if (!m_answers.isEmpty()) return m_answers.takeFirst();
+    m_unanswered.append(box);
+    return vbNo;
+}
+
+QStringList RecordedBoxes::take() { return std::exchange(m_boxes, {}); }
+
+QStringList RecordedBoxes::takeUnanswered() { return std::exchange(m_unanswered, {}); }

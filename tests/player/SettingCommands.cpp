@@ -1,0 +1,59 @@
+#include "CommandFailure.h"
+#include "Commands.h"
+#include "GridCells.h"
+#include "PlayedProgram.h"
+
+#include <QDate>
+
+namespace {
+
+QStringList today(PlayedProgram& program, const QStringList& words) {
+    const QDate day = QDate::fromString(words[0], Qt::ISODate);
+    if (!day.isValid()) throw CommandFailure{u"%1 is no date"_qs.arg(words[0])};
+    program.setToday(day);
+    return {};
+}
+
+QStringList fjahr(PlayedProgram& program, const QStringList& words) {
+    program.setFishingYear(GridCells::parseNumber(words[0]));
+    return {};
+}
+
+QStringList printers(PlayedProgram& program, const QStringList& words) {
+    program.dialogs().setPrinters(GridCells::parseNumber(words[0]));
+    return {};
+}
+
+QStringList demo(PlayedProgram& program, const QStringList&) {
+    program.wantDemoClub();
+    return {};
+}
+
+QStringList sql(PlayedProgram& program, const QStringList& words) {
+    program.file().run(words[0]);
+    return {};
+}
+
+QStringList sh(PlayedProgram& program, const QStringList& words) {
+    program.runShell(words[0]);
+    return {};
+}
+
+QStringList start(PlayedProgram& program, const QStringList&) {
+    program.start();
+    return {};
+}
+
+} // namespace
+
+const QVector<PlayerCommand>& settingCommands() {
+    constexpr auto kind = PlayerCommand::Kind::Acting;
+    constexpr auto needs = PlayerCommand::Needs::Nothing;
+    static const QVector<PlayerCommand> commands = {
+        {u"today", 1, kind, needs, &today},       {u"fjahr", 1, kind, needs, &fjahr},
+        {u"printers", 1, kind, needs, &printers}, {u"demo", 0, kind, needs, &demo},
+        {u"sql", 1, kind, needs, &sql},           {u"sh", 1, kind, needs, &sh},
+        {u"start", 0, kind, needs, &start},
+    };
+    return commands;
+}

@@ -1,0 +1,95 @@
+#include "Player.h"
+#include "Theme.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QHashSeed>
+#include <QTemporaryDir>
+#include <cstdio>
+
+namespace {
+
+constexpr int wrongArguments = 2;
+
+/// What must be the same on every machine, before the toolkit looks at it.
+void settleEnvironment() {
+    const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
+    if (platform.isEmpty() || platform == "offscreen")
+        qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" UW_PLAYER_SCREEN);
+    // Only Qt's own event loop says when it has nothing left to do.
+    qputenv("QT_NO_GLIB", "1");
+    qputenv("TZ", "UTC");
+    QHashSeed::setDeterministicGlobalSeed();
+}
+
+void settleApplication(QApplication& application, bool dark) {
+    QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setCursorFlashTime(0);
+    for (const Qt::UIEffect effect : {Qt::UI_AnimateMenu, Qt::UI_FadeMenu, Qt::UI_AnimateCombo,
+                                      Qt::UI_AnimateTooltip, Qt::UI_FadeTooltip, Qt::UI_AnimateToolBox})
+        QApplication::setEffectEnabled(effect, false);
+    Theme::apply(application, dark ? Theme::Mode::Dark : Theme::Mode::Light);
+}
+
+// The platform without a screen says of each window what it can't do, and where it has no session of its own.
+void passMessage(QtMsgType, const QMessageLogContext&, const QString& message) {
+    for (const auto* usual : {u"This plugin does not support", u"QStandardPaths: XDG_RUNTIME_DIR"}) {
+        if (message.startsWith(QString::fromUtf16(usual))) return;
+    }
+    std::fprintf(stderr, "%s\n", qPrintable(message));
+}
+
+struct Arguments {
+    QString file;
+    QString keep;
+    bool verbose = false;
+    bool dark = false;
+};
+
+Arguments readArguments(const QApplication& application) {
+    QCommandLineParser parser;
+    parser.setApplicationDescription(u"Plays a scenario against the program."_qs);
+    parser.addHelpOption();
+    parser.addPositionalArgument(u"FILE"_qs, u"the scenario"_qs);
+    parser.addOptions({{u"keep"_qs, u"keeps pictures and the program folder there"_qs, u"DIR"_qs},
+                       {u"verbose"_qs, u"prints every command and its output"_qs},
+                       {u"dark"_qs, u"the same as --theme dark"_qs},
+                       {u"theme"_qs, u"dark or light"_qs, u"THEME"_qs, u"light"_qs}});
+    parser.process(application);
+    const QString theme = parser.value(u"theme"_qs);
+    if (parser.positionalArguments().size() != 1 || (theme != u"dark"_qs && theme != u"light"_qs))
+        parser.showHelp(wrongArguments);
+    return {parser.positionalArguments().first(), parser.value(u"keep"_qs), parser.isSet(u"verbose"_qs),
+            parser.isSet(u"dark"_qs) || theme == u"dark"_qs};
+}
+
+int play(const Arguments& arguments, const QString& keep, const QString& script) {
+    const QString name = QFileInfo(arguments.file).completeBaseName();
+    QDir().mkpath(keep);
+    const QString folder = QDir(keep).absoluteFilePath(name + u".programm"_qs);
+    QDir(folder).removeRecursively();
+    PlayedProgram program(folder, keep);
+    Player player(parseScript(script), program, {arguments.file, arguments.verbose});
+    return player.play() == 0 ? 0 : 1;
+}
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    settleEnvironment();
+    qInstallMessageHandler(&passMessage);
+    QApplication application(argc, argv);
+    const Arguments arguments = readArguments(application);
+    settleApplication(application, arguments.dark);
+    QFile file(arguments.file);
+    if (!file.open(QIODevice::ReadOnly)) {
+        std::fprintf(stderr, "%s can't be read\n", qPrintable(arguments.file));
+        return wrongArguments;
+    }
+    const QTemporaryDir passing;
+    const QString keep = arguments.keep.isEmpty() ? passing.path() : arguments.keep;
+    return play(arguments, keep, QString::fromUtf8(file.readAll()));
+}
