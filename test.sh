@@ -12,7 +12,7 @@ case $#:$preset in
 esac
 
 require_platform
-ensure_packages "${build_packages[@]}"
+ensure_packages "${build_packages[@]}" "${test_packages[@]}"
 build "$preset"
 settle_test_environment
 say "Testing in build/$preset"

@@ -19,6 +19,7 @@ build_packages=(
   libsqlcipher-dev libzip-dev libgtest-dev
   fonts-liberation fonts-comic-neue
 )
+test_packages=(sqlcipher)
 lint_packages=(clang-format clang-tidy)
 
 # A field of the file by which a system tells its name.
@@ -104,5 +105,7 @@ build() {
 # The machine's language and screen must not change what a test sees.
 settle_test_environment() {
   export QT_QPA_PLATFORM=offscreen QT_HASH_SEED=0 LC_ALL=C.UTF-8 TZ=UTC
+  export XDG_RUNTIME_DIR=$top/build/runtime
+  install -d -m 700 "$XDG_RUNTIME_DIR"
   unset QT_STYLE_OVERRIDE QT_SCALE_FACTOR QT_SCREEN_SCALE_FACTORS QT_QPA_PLATFORMTHEME
 }
