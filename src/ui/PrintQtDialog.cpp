@@ -1,6 +1,9 @@
 #include "PrintQtDialog.h"
 
+#include "PrintSaveDialog.h"
+
 #include <QApplication>
+#include <QLineEdit>
 #include <QPageRanges>
 #include <QPrintDialog>
 #include <algorithm>
@@ -14,6 +17,12 @@ void preset(QPrinter& printer, const QString& caption) {
     printer.setPageSize(QPageSize(QPageSize::A4));
     printer.setPageOrientation(QPageLayout::Portrait);
     printer.setPrintRange(QPrinter::AllPages);
+}
+
+// On some platforms the dialog proposes a folder only for the PDF file.
+void proposeFile(const QPrintDialog& dialog, const QString& caption) {
+    auto* name = dialog.findChild<QLineEdit*>(u"filename"_qs);
+    if (name && name->text().endsWith(u'/')) name->setText(name->text() + pdfNameFor(caption));
 }
 
 bool isWanted(const QPrinter& printer, int number) {
@@ -43,6 +52,7 @@ std::optional<PrintTarget> PrintQtDialog::choose(const QString& caption, int pag
     dialog.setOption(QAbstractPrintDialog::PrintPageRange);
     dialog.setOption(QAbstractPrintDialog::PrintCurrentPage);
     dialog.setMinMax(1, pages);
+    proposeFile(dialog, caption);
     if (dialog.exec() != QDialog::Accepted) return std::nullopt;
     target.pages = wantedPages(*target.printer, pages, page);
     if (target.printer->outputFormat() == QPrinter::PdfFormat)

@@ -27,3 +27,8 @@ void setPrintSaveDialog(PrintSaveDialog* dialog) { inForce = dialog; }
 QString choosePdfFile(const QString& proposal) {
     return inForce ? inForce->choose(proposal) : askPlatform(proposal);
 }
+
+QString pdfNameFor(QString caption) {
+    for (const QChar sign : u"\\/:*?\"<>|"_qs) caption.remove(sign);
+    return caption.simplified() + u".pdf"_qs;
+}

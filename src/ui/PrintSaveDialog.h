@@ -14,3 +14,5 @@ public:
 void setPrintSaveDialog(PrintSaveDialog* dialog);
 
 QString choosePdfFile(const QString& proposal);
+/// The caption as a file name, without the signs that some system refuses.
+QString pdfNameFor(QString caption);

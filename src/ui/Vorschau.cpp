@@ -41,11 +41,6 @@ private:
     QPointer<Screen> m_screen;
 };
 
-QString fileNameFor(QString caption) {
-    for (const QChar sign : u"\\/:*?\"<>|"_qs) caption.remove(sign);
-    return caption.simplified() + u".pdf"_qs;
-}
-
 void addToRow(Toolbar* toolbar, QWidget* control) {
     auto* row = static_cast<QBoxLayout*>(toolbar->layout());
     row->insertWidget(row->count() - 1, control);
@@ -228,7 +223,7 @@ void Vorschau::drucke() {
 void Vorschau::speicherPdf() {
     const QPointer<Vorschau> alive(this);
     const auto saved = m_document;
-    const QString file = choosePdfFile(fileNameFor(saved->caption()));
+    const QString file = choosePdfFile(pdfNameFor(saved->caption()));
     if (file.isEmpty() || !Screens::isAlive(alive)) return;
     try {
         const HourglassOver hourglass(this);
