@@ -14,7 +14,6 @@
 #include <QComboBox>
 #include <QDateTimeEdit>
 #include <QLineEdit>
-#include <QLocale>
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <QRadioButton>
@@ -85,6 +84,17 @@ QWidget* enterField(const QString& name) {
 bool isEmpty(const QWidget* field) {
     if (const auto* line = qobject_cast<const QLineEdit*>(field)) return line->text().isEmpty();
     return qobject_cast<const QPlainTextEdit*>(field)->document()->isEmpty();
+}
+
+/// The year first and the day last: in between, no date may come up that there is not.
+void typeSections(QDateTimeEdit* edit, QDate date) {
+    const std::pair<QDateTimeEdit::Section, QString> parts[] = {{QDateTimeEdit::YearSection, u"yyyy"_qs},
+                                                                {QDateTimeEdit::MonthSection, u"MM"_qs},
+                                                                {QDateTimeEdit::DaySection, u"dd"_qs}};
+    for (const auto& [section, format] : parts) {
+        edit->setSelectedSection(section);
+        Hand::type(date.toString(format));
+    }
 }
 
 QPoint arrowOf(const QComboBox* combo) {
@@ -171,11 +181,10 @@ void setDate(const QString& name, QDate date) {
     QWidget* control = Controls::find(name);
     auto* field = control->findChild<QLineEdit*>();
     if (!field) Controls::refuseKind(name, u"date control"_qs);
-    const auto* edit = qobject_cast<QDateTimeEdit*>(control);
-    const QString format = edit ? edit->displayFormat() : u"dd.MM.yyyy"_qs;
     clickOn(field, {field->width() / 2, field->height() / 2}, name);
+    if (auto* edit = qobject_cast<QDateTimeEdit*>(control)) return typeSections(edit, date);
     Hand::key(Qt::Key_A, Qt::ControlModifier);
-    Hand::type(QLocale(QLocale::German).toString(date, format));
+    Hand::type(date.toString(u"dd.MM.yyyy"_qs));
 }
 
 void selectTab(const QString& name, int page) {
@@ -195,6 +204,7 @@ void focus(const QString& name) {
     if (QWidget* field = textField(control)) return clickBehindText(field, name);
     if (!(control->focusPolicy() & Qt::ClickFocus))
         throw CommandFailure{u"%1 takes no focus by a click"_qs.arg(name)};
+    Hand::activateWindowOf(control);
     control->setFocus(Qt::MouseFocusReason);
     Hand::settle();
 }
@@ -202,6 +212,7 @@ void focus(const QString& name) {
 void pressKey(const QString& screenName, const QString& key) {
     Screen* screen = Controls::findScreen(screenName);
     Controls::requireUsable(screen, screenName);
+    Hand::activateWindowOf(screen);
     if (QWidget* receiver = keyReceiver(screen)) receiver->setFocus(Qt::OtherFocusReason);
     if (!Hand::namedKey(key)) throw CommandFailure{u"there is no key %1"_qs.arg(key)};
 }

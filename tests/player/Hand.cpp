@@ -117,11 +117,15 @@ QWidget* windowInFront() {
 }
 
 void activateWindow() {
-    QWidget* front = windowInFront();
-    if (!front || QApplication::activePopupWidget()) return;
-    if (QApplication::activeWindow() == front && QGuiApplication::focusWindow() == front->windowHandle())
+    if (QWidget* front = windowInFront()) activateWindowOf(front);
+}
+
+void activateWindowOf(QWidget* widget) {
+    QWidget* window = widget->window();
+    if (QApplication::activePopupWidget()) return;
+    if (QApplication::activeWindow() == window && QGuiApplication::focusWindow() == window->windowHandle())
         return;
-    front->activateWindow();
+    window->activateWindow();
     settle();
 }
 
@@ -140,6 +144,7 @@ void releaseButton() {
 void click(QWidget* widget, QPoint place, Qt::MouseButton button) {
     QWindow* window = widget->window()->windowHandle();
     if (!window) return;
+    activateWindowOf(widget);
     move(widget, place);
     mouse().time += breather;
     press(window, inWindow(widget, place), button);
@@ -151,6 +156,7 @@ void doubleClick(QWidget* widget, QPoint place) {
     const QPointer<QWindow> window = widget->window()->windowHandle();
     if (!window) return;
     const QPoint there = inWindow(widget, place);
+    activateWindowOf(widget);
     move(widget, place);
     mouse().time += breather;
     press(window, there, Qt::LeftButton);

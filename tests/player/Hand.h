@@ -14,6 +14,8 @@ namespace Hand {
 void settle();
 /// Does what a window manager would: one of the windows that can be used is the active one.
 void activateWindow();
+/// As a click into it does.
+void activateWindowOf(QWidget* widget);
 /// The window in front that a user can use; null if there is none.
 QWidget* windowInFront();
 

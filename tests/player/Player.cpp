@@ -59,7 +59,7 @@ void Player::step() {
     if (m_next == m_script.size()) return finishPlay();
     const ScriptCommand& command = m_script[m_next++];
     m_line = command.line;
-    m_command = command.words.join(u' ');
+    m_command = command.text;
     carryOut(command);
     reportUnanswered();
 }

@@ -41,7 +41,7 @@ private:
     Options m_options;
     std::size_t m_next = 0;
     int m_line = 0;    ///< of the command last begun
-    QString m_command; ///< its words
+    QString m_command; ///< as it stands in the scenario
     int m_level = 0;   ///< of the event loop in which the command in progress was begun
     bool m_stepPosted = false;
     int m_failures = 0;

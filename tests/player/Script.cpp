@@ -66,7 +66,7 @@ bool isExpectation(const QString& line) { return line == u"="_qs || line.startsW
 
 void addExpectation(std::vector<ScriptCommand>& commands, int number, const QString& line) {
     if (commands.empty())
-        commands.push_back({number, {}, {}, u"expected output without a command before it"_qs});
+        commands.push_back({number, line, {}, {}, u"expected output without a command before it"_qs});
     else
         commands.back().expected.append(line.mid(2));
 }
@@ -86,7 +86,7 @@ std::vector<ScriptCommand> parseScript(const QString& text) {
         }
         LineReader reader(line);
         const QStringList words = reader.words();
-        if (!words.isEmpty()) commands.push_back({number, words, {}, reader.fault()});
+        if (!words.isEmpty()) commands.push_back({number, line.trimmed(), words, {}, reader.fault()});
     }
     return commands;
 }

@@ -6,6 +6,7 @@
 /// One command of a scenario with the output that it must print.
 struct ScriptCommand {
     int line = 0; ///< from 1
+    QString text; ///< the line as it stands
     QStringList words;
     QStringList expected;
     QString fault; ///< why the line can't be read; empty if it can

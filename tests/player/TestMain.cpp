@@ -1,0 +1,15 @@
+#include "Theme.h"
+
+#include <QApplication>
+#include <gtest/gtest.h>
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_NO_GLIB", "1");
+    qputenv("QT_LOGGING_RULES", "default.warning=false");
+    ::testing::InitGoogleTest(&argc, argv);
+    QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    Theme::apply(application, Theme::Mode::Light);
+    return RUN_ALL_TESTS();
+}
