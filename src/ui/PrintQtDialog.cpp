@@ -55,6 +55,8 @@ std::optional<PrintTarget> PrintQtDialog::choose(const QString& caption, int pag
     proposeFile(dialog, caption);
     if (dialog.exec() != QDialog::Accepted) return std::nullopt;
     target.pages = wantedPages(*target.printer, pages, page);
+    // Otherwise a print server might pick from the picked pages once more.
+    target.printer->setPageRanges({});
     if (target.printer->outputFormat() == QPrinter::PdfFormat)
         target.pdfFile = target.printer->outputFileName();
     else if (!target.printer->supportsMultipleCopies())
