@@ -2,6 +2,7 @@
 
 #include <QAbstractEventDispatcher>
 #include <QApplication>
+#include <QCursor>
 #include <QMetaEnum>
 #include <QPointer>
 #include <QWidget>
@@ -130,6 +131,9 @@ void activateWindowOf(QWidget* widget) {
 }
 
 void move(QWidget* widget, QPoint place) {
+    // Context menus open where the pointer is.
+    QCursor::setPos(widget->mapToGlobal(place));
+    settle();
     if (QWindow* window = widget->window()->windowHandle())
         send(window, inWindow(widget, place), Qt::NoButton, QEvent::MouseMove);
 }
