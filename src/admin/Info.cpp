@@ -2,6 +2,7 @@
 
 #include "Face.h"
 #include "Screens.h"
+#include "Session.h"
 #include "Theme.h"
 #include "modSysInfo.h"
 
@@ -55,6 +56,13 @@ QLabel* Info::addValue(const QString& name) {
     QLabel* value = Face::label(name, QString(), fraVerein);
     fraVerein->layout()->addWidget(value);
     return value;
+}
+
+void Info::Form_Load() { zeigeAnschrift(); }
+
+void Info::zeigeAnschrift() {
+    auto line = session().Anschrift.begin();
+    for (QLabel* label : {lblVerein, lblStrasse, lblPLZ, lblOrt, lblTelefon}) label->setText(*line++);
 }
 
 void Info::cmdOK_Click() { unload<Info>(); }

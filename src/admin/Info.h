@@ -13,6 +13,11 @@ class Info : public Screen {
 public:
     Info();
 
+    void Form_Load() override;
+
+    /// The club's address as last saved into the labels.
+    void zeigeAnschrift();
+
     QLabel* lblTitle;
     QLabel* lblDescription;
     QGroupBox* fraVerein;

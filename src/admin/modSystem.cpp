@@ -20,21 +20,19 @@ namespace {
 
 const QString twoDecimals = u"###0.00"_qs;
 
-/// A line of the address: its field, its box, and the label of Info that repeats it.
+/// A line of the address: its field and its box.
 struct AddressLine {
     QString field;
     TextBox* box;
-    QLabel* label;
 };
 
 std::array<AddressLine, 5> address() {
-    System& form = screen<System>();
-    Info& info = screen<Info>();
-    return {{{u"Verein"_qs, form.txtVerein, info.lblVerein},
-             {u"Strasse"_qs, form.txtStrasse, info.lblStrasse},
-             {u"PLZ"_qs, form.txtPLZ, info.lblPLZ},
-             {u"Ort"_qs, form.txtOrt, info.lblOrt},
-             {u"Tel"_qs, form.txtTelefon, info.lblTelefon}}};
+    const System& form = screen<System>();
+    return {{{u"Verein"_qs, form.txtVerein},
+             {u"Strasse"_qs, form.txtStrasse},
+             {u"PLZ"_qs, form.txtPLZ},
+             {u"Ort"_qs, form.txtOrt},
+             {u"Tel"_qs, form.txtTelefon}}};
 }
 
 struct Parameter {
@@ -52,12 +50,13 @@ void writeParameter(Recordset& parameter, const Parameter& which) {
     if (grid->find(0, row, which.label) >= 0) grid->setCell(row, 1, text);
 }
 
+/// First for Info, then for the boxes.
 void showAddress(ErrorTail& step, const Recordset& parameter) {
-    for (const AddressLine& line : address()) {
-        const auto text = [&] { return CStr(parameter.Fields(line.field).Value()); };
-        step([&] { line.label->setText(text()); });
-        step([&] { line.box->setText(text()); });
-    }
+    const auto text = [&](const AddressLine& line) { return CStr(parameter.Fields(line.field).Value()); };
+    auto shown = session().Anschrift.begin();
+    for (const AddressLine& line : address()) step([&] { *shown++ = text(line); });
+    screen<Info>().zeigeAnschrift();
+    for (const AddressLine& line : address()) step([&] { line.box->setText(text(line)); });
 }
 
 } // namespace
@@ -106,7 +105,9 @@ void UpdateAdresse() {
     for (const AddressLine& line : address()) parameter.Collect(line.field, line.box->Text());
     parameter.Update();
     parameter.Close();
-    for (const AddressLine& line : address()) line.label->setText(line.box->Text());
+    auto shown = session().Anschrift.begin();
+    for (const AddressLine& line : address()) *shown++ = line.box->Text();
+    screen<Info>().zeigeAnschrift();
 }
 
 void LeereParameter() {

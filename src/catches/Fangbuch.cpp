@@ -7,6 +7,7 @@
 #include "MemoBox.h"
 #include "MsgBox.h"
 #include "ProgressBar.h"
+#include "RuntimeError.h"
 #include "Screens.h"
 #include "Session.h"
 #include "System.h"
@@ -85,15 +86,29 @@ void Fangbuch::Loeschen() {
         modFangbuch::FangAnzeigeLoeschen();
 }
 
+namespace {
+
+/// A year that was mistyped into the parameters must not end the program at each pick of a month.
+qint16 fangjahrDerParameter(qint16 otherwise) {
+    try {
+        return CInt(screen<System>().tblSystem->cellText(1, 1));
+    } catch (const RuntimeError&) {
+        return otherwise;
+    }
+}
+
+} // namespace
+
 void Fangbuch::Auswahl_Click(bool jahr) {
     Session& s = session();
     if (s.TabelleLaedt) return;
+    const qint16 bisher = s.AktJahr;
     // The load takes year and month from the session; they are lent to it and put back.
     s.AktMonatNr = modRun::ErmittleMonatsNr(cboSelMonat->Text());
     s.AktJahr = CInt(cboFJahr->Text());
     modFangbuch::loadTblFList(pb);
     s.AktMonatNr = static_cast<qint16>(today().month());
-    s.AktJahr = CInt(screen<System>().tblSystem->cellText(1, 1));
+    s.AktJahr = fangjahrDerParameter(bisher);
     lblAnzahl->setCaption(QString::number(tblFList->rowCount()));
     if (jahr) lblGesAnz->setCaption(modFangbuch::Ermittle_DSAnzahl());
 }
@@ -102,7 +117,7 @@ void Fangbuch::txtMonNr_KeyPress() { ++m_tastenZaehler; }
 
 void Fangbuch::txtMonNr_KeyDone() {
     constexpr int keysOfAMonth = 2;
-    if (m_tastenZaehler == keysOfAMonth) txtNotiz->setFocus();
+    if (m_tastenZaehler >= keysOfAMonth) txtNotiz->setFocus();
 }
 
 void Fangbuch::txtMonNr_LostFocus() {

@@ -51,6 +51,7 @@ void Fangbuch::buildEntry() {
     txtMonNr->setLimit(monthLimit);
     txtFangMonat = new TextBox(u"txtFangMonat"_qs, fraNr2);
     txtFangMonat->setReadOnly(true);
+    txtFangMonat->setFocusPolicy(Qt::ClickFocus);
     lblNotiz = Face::label(u"lblNotiz"_qs, u"Notizen..."_qs, fraNr2);
     txtNotiz = new MemoBox(u"txtNotiz"_qs, fraNr2);
     txtNotiz->setLimit(noteLimit);
@@ -157,6 +158,7 @@ void Fangbuch::connectEvents() {
     on(Toolbar1, &Toolbar::ButtonClick, [this](const QString& key) { Toolbar1_ButtonClick(key); });
     on(cboFJahr, &ComboBox::Click, [this] { Auswahl_Click(true); });
     on(cboSelMonat, &ComboBox::Click, [this] { Auswahl_Click(false); });
+    on(txtMonNr, &TextBox::GotFocus, [this] { m_tastenZaehler = 0; });
     on(txtMonNr, &TextBox::KeyPress, [this](int) { txtMonNr_KeyPress(); });
     on(txtMonNr, &TextBox::KeyDone, [this](int) { txtMonNr_KeyDone(); });
     on(txtMonNr, &TextBox::LostFocus, [this] { txtMonNr_LostFocus(); });

@@ -96,14 +96,16 @@ void fuelleAusGrid(ComboBox* combo, const DataTable* grid) {
     for (int row = 0; row < grid->rowCount(); ++row) combo->AddItem(grid->cellText(row, 1));
 }
 
-/// One field of the first row of a query, or `otherwise` if it has no row.
-Value schlageNach(const QString& routine, const QString& field, const Value& otherwise,
-                  const std::function<QString()>& select) {
-    Value result = otherwise;
+/// One field of the first row of a query; 0 or the empty text if there is no row.
+template<typename Result>
+Result schlageNach(const QString& routine, const QString& field, Result (*convert)(const Value&),
+                   const std::function<QString()>& select) {
+    Result result{};
     withErrorTail(u"modFangbuch"_qs, routine, [&](ErrorTail& step) {
         Recordset satz;
         step([&] { satz = abfrage(select()); });
-        if (step.test([&] { return satz.RecordCount() == 1; })) step([&] { result = satz.Collect(field); });
+        if (step.test([&] { return satz.RecordCount() == 1; }))
+            step([&] { result = convert(satz.Collect(field)); });
         step([&] { satz.Close(); });
     });
     return result;
@@ -127,25 +129,24 @@ void loadcboFArt(ComboBox* combo) { fuelleAusGrid(combo, screen<Basis>().tblFBas
 void loadcboGName(ComboBox* combo) { fuelleAusGrid(combo, screen<Basis>().tblGBasis); }
 
 qint32 ErmittleFischNr(const QString& name) {
-    return CLng(schlageNach(u"ErmittleFischNr"_qs, u"FNr"_qs, 0,
-                            [&] { return u"SELECT FNr FROM Fisch WHERE FName = "_qs + quoted(name); }));
+    return schlageNach(u"ErmittleFischNr"_qs, u"FNr"_qs, &CLng,
+                       [&] { return u"SELECT FNr FROM Fisch WHERE FName = "_qs + quoted(name); });
 }
 
 QString ErmittleFischname(qint32 number) {
-    return CStr(schlageNach(u"ErmittleFischname"_qs, u"FName"_qs, QString(), [&] {
-        return u"SELECT FName FROM Fisch WHERE FNr = "_qs + QString::number(number);
-    }));
+    return schlageNach(u"ErmittleFischname"_qs, u"FName"_qs, &CStr,
+                       [&] { return u"SELECT FName FROM Fisch WHERE FNr = "_qs + QString::number(number); });
 }
 
 qint32 ErmittleGewaesserNr(const QString& name) {
-    return CLng(schlageNach(u"ErmittleGewaesserNr"_qs, u"GNr"_qs, 0,
-                            [&] { return u"SELECT GNr FROM Gewaesser WHERE GName = "_qs + quoted(name); }));
+    return schlageNach(u"ErmittleGewaesserNr"_qs, u"GNr"_qs, &CLng,
+                       [&] { return u"SELECT GNr FROM Gewaesser WHERE GName = "_qs + quoted(name); });
 }
 
 QString ErmittleGewaessername(qint32 number) {
-    return CStr(schlageNach(u"ErmittleGewaessername"_qs, u"GName"_qs, QString(), [&] {
+    return schlageNach(u"ErmittleGewaessername"_qs, u"GName"_qs, &CStr, [&] {
         return u"SELECT GName FROM Gewaesser WHERE GNr = "_qs + QString::number(number);
-    }));
+    });
 }
 
 } // namespace modFangbuch

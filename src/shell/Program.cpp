@@ -18,6 +18,7 @@ Program::Program(const QString& folder) {
 
 Program::~Program() {
     finish();
+    if (running != this) return;
     setEventFailure({});
     running = nullptr;
 }
@@ -26,6 +27,7 @@ Program& Program::current() { return *running; }
 
 void Program::start() {
     m_running = true;
+    setEventsEnded(false);
     screen<Main>();
 }
 
@@ -33,9 +35,9 @@ void Program::finish() {
     if (!m_running) return;
     m_running = false;
     session().Beendet = true;
+    setEventsEnded(true);
     unload<Main>();
     Screens::removeAll();
-    session().AktBarItem = nullptr;
     session().AktDatenbank = Database();
     Q_EMIT ended();
 }

@@ -1,14 +1,14 @@
 #pragma once
 
 #include "DBEngine.h"
+#include "NavigationBar.h"
 
+#include <QPointer>
 #include <QString>
 #include <array>
 #include <map>
 #include <memory>
 
-class BarGroup;
-class BarItem;
 class Report;
 
 /// What all routines share while the program runs: plain values that any routine may read and write. Safe
@@ -23,17 +23,21 @@ struct Session {
     QString AktMonat;
     qint16 AktJahr = 0; ///< the year on which a change of year has been settled; lent to the selectors
 
-    int MsgAntwort = 0;            ///< answer of the last question: 6 yes, 7 no
-    QString Modus;                 ///< "SAVE" a new record, "EDIT" the record of row AktZeile
-    qint32 AktZeile = 0;           ///< grid row of the record being edited
-    qint16 FehlerZaehler = 0;      ///< errors in the current routine
-    bool TabelleLaedt = false;     ///< LadeStammdaten is running: screens stay quiet
-    qint16 SuchAufrufer = 0;       ///< who opened the search: 0 the contact overview, 1 the work ledger
-    bool KontextZeileOK = false;   ///< the last press on a grid hit a data row
-    bool NachReport = false;       ///< a report was shown: the next activation leaves the lists alone
-    BarItem* AktBarItem = nullptr; ///< navigation item last made current
+    int MsgAntwort = 0;           ///< answer of the last question: 6 yes, 7 no
+    QString Modus;                ///< "SAVE" a new record, "EDIT" the record of row AktZeile
+    qint32 AktZeile = 0;          ///< grid row of the record being edited
+    qint16 FehlerZaehler = 0;     ///< errors in the current routine
+    bool TabelleLaedt = false;    ///< LadeStammdaten is running: screens stay quiet
+    qint16 SuchAufrufer = 0;      ///< who opened the search: 0 the contact overview, 1 the work ledger
+    bool KontextZeileOK = false;  ///< the last press on a grid hit a data row
+    bool NachReport = false;      ///< a report was shown: the next activation leaves the lists alone
+    QPointer<BarItem> AktBarItem; ///< navigation item last made current
 
     bool Beendet = false; ///< the program has ended; routines still on the stack tell nobody any more
+
+    /// The club's name, street, postal code, town and telephone as last saved: what Info and the reports
+    /// show.
+    std::array<QString, 5> Anschrift;
 
     /// The filters of the evaluation that are ticked: year, kind of fish, water, month, number, weight.
     std::array<bool, 6> AuswertFilter{};

@@ -24,6 +24,10 @@
 #include "modSystem.h"
 #include "modTools.h"
 
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QWindow>
+
 namespace modStart {
 
 namespace {
@@ -69,13 +73,24 @@ void startFailed(const RuntimeError& error) {
 void removeItem(BarGroup* group, const QString& key) {
     session().AktBarItem = group->item(key);
     group->removeItem(key);
-    session().AktBarItem = nullptr;
+}
+
+/// A picture that nobody has had time to see would be none: waits until the window system has put it up.
+void zeigeEroef() {
+    constexpr int longestMilliseconds = 300;
+    Eroef& picture = screen<Eroef>();
+    picture.Show();
+    QElapsedTimer waited;
+    waited.start();
+    const QWindow* window = picture.windowHandle();
+    while (window && !window->isExposed() && !waited.hasExpired(longestMilliseconds))
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    picture.repaint();
 }
 
 void continueAfterLogin() {
     screen<::Login>().Hide();
-    screen<Eroef>().Show();
-    screen<Eroef>().repaint();
+    zeigeEroef();
     SetzeDatumsVariablen();
     if (!KontrolliereSystemJahr()) {
         unload<Eroef>();
@@ -157,7 +172,7 @@ bool Login(const QString& name, const QString& passwort) {
 }
 
 void WendeRechteAn(const Recordset& gruppe) {
-    const auto denied = [&](const QString& right) { return gruppe.Fields(right).Value() == Value(false); };
+    const auto denied = [&](const QString& right) { return gruppe.Fields(right).Value() != Value(true); };
     BarGroup* organisation = session().GruppeOrganisation;
     BarGroup* system = session().GruppeSystem;
     if (denied(u"Fangbuch"_qs)) removeItem(organisation, u"Fangbuch"_qs);

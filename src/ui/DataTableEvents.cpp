@@ -1,4 +1,5 @@
 #include "DataTable.h"
+#include "FocusMove.h"
 
 #include "DataTableLook.h"
 #include "DataTableModel.h"
@@ -8,13 +9,7 @@
 #include <QPointer>
 #include <QToolTip>
 
-namespace {
-
-bool isPopup(const QFocusEvent& event) {
-    return event.reason() == Qt::PopupFocusReason || event.reason() == Qt::MenuBarFocusReason;
-}
-
-} // namespace
+namespace {} // namespace
 
 // What the user does in the grid, told as its events. Handlers may change the rows and even close the screen
 // with the grid on it, so nothing of the grid is touched after an event unless it is known to be alive.
@@ -112,12 +107,12 @@ void DataTable::keyPressEvent(QKeyEvent* event) {
 
 void DataTable::focusInEvent(QFocusEvent* event) {
     QTreeView::focusInEvent(event);
-    if (!isPopup(*event)) Q_EMIT OnGridGotFocus();
+    if (movesFocus(event->reason())) Q_EMIT OnGridGotFocus();
 }
 
 void DataTable::focusOutEvent(QFocusEvent* event) {
     QTreeView::focusOutEvent(event);
-    if (!isPopup(*event)) Q_EMIT OnGridLostFocus();
+    if (movesFocus(event->reason())) Q_EMIT OnGridLostFocus();
 }
 
 bool DataTable::viewportEvent(QEvent* event) {

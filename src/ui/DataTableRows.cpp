@@ -49,7 +49,14 @@ Value plainValue(Value::Kind kind, quint64 word) {
     return {};
 }
 
-QString shown(const Value& value) { return value.isNull() ? QString() : CStr(value); }
+/// A day outside the calendar has no text; painting must go on all the same.
+QString shown(const Value& value) {
+    try {
+        return value.isNull() ? QString() : CStr(value);
+    } catch (const RuntimeError&) {
+        return {};
+    }
+}
 
 } // namespace
 

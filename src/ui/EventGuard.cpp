@@ -9,6 +9,7 @@ namespace {
 std::function<void(const RuntimeError&)> eventFailure;
 std::vector<std::function<void()>> tasksAfterwards;
 int handlersOnStack = 0;
+bool ended = false;
 
 class HandlerOnStack {
 public:
@@ -36,9 +37,12 @@ void handOver(const RuntimeError& error) {
 } // namespace
 
 void runEvent(const std::function<void()>& handler) {
+    if (ended) return;
     const HandlerOnStack onStack;
     try {
         handler();
+    } catch (const ProgramEnded&) {
+        // Nobody is left to tell.
     } catch (const RuntimeError& error) {
         handOver(error);
     } catch (const std::bad_alloc&) {
@@ -47,6 +51,10 @@ void runEvent(const std::function<void()>& handler) {
         handOver({440, QString::fromLocal8Bit(error.what())});
     }
 }
+
+void setEventsEnded(bool on) { ended = on; }
+
+bool eventsEnded() { return ended; }
 
 void setEventFailure(std::function<void(const RuntimeError&)> failure) { eventFailure = std::move(failure); }
 

@@ -10,6 +10,15 @@
 /// Without a failure routine the exception flies on.
 void runEvent(const std::function<void()>& handler);
 
+/// The program has ended, or begins anew: while ended, handlers are not run any more, whatever the windows on
+/// their way out still send.
+void setEventsEnded(bool ended);
+bool eventsEnded();
+
+/// Thrown where a routine that is still on the stack after the program's end would begin something new; ends
+/// that routine and goes no further than the handler it runs in.
+struct ProgramEnded {};
+
 /// What to do with an error that nobody caught; put there by the start-up.
 void setEventFailure(std::function<void(const RuntimeError&)> failure);
 

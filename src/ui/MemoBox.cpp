@@ -25,6 +25,7 @@ MemoBox::MemoBox(const QString& name, QWidget* parent)
     setObjectName(name);
     setTabChangesFocus(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    whenFocusIsElsewhere(this, [this] { loseFocus(); });
 }
 
 QString MemoBox::Text() const { return toPlainText().replace(u'\n', u"\r\n"_qs); }
@@ -75,7 +76,11 @@ void MemoBox::focusInEvent(QFocusEvent* event) {
 
 void MemoBox::focusOutEvent(QFocusEvent* event) {
     QPlainTextEdit::focusOutEvent(event);
-    if (!movesFocus(event->reason())) return;
+    if (movesFocus(event->reason())) loseFocus();
+}
+
+void MemoBox::loseFocus() {
+    if (!m_hasFocus) return;
     m_hasFocus = false;
     Q_EMIT LostFocus();
 }

@@ -29,6 +29,8 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
+    void loseFocus();
+
     QString whatFits(const QString& text) const;
 
     int m_limit = 0;

@@ -26,16 +26,15 @@ QMessageBox::Icon iconOf(int style) {
 
 QWidget* windowBelow() {
     if (QWidget* active = QApplication::activeWindow()) return active;
+    if (QWidget* modal = QApplication::activeModalWidget()) return modal;
     const Stage* stage = Stage::current();
     QWidget* frame = stage ? stage->window() : nullptr;
     return frame && frame->isVisible() ? frame : nullptr;
 }
 
-// The toolkit's own German words are a package apart, which may be missing.
-void addButton(QMessageBox& box, QMessageBox::StandardButton which, const QString& english,
-               const QString& german) {
-    QPushButton* button = box.addButton(which);
-    if (button->text() == english) button->setText(german);
+// The toolkit's own words may be missing, or be those of a desktop in another language.
+void addButton(QMessageBox& box, QMessageBox::StandardButton which, const QString& german) {
+    box.addButton(which)->setText(german);
 }
 
 } // namespace
@@ -48,8 +47,8 @@ MsgBoxResult QtMessageBoxes::show(const QString& text, int style, const QString&
     box.setTextFormat(Qt::PlainText);
     box.setText(withPlainBreaks(text));
     if (question) {
-        addButton(box, QMessageBox::Yes, u"&Yes"_qs, u"&Ja"_qs);
-        addButton(box, QMessageBox::No, u"&No"_qs, u"&Nein"_qs);
+        addButton(box, QMessageBox::Yes, u"&Ja"_qs);
+        addButton(box, QMessageBox::No, u"&Nein"_qs);
         box.setDefaultButton(QMessageBox::Yes);
         box.setEscapeButton(QMessageBox::No);
     } else {

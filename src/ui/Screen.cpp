@@ -191,8 +191,8 @@ bool Screen::isOnItsWay(const QWidget* control, const QKeyEvent* event) const {
 }
 
 bool Screen::previewKey(QWidget* control, QKeyEvent* event) {
-    const QWidget* window = control->window();
-    const bool own = window == this->window() || window->windowType() == Qt::Popup;
+    // Keys of a menu or of a list that hangs open are that one's alone.
+    const bool own = control->window() == this->window();
     const bool seen = isOnItsWay(control, event);
     m_key = event;
     m_keyAt = control;

@@ -42,6 +42,7 @@ T* aliveScreen() {
 template<typename T>
 T& screen() {
     if (T* alive = detail::aliveScreen<T>()) return *alive;
+    if (eventsEnded()) throw ProgramEnded{};
     T* made = new T;
     detail::screenSlot<T>() = made;
     Screens::add(made);

@@ -2,13 +2,16 @@
 
 #include "Screen.h"
 
+#include <QTabBar>
+
 namespace {
 
 Stage* stageInForce = nullptr;
 
+// A tab bar can have the focus, but what a user comes for is the first field on its page.
 bool takesFocus(const QWidget* control, const Screen* screen) {
-    return (control->focusPolicy() & Qt::TabFocus) && control->isEnabled() && control->isVisibleTo(screen) &&
-           screen->isAncestorOf(control);
+    return !qobject_cast<const QTabBar*>(control) && (control->focusPolicy() & Qt::TabFocus) &&
+           control->isEnabled() && control->isVisibleTo(screen) && screen->isAncestorOf(control);
 }
 
 // The control that had the focus when the screen was last in front, or its first one.
@@ -47,6 +50,8 @@ void Stage::bringToFront(Screen* screen) {
     uncover(screen);
     if (before == screen) return;
     if (before) before->hide();
+    // What lost the focus may have pulled it back into the screen that has just gone.
+    focusInto(screen);
     announce();
     settle();
 }
@@ -68,7 +73,11 @@ void Stage::uncover(Screen* screen) {
     screen->show();
     screen->raise();
     updateGeometry();
-    QWidget* focused = window()->focusWidget();
+    focusInto(screen);
+}
+
+void Stage::focusInto(Screen* screen) {
+    const QWidget* focused = window()->focusWidget();
     if (!focused || !screen->isAncestorOf(focused)) focusOf(screen)->setFocus(Qt::OtherFocusReason);
 }
 

@@ -43,6 +43,7 @@ protected:
 
 private:
     void uncover(Screen* screen);
+    void focusInto(Screen* screen);
     void announce();
     void settle();
 

@@ -33,6 +33,17 @@ QList<uint> codesOf(const QKeyEvent* event) {
 TextBox::TextBox(const QString& name, QWidget* parent)
     : QLineEdit(parent) {
     setObjectName(name);
+    whenFocusIsElsewhere(this, [this] { loseFocus(); });
+    connect(this, &QLineEdit::textEdited, this, &TextBox::joinLines);
+}
+
+// A text pasted from elsewhere may end in a line break, which one line cannot show and nobody means to keep.
+void TextBox::joinLines(const QString& pasted) {
+    if (!pasted.contains(u'\n') && !pasted.contains(u'\r')) return;
+    const int caret = cursorPosition();
+    QLineEdit::setText(
+        QString(pasted).replace(u"\r\n"_qs, u" "_qs).replace(u'\n', u' ').replace(u'\r', u' ').trimmed());
+    setCursorPosition(caret);
 }
 
 bool TextBox::admits(int code) {
@@ -88,7 +99,11 @@ void TextBox::focusInEvent(QFocusEvent* event) {
 
 void TextBox::focusOutEvent(QFocusEvent* event) {
     QLineEdit::focusOutEvent(event);
-    if (!movesFocus(event->reason())) return;
+    if (movesFocus(event->reason())) loseFocus();
+}
+
+void TextBox::loseFocus() {
+    if (!m_hasFocus) return;
     m_hasFocus = false;
     m_selectOnRelease = false;
     Q_EMIT LostFocus();

@@ -39,6 +39,9 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
+    void loseFocus();
+    void joinLines(const QString& pasted);
+
     bool admits(int code);
 
     KeyFilter m_filter;
