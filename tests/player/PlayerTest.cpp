@@ -13,6 +13,7 @@ std::string told(const QString& script) {
     testing::internal::CaptureStderr();
     {
         PlayedProgram program(folder.path() + u"/programm"_qs, folder.path());
+        setEventsEnded(false); // the program of the test before has ended them
         screen<Probe>().Show();
         Player player(parseScript(u"start\n"_qs + script), program, {u"probe.txt"_qs, false});
         player.play();
@@ -219,6 +220,7 @@ TEST(Player, TellsEveryFailureAndPlaysTheRest) {
     };
     QString script;
     for (const Fault& fault : faults) script += fault.line + u'\n';
+    setEventsEnded(false);
     screen<Innen>();
     EXPECT_EQ(told(script + u"boxes"_qs), tale(faults, 2));
 }
