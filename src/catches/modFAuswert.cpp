@@ -63,15 +63,19 @@ void zeigeSumme(ErrorTail& step, Recordset& summe, ValueLabel* label, const QStr
 }
 
 void fuelleListe(ErrorTail& step, Recordset& liste, Fangauswertung& form) {
+    qint64 count = 0;
+    std::array<Value, 7> zeile;
+    std::vector<Field> felder;
     form.pb->show();
     step([&] { liste.MoveFirst(); });
-    qint64 count = 0;
+    step([&] { felder = liste.Fields(); });
     while (step.test([&] { return !liste.Eof(); })) {
         step([&] {
-            form.tblFAusw->appendRow(
-                {liste.Collect(u"FangNr"_qs), liste.Collect(u"FName"_qs), liste.Collect(u"GName"_qs),
-                 modRun::ErmittleMonatsname(CLng(liste.Collect(u"FangMonat"_qs))),
-                 liste.Collect(u"FangJahr"_qs), liste.Collect(u"Anzahl"_qs), liste.Collect(u"Gewicht"_qs)});
+            for (std::size_t i = 0; i < felder.size(); ++i) zeile[i] = felder[i].Value();
+            // The grid has the month, by its name, before the year.
+            std::swap(zeile[3], zeile[4]);
+            zeile[3] = modRun::ErmittleMonatsname(CLng(zeile[3]));
+            form.tblFAusw->appendRow(zeile);
         });
         step([&] { liste.MoveNext(); });
         form.pb->setProgress(++count);

@@ -67,7 +67,7 @@ void zeigeNeuen(ErrorTail& step, const Recordset& fang, Fangbuch& form) {
     step([&] { zeile[4] = fang.Collect(u"Anzahl"_qs); });
     step([&] { zeile[5] = fang.Collect(u"Gewicht"_qs); });
     if (step.test([&] { return imGewaehltenMonat(form); })) {
-        step([&] { form.tblFList->appendRow(std::move(zeile)); });
+        step([&] { form.tblFList->appendRow(zeile); });
         form.tblFList->refresh();
     }
 }
@@ -111,7 +111,7 @@ void UpdateFang(int row) {
                                         form.txtAnzahl->Text(), form.txtGewicht->Text()};
             step([&] { form.tblFList->removeRow(row); });
             if (step.test([&] { return imGewaehltenMonat(form); })) {
-                step([&] { form.tblFList->insertRow(row, std::move(zeile)); });
+                step([&] { form.tblFList->insertRow(row, zeile); });
                 form.tblFList->refresh();
             }
         }

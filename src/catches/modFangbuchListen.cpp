@@ -26,13 +26,15 @@ Recordset abfrage(const QString& select) {
 /// The entries of the month, streamed from the file into the grid.
 void fuelleListe(ErrorTail& step, Recordset& liste, DataTable* grid, ProgressBar* pb) {
     qint64 count = 0;
+    std::array<Value, 6> zeile;
+    std::vector<Field> felder;
     step([&] { liste.MoveFirst(); });
+    step([&] { felder = liste.Fields(); });
     while (step.test([&] { return !liste.Eof(); })) {
         step([&] {
-            grid->appendRow({liste.Collect(u"FangNr"_qs), liste.Collect(u"FName"_qs),
-                             liste.Collect(u"GName"_qs),
-                             modRun::ErmittleMonatsname(CLng(liste.Collect(u"FangMonat"_qs))),
-                             liste.Collect(u"Anzahl"_qs), liste.Collect(u"Gewicht"_qs)});
+            for (std::size_t i = 0; i < felder.size(); ++i) zeile[i] = felder[i].Value();
+            zeile[3] = modRun::ErmittleMonatsname(CLng(zeile[3]));
+            grid->appendRow(zeile);
         });
         step([&] { liste.MoveNext(); });
         pb->setProgress(++count);

@@ -1,9 +1,8 @@
 #include "StagedRows.h"
 
 StagedRows::StagedRows(ADODB::Recordset& rows)
-    : m_rows(rows) {
-    for (const QString& name : rows.FieldNames()) m_fields.push_back(rows.Fields(name));
-}
+    : m_rows(rows)
+    , m_fields(rows.Fields()) {}
 
 bool StagedRows::next(std::vector<Value>& row) {
     if (m_begun)

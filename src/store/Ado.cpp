@@ -3,7 +3,6 @@
 #include "Connection.h"
 #include "Database.h"
 #include "RuntimeError.h"
-#include "Schema.h"
 
 namespace ADODB {
 
@@ -35,8 +34,6 @@ void Connection::Close() {
 
 void Recordset::Open(const QString& table, const Connection& connection, CursorType, LockType, CommandType) {
     m_rows = Database(connection.m_connection).OpenRecordset(table, dbOpenTable);
-    m_fieldNames.clear();
-    for (const FieldSpec& field : findTable(table)->fields) m_fieldNames.append(field.name.toString());
 }
 
 } // namespace ADODB

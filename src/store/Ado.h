@@ -38,7 +38,7 @@ public:
     void Open(const QString& table, const Connection& connection, CursorType cursor, LockType lock,
               CommandType type);
     /// The table's fields in their order.
-    const QStringList& FieldNames() const { return m_fieldNames; }
+    QStringList FieldNames() const { return m_rows.FieldNames(); }
     bool Bof() const { return m_rows.Bof(); }
     bool Eof() const { return m_rows.Eof(); }
     void MoveFirst() { m_rows.MoveFirst(); }
@@ -47,13 +47,12 @@ public:
     void AddNew() { m_rows.AddNew(); }
     void Collect(const QString& field, const Value& value) { m_rows.Collect(field, value); }
     Value Collect(const QString& field) const { return m_rows.Collect(field); }
-    Field Fields(const QString& field) const { return m_rows.Fields(field); }
+    std::vector<Field> Fields() const { return m_rows.Fields(); }
     void Update() { m_rows.Update(); }
     void Close() { m_rows.Close(); }
 
 private:
     ::Recordset m_rows;
-    QStringList m_fieldNames;
 };
 
 } // namespace ADODB

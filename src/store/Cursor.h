@@ -4,6 +4,7 @@
 #include "CopyBuffer.h"
 #include "RowWriter.h"
 
+#include <QStringList>
 #include <memory>
 #include <optional>
 
@@ -22,6 +23,7 @@ public:
 
     /// Error 3265 if there is none.
     virtual int columnIndex(const QString& name) const = 0;
+    virtual QStringList columnNames() const = 0;
     Value value(int column);
 
     virtual void moveFirst() = 0;

@@ -17,6 +17,12 @@ int QueryCursor::columnIndex(const QString& name) const {
     throw runtimeError(3265, name);
 }
 
+QStringList QueryCursor::columnNames() const {
+    QStringList names;
+    for (const ResultColumn& column : m_rows.plan().columns) names.append(column.name);
+    return names;
+}
+
 int QueryCursor::fieldOfColumn(int column) const {
     return m_rows.plan().columns[static_cast<size_t>(column)].field;
 }

@@ -8,6 +8,7 @@ public:
     QueryCursor(std::shared_ptr<Connection> connection, QStringView select);
 
     int columnIndex(const QString& name) const override;
+    QStringList columnNames() const override;
     void moveFirst() override;
     void moveLast() override;
     void moveNext() override;

@@ -40,6 +40,15 @@ Field Recordset::Fields(const QString& name) const {
     return {m_cursor, column};
 }
 
+std::vector<Field> Recordset::Fields() const {
+    std::vector<Field> fields;
+    const int count = static_cast<int>(cursor().columnNames().size());
+    for (int column = 0; column < count; ++column) fields.push_back(Field(m_cursor, column));
+    return fields;
+}
+
+QStringList Recordset::FieldNames() const { return cursor().columnNames(); }
+
 void Recordset::AddNew() { cursor().addNew(); }
 
 void Recordset::Edit() { cursor().edit(); }

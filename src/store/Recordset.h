@@ -2,7 +2,9 @@
 
 #include "Value.h"
 
+#include <QStringList>
 #include <memory>
+#include <vector>
 
 enum RecordsetType { dbOpenTable = 1, dbOpenDynaset = 2 };
 
@@ -50,6 +52,9 @@ public:
     qint32 AbsolutePosition() const;
 
     Field Fields(const QString& name) const;
+    /// All of them, in the order of the table or of the SELECT.
+    std::vector<Field> Fields() const;
+    QStringList FieldNames() const;
 
     void AddNew();
     void Edit(); ///< needs a current row (3021)

@@ -33,6 +33,12 @@ int TableCursor::columnIndex(const QString& name) const {
     return index;
 }
 
+QStringList TableCursor::columnNames() const {
+    QStringList names;
+    for (const FieldSpec& field : m_table.fields) names.append(field.name.toString());
+    return names;
+}
+
 Value TableCursor::storedValue(int column) {
     return m_rows->column(column + 1, m_table.fields[static_cast<size_t>(column)].kind);
 }

@@ -8,6 +8,7 @@ public:
     TableCursor(std::shared_ptr<Connection> connection, const TableSpec& table);
 
     int columnIndex(const QString& name) const override;
+    QStringList columnNames() const override;
     void moveFirst() override;
     void moveLast() override;
     void moveNext() override;

@@ -73,12 +73,12 @@ int DataTable::rowCount() const { return m_model->rows(m_current.parentRow); }
 
 void DataTable::clearRows() { m_model->clear(m_current.parentRow); }
 
-void DataTable::appendRow(std::vector<Value> cells) {
+void DataTable::appendRow(std::span<const Value> cells) {
     m_model->append(m_current.parentRow, cells);
     schedulePublish();
 }
 
-void DataTable::insertRow(int row, std::vector<Value> cells) {
+void DataTable::insertRow(int row, std::span<const Value> cells) {
     m_model->insert(m_current.parentRow, row, cells);
     schedulePublish();
 }
@@ -219,6 +219,7 @@ void DataTable::showColumns() {
     if (columns.isEmpty()) return;
     const QScopedValueRollback fitting(m_fitting, true);
     m_widths.clear();
+    m_sizedByUser.fill(false, columns.size());
     for (int column = 0; column < columns.size(); ++column) {
         m_widths.push_back(std::max(columns[column].width, columns[column].minimumWidth));
         heads->setSectionResizeMode(column, QHeaderView::Interactive);
@@ -234,7 +235,10 @@ void DataTable::showColumns() {
 void DataTable::columnResized(int section, int width) {
     if (m_fitting || section >= m_widths.size()) return;
     // Width 0 comes while a column is being hidden, and is no wish of the user's.
-    if (width > 0) m_widths[section] = std::max(width, m_model->shownColumns()[section].minimumWidth);
+    if (width > 0) {
+        m_widths[section] = std::max(width, m_model->shownColumns()[section].minimumWidth);
+        m_sizedByUser[section] = true;
+    }
     fitColumns();
 }
 
@@ -245,7 +249,8 @@ QVector<int> DataTable::elasticColumns() const {
     for (int column = 0; column < m_widths.size(); ++column) {
         if (header()->sectionSize(column) == 0) continue;
         last = column;
-        if (!columns[column].numeric && !columns[column].picture) elastic.push_back(column);
+        if (!columns[column].numeric && !columns[column].picture && !m_sizedByUser[column])
+            elastic.push_back(column);
     }
     if (elastic.isEmpty() && last >= 0) elastic.push_back(last);
     return elastic;

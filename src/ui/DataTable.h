@@ -6,6 +6,7 @@
 #include <QTreeView>
 #include <QVector>
 #include <memory>
+#include <span>
 #include <vector>
 
 class DataTableModel;
@@ -47,9 +48,11 @@ public:
     int rowCount() const;
     /// Of the top level: drops the child tables as well.
     void clearRows();
-    void appendRow(std::vector<Value> cells);
+    void appendRow(std::span<const Value> cells);
+    void appendRow(std::initializer_list<Value> cells) { appendRow(std::span(cells)); }
     /// A row beyond the end is appended.
-    void insertRow(int row, std::vector<Value> cells);
+    void insertRow(int row, std::span<const Value> cells);
+    void insertRow(int row, std::initializer_list<Value> cells) { insertRow(row, std::span(cells)); }
     /// A row that is not there is left alone.
     void removeRow(int row);
     /// Removes every row whose text in the column is this one; gives how many.
@@ -160,5 +163,6 @@ private:
     TableHandle m_current;
     bool m_publishScheduled = false;
     bool m_fitting = false;
-    QVector<int> m_widths; ///< as given or as the user wants them; elastic columns may get more or less
+    QVector<bool> m_sizedByUser; ///< such a column keeps its width as long as another can give
+    QVector<int> m_widths;       ///< as given or as the user wants them; elastic columns may get more or less
 };

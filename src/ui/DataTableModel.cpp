@@ -68,13 +68,13 @@ void DataTableModel::clear(int owner) {
     if (known) endResetModel();
 }
 
-void DataTableModel::append(int owner, const std::vector<Value>& cells) {
+void DataTableModel::append(int owner, std::span<const Value> cells) {
     table(owner).rows.append(cells, m_texts);
     if (owner == top && isTwoLevel()) m_children.emplace_back();
     m_behind = true;
 }
 
-void DataTableModel::insert(int owner, int row, const std::vector<Value>& cells) {
+void DataTableModel::insert(int owner, int row, std::span<const Value> cells) {
     Table& changed = table(owner);
     if (row >= changed.rows.rowCount()) {
         append(owner, cells);

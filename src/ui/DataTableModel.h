@@ -2,6 +2,7 @@
 
 #include "DataTableColumn.h"
 #include "DataTableRows.h"
+#include <span>
 
 #include <QAbstractItemModel>
 #include <QColor>
@@ -37,8 +38,12 @@ public:
 
     int rows(int table) const;
     void clear(int table);
-    void append(int table, const std::vector<Value>& cells);
-    void insert(int table, int row, const std::vector<Value>& cells);
+    void append(int table, std::span<const Value> cells);
+    void append(int table, std::initializer_list<Value> cells) { append(table, std::span(cells)); }
+    void insert(int table, int row, std::span<const Value> cells);
+    void insert(int table, int row, std::initializer_list<Value> cells) {
+        insert(table, row, std::span(cells));
+    }
     void remove(int table, int row);
     int removeWithText(int table, int column, const QString& text);
     Value value(int table, int row, int column) const;

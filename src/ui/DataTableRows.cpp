@@ -68,11 +68,11 @@ DataTableRows::Wanted::Wanted(const QString& text, const DataTableTexts& texts)
     if (whole && CStr(number) == text) m_number = number;
 }
 
-void DataTableRows::append(const std::vector<Value>& cells, DataTableTexts& texts) {
+void DataTableRows::append(std::span<const Value> cells, DataTableTexts& texts) {
     m_rows.push_back(packed(cells, texts));
 }
 
-void DataTableRows::insert(int row, const std::vector<Value>& cells, DataTableTexts& texts) {
+void DataTableRows::insert(int row, std::span<const Value> cells, DataTableTexts& texts) {
     if (row < 0 || row > rowCount()) throw runtimeError(9);
     m_rows.insert(m_rows.begin() + row, packed(cells, texts));
 }
@@ -123,7 +123,7 @@ std::size_t DataTableRows::memoryInUse() const {
     return m_rows.capacity() * sizeof(Row) + m_rows.size() * allocated(words() * sizeof(quint64));
 }
 
-DataTableRows::Row DataTableRows::packed(const std::vector<Value>& cells, DataTableTexts& texts) const {
+DataTableRows::Row DataTableRows::packed(std::span<const Value> cells, DataTableTexts& texts) const {
     static const Value null;
     Row row = std::make_unique_for_overwrite<quint64[]>(words());
     for (std::size_t column = 0; column < m_columns; ++column) {

@@ -2,6 +2,7 @@
 
 #include "DataTableTexts.h"
 #include "Value.h"
+#include <span>
 
 #include <memory>
 
@@ -29,8 +30,8 @@ public:
     int columnCount() const { return static_cast<int>(m_columns); }
 
     /// Missing cells become Null; what is beyond the columns is dropped.
-    void append(const std::vector<Value>& cells, DataTableTexts& texts);
-    void insert(int row, const std::vector<Value>& cells, DataTableTexts& texts);
+    void append(std::span<const Value> cells, DataTableTexts& texts);
+    void insert(int row, std::span<const Value> cells, DataTableTexts& texts);
     void remove(int row);
     /// Removes these rows, which must be sorted, in one pass.
     void remove(const std::vector<int>& rows);
@@ -51,7 +52,7 @@ private:
     using Row = std::unique_ptr<quint64[]>;
 
     std::size_t words() const { return m_columns + (m_columns + 7) / sizeof(quint64); }
-    Row packed(const std::vector<Value>& cells, DataTableTexts& texts) const;
+    Row packed(std::span<const Value> cells, DataTableTexts& texts) const;
     void put(quint64* row, int column, const Value& value, DataTableTexts& texts) const;
     Value::Kind kind(const quint64* row, int column) const;
     bool matches(const quint64* row, int column, const Wanted& wanted) const;
