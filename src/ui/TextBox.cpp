@@ -46,6 +46,11 @@ void TextBox::joinLines(const QString& pasted) {
     setCursorPosition(caret);
 }
 
+void TextBox::setText(const QString& text) {
+    QLineEdit::setText(text);
+    if (!hasFocus()) setCursorPosition(0);
+}
+
 bool TextBox::admits(int code) {
     Q_EMIT KeyPress(code);
     return !m_filter || m_filter(code) != 0;

@@ -16,7 +16,8 @@ public:
     explicit TextBox(const QString& name, QWidget* parent = nullptr);
 
     QString Text() const { return text(); }
-    void setText(const QString& text) { QLineEdit::setText(text); }
+    /// Shows the beginning of a text that is too long for the box, unless somebody is typing in it.
+    void setText(const QString& text);
     /// Characters beyond are refused.
     void setLimit(int characters) { setMaxLength(characters); }
     void setKeyFilter(KeyFilter filter) { m_filter = std::move(filter); }
