@@ -11,9 +11,9 @@ RawFile::RawFile(const QString& path) {
 
 void RawFile::execute(const char* sql) { check(sqlite3_exec(m_handle, sql, nullptr, nullptr, nullptr)); }
 
-sqlite3_stmt* RawFile::prepare(const char* sql) {
+sqlite3_stmt* RawFile::prepare(const QByteArray& sql) {
     sqlite3_stmt* statement = nullptr;
-    check(sqlite3_prepare_v2(m_handle, sql, -1, &statement, nullptr));
+    check(sqlite3_prepare_v2(m_handle, sql.constData(), -1, &statement, nullptr));
     return statement;
 }
 

@@ -14,7 +14,7 @@ public:
     sqlite3* handle() const { return m_handle; }
     /// Aborts the benchmark with the library's words if a statement fails.
     void execute(const char* sql);
-    sqlite3_stmt* prepare(const char* sql);
+    sqlite3_stmt* prepare(const QByteArray& sql);
 
 private:
     void check(int code) const;

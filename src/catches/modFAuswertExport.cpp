@@ -20,7 +20,9 @@ namespace {
 QString fangdatum(const QString& jahr, const QString& monatsname) {
     constexpr int lastOfOneDigit = 9;
     const int monat = modRun::ErmittleMonatsNr(monatsname);
-    return jahr + (monat <= lastOfOneDigit ? u".0"_qs : u"."_qs) + QString::number(monat);
+    QString datum = jahr;
+    datum += monat <= lastOfOneDigit ? QStringView(u".0") : QStringView(u".");
+    return datum += QString::number(monat);
 }
 
 void schreibeZeile(CsvDatei& datei, const DataTable& grid, int row) {

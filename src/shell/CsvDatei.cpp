@@ -12,16 +12,22 @@ constexpr int diskFull = 61;
 constexpr int accessDenied = 70;
 constexpr int pathNotFound = 76;
 
-/// As the code page has them; most texts of a list are plain ASCII and need no table.
+/// As the code page has them. It agrees with the first signs of Unicode but for a gap, so that German texts
+/// need no table.
 void appendEncoded(QByteArray& buffer, QStringView text) {
+    constexpr char16_t gapBegin = 0x80, gapEnd = 0xa0, beyond = 0x100;
+    const qsizetype before = buffer.size();
+    buffer.resize(before + text.size());
+    char* out = buffer.data() + before;
     for (const QChar sign : text) {
-        constexpr char16_t lastOfAscii = 0x7f;
-        if (sign.unicode() > lastOfAscii) {
+        const char16_t code = sign.unicode();
+        if (code >= beyond || (code >= gapBegin && code < gapEnd)) {
+            buffer.resize(before);
             buffer += toWindows1252(text.toString());
             return;
         }
+        *out++ = static_cast<char>(code);
     }
-    for (const QChar sign : text) buffer += static_cast<char>(sign.unicode());
 }
 
 } // namespace
@@ -39,8 +45,8 @@ void CsvDatei::writeHead(const QString& head) {
     m_buffer += ';';
 }
 
-void CsvDatei::writeField(const QString& text, int length, Fill fill) {
-    QStringView field = QStringView(text).left(length);
+void CsvDatei::writeField(QStringView text, int length, Fill fill) {
+    QStringView field = text.left(length);
     if (fill == Fill::Trimmed)
         while (field.endsWith(u' ')) field.chop(1);
     appendEncoded(m_buffer, field);
@@ -61,5 +67,5 @@ void CsvDatei::close() {
 
 void CsvDatei::flush() {
     if (m_file.write(m_buffer) != m_buffer.size()) throw runtimeError(diskFull);
-    m_buffer.clear();
+    m_buffer.resize(0); // keeps its room
 }

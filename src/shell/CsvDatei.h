@@ -16,7 +16,7 @@ public:
     explicit CsvDatei(const QString& path);
 
     void writeHead(const QString& head);
-    void writeField(const QString& text, int length, Fill fill = Fill::Trimmed);
+    void writeField(QStringView text, int length, Fill fill = Fill::Trimmed);
     void endLine();
     void close();
 
