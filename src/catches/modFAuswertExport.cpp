@@ -26,13 +26,12 @@ QString fangdatum(const QString& jahr, const QString& monatsname) {
 }
 
 void schreibeZeile(CsvDatei& datei, const DataTable& grid, int row) {
-    const auto text = [&](int column) { return grid.cellText(row, column); };
-    datei.writeField(text(0), 15, CsvDatei::Fill::Padded);
-    datei.writeField(text(1), 50);
-    datei.writeField(text(2), 50);
-    datei.writeField(fangdatum(text(4), text(3)), 20);
-    datei.writeField(text(5), 5);
-    datei.writeField(text(6), 10);
+    datei.writeField(grid.cell(row, 0), 15, CsvDatei::Fill::Padded);
+    datei.writeField(grid.cell(row, 1), 50);
+    datei.writeField(grid.cell(row, 2), 50);
+    datei.writeText(fangdatum(grid.cellText(row, 4), grid.cellText(row, 3)), 20);
+    datei.writeField(grid.cell(row, 5), 5);
+    datei.writeField(grid.cell(row, 6), 10);
     datei.endLine();
 }
 

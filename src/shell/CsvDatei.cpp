@@ -1,9 +1,13 @@
 #include "CsvDatei.h"
 
 #include "CodePage.h"
+#include "Conversions.h"
 #include "RuntimeError.h"
 
 #include <QFileInfo>
+#include <algorithm>
+#include <array>
+#include <charconv>
 
 namespace {
 
@@ -45,12 +49,29 @@ void CsvDatei::writeHead(const QString& head) {
     m_buffer += ';';
 }
 
-void CsvDatei::writeField(QStringView text, int length, Fill fill) {
+void CsvDatei::writeText(QStringView text, int length, Fill fill) {
     QStringView field = text.left(length);
     if (fill == Fill::Trimmed)
         while (field.endsWith(u' ')) field.chop(1);
     appendEncoded(m_buffer, field);
-    if (fill == Fill::Padded) m_buffer.append(length - field.size(), ' ');
+    fillUp(field.size(), length, fill);
+}
+
+// Half of a list are whole numbers: they need no text of their own on the way.
+void CsvDatei::writeField(const Value& cell, int length, Fill fill) {
+    if (cell.kind() != Value::Kind::Long) {
+        const QString text = cell.isNull() ? QString() : CStr(cell);
+        return writeText(QStringView(text), length, fill);
+    }
+    std::array<char, 12> digits;
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), cell.number()).ptr;
+    const qsizetype written = std::min<qsizetype>(end - digits.data(), length);
+    m_buffer.append(digits.data(), written);
+    fillUp(written, length, fill);
+}
+
+void CsvDatei::fillUp(qsizetype written, int length, Fill fill) {
+    if (fill == Fill::Padded) m_buffer.append(length - written, ' ');
     m_buffer += ';';
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Value.h"
+
 #include <QByteArray>
 #include <QFile>
 #include <QString>
@@ -16,11 +18,14 @@ public:
     explicit CsvDatei(const QString& path);
 
     void writeHead(const QString& head);
-    void writeField(QStringView text, int length, Fill fill = Fill::Trimmed);
+    void writeText(QStringView text, int length, Fill fill = Fill::Trimmed);
+    /// A cell as it stands on the screen; Null is empty.
+    void writeField(const Value& cell, int length, Fill fill = Fill::Trimmed);
     void endLine();
     void close();
 
 private:
+    void fillUp(qsizetype written, int length, Fill fill);
     void flush();
 
     QFile m_file;
