@@ -51,8 +51,11 @@ protected:
 
     Connection& connection() const { return *m_connection; }
     Place place() const { return m_place; }
-    /// Moving gives up an unfinished change.
+    /// Moving gives up an unfinished change. To be at no row already when a step is tried: one that fails
+    /// leaves no row to read.
     void moveTo(Place place);
+    /// As above when the cursor is there already.
+    void stay() { m_buffer.end(); }
     /// Error 3021 without a current row, 3167 on one that was deleted.
     void requireRow() const;
 

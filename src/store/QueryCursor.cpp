@@ -1,13 +1,11 @@
 #include "QueryCursor.h"
 
+#include <utility>
+
 QueryCursor::QueryCursor(std::shared_ptr<Connection> connection, QStringView select)
     : Cursor(std::move(connection))
     , m_rows(this->connection().select(select)) {
-    m_complete = !m_rows->step();
-    if (m_complete) return;
-    m_reached = 1;
-    m_position = 0;
-    moveTo(Place::Row);
+    start();
 }
 
 int QueryCursor::columnIndex(const QString& name) const {
@@ -27,69 +25,130 @@ int QueryCursor::fieldOfColumn(int column) const {
     return m_rows.plan().columns[static_cast<size_t>(column)].field;
 }
 
-Value QueryCursor::storedValue(int column) {
-    catchUp();
+Value QueryCursor::streamedValue(int column) const {
     const SelectPlan& plan = m_rows.plan();
     return m_rows->column(column + plan.firstColumn(), plan.columns[static_cast<size_t>(column)].kind);
 }
 
-qint64 QueryCursor::storedRow() {
-    catchUp();
-    return m_rows->integer(0);
+void QueryCursor::hold() {
+    const SelectPlan& plan = m_rows.plan();
+    HeldRow held{.number = plan.editable != nullptr ? m_rows->integer(0) : 0, .values = {}};
+    held.values.reserve(plan.columns.size());
+    for (int column = 0; column < static_cast<int>(plan.columns.size()); ++column) {
+        try {
+            held.values.emplace_back(streamedValue(column));
+        } catch (const RuntimeError& error) {
+            held.values.emplace_back(error);
+        }
+    }
+    m_held = std::move(held);
 }
 
-void QueryCursor::restart() {
+Value QueryCursor::storedValue(int column) {
+    catchUp();
+    if (!m_held) return streamedValue(column);
+    const auto& value = m_held->values[static_cast<size_t>(column)];
+    if (const auto* error = std::get_if<RuntimeError>(&value)) throw *error;
+    return std::get<Value>(value);
+}
+
+qint64 QueryCursor::storedRow() {
+    catchUp();
+    return m_held ? m_held->number : m_rows->integer(0);
+}
+
+qint32 QueryCursor::recordCount() const { return m_complete ? m_reached : std::max(m_reached, 1); }
+
+void QueryCursor::start() {
+    moveTo(Place::After);
     m_rows->reset();
-    m_behind = false;
+    m_held.reset();
+    m_stream = Stream::Nothing;
     m_position = 0;
     const bool found = m_rows->step();
-    moveTo(found ? Place::Row : Place::After);
-    requireRow();
+    if (found) {
+        hold();
+        if (m_rows->step()) m_stream = Stream::NextRow;
+    }
+    const qint32 known = found ? 1 : 0;
+    m_complete = m_complete || m_stream == Stream::Nothing;
+    m_reached = m_stream == Stream::Nothing ? known : std::max(m_reached, known);
+    moveTo(found ? Place::Row : Place::Empty);
 }
 
 void QueryCursor::moveFirst() {
-    if (m_reached == 0) throw runtimeError(3021);
-    const bool isThere = place() == Place::Row && m_position == 0 && !m_behind;
-    if (isThere)
-        moveTo(Place::Row);
-    else
-        restart();
+    if (place() == Place::Empty) throw runtimeError(3021);
+    const bool isRead = m_held.has_value() || m_stream == Stream::CurrentRow;
+    if (isAt(0) && isRead) return stay();
+    start();
+    requireRow();
 }
 
 void QueryCursor::countRest() {
-    m_reached = m_position + 1;
-    while (m_rows->step()) ++m_reached;
+    qint32 rows = m_position + 1;
+    if (m_stream == Stream::NextRow) ++rows;
+    if (m_stream == Stream::Nothing) {
+        m_rows->reset();
+        rows = 0;
+    }
+    m_stream = Stream::Nothing;
+    while (m_rows->step()) ++rows;
+    m_reached = rows;
     m_complete = true;
 }
 
 void QueryCursor::moveLast() {
-    if (m_reached == 0) throw runtimeError(3021);
-    const bool isThere = m_complete && place() == Place::Row && m_position == m_reached - 1;
-    if (!isThere) {
-        if (!m_complete) countRest();
-        m_behind = true;
-        m_position = m_reached - 1;
-    }
-    moveTo(Place::Row);
+    if (place() == Place::Empty) throw runtimeError(3021);
+    if (m_complete && isAt(m_reached - 1)) return stay();
+    moveTo(Place::After);
+    if (!m_complete) countRest();
+    m_held.reset();
+    m_stream = Stream::Nothing;
+    m_rows->reset();
+    m_position = m_reached - 1;
+    moveTo(m_reached > 0 ? Place::Row : Place::Empty);
+    requireRow();
 }
 
 void QueryCursor::moveNext() {
     if (place() != Place::Deleted) requireRow();
-    const bool found = !m_behind && m_rows->step();
-    m_behind = false;
-    ++m_position;
+    moveTo(Place::After);
+    m_held.reset();
+    const Stream before = std::exchange(m_stream, Stream::Nothing);
+    const bool isStreaming = before == Stream::CurrentRow;
+    const bool found = before == Stream::NextRow || (isStreaming && m_rows->step());
     m_complete = m_complete || !found;
-    if (found && m_position >= m_reached) m_reached = m_position + 1;
-    moveTo(found ? Place::Row : Place::After);
+    ++m_position;
+    if (!found) return;
+    m_stream = Stream::CurrentRow;
+    m_reached = std::max(m_reached, m_position + 1);
+    moveTo(Place::Row);
 }
 
 /// Nobody may ask for the last row's fields, as most only want the count; who does waits for a second walk.
 void QueryCursor::catchUp() {
-    if (!m_behind) return;
+    if (m_held || m_stream == Stream::CurrentRow) return;
+    try {
+        walkTo(m_position);
+    } catch (const RuntimeError&) {
+        // Not to be tried anew for each field.
+        moveTo(m_reached > 0 ? Place::After : Place::Empty);
+        throw;
+    }
+}
+
+void QueryCursor::walkTo(qint32 position) {
     m_rows->reset();
-    for (qint32 row = 0; row <= m_position; ++row)
-        if (!m_rows->step()) throw runtimeError(3021);
-    m_behind = false;
+    qint32 found = 0;
+    while (found <= position && m_rows->step()) ++found;
+    if (found > position) {
+        hold();
+    } else {
+        // Another cursor has deleted rows since they were counted.
+        m_reached = found;
+    }
+    m_rows->reset();
+    if (!m_held) throw runtimeError(3021);
 }
 
 void QueryCursor::afterRemove() {

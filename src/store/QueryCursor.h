@@ -2,7 +2,12 @@
 
 #include "Cursor.h"
 
-/// A cursor over the result of a SELECT. Rows stream from the running statement; none is kept.
+#include <algorithm>
+#include <variant>
+
+/// A cursor over the result of a SELECT. Rows stream from the running statement. Only the first and the last
+/// one are kept while they are current: a result of one row is then read to its end as soon as it is opened,
+/// and keeps no other process from writing while a screen shows it.
 class QueryCursor final : public Cursor {
 public:
     QueryCursor(std::shared_ptr<Connection> connection, QStringView select);
@@ -12,7 +17,7 @@ public:
     void moveFirst() override;
     void moveLast() override;
     void moveNext() override;
-    qint32 recordCount() const override { return m_reached; }
+    qint32 recordCount() const override;
     qint32 absolutePosition() const override { return place() == Place::Row ? m_position : -1; }
 
 protected:
@@ -24,14 +29,27 @@ protected:
     void releaseRows() noexcept override { m_rows.giveBack(); }
 
 private:
-    void restart();
+    /// What the running statement is on.
+    enum class Stream : quint8 { CurrentRow, NextRow, Nothing };
+
+    /// A row read ahead of being asked for. A field that cannot be read is an error only to who asks for it.
+    struct HeldRow {
+        qint64 number;
+        std::vector<std::variant<Value, RuntimeError>> values;
+    };
+
+    void start();
     void countRest();
     void catchUp();
+    void walkTo(qint32 position);
+    void hold();
+    Value streamedValue(int column) const;
+    bool isAt(qint32 position) const { return place() == Place::Row && m_position == position; }
 
     StatementCache::Loan m_rows;
+    Stream m_stream = Stream::Nothing;
+    std::optional<HeldRow> m_held; ///< the current row if the statement is not on it
     qint32 m_reached = 0;
     qint32 m_position = -1;
     bool m_complete = false; ///< m_reached is the number of all rows
-    /// The cursor is on the last row, but the statement, having counted to the end, is not.
-    bool m_behind = false;
 };

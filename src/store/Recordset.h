@@ -37,18 +37,20 @@ public:
     /// Orders a table cursor by an index. "PrimaryKey" is the only one there is; others are error 3015.
     void Index(const QString& name);
     /// Goes to the row whose key equals the value; "=" is the only comparison. Without a hit NoMatch is true
-    /// and there is no current row. Needs Index first (3019).
+    /// and there is no current row, as after a Seek that fails. Needs Index first (3019).
     void Seek(const QString& comparison, const Value& key);
     bool NoMatch() const;
 
+    // After a move that fails the cursor is at its end.
     void MoveFirst(); ///< 3021 on an empty cursor
     void MoveLast();  ///< 3021 on an empty cursor
     void MoveNext();  ///< 3021 when already at the end
     bool Eof() const;
     bool Bof() const;
-    /// Rows of the table, or, of a query, rows reached so far: 0 only if there is none.
+    /// Rows of the table, counted at each call, or, of a query, rows reached so far: 0 only if there is none.
     qint32 RecordCount() const;
-    /// Zero-based place of the current row; -1 without one.
+    /// Zero-based place of the current row; -1 without one. In a table the rows before it are counted at each
+    /// call.
     qint32 AbsolutePosition() const;
 
     Field Fields(const QString& name) const;

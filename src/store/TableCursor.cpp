@@ -44,12 +44,15 @@ Value TableCursor::storedValue(int column) {
 }
 
 void TableCursor::moveFirst() {
+    moveTo(Place::After);
     const bool found = goTo(std::numeric_limits<qint64>::min());
     moveTo(found ? Place::Row : Place::Empty);
     requireRow();
 }
 
 void TableCursor::moveLast() {
+    moveTo(Place::After);
+    m_rows->reset();
     StatementCache::Loan last = connection().statement("SELECT MAX(rowid) FROM " + quotedName(m_table.name));
     last->step();
     const bool found = !last->column(0, FieldKind::Untyped).isNull() && goTo(last->integer(0));
@@ -59,7 +62,8 @@ void TableCursor::moveLast() {
 
 void TableCursor::moveNext() {
     if (place() != Place::Deleted) requireRow();
-    moveTo(m_rows->step() ? Place::Row : Place::After);
+    moveTo(Place::After);
+    if (m_rows->step()) moveTo(Place::Row);
 }
 
 qint32 TableCursor::recordCount() const {
@@ -84,11 +88,19 @@ void TableCursor::useIndex(const QString& name) {
 }
 
 void TableCursor::seek(const QString& comparison, const Value& key) {
+    // Before anything can fail, so that what follows a failed search touches no other row.
+    m_noMatch = true;
+    moveTo(Place::Nowhere);
+    m_rows->reset();
     if (!m_indexed) throw runtimeError(3019);
     if (comparison != u"=") throw runtimeError(3001);
     // No key is Null.
-    const bool found = !key.isNull() && goTo(CLng(key)) && m_rows->integer(0) == CLng(key);
-    m_noMatch = !found;
-    if (!found) m_rows->reset();
-    moveTo(found ? Place::Row : Place::Nowhere);
+    if (key.isNull()) return;
+    const qint32 number = CLng(key);
+    if (goTo(number) && m_rows->integer(0) == number) {
+        m_noMatch = false;
+        moveTo(Place::Row);
+    } else {
+        m_rows->reset();
+    }
 }

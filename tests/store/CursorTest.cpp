@@ -1,3 +1,4 @@
+#include "Sqlite.h"
 #include "StoreFixture.h"
 
 class CursorTest : public StoreTest {
@@ -12,6 +13,11 @@ protected:
             .arg(recordset.AbsolutePosition())
             .arg(recordset.Bof() ? u" bof"_qs : QString(), recordset.Eof() ? u" eof"_qs : QString());
     }
+
+    Recordset cursor(bool isTable) { return isTable ? table(u"Fisch") : query(u"SELECT * FROM Fisch"_qs); }
+
+    /// Lets each step fail while some statement is running.
+    void interrupt() const { sqlite3_interrupt(connection->handle()); }
 
     QString walk(const QString& select, QStringView field) {
         QStringList values;
@@ -92,11 +98,73 @@ TEST_F(CursorTest, SeeksByKey) {
     }
     fish.Seek(u"="_qs, 1);
     EXPECT_EQ(number(fish, u"FNr"), 1);
-    EXPECT_EQ(errorOf([&] { fish.Seek(u">"_qs, 1); }), 3001);
-    EXPECT_EQ(errorOf([&] { fish.Seek(u"="_qs, Value(u"drei")); }), 13);
     EXPECT_EQ(errorOf([&] { table(u"System").Index(u"PrimaryKey"_qs); }), 3015);
     EXPECT_EQ(errorOf([&] { query(u"SELECT * FROM Fisch"_qs).Index(u"PrimaryKey"_qs); }), 3251);
     EXPECT_EQ(errorOf([&] { table(u"Fische"); }), 3078);
+}
+
+TEST_F(CursorTest, TouchesNoRowAfterASearchThatFailed) {
+    struct Search {
+        QString comparison;
+        Value key;
+        int error;
+    };
+    Recordset fish = table(u"Fisch");
+    fish.Index(u"PrimaryKey"_qs);
+    for (const Search& wrong :
+         {Search{u">"_qs, 1, 3001}, Search{u"="_qs, u"drei"_qs, 13}, Search{u"="_qs, 1e20, 6}}) {
+        fish.Seek(u"="_qs, 1);
+        EXPECT_FALSE(fish.NoMatch());
+        EXPECT_EQ(errorOf([&] { fish.Seek(wrong.comparison, wrong.key); }), wrong.error);
+        EXPECT_TRUE(fish.NoMatch());
+        EXPECT_EQ(errorOf([&] { fish.Edit(); }), 3021);
+        EXPECT_EQ(errorOf([&] { fish.Delete(); }), 3021);
+        EXPECT_EQ(errorOf([&] { number(fish, u"FNr"); }), 3021);
+    }
+    Recordset unordered = table(u"Fisch");
+    EXPECT_EQ(errorOf([&] { unordered.Seek(u"="_qs, 1); }), 3019);
+    EXPECT_EQ(errorOf([&] { unordered.Delete(); }), 3021);
+    EXPECT_EQ(unordered.RecordCount(), 4);
+}
+
+TEST_F(CursorTest, IsAtItsEndAfterAMoveThatFailed) {
+    for (const bool isTable : {true, false})
+        for (const auto move : {&Recordset::MoveNext, &Recordset::MoveFirst, &Recordset::MoveLast}) {
+            Recordset running = query(u"SELECT * FROM Kontakt"_qs);
+            Recordset fish = cursor(isTable);
+            fish.MoveNext();
+            interrupt();
+            EXPECT_EQ(errorOf([&] { (fish.*move)(); }), 3000);
+            EXPECT_TRUE(fish.Eof());
+            EXPECT_EQ(errorOf([&] { fish.MoveNext(); }), 3021);
+            EXPECT_EQ(errorOf([&] { number(fish, u"FNr"); }), 3021);
+            EXPECT_EQ(errorOf([&] { fish.Delete(); }), 3021);
+            running.Close();
+            fish.MoveLast();
+            EXPECT_EQ(number(fish, u"FNr"), 4);
+            EXPECT_EQ(fish.RecordCount(), 4);
+            fish.MoveFirst();
+            EXPECT_EQ(number(fish, u"FNr"), 1);
+        }
+}
+
+TEST_F(CursorTest, DoesNotSearchAgainForALastRowThatItFailedToRead) {
+    Recordset running = query(u"SELECT * FROM Kontakt"_qs);
+    Recordset fish = cursor(false);
+    fish.MoveLast();
+    interrupt();
+    EXPECT_EQ(errorOf([&] { number(fish, u"FNr"); }), 3000);
+    EXPECT_EQ(errorOf([&] { number(fish, u"FNr"); }), 3021);
+    EXPECT_TRUE(fish.Eof());
+    running.Close();
+
+    fish.MoveLast();
+    seek(u"Fisch", 4).Delete();
+    seek(u"Fisch", 3).Delete();
+    EXPECT_EQ(errorOf([&] { number(fish, u"FNr"); }), 3021);
+    EXPECT_EQ(place(fish), u"2 -1 eof");
+    fish.MoveLast();
+    EXPECT_EQ(number(fish, u"FNr"), 2);
 }
 
 TEST_F(CursorTest, WalksATableInTheOrderOfItsKeys) {
@@ -158,7 +226,7 @@ TEST_F(CursorTest, ReachesEachRowOnceThoughItsPlaceInTheIndexMoves) {
 
 TEST_F(CursorTest, HasNoRowAfterADeletionUntilItMoves) {
     for (const bool isTable : {true, false}) {
-        Recordset fish = isTable ? table(u"Fisch") : query(u"SELECT * FROM Fisch"_qs);
+        Recordset fish = cursor(isTable);
         fish.Delete();
         EXPECT_EQ(errorOf([&] { number(fish, u"FNr"); }), 3167);
         EXPECT_EQ(errorOf([&] { fish.Edit(); }), 3167);
@@ -170,6 +238,21 @@ TEST_F(CursorTest, HasNoRowAfterADeletionUntilItMoves) {
     EXPECT_EQ(walk(u"SELECT FNr FROM Fisch"_qs, u"FNr"), u"3 4");
     for (Recordset fish = table(u"Fisch"); !fish.Eof(); fish.MoveNext()) fish.Delete();
     EXPECT_EQ(place(table(u"Fisch")), u"0 -1 bof eof");
+}
+
+TEST_F(CursorTest, GoesOnAmongTheRestAfterItDeletedItsFirstRows) {
+    Recordset fish = cursor(false);
+    fish.Delete();
+    EXPECT_EQ(fish.RecordCount(), 1) << "0 would say that nothing is left";
+    fish.MoveFirst();
+    EXPECT_EQ(number(fish, u"FNr"), 2);
+    fish.Delete();
+    fish.MoveLast();
+    EXPECT_EQ(place(fish), u"2 1");
+    EXPECT_EQ(number(fish, u"FNr"), 4);
+    for (fish.MoveFirst(); !fish.Eof(); fish.MoveNext()) fish.Delete();
+    EXPECT_EQ(errorOf([&] { fish.MoveFirst(); }), 3021);
+    EXPECT_EQ(place(fish), u"0 -1 bof eof");
 }
 
 TEST_F(CursorTest, IsOverOnceClosed) {

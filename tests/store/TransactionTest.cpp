@@ -116,6 +116,23 @@ TEST_F(TransactionTest, ReportsAFileThatAnotherProcessWritesTo) {
     EXPECT_EQ(namesInFile(), u"Aal;Zander;Äsche;Barsch");
 }
 
+TEST_F(TransactionTest, LetsOthersWriteWhileAResultThatIsReadToItsEndStaysOpen) {
+    const QStringList results{u"SELECT COUNT(FNr) FROM Fisch"_qs, u"SELECT * FROM Fisch WHERE FNr = 1"_qs,
+                              u"SELECT fa.FangNr, fi.FName FROM Fang fa, Fisch fi WHERE fa.FischNr = fi.FNr "
+                              u"AND fa.FangNr = 1"_qs,
+                              u"SELECT FNr FROM Fisch ORDER BY FName"_qs};
+    for (const QString& select : results) {
+        Recordset shown = query(select);
+        shown.MoveLast();
+        const Value before = shown.Fields().front().Value();
+        execute("UPDATE Fisch SET Notiz = Notiz || 'x'");
+        EXPECT_EQ(shown.Fields().front().Value(), before);
+        shown.MoveNext();
+        EXPECT_TRUE(shown.Eof());
+    }
+    EXPECT_EQ(rowsInFile(u"SELECT Notiz FROM Fisch WHERE FNr = 3"_qs), u"seltenxxxx");
+}
+
 TEST_F(TransactionTest, ReportsAFailedCommitAtTheCloseAndStaysUsable) {
     const auto other = connectTo(path());
     other->execute("BEGIN");
