@@ -7,6 +7,7 @@
 #include "MsgBox.h"
 #include "Screens.h"
 #include "Session.h"
+#include "Stage.h"
 #include "Toolbar.h"
 #include "ValueLabel.h"
 #include "modFAuswert.h"
@@ -83,6 +84,9 @@ void Fangauswertung::tbExcel_Click() {
 void Fangauswertung::drucke(const QString& wort) {
     session().NachReport = true;
     modFAuswert::DruckeFangListe(wort);
+    // Only a preview hands the front away and back; after anything else the next return is from another
+    // screen.
+    if (Stage::current()->front() == this) session().NachReport = false;
 }
 
 void Fangauswertung::tblFAusw_OnGridCellDown(int row) {

@@ -56,10 +56,11 @@ bool listeGueltig(const QCheckBox* box, const ComboBox* list) {
 
 void zeigeSumme(ErrorTail& step, Recordset& summe, ValueLabel* label, const QString& field) {
     step([&] { summe = abfrage(u"SELECT SUM(fa."_qs + field + u")"_qs + selektion()); });
-    step([&] {
-        const Value value = summe.Collect(u"Expr1000"_qs);
-        label->setCaption(value.isNull() ? u"0"_qs : CStr(value));
-    });
+    const auto wert = [&] { return summe.Collect(u"Expr1000"_qs); };
+    if (step.test([&] { return wert().isNull(); }))
+        label->setCaption(u"0"_qs);
+    else
+        step([&] { label->setCaption(CStr(wert())); });
 }
 
 void fuelleListe(ErrorTail& step, Recordset& liste, Fangauswertung& form) {
@@ -70,13 +71,12 @@ void fuelleListe(ErrorTail& step, Recordset& liste, Fangauswertung& form) {
     step([&] { liste.MoveFirst(); });
     step([&] { felder = liste.Fields(); });
     while (step.test([&] { return !liste.Eof(); })) {
-        step([&] {
-            for (std::size_t i = 0; i < felder.size(); ++i) zeile[i] = felder[i].Value();
-            // The grid has the month, by its name, before the year.
-            std::swap(zeile[3], zeile[4]);
-            zeile[3] = modRun::ErmittleMonatsname(CLng(zeile[3]));
-            form.tblFAusw->appendRow(zeile);
-        });
+        // A cell that cannot be read costs that cell, not the row.
+        for (std::size_t i = 0; i < felder.size(); ++i) step([&] { zeile[i] = felder[i].Value(); });
+        // The grid has the month, by its name, before the year.
+        std::swap(zeile[3], zeile[4]);
+        step([&] { zeile[3] = modRun::ErmittleMonatsname(CLng(zeile[3])); });
+        step([&] { form.tblFAusw->appendRow(zeile); });
         step([&] { liste.MoveNext(); });
         form.pb->setProgress(++count);
     }
@@ -96,11 +96,14 @@ void LadeAuswahl() {
         });
         qint32 gefunden = 0;
         step([&] { anzahl = abfrage(u"SELECT COUNT(fa.FangNr)"_qs + selektion()); });
-        step([&] {
-            gefunden = CLng(anzahl.Collect(u"Expr1000"_qs));
+        const auto wert = [&] { return anzahl.Collect(u"Expr1000"_qs); };
+        if (step.test([&] { return wert().isNull() || CLng(wert()) == 0; })) {
+            form.lblGefDS->setCaption(u"0"_qs);
+        } else {
+            step([&] { gefunden = CLng(wert()); });
             form.lblGefDS->setCaption(QString::number(gefunden));
-            if (gefunden > 0) form.pb->setMax(gefunden);
-        });
+            form.pb->setMax(gefunden);
+        }
         zeigeSumme(step, summeAnzahl, form.lblSumAnz, u"Anzahl"_qs);
         zeigeSumme(step, summeGewicht, form.lblSumGew, u"Gewicht"_qs);
         form.tblFAusw->clearRows();
@@ -164,7 +167,8 @@ void leereBounds(QCheckBox* box, const Bound& low, const Bound& high) {
 
 void AuswertAnzeigeLoeschen() {
     Fangauswertung& form = screen<Fangauswertung>();
-    form.cboFJahr->setText(QString::number(session().AktJahr));
+    // The parameters may meanwhile name a year that the list, made at the start, does not hold.
+    form.cboFJahr->setListIndex(form.cboFJahr->findText(QString::number(session().AktJahr)));
     leereFilter(form.chkArchiv, form.cboFJahr);
     form.cboFArt->setListIndex(-1);
     leereFilter(form.chkFArt, form.cboFArt);

@@ -19,7 +19,7 @@ void mnuFangInfo_Click();
 
 /// Writes the grid to FANG.csv and leads on to the spreadsheet.
 void ErzeugeFangDatei();
-/// Opens the file in the spreadsheet, its columns fitted.
+/// Opens the file in the spreadsheet and asks it to fit the columns.
 void StarteExcelFang();
 /// Prints ("drucken") or shows ("vorschau") the grid as the catch list.
 void DruckeFangListe(const QString& wort);

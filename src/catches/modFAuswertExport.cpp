@@ -45,6 +45,8 @@ void schreibeDatei(const DataTable& grid) {
     datei.close();
 }
 
+void meldeKeinExcel() { MsgBox(u"Es ist kein Excel verfügbar !"_qs, vbInformation); }
+
 /// The running spreadsheet or a new one; null after the box that says there is none.
 std::unique_ptr<Spreadsheet> erreicheExcel() {
     constexpr int noObject = 429;
@@ -56,7 +58,7 @@ std::unique_ptr<Spreadsheet> erreicheExcel() {
             return spreadsheetProgram().start();
         }
     } catch (const RuntimeError&) {
-        MsgBox(u"Es ist kein Excel verfügbar !"_qs, vbInformation);
+        meldeKeinExcel();
         return nullptr;
     }
 }
@@ -81,10 +83,15 @@ void ErzeugeFangDatei() {
 void StarteExcelFang() {
     const std::unique_ptr<Spreadsheet> excel = erreicheExcel();
     if (!excel) return;
-    excel->setVisible(true);
-    excel->openWorkbook(SeqData::path(u"Fang.csv"_qs));
-    for (const QString& range : {u"A:A"_qs, u"B:B"_qs, u"C:C"_qs, u"D:D"_qs, u"E:E"_qs, u"F:F"_qs})
-        excel->autoFitColumns(range);
+    try {
+        excel->setVisible(true);
+        excel->openWorkbook(SeqData::path(u"Fang.csv"_qs));
+        for (const QString& range : {u"A:A"_qs, u"B:B"_qs, u"C:C"_qs, u"D:D"_qs, u"E:E"_qs, u"F:F"_qs})
+            excel->autoFitColumns(range);
+    } catch (const RuntimeError&) {
+        // Whether a program can be reached may only turn out when it is to do something.
+        meldeKeinExcel();
+    }
 }
 
 } // namespace modFAuswert

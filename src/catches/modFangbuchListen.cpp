@@ -31,11 +31,10 @@ void fuelleListe(ErrorTail& step, Recordset& liste, DataTable* grid, ProgressBar
     step([&] { liste.MoveFirst(); });
     step([&] { felder = liste.Fields(); });
     while (step.test([&] { return !liste.Eof(); })) {
-        step([&] {
-            for (std::size_t i = 0; i < felder.size(); ++i) zeile[i] = felder[i].Value();
-            zeile[3] = modRun::ErmittleMonatsname(CLng(zeile[3]));
-            grid->appendRow(zeile);
-        });
+        // A cell that cannot be read costs that cell, not the row.
+        for (std::size_t i = 0; i < felder.size(); ++i) step([&] { zeile[i] = felder[i].Value(); });
+        step([&] { zeile[3] = modRun::ErmittleMonatsname(CLng(zeile[3])); });
+        step([&] { grid->appendRow(zeile); });
         step([&] { liste.MoveNext(); });
         pb->setProgress(++count);
     }

@@ -34,11 +34,19 @@ void appendEncoded(QByteArray& buffer, QStringView text) {
     }
 }
 
+/// The office leaves a lock beside a file that it has open. Writing below it would be lost with its next
+/// save.
+bool isHeldOpen(const QString& path) {
+    const QFileInfo file(path);
+    return QFileInfo::exists(file.path() + u"/.~lock."_qs + file.fileName() + u'#');
+}
+
 } // namespace
 
 CsvDatei::CsvDatei(const QString& path)
     : m_file(path) {
     if (!QFileInfo(QFileInfo(path).path()).isDir()) throw runtimeError(pathNotFound);
+    if (isHeldOpen(path)) throw runtimeError(accessDenied);
     if (!m_file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered))
         throw runtimeError(accessDenied);
     m_buffer.reserve(bufferSize);

@@ -9,7 +9,8 @@
 /// A file for the spreadsheet: fields closed by ";", lines by carriage return and line feed, in Windows-1252,
 /// nothing quoted. Each field has a fixed length, beyond which it is cut off; the blanks that fill it up stay
 /// only where asked for.
-/// Any failure is an error: 76 the folder is missing, 70 the file is not to be written, 61 the disk is full.
+/// Any failure is an error: 76 the folder is missing, 70 the file is not to be written or held open by the
+/// spreadsheet, 61 the disk is full.
 class CsvDatei {
 public:
     enum class Fill { Trimmed, Padded };

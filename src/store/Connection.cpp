@@ -7,6 +7,9 @@
 #include "Sqlite.h"
 #include "SqliteError.h"
 
+#include <QtGlobal>
+#include <utility>
+
 namespace {
 
 constexpr int busyMilliseconds = 1500;
@@ -58,7 +61,9 @@ Connection::Connection(const QString& path, const QString& password, Access acce
     }
 }
 
-Connection::~Connection() = default;
+Connection::~Connection() {
+    if (m_keptFailure) qWarning("%s", qUtf8Printable(m_keptFailure->description));
+}
 
 void Connection::openFile(const QString& path, Access access) {
     sqlite3* database = nullptr;
@@ -104,7 +109,7 @@ void Connection::requireTables(const QString& path) {
 }
 
 void Connection::close() {
-    std::optional<RuntimeError> failure;
+    std::optional<RuntimeError> failure = std::exchange(m_keptFailure, std::nullopt);
     while (!m_cursors.empty()) {
         try {
             m_cursors.back()->close();
@@ -127,6 +132,14 @@ StatementCache::Loan Connection::select(QStringView source) {
 }
 
 int Connection::changes() const { return sqlite3_changes(m_database.get()); }
+
+void Connection::keepFailure(const RuntimeError& failure) {
+    if (!m_keptFailure) m_keptFailure = failure;
+}
+
+void Connection::tellKeptFailure() {
+    if (const auto failure = std::exchange(m_keptFailure, std::nullopt)) throw *failure;
+}
 
 void Connection::remove(Cursor* cursor) { std::erase(m_cursors, cursor); }
 

@@ -41,6 +41,11 @@ public:
     /// How many rows the last write touched.
     int changes() const;
 
+    /// Of a commit at the end of a cursor that nobody closed. Thrown, once, at the next use of the connection:
+    /// when a cursor is opened, writes or is closed, and at the latest when the connection is.
+    void keepFailure(const RuntimeError& failure);
+    void tellKeptFailure();
+
     void add(Cursor* cursor) { m_cursors.push_back(cursor); }
     void remove(Cursor* cursor);
 
@@ -58,6 +63,7 @@ private:
     std::optional<StatementCache> m_cache;
     std::optional<WriteTransaction> m_transaction;
     std::vector<Cursor*> m_cursors;
+    std::optional<RuntimeError> m_keptFailure;
     LexedStatement m_lexed; ///< kept for its buffers
 };
 

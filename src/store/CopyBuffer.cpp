@@ -2,6 +2,7 @@
 
 #include "Conversions.h"
 #include "RuntimeError.h"
+#include "StoredText.h"
 
 #include <cmath>
 #include <limits>
@@ -34,7 +35,7 @@ Value storable(FieldKind kind, const Value& value) {
     case FieldKind::Date:
         return CDate(value);
     default:
-        return CStr(value);
+        return storableText(CStr(value));
     }
 }
 

@@ -1,6 +1,5 @@
 #include "Cursor.h"
 
-#include <QtGlobal>
 #include <utility>
 
 namespace {
@@ -17,17 +16,20 @@ Cursor::Cursor(std::shared_ptr<Connection> connection)
 }
 
 Cursor::~Cursor() {
+    const std::shared_ptr<Connection> connection = m_connection;
     try {
         leave();
     } catch (const RuntimeError& error) {
         // Routines close what they have written to; this is a cursor that an error carried away.
-        qWarning("%s", qUtf8Printable(error.description));
+        connection->keepFailure(error);
     }
 }
 
 void Cursor::close() {
+    const std::shared_ptr<Connection> connection = m_connection;
     releaseRows();
     leave();
+    connection->tellKeptFailure();
 }
 
 void Cursor::leave() {
@@ -53,6 +55,7 @@ void Cursor::requireRow() const {
 Value Cursor::value(int column) {
     if (m_buffer.mode() == CopyBuffer::Mode::Adding) return m_buffer.initial(fieldOfColumn(column));
     requireRow();
+    if (!m_connection->transaction().isIntact()) m_written.end();
     const bool unchanged =
         m_buffer.mode() == CopyBuffer::Mode::Idle && m_written.mode() == CopyBuffer::Mode::Idle;
     if (unchanged) return storedValue(column);
@@ -95,6 +98,7 @@ qint64 Cursor::currentRow() {
 }
 
 RowWriter& Cursor::writer() {
+    m_connection->tellKeptFailure();
     if (m_writer) {
         m_connection->transaction().requireIntact();
         return *m_writer;

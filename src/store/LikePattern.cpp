@@ -106,6 +106,6 @@ bool LikePattern::matches(QByteArrayView text) const {
         const auto ascii = [text](qsizetype i) { return foldedAscii(static_cast<unsigned char>(text[i])); };
         return matchesSigns(ascii, text.size());
     }
-    const QList<uint> signs = QString::fromUtf8(text).toUcs4();
+    const QList<uint> signs = storedText(text).toUcs4();
     return matchesSigns([&signs](qsizetype i) { return foldedCharacter(signs[i]); }, signs.size());
 }

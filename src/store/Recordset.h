@@ -67,7 +67,8 @@ public:
     void Update();
     void Delete();
     /// Ends the cursor. If it was the last one that has written, this is where the user action reaches the
-    /// disk, and where a failure to do so is reported.
+    /// disk, and where a failure to do so is reported; one at the end of a cursor that nobody closed is
+    /// reported at the database's next use.
     void Close();
 
 private:

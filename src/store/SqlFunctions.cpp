@@ -3,6 +3,7 @@
 #include "LikePattern.h"
 #include "Sqlite.h"
 #include "SqliteError.h"
+#include "StoredText.h"
 #include "TextComparison.h"
 
 #include <memory>
@@ -36,7 +37,7 @@ void like(sqlite3_context* context, int, sqlite3_value** arguments) noexcept {
     try {
         if (const auto* known = static_cast<const LikePattern*>(sqlite3_get_auxdata(context, 1)))
             return sqlite3_result_int(context, known->matches(textOf(arguments[0])) ? 1 : 0);
-        auto pattern = std::make_unique<LikePattern>(QString::fromUtf8(textOf(arguments[1])));
+        auto pattern = std::make_unique<LikePattern>(storedText(textOf(arguments[1])));
         sqlite3_result_int(context, pattern->matches(textOf(arguments[0])) ? 1 : 0);
         sqlite3_set_auxdata(context, 1, pattern.release(), deletePattern);
     } catch (const RuntimeError& error) {

@@ -2,14 +2,15 @@
 
 #include "Sqlite.h"
 #include "SqliteError.h"
+#include "StoredText.h"
 
 #include <limits>
 
 namespace {
 
-QString storedText(sqlite3_stmt* statement, int index) {
+QString columnText(sqlite3_stmt* statement, int index) {
     const auto* bytes = reinterpret_cast<const char*>(sqlite3_column_text(statement, index));
-    return QString::fromUtf8(bytes, sqlite3_column_bytes(statement, index));
+    return storedText({bytes, sqlite3_column_bytes(statement, index)});
 }
 
 bool fitsLong(qint64 number) {
@@ -79,7 +80,7 @@ void Statement::bind(int position, const Value& value) {
     case Value::Kind::Text:
         break;
     }
-    const QByteArray bytes = value.text().toUtf8();
+    const QByteArray bytes = storedBytes(value.text());
     check(sqlite3_bind_text64(statement, position, bytes.constData(), static_cast<quint64>(bytes.size()),
                               SQLITE_TRANSIENT, SQLITE_UTF8));
 }
@@ -121,12 +122,12 @@ Value Statement::column(int index, FieldKind kind) const {
     case SQLITE_FLOAT:
         return storedReal(sqlite3_column_double(statement, index), kind);
     default:
-        return storedText(statement, index);
+        return columnText(statement, index);
     }
 }
 
 qint64 Statement::integer(int index) const { return sqlite3_column_int64(m_statement.get(), index); }
 
-QString Statement::text(int index) const { return storedText(m_statement.get(), index); }
+QString Statement::text(int index) const { return columnText(m_statement.get(), index); }
 
 int Statement::columnCount() const { return sqlite3_column_count(m_statement.get()); }

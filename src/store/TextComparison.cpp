@@ -1,5 +1,7 @@
 #include "TextComparison.h"
 
+#include "StoredText.h"
+
 #include <QList>
 #include <algorithm>
 
@@ -12,7 +14,7 @@ constexpr bool isCombining(char32_t c) { return c >= 0x300 && c <= 0x36f; }
 QList<char32_t> folded(QByteArrayView text) {
     QList<char32_t> characters;
     characters.reserve(text.size());
-    for (const uint c : QString::fromUtf8(text).toUcs4()) characters += foldedCharacter(c);
+    for (const uint c : storedText(text).toUcs4()) characters += foldedCharacter(c);
     return characters;
 }
 

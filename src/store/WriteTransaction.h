@@ -24,6 +24,8 @@ public:
     void noteFailure(const RuntimeError& cause);
     /// Throws that cause again once it has happened.
     void requireIntact() const;
+    /// False once it has happened, until the last of the action's cursors is closed.
+    bool isIntact() const { return !m_lost; }
 
 private:
     void execute(const QByteArray& sql);

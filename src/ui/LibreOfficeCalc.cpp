@@ -14,8 +14,8 @@ public:
     explicit Calc(QString program)
         : m_program(std::move(program)) {}
 
-    // It is visible from the start, and an import gives it no say over the breadth of columns: what is asked
-    // of a program by remote control is here settled by the way it is started.
+    // It is visible from the start. The breadth of columns can't be told it from outside: they come as its
+    // import makes them.
     void setVisible(bool) override {}
     void autoFitColumns(const QString&) override {}
 

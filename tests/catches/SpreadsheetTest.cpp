@@ -1,0 +1,191 @@
+#include "Spreadsheet.h"
+
+#include "CodePage.h"
+#include "CsvDatei.h"
+#include "LibreOfficeCalc.h"
+#include "MsgBox.h"
+#include "RuntimeError.h"
+#include "SeqData.h"
+#include "Session.h"
+#include "modFAuswert.h"
+
+#include <QDir>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace {
+
+/// A spreadsheet that only writes down what it is asked for.
+class RecordingProgram final : public SpreadsheetProgram {
+public:
+    QStringList steps;
+    int errorOfRunning = 429;
+    int errorOfStart = 0;
+
+    std::unique_ptr<Spreadsheet> running() override { return reached(u"running"_qs, errorOfRunning); }
+    std::unique_ptr<Spreadsheet> start() override { return reached(u"start"_qs, errorOfStart); }
+
+private:
+    class Sheet final : public Spreadsheet {
+    public:
+        explicit Sheet(QStringList& steps)
+            : m_steps(steps) {}
+        void setVisible(bool on) override { m_steps += on ? u"visible"_qs : u"hidden"_qs; }
+        void openWorkbook(const QString& file) override {
+            m_steps += u"open "_qs + QFileInfo(file).fileName();
+        }
+        void autoFitColumns(const QString& range) override { m_steps += u"fit "_qs + range; }
+
+    private:
+        QStringList& m_steps;
+    };
+
+    std::unique_ptr<Spreadsheet> reached(const QString& step, int error) {
+        steps += step;
+        if (error != 0) throw runtimeError(error);
+        return std::make_unique<Sheet>(steps);
+    }
+};
+
+class CountingBoxes final : public MessageBoxes {
+public:
+    QStringList texts;
+    MsgBoxResult show(const QString& text, int, const QString&) override {
+        texts += text;
+        return vbOK;
+    }
+};
+
+class StarteExcelFang : public ::testing::Test {
+protected:
+    StarteExcelFang() {
+        QDir(folder.path()).mkdir(u"SeqData"_qs);
+        beginSession(folder.path());
+        setSpreadsheetProgram(&program);
+        setMessageBoxes(&boxes);
+    }
+    ~StarteExcelFang() override {
+        setSpreadsheetProgram(nullptr);
+        setMessageBoxes(nullptr);
+    }
+
+    QTemporaryDir folder;
+    RecordingProgram program;
+    CountingBoxes boxes;
+};
+
+const QStringList work = {u"visible"_qs, u"open Fang.csv"_qs, u"fit A:A"_qs, u"fit B:B"_qs,
+                          u"fit C:C"_qs, u"fit D:D"_qs,       u"fit E:E"_qs, u"fit F:F"_qs};
+
+TEST_F(StarteExcelFang, UsesTheRunningSpreadsheetElseStartsOne) {
+    program.errorOfRunning = 0;
+    modFAuswert::StarteExcelFang();
+    EXPECT_EQ(program.steps, QStringList{u"running"_qs} + work);
+
+    program.steps.clear();
+    program.errorOfRunning = 429;
+    modFAuswert::StarteExcelFang();
+    EXPECT_EQ(program.steps, (QStringList{u"running"_qs, u"start"_qs} + work));
+    EXPECT_TRUE(boxes.texts.isEmpty());
+}
+
+TEST_F(StarteExcelFang, SaysSoWhenThereIsNone) {
+    const QStringList told = {u"Es ist kein Excel verfügbar !"_qs};
+    program.errorOfStart = 429;
+    modFAuswert::StarteExcelFang();
+    EXPECT_EQ(boxes.texts, told);
+    EXPECT_EQ(program.steps, (QStringList{u"running"_qs, u"start"_qs}));
+
+    // Any other failure of the running one starts no second.
+    boxes.texts.clear();
+    program.steps.clear();
+    program.errorOfRunning = 70;
+    modFAuswert::StarteExcelFang();
+    EXPECT_EQ(boxes.texts, told);
+    EXPECT_EQ(program.steps, QStringList{u"running"_qs});
+}
+
+TEST(SeqDataPath, IsThatOfTheFileInWhateverCapitals) {
+    QTemporaryDir folder;
+    QDir(folder.path()).mkdir(u"SeqData"_qs);
+    beginSession(folder.path());
+    EXPECT_TRUE(SeqData::path(u"Fang.csv"_qs).endsWith(u"/SeqData/Fang.csv"_qs));
+    QFile there(folder.filePath(u"SeqData/FANG.CSV"_qs));
+    ASSERT_TRUE(there.open(QIODevice::WriteOnly));
+    EXPECT_TRUE(SeqData::path(u"Fang.csv"_qs).endsWith(u"/SeqData/FANG.CSV"_qs));
+}
+
+int errorOf(const std::function<void()>& attempt) {
+    try {
+        attempt();
+    } catch (const RuntimeError& error) {
+        return error.number;
+    }
+    return 0;
+}
+
+TEST(CsvDatei, FailsLoudlyAndKeepsWhatIsThereWhenItCannotBegin) {
+    QTemporaryDir folder;
+    EXPECT_EQ(errorOf([&] { CsvDatei(folder.filePath(u"fehlt/FANG.csv"_qs)); }), 76);
+    EXPECT_EQ(errorOf([&] { CsvDatei(folder.path()); }), 70);
+    // The office has it open.
+    QFile(folder.filePath(u".~lock.FANG.csv#"_qs)).open(QIODevice::WriteOnly);
+    EXPECT_EQ(errorOf([&] { CsvDatei(folder.filePath(u"FANG.csv"_qs)); }), 70);
+    EXPECT_EQ(errorOf([] {
+                  CsvDatei full(u"/dev/full"_qs);
+                  full.writeText(u"Hecht", 50);
+                  full.close();
+              }),
+              61);
+}
+
+TEST(CsvDatei, CutsFillsAndTrimsItsFields) {
+    QTemporaryDir folder;
+    const QString path = folder.filePath(u"FANG.csv"_qs);
+    CsvDatei file(path);
+    file.writeField(Value(12), 5, CsvDatei::Fill::Padded);
+    file.writeField(Value(-123456), 5);
+    file.writeField(Value(u"Rotauge   "_qs), 50);
+    file.writeField(Value(u"ÄÖÜß €"_qs), 4);
+    file.writeField(Value(u"千€"_qs), 5);
+    file.writeField(Value(2.5), 5);
+    file.writeField(Value(), 5);
+    file.endLine();
+    file.close();
+    QFile written(path);
+    ASSERT_TRUE(written.open(QIODevice::ReadOnly));
+    EXPECT_EQ(fromWindows1252(written.readAll()), u"12   ;-1234;Rotauge;ÄÖÜß;?€;2,5;;\r\n"_qs);
+}
+
+/// What the office makes of the file: read with the very filter that opens it for the user.
+TEST(LibreOfficeCalc, ReadsSemicolonsUmlautsAndMonthsAsWritten) {
+    const QString office = QStandardPaths::findExecutable(u"soffice"_qs);
+    if (office.isEmpty()) GTEST_SKIP() << "no soffice on the PATH";
+    QTemporaryDir folder;
+    const QString path = folder.filePath(u"FANG.csv"_qs);
+    CsvDatei file(path);
+    for (const QString& text : {u"1              "_qs, u"Äsche"_qs, u"Mühlteich"_qs, u"2026.03"_qs})
+        file.writeText(text, 50);
+    file.endLine();
+    file.close();
+    QStringList words = LibreOfficeCalc::arguments(path);
+    words.removeFirst();
+    words.removeLast();
+    words += {u"-env:UserInstallation=file://"_qs + folder.path() + u"/profil"_qs,
+              u"--headless"_qs,
+              u"--convert-to"_qs,
+              u"html"_qs,
+              u"--outdir"_qs,
+              folder.path(),
+              path};
+    ASSERT_EQ(QProcess::execute(office, words), 0);
+    QFile page(folder.filePath(u"FANG.html"_qs));
+    ASSERT_TRUE(page.open(QIODevice::ReadOnly));
+    const QString html = QString::fromUtf8(page.readAll());
+    EXPECT_TRUE(html.contains(u"Äsche"_qs) || html.contains(u"&Auml;sche"_qs)) << qPrintable(html);
+    EXPECT_EQ(html.count(u"<td"_qs), 4) << qPrintable(html);
+}
+
+} // namespace
