@@ -77,8 +77,10 @@ QPixmap ThemeIcon::pixmap(const QSize& size, QIcon::Mode mode, QIcon::State /*st
     return found;
 }
 
-QPixmap ThemeIcon::scaledPixmap(const QSize& size, QIcon::Mode mode, QIcon::State state, qreal /*scale*/) {
-    return pixmap(size, mode, state);
+// From Qt 6.8 on the size is that of the icon on the screen, before it was that of its pixels.
+QPixmap ThemeIcon::scaledPixmap(const QSize& size, QIcon::Mode mode, QIcon::State state, qreal scale) {
+    constexpr bool sizeIsLogical = QT_VERSION >= QT_VERSION_CHECK(6, 8, 0);
+    return pixmap(sizeIsLogical ? (QSizeF(size) * scale).toSize() : size, mode, state);
 }
 
 void ThemeIcon::paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) {

@@ -89,7 +89,8 @@ int main(int argc, char* argv[]) {
         std::fprintf(stderr, "%s can't be read\n", qPrintable(arguments.file));
         return wrongArguments;
     }
-    const QTemporaryDir passing;
+    // Officers put the program into folders with blanks and umlauts; so does each scenario.
+    const QTemporaryDir passing(QDir::tempPath() + u"/uw Verein Äsche & Söhne XXXXXX"_qs);
     const QString keep = arguments.keep.isEmpty() ? passing.path() : arguments.keep;
     return play(arguments, keep, QString::fromUtf8(file.readAll()));
 }
