@@ -41,8 +41,8 @@ public:
     /// How many rows the last write touched.
     int changes() const;
 
-    /// Of a commit at the end of a cursor that nobody closed. Thrown, once, at the next use of the connection:
-    /// when a cursor is opened, writes or is closed, and at the latest when the connection is.
+    /// Of a commit at the end of a cursor that nobody closed. Thrown, once, at the next use of the
+    /// connection: when a cursor is opened, writes or is closed, and at the latest when the connection is.
     void keepFailure(const RuntimeError& failure);
     void tellKeptFailure();
 

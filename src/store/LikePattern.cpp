@@ -1,6 +1,7 @@
 #include "LikePattern.h"
 
 #include "RuntimeError.h"
+#include "StoredText.h"
 #include "TextComparison.h"
 
 #include <QList>

@@ -1,10 +1,14 @@
 #include "StoredText.h"
 
+#include <QList>
 #include <QStringDecoder>
 
 QString storableText(const QString& text) {
     if (text.isValidUtf16()) return text;
-    return QString::fromUcs4(reinterpret_cast<const char32_t*>(text.toUcs4().constData()));
+    QString storable;
+    storable.reserve(text.size());
+    for (const uint sign : text.toUcs4()) storable += QChar::fromUcs4(sign);
+    return storable;
 }
 
 QByteArray storedBytes(const QString& text) { return storableText(text).toUtf8(); }

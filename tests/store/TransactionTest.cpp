@@ -1,6 +1,7 @@
 #include "StoreFixture.h"
 
 #include <QFileInfo>
+#include <array>
 #include <csignal>
 #include <functional>
 #include <sys/wait.h>
@@ -149,17 +150,47 @@ TEST_F(TransactionTest, ReportsAFailedCommitAtTheCloseAndStaysUsable) {
     EXPECT_EQ(namesInFile(), u"Stör;Zander;Äsche;Barsch");
 }
 
-TEST_F(TransactionTest, WritesNothingMoreOfAnActionThatAFullDiskHasUndone) {
+TEST_F(TransactionTest, TellsOfAFailedCommitOfAForgottenCursorAtTheNextUse) {
+    const auto nextUses = std::to_array<std::function<void(Recordset&)>>({
+        [this](Recordset&) { table(u"Fisch"); },
+        [](Recordset& waters) { waters.Delete(); },
+        [](Recordset& waters) { waters.Close(); },
+        [this](Recordset&) { database.Close(); },
+    });
+    for (const auto& nextUse : nextUses) {
+        const auto other = connectTo(path());
+        Recordset waters = table(u"Gewaesser");
+        Recordset fish = table(u"Fisch");
+        rename(fish, u"Aal"_qs);
+        other->execute("BEGIN");
+        rowsOf(*other, u"SELECT FNr FROM Fisch"_qs);
+        fish = Recordset();
+        other->execute("COMMIT");
+        EXPECT_EQ(errorOf([&] { nextUse(waters); }), 3260);
+        EXPECT_EQ(namesInFile(), unchanged);
+        if (!database.isOpen()) break;
+        EXPECT_EQ(errorOf([&] { nextUse(waters = table(u"Gewaesser")); }), 0) << "told once";
+    }
+    EXPECT_EQ(rowsInFile(u"SELECT COUNT(*) FROM Gewaesser"_qs), u"1");
+}
+
+TEST_F(TransactionTest, WritesAndShowsNothingMoreOfAnActionThatAFullDiskHasUndone) {
     connection->execute("PRAGMA max_page_count = 60");
     Recordset fish = table(u"Fisch");
     Recordset waters = table(u"Gewaesser");
     waters.Delete();
+    rename(fish, u"Aal"_qs);
     fish.AddNew();
     fish.Collect(u"Notiz"_qs, QString(1'000'000, u'x'));
     EXPECT_EQ(errorOf([&] { fish.Update(); }), 3026);
-    const bool undone = errorOf([&] { rename(fish, u"Aal"_qs); }) == 3026;
+    fish.Edit();
+    EXPECT_EQ(fish.Fields(u"FName"_qs).Value(), Value(u"Hecht")) << "what is stored, not what was written";
+    EXPECT_EQ(errorOf([&] { rename(fish, u"Barbe"_qs); }), 3026);
+    waters.MoveFirst();
+    EXPECT_EQ(waters.Fields(u"GName"_qs).Value(), Value(u"Waldsee"));
     EXPECT_EQ(errorOf([&] { fish.Close(); }), 0);
-    EXPECT_EQ(errorOf([&] { waters.Close(); }), undone ? 3026 : 0);
-    EXPECT_EQ(namesInFile(), undone ? unchanged : u"Aal;Zander;Äsche;Barsch");
-    EXPECT_EQ(rowsInFile(u"SELECT COUNT(*) FROM Gewaesser"_qs), undone ? u"2" : u"1");
+    EXPECT_EQ(errorOf([&] { waters.Close(); }), 3026);
+    EXPECT_EQ(namesInFile(), unchanged);
+    EXPECT_EQ(rowsInFile(u"SELECT COUNT(*) FROM Gewaesser"_qs), u"2");
+    EXPECT_EQ(errorOf([&] { table(u"Gewaesser").Delete(); }), 0) << "the next action is a new one";
 }
