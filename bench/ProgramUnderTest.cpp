@@ -5,10 +5,19 @@
 #include "RawFile.h"
 #include "Screens.h"
 #include "TextBox.h"
+#include "Theme.h"
 
 #include <QPushButton>
 #include <cstdio>
 #include <cstdlib>
+
+BenchDesk::BenchDesk(int& argc, char** argv, MessageBoxes& boxes)
+    : m_application(argc, argv) {
+    QApplication::setQuitOnLastWindowClosed(false);
+    Theme::apply(m_application, Theme::Mode::Light);
+    setClock(&m_clock);
+    setMessageBoxes(&boxes);
+}
 
 MsgBoxResult NoBoxes::show(const QString& text, int, const QString& title) {
     std::fprintf(stderr, "%s: %s\n", qUtf8Printable(title), qUtf8Printable(text));

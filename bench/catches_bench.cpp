@@ -1,6 +1,5 @@
 // The catch book: its grid over a month with 100,000 entries, and the start of the program over a million.
 
-#include "Clock.h"
 #include "DataTable.h"
 #include "Fangbuch.h"
 #include "Measure.h"
@@ -9,7 +8,6 @@
 #include "RawFile.h"
 #include "Screens.h"
 #include "Session.h"
-#include "Theme.h"
 #include "modFangbuch.h"
 
 #include <QApplication>
@@ -17,11 +15,6 @@
 #include <string>
 
 namespace {
-
-class FixedClock final : public Clock {
-public:
-    QDateTime now() const override { return QDate(benchYear, benchMonth, 14).startOfDay(); }
-};
 
 struct RawCell {
     qint64 number = 0;
@@ -95,14 +88,8 @@ StartTimes medianStart(const QString& folder) {
 } // namespace
 
 int main(int argc, char* argv[]) {
-    QApplication application(argc, argv);
-    QApplication::setQuitOnLastWindowClosed(false);
-    Theme::apply(application, Theme::Mode::Light);
-    const FixedClock clock;
-    setClock(&clock);
     NoBoxes boxes;
-    setMessageBoxes(&boxes);
-
+    const BenchDesk desk(argc, argv, boxes);
     QTemporaryDir temporary;
     const QString full = temporary.filePath(u"voll"_qs);
     const QString million = temporary.filePath(u"million"_qs);

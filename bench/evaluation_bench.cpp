@@ -3,7 +3,6 @@
 
 #include "Ado.h"
 #include "Berichte.h"
-#include "Clock.h"
 #include "DataTable.h"
 #include "Fangauswertung.h"
 #include "Measure.h"
@@ -15,7 +14,6 @@
 #include "Screens.h"
 #include "Session.h"
 #include "StagedRows.h"
-#include "Theme.h"
 #include "Vorschau.h"
 #include "modFAuswert.h"
 
@@ -27,11 +25,6 @@
 #include <string>
 
 namespace {
-
-class FixedClock final : public Clock {
-public:
-    QDateTime now() const override { return QDate(benchYear, benchMonth, 14).startOfDay(); }
-};
 
 /// Acknowledges what the export tells, and starts no spreadsheet.
 class Nodding final : public MessageBoxes {
@@ -199,13 +192,8 @@ void withEvaluation(const QString& folder, int catches, Work work) {
 } // namespace
 
 int main(int argc, char* argv[]) {
-    QApplication application(argc, argv);
-    QApplication::setQuitOnLastWindowClosed(false);
-    Theme::apply(application, Theme::Mode::Light);
-    const FixedClock clock;
-    setClock(&clock);
     Nodding boxes;
-    setMessageBoxes(&boxes);
+    const BenchDesk desk(argc, argv, boxes);
     QTemporaryDir temporary;
 
     const QString million = temporary.filePath(u"million"_qs);

@@ -3,8 +3,8 @@
 #include "DialectError.h"
 
 FieldReference fieldOf(const Source& source, int field) {
-    const FieldSpec& spec = source.table->fields[static_cast<size_t>(field)];
-    return {source.alias + '.' + quotedName(spec.name), &spec};
+    const FieldSpec& found = source.table->fields[static_cast<size_t>(field)];
+    return {source.alias + '.' + quotedName(found.name), &found};
 }
 
 const Source* Scope::findSource(QStringView name) const {
