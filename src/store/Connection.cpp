@@ -2,6 +2,7 @@
 
 #include "Cursor.h"
 #include "FileShape.h"
+#include "InterruptedFile.h"
 #include "SelectRewriter.h"
 #include "SqlFunctions.h"
 #include "Sqlite.h"
@@ -12,14 +13,15 @@
 
 namespace {
 
-constexpr int busyMilliseconds = 1500;
-
 int openFlags(Connection::Access access) {
-    // The program has one thread; without locks of its own the library hands out columns much faster.
-    constexpr int common = SQLITE_OPEN_NOMUTEX;
-    if (access == Connection::Access::ReadOnly) return common | SQLITE_OPEN_READONLY;
-    const int writing = common | SQLITE_OPEN_READWRITE;
-    return access == Connection::Access::Create ? writing | SQLITE_OPEN_CREATE : writing;
+    switch (access) {
+    case Connection::Access::ReadOnly:
+        return SQLITE_OPEN_READONLY;
+    case Connection::Access::ReadWrite:
+        return SQLITE_OPEN_READWRITE;
+    default:
+        return SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE;
+    }
 }
 
 /// The same failures have other numbers when they keep a file from being opened.
@@ -31,6 +33,8 @@ RuntimeError openError(const RuntimeError& error, const QString& path) {
         return runtimeError(3051, path);
     case 3051:
         return runtimeError(3051, path);
+    // Nothing was asked yet that could be too much: the library does not know the format.
+    case 3360:
     case 3343:
         return runtimeError(3343, path);
     default:
@@ -40,53 +44,43 @@ RuntimeError openError(const RuntimeError& error, const QString& path) {
 
 } // namespace
 
-void Connection::Closer::operator()(sqlite3* database) const { sqlite3_close_v2(database); }
-
 Connection::Connection(const QString& path, const QString& password, Access access) {
-    const bool exists = access != Access::Create;
-    if (exists) requireReadableFile(path);
-    const bool interrupted = exists && hasJournal(path);
-    if (exists && !interrupted) requirePageShape(path);
-    openFile(path, access);
-    m_cache.emplace(m_database.get());
-    m_transaction.emplace(m_database.get());
     try {
-        unlock(password);
-        if (!exists) return;
-        readFirstPage(path);
-        if (interrupted) requirePageShape(path);
-        requireTables(path);
+        if (access == Access::Create)
+            openFile(path, password, access);
+        else
+            openExisting(path, password, access);
     } catch (const RuntimeError& error) {
         throw openError(error, path);
     }
+}
+
+/// Whatever can be said against the file is said before anything might change it.
+void Connection::openExisting(const QString& path, const QString& password, Access access) {
+    requireReadableFile(path);
+    requireContent(path);
+    if (isInterrupted(path))
+        requireKeyOfInterrupted(path, password);
+    else
+        requireWholePages(path);
+    openFile(path, password, access);
+    readFirstPage(path);
+    requireWholePages(path);
+    requireTables(path);
+    if (access == Access::ReadWrite) leaveWriteAheadMode(path);
+    cascadeDeletions();
 }
 
 Connection::~Connection() {
     if (m_keptFailure) qWarning("%s", qUtf8Printable(m_keptFailure->description));
 }
 
-void Connection::openFile(const QString& path, Access access) {
-    sqlite3* database = nullptr;
-    const int code = sqlite3_open_v2(path.toUtf8().constData(), &database, openFlags(access), nullptr);
-    m_database.reset(database);
-    if (database == nullptr) throw runtimeError(7);
-    if (code != SQLITE_OK) throw openError(sqliteError(database), path);
-    sqlite3_extended_result_codes(database, 1);
-    sqlite3_busy_timeout(database, busyMilliseconds);
-}
-
-void Connection::unlock(const QString& password) {
-    // The library takes no empty key.
-    if (password.isEmpty()) throw runtimeError(3031);
-    const QByteArray key = password.toUtf8();
-    const int code = sqlite3_key(m_database.get(), key.constData(), static_cast<int>(key.size()));
-    if (code != SQLITE_OK) throw sqliteError(m_database.get());
-    // A library without encryption would take any key, and write in the clear.
-    if (!prepare("PRAGMA cipher_version").step())
-        throw RuntimeError{3000, QStringLiteral("Die Datenbankbibliothek kann nicht verschlüsseln.")};
-    // Newer libraries have another format of their own; older ones pass over this.
-    execute("PRAGMA cipher_compatibility = 3");
-    execute("PRAGMA foreign_keys = ON");
+void Connection::openFile(const QString& path, const QString& password, Access access) {
+    m_database = openHandle(path.toUtf8(), openFlags(access));
+    m_cache.emplace(m_database.get());
+    m_transaction.emplace(m_database.get());
+    setKey(m_database.get(), password);
+    execute("PRAGMA foreign_keys = OFF");
     execute("PRAGMA synchronous = FULL");
     execute("PRAGMA cache_size = -32768");
     registerSqlFunctions(m_database.get());
@@ -106,6 +100,23 @@ void Connection::requireTables(const QString& path) {
         if (!named.step()) throw runtimeError(3343, path);
         named.reset();
     }
+}
+
+/// A file that another tool has switched to a write-ahead log would have its newest rows beside it.
+void Connection::leaveWriteAheadMode(const QString& path) {
+    const auto answer = [this](const QByteArray& pragma) {
+        Statement statement = prepare(pragma);
+        return statement.step() ? statement.text(0) : QString();
+    };
+    if (answer("PRAGMA journal_mode") != u"wal") return;
+    if (answer("PRAGMA journal_mode = DELETE") != u"delete") throw runtimeError(3045, path);
+}
+
+/// The users go with their group. The file says so too, but the library can only enforce that together with
+/// the opposite, which is not wanted: that there is no user without a group.
+void Connection::cascadeDeletions() {
+    execute("CREATE TEMP TRIGGER uw_group_gone AFTER DELETE ON main.\"Gruppen\" "
+            "BEGIN DELETE FROM \"Benutzer\" WHERE \"GNr\" = OLD.\"GNr\"; END");
 }
 
 void Connection::close() {

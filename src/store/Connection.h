@@ -1,5 +1,6 @@
 #pragma once
 
+#include "DatabaseHandle.h"
 #include "Lexer.h"
 #include "StatementCache.h"
 #include "WriteTransaction.h"
@@ -17,8 +18,11 @@ class Connection {
 public:
     enum class Access : quint8 { ReadWrite, ReadOnly, Create };
 
-    /// Opens a file, which this alone never changes. Create is for a file that is to be made and does not
-    /// check what it holds. Errors as for Workspace::OpenDatabase.
+    /// Opens a file, which this alone never changes, but for taking back what a killed process left
+    /// half-written, and for a write-ahead log of another tool, which goes into the file. If it fails, the
+    /// file and its journal are as they were, unless the password was right and the file is damaged. Create
+    /// is for a file that is to be made and does not check what it holds. Errors as for
+    /// Workspace::OpenDatabase.
     Connection(const QString& path, const QString& password, Access access);
     ~Connection();
     Connection(const Connection&) = delete;
@@ -50,16 +54,14 @@ public:
     void remove(Cursor* cursor);
 
 private:
-    struct Closer {
-        void operator()(sqlite3* database) const;
-    };
-
-    void openFile(const QString& path, Access access);
-    void unlock(const QString& password);
+    void openExisting(const QString& path, const QString& password, Access access);
+    void openFile(const QString& path, const QString& password, Access access);
     void readFirstPage(const QString& path);
     void requireTables(const QString& path);
+    void leaveWriteAheadMode(const QString& path);
+    void cascadeDeletions();
 
-    std::unique_ptr<sqlite3, Closer> m_database;
+    DatabaseHandle m_database;
     std::optional<StatementCache> m_cache;
     std::optional<WriteTransaction> m_transaction;
     std::vector<Cursor*> m_cursors;

@@ -17,13 +17,14 @@ void requireReadableFile(const QString& path) {
     if (!file.isFile() || !file.isReadable()) throw runtimeError(3051, path);
 }
 
-void requirePageShape(const QString& path) {
-    const qint64 size = QFileInfo(path).size();
-    if (size == 0 || size % pageBytes != 0) throw runtimeError(3343, path);
+void requireContent(const QString& path) {
+    if (QFileInfo(path).size() == 0) throw runtimeError(3343, path);
+}
+
+void requireWholePages(const QString& path) {
+    if (QFileInfo(path).size() % pageBytes != 0) throw runtimeError(3343, path);
 }
 
 void requirePages(const QString& path, qint64 pages) {
     if (QFileInfo(path).size() < pages * pageBytes) throw runtimeError(3343, path);
 }
-
-bool hasJournal(const QString& path) { return QFileInfo(path + QStringLiteral("-journal")).size() > 0; }

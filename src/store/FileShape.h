@@ -7,9 +7,9 @@
 
 /// Error 3024 if there is no such file, 3051 if it is a folder or may not be read.
 void requireReadableFile(const QString& path);
-/// Error 3343 if the file is empty or does not end with a whole page.
-void requirePageShape(const QString& path);
+/// Error 3343 if the file is empty.
+void requireContent(const QString& path);
+/// Error 3343 if the file does not end with a whole page.
+void requireWholePages(const QString& path);
 /// Error 3343 if the file is shorter than its first page says.
 void requirePages(const QString& path, qint64 pages);
-/// Whether a killed process left a journal. Until that is taken back the file may have any size.
-bool hasJournal(const QString& path);

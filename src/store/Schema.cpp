@@ -207,7 +207,7 @@ QByteArray columnDefinition(const TableSpec& table, const FieldSpec& field) {
     QByteArray definition = quotedName(field.name) + ' ' + columnType(field.kind);
     const bool isKey = table.keyed && &field == &table.fields.front();
     if (isKey && field.kind == Long) definition += " PRIMARY KEY";
-    // The one relation that the file enforces: the users go with their group.
+    // The one relation that is enforced, and in this direction only: the users go with their group.
     if (table.name == u"Benutzer" && field.name == u"GNr")
         definition += " REFERENCES \"Gruppen\"(\"GNr\") ON DELETE CASCADE";
     return definition;

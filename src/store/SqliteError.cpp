@@ -16,10 +16,6 @@ std::optional<RuntimeError> markedError(QByteArrayView message) {
 
 RuntimeError constraintError(int extendedCode) {
     switch (extendedCode) {
-    case SQLITE_CONSTRAINT_FOREIGNKEY:
-        return {3201, QStringLiteral(
-                          "Der Datensatz kann nicht hinzugefügt oder geändert werden, da ein Datensatz in "
-                          "der Tabelle 'Gruppen' mit ihm in Beziehung stehen muss.")};
     case SQLITE_CONSTRAINT_NOTNULL:
         return {3314, QStringLiteral("Das Feld darf keinen Nullwert enthalten.")};
     default:
@@ -74,8 +70,9 @@ RuntimeError sqliteError(int extendedCode) {
     case SQLITE_LOCKED:
         return runtimeError(3260);
     case SQLITE_READONLY:
-        return runtimeError(3027);
+    // A journal cannot be made where the folder may not be written to.
     case SQLITE_CANTOPEN:
+        return runtimeError(3027);
     case SQLITE_PERM:
     case SQLITE_AUTH:
         return runtimeError(3051);

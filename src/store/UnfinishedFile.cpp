@@ -28,8 +28,6 @@ UnfinishedFile::~UnfinishedFile() {
 
 void UnfinishedFile::start(const QString& password) {
     m_connection.emplace(m_path, password, Connection::Access::Create);
-    // Rows come table by table, those that refer to others perhaps before them.
-    m_connection->execute("PRAGMA foreign_keys = OFF");
     // Makes the entry in the folder last as well.
     m_connection->execute("PRAGMA synchronous = EXTRA");
     m_connection->execute("BEGIN IMMEDIATE");

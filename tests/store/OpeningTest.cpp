@@ -22,6 +22,23 @@ protected:
         return made.fileName();
     }
 
+    /// A copy as it lies there when a process is killed while it writes, the journal beside it.
+    QString interruptedCopy() const {
+        const auto writing = connectTo(path());
+        writing->execute("PRAGMA cache_size = 5");
+        writing->execute("BEGIN");
+        writing->execute("UPDATE Kontakt SET Notiz = hex(randomblob(20000))");
+        const QString copy = file(u"anders.mdb"_qs);
+        QFile::copy(path(), copy);
+        QFile::copy(path() + u"-journal"_qs, copy + u"-journal"_qs);
+        return copy;
+    }
+
+    static void overwrite(const QString& path, qint64 place, const QByteArray& bytes) {
+        QFile torn(path);
+        ASSERT_TRUE(torn.open(QIODevice::ReadWrite) && torn.seek(place) && torn.write(bytes) == bytes.size());
+    }
+
     static QByteArray contentOf(const QString& path) {
         QFile read(path);
         return read.open(QIODevice::ReadOnly) ? read.readAll() : QByteArray();
@@ -81,6 +98,64 @@ TEST_F(OpeningTest, WaitsForAnotherProcessAndThenReportsTheFileAsInUse) {
     EXPECT_EQ(errorOfOpening(path()), 3045);
     other->execute("ROLLBACK");
     EXPECT_EQ(errorOfOpening(path()), 0);
+}
+
+TEST_F(OpeningTest, LeavesAnInterruptedFileAndItsJournalAloneWhenItFails) {
+    const QString copy = interruptedCopy();
+    const QString journal = copy + u"-journal"_qs;
+    ASSERT_GT(contentOf(copy).size(), contentOf(path()).size());
+    for (const bool isTorn : {false, true}) {
+        if (isTorn) overwrite(copy, 512, QByteArray(512, 'x'));
+        const QByteArray file = contentOf(copy);
+        const QByteArray rest = contentOf(journal);
+        EXPECT_EQ(errorOfOpening(copy, u";pwd=falsch"_qs), 3031);
+        EXPECT_EQ(contentOf(copy), file);
+        EXPECT_EQ(contentOf(journal), rest);
+    }
+    EXPECT_EQ(errorOfOpening(copy), 0) << "though its first page was torn apart";
+    EXPECT_EQ(contentOf(copy), contentOf(path()));
+    EXPECT_FALSE(QFile::exists(journal));
+}
+
+TEST_F(OpeningTest, LeavesTheJournalOfAnEmptyFileAlone) {
+    const QString copy = interruptedCopy();
+    ASSERT_TRUE(QFile::resize(copy, 0));
+    const QByteArray rest = contentOf(copy + u"-journal"_qs);
+    EXPECT_EQ(errorOfOpening(copy), 3343);
+    EXPECT_EQ(contentOf(copy), QByteArray());
+    EXPECT_EQ(contentOf(copy + u"-journal"_qs), rest);
+}
+
+TEST_F(OpeningTest, TakesAFileBackFromTheModeOfAnotherTool) {
+    const auto tool = connectTo(path());
+    tool->execute("PRAGMA journal_mode = WAL");
+    tool->execute("UPDATE Fisch SET FName = 'Aal' WHERE FNr = 1");
+    EXPECT_EQ(errorOfOpening(path()), 3045) << "while the tool has it open";
+    const QString log = u"-wal"_qs;
+    QFile::copy(path(), file(u"anders.mdb"_qs));
+    QFile::copy(path() + log, file(u"anders.mdb-wal"_qs));
+    const QByteArray rest = contentOf(file(u"anders.mdb-wal"_qs));
+    EXPECT_FALSE(rest.isEmpty());
+    EXPECT_EQ(errorOfOpening(file(u"anders.mdb"_qs), u";pwd=falsch"_qs), 3031);
+    EXPECT_EQ(contentOf(file(u"anders.mdb-wal"_qs)), rest);
+    tool->close();
+
+    for (const QString& name : {u"uw01.mdb"_qs, u"anders.mdb"_qs}) {
+        const auto own = connectTo(file(name));
+        EXPECT_FALSE(QFile::exists(file(name) + log));
+        EXPECT_EQ(rowsOf(*own, u"SELECT FName FROM Fisch WHERE FNr = 1"_qs), u"Aal");
+        own->execute("BEGIN IMMEDIATE");
+        own->execute("DELETE FROM Fang");
+        EXPECT_TRUE(QFile::exists(file(name) + u"-journal"_qs));
+    }
+}
+
+TEST_F(OpeningTest, SaysThatAFolderIsNotWritableWhenItsFileIsWrittenTo) {
+    Database open = DBEngine::Workspaces(0).OpenDatabase(path(), false, false, connect());
+    Recordset fish = open.OpenRecordset(u"Fisch"_qs, dbOpenTable);
+    // The superuser may write to any folder, but not make a file where there is a folder.
+    ASSERT_TRUE(QDir().mkdir(path() + u"-journal"_qs));
+    EXPECT_EQ(errorOf([&] { fish.Delete(); }), 3027);
 }
 
 TEST_F(OpeningTest, ChangesNothing) {

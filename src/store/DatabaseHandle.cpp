@@ -1,0 +1,38 @@
+#include "DatabaseHandle.h"
+
+#include "Sqlite.h"
+#include "SqliteError.h"
+#include "Statement.h"
+
+namespace {
+
+constexpr int busyMilliseconds = 1500;
+
+} // namespace
+
+void DatabaseCloser::operator()(sqlite3* database) const { sqlite3_close_v2(database); }
+
+DatabaseHandle openHandle(const QByteArray& name, int flags) {
+    sqlite3* database = nullptr;
+    // The program has one thread; without locks of its own the library hands out columns much faster.
+    const int code = sqlite3_open_v2(name.constData(), &database, flags | SQLITE_OPEN_NOMUTEX, nullptr);
+    DatabaseHandle handle(database);
+    if (database == nullptr) throw runtimeError(7);
+    if (code != SQLITE_OK) throw sqliteError(database);
+    sqlite3_extended_result_codes(database, 1);
+    sqlite3_busy_timeout(database, busyMilliseconds);
+    return handle;
+}
+
+void setKey(sqlite3* database, const QString& password) {
+    // The library takes no empty key.
+    if (password.isEmpty()) throw runtimeError(3031);
+    const QByteArray key = password.toUtf8();
+    const int code = sqlite3_key(database, key.constData(), static_cast<int>(key.size()));
+    if (code != SQLITE_OK) throw sqliteError(database);
+    // A library without encryption would take any key, and write in the clear.
+    if (!Statement(database, "PRAGMA cipher_version").step())
+        throw RuntimeError{3000, QStringLiteral("Die Datenbankbibliothek kann nicht verschlüsseln.")};
+    // Newer libraries have another format of their own; older ones pass over this.
+    Statement(database, "PRAGMA cipher_compatibility = 3").run();
+}

@@ -1,0 +1,77 @@
+#include "InterruptedFile.h"
+
+#include "DatabaseHandle.h"
+#include "RuntimeError.h"
+#include "Sqlite.h"
+#include "SqliteError.h"
+#include "Statement.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <QUrl>
+
+namespace {
+
+constexpr QLatin1String rollbackEnding("-journal");
+constexpr QLatin1String logEnding("-wal");
+
+/// A file said to be immutable is read without locks and without a look at its journal.
+DatabaseHandle openAsItLies(const QString& path) {
+    const QByteArray uri = QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath()).toEncoded();
+    return openHandle(uri + "?immutable=1", SQLITE_OPEN_READONLY | SQLITE_OPEN_URI);
+}
+
+/// Only the first page is read. Other failures than a wrong key are told when the file is really opened.
+bool fitsFirstPage(sqlite3* database, const QString& password) {
+    setKey(database, password);
+    try {
+        Statement(database, "PRAGMA user_version").step();
+    } catch (const RuntimeError& error) {
+        return error.number != 3031;
+    }
+    return true;
+}
+
+/// Reads through the library: closing a file of its own would drop the locks of this process on it.
+QByteArray contentOf(sqlite3* database) {
+    sqlite3_file* file = nullptr;
+    sqlite3_file_control(database, "main", SQLITE_FCNTL_FILE_POINTER, &file);
+    sqlite3_int64 size = 0;
+    int code = file->pMethods->xFileSize(file, &size);
+    QByteArray content(static_cast<qsizetype>(size), '\0');
+    if (code == SQLITE_OK && size > 0)
+        code = file->pMethods->xRead(file, content.data(), static_cast<int>(size), 0);
+    if (code != SQLITE_OK) throw sqliteError(code);
+    return content;
+}
+
+void copyInto(const QString& target, const QByteArray& content) {
+    QFile copy(target);
+    const bool written = copy.open(QIODevice::WriteOnly) && copy.write(content) == content.size();
+    if (!written || !copy.flush()) throw runtimeError(3026);
+}
+
+/// A first page that is itself half-written fits no key, but the journal has what it was. A copy shows it.
+bool fitsOnceTakenBack(const QString& path, const QByteArray& content, const QString& password) {
+    const QTemporaryDir folder;
+    const QString copy = folder.filePath(QStringLiteral("copy"));
+    copyInto(copy, content);
+    for (const QLatin1String ending : {rollbackEnding, logEnding})
+        if (QFile::exists(path + ending) && !QFile::copy(path + ending, copy + ending))
+            throw runtimeError(3026);
+    const DatabaseHandle handle = openHandle(copy.toUtf8(), SQLITE_OPEN_READWRITE);
+    return fitsFirstPage(handle.get(), password) && QFileInfo(copy).size() > 0;
+}
+
+} // namespace
+
+bool isInterrupted(const QString& path) {
+    return QFileInfo(path + rollbackEnding).size() > 0 || QFile::exists(path + logEnding);
+}
+
+void requireKeyOfInterrupted(const QString& path, const QString& password) {
+    const DatabaseHandle handle = openAsItLies(path);
+    if (fitsFirstPage(handle.get(), password)) return;
+    if (!fitsOnceTakenBack(path, contentOf(handle.get()), password)) throw runtimeError(3031);
+}
