@@ -61,6 +61,8 @@ RuntimeError fieldOutsideAggregate(const QString& name) {
     return {3122, QStringLiteral("Der Ausdruck '%1' ist nicht Teil einer Aggregatfunktion.").arg(name)};
 }
 
+RuntimeError tooManyFields() { return {3190, QStringLiteral("Zu viele Felder definiert.")}; }
+
 RuntimeError tooManyColumns() {
     return {3306, QStringLiteral("Eine Unterabfrage, die als Wert verwendet wird, darf nur ein Feld haben.")};
 }

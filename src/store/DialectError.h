@@ -25,6 +25,7 @@ RuntimeError ambiguousField(const QString& name);        ///< 3079
 RuntimeError unknownFunction(const QString& name);       ///< 3085
 RuntimeError misplacedAggregate(QStringView place);      ///< 3096
 RuntimeError fieldOutsideAggregate(const QString& name); ///< 3122
-RuntimeError tooManyColumns();                           ///< 3306
+RuntimeError tooManyFields();                            ///< 3190, of a result
+RuntimeError tooManyColumns();                           ///< 3306, of a sub-select
 RuntimeError tooComplex();                               ///< 3360
 RuntimeError unlikeKinds();                              ///< 3464

@@ -9,6 +9,10 @@ namespace {
 
 using Aggregates = ExpressionRewriter::Aggregates;
 
+// What the classic database allows, and far more than a screen asks for.
+constexpr size_t mostColumns = 255;
+constexpr size_t mostTables = 32;
+
 struct Item {
     Operand operand;
     QString name;
@@ -35,6 +39,7 @@ private:
     void readSource();
     void readItems();
     void readItem();
+    void add(Item item);
     void addFields(const Source& source);
     void readAlias(Item& item);
     void readOrderTerm();
@@ -92,6 +97,7 @@ void SelectRewriter::readSource() {
     const bool as = m_reader.acceptWord(u"AS");
     QString name = as || m_reader.atName() ? m_reader.takeName(SyntaxFault::From) : tableName;
     if (m_scope.findSource(name) != nullptr) m_reader.fail(SyntaxFault::From);
+    if (m_scope.sources().size() == mostTables) throw tooComplex();
     m_scope.add({table, std::move(name), m_reader.nextAlias()});
 }
 
@@ -123,6 +129,11 @@ void SelectRewriter::readItem() {
         item.name = item.operand.bareField;
     }
     readAlias(item);
+    add(std::move(item));
+}
+
+void SelectRewriter::add(Item item) {
+    if (m_items.size() == mostColumns) throw tooManyFields();
     m_items.push_back(std::move(item));
 }
 
@@ -132,7 +143,7 @@ void SelectRewriter::addFields(const Source& source) {
         const FieldReference reference = fieldOf(source, field);
         const QString name = reference.field->name.toString();
         Operand operand{.sql = reference.sql, .kind = reference.field->kind, .bareField = name};
-        m_items.push_back({std::move(operand), name, source.name, field});
+        add({std::move(operand), name, source.name, field});
     }
 }
 

@@ -8,8 +8,8 @@
 /// Reads a whole statement, which must be a single SELECT.
 ///
 /// Errors: 3075 for what is not well-formed; 3061 and 3079 for fields, 3078 for tables that cannot be found;
-/// 3464 for a comparison of a text with a number; 3122 for a field beside an aggregate; 3360 for a statement
-/// of many thousand words.
+/// 3464 for a comparison of a text with a number; 3122 for a field beside an aggregate; 3190 for more
+/// than 255 columns; 3360 for more than 32 tables or a statement of many thousand words.
 SelectPlan rewriteSelect(QStringView source, const LexedStatement& statement);
 
 // Sub-selects, read from their SELECT up to the bracket that ends them.

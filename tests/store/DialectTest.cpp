@@ -306,6 +306,24 @@ TEST_F(DialectTest, SurvivesNestingAndLengthBeyondReason) {
     }
 }
 
+TEST_F(DialectTest, BoundsColumnsAndTables) {
+    const auto listed = [](const QString& item, int times) { return QStringList(times, item).join(u','); };
+    const auto columns = [&](const QString& item, int times) {
+        return errorOf([&] { rows(u"SELECT "_qs + listed(item, times) + u" FROM Fisch"_qs); });
+    };
+    EXPECT_EQ(columns(u"*"_qs, 85), 0);
+    EXPECT_EQ(columns(u"FNr"_qs, 255), 0);
+    EXPECT_EQ(columns(u"FNr"_qs, 256), 3190);
+    EXPECT_EQ(columns(u"*"_qs, 4'900), 3190);
+    EXPECT_EQ(errorOf([&] {
+                  QStringList tables;
+                  for (int i = 0; i < 3'000; ++i) tables += u"Fisch f%1"_qs.arg(i);
+                  rows(u"SELECT COUNT(*) FROM "_qs + tables.join(u','));
+              }),
+              3360);
+    EXPECT_EQ(rows(u"SELECT FNr FROM Fisch WHERE FNr = 1 ORDER BY "_qs + listed(u"FName"_qs, 1'500)), u"1");
+}
+
 TEST_F(DialectTest, NamesWhatHasNoNameAndTellsDoubleNamesApart) {
     const auto names = [this](QStringView select) {
         QStringList found;
