@@ -2,6 +2,8 @@
 
 #include "UnfinishedFile.h"
 
+#include <QFile>
+
 namespace {
 
 struct SchemaObject {
@@ -48,6 +50,14 @@ void copyCounters(Connection& source, Connection& target) {
     copyRows(source, target, QStringLiteral("sqlite_sequence"));
 }
 
+/// Numbers of the file itself by which other tools know it.
+void copyMarks(Connection& source, Connection& target) {
+    for (const QByteArray mark : {"user_version", "application_id"}) {
+        Statement value = source.prepare("PRAGMA " + mark);
+        if (value.step()) target.execute("PRAGMA " + mark + " = " + QByteArray::number(value.integer(0)));
+    }
+}
+
 void copyAll(Connection& source, Connection& target) {
     const QList<SchemaObject> tables = userTables(source);
     for (const SchemaObject& table : tables) {
@@ -55,6 +65,7 @@ void copyAll(Connection& source, Connection& target) {
         copyRows(source, target, table.name);
     }
     copyCounters(source, target);
+    copyMarks(source, target);
     for (const SchemaObject& object : schemaObjects(source, "type <> 'table'")) target.execute(object.sql);
 }
 
@@ -82,6 +93,8 @@ void compactFile(const QString& source, const QString& target, const QString& pa
     requireNewFile(target);
     const auto original = openSource(source, password);
     UnfinishedFile copy(target, password);
+    // Who may not read the original shall not read its copy either, not even while it grows.
+    if (!QFile::setPermissions(target, QFile::permissions(source))) throw runtimeError(70);
     // Nobody may write to the original while it is read table by table.
     original->execute("BEGIN");
     copyAll(*original, copy.connection());

@@ -22,7 +22,12 @@ TEST_F(CompactionTest, CopiesEverythingIntoASmallerFile) {
     execute("INSERT INTO Benutzer VALUES (9, 'Waise', NULL, 77)");
     execute("CREATE TABLE Eigenes (Was TEXT)");
     execute("INSERT INTO Eigenes VALUES ('eins')");
+    execute("PRAGMA user_version = 7");
+    execute("PRAGMA application_id = -5");
+    constexpr QFileDevice::Permissions ownerOnly(QFile::ReadOwner | QFile::WriteOwner);
+    ASSERT_TRUE(QFile::setPermissions(path(), ownerOnly));
     EXPECT_EQ(compact(), 0);
+    EXPECT_EQ(QFile::permissions(target()), QFile::permissions(path()));
     EXPECT_LT(QFileInfo(target()).size(), QFileInfo(path()).size() / 2);
 
     const auto copy = connectTo(target());
@@ -35,6 +40,12 @@ TEST_F(CompactionTest, CopiesEverythingIntoASmallerFile) {
         copy->prepare("SELECT Anzahl || Gewicht || (SELECT Was FROM Eigenes) FROM Fang WHERE FangNr = 1");
     ASSERT_TRUE(raw.step());
     EXPECT_EQ(raw.text(0), u"7000000000vieleins");
+
+    for (const auto& [mark, value] : {std::pair("PRAGMA user_version", 7), {"PRAGMA application_id", -5}}) {
+        Statement kept = copy->prepare(mark);
+        EXPECT_TRUE(kept.step());
+        EXPECT_EQ(kept.integer(0), value) << mark;
+    }
 
     Recordset entries = Database(copy).OpenRecordset(u"Fang"_qs, dbOpenTable);
     entries.AddNew();

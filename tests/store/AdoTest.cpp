@@ -1,0 +1,61 @@
+#include "Ado.h"
+#include "StoreFixture.h"
+
+/// The program's connection and the one that stages a report, on one file.
+class AdoTest : public StoreTest {
+protected:
+    AdoTest() {
+        staging.setProvider(u"Microsoft.Jet.OLEDB.4.0"_qs);
+        staging.setProperty(u"Data Source"_qs, path());
+        staging.setProperty(u"Jet OLEDB:Database Password"_qs, password());
+        staging.Open();
+    }
+
+    ADODB::Recordset stage(qint32 number) const {
+        ADODB::Recordset rows;
+        rows.Open(u"Druck_ArbListe"_qs, staging, ADODB::adOpenDynamic, ADODB::adLockOptimistic,
+                  ADODB::adCmdTable);
+        rows.AddNew();
+        rows.Collect(u"ArbNr"_qs, number);
+        rows.Update();
+        return rows;
+    }
+
+    QString staged() const { return rowsInFile(u"SELECT ArbNr FROM Druck_ArbListe"_qs); }
+
+    ADODB::Connection staging;
+};
+
+TEST_F(AdoTest, ReachesTheFileAtTheCloseWhileTheProgramKeepsAShortResultOpen) {
+    Recordset member = query(u"SELECT * FROM Kontakt WHERE KNr = 1"_qs);
+    Recordset count = query(u"SELECT COUNT(KNr) FROM Kontakt"_qs);
+    ADODB::Recordset rows = stage(5);
+    EXPECT_EQ(staged(), u"");
+    rows.Close();
+    EXPECT_EQ(staged(), u"5");
+    EXPECT_EQ(rowsOf(*connection, u"SELECT ArbNr FROM Druck_ArbListe"_qs), u"5");
+    EXPECT_EQ(member.Fields(u"Nachname"_qs).Value(), Value(u"Müller"));
+
+    Recordset program = table(u"Druck_ArbListe");
+    program.Delete();
+    program.Close();
+    staging.Close();
+    EXPECT_EQ(staged(), u"");
+}
+
+TEST_F(AdoTest, ReportsAndTakesBackWhatTheProgramsOwnLocksKeepOut) {
+    Recordset walking = query(u"SELECT * FROM Kontakt"_qs);
+    ADODB::Recordset rows = stage(5);
+    EXPECT_EQ(errorOf([&] { rows.Close(); }), 3260) << "a walk still reads the file";
+    walking.Close();
+    EXPECT_EQ(staged(), u"");
+
+    Recordset writing = seek(u"Fisch", 1);
+    writing.Delete();
+    EXPECT_EQ(errorOf([&] { stage(6); }), 3260) << "an action still writes";
+    writing.Close();
+    stage(7).Close();
+    EXPECT_EQ(staged(), u"7");
+    EXPECT_EQ(errorOf([&] { staging.Close(); }), 0);
+    EXPECT_EQ(errorOf([&] { staging.Close(); }), 91);
+}
