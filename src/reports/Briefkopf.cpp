@@ -98,6 +98,7 @@ void Briefkopf::addSetting(const QString& label, const QString& caption, const Q
 void Briefkopf::addColumns(std::initializer_list<ReportColumn> columns) {
     int whole = 0;
     for (const ReportColumn& column : columns) whole += column.breadth;
+    if (whole <= 0) return; // no column, no table
     m_head.setHeight(headTop + headHeight);
     m_detail.setHeight(rowHeight);
     m_head.addShape(u"Shape1"_qs, {0, headTop, breadth, headHeight}).ground(paleBlue).ink(clubBlue);
