@@ -1,5 +1,6 @@
 #include "QueryCursor.h"
 
+#include <algorithm>
 #include <utility>
 
 QueryCursor::QueryCursor(std::shared_ptr<Connection> connection, QStringView select)

@@ -2,7 +2,6 @@
 
 #include "Cursor.h"
 
-#include <algorithm>
 #include <variant>
 
 /// A cursor over the result of a SELECT. Rows stream from the running statement. Only the first and the last
