@@ -222,8 +222,12 @@ QByteArray tableDefinition(const TableSpec& table) {
 } // namespace
 
 int TableSpec::fieldIndex(QStringView fieldName) const {
-    for (size_t i = 0; i < fields.size(); ++i)
-        if (fields[i].name.compare(fieldName, Qt::CaseInsensitive) == 0) return static_cast<int>(i);
+    // A list on its way to paper asks this for each of its cells, so what differs in length is not compared.
+    for (size_t i = 0; i < fields.size(); ++i) {
+        const QStringView own = fields[i].name;
+        const bool same = own.size() == fieldName.size() && own.compare(fieldName, Qt::CaseInsensitive) == 0;
+        if (same) return static_cast<int>(i);
+    }
     return -1;
 }
 
