@@ -43,6 +43,7 @@ Field Recordset::Fields(const QString& name) const {
 std::vector<Field> Recordset::Fields() const {
     std::vector<Field> fields;
     const int count = static_cast<int>(cursor().columnNames().size());
+    fields.reserve(static_cast<size_t>(count));
     for (int column = 0; column < count; ++column) fields.push_back(Field(m_cursor, column));
     return fields;
 }
