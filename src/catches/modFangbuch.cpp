@@ -38,7 +38,8 @@ void schreibeFelder(ErrorTail& step, Recordset& fang, const Fangbuch& form) {
 }
 
 /// Opens the table and seeks the record whose number the form shows. False also when the seek itself failed:
-/// the cursor then stands on some other record, which nobody may touch.
+/// there is then no current record, and the routine tells that instead of stumbling over each further
+/// statement.
 bool findeOffenen(ErrorTail& step, Recordset& fang, const Fangbuch& form) {
     bool gefunden = false;
     step([&] { fang = oeffne(u"Fang"_qs, dbOpenTable); });

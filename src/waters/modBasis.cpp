@@ -114,8 +114,8 @@ void speichere(const QString& routine, const Art& art) {
     });
 }
 
-/// Opens the table and seeks the record of the form. False also when the seek itself failed: the cursor then
-/// stands on some other record, which nobody may touch.
+/// Opens the table and seeks the record of the form. False also when the seek itself failed: there is
+/// then no current record, and the routine tells that instead of stumbling over each further statement.
 bool findeOffenen(ErrorTail& step, Recordset& satz, const Art& art) {
     bool gefunden = false;
     step([&] { satz = oeffne(art.tabelle, dbOpenTable); });
