@@ -1,14 +1,146 @@
 #include "KontaktUebers.h"
 
+#include "Conversions.h"
+#include "DataTable.h"
 #include "Face.h"
 #include "Heading.h"
+#include "Katego.h"
+#include "Kontakt.h"
+#include "MsgBox.h"
+#include "Screens.h"
+#include "Session.h"
+#include "SuchKont.h"
 #include "Toolbar.h"
+#include "Uebersicht.h"
+#include "modKontakt.h"
+#include "modNavigation.h"
+#include "modRun.h"
 
 #include <QBoxLayout>
+#include <QLabel>
+#include <algorithm>
 
 KontaktUebers::KontaktUebers()
     : Screen(u"KontaktUebers"_qs, u"Kontakt - Übersicht"_qs) {
     Ueberschrift = new Heading(u"KONTAKT - ÜBERSICHT"_qs, this);
+    buildToolbar();
+    tblKUebers = new DataTable(u"tblKUebers"_qs, this);
+    tblKUebers->setAccessibleName(u"Kontakte nach Kategorien"_qs);
+    Label2 = Face::label(u"Label2"_qs, u"Gefunden:"_qs, this);
+    Label1 = Face::label(u"Label1"_qs, QString(), this);
+    auto* found = new QHBoxLayout;
+    found->setSpacing(Face::gap);
+    found->addWidget(Label2);
+    found->addWidget(Label1);
+    found->addStretch();
+    QVBoxLayout* rest = Face::column(this, Ueberschrift, Toolbar1);
+    rest->addWidget(tblKUebers, 1);
+    rest->addLayout(found);
+
+    on(Toolbar1, &Toolbar::ButtonClick, [this](const QString& key) { Toolbar1_ButtonClick(key); });
+    on(tblKUebers, &DataTable::OnGridCellDown,
+       [this](int row, int column) { tblKUebers_OnGridCellDown(row, column); });
+    on(tblKUebers, &DataTable::OnGridCellOpen,
+       [this](int row, int column) { tblKUebers_OnGridCellOpen(row, column); });
+}
+
+void KontaktUebers::buildToolbar() {
     Toolbar1 = new Toolbar(this);
-    Face::column(this, Ueberschrift, Toolbar1)->addStretch();
+    Toolbar1->addKey(u"tbKontakt"_qs, u"Neuer Kontakt"_qs, u"Neuer Kontakt oder neues Mitglied..."_qs,
+                     u"kontakt"_qs);
+    Toolbar1->addSeparator();
+    Toolbar1->addKey(u"tbKatego"_qs, u"Kategorien bearb."_qs, u"Kategorien bearbeiten..."_qs,
+                     u"kategorie"_qs);
+    Toolbar1->addSeparator();
+    Toolbar1->addKey(u"tbWord"_qs, u"Word-Datei"_qs, u"Serienbrief - Datei für Word erzeugen..."_qs,
+                     u"word"_qs);
+    Toolbar1->addSeparator();
+    Toolbar1->addKey(u"tbSuch"_qs, u"Suchen"_qs, u"Mitglied suchen..."_qs, u"suchen"_qs);
+    Toolbar1->addSeparator();
+    Toolbar1->addKey(u"tbMitglList"_qs, u"Mitglieder - Liste"_qs, u"Mitglieder - Listen erzeugen..."_qs,
+                     u"liste"_qs);
+}
+
+void KontaktUebers::Form_Load() {
+    session().Modus = u"SAVE"_qs;
+    session().AktZeile = 0;
+}
+
+void KontaktUebers::Form_Deactivate() { unload<SuchKont>(); }
+
+void KontaktUebers::Toolbar1_ButtonClick(const QString& key) {
+    if (key == u"tbKontakt"_qs) NeuerKontakt();
+    if (key == u"tbKatego"_qs) BearbeiteKategorien();
+    if (key == u"tbWord"_qs) ErzeugeSerienbriefDatei();
+    if (key == u"tbSuch"_qs) Suchen();
+    session().Modus = u"SAVE"_qs;
+}
+
+void KontaktUebers::NeuerKontakt() {
+    session().Modus = u"SAVE"_qs;
+    screen<Kontakt>().ShowModal();
+}
+
+void KontaktUebers::BearbeiteKategorien() {
+    modNavigation::binde(session().AktBarItem, screen<Katego>());
+    screen<Katego>().Show();
+}
+
+void KontaktUebers::Suchen() {
+    modKontakt::SuchAnzeigeLoeschen();
+    screen<SuchKont>().ShowModal();
+}
+
+void KontaktUebers::ErzeugeSerienbriefDatei() {
+    Session& s = session();
+    s.MsgAntwort = MsgBox(u"Wollen Sie eine Serienbrief - Datei für Word mit der Bezeichnung - SERI.txt - "_qs
+                          u"erzeugen ?"_qs,
+                          vbYesNo);
+    if (s.MsgAntwort != vbYes) {
+        MsgBox(u"Vorgang von User abgebrochen !"_qs, vbInformation);
+        return;
+    }
+    tblKUebers->enter({});
+    if (tblKUebers->rowCount() < 1) {
+        MsgBox(u"Keine Daten zum erzeugen der Datei - SERI.txt - gefunden, der Vorgang wird abgebrochen !"_qs,
+               vbInformation);
+    } else if (std::ranges::count(s.KategoOffen, true) < 1) {
+        // So it is also before the first press in the grid, when nothing is known of any category.
+        MsgBox(u"Um eine Serienbrief - Datei erzeugen zu können, müssen Sie die gewünschten Kategorien "_qs
+               u"vorher aufklappen !"_qs,
+               vbInformation);
+    }
+}
+
+void KontaktUebers::tblKUebers_OnGridCellDown(int row, int column) {
+    Session& s = session();
+    const TableHandle gedrueckt = tblKUebers->enter({});
+    s.KategoOffen.resize(std::max(s.KategoOffen.size(), std::size_t(tblKUebers->rowCount())));
+    // The gutter of a contact's row is none of a category's.
+    if (gedrueckt.parentRow >= 0) {
+        tblKUebers->enter(gedrueckt);
+        return;
+    }
+    if (column == DataTable::rowHeaderColumn && row >= 0) klappe(row);
+}
+
+void KontaktUebers::klappe(int row) {
+    Session& s = session();
+    const bool oeffnet = !s.KategoOffen[std::size_t(row)];
+    tblKUebers->setCell(row, Uebersicht::spalteZustand, oeffnet ? u"-"_qs : u"+"_qs);
+    if (oeffnet) modKontakt::KategorieAufklappen(row, CLng(tblKUebers->cell(row, Uebersicht::spalteNr)));
+    s.KategoOffen[std::size_t(row)] = oeffnet;
+    s.LetzterKlappZustand = oeffnet;
+}
+
+void KontaktUebers::tblKUebers_OnGridCellOpen(int row, int column) {
+    if (row < 0 || column < 0) return;
+    if (!modKontakt::KontaktZugriff_Erlaubt()) {
+        MsgBox(u"Sie haben keine Zugriffsberechtigung auf diese Funktion !"_qs, vbInformation);
+        return;
+    }
+    session().Modus = u"EDIT"_qs;
+    session().AktZeile = row;
+    modKontakt::loadKontakt(tblKUebers, row, column);
+    session().Modus = u"SAVE"_qs;
 }

@@ -2,15 +2,37 @@
 
 #include "Screen.h"
 
+class DataTable;
 class Heading;
+class QLabel;
 class Toolbar;
 
+/// The contacts under their categories. Which categories are open also decides who gets into the file for
+/// serial letters.
 class KontaktUebers : public Screen {
     Q_OBJECT
 
 public:
     KontaktUebers();
 
+    void Form_Load() override;
+    void Form_Deactivate() override;
+
     Heading* Ueberschrift;
     Toolbar* Toolbar1;
+    DataTable* tblKUebers;
+    QLabel* Label2;
+    QLabel* Label1;
+
+private:
+    void buildToolbar();
+    void Toolbar1_ButtonClick(const QString& key);
+    void NeuerKontakt();
+    void BearbeiteKategorien();
+    void ErzeugeSerienbriefDatei();
+    void Suchen();
+    /// Opens or closes a category, whichever its flag says it is not.
+    void klappe(int row);
+    void tblKUebers_OnGridCellDown(int row, int column);
+    void tblKUebers_OnGridCellOpen(int row, int column);
 };

@@ -1,11 +1,153 @@
 #include "modKontakt.h"
 
+#include "ComboBox.h"
+#include "Conversions.h"
+#include "DataTable.h"
+#include "ErrorTail.h"
+#include "Katego.h"
+#include "Kontakt.h"
+#include "KontaktFelder.h"
+#include "MemoBox.h"
+#include "Recordset.h"
+#include "Screens.h"
+#include "Session.h"
+#include "SqlText.h"
+#include "TextBox.h"
+#include "Toolbar.h"
+#include "ValueLabel.h"
 #include "Zugriff.h"
+#include "modKatego.h"
+#include "modRun.h"
+
+#include <QCheckBox>
+#include <QRadioButton>
+#include <QTabWidget>
+#include <functional>
+
+// The mask of a contact and the lookups around it. What writes stands in modKontaktSpeichern.cpp.
 
 namespace modKontakt {
 
-bool KontaktZugriff_Erlaubt() {
-    return zugriffErlaubt(u"modKontakt"_qs, u"KontaktZugriff_Erlaubt"_qs, u"Kontakt"_qs);
+namespace {
+
+const QString modul = u"modKontakt"_qs;
+
+Recordset abfrage(const QString& select) {
+    return session().AktDatenbank.OpenRecordset(select, dbOpenDynaset);
+}
+
+/// The one value of the one row of a query; what is given otherwise where there is not exactly one row.
+Value einziger(const QString& routine, const QString& feld, const Value& sonst,
+               const std::function<QString()>& select) {
+    Value value = sonst;
+    withErrorTail(modul, routine, [&](ErrorTail& step) {
+        Recordset katego;
+        step([&] { katego = abfrage(select()); });
+        if (step.test([&] { return katego.RecordCount() == 1; })) step([&] { value = katego.Collect(feld); });
+        step([&] { katego.Close(); });
+    });
+    return value;
+}
+
+} // namespace
+
+bool KontaktZugriff_Erlaubt() { return zugriffErlaubt(modul, u"KontaktZugriff_Erlaubt"_qs, u"Kontakt"_qs); }
+
+qint32 ErmittleKategoNr(const QString& name) {
+    return CLng(einziger(u"ErmittleKategoNr"_qs, u"kategonr"_qs, 0, [&] {
+        return u"SELECT KategoNr FROM Katego WHERE Kategorie = "_qs + quoted(name);
+    }));
+}
+
+QString ErmittleKategoName(qint32 number) {
+    const Value name = einziger(u"ErmittleKategoName"_qs, u"kategorie"_qs, QString(), [&] {
+        return u"SELECT Kategorie FROM Katego WHERE KategoNr = "_qs + QString::number(number);
+    });
+    return name.isNull() ? QString() : CStr(name);
+}
+
+void FuelleKategoCombo(ComboBox* combo) {
+    const DataTable* grid = screen<Katego>().tblKatego;
+    if (combo->ListCount() == grid->rowCount()) return;
+    combo->Clear();
+    for (int row = 0; row < grid->rowCount(); ++row) {
+        QString name = grid->cellText(row, 1);
+        const QString ohneMarke = name.chopped(qMin(name.size(), modKatego::systemMarke.size()));
+        if (modKatego::istSystemkategorie(ohneMarke) && name.endsWith(modKatego::systemMarke))
+            name = ohneMarke;
+        combo->AddItem(name);
+    }
+}
+
+namespace {
+
+void zeigeMitgliedZu(ErrorTail& step, qint32 knr, Kontakt& form) {
+    Recordset mitglied;
+    step([&] { mitglied = abfrage(u"SELECT * FROM Mitglied WHERE KNr = "_qs + QString::number(knr)); });
+    if (step.test([&] { return mitglied.RecordCount() == 1; }))
+        KontaktFelder::zeigeMitglied(step, mitglied, form);
+    step([&] { mitglied.Close(); });
+}
+
+} // namespace
+
+void loadKontakt(DataTable* grid, int row, int /*column*/) {
+    withErrorTail(modul, u"loadKontakt"_qs, [grid, row](ErrorTail& step) {
+        qint32 knr = 0;
+        Recordset kontakt;
+        step([&] { knr = CLng(grid->cell(row, 0)); });
+        step([&] { kontakt = abfrage(u"SELECT * FROM Kontakt WHERE KNr = "_qs + QString::number(knr)); });
+        if (step.test([&] { return kontakt.RecordCount() == 1; })) {
+            Kontakt& form = screen<Kontakt>();
+            KontaktFelder::zeigeKontakt(step, kontakt, form);
+            if (KontaktFelder::istMitglied(form)) zeigeMitgliedZu(step, knr, form);
+            // The mask stays open for long; nothing in the file waits for it.
+            step([&] { kontakt.Close(); });
+            form.ShowModal();
+        } else {
+            modRun::MeldeNichtVorhanden();
+            step([&] { kontakt.Close(); });
+        }
+    });
+}
+
+void SetzeKontaktToolbar(int enabled) {
+    if (enabled != 0 && enabled != 1) return;
+    // A mask that has been closed in the meantime comes back with all its keys.
+    if (enabled == 1 && !isLoaded<Kontakt>()) return;
+    for (const QString& key : {u"tbSpeichern"_qs, u"tbLoeschen"_qs, u"tbAnzLoeschen"_qs})
+        screen<Kontakt>().Toolbar1->setKeyEnabled(key, enabled == 1);
+}
+
+void SetzeMitglFelder() {
+    Kontakt& form = screen<Kontakt>();
+    const bool mitglied = KontaktFelder::istMitglied(form);
+    for (QWidget* control : std::initializer_list<QWidget*>{
+             form.optMann, form.optFrau, form.optBefreit, form.optNBefreit, form.optBezahlt, form.optNBezahlt,
+             form.txtEintritt, form.txtAustritt, form.chkJG})
+        control->setEnabled(mitglied);
+}
+
+bool EingabeKontaktOK() {
+    const Kontakt& form = screen<Kontakt>();
+    return !form.cboKatego->Text().isEmpty() && !form.txtNName->Text().isEmpty() &&
+           !form.txtVName->Text().isEmpty();
+}
+
+void KontaktAnzeigeLoeschen() {
+    Kontakt& form = screen<Kontakt>();
+    form.lblKNr->setCaption(QString());
+    form.cboKatego->setListIndex(-1);
+    for (TextBox* box :
+         {form.txtAnrede, form.txtNName, form.txtVName, form.txtStrasse, form.txtPLZ, form.txtOrt,
+          form.txtTelPriv, form.txtTelGesch, form.txtMobil, form.txtFax, form.txtEMail, form.txtFirma,
+          form.txtGebDat, form.txtBLZ, form.txtKInst, form.txtKontoNr, form.txtEintritt, form.txtAustritt})
+        box->setText(QString());
+    for (QRadioButton* option : {form.optMann, form.optNBefreit, form.optNBezahlt}) option->setChecked(true);
+    form.chkEinzug->setChecked(false);
+    form.txtNotiz->setText(QString());
+    form.TabKont->setCurrentIndex(0);
+    form.cboKatego->setFocus();
 }
 
 } // namespace modKontakt

@@ -45,6 +45,8 @@ QString sessionValue(const QString& name) {
         {u"SuchAufrufer"_qs, qint32(s.SuchAufrufer)},
         {u"KontextZeileOK"_qs, s.KontextZeileOK},
         {u"NachReport"_qs, s.NachReport},
+        {u"AusSuche"_qs, s.AusSuche},
+        {u"LetzterKlappZustand"_qs, s.LetzterKlappZustand},
         {u"AktBarItem"_qs, s.AktBarItem ? s.AktBarItem->key() : QString()},
     };
     const auto found = values.find(name);

@@ -8,6 +8,7 @@
 #include "Fangauswertung.h"
 #include "Fangbuch.h"
 #include "Hinter.h"
+#include "Katego.h"
 #include "KontaktUebers.h"
 #include "Main.h"
 #include "NavigationBar.h"
@@ -103,6 +104,7 @@ void VersteckeFormen() {
     hideIfLoaded<Arbeit>();
     hideIfLoaded<Besatzung>();
     hideIfLoaded<Hinter>();
+    hideIfLoaded<Katego>();
 }
 
 void zeigeBereich(const QString& key) {

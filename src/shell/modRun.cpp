@@ -72,6 +72,11 @@ int CheckBoxAusWert(const Field& field) { return field.Value() == Value(true) ? 
 
 bool WertAusOption(const QAbstractButton* option) { return option->isChecked(); }
 
+QString textOderLeer(const Field& field) {
+    const Value value = field.Value();
+    return value.isNull() ? QString() : CStr(value);
+}
+
 Date DatumAusText(const TextBox* box) {
     const Value text(box->Text());
     return CDate(IsDate(text) ? text : Value(u"00:00:0000"_qs));
@@ -79,7 +84,7 @@ Date DatumAusText(const TextBox* box) {
 
 QString TextAusDatum(const Field& field) {
     const Value value = field.Value();
-    return CDate(value).isEmpty() ? QString() : CStr(value);
+    return value.isNull() || CDate(value).isEmpty() ? QString() : CStr(value);
 }
 
 QString ErmittleMonatsname(qint32 number) {

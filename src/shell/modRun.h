@@ -26,9 +26,11 @@ bool WertAusCheckBox(const QCheckBox* box);
 int CheckBoxAusWert(const Field& field);
 bool WertAusOption(const QAbstractButton* option);
 
+/// The text of a field; empty where the record holds nothing there.
+QString textOderLeer(const Field& field);
 /// The text of the box as a date, or the empty date if it is none.
 Date DatumAusText(const TextBox* box);
-/// The date as text, or the empty text if it is the empty date.
+/// The date as text, or the empty text if it is the empty date or none at all.
 QString TextAusDatum(const Field& field);
 
 /// 1 to 12; any other number is told in a box and gives "Januar".

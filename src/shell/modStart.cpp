@@ -19,6 +19,8 @@
 #include "Toolbar.h"
 #include "modBasis.h"
 #include "modFangbuch.h"
+#include "modKatego.h"
+#include "modKontakt.h"
 #include "modNavigation.h"
 #include "modRun.h"
 #include "modSystem.h"
@@ -202,7 +204,9 @@ void LadeStammdaten() {
     session().TabelleLaedt = true;
     modBasis::loadTblFBasis();
     modBasis::loadTblGBasis();
+    modKontakt::FuelleKontaktUebersicht();
     modSystem::loadTblSystem();
+    modKatego::loadTblKatego();
     modFangbuch::loadTblFList(screen<Eroef>().pb);
     session().TabelleLaedt = false;
 }

@@ -249,7 +249,8 @@ QVector<int> DataTable::elasticColumns() const {
     for (int column = 0; column < m_widths.size(); ++column) {
         if (header()->sectionSize(column) == 0) continue;
         last = column;
-        if (!columns[column].numeric && !columns[column].picture && !m_sizedByUser[column])
+        const GridColumn& given = columns[column];
+        if (!given.numeric && !given.picture && !given.fixed && !m_sizedByUser[column])
             elastic.push_back(column);
     }
     if (elastic.isEmpty() && last >= 0) elastic.push_back(last);

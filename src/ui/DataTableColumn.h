@@ -10,6 +10,7 @@ struct GridColumn {
     bool numeric = false; ///< right-aligned
     int minimumWidth = 24;
     bool picture = false; ///< the cell holds the path of a picture
+    bool fixed = false;   ///< its texts are all of one length, such as dates: it gives and takes no room
 
     friend bool operator==(const GridColumn&, const GridColumn&) = default;
 };

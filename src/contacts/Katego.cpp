@@ -1,0 +1,129 @@
+#include "Katego.h"
+
+#include "DataTable.h"
+#include "Face.h"
+#include "Heading.h"
+#include "KontaktUebers.h"
+#include "MsgBox.h"
+#include "Screens.h"
+#include "Session.h"
+#include "TextBox.h"
+#include "Toolbar.h"
+#include "ValueLabel.h"
+#include "modFangbuch.h"
+#include "modKatego.h"
+#include "modNavigation.h"
+#include "modRun.h"
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+
+Katego::Katego()
+    : Screen(u"Katego"_qs, u"Kontakt - Kategorien"_qs) {
+    Ueberschrift = new Heading(u"KONTAKT-KATEGORIEN"_qs, this);
+    Toolbar1 = new Toolbar(this);
+    Toolbar1->addKey(u"tbSpeichern"_qs, u"&Speichern"_qs, u"Speichern"_qs, u"speichern"_qs);
+    Toolbar1->addSeparator();
+    Toolbar1->addKey(u"tbLoeschen"_qs, u"&Löschen"_qs, u"Löschen"_qs, u"loeschen"_qs);
+    Toolbar1->addSeparator();
+    Toolbar1->addKey(u"tbAnzLoeschen"_qs, u"&Anz. löschen"_qs, u"Anzeige löschen"_qs, u"anzeige-loeschen"_qs);
+    Toolbar1->addSeparator();
+    Toolbar1->addKey(u"tbEsc"_qs, u"&Schließen"_qs, u"Zurück zur Kontakt - Übersicht"_qs, u"schliessen"_qs);
+    buildEntry();
+    buildTable();
+    QVBoxLayout* rest = Face::column(this, Ueberschrift, Toolbar1);
+    rest->addWidget(Frame1);
+    rest->addWidget(Frame2, 1);
+
+    on(Toolbar1, &Toolbar::ButtonClick, [this](const QString& key) { Toolbar1_ButtonClick(key); });
+    on(tblKatego, &DataTable::OnGridCellOpen,
+       [this](int row, int column) { tblKatego_OnGridCellOpen(row, column); });
+    modRun::connectGridFocus(tblKatego);
+}
+
+void Katego::buildEntry() {
+    constexpr int nameLimit = 50;
+    Frame1 = Face::frame(u"Frame1"_qs, u"Kategorien hinzuf. o. editieren..."_qs, this);
+    lblKatN = Face::label(u"lblKatN"_qs, u"Katego. - Nr:"_qs, Frame1);
+    lblKategoNr = new ValueLabel(u"lblKategoNr"_qs, Frame1);
+    Label1 = Face::label(u"Label1"_qs, u"Kategoriebezeichnung:"_qs, Frame1);
+    txtKatego = new TextBox(u"txtKatego"_qs, Frame1);
+    txtKatego->setLimit(nameLimit);
+    auto* form = new QGridLayout(Frame1);
+    form->setHorizontalSpacing(Face::gap);
+    Face::addField(form, 0, lblKatN, lblKategoNr);
+    Face::addField(form, 1, Label1, txtKatego);
+    form->setColumnStretch(1, 1);
+    Frame1->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+}
+
+void Katego::buildTable() {
+    Frame2 = Face::frame(u"Frame2"_qs, u"Aufgenommene Kategorien..."_qs, this);
+    tblKatego = new DataTable(u"tblKatego"_qs, Frame2);
+    tblKatego->setColumns({{u"Katego.-Nr."_qs, 96, true}, {u"Kategorien"_qs, 400}});
+    tblKatego->setAccessibleName(u"Aufgenommene Kategorien"_qs);
+    Label2 = Face::label(u"Label2"_qs, u"Anzahl:"_qs, Frame2);
+    lblAnzahl = new ValueLabel(u"lblAnzahl"_qs, Frame2);
+    lblAnzahl->setAccessibleName(u"Anzahl"_qs);
+    auto* count = new QHBoxLayout;
+    count->addStretch();
+    count->addWidget(Label2);
+    count->addWidget(lblAnzahl);
+    auto* column = new QVBoxLayout(Frame2);
+    column->addLayout(count);
+    column->addWidget(tblKatego, 1);
+}
+
+void Katego::Form_Load() {
+    session().Modus = u"SAVE"_qs;
+    session().AktZeile = 0;
+}
+
+void Katego::Form_Deactivate() {
+    tblKatego->selectRows(0, tblKatego->rowCount(), false);
+    lblKategoNr->setCaption(QString());
+    txtKatego->setText(QString());
+}
+
+void Katego::Form_Paint() { lblAnzahl->setCaption(QString::number(tblKatego->rowCount())); }
+
+void Katego::Toolbar1_ButtonClick(const QString& key) {
+    Session& s = session();
+    if (key == u"tbSpeichern"_qs) {
+        if (s.Modus == u"EDIT"_qs && modKatego::KategoEingabeOK()) modKatego::UpdateKatego(s.AktZeile);
+        if (s.Modus == u"SAVE"_qs && modKatego::KategoEingabeOK()) modKatego::SpeicherKatego();
+    }
+    if (key == u"tbLoeschen"_qs) Loeschen();
+    if (key == u"tbAnzLoeschen"_qs) modKatego::KategoAnzeigeLoeschen();
+    if (key == u"tbEsc"_qs) Schliessen();
+    s.Modus = u"SAVE"_qs;
+}
+
+void Katego::Loeschen() {
+    Session& s = session();
+    if (s.Modus != u"EDIT"_qs) return;
+    s.MsgAntwort = MsgBox(u"ACHTUNG: Kontakt - Referenzen in Kontaktliste werden ebenfalls gelöscht !\r\n"_qs
+                          u"Trotzdem löschen ?"_qs,
+                          vbYesNo);
+    if (s.MsgAntwort == vbYes)
+        modKatego::LoescheKatego(s.AktZeile);
+    else
+        // What a no clears is the catch book; the name stays here, to be saved anew if wanted.
+        modFangbuch::FangAnzeigeLoeschen();
+}
+
+void Katego::Schliessen() {
+    modKatego::KategoAnzeigeLoeschen();
+    Hide();
+    modNavigation::binde(session().AktBarItem, screen<KontaktUebers>());
+    screen<KontaktUebers>().Show();
+}
+
+void Katego::tblKatego_OnGridCellOpen(int row, int column) {
+    if (row < 0) return;
+    modKatego::KategoAnzeigeLoeschen();
+    session().Modus = u"EDIT"_qs;
+    modKatego::loadKatego(row, column);
+    session().AktZeile = row;
+}

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "Screen.h"
+
+class DataTable;
+class Heading;
+class QGroupBox;
+class QLabel;
+class TextBox;
+class Toolbar;
+class ValueLabel;
+
+/// The categories of contacts. Its grid is where the category lists of the other screens come from.
+class Katego : public Screen {
+    Q_OBJECT
+
+public:
+    Katego();
+
+    void Form_Load() override;
+    void Form_Deactivate() override;
+    void Form_Paint() override;
+
+    Heading* Ueberschrift;
+    Toolbar* Toolbar1;
+
+    QGroupBox* Frame2;
+    DataTable* tblKatego;
+    QLabel* Label2;
+    ValueLabel* lblAnzahl;
+
+    QGroupBox* Frame1;
+    QLabel* lblKatN;
+    ValueLabel* lblKategoNr;
+    QLabel* Label1;
+    TextBox* txtKatego;
+
+private:
+    void buildEntry();
+    void buildTable();
+    void Toolbar1_ButtonClick(const QString& key);
+    void Loeschen();
+    void Schliessen();
+    void tblKatego_OnGridCellOpen(int row, int column);
+};

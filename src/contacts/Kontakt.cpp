@@ -1,0 +1,52 @@
+#include "Kontakt.h"
+
+#include "ComboBox.h"
+#include "MsgBox.h"
+#include "Screens.h"
+#include "Session.h"
+#include "modKontakt.h"
+#include "modRun.h"
+
+#include <QTabWidget>
+
+// The face of the mask is built in KontaktFace.cpp; here is what it does.
+
+void Kontakt::Form_Load() {
+    TabKont->setCurrentIndex(0);
+    modKontakt::FuelleKategoCombo(cboKatego);
+    modKontakt::SetzeMitglFelder();
+}
+
+// A mask that is closed is forgotten: the next one opens empty.
+void Kontakt::Form_QueryUnload() { unload<Kontakt>(); }
+
+void Kontakt::Toolbar1_ButtonClick(const QString& key) {
+    if (key == u"tbSpeichern"_qs) Speichern();
+    if (key == u"tbLoeschen"_qs) Loeschen();
+    if (key == u"tbAnzLoeschen"_qs) modKontakt::KontaktAnzeigeLoeschen();
+    session().Modus = u"SAVE"_qs;
+}
+
+void Kontakt::Speichern() {
+    const Session& s = session();
+    if (s.Modus == u"EDIT"_qs) {
+        // An incomplete mask is left as it is, without a word; the next press takes it for a new contact.
+        if (!modKontakt::EingabeKontaktOK()) return;
+        if (s.AusSuche)
+            modKontakt::UpdateSQLKontakt();
+        else
+            modKontakt::UpdateKontakt(s.AktZeile);
+    } else if (modKontakt::EingabeKontaktOK()) {
+        modKontakt::SpeicherKontakt();
+    } else {
+        modRun::MeldeEingabeFehler();
+    }
+}
+
+void Kontakt::Loeschen() {
+    // The question announces; the answer changes nothing.
+    MsgBox(u"ACHTUNG: Bei Mitgliederkontakt werden auch alle Referenzen des Kontaktes im "_qs
+           u"Arbeitscontrolling gelöscht !\r\nKontakt wirklich löschen ?"_qs,
+           vbYesNo);
+    modKontakt::LoescheKontakt();
+}

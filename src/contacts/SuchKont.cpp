@@ -1,0 +1,128 @@
+#include "SuchKont.h"
+
+#include "ComboBox.h"
+#include "DataTable.h"
+#include "Face.h"
+#include "MsgBox.h"
+#include "Session.h"
+#include "TextBox.h"
+#include "Theme.h"
+#include "ValueLabel.h"
+#include "modKontakt.h"
+#include "modRun.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QPushButton>
+
+namespace {
+
+// Who opened the search.
+constexpr qint16 kontaktUebersicht = 0;
+constexpr qint16 arbeitscontrolling = 1;
+
+} // namespace
+
+SuchKont::SuchKont()
+    : Screen(u"SuchKont"_qs, u"Suche Kontakt oder Mitglied..."_qs) {
+    build();
+    auto* form = new QGridLayout;
+    form->setHorizontalSpacing(Face::gap);
+    Face::addField(form, 0, Label1, txtSuch);
+    Face::addField(form, 1, Label2, cboKatego);
+    form->addWidget(cmdSuch, 0, 2, 2, 1);
+    form->setColumnStretch(1, 1);
+    auto* found = new QHBoxLayout;
+    found->setSpacing(Face::gap);
+    found->addWidget(Label3);
+    found->addWidget(lblGefDS);
+    found->addStretch();
+    QVBoxLayout* whole = Face::column(this);
+    whole->addLayout(form);
+    whole->addWidget(tblSuch, 1);
+    whole->addLayout(found);
+    resize(720, 440);
+
+    on(cmdSuch, &QPushButton::clicked, [this](bool) { cmdSuch_Click(); });
+    on(tblSuch, &DataTable::OnGridCellOpen,
+       [this](int row, int column) { tblSuch_OnGridCellOpen(row, column); });
+    modRun::connectGridFocus(tblSuch);
+}
+
+void SuchKont::build() {
+    Label1 = Face::label(u"Label1"_qs, u"Suchbegriff:"_qs, this);
+    txtSuch = new TextBox(u"txtSuch"_qs, this);
+    txtSuch->setKeyFilter(&modRun::FilterSuche);
+    Label2 = Face::label(u"Label2"_qs, u"Kategorie:"_qs, this);
+    cboKatego = new ComboBox(u"cboKatego"_qs, ComboBox::Order::AsAdded, ComboBox::Kind::DropDownList, this);
+    cmdSuch = Face::button(u"cmdSuch"_qs, QString(), this);
+    cmdSuch->setIcon(Theme::icon(u"suchen"_qs));
+    cmdSuch->setIconSize(QSize(32, 32));
+    cmdSuch->setToolTip(u"Suchen"_qs);
+    cmdSuch->setAccessibleName(u"Suchen"_qs);
+    cmdSuch->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
+    tblSuch = new DataTable(u"tblSuch"_qs, this);
+    tblSuch->setColumns({{u"KontaktNr"_qs, 80, true},
+                         {u"Kategorie"_qs, 160},
+                         {u"Firma"_qs, 160},
+                         {u"Nachname"_qs, 140},
+                         {u"Vorname"_qs, 120}});
+    tblSuch->setAccessibleName(u"Gefundene Kontakte"_qs);
+    Label3 = Face::label(u"Label3"_qs, u"Gefunden:"_qs, this);
+    lblGefDS = new ValueLabel(u"lblGefDS"_qs, this);
+    lblGefDS->setAccessibleName(u"Gefunden"_qs);
+}
+
+void SuchKont::Form_Load() {
+    switch (session().SuchAufrufer) {
+    case kontaktUebersicht:
+        modKontakt::FuelleKategoCombo(cboKatego);
+        cboKatego->InsertItem(0, u"Alle"_qs);
+        cboKatego->setListIndex(0);
+        break;
+    case arbeitscontrolling:
+        cboKatego->AddItem(u"Mitglieder (aktiv)"_qs);
+        cboKatego->AddItem(u"Mitglieder (passiv)"_qs);
+        cboKatego->setListIndex(0);
+        break;
+    default:
+        break;
+    }
+}
+
+void SuchKont::Form_Paint() {
+    if (session().Modus == u"SAVE"_qs) txtSuch->setFocus();
+}
+
+bool SuchKont::Form_KeyDown(int key, Qt::KeyboardModifiers) {
+    const bool enter = key == Qt::Key_Return || key == Qt::Key_Enter;
+    if (!enter || !(txtSuch->hasFocus() || cboKatego->hasFocus())) return false;
+    cmdSuch_Click();
+    return true;
+}
+
+void SuchKont::cmdSuch_Click() {
+    if (txtSuch->Text().isEmpty() || cboKatego->Text().isEmpty()) return modRun::MeldeEingabeFehler();
+    modKontakt::SucheKontakt(txtSuch->Text(), modKontakt::ErmittleKategoNr(cboKatego->Text()));
+    if (tblSuch->rowCount() > 0) {
+        lblGefDS->setCaption(QString::number(tblSuch->rowCount()));
+        tblSuch->setFocus();
+    } else {
+        lblGefDS->setCaption(QString());
+        txtSuch->setFocus();
+    }
+}
+
+void SuchKont::tblSuch_OnGridCellOpen(int row, int column) {
+    Session& s = session();
+    if (row < 0 || s.SuchAufrufer != kontaktUebersicht) return;
+    if (!modKontakt::KontaktZugriff_Erlaubt()) {
+        MsgBox(u"Sie haben keine Zugriffsberechtigung auf diese Funktion !"_qs, vbInformation);
+        return;
+    }
+    s.Modus = u"EDIT"_qs;
+    s.AktZeile = row;
+    s.AusSuche = true;
+    modKontakt::loadKontakt(tblSuch, row, column);
+    s.AusSuche = false;
+}

@@ -1,0 +1,164 @@
+#include "modKatego.h"
+
+#include "Conversions.h"
+#include "DataTable.h"
+#include "ErrorTail.h"
+#include "Katego.h"
+#include "KontaktUebers.h"
+#include "MsgBox.h"
+#include "Recordset.h"
+#include "Screens.h"
+#include "Session.h"
+#include "TextBox.h"
+#include "Uebersicht.h"
+#include "ValueLabel.h"
+
+#include "modRun.h"
+
+namespace modKatego {
+
+namespace {
+
+const QString modul = u"modKatego"_qs;
+
+Recordset oeffne(const QString& nameOrSelect, RecordsetType type) {
+    return session().AktDatenbank.OpenRecordset(nameOrSelect, type);
+}
+
+void zeigeAnzahl(Katego& form) { form.lblAnzahl->setCaption(QString::number(form.tblKatego->rowCount())); }
+
+/// Opens the table and seeks the category that the mask shows. False also when the seek itself failed.
+bool findeOffene(ErrorTail& step, Recordset& katego, const Katego& form) {
+    bool gefunden = false;
+    step([&] { katego = oeffne(u"Katego"_qs, dbOpenTable); });
+    step([&] { katego.Index(u"PrimaryKey"_qs); });
+    step([&] {
+        katego.Seek(u"="_qs, CLng(form.lblKategoNr->Caption()));
+        gefunden = !katego.NoMatch();
+    });
+    return gefunden;
+}
+
+QString alsZeile(const QString& name) { return istSystemkategorie(name) ? name + systemMarke : name; }
+
+} // namespace
+
+const QString systemMarke = u" -> Systemkategorie <-"_qs;
+
+bool istSystemkategorie(const QString& name) {
+    return name == u"Mitglieder (aktiv)"_qs || name == u"Mitglieder (passiv)"_qs;
+}
+
+void loadTblKatego() {
+    withErrorTail(u"modStart"_qs, u"loadTblKatego"_qs, [](ErrorTail& step) {
+        DataTable* grid = screen<Katego>().tblKatego;
+        Recordset katego;
+        step([&] { katego = oeffne(u"SELECT * FROM Katego"_qs, dbOpenDynaset); });
+        if (step.test([&] { return katego.RecordCount() > 0; })) {
+            step([&] { katego.MoveFirst(); });
+            while (step.test([&] { return !katego.Eof(); })) {
+                step([&] {
+                    grid->appendRow({katego.Collect(u"kategonr"_qs),
+                                     alsZeile(modRun::textOderLeer(katego.Fields(u"kategorie"_qs)))});
+                });
+                step([&] { katego.MoveNext(); });
+            }
+        }
+        step([&] { katego.Close(); });
+    });
+}
+
+void loadKatego(int row, int /*column*/) {
+    withErrorTail(modul, u"loadKatego"_qs, [row](ErrorTail& step) {
+        Katego& form = screen<Katego>();
+        Recordset katego;
+        step([&] {
+            katego = oeffne(u"SELECT * FROM Katego WHERE KategoNr = "_qs +
+                                QString::number(CLng(form.tblKatego->cell(row, 0))),
+                            dbOpenDynaset);
+        });
+        if (!step.test([&] { return katego.RecordCount() == 1; })) {
+            modRun::MeldeNichtVorhanden();
+        } else if (step.test([&] { return istSystemkategorie(CStr(katego.Collect(u"kategorie"_qs))); })) {
+            MsgBox(u"ACHTUNG: Systemkategorie, keine Änderungen oder Löschung erlaubt!"_qs, vbInformation);
+            session().Modus = u"SAVE"_qs;
+        } else {
+            step([&] { form.lblKategoNr->setCaption(CStr(katego.Collect(u"kategonr"_qs))); });
+            step([&] { form.txtKatego->setText(CStr(katego.Collect(u"kategorie"_qs))); });
+        }
+        step([&] { katego.Close(); });
+    });
+}
+
+void SpeicherKatego() {
+    withErrorTail(modul, u"SpeicherKatego"_qs, [](ErrorTail& step) {
+        Katego& form = screen<Katego>();
+        Recordset katego;
+        Value nummer;
+        Value name;
+        step([&] { katego = oeffne(u"Katego"_qs, dbOpenTable); });
+        step([&] { katego.AddNew(); });
+        step([&] { katego.Collect(u"kategorie"_qs, form.txtKatego->Text()); });
+        step([&] { katego.Update(); });
+        step([&] { katego.Index(u"PrimaryKey"_qs); });
+        step([&] { katego.MoveLast(); });
+        step([&] { nummer = katego.Collect(u"kategonr"_qs); });
+        step([&] { name = katego.Collect(u"kategorie"_qs); });
+        step([&] { form.tblKatego->appendRow({nummer, name}); });
+        zeigeAnzahl(form);
+        step([&] { Uebersicht::nehmeKategorieAuf(nummer, name); });
+        KategoAnzeigeLoeschen();
+        step([&] { katego.Close(); });
+    });
+}
+
+void UpdateKatego(int row) {
+    withErrorTail(modul, u"UpdateKatego"_qs, [row](ErrorTail& step) {
+        Katego& form = screen<Katego>();
+        Recordset katego;
+        if (findeOffene(step, katego, form)) {
+            const QString name = form.txtKatego->Text();
+            step([&] { katego.Edit(); });
+            step([&] { katego.Collect(u"kategorie"_qs, name); });
+            step([&] { katego.Update(); });
+            step([&] { form.tblKatego->setCell(row, 1, name); });
+            step([&] { Uebersicht::benenneKategorieUm(CLng(form.lblKategoNr->Caption()), name); });
+        } else {
+            modRun::MeldeNichtVorhanden();
+        }
+        KategoAnzeigeLoeschen();
+        step([&] { katego.Close(); });
+    });
+}
+
+void LoescheKatego(int row) {
+    withErrorTail(modul, u"LoescheKatego"_qs, [row](ErrorTail& step) {
+        Katego& form = screen<Katego>();
+        Recordset katego;
+        if (findeOffene(step, katego, form)) {
+            step([&] { katego.Delete(); });
+            step([&] { form.tblKatego->removeRow(row); });
+            zeigeAnzahl(form);
+            step([&] { Uebersicht::entferneKategorie(CLng(form.lblKategoNr->Caption())); });
+        } else {
+            modRun::MeldeNichtVorhanden();
+        }
+        KategoAnzeigeLoeschen();
+        step([&] { katego.Close(); });
+    });
+}
+
+void KategoAnzeigeLoeschen() {
+    Katego& form = screen<Katego>();
+    form.txtKatego->setText(QString());
+    form.lblKategoNr->setCaption(QString());
+    form.txtKatego->setFocus();
+}
+
+bool KategoEingabeOK() {
+    if (!screen<Katego>().txtKatego->Text().isEmpty()) return true;
+    modRun::MeldeEingabeFehler();
+    return false;
+}
+
+} // namespace modKatego

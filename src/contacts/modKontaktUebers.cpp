@@ -1,0 +1,99 @@
+#include "Conversions.h"
+#include "DataTable.h"
+#include "ErrorTail.h"
+#include "KontaktUebers.h"
+#include "Recordset.h"
+#include "Screens.h"
+#include "Session.h"
+#include "Uebersicht.h"
+#include "modKontakt.h"
+
+// The overview's grid: filled with the categories once, and with the contacts of a category at each opening.
+
+namespace modKontakt {
+
+namespace {
+
+/// Month before day: the birthday in the overview has its two first parts exchanged.
+QString tagUndMonatGetauscht(const QString& datum) {
+    return datum.mid(3, 3) + datum.left(3) + datum.mid(6, 4);
+}
+
+Value geburtstag(const Field& feld) {
+    const Value value = feld.Value();
+    return value.isNull() ? QString() : tagUndMonatGetauscht(CStr(value));
+}
+
+void zeigeKontakte(int row, Recordset& kontakte) {
+    const QString picture = programFolder() + u"/Graphics/bmp/Cut.bmp"_qs;
+    const std::array quellen = {
+        kontakte.Fields(u"knr"_qs),      kontakte.Fields(u"Firma"_qs),   kontakte.Fields(u"Anrede"_qs),
+        kontakte.Fields(u"Nachname"_qs), kontakte.Fields(u"Vorname"_qs), kontakte.Fields(u"Tel1"_qs),
+        kontakte.Fields(u"Fax"_qs),      kontakte.Fields(u"EMail"_qs),   kontakte.Fields(u"GebDatum"_qs)};
+    const auto [knr, firma, anrede, nachname, vorname, tel1, fax, email, gebDatum] = quellen;
+    Uebersicht::ImKind kind(row);
+    kind->clearRows();
+    for (; !kontakte.Eof(); kontakte.MoveNext())
+        kind->appendRow({knr.Value(), picture, firma.Value(), anrede.Value(), nachname.Value(),
+                         vorname.Value(), tel1.Value(), fax.Value(), geburtstag(gebDatum), email.Value()});
+}
+
+/// The count behind the name, and something to open.
+void zaehleKontakte(int row, const Recordset& kontakte) {
+    const QString name = screen<KontaktUebers>().tblKUebers->cellText(row, Uebersicht::spalteName);
+    Uebersicht::schreibeMarke(row, name, kontakte.AbsolutePosition() + 1);
+    Uebersicht::legeKindAn(row);
+    Uebersicht::faerbeKind(row);
+    Uebersicht::setzePlatzhalter(row);
+}
+
+} // namespace
+
+void InitTblKUebers() {
+    DataTable* grid = screen<KontaktUebers>().tblKUebers;
+    grid->enter({});
+    grid->clearRows();
+    grid->setColumns({{QString(), 40}, {QString(), 40}, {QString(), 400, false, 50}});
+    Uebersicht::SetzeKontaktSpalten();
+}
+
+void tblKUebersfüllen() {
+    withErrorTail(u"modKontakt"_qs, u"tblKUebersfüllen"_qs, [](ErrorTail& step) {
+        DataTable* grid = screen<KontaktUebers>().tblKUebers;
+        Recordset katego;
+        step([&] { katego = session().AktDatenbank.OpenRecordset(u"katego"_qs, dbOpenTable); });
+        if (step.test([&] { return katego.RecordCount() != 0; })) {
+            step([&] { katego.MoveFirst(); });
+            while (step.test([&] { return !katego.Eof(); })) {
+                step([&] {
+                    grid->appendRow(
+                        {katego.Collect(u"kategonr"_qs), u"+"_qs, katego.Collect(u"kategorie"_qs)});
+                });
+                step([&] { katego.MoveNext(); });
+            }
+        }
+        step([&] { katego.Close(); });
+    });
+}
+
+void FuelleKontaktUebersicht() {
+    InitTblKUebers();
+    tblKUebersfüllen();
+    const DataTable* grid = screen<KontaktUebers>().tblKUebers;
+    session().NurZaehlen = true;
+    for (int row = 0; row < grid->rowCount(); ++row)
+        KategorieAufklappen(row, CLng(grid->cell(row, Uebersicht::spalteNr)));
+    session().NurZaehlen = false;
+}
+
+void KategorieAufklappen(int row, qint32 kategonr) {
+    Recordset kontakte = session().AktDatenbank.OpenRecordset(
+        u"SELECT * FROM Kontakt WHERE KategoNr = "_qs + QString::number(kategonr), dbOpenDynaset);
+    if (kontakte.RecordCount() == 0) return;
+    kontakte.MoveLast();
+    if (session().NurZaehlen) return zaehleKontakte(row, kontakte);
+    kontakte.MoveFirst();
+    zeigeKontakte(row, kontakte);
+}
+
+} // namespace modKontakt
