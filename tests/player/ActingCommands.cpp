@@ -27,6 +27,7 @@ bool parseChoice(const QString& word, const QString& yes, const QString& no) {
 void logIn(const QStringList& words) { ControlActions::logIn(words[0], words[1]); }
 void type(const QStringList& words) { ControlActions::type(words[0], words[1]); }
 void set(const QStringList& words) { ControlActions::set(words[0], words[1]); }
+void paste(const QStringList& words) { ControlActions::paste(words[0], words[1]); }
 void choose(const QStringList& words) { ControlActions::choose(words[0], words[1]); }
 void tick(const QStringList& words) {
     ControlActions::tick(words[0], parseChoice(words[1], u"on"_qs, u"off"_qs));
@@ -80,6 +81,7 @@ const QVector<PlayerCommand>& actingCommands() {
         {u"login", 2, kind, runs, &act<logIn>},
         {u"type", 2, kind, runs, &act<type>},
         {u"set", 2, kind, runs, &act<set>},
+        {u"paste", 2, kind, runs, &act<paste>},
         {u"choose", 2, kind, runs, &act<choose>},
         {u"tick", 2, kind, runs, &act<tick>},
         {u"option", 1, kind, runs, &act<option>},

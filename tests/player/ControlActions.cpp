@@ -11,6 +11,7 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
 #include <QDateTimeEdit>
 #include <QLineEdit>
@@ -150,6 +151,13 @@ void set(const QString& name, const QString& text) {
         Hand::type(text);
     else if (!nothingToReplace)
         Hand::key(Qt::Key_Delete);
+}
+
+void paste(const QString& name, const QString& text) {
+    const QWidget* field = enterField(name);
+    if (!isEmpty(field)) Hand::key(Qt::Key_A, Qt::ControlModifier);
+    QGuiApplication::clipboard()->setText(text);
+    Hand::key(Qt::Key_V, Qt::ControlModifier);
 }
 
 void choose(const QString& name, const QString& entry) {

@@ -9,6 +9,7 @@ namespace ControlActions {
 
 void type(const QString& name, const QString& text);
 void set(const QString& name, const QString& text);
+void paste(const QString& name, const QString& text);
 void choose(const QString& name, const QString& entry);
 void tick(const QString& name, bool on);
 void option(const QString& name);
