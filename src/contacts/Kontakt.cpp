@@ -15,6 +15,7 @@ void Kontakt::Form_Load() {
     TabKont->setCurrentIndex(0);
     modKontakt::FuelleKategoCombo(cboKatego);
     modKontakt::SetzeMitglFelder();
+    cboKatego->setFocus();
 }
 
 // A mask that is closed is forgotten: the next one opens empty.

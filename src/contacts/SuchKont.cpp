@@ -95,6 +95,10 @@ void SuchKont::Form_Paint() {
 }
 
 bool SuchKont::Form_KeyDown(int key, Qt::KeyboardModifiers) {
+    if (key == Qt::Key_Escape) {
+        Hide();
+        return true;
+    }
     const bool enter = key == Qt::Key_Return || key == Qt::Key_Enter;
     if (!enter || !(txtSuch->hasFocus() || cboKatego->hasFocus())) return false;
     cmdSuch_Click();

@@ -31,6 +31,7 @@ constexpr auto descriptions = std::to_array<Description>({
     {75, u"Fehler beim Zugriff auf Pfad/Datei"},
     {76, u"Pfad nicht gefunden"},
     {91, u"Objektvariable oder With-Blockvariable nicht festgelegt"},
+    {93, u"Ungültiges Suchmuster"},
     {94, u"Unzulässige Verwendung von Null"},
     {380, u"Ungültiger Eigenschaftswert"},
     {383, u"Eigenschaft kann nicht gesetzt werden, sie ist schreibgeschützt"},
