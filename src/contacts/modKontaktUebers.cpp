@@ -39,7 +39,8 @@ void zeigeKontakte(int row, Recordset& kontakte) {
 }
 
 /// The count behind the name, and something to open.
-void zaehleKontakte(int row, const Recordset& kontakte) {
+void zaehleKontakte(int row, Recordset& kontakte) {
+    kontakte.MoveLast();
     const QString name = screen<KontaktUebers>().tblKUebers->cellText(row, Uebersicht::spalteName);
     Uebersicht::schreibeMarke(row, name, kontakte.AbsolutePosition() + 1);
     Uebersicht::legeKindAn(row);
@@ -90,10 +91,10 @@ void KategorieAufklappen(int row, qint32 kategonr) {
     Recordset kontakte = session().AktDatenbank.OpenRecordset(
         u"SELECT * FROM Kontakt WHERE KategoNr = "_qs + QString::number(kategonr), dbOpenDynaset);
     if (kontakte.RecordCount() == 0) return;
-    kontakte.MoveLast();
-    if (session().NurZaehlen) return zaehleKontakte(row, kontakte);
-    kontakte.MoveFirst();
-    zeigeKontakte(row, kontakte);
+    if (session().NurZaehlen)
+        zaehleKontakte(row, kontakte);
+    else
+        zeigeKontakte(row, kontakte);
 }
 
 } // namespace modKontakt
