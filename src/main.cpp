@@ -1,4 +1,5 @@
 #include "LibreOfficeCalc.h"
+#include "LibreOfficeWriter.h"
 #include "Program.h"
 #include "QtMessageBoxes.h"
 #include "Theme.h"
@@ -13,6 +14,8 @@ int main(int argc, char* argv[]) {
     setMessageBoxes(&boxes);
     LibreOfficeCalc calc;
     setSpreadsheetProgram(&calc);
+    LibreOfficeWriter writer;
+    setWordProcessorProgram(&writer);
 
     Program program(QApplication::applicationDirPath());
     QObject::connect(&program, &Program::ended, &application, &QApplication::quit, Qt::QueuedConnection);

@@ -2,6 +2,7 @@
 #include "DataTable.h"
 #include "Fangauswertung.h"
 #include "MsgBox.h"
+#include "OfficeProgram.h"
 #include "RuntimeError.h"
 #include "Screens.h"
 #include "SeqData.h"
@@ -49,14 +50,8 @@ void meldeKeinExcel() { MsgBox(u"Es ist kein Excel verfügbar !"_qs, vbInformati
 
 /// The running spreadsheet or a new one; null after the box that says there is none.
 std::unique_ptr<Spreadsheet> erreicheExcel() {
-    constexpr int noObject = 429;
     try {
-        try {
-            return spreadsheetProgram().running();
-        } catch (const RuntimeError& error) {
-            if (error.number != noObject) throw;
-            return spreadsheetProgram().start();
-        }
+        return runningOrNew(spreadsheetProgram());
     } catch (const RuntimeError&) {
         meldeKeinExcel();
         return nullptr;

@@ -52,17 +52,32 @@ CsvDatei::CsvDatei(const QString& path)
     m_buffer.reserve(bufferSize);
 }
 
+CsvDatei::~CsvDatei() {
+    // Unclosed because of an error, which is told already.
+    if (m_file.isOpen()) m_file.write(m_buffer);
+}
+
 void CsvDatei::writeHead(const QString& head) {
     appendEncoded(m_buffer, head);
     m_buffer += ';';
 }
 
+void CsvDatei::writeText(QStringView text) {
+    while (text.endsWith(u' ')) text.chop(1);
+    appendEncoded(m_buffer, text);
+    m_buffer += ';';
+}
+
 void CsvDatei::writeText(QStringView text, int length, Fill fill) {
-    QStringView field = text.left(length);
-    if (fill == Fill::Trimmed)
-        while (field.endsWith(u' ')) field.chop(1);
+    const QStringView field = text.left(length);
+    if (fill == Fill::Trimmed) return writeText(field);
     appendEncoded(m_buffer, field);
     fillUp(field.size(), length, fill);
+}
+
+void CsvDatei::writeField(const Value& field) {
+    if (field.kind() == Value::Kind::Text) return writeText(field.text());
+    writeText(field.isNull() ? QString() : CStr(field));
 }
 
 // Half of a list are whole numbers: they need no text of their own on the way.
@@ -95,6 +110,7 @@ void CsvDatei::close() {
 }
 
 void CsvDatei::flush() {
-    if (m_file.write(m_buffer) != m_buffer.size()) throw runtimeError(diskFull);
+    const bool whole = m_file.write(m_buffer) == m_buffer.size();
     m_buffer.resize(0); // keeps its room
+    if (!whole) throw runtimeError(diskFull);
 }

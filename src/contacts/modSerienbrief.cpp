@@ -1,0 +1,203 @@
+#include "modSerienbrief.h"
+
+#include "Conversions.h"
+#include "CsvDatei.h"
+#include "DataTable.h"
+#include "KontaktUebers.h"
+#include "MsgBox.h"
+#include "OfficeProgram.h"
+#include "Screens.h"
+#include "SeqData.h"
+#include "Session.h"
+#include "WordProcessor.h"
+#include "modKontakt.h"
+
+namespace modSerienbrief {
+
+namespace {
+
+constexpr qint32 aktiv = 1;
+constexpr qint32 passiv = 2;
+constexpr std::size_t placeOfEintritt = 13;
+
+bool istMitglied(qint32 kategorie) { return kategorie == aktiv || kategorie == passiv; }
+
+/// Enters the child table of a category and, whatever happens there, goes back.
+class EnteredChild {
+public:
+    EnteredChild(DataTable& grid, int row)
+        : m_grid(grid)
+        , m_parent(grid.enterChild(row)) {}
+    ~EnteredChild() { m_grid.enter(m_parent); }
+    EnteredChild(const EnteredChild&) = delete;
+    EnteredChild& operator=(const EnteredChild&) = delete;
+
+private:
+    DataTable& m_grid;
+    TableHandle m_parent;
+};
+
+/// What a category's contacts are chosen by; members only with their row in Mitglied.
+QString herkunft(qint32 kategorie) {
+    const QString wahl = u"k.KategoNr = "_qs + QString::number(kategorie);
+    if (istMitglied(kategorie)) return u" FROM Kontakt k, Mitglied m WHERE k.KNr = m.KNr AND "_qs + wahl;
+    return u" FROM Kontakt k WHERE "_qs + wahl;
+}
+
+QString datenabfrage(qint32 kategorie) {
+    return u"SELECT k.KNr, k.Firma, k.Anrede, k.Nachname, k.Vorname, k.Strasse, k.PLZ, k.Ort, k.Tel1, "_qs
+           u"k.Tel2, k.Fax, k.Mobil, k.GebDatum, "_qs +
+           (istMitglied(kategorie) ? u"m.Eintritt, k.EMail"_qs : u"k.EMail"_qs) + herkunft(kategorie);
+}
+
+QString anzahlabfrage(qint32 kategorie) { return u"SELECT COUNT(k.KNr)"_qs + herkunft(kategorie); }
+
+QString leermeldung(qint32 kategorie) {
+    if (kategorie == aktiv)
+        return u"ACHTUNG: Kategorie - Mitglieder (aktiv) - enthält noch keine Mitgliederdaten !"_qs;
+    if (kategorie == passiv)
+        return u"ACHTUNG: Kategorie - Mitglieder (passiv) - enthält noch keine Mitgliederdaten !"_qs;
+    return u"ACHTUNG: Kontakt - Kategorie - "_qs + modKontakt::ErmittleKategoName(kategorie) +
+           u" - enthält noch keine Kontaktdaten !"_qs;
+}
+
+void meldeLeereKategorie(qint32 kategorie) {
+    MsgBox(leermeldung(kategorie) +
+               u"\n\rKategorie wird daher bei der Erzeugung der Serienbriefdatei übergangen !"_qs,
+           vbInformation);
+}
+
+void schreibeKopf(CsvDatei& datei) {
+    for (const QString& kopf :
+         {u"Mitgl.-Nr"_qs, u"Firma"_qs, u"Anrede"_qs, u"Nachname"_qs, u"Vorname"_qs, u"Strasse"_qs, u"PLZ"_qs,
+          u"Ort"_qs, u"Telefon [privat]"_qs, u"Telefon [geschftl.]"_qs, u"Fax"_qs, u"Mobil"_qs,
+          u"Geb.-Datum"_qs, u"Eintritt"_qs, u"EMail"_qs})
+        datei.writeHead(kopf);
+    datei.endLine();
+}
+
+/// The query gives the fields in the file's order; only members have a day of joining.
+void schreibeKontakte(CsvDatei& datei, Recordset& kontakte, bool mitglieder) {
+    const std::vector<Field> felder = kontakte.Fields();
+    for (; !kontakte.Eof(); kontakte.MoveNext()) {
+        for (std::size_t i = 0; i < felder.size(); ++i) {
+            if (i == placeOfEintritt && !mitglieder) datei.writeText({});
+            datei.writeField(felder[i].Value());
+        }
+        datei.endLine();
+    }
+}
+
+bool hatGezaehlt(const Value& anzahl) { return !anzahl.isNull() && CLng(anzahl) != 0; }
+
+void schreibeKategorie(CsvDatei& datei, DataTable& uebersicht, int zeile) {
+    const qint32 kategorie = CLng(uebersicht.cell(zeile, 0));
+    Database& datenbank = session().AktDatenbank;
+    Recordset kontakte = datenbank.OpenRecordset(datenabfrage(kategorie), dbOpenDynaset);
+    Recordset zaehlung = datenbank.OpenRecordset(anzahlabfrage(kategorie), dbOpenDynaset);
+    const EnteredChild kind(uebersicht, zeile);
+    if (zaehlung.RecordCount() != 1) return;
+    if (hatGezaehlt(zaehlung.Collect(u"Expr1000"_qs)))
+        schreibeKontakte(datei, kontakte, istMitglied(kategorie));
+    else
+        meldeLeereKategorie(kategorie);
+}
+
+void schreibeDatei(DataTable& uebersicht) {
+    CsvDatei datei(SeqData::path(u"SERI.txt"_qs));
+    schreibeKopf(datei);
+    uebersicht.enter({}); // a press may have left a child table current
+    for (int zeile = 0; zeile < uebersicht.rowCount(); ++zeile)
+        if (uebersicht.cellText(zeile, 1) == u"-") schreibeKategorie(datei, uebersicht, zeile);
+    datei.close();
+}
+
+void meldeKeinWord() { MsgBox(u"Es ist kein Word verfügbar !"_qs, vbInformation); }
+
+std::unique_ptr<WordProcessor> erreicheWord() {
+    try {
+        return runningOrNew(wordProcessorProgram());
+    } catch (const RuntimeError&) {
+        meldeKeinWord();
+        return nullptr;
+    }
+}
+
+MailMergeSource datenquelle() {
+    return {.name = SeqData::path(u"SERI.txt"_qs),
+            .confirmConversions = false,
+            .readOnly = false,
+            .linkToSource = true,
+            .addToRecentFiles = false,
+            .passwordDocument = {},
+            .passwordTemplate = {},
+            .writePasswordDocument = {},
+            .writePasswordTemplate = {},
+            .revert = false,
+            .format = 0,
+            .connection = {},
+            .sqlStatement = {},
+            .sqlStatement1 = {}};
+}
+
+void schreibeAnschrift(WordProcessor& word) {
+    word.typeText(u"An"_qs);
+    word.typeParagraph();
+    word.insertField(u"Firma"_qs);
+    word.typeParagraph();
+    word.insertField(u"Anrede"_qs);
+    word.typeText(u" "_qs);
+    word.insertField(u"Vorname"_qs);
+    word.typeText(u" "_qs);
+    word.insertField(u"Nachname"_qs);
+    word.typeParagraph();
+    word.insertField(u"Strasse"_qs);
+    word.typeParagraph();
+    word.typeParagraph();
+    word.insertField(u"PLZ"_qs);
+    word.typeText(u" "_qs);
+    word.insertField(u"Ort"_qs);
+}
+
+void beginneBrief(WordProcessor& word) {
+    constexpr int formLetters = 0;
+    word.setVisible(true);
+    word.addDocument();
+    word.setMainDocumentType(formLetters);
+    word.openDataSource(datenquelle());
+    word.editMainDocument();
+    schreibeAnschrift(word);
+    word.release();
+}
+
+} // namespace
+
+void ErzeugeSeriendatei() {
+    try {
+        schreibeDatei(*screen<KontaktUebers>().tblKUebers);
+    } catch (const RuntimeError&) {
+        MsgBox(u"ACHTUNG: Ein unerwarteter Fehler trat beim Erzeugen der Datei - SERI.txt - auf !\r\n"_qs
+               u"Bitte überprüfen Sie ob noch genug Speicher auf den Datenträger verfügbar ist."_qs,
+               vbCritical);
+        return;
+    }
+    MsgBox(u" - SERI.txt - wurde erfolgreich im Pfad: ..\\uferwart\\seqdata\\ erstellt !"_qs, vbInformation);
+    session().MsgAntwort = MsgBox(
+        u"Möchten Sie jetzt Word starten ? Dabei wird Ihnen von Uferwart automatisch ein Std.- Serienbrief Dokument\n\r"_qs
+        u"erstellt. Möchten Sie Word starten um einen Seriendruck zu erstellen ? "_qs,
+        vbYesNo);
+    if (session().MsgAntwort == vbYes) StarteWordSerienbrief();
+}
+
+void StarteWordSerienbrief() {
+    const std::unique_ptr<WordProcessor> word = erreicheWord();
+    if (!word) return;
+    try {
+        beginneBrief(*word);
+    } catch (const RuntimeError&) {
+        // Whether a program can be reached may only turn out when it is to do something.
+        meldeKeinWord();
+    }
+}
+
+} // namespace modSerienbrief

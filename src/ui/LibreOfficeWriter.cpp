@@ -1,0 +1,115 @@
+#include "LibreOfficeWriter.h"
+
+#include "LibreOfficeWriterLetter.h"
+#include "MsgBox.h"
+#include "RuntimeError.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QProcess>
+#include <QSaveFile>
+#include <QStandardPaths>
+
+namespace {
+
+constexpr int diskFull = 61;
+constexpr int accessDenied = 70;
+constexpr int cannotBeReached = 429;
+
+bool holds(const QString& path, const QByteArray& content) {
+    QFile file(path);
+    return file.size() == content.size() && file.open(QIODevice::ReadOnly) && file.readAll() == content;
+}
+
+void write(const QString& path, const QByteArray& content) {
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly)) throw runtimeError(accessDenied);
+    file.write(content);
+    if (!file.commit()) throw runtimeError(diskFull);
+}
+
+/// The file that holds the letter, written unless it is there already. No file is overwritten.
+QString storedLetter(const QDir& folder, const QByteArray& letter) {
+    QString path = folder.filePath(u"Serienbrief.odt"_qs);
+    for (int number = 2; QFileInfo::exists(path); ++number) {
+        if (holds(path, letter)) return path;
+        path = folder.filePath(u"Serienbrief %1.odt"_qs.arg(number));
+    }
+    write(path, letter);
+    return path;
+}
+
+/// The drivers for data in text files come in a package of their own, beside the one of the drivers' base. An
+/// office whose files are divided in another way is given the benefit of the doubt.
+bool lacksDatabasePart(const QString& program) {
+    const QDir parts = QFileInfo(QFileInfo(program).canonicalFilePath()).dir();
+    return parts.exists(u"libfilelo.so"_qs) &&
+           !(parts.exists(u"libflatlo.so"_qs) && parts.exists(u"libdbalo.so"_qs));
+}
+
+void tellLackOfDatabasePart(const QString& letter) {
+    MsgBox(u"Ihrem LibreOffice fehlt der Datenbankteil (Base). Ohne ihn kann der Serienbrief zwar "_qs
+           u"bearbeitet, aber nicht mit den Daten zusammengeführt werden.\r\n"_qs
+           u"Bitte installieren Sie LibreOffice Base (unter Debian und Ubuntu das Paket libreoffice-base) "_qs
+           u"und öffnen Sie danach den Serienbrief noch einmal:\r\n"_qs +
+               QDir::toNativeSeparators(letter),
+           vbExclamation);
+}
+
+void tellFailure(const QString& folder, const RuntimeError& error) {
+    MsgBox(u"Der Serienbrief konnte nicht im Ordner der Datendatei angelegt werden:\r\n"_qs +
+               QDir::toNativeSeparators(folder) + u"\r\n"_qs + error.description,
+           vbCritical);
+}
+
+class Writer final : public WordProcessor {
+public:
+    explicit Writer(QString program)
+        : m_program(std::move(program)) {}
+
+    // It is visible from the start, every letter with a data source is a form letter, and a new document is
+    // open for editing.
+    void setVisible(bool) override {}
+    void setMainDocumentType(int) override {}
+    void editMainDocument() override {}
+
+    void addDocument() override { m_letter = {}; }
+    // Of what a data source can be told, only its name means anything to a file that is linked to.
+    void openDataSource(const MailMergeSource& source) override { m_dataFile = source.name; }
+    void typeText(const QString& text) override { m_letter.typeText(text); }
+    void typeParagraph() override { m_letter.typeParagraph(); }
+    void insertField(const QString& name) override { m_letter.insertField(name); }
+
+    void release() override {
+        const QString letter = store();
+        if (letter.isEmpty()) return;
+        if (lacksDatabasePart(m_program)) tellLackOfDatabasePart(letter);
+        if (!QProcess::startDetached(m_program, {letter})) throw runtimeError(cannotBeReached);
+    }
+
+private:
+    /// Empty after the box that tells why not.
+    QString store() const {
+        const QDir folder = QFileInfo(m_dataFile).dir();
+        try {
+            return storedLetter(folder, m_letter.package(m_dataFile));
+        } catch (const RuntimeError& error) {
+            tellFailure(folder.path(), error);
+            return {};
+        }
+    }
+
+    QString m_program;
+    QString m_dataFile;
+    LibreOfficeWriterLetter m_letter;
+};
+
+} // namespace
+
+std::unique_ptr<WordProcessor> LibreOfficeWriter::running() { throw runtimeError(cannotBeReached); }
+
+std::unique_ptr<WordProcessor> LibreOfficeWriter::start() {
+    const QString program = QStandardPaths::findExecutable(u"soffice"_qs);
+    if (program.isEmpty()) throw runtimeError(cannotBeReached);
+    return std::make_unique<Writer>(program);
+}

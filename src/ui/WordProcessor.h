@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QString>
+#include <memory>
+
+/// Where a mail merge takes its records from, with all that the opening of a data source can be told.
+struct MailMergeSource {
+    QString name; ///< full path of the file; its first line holds the names of the fields
+    bool confirmConversions = false;
+    bool readOnly = false;
+    bool linkToSource = false;
+    bool addToRecentFiles = false;
+    QString passwordDocument;
+    QString passwordTemplate;
+    QString writePasswordDocument;
+    QString writePasswordTemplate;
+    bool revert = false;
+    int format = 0; ///< 0: the program finds out by itself
+    QString connection;
+    QString sqlStatement;
+    QString sqlStatement1;
+};
+
+/// A word processor that has been reached: what the routines ask of it. Text and fields go where the
+/// selection is, which is behind what was typed last.
+class WordProcessor {
+public:
+    virtual ~WordProcessor() = default;
+    virtual void setVisible(bool on) = 0;
+    virtual void addDocument() = 0;
+    virtual void setMainDocumentType(int type) = 0; ///< 0: form letters
+    virtual void openDataSource(const MailMergeSource& source) = 0;
+    virtual void editMainDocument() = 0;
+    virtual void typeText(const QString& text) = 0;
+    virtual void typeParagraph() = 0;
+    virtual void insertField(const QString& name) = 0;
+    /// The last step: the document is the user's from here on.
+    virtual void release() = 0;
+};
+
+/// The way to the machine's word processor.
+class WordProcessorProgram {
+public:
+    virtual ~WordProcessorProgram() = default;
+    /// The one that is running; error 429 if none is.
+    virtual std::unique_ptr<WordProcessor> running() = 0;
+    /// A new one; error 429 if there is none on the machine.
+    virtual std::unique_ptr<WordProcessor> start() = 0;
+};
+
+/// Puts an implementation in force; it must outlive its use.
+void setWordProcessorProgram(WordProcessorProgram* program);
+/// Without an implementation in force there is no word processor: both ways to one are error 429.
+WordProcessorProgram& wordProcessorProgram();

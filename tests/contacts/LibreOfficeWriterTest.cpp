@@ -1,0 +1,179 @@
+#include "LibreOfficeWriter.h"
+#include "Club.h"
+#include "RecordedDialogue.h"
+#include "modSerienbrief.h"
+
+#include <QDir>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QThread>
+#include <gtest/gtest.h>
+
+namespace {
+
+/// The LibreOffice adapter over an office that only writes down what it is to open.
+class LibreOfficeLetter : public ::testing::Test {
+protected:
+    LibreOfficeLetter() {
+        QDir(club.folder.path()).mkdir(u"office"_qs);
+        QFile office(club.folder.filePath(u"office/soffice"_qs));
+        office.open(QIODevice::WriteOnly);
+        office.write("#!/bin/sh\necho \"$*\" >\"${0%/*}/new\" && mv \"${0%/*}/new\" \"${0%/*}/opened\"\n");
+        office.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+        office.close();
+        useRecordingOffice();
+        setWordProcessorProgram(&writer);
+        modSerienbrief::ErzeugeSeriendatei();
+        boxes.texts.clear();
+    }
+    ~LibreOfficeLetter() override {
+        setWordProcessorProgram(nullptr);
+        qputenv("PATH", path);
+    }
+
+    void useRecordingOffice() {
+        qputenv("PATH", QFile::encodeName(club.folder.filePath(u"office"_qs)) + ":" + path);
+    }
+    QString nameOfOpened() {
+        const QString opened = club.folder.filePath(u"office/opened"_qs);
+        QFile::remove(opened);
+        modSerienbrief::StarteWordSerienbrief();
+        for (int tries = 0; tries < 500 && !QFile::exists(opened); ++tries) QThread::msleep(10);
+        QFile file(opened);
+        return file.open(QIODevice::ReadOnly)
+                   ? QFileInfo(QString::fromUtf8(file.readAll()).trimmed()).fileName()
+                   : u"nothing"_qs;
+    }
+    void place(const QString& name, const QByteArray& content) {
+        QFile file(club.folder.filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+    }
+
+    const QByteArray path = qgetenv("PATH");
+    Club club;
+    RecordedDialogue boxes;
+    LibreOfficeWriter writer;
+};
+
+TEST_F(LibreOfficeLetter, NeverOverwritesOneThatTheUserHasChanged) {
+    EXPECT_EQ(nameOfOpened(), u"Serienbrief.odt"_qs);
+    EXPECT_EQ(nameOfOpened(), u"Serienbrief.odt"_qs);
+    place(u"SeqData/Serienbrief.odt"_qs, "mein Brief");
+    EXPECT_EQ(nameOfOpened(), u"Serienbrief 2.odt"_qs);
+    EXPECT_EQ(nameOfOpened(), u"Serienbrief 2.odt"_qs);
+    EXPECT_EQ(QFileInfo(club.folder.filePath(u"SeqData/Serienbrief.odt"_qs)).size(), 10);
+    EXPECT_TRUE(boxes.texts.isEmpty());
+}
+
+TEST_F(LibreOfficeLetter, TellsWhatKeepsItFromBeingMerged) {
+    place(u"office/libfilelo.so"_qs, "x");
+    EXPECT_EQ(nameOfOpened(), u"Serienbrief.odt"_qs);
+    ASSERT_EQ(boxes.texts.size(), 1);
+    EXPECT_TRUE(boxes.texts[0].contains(u"libreoffice-base"_qs));
+
+    boxes.texts.clear();
+    ASSERT_TRUE(QFile::remove(club.folder.filePath(u"SeqData/SERI.txt"_qs)));
+    modSerienbrief::StarteWordSerienbrief();
+    ASSERT_EQ(boxes.texts.size(), 1);
+    EXPECT_TRUE(boxes.texts[0].endsWith(u"Datei nicht gefunden"_qs));
+}
+
+/// Merges a letter into one text file by a macro in a profile of its own.
+class MergingOffice {
+public:
+    MergingOffice(QString program, const QString& profile)
+        : m_program(std::move(program))
+        , m_profile(u"-env:UserInstallation=file://"_qs + profile) {
+        run(u"--terminate_after_init"_qs); // makes the profile
+        const QString library = profile + u"/user/basic/Standard/"_qs;
+        const QByteArray names = " xmlns:%1=\"http://openoffice.org/2000/%1\" %1:name=\"";
+        write(library + u"script.xlb"_qs,
+              "<library:library" + QByteArray(names).replace("%1", "library") +
+                  "Standard\"><library:element library:name=\"Brief\"/></library:library>");
+        write(library + u"Brief.xba"_qs, "<script:module" + QByteArray(names).replace("%1", "script") +
+                                             "Brief\" script:language=\"StarBasic\"><![CDATA[" + macro +
+                                             "]]></script:module>");
+    }
+
+    /// The merged letters, or what the office says against it.
+    QString merged(const QString& letter, const QString& target) const {
+        run(u"macro:///Standard.Brief.Main(file://%1,file://%2)"_qs.arg(letter, target));
+        QFile file(target + u"/brief0.txt"_qs);
+        file.open(QIODevice::ReadOnly);
+        return QString::fromUtf8(file.readAll()).remove(QChar(0xfeff)).remove(u'\r');
+    }
+
+private:
+    static constexpr const char* macro = R"(
+Sub Main(letter, target)
+    On Error Goto failed
+    Dim hidden(0) As New com.sun.star.beans.PropertyValue
+    hidden(0).Name = "Hidden"
+    hidden(0).Value = True
+    document = StarDesktop.loadComponentFromURL(letter, "_blank", 0, hidden())
+    settings = document.createInstance("com.sun.star.document.Settings")
+    merge = createUnoService("com.sun.star.text.MailMerge")
+    merge.DocumentURL = letter
+    merge.DataSourceName = settings.CurrentDatabaseDataSource
+    merge.CommandType = settings.CurrentDatabaseCommandType
+    merge.Command = settings.CurrentDatabaseCommand
+    merge.OutputType = 2
+    merge.OutputURL = target
+    merge.FileNamePrefix = "brief"
+    merge.SaveAsSingleFile = True
+    merge.SaveFilter = "Text"
+    merge.execute(Array())
+    document.close(True)
+failed:
+    If Err <> 0 Then
+        Open target & "/brief0.txt" For Output As #1
+        Print #1, Error
+        Close #1
+    End If
+    StarDesktop.terminate()
+End Sub
+)";
+
+    void run(const QString& what) const {
+        QProcess process;
+        process.start(m_program, {m_profile, u"--headless"_qs, u"--norestore"_qs, what});
+        if (!process.waitForFinished(25'000)) process.kill();
+    }
+    static void write(const QString& path, const QByteArray& content) {
+        QFile file(path);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+    }
+
+    QString m_program;
+    QString m_profile;
+};
+
+/// Empty if the machine has none that can merge.
+QString mergingOffice() {
+    const QString program = QStandardPaths::findExecutable(u"soffice"_qs);
+    const QDir parts = QFileInfo(QFileInfo(program).canonicalFilePath()).dir();
+    return parts.exists(u"libswlo.so"_qs) && parts.exists(u"libflatlo.so"_qs) ? program : QString();
+}
+
+TEST_F(LibreOfficeLetter, IsMergedByTheOfficeWithTheContactsAsTheyAre) {
+    qputenv("PATH", path);
+    const QString program = mergingOffice();
+    if (program.isEmpty()) GTEST_SKIP() << "no soffice with writer and base on the PATH";
+    useRecordingOffice();
+    Club::add({3, u"Angel \"Größe & Söhne\" <GmbH>"_qs, u"Frau"_qs, u"Weiß"_qs, u"Änne"_qs, u"Zur Mühle 1"_qs,
+               u"01067"_qs, u"Köln"_qs});
+    Club::add({3, {}, u"Herr"_qs, u"Ohne"_qs, u""_qs, u"'Seestr.' €"_qs, u"00815"_qs, u"Zürich"_qs});
+    Club::show(3, u"-"_qs);
+    modSerienbrief::ErzeugeSeriendatei();
+    ASSERT_EQ(nameOfOpened(), u"Serienbrief.odt"_qs);
+
+    const MergingOffice office(program, club.folder.filePath(u"profil"_qs));
+    EXPECT_EQ(
+        office.merged(club.folder.filePath(u"SeqData/Serienbrief.odt"_qs), club.folder.path()).toStdString(),
+        "An\nAngel \"Größe & Söhne\" <GmbH>\nFrau Änne Weiß\nZur Mühle 1\n\n01067 Köln\n"
+        "An\n\nHerr  Ohne\n'Seestr.' €\n\n00815 Zürich\n");
+}
+
+} // namespace
