@@ -114,6 +114,7 @@ void schreibeDatei(DataTable& uebersicht) {
 
 void meldeKeinWord() { MsgBox(u"Es ist kein Word verfügbar !"_qs, vbInformation); }
 
+/// Null after the box that says there is none.
 std::unique_ptr<WordProcessor> erreicheWord() {
     try {
         return runningOrNew(wordProcessorProgram());
@@ -182,10 +183,11 @@ void ErzeugeSeriendatei() {
         return;
     }
     MsgBox(u" - SERI.txt - wurde erfolgreich im Pfad: ..\\uferwart\\seqdata\\ erstellt !"_qs, vbInformation);
-    session().MsgAntwort = MsgBox(
-        u"Möchten Sie jetzt Word starten ? Dabei wird Ihnen von Uferwart automatisch ein Std.- Serienbrief Dokument\n\r"_qs
-        u"erstellt. Möchten Sie Word starten um einen Seriendruck zu erstellen ? "_qs,
-        vbYesNo);
+    session().MsgAntwort =
+        MsgBox(u"Möchten Sie jetzt Word starten ? Dabei wird Ihnen von Uferwart automatisch ein "_qs
+               u"Std.- Serienbrief Dokument\n\r"_qs
+               u"erstellt. Möchten Sie Word starten um einen Seriendruck zu erstellen ? "_qs,
+               vbYesNo);
     if (session().MsgAntwort == vbYes) StarteWordSerienbrief();
 }
 

@@ -42,7 +42,7 @@ public:
         require(source != nullptr);
         const zip_int64_t index = zip_file_add(m_archive, name, source.get(), ZIP_FL_ENC_UTF_8);
         require(index >= 0);
-        source.release(); // taken over
+        static_cast<void>(source.release()); // taken over
         const auto place = static_cast<zip_uint64_t>(index);
         zip_set_file_compression(m_archive, place, compressed ? ZIP_CM_DEFLATE : ZIP_CM_STORE, 0);
         zip_file_set_dostime(m_archive, place, 0, firstDosDay, 0);
