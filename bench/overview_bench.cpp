@@ -76,19 +76,27 @@ struct RawContact {
     std::string texts[7];
 };
 
-/// The cells of a category's contacts, copied. The places are those of the table's columns.
+int columnOf(sqlite3_stmt* rows, const char* name) {
+    int column = 0;
+    while (sqlite3_stricmp(sqlite3_column_name(rows, column), name) != 0) ++column;
+    return column;
+}
+
+/// The same statement, the cells on show copied.
 void rawCategory(RawFile& file, std::vector<RawContact>& rows) {
     rows.clear();
     sqlite3_stmt* of =
-        file.prepare("SELECT KNr, GebDatum, Firma, Anrede, Nachname, Vorname, Tel1, Fax, EMail "
-                     "FROM Kontakt WHERE KategoNr = " +
-                     QByteArray::number(crowdedNumber));
+        file.prepare("SELECT * FROM Kontakt WHERE KategoNr = " + QByteArray::number(crowdedNumber));
+    std::vector<int> places;
+    for (const char* shown :
+         {"KNr", "GebDatum", "Firma", "Anrede", "Nachname", "Vorname", "Tel1", "Fax", "EMail"})
+        places.push_back(columnOf(of, shown));
     while (sqlite3_step(of) == SQLITE_ROW) {
         RawContact& row = rows.emplace_back();
-        row.number = sqlite3_column_int(of, 0);
-        row.birthday = sqlite3_column_double(of, 1);
-        for (int i = 0; i < 7; ++i)
-            row.texts[i] = reinterpret_cast<const char*>(sqlite3_column_text(of, i + 2));
+        row.number = sqlite3_column_int(of, places[0]);
+        row.birthday = sqlite3_column_double(of, places[1]);
+        for (std::size_t i = 0; i < 7; ++i)
+            row.texts[i] = reinterpret_cast<const char*>(sqlite3_column_text(of, places[i + 2]));
     }
     sqlite3_finalize(of);
 }
@@ -157,6 +165,7 @@ int main(int argc, char* argv[]) {
     Program program(temporary.path());
     program.start();
     logIn();
+    if (getenv("ONLY")) { for (int i = 0; i < 60; ++i) modKontakt::KategorieAufklappen(crowdedNumber - 1, crowdedNumber); return 0; }
     benchFill(file);
     benchOpening(file);
     benchSearch(file, "search in 50,000 contacts, 10 hits", "Müller-1234");

@@ -14,7 +14,7 @@
 #include "Uebersicht.h"
 #include "modKontakt.h"
 #include "modNavigation.h"
-#include "modRun.h"
+#include "modSerienbrief.h"
 
 #include <QBoxLayout>
 #include <QLabel>
@@ -109,6 +109,8 @@ void KontaktUebers::ErzeugeSerienbriefDatei() {
         MsgBox(u"Um eine Serienbrief - Datei erzeugen zu können, müssen Sie die gewünschten Kategorien "_qs
                u"vorher aufklappen !"_qs,
                vbInformation);
+    } else {
+        modSerienbrief::ErzeugeSeriendatei();
     }
 }
 
