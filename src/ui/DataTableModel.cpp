@@ -22,6 +22,7 @@ struct DataTableModel::Table {
         , owner(ownerRow) {}
 
     DataTableRows rows;
+    DataTableTexts texts; ///< its own, so that a category opened again starts afresh
     int owner;
     int published = 0;     ///< so many rows does the view know
     int firstChanged = -1; ///< changed cells that the view has not been told of stand in these rows
@@ -69,7 +70,8 @@ void DataTableModel::clear(int owner) {
 }
 
 void DataTableModel::append(int owner, std::span<const Value> cells) {
-    table(owner).rows.append(cells, m_texts);
+    Table& longer = table(owner);
+    longer.rows.append(cells, longer.texts);
     if (owner == top && isTwoLevel()) m_children.emplace_back();
     m_behind = true;
 }
@@ -84,7 +86,7 @@ void DataTableModel::insert(int owner, int row, std::span<const Value> cells) {
     tellChanges(changed);
     const bool known = row < changed.published;
     if (known) beginInsertRows(ownerIndex(changed), row, row);
-    changed.rows.insert(row, cells, m_texts);
+    changed.rows.insert(row, cells, changed.texts);
     if (owner == top && isTwoLevel()) {
         m_children.emplace(m_children.begin() + row);
         renumberChildren();
@@ -111,7 +113,7 @@ void DataTableModel::remove(int owner, int row) {
 
 int DataTableModel::removeWithText(int owner, int column, const QString& text) {
     Table& changed = table(owner);
-    const DataTableRows::Wanted wanted(text, m_texts);
+    const DataTableRows::Wanted wanted(text, changed.texts);
     std::vector<int> hits;
     for (int row = -1; (row = changed.rows.find(column, row + 1, wanted)) >= 0;) hits.push_back(row);
     if (hits.empty()) return 0;
@@ -130,16 +132,18 @@ int DataTableModel::removeWithText(int owner, int column, const QString& text) {
 }
 
 Value DataTableModel::value(int owner, int row, int column) const {
-    return table(owner).rows.value(row, column, m_texts);
+    const Table& asked = table(owner);
+    return asked.rows.value(row, column, asked.texts);
 }
 
 QString DataTableModel::text(int owner, int row, int column) const {
-    return table(owner).rows.text(row, column, m_texts);
+    const Table& asked = table(owner);
+    return asked.rows.text(row, column, asked.texts);
 }
 
 void DataTableModel::set(int owner, int row, int column, const Value& value) {
     Table& changed = table(owner);
-    changed.rows.set(row, column, value, m_texts);
+    changed.rows.set(row, column, value, changed.texts);
     if (row >= changed.published) return;
     changed.firstChanged = changed.firstChanged < 0 ? row : std::min(changed.firstChanged, row);
     changed.lastChanged = std::max(changed.lastChanged, row);
@@ -147,7 +151,8 @@ void DataTableModel::set(int owner, int row, int column, const Value& value) {
 }
 
 int DataTableModel::find(int owner, int column, int first, const QString& text) const {
-    return table(owner).rows.find(column, first, DataTableRows::Wanted(text, m_texts));
+    const Table& asked = table(owner);
+    return asked.rows.find(column, first, DataTableRows::Wanted(text, asked.texts));
 }
 
 void DataTableModel::createChild(int row) {
@@ -187,10 +192,10 @@ void DataTableModel::publish() {
 }
 
 std::size_t DataTableModel::memoryInUse() const {
-    std::size_t bytes = m_texts.memoryInUse() + m_top->rows.memoryInUse();
+    std::size_t bytes = m_top->texts.memoryInUse() + m_top->rows.memoryInUse();
     bytes += m_children.capacity() * sizeof(m_children.front());
     for (const auto& one : m_children) {
-        if (one) bytes += sizeof(Table) + one->rows.memoryInUse();
+        if (one) bytes += sizeof(Table) + one->texts.memoryInUse() + one->rows.memoryInUse();
     }
     return bytes;
 }
@@ -280,6 +285,7 @@ void DataTableModel::dropRows(Table& table) {
     const bool known = table.published > 0;
     if (known) beginRemoveRows(ownerIndex(table), 0, table.published - 1);
     table.rows.clear();
+    table.texts.clear();
     table.published = 0;
     table.firstChanged = table.lastChanged = -1;
     if (known) endRemoveRows();
@@ -288,7 +294,6 @@ void DataTableModel::dropRows(Table& table) {
 void DataTableModel::dropAll() {
     m_children.clear();
     m_top = std::make_unique<Table>(static_cast<int>(m_columns.size()), top);
-    m_texts.clear();
 }
 
 void DataTableModel::renumberChildren() {

@@ -95,7 +95,6 @@ private:
     QVector<GridColumn> m_columns;
     QVector<GridColumn> m_childColumns;
     int m_captionColumn = 0;
-    DataTableTexts m_texts;
     std::unique_ptr<Table> m_top;
     /// One for each row of the top level in a two-level grid, else empty.
     std::vector<std::unique_ptr<Table>> m_children;
