@@ -131,6 +131,8 @@ void KontaktUebers::klappe(int row) {
     const bool oeffnet = !s.KategoOffen[std::size_t(row)];
     tblKUebers->setCell(row, Uebersicht::spalteZustand, oeffnet ? u"-"_qs : u"+"_qs);
     if (oeffnet) modKontakt::KategorieAufklappen(row, CLng(tblKUebers->cell(row, Uebersicht::spalteNr)));
+    // What stands open on the screen is what gets into the file for serial letters.
+    tblKUebers->setOpen(row, oeffnet);
     s.KategoOffen[std::size_t(row)] = oeffnet;
     s.LetzterKlappZustand = oeffnet;
 }

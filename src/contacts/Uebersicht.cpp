@@ -86,7 +86,9 @@ void faerbeKind(int row) {
     grid().setChildColours(row, back, second);
 }
 
-void setzePlatzhalter(int row) {
+void legeKindMitPlatzhalterAn(int row) {
+    legeKindAn(row);
+    faerbeKind(row);
     const std::array<Value, 10> leer = {QString(), QString(), QString(), QString(), QString(),
                                         QString(), QString(), QString(), QString(), QString()};
     fuegeKontaktAn(row, leer);

@@ -50,8 +50,8 @@ void SetzeKontaktSpalten();
 void legeKindAn(int row);
 /// The colours by which contacts stand out from categories.
 void faerbeKind(int row);
-/// The one empty row that gives a category something to open before its contacts have been read.
-void setzePlatzhalter(int row);
+/// A child table with one empty row, so that there is something to open before the contacts have been read.
+void legeKindMitPlatzhalterAn(int row);
 
 /// Writes the cells of a contact's row, from the firm on, in the table that is current.
 void schreibeZellen(int kontakt, std::span<const Value> zeile);

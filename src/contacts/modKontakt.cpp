@@ -36,9 +36,9 @@ Recordset abfrage(const QString& select) {
     return session().AktDatenbank.OpenRecordset(select, dbOpenDynaset);
 }
 
-/// The one value of the one row of a query; what is given otherwise where there is not exactly one row.
-Value einziger(const QString& routine, const QString& feld, const Value& sonst,
-               const std::function<QString()>& select) {
+/// A value of the first row of a query; what is given otherwise where there is none.
+Value erster(const QString& routine, const QString& feld, const Value& sonst,
+             const std::function<QString()>& select) {
     Value value = sonst;
     withErrorTail(modul, routine, [&](ErrorTail& step) {
         Recordset katego;
@@ -54,13 +54,12 @@ Value einziger(const QString& routine, const QString& feld, const Value& sonst,
 bool KontaktZugriff_Erlaubt() { return zugriffErlaubt(modul, u"KontaktZugriff_Erlaubt"_qs, u"Kontakt"_qs); }
 
 qint32 ErmittleKategoNr(const QString& name) {
-    return CLng(einziger(u"ErmittleKategoNr"_qs, u"kategonr"_qs, 0, [&] {
-        return u"SELECT KategoNr FROM Katego WHERE Kategorie = "_qs + quoted(name);
-    }));
+    return CLng(erster(u"ErmittleKategoNr"_qs, u"kategonr"_qs, 0,
+                       [&] { return u"SELECT KategoNr FROM Katego WHERE Kategorie = "_qs + quoted(name); }));
 }
 
 QString ErmittleKategoName(qint32 number) {
-    const Value name = einziger(u"ErmittleKategoName"_qs, u"kategorie"_qs, QString(), [&] {
+    const Value name = erster(u"ErmittleKategoName"_qs, u"kategorie"_qs, QString(), [&] {
         return u"SELECT Kategorie FROM Katego WHERE KategoNr = "_qs + QString::number(number);
     });
     return name.isNull() ? QString() : CStr(name);

@@ -11,7 +11,7 @@ namespace modKontakt {
 /// True if the user who is logged in may use this part.
 bool KontaktZugriff_Erlaubt();
 
-/// The number of the category of this name; 0 unless there is exactly one.
+/// The number of the first category of this name; 0 if there is none.
 qint32 ErmittleKategoNr(const QString& name);
 /// The name of the category of this number; empty if there is none.
 QString ErmittleKategoName(qint32 number);

@@ -80,11 +80,9 @@ void zeigeNeuen(ErrorTail& step, Recordset& kontakt, const Kontakt& form) {
         step([&] { kontakt.MoveLast(); });
         step([&] { Uebersicht::fuegeKontaktAn(row, alsZeile(kontakt)); });
     } else {
-        Uebersicht::legeKindAn(row);
-        Uebersicht::faerbeKind(row);
-        Uebersicht::setzePlatzhalter(row);
+        step([&] { Uebersicht::legeKindMitPlatzhalterAn(row); });
     }
-    Uebersicht::schreibeMarke(row, name, anzahl + 1, Uebersicht::Abstand::Eins);
+    step([&] { Uebersicht::schreibeMarke(row, name, anzahl + 1, Uebersicht::Abstand::Eins); });
 }
 
 } // namespace
@@ -114,21 +112,29 @@ void SpeicherKontakt() {
 
 namespace {
 
-/// A contact that keeps its category and whose row is known.
-void aktualisiereZeile(int row, const Kontakt& form) {
-    const DataTable& grid = *screen<KontaktUebers>().tblKUebers;
-    // A category that was opened in place of a contact has no cells for one.
-    if (grid.currentTable().parentRow < 0) return;
+/// A contact that keeps its category and whose row is not known: only an open category shows it.
+void bleibt(qint32 knr, qint32 kategonr, const Kontakt& form) {
+    const int kategorie = Uebersicht::findeKategorie(kategonr);
+    if (Uebersicht::istOffen(kategorie))
+        Uebersicht::aktualisiereKontakt(kategorie, knr, KontaktFelder::alsZeile(form));
+}
+
+/// A contact that keeps its category. A category that was opened in place of a contact has no cells for one:
+/// the row is then looked for, as it is after a search.
+void aktualisiereZeile(int row, qint32 knr, qint32 kategonr, const Kontakt& form) {
+    if (screen<KontaktUebers>().tblKUebers->currentTable().parentRow < 0) return bleibt(knr, kategonr, form);
     Uebersicht::schreibeZellen(row, KontaktFelder::alsZeile(form));
 }
 
 /// Takes the opened row out of the child table that is current, and the contact out of its old category's
 /// count. A category that is empty now has nothing to open.
-void nimmAusKategorie(int row, qint32 kategonr, const QString& name) {
+void nimmAusKategorie(int row, qint32 knr, qint32 kategonr, const QString& name) {
     DataTable& grid = *screen<KontaktUebers>().tblKUebers;
-    if (grid.currentTable().parentRow >= 0) grid.removeRow(row);
+    const bool zeileBekannt = grid.currentTable().parentRow >= 0;
+    if (zeileBekannt) grid.removeRow(row);
     const int kategorie = Uebersicht::findeKategorie(kategonr);
     if (kategorie < 0) return;
+    if (!zeileBekannt && Uebersicht::istOffen(kategorie)) Uebersicht::entferneKontakt(kategorie, knr);
     const qint32 rest = Uebersicht::anzahl(kategorie) - 1;
     Uebersicht::schreibeMarke(kategorie, name, rest);
     if (rest == 0) grid.removeChild(kategorie);
@@ -146,24 +152,21 @@ void gibInKategorie(qint32 kategonr, const Kontakt& form) {
     Uebersicht::fuegeKontaktAn(kategorie, KontaktFelder::alsZeile(form));
 }
 
-void loescheMitglied(ErrorTail& step, qint32 knr) {
-    Recordset mitglied;
-    step([&] { mitglied = oeffne(u"Mitglied"_qs); });
+/// The new category of the edited contact, in the record and in the overview.
+void wechsleKategorie(ErrorTail& step, Recordset& kontakt, qint32 knr, qint32 alteNr, qint32 neueNr, int row,
+                      const Kontakt& form) {
+    const QString alterName = ErmittleKategoName(alteNr);
+    step([&] { kontakt.Collect(u"kategonr"_qs, neueNr); });
+    step([&] { nimmAusKategorie(row, knr, alteNr, alterName); });
+    step([&] { gibInKategorie(neueNr, form); });
+}
+
+/// Who leaves a member category loses the member's row, also on the way into the other one.
+void loescheMitglied(ErrorTail& step, Recordset& mitglied, qint32 knr) {
     if (finde(step, mitglied, knr))
         step([&] { mitglied.Delete(); });
     else
         modRun::MeldeNichtVorhanden();
-    step([&] { mitglied.Close(); });
-}
-
-/// The new category of the edited contact, in the record and in the overview.
-void wechsleKategorie(ErrorTail& step, Recordset& kontakt, qint32 alteNr, qint32 neueNr, int row,
-                      const Kontakt& form) {
-    const QString alterName = ErmittleKategoName(alteNr);
-    step([&] { kontakt.Collect(u"kategonr"_qs, neueNr); });
-    step([&] { nimmAusKategorie(row, alteNr, alterName); });
-    step([&] { gibInKategorie(neueNr, form); });
-    if (modKatego::istSystemkategorie(alterName)) loescheMitglied(step, nummerDerMaske(step, form));
 }
 
 } // namespace
@@ -172,32 +175,35 @@ void UpdateKontakt(int row) {
     withErrorTail(modul, u"UpdateKontakt"_qs, [row](ErrorTail& step) {
         const Kontakt& form = screen<Kontakt>();
         Recordset kontakt;
+        // Open until the contact is written too: what is written together reaches the file together.
         Recordset mitglied;
         qint32 alteNr = 0;
+        bool mitMitglied = false;
         step([&] { kontakt = oeffne(u"Kontakt"_qs); });
         const qint32 knr = nummerDerMaske(step, form);
         if (finde(step, kontakt, knr)) {
             const qint32 neueNr = ErmittleKategoNr(form.cboKatego->Text());
             step([&] { kontakt.Edit(); });
             step([&] { alteNr = CLng(kontakt.Collect(u"kategonr"_qs)); });
+            const bool warMitglied = modKatego::istSystemkategorie(ErmittleKategoName(alteNr));
+            mitMitglied = warMitglied || KontaktFelder::istMitglied(form);
+            if (mitMitglied) step([&] { mitglied = oeffne(u"Mitglied"_qs); });
             if (alteNr == neueNr) {
                 step([&] { kontakt.Collect(u"kategonr"_qs, neueNr); });
-                step([&] { aktualisiereZeile(row, form); });
+                step([&] { aktualisiereZeile(row, knr, neueNr, form); });
             } else {
-                wechsleKategorie(step, kontakt, alteNr, neueNr, row, form);
+                wechsleKategorie(step, kontakt, knr, alteNr, neueNr, row, form);
+                if (warMitglied) loescheMitglied(step, mitglied, knr);
             }
             KontaktFelder::schreibeKontakt(step, kontakt, form);
             step([&] { kontakt.Update(); });
-            if (KontaktFelder::istMitglied(form)) {
-                step([&] { mitglied = oeffne(u"Mitglied"_qs); });
-                schreibeMitglied(step, mitglied, kontakt, knr, form);
-                step([&] { mitglied.Close(); });
-            }
+            if (KontaktFelder::istMitglied(form)) schreibeMitglied(step, mitglied, kontakt, knr, form);
         } else {
             modRun::MeldeNichtVorhanden();
         }
-        step([&] { kontakt.Close(); });
         unload<Kontakt>();
+        if (mitMitglied) step([&] { mitglied.Close(); });
+        step([&] { kontakt.Close(); });
     });
 }
 
@@ -214,12 +220,6 @@ void ziehtUm(qint32 knr, qint32 alteNr, const QString& alterName, qint32 neueNr,
     if (neu < 0) return;
     Uebersicht::schreibeMarke(neu, form.cboKatego->Text(), Uebersicht::anzahl(neu) + 1);
     if (Uebersicht::istOffen(neu)) Uebersicht::fuegeKontaktAn(neu, KontaktFelder::alsZeile(form));
-}
-
-void bleibt(qint32 knr, qint32 kategonr, const Kontakt& form) {
-    const int kategorie = Uebersicht::findeKategorie(kategonr);
-    if (Uebersicht::istOffen(kategorie))
-        Uebersicht::aktualisiereKontakt(kategorie, knr, KontaktFelder::alsZeile(form));
 }
 
 /// After a save from the search the category alone decides whether there is a member's row.
@@ -256,9 +256,9 @@ void UpdateSQLKontakt() {
         } else {
             modRun::MeldeNichtVorhanden();
         }
+        unload<Kontakt>();
         step([&] { kontakt.Close(); });
         step([&] { mitglied.Close(); });
-        unload<Kontakt>();
     });
 }
 
@@ -291,8 +291,8 @@ void LoescheKontakt() {
         } else {
             modRun::MeldeNichtVorhanden();
         }
-        step([&] { kontakt.Close(); });
         unload<Kontakt>();
+        step([&] { kontakt.Close(); });
     });
 }
 

@@ -43,9 +43,7 @@ void zaehleKontakte(int row, Recordset& kontakte) {
     kontakte.MoveLast();
     const QString name = screen<KontaktUebers>().tblKUebers->cellText(row, Uebersicht::spalteName);
     Uebersicht::schreibeMarke(row, name, kontakte.AbsolutePosition() + 1);
-    Uebersicht::legeKindAn(row);
-    Uebersicht::faerbeKind(row);
-    Uebersicht::setzePlatzhalter(row);
+    Uebersicht::legeKindMitPlatzhalterAn(row);
 }
 
 } // namespace

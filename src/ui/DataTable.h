@@ -86,6 +86,9 @@ public:
     /// Where the child is the current table, the top level is current afterwards.
     void removeChild(int row);
     bool hasChild(int row) const;
+    /// Shows a category as expanded or collapsed, also while it has no child table yet. Called while a press
+    /// on it is being handled, it takes the place of what the press does by itself.
+    void setOpen(int row, bool open);
     /// Only where there is a child table. The rows take the colours by turns, the second one softened.
     void setChildColours(int row, const QColor& back, const QColor& second);
 
@@ -105,9 +108,9 @@ Q_SIGNALS:
     void OnGridLostFocus();
     /// A press with the left or right button: row -1 is beyond the rows (the column is -1 as well), column -5
     /// the row header. Rows are those of the table in which the press happened, which is then the current
-    /// one. A press on a category's row header expands or collapses it after the handlers have run, if it has
-    /// a child table by then; the keys Right, Left, + and - do the same through the same event. On the text
-    /// of a category the column is the caption column.
+    /// one. A press on a category's row header expands or collapses it after the handlers have run, unless
+    /// one of them has called setOpen; the keys Right, Left, + and - do the same through the same event. On
+    /// the text of a category the column is the caption column.
     void OnGridCellDown(int row, int column);
     /// Double click, or Enter on a row. The first press of a double click comes as OnGridCellDown before. Not
     /// on the row header of a category, where the second press would only undo the first.
@@ -162,6 +165,7 @@ private:
     SelectionStyle m_selectionStyle;
     TableHandle m_current;
     bool m_publishScheduled = false;
+    bool m_opennessTold = false; ///< a handler of the press has said whether the category is open
     bool m_fitting = false;
     QVector<bool> m_sizedByUser; ///< such a column keeps its width as long as another can give
     QVector<int> m_widths;       ///< as given or as the user wants them; elastic columns may get more or less

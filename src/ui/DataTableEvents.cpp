@@ -40,9 +40,10 @@ bool DataTable::isCategory(const Spot& spot) const {
 
 void DataTable::cellDown(const Spot& spot) {
     m_current = spot.table;
+    m_opennessTold = false;
     const QPointer<DataTable> alive(this);
     Q_EMIT OnGridCellDown(spot.row, spot.column);
-    if (alive && isCategory(spot) && spot.column == rowHeaderColumn) toggle(spot.row);
+    if (alive && isCategory(spot) && spot.column == rowHeaderColumn && !m_opennessTold) toggle(spot.row);
 }
 
 void DataTable::cellOpen(const Spot& spot) {
@@ -53,8 +54,13 @@ void DataTable::cellOpen(const Spot& spot) {
 void DataTable::toggle(int row) {
     publish();
     if (!m_model->hasChild(row)) return;
-    const QModelIndex index = m_model->indexOf(DataTableModel::top, row, 0);
-    setExpanded(index, !isExpanded(index));
+    setOpen(row, !isExpanded(m_model->indexOf(DataTableModel::top, row, 0)));
+}
+
+void DataTable::setOpen(int row, bool open) {
+    m_opennessTold = true;
+    publish();
+    setExpanded(m_model->indexOf(DataTableModel::top, row, 0), open);
 }
 
 /// Right and + expand a category, Left and - collapse it, as far as it is not so already.
@@ -62,7 +68,7 @@ bool DataTable::foldByKey(int key) {
     const bool opens = key == Qt::Key_Right || key == Qt::Key_Plus;
     const bool closes = key == Qt::Key_Left || key == Qt::Key_Minus;
     Spot spot = currentSpot();
-    if ((!opens && !closes) || !isCategory(spot) || !m_model->hasChild(spot.row)) return false;
+    if ((!opens && !closes) || !isCategory(spot)) return false;
     if (isExpanded(currentIndex().siblingAtColumn(0)) == opens) return false;
     spot.column = rowHeaderColumn;
     cellDown(spot);

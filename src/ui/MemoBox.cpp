@@ -28,7 +28,13 @@ MemoBox::MemoBox(const QString& name, QWidget* parent)
     whenFocusIsElsewhere(this, [this] { loseFocus(); });
 }
 
-QString MemoBox::Text() const { return toPlainText().replace(u'\n', u"\r\n"_qs); }
+// The raw text, since the plain one has every protected blank turned into a common one.
+QString MemoBox::Text() const {
+    return document()
+        ->toRawText()
+        .replace(QChar::ParagraphSeparator, u"\r\n"_qs)
+        .replace(QChar::LineSeparator, u"\r\n"_qs);
+}
 
 void MemoBox::setText(const QString& text) { setPlainText(withPlainBreaks(text)); }
 

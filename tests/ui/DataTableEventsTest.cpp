@@ -216,6 +216,21 @@ TEST_F(DataTableEventsTest, OnlyTheRowHeaderFoldsAndOnlyWhereThereIsAChildTable)
     EXPECT_TRUE(isOpen(0));
 }
 
+TEST_F(DataTableEventsTest, AHandlerMaySayWhetherACategoryIsOpen) {
+    showTwoLevels();
+    bool open = true;
+    QObject::connect(m_grid, &DataTable::OnGridCellDown, m_grid,
+                     [&](int row) { m_grid->setOpen(row, open); });
+    // A category that has nothing to show yet shows it as soon as it comes.
+    press(1, DataTable::rowHeaderColumn);
+    EXPECT_TRUE(isOpen(1));
+    press(1, DataTable::rowHeaderColumn);
+    EXPECT_TRUE(isOpen(1));
+    open = false;
+    press(0, DataTable::rowHeaderColumn);
+    EXPECT_FALSE(isOpen(0));
+}
+
 TEST_F(DataTableEventsTest, KeysFoldThroughTheSameEvent) {
     showTwoLevels();
     press(0, 0);
