@@ -27,14 +27,15 @@ QString sucheNach(const QString& word, qint32 kategonr) {
 }
 
 void zeigeTreffer(ErrorTail& step, Recordset& kontakte, DataTable* grid) {
+    const Field knr = kontakte.Fields(u"knr"_qs), kategonr = kontakte.Fields(u"kategonr"_qs),
+                firma = kontakte.Fields(u"Firma"_qs), nachname = kontakte.Fields(u"Nachname"_qs),
+                vorname = kontakte.Fields(u"Vorname"_qs);
     step([&] { grid->clearRows(); });
     step([&] { kontakte.MoveFirst(); });
     while (step.test([&] { return !kontakte.Eof(); })) {
         step([&] {
-            grid->appendRow({kontakte.Collect(u"knr"_qs),
-                             ErmittleKategoName(CLng(kontakte.Collect(u"kategonr"_qs))),
-                             kontakte.Collect(u"Firma"_qs), kontakte.Collect(u"Nachname"_qs),
-                             kontakte.Collect(u"Vorname"_qs)});
+            grid->appendRow({knr.Value(), ErmittleKategoName(CLng(kategonr.Value())), firma.Value(),
+                             nachname.Value(), vorname.Value()});
         });
         step([&] { kontakte.MoveNext(); });
     }

@@ -8,6 +8,8 @@
 #include "Uebersicht.h"
 #include "modKontakt.h"
 
+#include <algorithm>
+
 // The overview's grid: filled with the categories once, and with the contacts of a category at each opening.
 
 namespace modKontakt {
@@ -15,8 +17,12 @@ namespace modKontakt {
 namespace {
 
 /// Month before day: the birthday in the overview has its two first parts exchanged.
-QString tagUndMonatGetauscht(const QString& datum) {
-    return datum.mid(3, 3) + datum.left(3) + datum.mid(6, 4);
+QString tagUndMonatGetauscht(QString datum) {
+    constexpr int teil = 3;
+    constexpr int laenge = 10;
+    datum.truncate(laenge);
+    if (datum.size() >= 2 * teil) std::swap_ranges(datum.begin(), datum.begin() + teil, datum.begin() + teil);
+    return datum;
 }
 
 Value geburtstag(const Field& feld) {

@@ -153,6 +153,22 @@ qsizetype timeStart(QStringView text) {
     return start;
 }
 
+/// Written digit by digit: a list of thousands of birthdays would spend most of its time on the toolkit's
+/// reading of a pattern.
+QString shortForm(QDate date) {
+    int year = 0, month = 0, day = 0;
+    date.getDate(&year, &month, &day);
+    QString text(10, u'.');
+    const auto put = [&](qsizetype last, int digits, int number) {
+        for (; digits > 0; --digits, --last, number /= 10)
+            text[last] = QChar(static_cast<char16_t>(u'0' + number % 10));
+    };
+    put(1, 2, day);
+    put(4, 2, month);
+    put(9, 4, year);
+    return text;
+}
+
 } // namespace
 
 QString dateText(Date date) {
@@ -160,8 +176,9 @@ QString dateText(Date date) {
     const QTime time = date.toQTime();
     if (!day.isValid()) throw runtimeError(6);
 
-    if (day == Date().toQDate()) return time.toString(u"hh:mm:ss");
-    const QString dayText = day.toString(u"dd.MM.yyyy");
+    static const QDate ofTheEmptyDate = Date().toQDate();
+    if (day == ofTheEmptyDate) return time.toString(u"hh:mm:ss");
+    const QString dayText = shortForm(day);
     return time == QTime(0, 0) ? dayText : dayText + u' ' + time.toString(u"hh:mm:ss");
 }
 

@@ -8,9 +8,6 @@
 
 namespace {
 
-/// What a usual allocator really takes for a block of so many bytes.
-constexpr std::size_t allocated(std::size_t bytes) { return (bytes + sizeof(std::size_t) + 15) / 16 * 16; }
-
 quint64 wordOf(const Value& value, DataTableTexts& texts) {
     switch (value.kind()) {
     case Value::Kind::Null:
@@ -79,21 +76,27 @@ void DataTableRows::insert(int row, std::span<const Value> cells, DataTableTexts
 
 void DataTableRows::remove(int row) {
     if (row < 0 || row >= rowCount()) throw runtimeError(9);
+    m_blocks.giveBack(m_rows[static_cast<std::size_t>(row)]);
     m_rows.erase(m_rows.begin() + row);
 }
 
 void DataTableRows::remove(const std::vector<int>& rows) {
     auto next = rows.begin();
     int row = 0;
-    std::erase_if(m_rows, [&](const Row&) {
+    std::erase_if(m_rows, [&](Row held) {
         const bool hit = next != rows.end() && *next == row;
-        if (hit) ++next;
         ++row;
-        return hit;
+        if (!hit) return false;
+        m_blocks.giveBack(held);
+        ++next;
+        return true;
     });
 }
 
-void DataTableRows::clear() { std::vector<Row>().swap(m_rows); }
+void DataTableRows::clear() {
+    std::vector<Row>().swap(m_rows);
+    m_blocks.clear();
+}
 
 Value DataTableRows::value(int row, int column, const DataTableTexts& texts) const {
     const quint64* cells = rowWith(row, column);
@@ -108,26 +111,25 @@ QString DataTableRows::text(int row, int column, const DataTableTexts& texts) co
 
 void DataTableRows::set(int row, int column, const Value& value, DataTableTexts& texts) {
     rowWith(row, column);
-    put(m_rows[static_cast<std::size_t>(row)].get(), column, value, texts);
+    put(m_rows[static_cast<std::size_t>(row)], column, value, texts);
 }
 
 int DataTableRows::find(int column, int first, const Wanted& wanted) const {
     if (column < 0 || column >= columnCount()) throw runtimeError(9);
     const auto start = m_rows.begin() + std::clamp(first, 0, rowCount());
-    const auto hit =
-        std::find_if(start, m_rows.end(), [&](const Row& row) { return matches(row.get(), column, wanted); });
+    const auto hit = std::find_if(start, m_rows.end(), [&](Row row) { return matches(row, column, wanted); });
     return hit == m_rows.end() ? -1 : static_cast<int>(hit - m_rows.begin());
 }
 
 std::size_t DataTableRows::memoryInUse() const {
-    return m_rows.capacity() * sizeof(Row) + m_rows.size() * allocated(words() * sizeof(quint64));
+    return m_rows.capacity() * sizeof(Row) + m_blocks.memoryInUse();
 }
 
-DataTableRows::Row DataTableRows::packed(std::span<const Value> cells, DataTableTexts& texts) const {
+DataTableRows::Row DataTableRows::packed(std::span<const Value> cells, DataTableTexts& texts) {
     static const Value null;
-    Row row = std::make_unique_for_overwrite<quint64[]>(words());
+    const Row row = m_blocks.take();
     for (std::size_t column = 0; column < m_columns; ++column) {
-        put(row.get(), static_cast<int>(column), column < cells.size() ? cells[column] : null, texts);
+        put(row, static_cast<int>(column), column < cells.size() ? cells[column] : null, texts);
     }
     return row;
 }
@@ -150,5 +152,5 @@ bool DataTableRows::matches(const quint64* row, int column, const Wanted& wanted
 
 const quint64* DataTableRows::rowWith(int row, int column) const {
     if (row < 0 || row >= rowCount() || column < 0 || column >= columnCount()) throw runtimeError(9);
-    return m_rows[static_cast<std::size_t>(row)].get();
+    return m_rows[static_cast<std::size_t>(row)];
 }

@@ -1,13 +1,13 @@
 #pragma once
 
+#include "DataTableBlocks.h"
 #include "DataTableTexts.h"
 #include "Value.h"
+
 #include <span>
 
-#include <memory>
-
 /// The rows of one table of a grid, kept small: nine bytes a cell and a pointer a row, texts in the pool that
-/// is handed in. Rows are allocated one by one, so that inserting and removing moves pointers only.
+/// is handed in. Inserting and removing moves pointers only.
 /// Knows no view. Asking for a row or column that is not there is error 9.
 class DataTableRows {
 public:
@@ -24,7 +24,8 @@ public:
     };
 
     explicit DataTableRows(int columns)
-        : m_columns(static_cast<std::size_t>(columns)) {}
+        : m_columns(static_cast<std::size_t>(columns))
+        , m_blocks(words()) {}
 
     int rowCount() const { return static_cast<int>(m_rows.size()); }
     int columnCount() const { return static_cast<int>(m_columns); }
@@ -49,15 +50,16 @@ public:
 
 private:
     /// The cells' contents, a word each, and behind them their kinds, a byte each.
-    using Row = std::unique_ptr<quint64[]>;
+    using Row = quint64*;
 
     std::size_t words() const { return m_columns + (m_columns + 7) / sizeof(quint64); }
-    Row packed(std::span<const Value> cells, DataTableTexts& texts) const;
+    Row packed(std::span<const Value> cells, DataTableTexts& texts);
     void put(quint64* row, int column, const Value& value, DataTableTexts& texts) const;
     Value::Kind kind(const quint64* row, int column) const;
     bool matches(const quint64* row, int column, const Wanted& wanted) const;
     const quint64* rowWith(int row, int column) const;
 
     std::size_t m_columns;
+    DataTableBlocks m_blocks;
     std::vector<Row> m_rows;
 };
