@@ -8,4 +8,8 @@ namespace Berichte {
 
 Report& rpt_Fangliste();
 
+Report& rpt_ArbListe();
+/// Its title; the year stands behind it.
+QString titelArbListe();
+
 } // namespace Berichte

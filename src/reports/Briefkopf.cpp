@@ -13,6 +13,7 @@ constexpr int captionBreadth = 180;
 constexpr int addressBreadth = 980;
 constexpr int codeBreadth = 120;
 constexpr int titleLeft = 1060;
+constexpr int longTitleHeight = 210;
 constexpr int settingTop = 110;
 constexpr int settingCaption = 260;
 constexpr int headTop = 290;
@@ -86,6 +87,14 @@ void Briefkopf::addFooter() {
 
 void Briefkopf::addTitle(const QString& label, const QString& title) {
     m_head.addLabel(label, title, {titleLeft, 0, breadth - titleLeft, 90}).points(20).bold().ink(clubBlue);
+}
+
+void Briefkopf::addLongTitle(const QString& label, const QString& title) {
+    m_head.addLabel(label, title, {titleLeft, 0, breadth - titleLeft, longTitleHeight})
+        .points(16)
+        .bold()
+        .ink(clubBlue)
+        .wrapped();
 }
 
 void Briefkopf::addSetting(const QString& label, const QString& caption, const QString& value) {

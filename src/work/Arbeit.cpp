@@ -1,12 +1,126 @@
 #include "Arbeit.h"
 
-#include "Face.h"
-#include "Heading.h"
+#include "ComboBox.h"
+#include "Conversions.h"
+#include "DataTable.h"
+#include "DateBox.h"
+#include "Format.h"
+#include "MitglList.h"
+#include "MsgBox.h"
+#include "RuntimeError.h"
+#include "Screens.h"
+#include "Session.h"
+#include "Stage.h"
+#include "SuchKont.h"
+#include "ValueLabel.h"
+#include "modArbeit.h"
+#include "modKontakt.h"
 
-#include <QBoxLayout>
+#include <QPushButton>
 
-Arbeit::Arbeit()
-    : Screen(u"Arbeit"_qs, u"Arbeitscontrolling - Name des Mitglieds -"_qs) {
-    Ueberschrift = new Heading(u"ARBEITSCONTROLLING"_qs, this);
-    Face::column(this, Ueberschrift, nullptr)->addStretch();
+// The face of the screen is built in ArbeitFace.cpp; here is what it does.
+
+void Arbeit::Form_Load() {
+    modArbeit::LeereArbEingabe();
+    modArbeit::loadcboArbJahre(cboArbJahr);
+    if (cboArbJahr->ListCount() > 0) cboArbJahr->setText(QString::number(session().AktJahr));
+    session().Modus = u"SAVE"_qs;
+    session().AktZeile = 0;
+    // From here on a year stands for the wish to see it.
+    on(cboArbJahr, &ComboBox::Click, [this] { cboArbJahr_Click(); });
+}
+
+void Arbeit::Form_Activate() {
+    if (m_uebergabe)
+        m_uebergabe = false;
+    else if (session().NachReport)
+        session().NachReport = false;
+    else
+        screen<SuchKont>().ShowModal();
+}
+
+void Arbeit::Form_Deactivate() {
+    if (!session().NachReport) modArbeit::LeereArbAnzeige();
+    unload<SuchKont>();
+}
+
+void Arbeit::Toolbar1_ButtonClick(const QString& key) {
+    if (key == u"tbBuchen"_qs) buche();
+    if (key == u"tbLoeschen"_qs) loesche();
+    if (key == u"tbAnzLoeschen"_qs) modArbeit::LeereArbEingabe();
+    if (key == u"tbVorschau"_qs) drucke(u"vorschau"_qs);
+    if (key == u"tbDruck"_qs) drucke(u"drucken"_qs);
+    session().Modus = u"SAVE"_qs;
+}
+
+void Arbeit::buche() {
+    const Session& s = session();
+    if (s.Modus == u"EDIT"_qs && modArbeit::PruefeArbEingabe()) modArbeit::UpdateStunden(s.AktZeile);
+    if (s.Modus == u"SAVE"_qs && modArbeit::PruefeArbEingabe()) modArbeit::SpeicherStunden();
+}
+
+void Arbeit::loesche() {
+    Session& s = session();
+    if (s.Modus != u"EDIT"_qs) return;
+    s.MsgAntwort = MsgBox(u"ACHTUNG: Arbeitvorgang wirklich löschen ?"_qs, vbYesNo);
+    if (s.MsgAntwort == vbYes)
+        modArbeit::LoescheStunden(s.AktZeile);
+    else
+        modArbeit::LeereArbEingabe();
+}
+
+void Arbeit::drucke(const QString& wort) {
+    session().NachReport = true;
+    modArbeit::DruckeArbListe(wort);
+    // Only a preview hands the front away and back; after anything else the next return is from another
+    // screen.
+    if (Stage::current()->front() == this) session().NachReport = false;
+}
+
+void Arbeit::cmdSuch_Click() {
+    modKontakt::SuchAnzeigeLoeschen();
+    screen<SuchKont>().ShowModal();
+}
+
+void Arbeit::cmdMList_Click() {
+    Hide();
+    screen<MitglList>().Show();
+}
+
+namespace {
+
+/// Without a member on the screen there is no number to convert: what needs it is passed over.
+template<typename Statement>
+void soweitMitglied(Statement&& statement) {
+    constexpr int typesDiffer = 13;
+    try {
+        statement();
+    } catch (const RuntimeError& error) {
+        if (error.number != typesDiffer) throw;
+    }
+}
+
+} // namespace
+
+void Arbeit::cboArbJahr_Click() {
+    const auto lade = [this] {
+        return modArbeit::loadTblArbeit(CLng(lblKNr->Caption()), CLng(cboArbJahr->Text()));
+    };
+    try {
+        soweitMitglied(lade);
+        soweitMitglied([&] { lblGesStd->setCaption(Format(lade(), modArbeit::stundenMuster())); });
+        soweitMitglied([] { modArbeit::zeigePflichtStd(); });
+        soweitMitglied([] { modArbeit::zeigeSaldo(); });
+    } catch (const RuntimeError&) {
+        // The list is then as far as it came; the next pick of a year begins anew.
+    }
+}
+
+void Arbeit::tblArbStd_OnGridCellOpen(int row, int column) {
+    if (row < 0) return;
+    modArbeit::LeereArbEingabe();
+    session().Modus = u"EDIT"_qs;
+    session().AktZeile = row;
+    modArbeit::loadArbeitsVorgang(row, column);
+    pvDate->setFocus();
 }

@@ -2,13 +2,91 @@
 
 #include "Screen.h"
 
+class ComboBox;
+class DataTable;
+class DateBox;
 class Heading;
+class MemoBox;
+class QGroupBox;
+class QLabel;
+class QPushButton;
+class TextBox;
+class Toolbar;
+class ValueLabel;
 
+/// The work ledger: the bookings of one member in one year, with an entry form beside them. Whose they are
+/// and what they come to stands in the captions alone.
 class Arbeit : public Screen {
     Q_OBJECT
 
 public:
     Arbeit();
 
+    void Form_Load() override;
+    void Form_Activate() override;
+    void Form_Deactivate() override;
+
+    /// The next activation finds a member here and does not ask for one.
+    void erwarteMitglied() { m_uebergabe = true; }
+
     Heading* Ueberschrift;
+    Toolbar* Toolbar1;
+    QGroupBox* Frame1;
+
+    QGroupBox* Frame3;
+    QPushButton* cmdMList;
+    QPushButton* cmdSuch;
+    QLabel* Label1;
+    ComboBox* cboArbJahr;
+    QLabel* Label2;
+    ValueLabel* lblKNr;
+    QLabel* Label3;
+    ValueLabel* lblNName;
+    QLabel* Label4;
+    ValueLabel* lblVName;
+
+    QGroupBox* Frame2;
+    DataTable* tblArbStd;
+    QLabel* lblGStd;
+    ValueLabel* lblGesStd;
+    QLabel* Label10;
+    QLabel* Label6;
+    ValueLabel* lblPflStd;
+    QLabel* Label8;
+    QLabel* Label9;
+    ValueLabel* lblErgStd;
+    QLabel* Label5;
+
+    QGroupBox* Frame7;
+    QLabel* lblArbN;
+    ValueLabel* lblArbNr;
+    QLabel* lblDatum;
+    DateBox* pvDate;
+    QLabel* lblArbZeit;
+    TextBox* txtArbStd;
+    QLabel* lblStd;
+    QLabel* lblArbNotiz;
+    MemoBox* txtArbNotiz;
+
+private:
+    void buildToolbar();
+    void buildMember();
+    void buildEntry();
+    void buildTable();
+    void layOutMember();
+    void layOutEntry();
+    void layOutTable();
+    void connectEvents();
+    QPushButton* addIconButton(const QString& name, const QString& icon, const QString& tip);
+
+    void Toolbar1_ButtonClick(const QString& key);
+    void buche();
+    void loesche();
+    void drucke(const QString& wort);
+    void cmdSuch_Click();
+    void cmdMList_Click();
+    void cboArbJahr_Click();
+    void tblArbStd_OnGridCellOpen(int row, int column);
+
+    bool m_uebergabe = false;
 };

@@ -1,9 +1,51 @@
 #pragma once
 
+#include <QString>
+
+class ComboBox;
+
 /// The work ledger.
 namespace modArbeit {
 
 /// True if the user who is logged in may use this part.
 bool ArbeitsZugriff_Erlaubt();
+
+/// The hours a member has worked in a year; 0 without bookings.
+double ErmittleStunden(qint32 knr, qint32 jahr);
+/// Hours worked less hours owed, rounded to two decimals as they are shown.
+double BerechneSaldo(double gearbeitet, double pflicht);
+/// Fills a combo with the years that have bookings and the current one.
+void loadcboArbJahre(ComboBox* combo);
+
+/// Takes the member of a row of the contact search into the ledger.
+void UebernehmeKontakt(int row);
+/// Takes the member into the ledger on whose row in the member list the menu was opened.
+void mnuArbContr_Click();
+
+/// Fills the ledger's grid with the bookings of a member in a year; gives their hours.
+double loadTblArbeit(qint32 knr, qint32 jahr);
+/// Reads the booking of a row of the ledger's grid into the entry fields.
+void loadArbeitsVorgang(int row, int column);
+/// The entry fields as a new booking of the member and the year on show.
+void SpeicherStunden();
+/// The entry fields over the opened booking, which also goes to the year on show; `row` is its grid row.
+void UpdateStunden(int row);
+/// Deletes the opened booking; `row` is its grid row.
+void LoescheStunden(int row);
+
+void LeereArbEingabe();
+void LeereArbAnzeige();
+/// True if there are hours, a member and a date that can be read; else a box says so.
+bool PruefeArbEingabe();
+
+/// Hours are shown in this pattern, and what is shown is what the balance is made of.
+QString stundenMuster();
+/// The hours owed, from the parameters' grid.
+void zeigePflichtStd();
+/// The balance of the two sums as they stand on the screen.
+void zeigeSaldo();
+
+/// Prints ("drucken") or shows ("vorschau") the grid as the member's work sheet.
+void DruckeArbListe(const QString& wort);
 
 } // namespace modArbeit

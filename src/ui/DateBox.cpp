@@ -1,0 +1,114 @@
+#include "DateBox.h"
+
+#include "Clock.h"
+#include "Conversions.h"
+
+#include <QCalendarWidget>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QScreen>
+#include <QWheelEvent>
+#include <algorithm>
+
+namespace {
+
+/// Wide enough for any date, and for the arrow beside it.
+constexpr int characters = 11;
+
+QString textOf(Date date) {
+    return date.isEmpty() ? QString() : date.toQDate().toString(QStringLiteral("dd.MM.yyyy"));
+}
+
+/// On the number pad there is a comma where a date has its points, and neither is missed in 01022026.
+QString withPoints(QString typed) {
+    constexpr int dayAndMonth = 4;
+    typed = typed.trimmed().replace(u',', u'.');
+    const bool digits = std::all_of(typed.begin(), typed.end(), [](QChar sign) { return sign.isDigit(); });
+    if (digits && typed.size() >= dayAndMonth) typed.insert(dayAndMonth, u'.').insert(dayAndMonth / 2, u'.');
+    return typed;
+}
+
+} // namespace
+
+// The toolkit's own date box takes 31012026, typed while it shows a day of February, for 3 October 1202.
+DateBox::DateBox(const QString& name, QWidget* parent)
+    : QComboBox(parent) {
+    setObjectName(name);
+    setEditable(true);
+    setCompleter(nullptr);
+    setInsertPolicy(QComboBox::NoInsert);
+    setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    setMinimumContentsLength(characters);
+    setFocusPolicy(Qt::StrongFocus);
+    connect(lineEdit(), &QLineEdit::editingFinished, this, &DateBox::settle);
+}
+
+Date DateBox::date() const {
+    const auto day = typedDay();
+    return day ? Date::fromQDate(*day) : m_date;
+}
+
+void DateBox::setDate(Date date) {
+    m_date = date;
+    m_shown = textOf(date);
+    setEditText(m_shown);
+    if (lineEdit()->hasFocus()) lineEdit()->selectAll();
+}
+
+bool DateBox::isReadable() const { return currentText() == m_shown || typedDay(); }
+
+// None also where the text stands as it was put in: it may show less than the date has.
+std::optional<QDate> DateBox::typedDay() const {
+    if (currentText() == m_shown) return std::nullopt;
+    const Value typed(withPoints(currentText()));
+    // A time alone would be a date as well.
+    if (typed.text().contains(u':') || !IsDate(typed)) return std::nullopt;
+    return CDate(typed).toQDate();
+}
+
+void DateBox::settle() {
+    if (const auto day = typedDay()) setDate(Date::fromQDate(*day));
+}
+
+void DateBox::step(int days) {
+    settle();
+    const QDate from = m_shown.isEmpty() ? today() : m_date.toQDate();
+    setDate(Date::fromQDate(from.addDays(days)));
+}
+
+void DateBox::keyPressEvent(QKeyEvent* event) {
+    const bool plain = !(event->modifiers() & ~Qt::KeypadModifier);
+    if (plain && event->key() == Qt::Key_Up)
+        step(1);
+    else if (plain && event->key() == Qt::Key_Down)
+        step(-1);
+    else
+        QComboBox::keyPressEvent(event);
+}
+
+// Rolling a screen must not change the fields that pass under the pointer.
+void DateBox::wheelEvent(QWheelEvent* event) { event->ignore(); }
+
+void DateBox::showPopup() {
+    settle();
+    if (!m_calendar) {
+        m_calendar = new QCalendarWidget(this);
+        m_calendar->setWindowFlags(Qt::Popup);
+        m_calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+        m_calendar->setGridVisible(false);
+        // Enter and a click pick a day; going about by the arrow keys does not.
+        for (const auto signal : {&QCalendarWidget::activated, &QCalendarWidget::clicked})
+            connect(m_calendar, signal, this, [this](QDate day) {
+                m_calendar->hide();
+                setDate(Date::fromQDate(day));
+            });
+    }
+    m_calendar->setSelectedDate(m_shown.isEmpty() ? today() : m_date.toQDate());
+    QRect place(mapToGlobal(rect().bottomLeft()), m_calendar->sizeHint());
+    const QRect room = screen()->availableGeometry();
+    if (place.bottom() > room.bottom()) place.moveBottom(mapToGlobal(QPoint(0, 0)).y());
+    place.moveLeft(std::max(room.left(), std::min(place.left(), room.right() - place.width())));
+    m_calendar->setGeometry(place);
+    m_calendar->show();
+    m_calendar->setFocus();
+}

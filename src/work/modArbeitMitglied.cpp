@@ -1,0 +1,215 @@
+#include "Arbeit.h"
+#include "ComboBox.h"
+#include "Conversions.h"
+#include "DataTable.h"
+#include "DateBox.h"
+#include "ErrorTail.h"
+#include "Format.h"
+#include "MitglList.h"
+#include "MsgBox.h"
+#include "Recordset.h"
+#include "Screens.h"
+#include "Session.h"
+#include "SuchKont.h"
+#include "System.h"
+#include "ValueLabel.h"
+#include "modArbeit.h"
+#include "modNavigation.h"
+#include "modRun.h"
+#include "modSystem.h"
+
+#include <QPushButton>
+#include <array>
+
+// How a member comes into the ledger, and what his year comes to.
+
+namespace modArbeit {
+
+namespace {
+
+const QString modul = u"modArbeit"_qs;
+
+Recordset abfrage(const QString& select) {
+    return session().AktDatenbank.OpenRecordset(select, dbOpenDynaset);
+}
+
+/// What a list tells of the member in one of its rows.
+struct Mitglied {
+    QString knr;
+    QString nachname;
+    QString vorname;
+    QString titel; ///< his name in the caption of the screen
+};
+
+void meldeBefreit() {
+    MsgBox(
+        u"Mitglied ist von Arb.-Std. befreit ! Übernahme ins Arbeitscontrolling wurde abgebrochen !\r\n\r\n"_qs
+        u"Um eine Stundenverwaltung zu ermöglichen, müssen Sie erst den Status auf - nicht Befreit - "_qs
+        u"setzen.\r\n\r\nNähere Angaben dazu enthält die Online - Hilfe !"_qs,
+        vbInformation);
+}
+
+/// False, after a box, for a number that is no member's and for a member who owes no hours.
+bool schuldetStunden(ErrorTail& step, const QString& knr) {
+    Recordset mitglied;
+    bool gefunden = false;
+    bool befreit = false;
+    step([&] { mitglied = session().AktDatenbank.OpenRecordset(u"Mitglied"_qs, dbOpenTable); });
+    step([&] { mitglied.Index(u"PrimaryKey"_qs); });
+    step([&] {
+        mitglied.Seek(u"="_qs, CLng(knr));
+        gefunden = !mitglied.NoMatch();
+    });
+    if (!gefunden)
+        modRun::MeldeNichtVorhanden();
+    else if (step.test([&] { return mitglied.Collect(u"Befreit"_qs) == Value(true); }))
+        befreit = true;
+    if (befreit) meldeBefreit();
+    step([&] { mitglied.Close(); });
+    return gefunden && !befreit;
+}
+
+void zeigeMitglied(ErrorTail& step, const Mitglied& mitglied) {
+    Arbeit& form = screen<Arbeit>();
+    form.lblKNr->setCaption(mitglied.knr);
+    form.lblVName->setCaption(mitglied.vorname);
+    form.lblNName->setCaption(mitglied.nachname);
+    form.setWindowTitle(u"Arbeitscontrolling - "_qs + mitglied.titel + u" -"_qs);
+    step([&] {
+        const double stunden = loadTblArbeit(CLng(form.lblKNr->Caption()), CLng(form.cboArbJahr->Text()));
+        form.lblGesStd->setCaption(Format(stunden, stundenMuster()));
+    });
+    step([] { zeigePflichtStd(); });
+    step([] { zeigeSaldo(); });
+    form.pvDate->setFocus();
+}
+
+} // namespace
+
+void UebernehmeKontakt(int row) {
+    withErrorTail(modul, u"UebernehmeKontakt"_qs, [row](ErrorTail& step) {
+        const DataTable* grid = screen<SuchKont>().tblSuch;
+        std::array<QString, 5> zeile;
+        step([&] {
+            for (int column = 0; column < 5; ++column)
+                zeile[static_cast<std::size_t>(column)] = grid->cellText(row, column);
+        });
+        const auto& [knr, kategorie, firma, nachname, vorname] = zeile;
+        if (schuldetStunden(step, knr))
+            zeigeMitglied(step, {knr, nachname, vorname, vorname + u' ' + nachname});
+    });
+}
+
+void mnuArbContr_Click() {
+    withErrorTail(modul, u"mnuArbContr_Click"_qs, [](ErrorTail& step) {
+        const DataTable* grid = screen<MitglList>().tblMList;
+        std::array<QString, 4> zeile;
+        step([&] {
+            for (int column = 0; column < 4; ++column)
+                zeile[static_cast<std::size_t>(column)] = grid->cellText(session().AktZeile, column);
+        });
+        const auto& [knr, nachname, vorname, strasse] = zeile;
+        if (!schuldetStunden(step, knr)) return;
+        // The street in the caption, and the first name behind it, is what the users of the list know.
+        zeigeMitglied(step, {knr, nachname, vorname, strasse + u' ' + vorname});
+        Arbeit& form = screen<Arbeit>();
+        form.cmdMList->setEnabled(true);
+        form.erwarteMitglied();
+        screen<MitglList>().Hide();
+        modNavigation::zeigeBereich(u"Arbeit"_qs);
+    });
+}
+
+double loadTblArbeit(qint32 knr, qint32 jahr) {
+    withErrorTail(modul, u"loadTblArbeit"_qs, [=](ErrorTail& step) {
+        DataTable* grid = screen<Arbeit>().tblArbStd;
+        Recordset liste;
+        step([&] {
+            liste = abfrage(u"SELECT ArbNr, KNr, ArbStd, Datum FROM Arbeit WHERE KNr = "_qs +
+                            QString::number(knr) + u" AND Jahr = "_qs + QString::number(jahr));
+        });
+        step([&] { grid->clearRows(); });
+        std::vector<Field> felder;
+        step([&] { felder = liste.Fields(); });
+        std::array<Value, 4> zeile;
+        while (step.test([&] { return !liste.Eof(); })) {
+            // A cell that cannot be read costs that cell, not the row.
+            for (std::size_t i = 0; i < felder.size(); ++i) step([&] { zeile[i] = felder[i].Value(); });
+            step([&] { zeile[2] = Format(zeile[2], stundenMuster()); });
+            step([&] { grid->appendRow(zeile); });
+            step([&] { liste.MoveNext(); });
+        }
+        step([&] { liste.Close(); });
+    });
+    return ErmittleStunden(knr, jahr);
+}
+
+double ErmittleStunden(qint32 knr, qint32 jahr) {
+    double stunden = 0;
+    withErrorTail(modul, u"ErmittleStunden"_qs, [&](ErrorTail& step) {
+        Recordset summe;
+        step([&] {
+            summe = abfrage(u"SELECT SUM(ArbStd) FROM Arbeit WHERE KNr = "_qs + QString::number(knr) +
+                            u" AND Jahr = "_qs + QString::number(jahr));
+        });
+        step([&] {
+            const Value value = summe.RecordCount() == 1 ? summe.Collect(u"Expr1000"_qs) : Value();
+            if (!value.isNull()) stunden = CDbl(value);
+        });
+        step([&] { summe.Close(); });
+    });
+    return stunden;
+}
+
+double BerechneSaldo(double gearbeitet, double pflicht) {
+    return CDbl(Format(gearbeitet - pflicht, stundenMuster()));
+}
+
+QString stundenMuster() { return u"###0.00"_qs; }
+
+void zeigePflichtStd() {
+    const DataTable* parameter = screen<System>().tblSystem;
+    int start = 0;
+    const int row = parameter->find(0, start, modSystem::labelPflichtStd());
+    screen<Arbeit>().lblPflStd->setCaption(Format(parameter->cell(row, 1), stundenMuster()));
+}
+
+void zeigeSaldo() {
+    const Arbeit& form = screen<Arbeit>();
+    const double saldo = BerechneSaldo(CDbl(form.lblGesStd->Caption()), CDbl(form.lblPflStd->Caption()));
+    form.lblErgStd->setCaption(Format(saldo, stundenMuster()));
+}
+
+namespace {
+
+/// Lowest or highest year of the ledger, AktJahr where there is none; nothing without exactly one answer.
+std::optional<qint32> grenzjahr(ErrorTail& step, const QString& select) {
+    std::optional<qint32> jahr;
+    Recordset arbeit;
+    step([&] { arbeit = abfrage(select); });
+    step([&] {
+        if (arbeit.RecordCount() != 1) return;
+        const Value value = arbeit.Collect(u"Expr1000"_qs);
+        jahr = value.isNull() ? qint32(session().AktJahr) : CLng(value);
+    });
+    step([&] { arbeit.Close(); });
+    return jahr;
+}
+
+} // namespace
+
+void loadcboArbJahre(ComboBox* combo) {
+    withErrorTail(modul, u"loadcboArbJahre"_qs, [combo](ErrorTail& step) {
+        const qint32 aktJahr = session().AktJahr;
+        const auto lowest = grenzjahr(step, u"SELECT MIN(Jahr) FROM Arbeit"_qs);
+        if (!lowest) return;
+        const auto highest = grenzjahr(step, u"SELECT MAX(Jahr) FROM Arbeit"_qs);
+        if (!highest) return;
+        const auto add = [&](qint32 jahr) { combo->AddItem(QString::number(jahr)); };
+        for (qint32 jahr = *lowest; jahr <= *highest; ++jahr) add(jahr);
+        if (*highest < aktJahr) add(aktJahr);
+        for (qint32 jahr = aktJahr; jahr < *lowest; ++jahr) add(jahr);
+    });
+}
+
+} // namespace modArbeit
