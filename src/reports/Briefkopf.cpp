@@ -13,7 +13,7 @@ constexpr int captionBreadth = 180;
 constexpr int addressBreadth = 980;
 constexpr int codeBreadth = 120;
 constexpr int titleLeft = 1060;
-constexpr int longTitleHeight = 210;
+constexpr int longTitleHeight = 250;
 constexpr int settingTop = 110;
 constexpr int settingCaption = 260;
 constexpr int headTop = 290;
@@ -91,7 +91,7 @@ void Briefkopf::addTitle(const QString& label, const QString& title) {
 
 void Briefkopf::addLongTitle(const QString& label, const QString& title) {
     m_head.addLabel(label, title, {titleLeft, 0, breadth - titleLeft, longTitleHeight})
-        .points(16)
+        .points(20)
         .bold()
         .ink(clubBlue)
         .wrapped();

@@ -24,13 +24,13 @@ public:
 
     /// The title beside the address, and below it, line by line (up to four), what the list was made for.
     void addTitle(const QString& label, const QString& title);
-    /// A title too long for one line, on up to three; no settings stand below it.
-    void addLongTitle(const QString& label, const QString& title);
     void addSetting(const QString& label, const QString& caption, const QString& value);
 
     /// The column heads on the frame Shape1, the texts, and the rules Line1 (below each row), Line2 and Line3
     /// (at the table's sides).
     void addColumns(std::initializer_list<ReportColumn> columns);
+    /// A title of up to three lines, in place of addTitle; no settings stand below it.
+    void addLongTitle(const QString& label, const QString& title);
 
     // The report footer. Each line is a caption (a label of its own name) with its value behind it; what is
     // returned is the value.
