@@ -85,9 +85,9 @@ void Main::buildMenus() {
     on(mnuBeenden, &QAction::triggered, [](bool) { modEnde::mnuBeenden_Click(); });
     on(mnuKomprimiere, &QAction::triggered, [](bool) { modTools::KomprimiereDatenbank(); });
     on(mnuRepariere, &QAction::triggered, [](bool) { modTools::RepariereDatenbank(); });
-    on(mnuArbContr, &QAction::triggered, [](bool) { modArbeit::mnuArbContr_Click(); });
     on(mnuFangInfo, &QAction::triggered, [](bool) { modFAuswert::mnuFangInfo_Click(); });
     on(mnuInfo, &QAction::triggered, [this](bool) { mnuInfo_Click(); });
+    on(mnuArbContr, &QAction::triggered, [](bool) { modArbeit::mnuArbContr_Click(); });
 }
 
 void Main::buildPanels() {
