@@ -1,0 +1,97 @@
+#include "Clock.h"
+#include "DateBox.h"
+
+#include <QCalendarWidget>
+#include <QLineEdit>
+#include <QTest>
+#include <gtest/gtest.h>
+
+namespace {
+
+class Spring final : public Clock {
+public:
+    QDateTime now() const override { return QDate(2026, 3, 14).startOfDay(); }
+};
+
+/// A box in a window beside another control, in February, where many a day is missing.
+class DateBoxTest : public testing::Test {
+protected:
+    DateBoxTest() {
+        setClock(&m_clock);
+        box.setDate(Date::fromQDate({2026, 2, 14}));
+        beside.move(0, 60);
+        window.show();
+        window.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+        box.setFocus();
+    }
+    ~DateBoxTest() override { setClock(nullptr); }
+
+    void type(const QString& text) {
+        box.lineEdit()->selectAll();
+        QTest::keyClicks(box.lineEdit(), text);
+    }
+
+    Spring m_clock;
+    QWidget window;
+    DateBox box{u"pvDate"_qs, &window};
+    QLineEdit beside{&window};
+};
+
+TEST_F(DateBoxTest, ReadsADateAsItIsTyped) {
+    const std::pair<QString, QDate> cases[] = {
+        {u"31.01.2026"_qs, {2026, 1, 31}}, {u"31012026"_qs, {2026, 1, 31}}, {u"310126"_qs, {2026, 1, 31}},
+        {u"31,1,26"_qs, {2026, 1, 31}},    {u"1.2.05"_qs, {2005, 2, 1}},    {u"29.2.2024"_qs, {2024, 2, 29}},
+        {u"3.12.1999"_qs, {1999, 12, 3}},  {u" 5.6. "_qs, {2026, 6, 5}},    {u"0506"_qs, {2026, 6, 5}}};
+    for (const auto& [typed, day] : cases) {
+        type(typed);
+        EXPECT_TRUE(box.isReadable()) << typed.toStdString();
+        EXPECT_EQ(box.date().toQDate(), day) << typed.toStdString();
+    }
+    beside.setFocus();
+    EXPECT_EQ(box.currentText(), u"05.06.2026"_qs) << "left, it stands in full";
+}
+
+TEST_F(DateBoxTest, TakesNothingElseForADate) {
+    for (const QString& typed :
+         {u""_qs, u"5"_qs, u"30.2.2026"_qs, u"99999999"_qs, u"12:30"_qs, u"morgen"_qs}) {
+        type(typed);
+        if (typed.isEmpty()) box.clearEditText();
+        EXPECT_FALSE(box.isReadable()) << typed.toStdString();
+        EXPECT_EQ(box.date().toQDate(), QDate(2026, 2, 14)) << typed.toStdString();
+    }
+    beside.setFocus();
+    EXPECT_EQ(box.currentText(), u"morgen"_qs) << "what is wrong stays for its writer to see";
+}
+
+TEST_F(DateBoxTest, GivesBackWhatItCannotShow) {
+    for (const double days : {0.0, 46095.75, 1e9, -1e9}) {
+        box.setDate(Date{days});
+        beside.setFocus();
+        box.setFocus();
+        EXPECT_TRUE(box.isReadable());
+        EXPECT_EQ(box.date().days, days);
+    }
+    type(u"14.3.2026"_qs);
+    EXPECT_EQ(box.date(), Date::fromQDate({2026, 3, 14}));
+}
+
+TEST_F(DateBoxTest, GoesByDaysAndThroughTheCalendar) {
+    QTest::keyClick(box.lineEdit(), Qt::Key_Down);
+    EXPECT_EQ(box.currentText(), u"13.02.2026"_qs);
+    type(u"28.2."_qs);
+    QTest::keyClick(box.lineEdit(), Qt::Key_Up);
+    EXPECT_EQ(box.currentText(), u"01.03.2026"_qs);
+    box.setDate({});
+    QTest::keyClick(box.lineEdit(), Qt::Key_F4);
+    auto* calendar = qobject_cast<QCalendarWidget*>(QApplication::activePopupWidget());
+    ASSERT_TRUE(calendar);
+    EXPECT_EQ(calendar->selectedDate(), QDate(2026, 3, 14)) << "without a date it begins today";
+    EXPECT_EQ(box.date(), Date{}) << "looking is not picking";
+    calendar->setSelectedDate({2026, 5, 1});
+    QTest::keyClick(QApplication::focusWidget() ? QApplication::focusWidget() : calendar, Qt::Key_Return);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+    EXPECT_EQ(box.currentText(), u"01.05.2026"_qs);
+}
+
+} // namespace
