@@ -2,11 +2,14 @@
 
 #include "Clock.h"
 #include "Conversions.h"
+#include "FocusMove.h"
 
 #include <QCalendarWidget>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QScreen>
+#include <QTextCharFormat>
+#include <QToolButton>
 #include <QWheelEvent>
 #include <algorithm>
 
@@ -15,9 +18,7 @@ namespace {
 /// Wide enough for any date, and for the arrow beside it.
 constexpr int characters = 11;
 
-QString textOf(Date date) {
-    return date.isEmpty() ? QString() : date.toQDate().toString(QStringLiteral("dd.MM.yyyy"));
-}
+QString textOf(Date date) { return date.isEmpty() ? QString() : date.toQDate().toString(u"dd.MM.yyyy"_qs); }
 
 /// On the number pad there is a comma where a date has its points, and neither is missed in 01022026.
 QString withPoints(QString typed) {
@@ -41,6 +42,7 @@ DateBox::DateBox(const QString& name, QWidget* parent)
     setMinimumContentsLength(characters);
     setFocusPolicy(Qt::StrongFocus);
     connect(lineEdit(), &QLineEdit::editingFinished, this, &DateBox::settle);
+    whenFocusIsElsewhere(this, [this] { m_hasFocus = false; });
 }
 
 Date DateBox::date() const {
@@ -89,20 +91,39 @@ void DateBox::keyPressEvent(QKeyEvent* event) {
 // Rolling a screen must not change the fields that pass under the pointer.
 void DateBox::wheelEvent(QWheelEvent* event) { event->ignore(); }
 
+// Whoever comes by a key, or is sent here, writes over what stands there; also who was sent here while
+// another window was active, when the focus arrives with the window's return.
+void DateBox::focusInEvent(QFocusEvent* event) {
+    QComboBox::focusInEvent(event);
+    const bool arrives = movesFocus(event->reason()) || !m_hasFocus;
+    m_hasFocus = true;
+    if (arrives && event->reason() != Qt::MouseFocusReason) lineEdit()->selectAll();
+}
+
+void DateBox::focusOutEvent(QFocusEvent* event) {
+    QComboBox::focusOutEvent(event);
+    if (movesFocus(event->reason())) m_hasFocus = false;
+}
+
+void DateBox::makeCalendar() {
+    m_calendar = new QCalendarWidget(this);
+    m_calendar->setWindowFlags(Qt::Popup);
+    m_calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+    // The toolkit's red is hard to read on a dark ground, and its pictures are not ours.
+    for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday}) m_calendar->setWeekdayTextFormat(day, {});
+    m_calendar->findChild<QToolButton*>(u"qt_calendar_prevmonth"_qs)->setArrowType(Qt::LeftArrow);
+    m_calendar->findChild<QToolButton*>(u"qt_calendar_nextmonth"_qs)->setArrowType(Qt::RightArrow);
+    // Enter and a click pick a day; going about by the arrow keys does not.
+    for (const auto signal : {&QCalendarWidget::activated, &QCalendarWidget::clicked})
+        connect(m_calendar, signal, this, [this](QDate day) {
+            m_calendar->hide();
+            setDate(Date::fromQDate(day));
+        });
+}
+
 void DateBox::showPopup() {
     settle();
-    if (!m_calendar) {
-        m_calendar = new QCalendarWidget(this);
-        m_calendar->setWindowFlags(Qt::Popup);
-        m_calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
-        m_calendar->setGridVisible(false);
-        // Enter and a click pick a day; going about by the arrow keys does not.
-        for (const auto signal : {&QCalendarWidget::activated, &QCalendarWidget::clicked})
-            connect(m_calendar, signal, this, [this](QDate day) {
-                m_calendar->hide();
-                setDate(Date::fromQDate(day));
-            });
-    }
+    if (!m_calendar) makeCalendar();
     m_calendar->setSelectedDate(m_shown.isEmpty() ? today() : m_date.toQDate());
     QRect place(mapToGlobal(rect().bottomLeft()), m_calendar->sizeHint());
     const QRect room = screen()->availableGeometry();

@@ -29,14 +29,18 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
 
 private:
     std::optional<QDate> typedDay() const;
     void settle();
     void step(int days);
+    void makeCalendar();
 
     Date m_date;
-    QString m_shown; ///< how m_date stands in the box
+    QString m_shown;         ///< how m_date stands in the box
+    bool m_hasFocus = false; ///< also while a menu or another window borrows it
     QPointer<QCalendarWidget> m_calendar;
 };

@@ -80,15 +80,19 @@ void Arbeit::buildMember() {
 }
 
 void Arbeit::layOutMember() {
-    auto* line = new QGridLayout(Frame3);
-    line->setHorizontalSpacing(Face::gap);
-    line->addWidget(cmdSuch, 0, 0);
-    line->addWidget(cmdMList, 0, 1);
-    Face::addField(line, 0, Label1, cboArbJahr, 2);
-    Face::addField(line, 0, Label2, lblKNr, 4);
-    Face::addField(line, 0, Label3, lblNName, 6);
-    Face::addField(line, 0, Label4, lblVName, 8);
-    for (const int names : {7, 9}) line->setColumnStretch(names, 1);
+    auto* form = new QGridLayout(Frame3);
+    form->setHorizontalSpacing(Face::gap);
+    form->addWidget(cmdSuch, 0, 0);
+    form->addWidget(cmdMList, 1, 0);
+    constexpr int middle = 2;
+    constexpr int right = 5;
+    Face::addField(form, 0, Label1, cboArbJahr, middle);
+    Face::addField(form, 1, Label2, lblKNr, middle);
+    Face::addField(form, 0, Label3, lblNName, right);
+    Face::addField(form, 1, Label4, lblVName, right);
+    for (const int between : {middle - 1, right - 1}) form->setColumnMinimumWidth(between, Face::gap);
+    form->setColumnStretch(middle + 1, 1);
+    form->setColumnStretch(right + 1, 3);
     // A name as long as the file holds it must not make the window wider.
     for (ValueLabel* name : {lblNName, lblVName})
         name->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);

@@ -154,7 +154,7 @@ void loadArbeitsVorgang(int row, int /*column*/) {
         const auto text = [&](const QString& field) { return Format(arbeit.Collect(field), QString()); };
         if (step.test([&] { return arbeit.RecordCount() == 1; })) {
             step([&] { form.lblArbNr->setCaption(text(u"ArbNr"_qs)); });
-            step([&] { form.pvDate->setDate(CDate(arbeit.Collect(u"Datum"_qs))); });
+            step([&] { form.pvDate->setDate(arbeit.Collect(u"Datum"_qs).date()); });
             step([&] { form.txtArbNotiz->setText(text(u"Notiz"_qs)); });
             step([&] { form.txtArbStd->setText(text(u"ArbStd"_qs)); });
         } else {

@@ -110,7 +110,7 @@ void mnuArbContr_Click() {
         });
         const auto& [knr, nachname, vorname, strasse] = zeile;
         if (!schuldetStunden(step, knr)) return;
-        // The street in the caption, and the first name behind it, is what the users of the list know.
+        // On this way the caption reads street and first name; the labels below it read correctly.
         zeigeMitglied(step, {knr, nachname, vorname, strasse + u' ' + vorname});
         Arbeit& form = screen<Arbeit>();
         form.cmdMList->setEnabled(true);

@@ -50,6 +50,9 @@ TEST_F(DateBoxTest, ReadsADateAsItIsTyped) {
     }
     beside.setFocus();
     EXPECT_EQ(box.currentText(), u"05.06.2026"_qs) << "left, it stands in full";
+    QTest::keyClick(&beside, Qt::Key_Backtab);
+    QTest::keyClicks(box.lineEdit(), u"1.1."_qs);
+    EXPECT_EQ(box.currentText(), u"1.1."_qs) << "coming by a key, one writes over it";
 }
 
 TEST_F(DateBoxTest, TakesNothingElseForADate) {
