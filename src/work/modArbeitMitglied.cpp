@@ -20,6 +20,7 @@
 
 #include <QPushButton>
 #include <array>
+#include <optional>
 
 // How a member comes into the ledger, and what his year comes to.
 
