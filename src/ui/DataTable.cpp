@@ -69,6 +69,14 @@ void DataTable::setChildColumns(const QVector<GridColumn>& columns, int captionC
     showColumns();
 }
 
+void DataTable::setColumnShown(int column, bool on) {
+    {
+        const QScopedValueRollback fitting(m_fitting, true);
+        header()->setSectionHidden(column, !on);
+    }
+    fitColumns();
+}
+
 int DataTable::rowCount() const { return m_model->rows(m_current.parentRow); }
 
 void DataTable::clearRows() { m_model->clear(m_current.parentRow); }

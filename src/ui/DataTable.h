@@ -45,6 +45,9 @@ public:
     /// it again with the same columns changes nothing.
     void setChildColumns(const QVector<GridColumn>& columns, int captionColumn);
 
+    /// Shows or hides a column; its cells are there all the same.
+    void setColumnShown(int column, bool on);
+
     int rowCount() const;
     /// Of the top level: drops the child tables as well.
     void clearRows();
