@@ -7,6 +7,8 @@
 namespace Berichte {
 
 Report& rpt_Fangliste();
+Report& rpt_MitglList();
+Report& rpt_ArbStd();
 
 Report& rpt_ArbListe();
 /// Its title; the year stands behind it.

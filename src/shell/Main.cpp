@@ -12,6 +12,7 @@
 #include "modFAuswert.h"
 #include "modFangbuch.h"
 #include "modKontakt.h"
+#include "modMitglList.h"
 #include "modNavigation.h"
 #include "modStart.h"
 #include "modTools.h"
@@ -85,6 +86,7 @@ void Main::buildMenus() {
     on(mnuBeenden, &QAction::triggered, [](bool) { modEnde::mnuBeenden_Click(); });
     on(mnuKomprimiere, &QAction::triggered, [](bool) { modTools::KomprimiereDatenbank(); });
     on(mnuRepariere, &QAction::triggered, [](bool) { modTools::RepariereDatenbank(); });
+    on(mnuMitglInfo, &QAction::triggered, [](bool) { modMitglList::mnuMitglInfo_Click(); });
     on(mnuFangInfo, &QAction::triggered, [](bool) { modFAuswert::mnuFangInfo_Click(); });
     on(mnuInfo, &QAction::triggered, [this](bool) { mnuInfo_Click(); });
     on(mnuArbContr, &QAction::triggered, [](bool) { modArbeit::mnuArbContr_Click(); });

@@ -47,6 +47,9 @@ struct Session {
 
     /// The filters of the evaluation that are ticked: year, kind of fish, water, month, number, weight.
     std::array<bool, 6> AuswertFilter{};
+    /// The filters of the member list that are ticked: birthday, entry, sex, fee, status, exemption, left
+    /// members, youth group, hours worked.
+    std::array<bool, 9> MListFilter{};
 
     /// Reports that have been used, by name.
     std::map<QString, std::shared_ptr<Report>> Berichte;

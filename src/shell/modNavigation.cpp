@@ -11,10 +11,12 @@
 #include "Katego.h"
 #include "KontaktUebers.h"
 #include "Main.h"
+#include "MitglList.h"
 #include "NavigationBar.h"
 #include "Screens.h"
 #include "Session.h"
 #include "System.h"
+#include "modMitglList.h"
 
 namespace modNavigation {
 
@@ -104,6 +106,8 @@ void VersteckeFormen() {
     hideIfLoaded<Arbeit>();
     hideIfLoaded<Besatzung>();
     hideIfLoaded<Hinter>();
+    hideIfLoaded<MitglList>();
+    if (isLoaded<MitglList>()) modMitglList::LeereMListAnzeige();
     hideIfLoaded<Katego>();
 }
 

@@ -1,0 +1,96 @@
+#include "MitglList.h"
+
+#include "ComboBox.h"
+#include "DataTable.h"
+#include "Main.h"
+#include "MsgBox.h"
+#include "Screens.h"
+#include "Session.h"
+#include "Stage.h"
+#include "Toolbar.h"
+#include "ValueLabel.h"
+#include "modArbeit.h"
+#include "modKontakt.h"
+#include "modMitglList.h"
+#include "modNavigation.h"
+#include "modRun.h"
+
+#include <QCheckBox>
+#include <algorithm>
+
+// The face of the screen is built in MitglListFace.cpp; here is what it does.
+
+void MitglList::Form_Load() {
+    modArbeit::loadcboArbJahre(cboArbJahr);
+    cboArbJahr->setText(QString::number(session().AktJahr));
+}
+
+void MitglList::Form_Activate() {
+    // The lists here survive a report anyway; whoever comes next has not returned from one.
+    session().NachReport = false;
+}
+
+void MitglList::setHourView(bool on) {
+    for (int column = 3; column <= 7; ++column) tblMList->setColumnShown(column, !on);
+    for (int column = 8; column <= 10; ++column) tblMList->setColumnShown(column, on);
+}
+
+void MitglList::Toolbar1_ButtonClick(const QString& key) {
+    if (key == u"tbSuch"_qs) tbSuch_Click();
+    if (key == u"tbAnzLoeschen"_qs) modMitglList::LeereMListAnzeige();
+    if (key == u"tbVorschau"_qs) drucke(u"vorschau"_qs);
+    if (key == u"tbDruck"_qs) drucke(u"drucken"_qs);
+    if (key == u"tbEsc"_qs) tbEsc_Click();
+}
+
+void MitglList::tbSuch_Click() {
+    if (!modMitglList::PruefeMListEingabe()) return modRun::MeldeEingabeFehler();
+    Session& s = session();
+    // The list of hours is no filter: it alone asks as well.
+    if (std::find(s.MListFilter.begin(), s.MListFilter.end(), true) == s.MListFilter.end()) {
+        s.MsgAntwort = MsgBox(u"ACHTUNG: Wirklich alle Mitglieder aus der Datenbank laden ?"_qs, vbYesNo);
+        if (s.MsgAntwort != vbYes) {
+            MsgBox(u"Vorgang von User abgebrochen !"_qs, vbInformation);
+            return;
+        }
+    }
+    tblMList->clearRows();
+    lblGefDS->setCaption(QString());
+    modMitglList::LadeAuswahl();
+}
+
+void MitglList::tbEsc_Click() {
+    modMitglList::LeereMListAnzeige();
+    session().SuchAufrufer = 0;
+    Hide();
+    modNavigation::zeigeBereich(u"Kontakte"_qs);
+}
+
+void MitglList::drucke(const QString& wort) {
+    session().NachReport = true;
+    if (chkArbAnz->isChecked())
+        modMitglList::DruckeArbListe(wort);
+    else
+        modMitglList::DruckeMitglListe(wort);
+    // Only a preview hands the front away and back.
+    if (Stage::current()->front() == this) session().NachReport = false;
+}
+
+void MitglList::tblMList_OnGridCellDown(int row) {
+    session().KontextZeileOK = row >= 0;
+    if (row >= 0) session().AktZeile = row;
+}
+
+void MitglList::tblMList_OnGridCellMenu() {
+    const Session& s = session();
+    if (s.AktZeile >= 0 && tblMList->rowCount() >= 1 && s.KontextZeileOK) screen<Main>().loadKontMenu_Mitgl();
+}
+
+void MitglList::tblMList_OnGridCellOpen(int row) {
+    if (row < 0 || tblMList->rowCount() == 0) return;
+    if (!modKontakt::KontaktZugriff_Erlaubt()) {
+        MsgBox(u"Sie haben keinen Zugriff auf diese Funktion !"_qs, vbInformation);
+        return;
+    }
+    modMitglList::zeigeKontakt(row);
+}

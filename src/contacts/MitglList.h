@@ -1,0 +1,110 @@
+#pragma once
+
+#include "Screen.h"
+
+class ComboBox;
+class DataTable;
+class Heading;
+class ProgressBar;
+class QCheckBox;
+class QGridLayout;
+class QGroupBox;
+class QLabel;
+class QRadioButton;
+class TextBox;
+class Toolbar;
+class ValueLabel;
+
+/// Lists members by a free combination of filters, on demand with the hours they owe and have worked; source
+/// of two printed lists.
+class MitglList : public Screen {
+    Q_OBJECT
+
+public:
+    MitglList();
+
+    void Form_Load() override;
+    void Form_Activate() override;
+
+    /// Half of a date filter: its comparison and its day.
+    struct Bound {
+        ComboBox* comparison;
+        TextBox* day;
+    };
+
+    /// In the hour view the three columns of hours stand in place of address, telephone and birthday.
+    void setHourView(bool on);
+
+    Heading* Ueberschrift;
+    Toolbar* Toolbar1;
+
+    QGroupBox* Frame6;
+    QCheckBox* chkGebDat;
+    ComboBox* cboOptGeb01;
+    TextBox* txtGeb01;
+    ComboBox* cboOptGeb02;
+    TextBox* txtGeb02;
+    QCheckBox* chkEintritt;
+    ComboBox* cboOptTritt01;
+    TextBox* txtTritt01;
+    ComboBox* cboOptTritt02;
+    TextBox* txtTritt02;
+    QCheckBox* chkGeschl;
+    QRadioButton* optMann;
+    QRadioButton* optFrau;
+    QCheckBox* chkJBeitrag;
+    QRadioButton* optBezahlt;
+    QRadioButton* optNBezahlt;
+    QCheckBox* chkStatus;
+    QRadioButton* optAktiv;
+    QRadioButton* optPassiv;
+    QCheckBox* chkBefreit;
+    QRadioButton* optBefrJa;
+    QRadioButton* optBefrNein;
+    QCheckBox* chkAusgMitgl;
+    QRadioButton* optAusgJa;
+    QRadioButton* optAusgNein;
+    QCheckBox* chkJG;
+    QRadioButton* optJGJa;
+    QRadioButton* optJGNein;
+    QCheckBox* chkArbStd;
+    QRadioButton* optStdJa;
+    QRadioButton* optStdNein;
+    QCheckBox* chkArbAnz;
+    ComboBox* cboArbJahr;
+    QLabel* Label1;
+    TextBox* txtInfo;
+
+    DataTable* tblMList;
+    QLabel* lblAnzDS;
+    ValueLabel* lblGefDS;
+    ProgressBar* pb;
+
+private:
+    void buildToolbar();
+    void buildDateFilters();
+    void buildChoices();
+    void buildHours();
+    void buildGrid();
+    void layOutFilters();
+    QWidget* hourLine();
+    QWidget* layOutFoot();
+    void connectEvents();
+
+    QCheckBox* addCheckBox(const QString& name, const QString& caption);
+    Bound addBound(const QString& list, const QString& box, const QString& spoken);
+    /// Two options, one of which is always on; `spoken` tells a screen reader what is chosen.
+    void addOptions(const QCheckBox* spoken, QRadioButton*& first, const QString& firstName,
+                    const QString& firstCaption, QRadioButton*& second, const QString& secondName,
+                    const QString& secondCaption);
+    /// A click on the check box enables its controls, sets its flag and empties the grid.
+    void connectFilter(QCheckBox* box, std::size_t flag, const QVector<QWidget*>& controls);
+
+    void Toolbar1_ButtonClick(const QString& key);
+    void tbSuch_Click();
+    void tbEsc_Click();
+    void drucke(const QString& wort);
+    void tblMList_OnGridCellDown(int row);
+    void tblMList_OnGridCellOpen(int row);
+    void tblMList_OnGridCellMenu();
+};

@@ -1,0 +1,254 @@
+#include "ComboBox.h"
+#include "DataTable.h"
+#include "Face.h"
+#include "Heading.h"
+#include "MitglList.h"
+#include "ProgressBar.h"
+#include "Session.h"
+#include "TextBox.h"
+#include "Toolbar.h"
+#include "ValueLabel.h"
+#include "modRun.h"
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QRadioButton>
+
+MitglList::MitglList()
+    : Screen(u"MitglList"_qs, u"Mitglieder - Listen"_qs) {
+    Ueberschrift = new Heading(u"MITGLIEDER-LISTE"_qs, this);
+    buildToolbar();
+    Frame6 = Face::frame(u"Frame6"_qs, u"Liste generieren..."_qs, this);
+    buildDateFilters();
+    buildChoices();
+    buildHours();
+    buildGrid();
+    layOutFilters();
+    QVBoxLayout* rest = Face::column(this, Ueberschrift, Toolbar1);
+    rest->addWidget(Frame6);
+    rest->addWidget(tblMList, 1);
+    rest->addWidget(layOutFoot());
+    connectEvents();
+}
+
+void MitglList::buildToolbar() {
+    Toolbar1 = new Toolbar(this);
+    Toolbar1->addKey(u"tbSuch"_qs, u"&Suchen"_qs, u"Tabelle durchsuchen..."_qs, u"suchen"_qs);
+    Toolbar1->addSeparator();
+    Toolbar1->addKey(u"tbAnzLoeschen"_qs, u"&Anz. löschen"_qs, u"Anzeige löschen"_qs, u"anzeige-loeschen"_qs);
+    Toolbar1->addSeparator();
+    Toolbar1->addKey(u"tbVorschau"_qs, u"&Vorschau"_qs, u"Druckvorschau der Mitgliederliste"_qs,
+                     u"vorschau"_qs);
+    Toolbar1->addSeparator();
+    Toolbar1->addKey(u"tbDruck"_qs, u"Drucken"_qs, u"Aktuelle Auswahl drucken..."_qs, u"drucken"_qs);
+    Toolbar1->addSeparator();
+    Toolbar1->addKey(u"tbEsc"_qs, u"&Schließen"_qs, u"Zurück zur Kontakt - Übersicht"_qs, u"schliessen"_qs);
+}
+
+QCheckBox* MitglList::addCheckBox(const QString& name, const QString& caption) {
+    auto* box = new QCheckBox(caption, Frame6);
+    box->setObjectName(name);
+    return box;
+}
+
+MitglList::Bound MitglList::addBound(const QString& list, const QString& box, const QString& spoken) {
+    Bound bound{new ComboBox(list, ComboBox::Order::AsAdded, ComboBox::Kind::DropDownList, Frame6),
+                new TextBox(box, Frame6)};
+    for (const QString& comparison : {u"="_qs, u">"_qs, u">="_qs, u"<"_qs, u"<="_qs, u"<>"_qs})
+        bound.comparison->AddItem(comparison);
+    bound.comparison->setListIndex(-1);
+    bound.comparison->setAccessibleName(spoken + u", Vergleich"_qs);
+    bound.comparison->setEnabled(false);
+    constexpr int wholeDate = 10;
+    bound.day->setLimit(wholeDate);
+    bound.day->setAccessibleName(spoken);
+    bound.day->setKeyFilter(&modRun::FilterDatum);
+    bound.day->setEnabled(false);
+    return bound;
+}
+
+void MitglList::buildDateFilters() {
+    const auto add = [this](const QString& list, ComboBox*& comparison, const QString& box, TextBox*& day,
+                            const QString& spoken) {
+        const Bound bound = addBound(list, box, spoken);
+        comparison = bound.comparison;
+        day = bound.day;
+    };
+    chkGebDat = addCheckBox(u"chkGebDat"_qs, u"Geburtsdatum:"_qs);
+    add(u"cboOptGeb01"_qs, cboOptGeb01, u"txtGeb01"_qs, txtGeb01, u"Geburtsdatum, erster Vergleich"_qs);
+    add(u"cboOptGeb02"_qs, cboOptGeb02, u"txtGeb02"_qs, txtGeb02, u"Geburtsdatum, zweiter Vergleich"_qs);
+    chkEintritt = addCheckBox(u"chkEintritt"_qs, u"Eintrittsdatum:"_qs);
+    add(u"cboOptTritt01"_qs, cboOptTritt01, u"txtTritt01"_qs, txtTritt01,
+        u"Eintrittsdatum, erster Vergleich"_qs);
+    add(u"cboOptTritt02"_qs, cboOptTritt02, u"txtTritt02"_qs, txtTritt02,
+        u"Eintrittsdatum, zweiter Vergleich"_qs);
+}
+
+void MitglList::addOptions(const QCheckBox* spoken, QRadioButton*& first, const QString& firstName,
+                           const QString& firstCaption, QRadioButton*& second, const QString& secondName,
+                           const QString& secondCaption) {
+    auto* pair = new QButtonGroup(this);
+    const auto add = [&](const QString& name, const QString& caption) {
+        auto* option = new QRadioButton(caption, Frame6);
+        option->setObjectName(name);
+        option->setAccessibleName(spoken->text() + u' ' + caption);
+        option->setEnabled(false);
+        pair->addButton(option);
+        return option;
+    };
+    first = add(firstName, firstCaption);
+    second = add(secondName, secondCaption);
+    first->setChecked(true);
+}
+
+void MitglList::buildChoices() {
+    chkGeschl = addCheckBox(u"chkGeschl"_qs, u"Geschlecht:"_qs);
+    addOptions(chkGeschl, optMann, u"optMann"_qs, u"Mann"_qs, optFrau, u"optFrau"_qs, u"Frau"_qs);
+    chkJBeitrag = addCheckBox(u"chkJBeitrag"_qs, u"Jahresbeitrag:"_qs);
+    addOptions(chkJBeitrag, optBezahlt, u"optBezahlt"_qs, u"bezahlt"_qs, optNBezahlt, u"optNBezahlt"_qs,
+               u"n. bezahlt"_qs);
+    chkStatus = addCheckBox(u"chkStatus"_qs, u"Status:"_qs);
+    addOptions(chkStatus, optAktiv, u"optAktiv"_qs, u"aktiv"_qs, optPassiv, u"optPassiv"_qs, u"passiv"_qs);
+    chkBefreit = addCheckBox(u"chkBefreit"_qs, u"Befreit [Arb-Std.]:"_qs);
+    addOptions(chkBefreit, optBefrJa, u"optBefrJa"_qs, u"ja"_qs, optBefrNein, u"optBefrNein"_qs, u"nein"_qs);
+    chkAusgMitgl = addCheckBox(u"chkAusgMitgl"_qs, u"ausgetr. Mitgl.:"_qs);
+    addOptions(chkAusgMitgl, optAusgJa, u"optAusgJa"_qs, u"ja"_qs, optAusgNein, u"optAusgNein"_qs,
+               u"nein"_qs);
+    chkJG = addCheckBox(u"chkJG"_qs, u"Jugendgruppe:"_qs);
+    addOptions(chkJG, optJGJa, u"optJGJa"_qs, u"ja"_qs, optJGNein, u"optJGNein"_qs, u"nein"_qs);
+    chkArbStd = addCheckBox(u"chkArbStd"_qs, u"Arb.-Std geleistet:"_qs);
+    addOptions(chkArbStd, optStdJa, u"optStdJa"_qs, u"ja"_qs, optStdNein, u"optStdNein"_qs, u"nein"_qs);
+    optStdNein->setChecked(true);
+}
+
+void MitglList::buildHours() {
+    chkArbAnz = addCheckBox(u"chkArbAnz"_qs, u"Arb.-Std. - Liste generieren für Arb.- Jahr:"_qs);
+    cboArbJahr =
+        new ComboBox(u"cboArbJahr"_qs, ComboBox::Order::AsAdded, ComboBox::Kind::DropDownList, Frame6);
+    cboArbJahr->setAccessibleName(u"Arbeitsjahr"_qs);
+    cboArbJahr->setEnabled(false);
+    constexpr int description = 255;
+    Label1 = Face::label(u"Label1"_qs, u"Listenbeschreibung: [wird auf Liste gedruckt]"_qs, this);
+    txtInfo = new TextBox(u"txtInfo"_qs, this);
+    txtInfo->setLimit(description);
+    txtInfo->setAccessibleName(Label1->text());
+    Label1->setBuddy(txtInfo);
+}
+
+void MitglList::layOutFilters() {
+    // A date filter takes four columns; the two options of another one stand below its halves. In the right
+    // half of the frame there are only options.
+    auto* form = new QGridLayout(Frame6);
+    form->setHorizontalSpacing(Face::gap);
+    form->setVerticalSpacing(4);
+    constexpr int right = 6;
+    const auto addDates = [form](int row, QCheckBox* box, const Bound& first, const Bound& second) {
+        form->addWidget(box, row, 0);
+        int column = 0;
+        for (QWidget* part : {static_cast<QWidget*>(first.comparison), static_cast<QWidget*>(first.day),
+                              static_cast<QWidget*>(second.comparison), static_cast<QWidget*>(second.day)})
+            form->addWidget(part, row, ++column);
+    };
+    const auto addLeft = [form](int row, QCheckBox* box, QRadioButton* first, QRadioButton* second) {
+        form->addWidget(box, row, 0);
+        form->addWidget(first, row, 1, 1, 2);
+        form->addWidget(second, row, 3, 1, 2);
+    };
+    const auto addRight = [form](int row, QCheckBox* box, QRadioButton* first, QRadioButton* second) {
+        form->addWidget(box, row, right);
+        form->addWidget(first, row, right + 1);
+        form->addWidget(second, row, right + 2);
+    };
+    addDates(0, chkGebDat, {cboOptGeb01, txtGeb01}, {cboOptGeb02, txtGeb02});
+    addDates(1, chkEintritt, {cboOptTritt01, txtTritt01}, {cboOptTritt02, txtTritt02});
+    addLeft(2, chkGeschl, optMann, optFrau);
+    addLeft(3, chkJBeitrag, optBezahlt, optNBezahlt);
+    addLeft(4, chkStatus, optAktiv, optPassiv);
+    addRight(0, chkBefreit, optBefrJa, optBefrNein);
+    addRight(1, chkAusgMitgl, optAusgJa, optAusgNein);
+    addRight(2, chkJG, optJGJa, optJGNein);
+    addRight(3, chkArbStd, optStdJa, optStdNein);
+    form->addWidget(hourLine(), 4, right, 1, 3);
+    form->setColumnMinimumWidth(right - 1, 2 * Face::gap);
+    for (const int column : {2, 4}) form->setColumnStretch(column, 1);
+    form->setColumnStretch(right + 2, 1);
+    Frame6->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+}
+
+QWidget* MitglList::hourLine() {
+    auto* line = new QWidget(Frame6);
+    auto* row = new QHBoxLayout(line);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(Face::gap);
+    row->addWidget(chkArbAnz);
+    row->addWidget(cboArbJahr);
+    row->addStretch();
+    return line;
+}
+
+void MitglList::buildGrid() {
+    tblMList = new DataTable(u"tblMList"_qs, this);
+    tblMList->setColumns({{u"Mitgl.-Nr"_qs, 72, true},
+                          {u"Nachname"_qs, 112},
+                          {u"Vorname"_qs, 104},
+                          {u"Straße"_qs, 144},
+                          {u"PLZ"_qs, 56},
+                          {u"Ort"_qs, 120},
+                          {u"Tel. [privat]"_qs, 112},
+                          {u"Geb.-Datum"_qs, 88},
+                          {u"Pfl.-Std."_qs, 96, true},
+                          {u"Gel. Arb-Std."_qs, 104, true},
+                          {u"Soll/Haben"_qs, 96, true}});
+    tblMList->setAccessibleName(u"Gefundene Mitglieder"_qs);
+    setHourView(false);
+    lblAnzDS = Face::label(u"lblAnzDS"_qs, u"Gefunden:"_qs, this);
+    lblGefDS = new ValueLabel(u"lblGefDS"_qs, this);
+    lblGefDS->setAccessibleName(lblAnzDS->text());
+    pb = new ProgressBar(u"pb"_qs, this);
+    pb->hide();
+}
+
+QWidget* MitglList::layOutFoot() {
+    auto* line = new QWidget(this);
+    auto* row = new QHBoxLayout(line);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(Face::gap);
+    row->addWidget(Label1);
+    row->addWidget(txtInfo, 1);
+    row->addWidget(pb);
+    row->addWidget(lblAnzDS);
+    row->addWidget(lblGefDS);
+    return line;
+}
+
+void MitglList::connectFilter(QCheckBox* box, std::size_t flag, const QVector<QWidget*>& controls) {
+    on(box, &QCheckBox::toggled, [this, flag, controls](bool ticked) {
+        for (QWidget* control : controls) control->setEnabled(ticked);
+        session().MListFilter[flag] = ticked;
+        tblMList->clearRows();
+    });
+}
+
+void MitglList::connectEvents() {
+    connectFilter(chkGebDat, 0, {cboOptGeb01, txtGeb01, cboOptGeb02, txtGeb02});
+    connectFilter(chkEintritt, 1, {cboOptTritt01, txtTritt01, cboOptTritt02, txtTritt02});
+    connectFilter(chkGeschl, 2, {optMann, optFrau});
+    connectFilter(chkJBeitrag, 3, {optBezahlt, optNBezahlt});
+    connectFilter(chkStatus, 4, {optAktiv, optPassiv});
+    connectFilter(chkBefreit, 5, {optBefrJa, optBefrNein});
+    connectFilter(chkAusgMitgl, 6, {optAusgJa, optAusgNein});
+    connectFilter(chkJG, 7, {optJGJa, optJGNein});
+    connectFilter(chkArbStd, 8, {optStdJa, optStdNein});
+    on(chkArbAnz, &QCheckBox::toggled, [this](bool ticked) {
+        tblMList->clearRows();
+        cboArbJahr->setEnabled(ticked);
+    });
+    on(Toolbar1, &Toolbar::ButtonClick, [this](const QString& key) { Toolbar1_ButtonClick(key); });
+    on(tblMList, &DataTable::OnGridCellDown, [this](int row, int) { tblMList_OnGridCellDown(row); });
+    on(tblMList, &DataTable::OnGridCellOpen, [this](int row, int) { tblMList_OnGridCellOpen(row); });
+    on(tblMList, &DataTable::OnGridCellMenu, [this] { tblMList_OnGridCellMenu(); });
+    modRun::connectGridFocus(tblMList);
+}

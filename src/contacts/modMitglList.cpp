@@ -1,0 +1,227 @@
+#include "modMitglList.h"
+
+#include "ComboBox.h"
+#include "Conversions.h"
+#include "DataTable.h"
+#include "ErrorTail.h"
+#include "Format.h"
+#include "MitglList.h"
+#include "MsgBox.h"
+#include "ProgressBar.h"
+#include "Recordset.h"
+#include "Screens.h"
+#include "Session.h"
+#include "System.h"
+#include "TextBox.h"
+#include "ValueLabel.h"
+#include "modArbeit.h"
+#include "modKontakt.h"
+#include "modRun.h"
+#include "modSystem.h"
+
+#include <QCheckBox>
+#include <QRadioButton>
+#include <array>
+
+namespace modMitglList {
+
+namespace {
+
+using Bound = MitglList::Bound;
+using Zeile = std::array<Value, 11>;
+
+QString zweiStellen(const Value& number) { return Format(number, u"###0.00"_qs); }
+
+Recordset oeffne(const QString& what) {
+    const QString sql = u"SELECT "_qs + what + u" FROM Kontakt k, Mitglied m WHERE k.KNr = m.KNr"_qs;
+    return session().AktDatenbank.OpenRecordset(ErstelleFilter(sql), dbOpenDynaset);
+}
+
+/// What the parameters' grid says at this moment.
+Value pflichtStunden() {
+    const DataTable& grid = *screen<System>().tblSystem;
+    int row = 0;
+    return grid.cell(grid.find(0, row, modSystem::labelPflichtStd()), 1);
+}
+
+/// What is the same for all rows of a run.
+struct Lauf {
+    MitglList& form;
+    qint32 jahr = 0;
+    QString pfl{};
+    bool vergleicht = form.chkArbStd->isChecked(); ///< only those above, or those below, the hours owed
+    bool geleistet = form.optStdJa->isChecked();
+    bool rechnet = vergleicht || form.chkArbAnz->isChecked();
+};
+
+void meldeNichts(MitglList& form) {
+    form.lblGefDS->setCaption(u"0"_qs);
+    MsgBox(u"Keine passenden Einträge gefunden !"_qs, vbInformation);
+    form.setHourglass(false);
+}
+
+void lesePerson(ErrorTail& step, const std::vector<Field>& felder, Zeile& zeile) {
+    // A cell that cannot be read costs that cell, not the row.
+    for (std::size_t i = 0; i < felder.size(); ++i) step([&] { zeile[i] = felder[i].Value(); });
+    constexpr std::size_t geburtstag = 7;
+    if (zeile[geburtstag] == Value(Date{})) zeile[geburtstag] = QString();
+}
+
+void rechneStunden(ErrorTail& step, const Lauf& lauf, Zeile& zeile) {
+    if (!lauf.rechnet) {
+        zeile[8] = zeile[9] = zeile[10] = zweiStellen(u"0");
+        return;
+    }
+    zeile[8] = lauf.pfl;
+    step([&] { zeile[9] = zweiStellen(modArbeit::ErmittleStunden(CLng(zeile[0]), lauf.jahr)); });
+    step([&] { zeile[10] = zweiStellen(modArbeit::BerechneSaldo(CDbl(zeile[9]), CDbl(zeile[8]))); });
+}
+
+/// Compares what the row shows. Exactly the hours owed belong to both answers.
+bool gehoertDazu(const Lauf& lauf, const Zeile& zeile) {
+    if (!lauf.vergleicht) return true;
+    const double pflicht = CDbl(pflichtStunden());
+    const double stunden = CDbl(zeile[9]);
+    return lauf.geleistet ? pflicht <= stunden : stunden <= pflicht;
+}
+
+void fuelleListe(ErrorTail& step, Recordset& liste, const Lauf& lauf) {
+    MitglList& form = lauf.form;
+    std::vector<Field> felder;
+    qint64 gelesen = 0;
+    if (form.chkArbAnz->isChecked()) form.setHourView(true);
+    if (!lauf.vergleicht) {
+        form.tblMList->clearRows();
+        form.pb->show();
+    }
+    step([&] { liste.MoveFirst(); });
+    step([&] { felder = liste.Fields(); });
+    while (step.test([&] { return !liste.Eof(); })) {
+        Zeile zeile;
+        lesePerson(step, felder, zeile);
+        rechneStunden(step, lauf, zeile);
+        if (step.test([&] { return gehoertDazu(lauf, zeile); }))
+            step([&] { form.tblMList->appendRow(zeile); });
+        if (!lauf.vergleicht) form.pb->setProgress(++gelesen);
+        step([&] { liste.MoveNext(); });
+    }
+    form.pb->hide();
+}
+
+} // namespace
+
+void LadeAuswahl() {
+    withErrorTail(u"modMitglList"_qs, u"LadeAuswahl"_qs, [](ErrorTail& step) {
+        MitglList& form = screen<MitglList>();
+        form.setHourglass(true);
+        Recordset liste, anzahl;
+        step([&] {
+            liste = oeffne(u"k.KNr, k.Nachname, k.Vorname, k.Strasse, k.PLZ, k.Ort, k.Tel1, k.GebDatum"_qs);
+        });
+        step([&] { anzahl = oeffne(u"COUNT(k.KNr)"_qs); });
+        const auto wert = [&] { return anzahl.Collect(u"Expr1000"_qs); };
+        if (step.test([&] { return wert().isNull() || CLng(wert()) == 0; })) return meldeNichts(form);
+        qint32 gefunden = 0;
+        step([&] { gefunden = CLng(wert()); });
+        form.lblGefDS->setCaption(QString::number(gefunden));
+        form.pb->setMax(gefunden);
+        Lauf lauf{form};
+        step([&] { lauf.jahr = CLng(form.cboArbJahr->Text()); });
+        step([&] { lauf.pfl = zweiStellen(pflichtStunden()); });
+        fuelleListe(step, liste, lauf);
+        form.lblGefDS->setCaption(QString::number(form.tblMList->rowCount()));
+        form.setHourglass(false);
+        for (Recordset* offen : {&liste, &anzahl}) step([&] { offen->Close(); });
+    });
+}
+
+namespace {
+
+QString wahrheit(const QRadioButton* option) {
+    return modRun::WertAusOption(option) ? u"True"_qs : u"False"_qs;
+}
+
+QString vergleich(const QString& field, const Bound& bound) {
+    const QString day = Format(bound.day->Text(), u"\\#m\\/d\\/yyyy\\#"_qs);
+    return u" AND "_qs + field + u' ' + bound.comparison->Text() + u' ' + day;
+}
+
+bool istDatumOderLeer(const TextBox* box) { return box->Text().isEmpty() || IsDate(box->Text()); }
+
+/// Both halves filled, or the first one alone.
+bool datumsfilterGueltig(const QCheckBox* box, const Bound& first, const Bound& second) {
+    if (!box->isChecked()) return true;
+    const auto empty = [](const Bound& bound) {
+        return bound.comparison->Text().isEmpty() && bound.day->Text().isEmpty();
+    };
+    const auto filled = [](const Bound& bound) {
+        return !bound.comparison->Text().isEmpty() && !bound.day->Text().isEmpty();
+    };
+    return filled(first) && (filled(second) || empty(second));
+}
+
+} // namespace
+
+QString ErstelleFilter(const QString& sql) {
+    const MitglList& form = screen<MitglList>();
+    const auto& ticked = session().MListFilter;
+    const QString status = form.optAktiv->isChecked() ? u"Mitglieder (aktiv)"_qs : u"Mitglieder (passiv)"_qs;
+    const qint32 kategoNr = modKontakt::ErmittleKategoNr(status);
+    QString filter = sql;
+    if (ticked[0])
+        filter += vergleich(u"k.GebDatum"_qs, {form.cboOptGeb01, form.txtGeb01}) +
+                  vergleich(u"k.GebDatum"_qs, {form.cboOptGeb02, form.txtGeb02});
+    if (ticked[1])
+        filter += vergleich(u"m.Eintritt"_qs, {form.cboOptTritt01, form.txtTritt01}) +
+                  vergleich(u"m.Eintritt"_qs, {form.cboOptTritt02, form.txtTritt02});
+    if (ticked[2]) filter += u" AND m.Geschlecht = "_qs + wahrheit(form.optMann);
+    if (ticked[3]) filter += u" AND m.Bezahlt = "_qs + wahrheit(form.optBezahlt);
+    if (ticked[4]) filter += u" AND k.KategoNr = "_qs + QString::number(kategoNr);
+    if (ticked[5]) filter += u" AND m.Befreit = "_qs + wahrheit(form.optBefrJa);
+    // Who has not left has the empty date.
+    if (ticked[6])
+        filter += form.optAusgJa->isChecked() ? u" AND m.Austritt <> 0"_qs : u" AND m.Austritt = 0"_qs;
+    if (ticked[7]) filter += u" AND m.JG = "_qs + wahrheit(form.optJGJa);
+    return filter;
+}
+
+bool PruefeMListEingabe() {
+    const MitglList& form = screen<MitglList>();
+    return istDatumOderLeer(form.txtGeb01) && istDatumOderLeer(form.txtGeb02) &&
+           istDatumOderLeer(form.txtTritt01) && istDatumOderLeer(form.txtTritt02) &&
+           datumsfilterGueltig(form.chkGebDat, {form.cboOptGeb01, form.txtGeb01},
+                               {form.cboOptGeb02, form.txtGeb02}) &&
+           datumsfilterGueltig(form.chkEintritt, {form.cboOptTritt01, form.txtTritt01},
+                               {form.cboOptTritt02, form.txtTritt02});
+}
+
+void LeereMListAnzeige() {
+    MitglList& form = screen<MitglList>();
+    // A check box that goes off disables what belongs to it and clears its flag.
+    for (QCheckBox* box : {form.chkGebDat, form.chkEintritt, form.chkGeschl, form.chkJBeitrag, form.chkStatus,
+                           form.chkBefreit, form.chkAusgMitgl, form.chkJG, form.chkArbStd, form.chkArbAnz})
+        box->setChecked(false);
+    for (QRadioButton* option : {form.optMann, form.optBezahlt, form.optAktiv, form.optBefrJa, form.optAusgJa,
+                                 form.optJGJa, form.optStdNein})
+        option->setChecked(true);
+    for (const Bound& bound :
+         {Bound{form.cboOptGeb01, form.txtGeb01}, Bound{form.cboOptGeb02, form.txtGeb02},
+          Bound{form.cboOptTritt01, form.txtTritt01}, Bound{form.cboOptTritt02, form.txtTritt02}}) {
+        bound.comparison->setListIndex(-1);
+        bound.day->setText(QString());
+    }
+    form.tblMList->clearRows();
+    form.lblGefDS->setCaption(QString());
+    form.txtInfo->setText(QString());
+    form.setHourView(false);
+}
+
+void zeigeKontakt(int row) {
+    modKontakt::SetzeKontaktToolbar(0);
+    modKontakt::loadKontakt(screen<MitglList>().tblMList, row, 0);
+    modKontakt::SetzeKontaktToolbar(1);
+}
+
+void mnuMitglInfo_Click() { zeigeKontakt(session().AktZeile); }
+
+} // namespace modMitglList

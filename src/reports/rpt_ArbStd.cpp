@@ -1,0 +1,35 @@
+#include "Berichte.h"
+#include "Briefkopf.h"
+#include "Session.h"
+
+namespace {
+
+constexpr int descriptionLines = 5; // for the 255 letters that the screen takes
+
+std::shared_ptr<Report> makeArbStd() {
+    using Align = ReportControl::Align;
+    auto report = std::make_shared<Report>(u"Arbeitsliste [ Übersicht ]"_qs);
+    Briefkopf face(*report);
+    face.addTitle(u"Label8"_qs, u"Arbeitsliste [ Übersicht ]"_qs);
+    face.addColumns({{u"Label1"_qs, u"M-Nr:"_qs, u"Text1"_qs, 16, Align::Right},
+                     {u"Label2"_qs, u"Nachname"_qs, u"Text2"_qs, 50},
+                     {u"Label3"_qs, u"Vorname:"_qs, u"Text3"_qs, 44},
+                     {u"Label4"_qs, u"Pfl.-Std:"_qs, u"Text4"_qs, 24, Align::Right, u"#.##0,00"_qs},
+                     {u"Label5"_qs, u"Gel.-Std:"_qs, u"Text5"_qs, 24, Align::Right, u"#.##0,00"_qs},
+                     {u"Label6"_qs, u"Soll/Haben:"_qs, u"Text6"_qs, 28, Align::Right, u"0,00"_qs}});
+    face.addSummary(u"Label16"_qs, u"Anzahl der Mitglieder     :"_qs, u"lblGefDS"_qs);
+    face.addSummaryText(u"Label17"_qs, u"Listenbeschreibung:"_qs, u"lblInfo"_qs, descriptionLines);
+    return report;
+}
+
+} // namespace
+
+namespace Berichte {
+
+Report& rpt_ArbStd() {
+    auto& report = session().Berichte[u"rpt_ArbStd"_qs];
+    if (!report) report = makeArbStd();
+    return *report;
+}
+
+} // namespace Berichte
