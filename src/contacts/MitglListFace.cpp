@@ -174,6 +174,9 @@ void MitglList::layOutFilters() {
     form->addWidget(hourLine(), 4, right, 1, 3);
     form->setColumnMinimumWidth(right - 1, 2 * Face::gap);
     for (const int column : {2, 4}) form->setColumnStretch(column, 1);
+    // Options are lower than lists and would make uneven lines.
+    for (int row = 0; row < form->rowCount(); ++row)
+        form->setRowMinimumHeight(row, cboArbJahr->sizeHint().height());
     form->setColumnStretch(right + 2, 1);
     Frame6->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
 }
@@ -192,13 +195,13 @@ QWidget* MitglList::hourLine() {
 void MitglList::buildGrid() {
     tblMList = new DataTable(u"tblMList"_qs, this);
     tblMList->setColumns({{u"Mitgl.-Nr"_qs, 72, true},
-                          {u"Nachname"_qs, 112},
-                          {u"Vorname"_qs, 104},
-                          {u"Straße"_qs, 144},
-                          {u"PLZ"_qs, 56},
-                          {u"Ort"_qs, 120},
-                          {u"Tel. [privat]"_qs, 112},
-                          {u"Geb.-Datum"_qs, 88},
+                          {u"Nachname"_qs, 104},
+                          {u"Vorname"_qs, 96},
+                          {u"Straße"_qs, 140},
+                          {u"PLZ"_qs, 52},
+                          {u"Ort"_qs, 104},
+                          {u"Tel. [privat]"_qs, 116},
+                          {u"Geb.-Datum"_qs, 96},
                           {u"Pfl.-Std."_qs, 96, true},
                           {u"Gel. Arb-Std."_qs, 104, true},
                           {u"Soll/Haben"_qs, 96, true}});
@@ -218,6 +221,8 @@ QWidget* MitglList::layOutFoot() {
     row->setSpacing(Face::gap);
     row->addWidget(Label1);
     row->addWidget(txtInfo, 1);
+    constexpr int progressWidth = 160;
+    pb->setMaximumWidth(progressWidth);
     row->addWidget(pb);
     row->addWidget(lblAnzDS);
     row->addWidget(lblGefDS);

@@ -44,7 +44,10 @@ Briefkopf::Briefkopf(Report& report)
     : m_head(report.section(u"Section2"_qs))
     , m_detail(report.section(u"Section1"_qs))
     , m_foot(report.section(u"Section3"_qs))
-    , m_summary(report.section(u"Section5"_qs)) {
+    , m_summary(report.section(u"Section5"_qs))
+    , m_tablePoints(bodyPoints)
+    , m_cellPadding(cellPadding)
+    , m_rowHeight(rowHeight) {
     addAddress();
     addFooter();
 }
@@ -85,8 +88,9 @@ void Briefkopf::addFooter() {
         .withPageNumbers();
 }
 
-void Briefkopf::addTitle(const QString& label, const QString& title) {
-    m_head.addLabel(label, title, {titleLeft, 0, breadth - titleLeft, 90}).points(20).bold().ink(clubBlue);
+ReportControl& Briefkopf::addTitle(const QString& label, const QString& title) {
+    const QRect place(titleLeft, 0, breadth - titleLeft, 90);
+    return m_head.addLabel(label, title, place).points(20).bold().ink(clubBlue);
 }
 
 void Briefkopf::addLongTitle(const QString& label, const QString& title) {
@@ -104,33 +108,39 @@ void Briefkopf::addSetting(const QString& label, const QString& caption, const Q
     m_head.addLabel(value, {}, {left, top, breadth - left, addressLine}).points(bodyPoints);
 }
 
+void Briefkopf::setDense() {
+    m_tablePoints = 8;
+    m_cellPadding = 11;
+    m_rowHeight = 47;
+}
+
 void Briefkopf::addColumns(std::initializer_list<ReportColumn> columns) {
     int whole = 0;
     for (const ReportColumn& column : columns) whole += column.breadth;
     if (whole <= 0) return; // no column, no table
     m_head.setHeight(headTop + headHeight);
-    m_detail.setHeight(rowHeight);
+    m_detail.setHeight(m_rowHeight);
     m_head.addShape(u"Shape1"_qs, {0, headTop, breadth, headHeight}).ground(paleBlue).ink(clubBlue);
     int passed = 0;
     for (const ReportColumn& column : columns) {
-        const int left = breadth * passed / whole + cellPadding;
+        const int left = breadth * passed / whole + m_cellPadding;
         passed += column.breadth;
-        const int width = breadth * passed / whole - cellPadding - left;
+        const int width = breadth * passed / whole - m_cellPadding - left;
         addColumn(column, left, width);
     }
-    m_detail.addLine(u"Line1"_qs, {sideRule, rowHeight, breadth - 2 * sideRule, 0}).ink(faint).breadth(1);
-    m_detail.addLine(u"Line2"_qs, {0, 0, 0, rowHeight}).ink(clubBlue);
-    m_detail.addLine(u"Line3"_qs, {breadth, 0, 0, rowHeight}).ink(clubBlue);
+    m_detail.addLine(u"Line1"_qs, {sideRule, m_rowHeight, breadth - 2 * sideRule, 0}).ink(faint).breadth(1);
+    m_detail.addLine(u"Line2"_qs, {0, 0, 0, m_rowHeight}).ink(clubBlue);
+    m_detail.addLine(u"Line3"_qs, {breadth, 0, 0, m_rowHeight}).ink(clubBlue);
 }
 
 void Briefkopf::addColumn(const ReportColumn& column, int left, int width) {
     m_head.addLabel(column.label, column.head, {left, headTop, width, headHeight})
-        .points(bodyPoints)
+        .points(m_tablePoints)
         .bold()
         .ink(clubBlue)
         .align(column.align);
-    m_detail.addText(column.text, {left, 0, width, rowHeight})
-        .points(bodyPoints)
+    m_detail.addText(column.text, {left, 0, width, m_rowHeight})
+        .points(m_tablePoints)
         .align(column.align)
         .format(column.format);
 }

@@ -22,10 +22,13 @@ public:
     /// Letterhead (Label10 to Label13 and Label15 with their values) and page footer (Label9).
     explicit Briefkopf(Report& report);
 
-    /// The title beside the address, and below it, line by line (up to four), what the list was made for.
-    void addTitle(const QString& label, const QString& title);
+    /// The title beside the address, and below it, line by line (up to four), what the list was made for. A
+    /// long title needs smaller letters than the 20 points it gets.
+    ReportControl& addTitle(const QString& label, const QString& title);
     void addSetting(const QString& label, const QString& caption, const QString& value);
 
+    /// Smaller letters and less air in the table, where there are many columns. To be called before them.
+    void setDense();
     /// The column heads on the frame Shape1, the texts, and the rules Line1 (below each row), Line2 and Line3
     /// (at the table's sides).
     void addColumns(std::initializer_list<ReportColumn> columns);
@@ -64,4 +67,7 @@ private:
     ReportSection& m_foot;
     ReportSection& m_summary;
     int m_settings = 0;
+    double m_tablePoints;
+    int m_cellPadding;
+    int m_rowHeight;
 };
