@@ -22,7 +22,7 @@
 
 void MitglList::Form_Load() {
     modArbeit::loadcboArbJahre(cboArbJahr);
-    cboArbJahr->setText(QString::number(session().AktJahr));
+    cboArbJahr->setListIndex(cboArbJahr->findText(QString::number(session().AktJahr)));
 }
 
 void MitglList::Form_Activate() {

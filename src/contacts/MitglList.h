@@ -86,6 +86,7 @@ private:
     void buildChoices();
     void buildHours();
     void buildGrid();
+    void buildFoot();
     void layOutFilters();
     QWidget* hourLine();
     QWidget* layOutFoot();

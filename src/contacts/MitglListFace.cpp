@@ -26,6 +26,7 @@ MitglList::MitglList()
     buildChoices();
     buildHours();
     buildGrid();
+    buildFoot();
     layOutFilters();
     QVBoxLayout* rest = Face::column(this, Ueberschrift, Toolbar1);
     rest->addWidget(Frame6);
@@ -130,12 +131,6 @@ void MitglList::buildHours() {
         new ComboBox(u"cboArbJahr"_qs, ComboBox::Order::AsAdded, ComboBox::Kind::DropDownList, Frame6);
     cboArbJahr->setAccessibleName(u"Arbeitsjahr"_qs);
     cboArbJahr->setEnabled(false);
-    constexpr int description = 255;
-    Label1 = Face::label(u"Label1"_qs, u"Listenbeschreibung: [wird auf Liste gedruckt]"_qs, this);
-    txtInfo = new TextBox(u"txtInfo"_qs, this);
-    txtInfo->setLimit(description);
-    txtInfo->setAccessibleName(Label1->text());
-    Label1->setBuddy(txtInfo);
 }
 
 void MitglList::layOutFilters() {
@@ -207,9 +202,18 @@ void MitglList::buildGrid() {
                           {u"Soll/Haben"_qs, 96, true}});
     tblMList->setAccessibleName(u"Gefundene Mitglieder"_qs);
     setHourView(false);
+}
+
+void MitglList::buildFoot() {
     lblAnzDS = Face::label(u"lblAnzDS"_qs, u"Gefunden:"_qs, this);
     lblGefDS = new ValueLabel(u"lblGefDS"_qs, this);
     lblGefDS->setAccessibleName(lblAnzDS->text());
+    constexpr int description = 255;
+    Label1 = Face::label(u"Label1"_qs, u"Listenbeschreibung: [wird auf Liste gedruckt]"_qs, this);
+    txtInfo = new TextBox(u"txtInfo"_qs, this);
+    txtInfo->setLimit(description);
+    txtInfo->setAccessibleName(Label1->text());
+    Label1->setBuddy(txtInfo);
     pb = new ProgressBar(u"pb"_qs, this);
     pb->hide();
 }

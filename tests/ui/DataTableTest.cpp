@@ -83,8 +83,12 @@ TEST_F(DataTableTest, ColumnsKeepTheirNumbersHideAtWidthZeroAndFillTheRoom) {
     EXPECT_EQ(m_grid.columnViewportPosition(3) + m_grid.columnWidth(3), m_grid.viewport()->width());
     m_grid.setColumnWidth(1, 5);
     EXPECT_EQ(m_grid.columnWidth(1), 24);
-    m_grid.setColumnHidden(3, true);
+    m_grid.setColumnShown(3, false);
     EXPECT_EQ(m_grid.columnViewportPosition(1) + m_grid.columnWidth(1), m_grid.viewport()->width());
+    m_grid.setColumnShown(3, true);
+    EXPECT_EQ(m_grid.rowCount(), 1);
+    EXPECT_EQ(m_grid.columnWidth(1), 24);
+    EXPECT_EQ(m_grid.columnViewportPosition(3) + m_grid.columnWidth(3), m_grid.viewport()->width());
     m_grid.setColumns({{u"Anders"_qs, 70}, {u"Zwei"_qs, 70}});
     EXPECT_EQ(m_grid.visibleHeads(), (QVector<QString>{u"Anders"_qs, u"Zwei"_qs}));
     EXPECT_EQ(m_grid.header()->visualIndex(0), 1);
