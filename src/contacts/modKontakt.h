@@ -51,6 +51,9 @@ void KategorieAufklappen(int row, qint32 kategonr);
 
 // The search.
 
+/// Sets the annual fee of all members to unpaid.
+void ReinitialisiereJB();
+
 /// Empties the search before it is shown.
 void SuchAnzeigeLoeschen();
 /// Fills the search's grid with the contacts whose first name, last name or firm begins with the word;

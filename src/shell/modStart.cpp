@@ -198,8 +198,6 @@ void SetzeDatumsVariablen() {
     session().AktMonatNr = static_cast<qint16>(date.month());
 }
 
-bool KontrolliereSystemJahr() { return true; }
-
 void LadeStammdaten() {
     session().TabelleLaedt = true;
     modBasis::loadTblFBasis();

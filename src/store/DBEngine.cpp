@@ -3,10 +3,29 @@
 #include "Compaction.h"
 #include "Connection.h"
 
+Workspace::Workspace()
+    : m_opened(std::make_shared<std::weak_ptr<Connection>>()) {}
+
 Database Workspace::OpenDatabase(const QString& path, bool, bool readOnly, const QString& connect) {
     const auto access = readOnly ? Connection::Access::ReadOnly : Connection::Access::ReadWrite;
-    return Database(std::make_shared<Connection>(path, passwordOf(connect), access));
+    const auto connection = std::make_shared<Connection>(path, passwordOf(connect), access);
+    *m_opened = connection;
+    return Database(connection);
 }
+
+/// The connection lives as long as a database or a cursor of it does, so a reference to it is good for a
+/// call.
+Connection& Workspace::opened() const {
+    const auto connection = m_opened->lock();
+    if (connection == nullptr || !connection->isOpen()) throw runtimeError(91);
+    return *connection;
+}
+
+void Workspace::BeginTrans() { opened().transaction().begin(); }
+
+void Workspace::CommitTrans() { opened().transaction().commit(); }
+
+void Workspace::Rollback() { opened().transaction().rollback(); }
 
 Workspace DBEngine::Workspaces(int index) {
     if (index != 0) throw runtimeError(9);

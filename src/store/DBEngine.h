@@ -2,14 +2,29 @@
 
 #include "Database.h"
 
-/// The workspace: the place from which databases are opened.
+/// The workspace: the place from which databases are opened. A value with shared state.
 class Workspace {
 public:
+    Workspace();
+
     /// Opens a file for shared reading and writing. `connect` carries the password as ";pwd=...".
     /// Errors: 3024 there is no such file; 3031 the password does not open a file that has the shape of one
     /// of ours; 3343 the file is empty, cut short or otherwise damaged; 3045 another process holds it; 3051
     /// it may not be read.
     Database OpenDatabase(const QString& path, bool options, bool readOnly, const QString& connect);
+
+    // An action of more than one routine, in the database that was opened last: what is written between
+    // BeginTrans and CommitTrans is in the file as a whole or not at all, even if cursors are closed in
+    // between. Error 91 without an open database, 3034 without a BeginTrans.
+    void BeginTrans(); ///< 3260 while another process writes; 3251 within another one
+    /// Throws what kept it from the disk, in which case all is taken back. A cursor that has written and is
+    /// still open puts it off until its end.
+    void CommitTrans();
+    void Rollback();
+
+private:
+    Connection& opened() const;
+    std::shared_ptr<std::weak_ptr<Connection>> m_opened;
 };
 
 /// The store's entry point.

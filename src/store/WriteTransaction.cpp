@@ -5,6 +5,16 @@
 
 #include <utility>
 
+namespace {
+
+RuntimeError noneBegun() {
+    return {3034,
+            QStringLiteral("Es wurde versucht, eine Transaktion zu bestätigen oder rückgängig zu machen, "
+                           "ohne dass eine begonnen wurde.")};
+}
+
+} // namespace
+
 void WriteTransaction::join() {
     requireIntact();
     if (m_writers == 0) execute("BEGIN IMMEDIATE");
@@ -13,13 +23,38 @@ void WriteTransaction::join() {
 
 void WriteTransaction::leave() {
     if (--m_writers > 0) return;
-    if (const auto lost = std::exchange(m_lost, std::nullopt)) throw *lost;
+    const auto lost = std::exchange(m_lost, std::nullopt);
+    if (std::exchange(m_isUndone, false)) return;
+    if (lost) throw *lost;
     try {
         execute("COMMIT");
     } catch (const RuntimeError&) {
         if (isOpen()) execute("ROLLBACK");
         throw;
     }
+}
+
+void WriteTransaction::begin() {
+    if (m_isHeld) throw RuntimeError{3251, QStringLiteral("Es ist schon eine Transaktion begonnen.")};
+    join();
+    m_isHeld = true;
+}
+
+void WriteTransaction::endHold() {
+    if (!std::exchange(m_isHeld, false)) throw noneBegun();
+}
+
+void WriteTransaction::commit() {
+    endHold();
+    leave();
+}
+
+void WriteTransaction::rollback() {
+    endHold();
+    m_lost = noneBegun();
+    m_isUndone = true;
+    leave();
+    if (isOpen()) execute("ROLLBACK");
 }
 
 void WriteTransaction::noteFailure(const RuntimeError& cause) {

@@ -22,6 +22,12 @@ public:
     /// To be told of each failed write: the library may have taken back all writes of the action, which must
     /// then not go on as if nothing were missing.
     void noteFailure(const RuntimeError& cause);
+    /// Holds the action open whatever cursors are closed, until commit or rollback. There is one level of it:
+    /// error 3251 within another one, 3034 where none was begun.
+    void begin();
+    void commit();
+    /// Cursors that have written write no more, and show what is stored.
+    void rollback();
     /// Throws that cause again once it has happened.
     void requireIntact() const;
     /// False once it has happened, until the last of the action's cursors is closed.
@@ -30,8 +36,11 @@ public:
 private:
     void execute(const QByteArray& sql);
     bool isOpen() const;
+    void endHold();
 
     sqlite3* m_database;
-    int m_writers = 0;
+    int m_writers = 0;     ///< with the hold of begin
+    bool m_isHeld = false; ///< by begin
+    bool m_isUndone = false;
     std::optional<RuntimeError> m_lost;
 };

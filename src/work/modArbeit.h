@@ -14,6 +14,12 @@ bool ArbeitsZugriff_Erlaubt();
 double ErmittleStunden(qint32 knr, qint32 jahr);
 /// Hours worked less hours owed, rounded to two decimals as they are shown.
 double BerechneSaldo(double gearbeitet, double pflicht);
+
+/// Writes a row with last year's balance for every member who is not exempt, into the current year.
+void UebernehmeStunden(qint32 altesJahr);
+/// Removes the bookings of the first of January of a year that the clock has left backwards.
+void Ueberpruefe_auf_Uebertrag(qint32 altesJahr);
+
 /// Fills a combo with the years that have bookings and the current one.
 void loadcboArbJahre(ComboBox* combo);
 

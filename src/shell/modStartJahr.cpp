@@ -1,0 +1,101 @@
+#include "Conversions.h"
+#include "ErrorTail.h"
+#include "MsgBox.h"
+#include "Session.h"
+#include "Transaction.h"
+#include "modArbeit.h"
+#include "modKontakt.h"
+#include "modStart.h"
+
+#include <QStringList>
+#include <optional>
+
+// The change of the fishing year.
+
+namespace modStart {
+
+namespace {
+
+int frageNachSystemjahr() {
+    constexpr int blanks = 66;
+    const QStringList lines = {
+        u"WICHTIG: Akt. Systemjahr hat sich geändert ! Akt. Systemjahr = %1"_qs.arg(session().AktJahr),
+        u"Soll das Systemjahr als Fangjahr in die Systemparameter von Uferwart übernommen werden ?"_qs,
+        u"Wenn Sie die Frage mit NEIN beantworten, wird Uferwart beendet. "_qs,
+        QString(blanks, u' '),
+        u"Wollen Sie das Systemjahr als Fangjahr übernehmen?"_qs,
+    };
+    return session().MsgAntwort = MsgBox(lines.join(u"\n\r"_qs), vbYesNo);
+}
+
+void schalteVor(qint32 altesJahr) {
+    session().MsgAntwort = MsgBox(u"ACHTUNG: Mehrleistungen der Arb.-Std ins neue Fangjahr übernehmen !"_qs,
+                                  vbYesNo, u"Uferwart [Arbeitscontrolling]"_qs);
+    if (session().MsgAntwort == vbNo)
+        MsgBox(u"Mehrleistungs - Übernahme durch User verhindert !"_qs, vbInformation);
+    else
+        modArbeit::UebernehmeStunden(altesJahr);
+    MsgBox(u"ACHTUNG: Jahresbeitragsflags der Mitglieder werden auf - nicht bezahlt - gesetzt !"_qs,
+           vbInformation);
+    modKontakt::ReinitialisiereJB();
+}
+
+void schalteZurueck(qint32 altesJahr) {
+    MsgBox(
+        u"ACHTUNG: Mehrleistung der Arb.Std. ins neue Jahr kann nicht übernommen werden, da akt. Jahr\r\n"_qs
+        u" kleiner ist als altes Fangjahr. Bitte überprüfen Sie ihre Systemzeit !"_qs,
+        vbCritical);
+    modArbeit::Ueberpruefe_auf_Uebertrag(altesJahr);
+}
+
+/// True if the new year stands in the record.
+bool schreibeJahr(ErrorTail& step, Recordset& system) {
+    bool written = false;
+    step([&] { system.Edit(); });
+    step([&] { system.Collect(u"FJahr"_qs, qint32(session().AktJahr)); });
+    step([&] {
+        system.Update();
+        written = true;
+    });
+    return written;
+}
+
+/// The year that the record has been changed from; nothing if it could not be changed. The rest of the change
+/// is then left for the next start, which asks again: done now, it would be done twice.
+std::optional<qint32> uebernehmeJahr(ErrorTail& step, Recordset& system, std::optional<Transaction>& change) {
+    qint32 altesJahr = 0;
+    step([&] { altesJahr = CLng(system.Collect(u"FJahr"_qs)); });
+    step([&] { change.emplace(session().AktWorkspace); });
+    if (!change || !schreibeJahr(step, system)) return std::nullopt;
+    return altesJahr;
+}
+
+/// What belongs to a year is written together or, when the program is ended in the middle, not at all.
+void wechsleJahr(ErrorTail& step, Recordset& system, bool& result) {
+    std::optional<Transaction> change;
+    const std::optional<qint32> altesJahr = uebernehmeJahr(step, system, change);
+    result = true;
+    if (altesJahr && *altesJahr < session().AktJahr) schalteVor(*altesJahr);
+    if (altesJahr && *altesJahr >= session().AktJahr) schalteZurueck(*altesJahr);
+    step([&] { system.Close(); });
+    if (change && !session().Beendet) step([&] { change->commit(); });
+}
+
+} // namespace
+
+bool KontrolliereSystemJahr() {
+    bool result = false;
+    withErrorTail(u"modStart"_qs, u"KontrolliereSystemJahr"_qs, [&](ErrorTail& step) {
+        Recordset system;
+        qint16 fangjahr = 0;
+        step([&] { system = session().AktDatenbank.OpenRecordset(u"System"_qs, dbOpenTable); });
+        step([&] { fangjahr = CInt(system.Collect(u"FJahr"_qs)); });
+        if (fangjahr != session().AktJahr && frageNachSystemjahr() == vbYes)
+            return wechsleJahr(step, system, result);
+        result = fangjahr == session().AktJahr;
+        step([&] { system.Close(); });
+    });
+    return result;
+}
+
+} // namespace modStart

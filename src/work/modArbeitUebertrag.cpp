@@ -1,0 +1,141 @@
+#include "Conversions.h"
+#include "ErrorTail.h"
+#include "Format.h"
+#include "MsgBox.h"
+#include "Recordset.h"
+#include "Session.h"
+#include "modArbeit.h"
+
+// The carry-over of work hours at the change of the year.
+
+namespace modArbeit {
+
+namespace {
+
+const auto titel = u"Uferwart [Arbeitscontrolling]"_qs;
+
+Recordset oeffne(const QString& nameOrSelect, RecordsetType type) {
+    return session().AktDatenbank.OpenRecordset(nameOrSelect, type);
+}
+
+/// Every member who is not exempt, also one who has left.
+QString nichtBefreite(const QString& what) {
+    return u"SELECT %1 FROM Kontakt k, Mitglied m WHERE k.KNr = m.KNr AND m.Befreit = False"_qs.arg(what);
+}
+
+/// ErmittleStunden and BerechneSaldo count errors of their own; those of this run are counted on behind them,
+/// or a failure that comes with every member would never reach its fifth box.
+double ermittleUebertrag(qint32 knr, qint32 altesJahr, double pflicht) {
+    const qint16 fehler = session().FehlerZaehler;
+    const double geleistet = ErmittleStunden(knr, altesJahr);
+    const double saldo = BerechneSaldo(geleistet, pflicht);
+    session().FehlerZaehler = fehler;
+    return saldo;
+}
+
+QString notiz(double saldo, qint32 altesJahr) {
+    const QString art = saldo > 0 ? u"Mehrleistungsübertrag"_qs : u"Minderleistungsübertrag"_qs;
+    return art + u" aus Arbeitsjahr "_qs + QString::number(altesJahr);
+}
+
+void schreibeUebertrag(ErrorTail& step, Recordset& arbeit, qint32 knr, double saldo, qint32 altesJahr) {
+    const qint16 jahr = session().AktJahr;
+    step([&] { arbeit.AddNew(); });
+    step([&] { arbeit.Collect(u"knr"_qs, knr); });
+    step([&] { arbeit.Collect(u"jahr"_qs, qint32(jahr)); });
+    step([&] { arbeit.Collect(u"Datum"_qs, CDate(u"01.01.%1"_qs.arg(jahr))); });
+    step([&] { arbeit.Collect(u"ArbStd"_qs, saldo); });
+    step([&] { arbeit.Collect(u"Notiz"_qs, notiz(saldo, altesJahr)); });
+    step([&] { arbeit.Update(); });
+}
+
+bool istKeiner(const Recordset& anzahl) {
+    if (anzahl.RecordCount() != 1) return false;
+    const Value count = anzahl.Collect(u"Expr1000"_qs);
+    return count.isNull() || CLng(count) == 0;
+}
+
+void uebertrageAlle(ErrorTail& step, Recordset& mitglieder, Recordset& arbeit, double pflicht,
+                    qint32 altesJahr) {
+    // A walk that can't begin has no end either.
+    bool begun = false;
+    step([&] {
+        mitglieder.MoveFirst();
+        begun = true;
+    });
+    while (begun && step.test([&] { return !mitglieder.Eof(); })) {
+        qint32 knr = 0;
+        step([&] { knr = CLng(mitglieder.Collect(u"KNr"_qs)); });
+        const double saldo = ermittleUebertrag(knr, altesJahr, pflicht);
+        schreibeUebertrag(step, arbeit, knr, saldo, altesJahr);
+        step([&] { mitglieder.MoveNext(); });
+    }
+}
+
+void loesche(ErrorTail& step, const Recordset& treffer, Recordset& arbeit) {
+    step([&] { arbeit.Seek(u"="_qs, treffer.Collect(u"ArbNr"_qs)); });
+    if (step.test([&] { return !arbeit.NoMatch(); })) step([&] { arbeit.Delete(); });
+}
+
+void loescheAlle(ErrorTail& step, Recordset& treffer, Recordset& arbeit, qint32 altesJahr) {
+    MsgBox(u"ACHTUNG: Mehrere Übertragseintäge für das Datum 01.01.%1 gefunden !\n\r"_qs.arg(altesJahr) +
+               u"Es gehen daher alle Arb.-Einträge dieses Datums verloren !"_qs,
+           vbInformation, titel);
+    step([&] { arbeit.Index(u"PrimaryKey"_qs); });
+    while (step.test([&] { return !treffer.Eof(); })) {
+        loesche(step, treffer, arbeit);
+        step([&] { treffer.MoveNext(); });
+    }
+}
+
+void loescheTreffer(ErrorTail& step, Recordset& treffer, Recordset& arbeit, qint32 altesJahr) {
+    step([&] { treffer.MoveFirst(); });
+    step([&] { treffer.MoveLast(); });
+    step([&] { treffer.MoveFirst(); });
+    if (step.test([&] { return treffer.RecordCount() == 1; })) {
+        step([&] { arbeit.Index(u"PrimaryKey"_qs); });
+        loesche(step, treffer, arbeit);
+    } else {
+        loescheAlle(step, treffer, arbeit, altesJahr);
+    }
+}
+
+} // namespace
+
+void UebernehmeStunden(qint32 altesJahr) {
+    withErrorTail(u"modArbeit"_qs, u"UebernehmeStunden"_qs, [&](ErrorTail& step) {
+        Recordset mitglieder, anzahl, system, arbeit;
+        step([&] { mitglieder = oeffne(nichtBefreite(u"k.KNr"_qs), dbOpenDynaset); });
+        step([&] { anzahl = oeffne(nichtBefreite(u"COUNT(k.KNr)"_qs), dbOpenDynaset); });
+        step([&] { system = oeffne(u"System"_qs, dbOpenTable); });
+        step([&] { arbeit = oeffne(u"Arbeit"_qs, dbOpenTable); });
+        if (step.test([&] { return istKeiner(anzahl); })) {
+            MsgBox(u"Keine nicht befreiten Mitglieder vorhanden, daher wird der Vorgang abgebrochen"_qs,
+                   vbInformation);
+            return;
+        }
+        double pflicht = 0;
+        step([&] { pflicht = CDbl(system.Collect(u"PflichtStd"_qs)); });
+        uebertrageAlle(step, mitglieder, arbeit, pflicht, altesJahr);
+        MsgBox(u"Mehrleistungen u. Minderleistungen der Arbeitsstunden ins neue Fangjahr erfolgreich "_qs +
+                   u"beendet !"_qs,
+               vbInformation, titel);
+        for (Recordset* satz : {&mitglieder, &anzahl, &system, &arbeit}) step([&] { satz->Close(); });
+    });
+}
+
+void Ueberpruefe_auf_Uebertrag(qint32 altesJahr) {
+    withErrorTail(u"modArbeit"_qs, u"Ueberpruefe_auf_Uebertrag"_qs, [&](ErrorTail& step) {
+        QString datum;
+        Recordset treffer, arbeit;
+        step([&] { datum = Format(CDate(u"01.01.%1"_qs.arg(altesJahr)), u"\\#m\\/d\\/yyyy\\#"_qs); });
+        step([&] { treffer = oeffne(u"SELECT ArbNr FROM Arbeit WHERE Datum = "_qs + datum, dbOpenDynaset); });
+        step([&] { arbeit = oeffne(u"Arbeit"_qs, dbOpenTable); });
+        if (step.test([&] { return treffer.RecordCount() != 0; }))
+            loescheTreffer(step, treffer, arbeit, altesJahr);
+        step([&] { treffer.Close(); });
+        step([&] { arbeit.Close(); });
+    });
+}
+
+} // namespace modArbeit
