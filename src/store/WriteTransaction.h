@@ -26,7 +26,7 @@ public:
     /// error 3251 within another one, 3034 where none was begun.
     void begin();
     void commit();
-    /// Cursors that have written write no more, and show what is stored.
+    /// Cursors that have written and are still open write no more (3034).
     void rollback();
     /// Throws that cause again once it has happened.
     void requireIntact() const;

@@ -1,3 +1,4 @@
+#include "Transaction.h"
 #include "StoreFixture.h"
 
 #include <QFileInfo>
@@ -193,4 +194,59 @@ TEST_F(TransactionTest, WritesAndShowsNothingMoreOfAnActionThatAFullDiskHasUndon
     EXPECT_EQ(namesInFile(), unchanged);
     EXPECT_EQ(rowsInFile(u"SELECT COUNT(*) FROM Gewaesser"_qs), u"2");
     EXPECT_EQ(errorOf([&] { table(u"Gewaesser").Delete(); }), 0) << "the next action is a new one";
+}
+
+class HeldTransactionTest : public TransactionTest {
+protected:
+    Recordset fishOfAal() {
+        Recordset fish = held.OpenRecordset(u"Fisch"_qs, dbOpenTable);
+        rename(fish, u"Aal"_qs);
+        return fish;
+    }
+
+    Workspace workspace;
+    Database held = workspace.OpenDatabase(path(), false, false, connect());
+};
+
+TEST_F(HeldTransactionTest, BringsSeveralActionsToTheFileAtItsCommit) {
+    Transaction action(workspace);
+    fishOfAal().Close();
+    held.OpenRecordset(u"Gewaesser"_qs, dbOpenTable).Delete();
+    EXPECT_EQ(namesInFile(), unchanged);
+    action.commit();
+    EXPECT_EQ(namesInFile(), u"Aal;Zander;Äsche;Barsch");
+    EXPECT_EQ(rowsInFile(u"SELECT COUNT(*) FROM Gewaesser"_qs), u"1");
+}
+
+TEST_F(HeldTransactionTest, TakesBackWhatEndsWithoutACommit) {
+    Recordset stillOpen;
+    {
+        const Transaction action(workspace);
+        fishOfAal().Close();
+        stillOpen = fishOfAal();
+    }
+    EXPECT_EQ(namesInFile(), unchanged);
+    EXPECT_EQ(errorOf([&] { rename(stillOpen, u"Barbe"_qs); }), 3034);
+    EXPECT_EQ(errorOf([&] { stillOpen.Close(); }), 0);
+    fishOfAal().Close();
+    EXPECT_EQ(namesInFile(), u"Aal;Zander;Äsche;Barsch");
+}
+
+TEST_F(HeldTransactionTest, EndsWithItsDatabase) {
+    const Transaction action(workspace);
+    fishOfAal().Close();
+    held.Close();
+    EXPECT_EQ(namesInFile(), unchanged);
+}
+
+TEST_F(HeldTransactionTest, RefusesWhatHasNoBeginningOrNoRoom) {
+    EXPECT_EQ(errorOf([&] { workspace.CommitTrans(); }), 3034);
+    EXPECT_EQ(errorOf([&] { workspace.Rollback(); }), 3034);
+    const auto other = connectTo(path());
+    other->execute("BEGIN IMMEDIATE");
+    EXPECT_EQ(errorOf([&] { workspace.BeginTrans(); }), 3260);
+    other->execute("ROLLBACK");
+    const Transaction action(workspace);
+    EXPECT_EQ(errorOf([&] { workspace.BeginTrans(); }), 3251);
+    EXPECT_EQ(errorOf([] { Workspace().BeginTrans(); }), 91);
 }

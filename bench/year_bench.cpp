@@ -1,0 +1,148 @@
+// The change of the year of a very large club, hours carried over.
+
+#include "Measure.h"
+#include "ProgramFolder.h"
+#include "ProgramUnderTest.h"
+#include "RawFile.h"
+#include "Session.h"
+#include "modStart.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+namespace {
+
+constexpr int members = 10'000;
+constexpr int bookings = 200'000;
+constexpr int runs = 5;
+
+/// Says yes, and takes note of everything else.
+class Yes final : public MessageBoxes {
+public:
+    MsgBoxResult show(const QString&, int style, const QString&) override {
+        return (style & vbYesNo) != 0 ? vbYes : vbOK;
+    }
+};
+
+/// Runs an INSERT that selects from n, which holds the numbers from 1 on.
+void addRows(RawFile& file, int count, const QByteArray& insert) {
+    const QByteArray numbers = "WITH RECURSIVE n(i) AS (VALUES (1) UNION ALL SELECT i + 1 FROM n WHERE i < " +
+                               QByteArray::number(count) + ") ";
+    file.execute((numbers + insert).constData());
+}
+
+/// Bookings of five years as they come in: day by day, all members mixed.
+void fillClub(const QString& folder) {
+    makeProgramFolder(folder, benchYear - 1, false);
+    RawFile file(folder + u"/uw01.mdb"_qs);
+    file.execute("BEGIN; UPDATE System SET PflichtStd = 20");
+    addRows(file, members,
+            "INSERT INTO Kontakt(KategoNr, Nachname, Vorname, Strasse, Ort) "
+            "SELECT 1, 'Name ' || i, 'Vorname', 'Uferweg ' || i, 'Ort' FROM n");
+    addRows(file, members, "INSERT INTO Mitglied(KNr, Befreit, Bezahlt) SELECT i, 0, 1 FROM n");
+    addRows(file, bookings,
+            "INSERT INTO Arbeit(KNr, Jahr, Datum, ArbStd, Notiz) SELECT 1 + i * 7919 % 10000, "
+            "2021 + i / 40001, 44197 + i / 110, 0.5 + i % 9, 'Uferpflege' FROM n");
+    file.execute("COMMIT");
+}
+
+double sumOf(sqlite3_stmt* sum, sqlite3_int64 member) {
+    sqlite3_bind_int64(sum, 1, member);
+    sqlite3_step(sum);
+    const double hours = sqlite3_column_double(sum, 0);
+    sqlite3_reset(sum);
+    return hours;
+}
+
+void carryOver(sqlite3_stmt* insert, sqlite3_int64 member, double hours) {
+    const double balance = qRound64((hours - 20) * 100) / 100.0;
+    sqlite3_bind_int64(insert, 1, member);
+    sqlite3_bind_double(insert, 2, balance);
+    sqlite3_bind_text(insert, 3,
+                      balance > 0 ? "Mehrleistungsübertrag aus Arbeitsjahr 2025"
+                                  : "Minderleistungsübertrag aus Arbeitsjahr 2025",
+                      -1, SQLITE_STATIC);
+    sqlite3_step(insert);
+    sqlite3_reset(insert);
+}
+
+/// The same sums and rows on the C API, in one transaction.
+void rawChange(RawFile& file) {
+    file.execute("BEGIN; UPDATE System SET FJahr = 2026");
+    sqlite3_stmt* list =
+        file.prepare("SELECT k.KNr FROM Kontakt k, Mitglied m WHERE k.KNr = m.KNr AND m.Befreit = 0");
+    sqlite3_stmt* sum = file.prepare("SELECT SUM(ArbStd) FROM Arbeit WHERE KNr = ?1 AND Jahr = 2025");
+    sqlite3_stmt* insert =
+        file.prepare("INSERT INTO Arbeit(KNr, Jahr, Datum, ArbStd, Notiz) VALUES (?1, 2026, 46023, ?2, ?3)");
+    while (sqlite3_step(list) == SQLITE_ROW) {
+        const sqlite3_int64 member = sqlite3_column_int64(list, 0);
+        carryOver(insert, member, sumOf(sum, member));
+    }
+    for (sqlite3_stmt* statement : {list, sum, insert}) sqlite3_finalize(statement);
+    file.execute("UPDATE Mitglied SET Bezahlt = 0");
+    file.execute("COMMIT");
+}
+
+/// A fresh copy of the old year for each run; the key is worked out before the time begins.
+template<typename Change>
+double measure(const QString& folder, Change change) {
+    const QString path = folder + u"/uw01.mdb"_qs;
+    std::vector<double> seconds;
+    for (int run = 0; run < runs; ++run) {
+        QFile::remove(path);
+        QFile::copy(folder + u"/alt.mdb"_qs, path);
+        seconds.push_back(change());
+    }
+    std::nth_element(seconds.begin(), seconds.begin() + runs / 2, seconds.end());
+    return seconds[runs / 2];
+}
+
+double rawSeconds(const QString& path) {
+    RawFile file(path);
+    file.execute("PRAGMA cache_size = -32768; SELECT FJahr FROM System");
+    return medianSeconds(1, [&] { rawChange(file); });
+}
+
+double ownSeconds(const QString& folder) {
+    beginSession(folder);
+    modStart::OeffneDatenbank();
+    modStart::SetzeDatumsVariablen();
+    const double seconds = medianSeconds(1, [] { modStart::KontrolliereSystemJahr(); });
+    modStart::SchliesseDatenbank();
+    return seconds;
+}
+
+/// What both have to arrive at.
+QByteArray result(const QString& path) {
+    RawFile file(path);
+    sqlite3_stmt* sums = file.prepare("SELECT FJahr, COUNT(*), SUM(ArbStd), SUM(length(Notiz)) "
+                                      "FROM System, Arbeit WHERE Jahr = 2026 AND Datum = 46023 AND "
+                                      "NOT EXISTS (SELECT 1 FROM Mitglied WHERE Bezahlt)");
+    sqlite3_step(sums);
+    QByteArray text;
+    for (int column = 0; column < 4; ++column)
+        text += QByteArray(reinterpret_cast<const char*>(sqlite3_column_text(sums, column))) + ' ';
+    sqlite3_finalize(sums);
+    return text;
+}
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    Yes boxes;
+    const BenchDesk desk(argc, argv, boxes);
+    QTemporaryDir temporary;
+    const QString folder = temporary.filePath(u"verein"_qs);
+    const QString path = folder + u"/uw01.mdb"_qs;
+    fillClub(folder);
+    QFile::copy(path, folder + u"/alt.mdb"_qs);
+
+    const double floor = measure(folder, [&] { return rawSeconds(path); });
+    const QByteArray expected = result(path);
+    const double own = measure(folder, [&] { return ownSeconds(folder); });
+    printRow("year change, 10,000 members, 200,000 bookings", own, "same sums and rows, one transaction",
+             floor, 3.0);
+    if (result(path) == expected) return 0;
+    std::printf("The sums differ: %s and %s\n", result(path).constData(), expected.constData());
+    return 1;
+}
