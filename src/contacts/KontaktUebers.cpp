@@ -6,6 +6,7 @@
 #include "Heading.h"
 #include "Katego.h"
 #include "Kontakt.h"
+#include "MitglList.h"
 #include "MsgBox.h"
 #include "Screens.h"
 #include "Session.h"
@@ -73,6 +74,7 @@ void KontaktUebers::Toolbar1_ButtonClick(const QString& key) {
     if (key == u"tbKatego"_qs) BearbeiteKategorien();
     if (key == u"tbWord"_qs) ErzeugeSerienbriefDatei();
     if (key == u"tbSuch"_qs) Suchen();
+    if (key == u"tbMitglList"_qs) ZeigeMitglieder();
     session().Modus = u"SAVE"_qs;
 }
 
@@ -84,6 +86,11 @@ void KontaktUebers::NeuerKontakt() {
 void KontaktUebers::BearbeiteKategorien() {
     modNavigation::binde(session().AktBarItem, screen<Katego>());
     screen<Katego>().Show();
+}
+
+void KontaktUebers::ZeigeMitglieder() {
+    modNavigation::binde(session().AktBarItem, screen<MitglList>());
+    screen<MitglList>().Show();
 }
 
 void KontaktUebers::Suchen() {

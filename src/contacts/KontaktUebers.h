@@ -31,6 +31,7 @@ private:
     void BearbeiteKategorien();
     void ErzeugeSerienbriefDatei();
     void Suchen();
+    void ZeigeMitglieder();
     /// Opens or closes a category, whichever its flag says it is not.
     void klappe(int row);
     void tblKUebers_OnGridCellDown(int row, int column);

@@ -8,6 +8,7 @@
 #include "TextBox.h"
 #include "Theme.h"
 #include "ValueLabel.h"
+#include "modArbeit.h"
 #include "modKontakt.h"
 #include "modRun.h"
 
@@ -118,8 +119,16 @@ void SuchKont::cmdSuch_Click() {
 }
 
 void SuchKont::tblSuch_OnGridCellOpen(int row, int column) {
+    if (row < 0) return;
+    if (session().SuchAufrufer == kontaktUebersicht) oeffneKontakt(row, column);
+    if (session().SuchAufrufer == arbeitscontrolling) {
+        Hide();
+        modArbeit::UebernehmeKontakt(row);
+    }
+}
+
+void SuchKont::oeffneKontakt(int row, int column) {
     Session& s = session();
-    if (row < 0 || s.SuchAufrufer != kontaktUebersicht) return;
     if (!modKontakt::KontaktZugriff_Erlaubt()) {
         MsgBox(u"Sie haben keine Zugriffsberechtigung auf diese Funktion !"_qs, vbInformation);
         return;

@@ -32,5 +32,6 @@ public:
 private:
     void build();
     void cmdSuch_Click();
+    void oeffneKontakt(int row, int column);
     void tblSuch_OnGridCellOpen(int row, int column);
 };
