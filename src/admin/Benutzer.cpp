@@ -1,12 +1,59 @@
 #include "Benutzer.h"
 
-#include "Face.h"
-#include "Heading.h"
+#include "DataTable.h"
+#include "Session.h"
+#include "ValueLabel.h"
+#include "modBenutzer.h"
 
-#include <QBoxLayout>
+#include <QTabWidget>
 
-Benutzer::Benutzer()
-    : Screen(u"Benutzer"_qs, u"Benutzerverwaltung"_qs) {
-    Ueberschrift = new Heading(u"BENUTZERVERWALTUNG"_qs, this);
-    Face::column(this, Ueberschrift, nullptr)->addStretch();
+std::array<QCheckBox*, 10> Benutzer::Zugriffe() const {
+    return {chkFBuch,  chkFAusw,  chkKontUebers, chkKontList, chkKontakt,
+            chkArbeit, chkBesatz, chkBasis,      chkBenutzer, chkSystem};
+}
+
+void Benutzer::Form_Load() {
+    tabBV->setCurrentIndex(userPage);
+    session().Modus = u"SAVE"_qs;
+    session().AktZeile = 0;
+}
+
+void Benutzer::Form_Activate() { modBenutzer::LadeGruppenCombo(cboBG); }
+
+void Benutzer::Form_Paint() {
+    lblBAnzahl->setCaption(QString::number(tblBenutzer->rowCount()));
+    lblGAnzahl->setCaption(QString::number(tblZugriff->rowCount()));
+}
+
+void Benutzer::Form_Deactivate() { modBenutzer::LeereBenutzerAnzeige(); }
+
+void Benutzer::Toolbar1_ButtonClick(const QString& key) {
+    if (tabBV->currentIndex() == userPage)
+        modBenutzer::bedieneBenutzer(key);
+    else
+        modBenutzer::bedieneGruppe(key);
+    session().Modus = u"SAVE"_qs;
+}
+
+void Benutzer::tabBV_Click(int page) {
+    // Groups may have come, gone or been renamed on the page that is left.
+    if (m_page == groupPage) modBenutzer::LadeGruppenCombo(cboBG);
+    m_page = page;
+}
+
+void Benutzer::tblBenutzer_OnGridCellOpen(int row) {
+    if (row < 0) return;
+    session().AktZeile = row;
+    modBenutzer::LadeBenutzerVorgang();
+}
+
+void Benutzer::tblZugriff_OnGridCellOpen(int row) {
+    if (row < 0) return;
+    session().AktZeile = row;
+    modBenutzer::LadeGruppenVorgang(row);
+}
+
+void Benutzer::tblZugriff_OnGridLostFocus() {
+    // The other grid's count: with fewer users than groups, a group far down stays marked.
+    tblZugriff->selectRows(0, tblBenutzer->rowCount(), false);
 }

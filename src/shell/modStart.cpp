@@ -202,6 +202,8 @@ void LadeStammdaten() {
     session().TabelleLaedt = true;
     modBasis::loadTblFBasis();
     modBasis::loadTblGBasis();
+    loadTblBenutzer();
+    loadTblZugriff();
     modKontakt::FuelleKontaktUebersicht();
     modSystem::loadTblSystem();
     modKatego::loadTblKatego();

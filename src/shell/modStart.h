@@ -31,6 +31,9 @@ void SetzeDatumsVariablen();
 bool KontrolliereSystemJahr();
 /// Fills all grids of all screens, once.
 void LadeStammdaten();
+/// Users with a group, and groups with their rights.
+void loadTblBenutzer();
+void loadTblZugriff();
 /// Writes the year into the status bar.
 void ZeigeFangjahr();
 

@@ -313,6 +313,8 @@ int HouseStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWid
         return 0;
     case SH_UnderlineShortcut:
         return 1;
+    case SH_LineEdit_PasswordCharacter:
+        return u'*';
     default:
         return QProxyStyle::styleHint(hint, option, widget, answer);
     }

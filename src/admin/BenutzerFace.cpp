@@ -1,0 +1,213 @@
+#include "Benutzer.h"
+#include "ComboBox.h"
+#include "DataTable.h"
+#include "Face.h"
+#include "Heading.h"
+#include "Session.h"
+#include "TextBox.h"
+#include "Toolbar.h"
+#include "ValueLabel.h"
+#include "modRun.h"
+
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QTabWidget>
+
+namespace {
+
+TextBox* nameBox(const QString& name, QWidget* parent) {
+    constexpr int limit = 50;
+    auto* box = new TextBox(name, parent);
+    box->setLimit(limit);
+    return box;
+}
+
+QCheckBox* checkBox(const QString& name, const QString& caption, QWidget* parent) {
+    auto* box = new QCheckBox(caption, parent);
+    box->setObjectName(name);
+    return box;
+}
+
+/// The form above, the grid below with what room is left.
+QWidget* page(QGroupBox* entry, QGroupBox* list) {
+    auto* made = new QWidget;
+    auto* column = new QVBoxLayout(made);
+    column->setContentsMargins(Face::gap, Face::gap, Face::gap, Face::gap);
+    column->setSpacing(Face::gap);
+    column->addWidget(entry);
+    column->addWidget(list, 1);
+    entry->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+    return made;
+}
+
+void layOutList(QGroupBox* frame, DataTable* grid, QLabel* caption, ValueLabel* count) {
+    grid->setAccessibleName(frame->title());
+    count->setAccessibleName(u"Anzahl"_qs);
+    auto* foot = new QHBoxLayout;
+    foot->addStretch();
+    foot->addWidget(caption);
+    foot->addWidget(count);
+    auto* column = new QVBoxLayout(frame);
+    column->addWidget(grid, 1);
+    column->addLayout(foot);
+}
+
+} // namespace
+
+Benutzer::Benutzer()
+    : Screen(u"Benutzer"_qs, u"Benutzerverwaltung"_qs) {
+    Ueberschrift = new Heading(u"BENUTZERVERWALTUNG"_qs, this);
+    buildToolbar();
+    tabBV = new QTabWidget(this);
+    tabBV->setObjectName(u"tabBV"_qs);
+    tabBV->addTab(buildUserPage(), u"Benutzer hinzuf. oder edit."_qs);
+    tabBV->addTab(buildGroupPage(), u"Zugriffsverwaltung"_qs);
+    Face::column(this, Ueberschrift, Toolbar1)->addWidget(tabBV, 1);
+    connectEvents();
+}
+
+void Benutzer::buildToolbar() {
+    Toolbar1 = new Toolbar(this);
+    Toolbar1->addKey(u"tbSpeichern"_qs, u"&Speichern"_qs, u"Speichern"_qs, u"speichern"_qs);
+    Toolbar1->addSeparator();
+    Toolbar1->addKey(u"tbLoeschen"_qs, u"&Löschen"_qs, u"Löschen"_qs, u"loeschen"_qs);
+    Toolbar1->addSeparator();
+    Toolbar1->addKey(u"tbAnzLoeschen"_qs, u"&Anz. löschen"_qs, u"Anzeige löschen"_qs, u"anzeige-loeschen"_qs);
+}
+
+QWidget* Benutzer::buildUserPage() {
+    buildUserEntry();
+    buildUserGrid();
+    return page(Frame2, Frame3);
+}
+
+void Benutzer::buildUserEntry() {
+    Frame2 = Face::frame(u"Frame2"_qs, u"Benutzer hinzuf. oder editieren..."_qs, nullptr);
+    lblBI = Face::label(u"lblBI"_qs, u"Benutzer-Nr:"_qs, Frame2);
+    lblBNr = new ValueLabel(u"lblBNr"_qs, Frame2);
+    lblB = Face::label(u"lblB"_qs, u"Benutzername:"_qs, Frame2);
+    txtBenutzer = nameBox(u"txtBenutzer"_qs, Frame2);
+    lblP = Face::label(u"lblP"_qs, u"Passwort:"_qs, Frame2);
+    txtPassw = nameBox(u"txtPassw"_qs, Frame2);
+    lblBest = Face::label(u"lblBest"_qs, u"...bestätigen:"_qs, Frame2);
+    txtPasswBest = nameBox(u"txtPasswBest"_qs, Frame2);
+    for (TextBox* box : {txtPassw, txtPasswBest}) box->setEchoMode(QLineEdit::Password);
+    lblBG = Face::label(u"lblBG"_qs, u"Benutzergruppe:"_qs, Frame2);
+    cboBG = new ComboBox(u"cboBG"_qs, ComboBox::Order::AsAdded, ComboBox::Kind::Editable, Frame2);
+    // What is typed counts as it stands: nothing completes it. A long name must not widen the form.
+    cboBG->setCompleter(nullptr);
+    cboBG->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    cboBG->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+
+    constexpr int secondColumn = 3;
+    auto* form = new QGridLayout(Frame2);
+    form->setHorizontalSpacing(Face::gap);
+    Face::addField(form, 0, lblBI, lblBNr);
+    Face::addField(form, 1, lblB, txtBenutzer);
+    Face::addField(form, 2, lblP, txtPassw);
+    Face::addField(form, 2, lblBest, txtPasswBest, secondColumn);
+    Face::addField(form, 3, lblBG, cboBG);
+    txtPasswBest->setAccessibleName(u"Passwort bestätigen"_qs);
+    form->setColumnMinimumWidth(secondColumn - 1, Face::gap);
+    form->setColumnStretch(1, 1);
+    form->setColumnStretch(secondColumn + 1, 1);
+}
+
+void Benutzer::buildUserGrid() {
+    Frame3 = Face::frame(u"Frame3"_qs, u"Benutzerübersicht..."_qs, nullptr);
+    tblBenutzer = new DataTable(u"tblBenutzer"_qs, Frame3);
+    tblBenutzer->setColumns({{u"Benutzer-Nr."_qs, 96, true},
+                             {u"Benutzername"_qs, 200},
+                             {u"Passwort"_qs, 200},
+                             {u"Ben.-Gruppe"_qs, 200}});
+    lblBAnz = Face::label(u"lblBAnz"_qs, u"Anzahl:"_qs, Frame3);
+    lblBAnzahl = new ValueLabel(u"lblBAnzahl"_qs, Frame3);
+    layOutList(Frame3, tblBenutzer, lblBAnz, lblBAnzahl);
+}
+
+QWidget* Benutzer::buildGroupPage() {
+    buildGroupEntry();
+    buildGroupGrid();
+    return page(Frame4, Frame1);
+}
+
+void Benutzer::buildGroupEntry() {
+    Frame4 = Face::frame(u"Frame4"_qs, u"Gruppe hinzuf. od. edit."_qs, nullptr);
+    lblGruppN = Face::label(u"lblGruppN"_qs, u"Gruppen-Nr:"_qs, Frame4);
+    lblGNr = new ValueLabel(u"lblGNr"_qs, Frame4);
+    lblBGru = Face::label(u"lblBGru"_qs, u"Name der Gruppe:"_qs, Frame4);
+    txtGruppe = nameBox(u"txtGruppe"_qs, Frame4);
+    lblZA = Face::label(u"lblZA"_qs, u"Hat Zugriff auf:"_qs, Frame4);
+
+    auto* form = new QGridLayout(Frame4);
+    form->setHorizontalSpacing(Face::gap);
+    Face::addField(form, 0, lblGruppN, lblGNr);
+    Face::addField(form, 1, lblBGru, txtGruppe);
+    form->addWidget(lblZA, 2, 0, Qt::AlignTop);
+    addRights(form, 2);
+    // On one line with the first row of boxes.
+    lblZA->setMinimumHeight(chkFBuch->sizeHint().height());
+    form->setColumnStretch(1, 1);
+}
+
+void Benutzer::addRights(QGridLayout* form, int row) {
+    chkFBuch = checkBox(u"chkFBuch"_qs, u"Fangbuch"_qs, Frame4);
+    chkFAusw = checkBox(u"chkFAusw"_qs, u"Fangauswertg."_qs, Frame4);
+    chkKontUebers = checkBox(u"chkKontUebers"_qs, u"Kont.-Übers."_qs, Frame4);
+    chkKontList = checkBox(u"chkKontList"_qs, u"Kontaktliste"_qs, Frame4);
+    chkKontakt = checkBox(u"chkKontakt"_qs, u"Kontakt"_qs, Frame4);
+    chkArbeit = checkBox(u"chkArbeit"_qs, u"ArbStd-Contr."_qs, Frame4);
+    chkBesatz = checkBox(u"chkBesatz"_qs, u"Besatz.-Liste"_qs, Frame4);
+    chkBasis = checkBox(u"chkBasis"_qs, u"Basisdaten"_qs, Frame4);
+    chkBenutzer = checkBox(u"chkBenutzer"_qs, u"Benutzer- && Zugriff"_qs, Frame4);
+    chkSystem = checkBox(u"chkSystem"_qs, u"Systempar."_qs, Frame4);
+
+    constexpr int perRow = 5;
+    auto* boxes = new QGridLayout;
+    boxes->setHorizontalSpacing(2 * Face::gap);
+    int place = 0;
+    for (QCheckBox* box : Zugriffe()) {
+        boxes->addWidget(box, place / perRow, place % perRow);
+        ++place;
+    }
+    boxes->setColumnStretch(perRow, 1);
+    form->addLayout(boxes, row, 1);
+}
+
+void Benutzer::buildGroupGrid() {
+    Frame1 = Face::frame(u"Frame1"_qs, u"Zugriff"_qs, nullptr);
+    tblZugriff = new DataTable(u"tblZugriff"_qs, Frame1);
+    QVector<GridColumn> columns = {{u"Gruppen-Nr."_qs, 96, true}, {u"Gruppe \\ Forms"_qs, 240}};
+    const auto addRight = [&](const QString& head, int width) {
+        GridColumn column{head, width};
+        column.fixed = true;
+        columns.append(column);
+    };
+    addRight(u"Fangbuch"_qs, 80);
+    addRight(u"Fangauswertg."_qs, 112);
+    addRight(u"Kontakt-Übers."_qs, 112);
+    addRight(u"Kontakt-Liste"_qs, 104);
+    addRight(u"Kontakt"_qs, 72);
+    addRight(u"Arbeitscontrolling"_qs, 136);
+    addRight(u"Besatz.-Liste"_qs, 104);
+    addRight(u"Basisdaten"_qs, 88);
+    addRight(u"Benutzerverwltg."_qs, 128);
+    addRight(u"Systempar."_qs, 96);
+    tblZugriff->setColumns(columns);
+    Label1 = Face::label(u"Label1"_qs, u"Anzahl:"_qs, Frame1);
+    lblGAnzahl = new ValueLabel(u"lblGAnzahl"_qs, Frame1);
+    layOutList(Frame1, tblZugriff, Label1, lblGAnzahl);
+}
+
+void Benutzer::connectEvents() {
+    on(Toolbar1, &Toolbar::ButtonClick, [this](const QString& key) { Toolbar1_ButtonClick(key); });
+    on(tabBV, &QTabWidget::currentChanged, [this](int page) { tabBV_Click(page); });
+    on(tblBenutzer, &DataTable::OnGridCellOpen, [this](int row, int) { tblBenutzer_OnGridCellOpen(row); });
+    on(tblZugriff, &DataTable::OnGridCellOpen, [this](int row, int) { tblZugriff_OnGridCellOpen(row); });
+    modRun::connectGridFocus(tblBenutzer);
+    on(tblZugriff, &DataTable::OnGridGotFocus,
+       [this] { modRun::SetzeGridFarben(tblZugriff->selectionStyle()); });
+    on(tblZugriff, &DataTable::OnGridLostFocus, [this] { tblZugriff_OnGridLostFocus(); });
+}

@@ -1,0 +1,319 @@
+#include "modBenutzer.h"
+
+#include "Benutzer.h"
+#include "ComboBox.h"
+#include "Conversions.h"
+#include "DataTable.h"
+#include "ErrorTail.h"
+#include "MsgBox.h"
+#include "Screens.h"
+#include "Session.h"
+#include "SqlText.h"
+#include "TextBox.h"
+#include "ValueLabel.h"
+#include "modRun.h"
+
+#include <QCheckBox>
+#include <QTabWidget>
+
+namespace modBenutzer {
+
+namespace {
+
+const QString modul = u"modBenutzer"_qs;
+
+/// The columns of Gruppen that are rights, in the order of the check boxes and of the grid.
+const std::array<QString, 10>& rechte() {
+    static const std::array<QString, 10> columns = {
+        u"Fangbuch"_qs, u"Fangauswertung"_qs, u"KontUebers"_qs, u"KontListe"_qs,          u"Kontakt"_qs,
+        u"Arbeit"_qs,   u"Besatz"_qs,         u"Basis"_qs,      u"Benutzerverwaltung"_qs, u"System"_qs};
+    return columns;
+}
+
+/// Where the rights begin in the grid of groups; before them stand number and name.
+constexpr int ersteRechteSpalte = 2;
+/// Where the grid of users shows the group's name.
+constexpr int gruppenSpalte = 3;
+
+Recordset oeffne(const QString& nameOrSelect, RecordsetType type) {
+    return session().AktDatenbank.OpenRecordset(nameOrSelect, type);
+}
+
+/// Opens the table and seeks the number that the form shows. False also when the seek itself failed: there
+/// is then no current record to write to.
+bool findeOffenen(ErrorTail& step, Recordset& satz, const QString& tabelle, const ValueLabel* nummer) {
+    bool gefunden = false;
+    step([&] { satz = oeffne(tabelle, dbOpenTable); });
+    step([&] { satz.Index(u"PrimaryKey"_qs); });
+    step([&] {
+        satz.Seek(u"="_qs, CLng(nummer->Caption()));
+        gefunden = !satz.NoMatch();
+    });
+    return gefunden;
+}
+
+void zeigeAnzahl(ValueLabel* label, const DataTable* grid) {
+    label->setCaption(QString::number(grid->rowCount()));
+}
+
+void schreibeBenutzer(ErrorTail& step, Recordset& benutzer, qint32 gnr) {
+    const Benutzer& form = screen<Benutzer>();
+    step([&] { benutzer.Collect(u"Name"_qs, form.txtBenutzer->Text()); });
+    step([&] { benutzer.Collect(u"Passwort"_qs, form.txtPassw->Text()); });
+    step([&] { benutzer.Collect(u"GNr"_qs, gnr); });
+    step([&] { benutzer.Update(); });
+}
+
+void leereBenutzer(const Benutzer& form) {
+    form.lblBNr->setCaption(QString());
+    for (TextBox* box : {form.txtBenutzer, form.txtPassw, form.txtPasswBest}) box->setText(QString());
+    form.cboBG->setText(QString());
+}
+
+void leereGruppe(const Benutzer& form) {
+    form.lblGNr->setCaption(QString());
+    form.txtGruppe->setText(QString());
+    for (QCheckBox* box : form.Zugriffe()) box->setChecked(false);
+}
+
+} // namespace
+
+std::vector<Value> gruppenZeile(const Recordset& gruppe) {
+    std::vector<Value> zeile = {gruppe.Collect(u"GNr"_qs), gruppe.Collect(u"GName"_qs)};
+    for (const QString& recht : rechte()) zeile.push_back(gruppe.Collect(recht));
+    return zeile;
+}
+
+void SpeicherBenutzer() {
+    withErrorTail(modul, u"SpeicherBenutzer"_qs, [](ErrorTail& step) {
+        const Benutzer& form = screen<Benutzer>();
+        Recordset benutzer;
+        step([&] { benutzer = oeffne(u"Benutzer"_qs, dbOpenTable); });
+        const qint32 gnr = ErmittleGNr(form.cboBG->Text());
+        if (gnr == 0) return LeereBenutzerEingabe();
+        step([&] { benutzer.AddNew(); });
+        schreibeBenutzer(step, benutzer, gnr);
+        step([&] { benutzer.Index(u"PrimaryKey"_qs); });
+        step([&] { benutzer.MoveLast(); });
+        QString gruppe;
+        step([&] { gruppe = ErmittleGName(CLng(benutzer.Collect(u"GNr"_qs))); });
+        if (gruppe.isEmpty()) return LeereBenutzerEingabe();
+        step([&] {
+            form.tblBenutzer->appendRow({benutzer.Collect(u"BNr"_qs), benutzer.Collect(u"Name"_qs),
+                                         benutzer.Collect(u"Passwort"_qs), gruppe});
+        });
+        LeereBenutzerEingabe();
+        zeigeAnzahl(form.lblBAnzahl, form.tblBenutzer);
+        step([&] { benutzer.Close(); });
+    });
+}
+
+void UpdateBenutzer(int row) {
+    withErrorTail(modul, u"UpdateBenutzer"_qs, [row](ErrorTail& step) {
+        const Benutzer& form = screen<Benutzer>();
+        Recordset benutzer;
+        if (findeOffenen(step, benutzer, u"Benutzer"_qs, form.lblBNr)) {
+            const qint32 gnr = ErmittleGNr(form.cboBG->Text());
+            if (gnr == 0) return LeereBenutzerEingabe();
+            step([&] { benutzer.Edit(); });
+            schreibeBenutzer(step, benutzer, gnr);
+        } else {
+            modRun::MeldeNichtVorhanden();
+        }
+        step([&] { form.tblBenutzer->setCell(row, 1, form.txtBenutzer->Text()); });
+        step([&] { form.tblBenutzer->setCell(row, 2, form.txtPassw->Text()); });
+        step([&] { form.tblBenutzer->setCell(row, gruppenSpalte, form.cboBG->Text()); });
+        LeereBenutzerEingabe();
+        step([&] { benutzer.Close(); });
+    });
+}
+
+void LoescheBenutzer(int row) {
+    withErrorTail(modul, u"LoescheBenutzer"_qs, [row](ErrorTail& step) {
+        const Benutzer& form = screen<Benutzer>();
+        Recordset benutzer;
+        if (findeOffenen(step, benutzer, u"Benutzer"_qs, form.lblBNr)) {
+            step([&] { benutzer.Delete(); });
+            step([&] { form.tblBenutzer->removeRow(row); });
+            zeigeAnzahl(form.lblBAnzahl, form.tblBenutzer);
+        } else {
+            modRun::MeldeNichtVorhanden();
+        }
+        LeereBenutzerEingabe();
+        step([&] { benutzer.Close(); });
+    });
+}
+
+void SpeicherBG() {
+    withErrorTail(modul, u"SpeicherBG"_qs, [](ErrorTail& step) {
+        const Benutzer& form = screen<Benutzer>();
+        Recordset gruppe;
+        step([&] { gruppe = oeffne(u"Gruppen"_qs, dbOpenTable); });
+        step([&] { gruppe.AddNew(); });
+        step([&] { gruppe.Collect(u"GName"_qs, form.txtGruppe->Text()); });
+        step([&] { SichereZugriff(gruppe); });
+        step([&] { gruppe.Update(); });
+        step([&] { gruppe.Index(u"PrimaryKey"_qs); });
+        step([&] { gruppe.MoveLast(); });
+        step([&] { form.tblZugriff->appendRow(gruppenZeile(gruppe)); });
+        LeereBenutzerEingabe();
+        zeigeAnzahl(form.lblGAnzahl, form.tblZugriff);
+        LadeGruppenCombo(form.cboBG);
+        step([&] { gruppe.Close(); });
+    });
+}
+
+void UpdateBG(int row) {
+    withErrorTail(modul, u"UpdateBG"_qs, [row](ErrorTail& step) {
+        const Benutzer& form = screen<Benutzer>();
+        Recordset gruppe;
+        if (findeOffenen(step, gruppe, u"Gruppen"_qs, form.lblGNr)) {
+            step([&] { gruppe.Edit(); });
+            step([&] { gruppe.Collect(u"GName"_qs, form.txtGruppe->Text()); });
+            step([&] { SichereZugriff(gruppe); });
+            step([&] { gruppe.Update(); });
+            step([&] {
+                const std::vector<Value> zeile = gruppenZeile(gruppe);
+                for (std::size_t column = 1; column < zeile.size(); ++column)
+                    form.tblZugriff->setCell(row, static_cast<int>(column), zeile[column]);
+            });
+        } else {
+            // Without a record there is nothing to take the cells from.
+            modRun::MeldeNichtVorhanden();
+        }
+        LeereBenutzerEingabe();
+        step([&] { gruppe.Close(); });
+    });
+}
+
+void LoescheZugriff(int row) {
+    withErrorTail(modul, u"LoescheZugriff"_qs, [row](ErrorTail& step) {
+        const Benutzer& form = screen<Benutzer>();
+        Recordset gruppe;
+        if (findeOffenen(step, gruppe, u"Gruppen"_qs, form.lblGNr)) {
+            step([&] { gruppe.Delete(); });
+            step([&] { form.tblZugriff->removeRow(row); });
+            zeigeAnzahl(form.lblGAnzahl, form.tblZugriff);
+            // The number of groups here too, until the next painting.
+            zeigeAnzahl(form.lblBAnzahl, form.tblZugriff);
+            step([&] {
+                modRun::GridVerweiseAbgleichen(form.tblBenutzer, gruppenSpalte, form.txtGruppe->Text(),
+                                               u"LOESCHEN"_qs, QString());
+            });
+            LadeGruppenCombo(form.cboBG);
+        } else {
+            modRun::MeldeNichtVorhanden();
+        }
+        LeereBenutzerEingabe();
+        step([&] { gruppe.Close(); });
+    });
+}
+
+qint32 ErmittleGNr(const QString& name) {
+    qint32 gnr = 0;
+    withErrorTail(modul, u"ErmittleGNr"_qs, [&](ErrorTail& step) {
+        Recordset gruppe;
+        step([&] {
+            gruppe = oeffne(u"SELECT GNr FROM Gruppen WHERE GName = "_qs + quoted(name), dbOpenDynaset);
+        });
+        if (step.test([&] { return gruppe.RecordCount() != 1; }))
+            MsgBox(u"Keine Benutzergruppe angelegt! Bitte legen Sie zuerst eine Gruppe an."_qs, vbCritical);
+        else
+            step([&] { gnr = CLng(gruppe.Collect(u"GNr"_qs)); });
+        step([&] { gruppe.Close(); });
+    });
+    return gnr;
+}
+
+QString ErmittleGName(qint32 gnr) {
+    QString name = u"0"_qs;
+    // The names in the box are another routine's, and users know them so.
+    withErrorTail(u"modBasis"_qs, u"SpeicherFisch"_qs, [&](ErrorTail& step) {
+        Recordset gruppe;
+        step([&] {
+            gruppe =
+                oeffne(u"SELECT GName FROM Gruppen WHERE GNr = "_qs + QString::number(gnr), dbOpenDynaset);
+        });
+        if (step.test([&] { return gruppe.RecordCount() == 1; }))
+            step([&] { name = CStr(gruppe.Collect(u"GName"_qs)); });
+        step([&] { gruppe.Close(); });
+    });
+    return name;
+}
+
+void SichereZugriff(Recordset& gruppe) {
+    withErrorTail(modul, u"SichereZugriff"_qs, [&](ErrorTail& step) {
+        const auto boxes = screen<Benutzer>().Zugriffe();
+        for (std::size_t recht = 0; recht < boxes.size(); ++recht)
+            step([&] { gruppe.Collect(rechte()[recht], modRun::WertAusCheckBox(boxes[recht])); });
+    });
+}
+
+void LadeZugriff(int row) {
+    withErrorTail(modul, u"LadeZugriff"_qs, [row](ErrorTail& step) {
+        const Benutzer& form = screen<Benutzer>();
+        int column = ersteRechteSpalte;
+        for (QCheckBox* box : form.Zugriffe()) {
+            step([&] { box->setChecked(form.tblZugriff->cell(row, column) == Value(true)); });
+            ++column;
+        }
+    });
+}
+
+void LadeBenutzerVorgang() {
+    withErrorTail(modul, u"LadeBenutzerVorgang"_qs, [](ErrorTail& step) {
+        const Benutzer& form = screen<Benutzer>();
+        const int row = session().AktZeile;
+        LeereBenutzerEingabe();
+        step([&] { form.lblBNr->setCaption(form.tblBenutzer->cellText(row, 0)); });
+        step([&] { form.txtBenutzer->setText(form.tblBenutzer->cellText(row, 1)); });
+        step([&] { form.txtPassw->setText(form.tblBenutzer->cellText(row, 2)); });
+        step([&] { form.txtPasswBest->setText(form.tblBenutzer->cellText(row, 2)); });
+        step([&] { form.cboBG->setText(form.tblBenutzer->cellText(row, gruppenSpalte)); });
+        session().Modus = u"EDIT"_qs;
+    });
+}
+
+void LadeGruppenVorgang(int row) {
+    withErrorTail(modul, u"LadeGruppenVorgang"_qs, [row](ErrorTail& step) {
+        const Benutzer& form = screen<Benutzer>();
+        LeereBenutzerEingabe();
+        step([&] { form.lblGNr->setCaption(form.tblZugriff->cellText(row, 0)); });
+        step([&] { form.txtGruppe->setText(form.tblZugriff->cellText(row, 1)); });
+        LadeZugriff(row);
+        session().Modus = u"EDIT"_qs;
+    });
+}
+
+void LeereBenutzerEingabe() {
+    const Benutzer& form = screen<Benutzer>();
+    const bool benutzer = form.tabBV->currentIndex() == Benutzer::userPage;
+    benutzer ? leereBenutzer(form) : leereGruppe(form);
+    (benutzer ? form.txtBenutzer : form.txtGruppe)->setFocus();
+}
+
+void LeereBenutzerAnzeige() {
+    leereBenutzer(screen<Benutzer>());
+    leereGruppe(screen<Benutzer>());
+}
+
+bool PruefeBenutzerEingabe() {
+    const Benutzer& form = screen<Benutzer>();
+    if (!form.txtBenutzer->Text().isEmpty() && !form.cboBG->Text().isEmpty()) return true;
+    modRun::MeldeEingabeFehler();
+    return false;
+}
+
+bool PruefeGruppenEingabe() {
+    if (!screen<Benutzer>().txtGruppe->Text().isEmpty()) return true;
+    modRun::MeldeEingabeFehler();
+    return false;
+}
+
+void LadeGruppenCombo(ComboBox* combo) {
+    const DataTable* gruppen = screen<Benutzer>().tblZugriff;
+    combo->Clear();
+    for (int row = 0; row < gruppen->rowCount(); ++row) combo->AddItem(gruppen->cellText(row, 1));
+}
+
+} // namespace modBenutzer
