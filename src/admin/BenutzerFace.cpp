@@ -30,6 +30,12 @@ QCheckBox* checkBox(const QString& name, const QString& caption, QWidget* parent
     return box;
 }
 
+/// Takes the room of two fields, as a name of fifty characters needs it.
+void addWideField(QGridLayout* form, int row, QLabel* label, QWidget* field) {
+    Face::addField(form, row, label, field);
+    form->addWidget(field, row, 1, 1, -1);
+}
+
 /// The form above, the grid below with what room is left.
 QWidget* page(QGroupBox* entry, QGroupBox* list) {
     auto* made = new QWidget;
@@ -104,11 +110,11 @@ void Benutzer::buildUserEntry() {
     constexpr int secondColumn = 3;
     auto* form = new QGridLayout(Frame2);
     form->setHorizontalSpacing(Face::gap);
-    Face::addField(form, 0, lblBI, lblBNr);
-    Face::addField(form, 1, lblB, txtBenutzer);
+    addWideField(form, 0, lblBI, lblBNr);
+    addWideField(form, 1, lblB, txtBenutzer);
     Face::addField(form, 2, lblP, txtPassw);
     Face::addField(form, 2, lblBest, txtPasswBest, secondColumn);
-    Face::addField(form, 3, lblBG, cboBG);
+    addWideField(form, 3, lblBG, cboBG);
     txtPasswBest->setAccessibleName(u"Passwort bestätigen"_qs);
     form->setColumnMinimumWidth(secondColumn - 1, Face::gap);
     form->setColumnStretch(1, 1);

@@ -68,6 +68,7 @@ void leereBenutzer(const Benutzer& form) {
     form.lblBNr->setCaption(QString());
     for (TextBox* box : {form.txtBenutzer, form.txtPassw, form.txtPasswBest}) box->setText(QString());
     form.cboBG->setText(QString());
+    form.cboBG->setListIndex(-1);
 }
 
 void leereGruppe(const Benutzer& form) {

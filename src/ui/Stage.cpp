@@ -3,15 +3,17 @@
 #include "Screen.h"
 
 #include <QTabBar>
+#include <QTabWidget>
 
 namespace {
 
 Stage* stageInForce = nullptr;
 
-// A tab bar can have the focus, but what a user comes for is the first field on its page.
+// Tabs can have the focus, but what a user comes for is the first field on the page.
 bool takesFocus(const QWidget* control, const Screen* screen) {
-    return !qobject_cast<const QTabBar*>(control) && (control->focusPolicy() & Qt::TabFocus) &&
-           control->isEnabled() && control->isVisibleTo(screen) && screen->isAncestorOf(control);
+    const bool isTabs = qobject_cast<const QTabBar*>(control) || qobject_cast<const QTabWidget*>(control);
+    return !isTabs && (control->focusPolicy() & Qt::TabFocus) && control->isEnabled() &&
+           control->isVisibleTo(screen) && screen->isAncestorOf(control);
 }
 
 // The control that had the focus when the screen was last in front, or its first one.
