@@ -1,13 +1,12 @@
 #include "CsvDatei.h"
 #include "DataTable.h"
+#include "ExcelAnzeige.h"
 #include "Fangauswertung.h"
 #include "MsgBox.h"
-#include "OfficeProgram.h"
 #include "RuntimeError.h"
 #include "Screens.h"
 #include "SeqData.h"
 #include "Session.h"
-#include "Spreadsheet.h"
 #include "modFAuswert.h"
 #include "modRun.h"
 
@@ -46,18 +45,6 @@ void schreibeDatei(const DataTable& grid) {
     datei.close();
 }
 
-void meldeKeinExcel() { MsgBox(u"Es ist kein Excel verfügbar !"_qs, vbInformation); }
-
-/// The running spreadsheet or a new one; null after the box that says there is none.
-std::unique_ptr<Spreadsheet> erreicheExcel() {
-    try {
-        return runningOrNew(spreadsheetProgram());
-    } catch (const RuntimeError&) {
-        meldeKeinExcel();
-        return nullptr;
-    }
-}
-
 } // namespace
 
 void ErzeugeFangDatei() {
@@ -76,17 +63,8 @@ void ErzeugeFangDatei() {
 }
 
 void StarteExcelFang() {
-    const std::unique_ptr<Spreadsheet> excel = erreicheExcel();
-    if (!excel) return;
-    try {
-        excel->setVisible(true);
-        excel->openWorkbook(SeqData::path(u"Fang.csv"_qs));
-        for (const QString& range : {u"A:A"_qs, u"B:B"_qs, u"C:C"_qs, u"D:D"_qs, u"E:E"_qs, u"F:F"_qs})
-            excel->autoFitColumns(range);
-    } catch (const RuntimeError&) {
-        // Whether a program can be reached may only turn out when it is to do something.
-        meldeKeinExcel();
-    }
+    zeigeInExcel(SeqData::path(u"Fang.csv"_qs),
+                 {u"A:A"_qs, u"B:B"_qs, u"C:C"_qs, u"D:D"_qs, u"E:E"_qs, u"F:F"_qs});
 }
 
 } // namespace modFAuswert

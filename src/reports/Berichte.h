@@ -6,6 +6,7 @@
 /// program runs.
 namespace Berichte {
 
+Report& rpt_BesatzListe();
 Report& rpt_Fangliste();
 Report& rpt_MitglList();
 Report& rpt_ArbStd();

@@ -101,6 +101,16 @@ void Briefkopf::addLongTitle(const QString& label, const QString& title) {
         .wrapped();
 }
 
+void Briefkopf::addLongTitle(const QString& label, const QString& title) {
+    constexpr int spaceBelow = 8;
+    constexpr double longTitlePoints = 13.5; // five lines of it
+    m_head.addLabel(label, title, {titleLeft, 0, breadth - titleLeft, headTop - spaceBelow})
+        .points(longTitlePoints)
+        .bold()
+        .ink(clubBlue)
+        .wrapped();
+}
+
 void Briefkopf::addSetting(const QString& label, const QString& caption, const QString& value) {
     const int top = settingTop + m_settings++ * addressLine;
     addCaption(label, caption, {titleLeft, top, settingCaption, addressLine});

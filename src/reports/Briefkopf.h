@@ -26,6 +26,8 @@ public:
     /// long title needs smaller letters than the 20 points it gets.
     ReportControl& addTitle(const QString& label, const QString& title);
     void addSetting(const QString& label, const QString& caption, const QString& value);
+    /// A title that may take several lines, in the place of title and settings.
+    void addLongTitle(const QString& label, const QString& title);
 
     /// Smaller letters and less air in the table, where there are many columns. To be called before them.
     void setDense();

@@ -18,6 +18,7 @@
 #include "TextBox.h"
 #include "Toolbar.h"
 #include "modBasis.h"
+#include "modBesatzList.h"
 #include "modFangbuch.h"
 #include "modKatego.h"
 #include "modKontakt.h"
@@ -206,6 +207,7 @@ void LadeStammdaten() {
     loadTblZugriff();
     modKontakt::FuelleKontaktUebersicht();
     modSystem::loadTblSystem();
+    modBesatzList::loadTblBList();
     modKatego::loadTblKatego();
     modFangbuch::loadTblFList(screen<Eroef>().pb);
     session().TabelleLaedt = false;

@@ -147,7 +147,7 @@ constexpr auto druckBesatzlisteFields = std::to_array<FieldSpec>({
     {u"FName", Text},
     {u"GName", Text},
     {u"Zeit", Text},
-    {u"Menge", Double},
+    {u"Menge", Text},
 });
 
 constexpr auto tables = std::to_array<TableSpec>({

@@ -1,12 +1,118 @@
 #include "Besatzung.h"
 
-#include "Face.h"
-#include "Heading.h"
+#include "Clock.h"
+#include "ComboBox.h"
+#include "Conversions.h"
+#include "DataTable.h"
+#include "MsgBox.h"
+#include "Session.h"
+#include "Stage.h"
+#include "ValueLabel.h"
+#include "modBesatzList.h"
+#include "modFangbuch.h"
 
-#include <QBoxLayout>
+// The face of the screen is built in BesatzungFace.cpp; here is what it does.
 
-Besatzung::Besatzung()
-    : Screen(u"Besatzung"_qs, u"Besatz - Plan"_qs) {
-    Ueberschrift = new Heading(u"BESATZ - PLAN"_qs, this);
-    Face::column(this, Ueberschrift, nullptr)->addStretch();
+void Besatzung::Form_Load() {
+    modFangbuch::InitFangbuch();
+    modFangbuch::loadcboFArt(cboFArt);
+    modFangbuch::loadcboGName(cboGName);
+}
+
+void Besatzung::Form_Activate() {
+    // The return from a report must not lose what is chosen and typed.
+    if (session().NachReport) {
+        session().NachReport = false;
+        return;
+    }
+    if (session().Modus != u"SAVE"_qs) return;
+    modFangbuch::loadcboFArt(cboFArt);
+    modFangbuch::loadcboGName(cboGName);
+    modFangbuch::loadcboFJahr(cboBJahr);
+    waehleJahr(QString::number(today().year()));
+    zeigeAnzahl();
+}
+
+void Besatzung::Form_Deactivate() {
+    if (!session().NachReport) modBesatzList::BesatzAnzeigeLoeschen();
+}
+
+void Besatzung::zeigeAnzahl() { lblAnzahl->setCaption(QString::number(tblBList->rowCount())); }
+
+/// As a click on the year, also where it stands there already: the plan is loaded anew.
+void Besatzung::waehleJahr(const QString& jahr) {
+    const int before = cboBJahr->ListIndex();
+    cboBJahr->setText(jahr);
+    if (cboBJahr->ListIndex() == before) cboBJahr_Click();
+}
+
+void Besatzung::cboBJahr_Click() {
+    Session& s = session();
+    if (s.TabelleLaedt) return;
+    // The load takes the year from the session; it is lent to it and put back.
+    s.AktJahr = CInt(cboBJahr->Text());
+    modBesatzList::loadTblBList();
+    s.AktJahr = static_cast<qint16>(today().year());
+    zeigeAnzahl();
+}
+
+void Besatzung::Toolbar1_ButtonClick(const QString& key) {
+    if (key == u"tbSpeichern"_qs) Speichern();
+    if (key == u"tbLoeschen"_qs) Loeschen();
+    if (key == u"tbAnzLoeschen"_qs) modBesatzList::BesatzAnzeigeLoeschen();
+    if (key == u"tbExcel"_qs) tbExcel_Click();
+    if (key == u"tbVorschau"_qs) drucke(u"vorschau"_qs);
+    if (key == u"tbDruck"_qs) drucke(u"drucken"_qs);
+    session().Modus = u"SAVE"_qs;
+}
+
+void Besatzung::Speichern() {
+    using namespace modBesatzList;
+    Session& s = session();
+    if (s.Modus == u"EDIT"_qs && BesatzEingabeVollstaendig()) UpdateEintrag(s.AktZeile);
+    if (s.Modus == u"SAVE"_qs && BesatzEingabeVollstaendig()) SpeicherEintrag();
+}
+
+void Besatzung::Loeschen() {
+    Session& s = session();
+    if (s.Modus != u"EDIT"_qs) return;
+    s.MsgAntwort = MsgBox(u"ACHTUNG: Besatzungseintrag wirklich löschen ?"_qs, vbYesNo);
+    if (s.MsgAntwort == vbYes)
+        modBesatzList::LoescheEintrag(s.AktZeile);
+    else
+        modBesatzList::BesatzAnzeigeLoeschen();
+}
+
+void Besatzung::tbExcel_Click() {
+    Session& s = session();
+    s.MsgAntwort = MsgBox(
+        u"Wollen Sie eine in Excel zu importierende Datei mit der Bezeichnung - BPLAN.csv - erzeugen ?\n\r"_qs
+        u"ACHTUNG: Der Datei liegen die in der Tabelle angezeigten Daten zugrunde ! "_qs
+        u"Wollen Sie die Datei jetzt erzeugen ?"_qs,
+        vbYesNo);
+    if (s.MsgAntwort != vbYes) {
+        MsgBox(u"Vorgang von User abgebrochen !"_qs, vbInformation);
+    } else if (tblBList->rowCount() == 0) {
+        MsgBox(
+            u"Keine Daten zum erzeugen der Datei - BPLAN.csv - gefunden, der Vorgang wird abgebrochen !"_qs,
+            vbInformation);
+    } else {
+        modBesatzList::ErzeugeBPlanDatei();
+    }
+}
+
+void Besatzung::drucke(const QString& wort) {
+    session().NachReport = true;
+    modBesatzList::DruckeBPlanListe(wort);
+    // Only a preview hands the front away and back; after anything else the next return is from another
+    // screen.
+    if (Stage::current()->front() == this) session().NachReport = false;
+}
+
+void Besatzung::tblBList_OnGridCellOpen(int row) {
+    if (row < 0) return;
+    modBesatzList::BesatzAnzeigeLoeschen();
+    modBesatzList::loadEintrag(tblBList, row);
+    session().Modus = u"EDIT"_qs;
+    session().AktZeile = row;
 }
