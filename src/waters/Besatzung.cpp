@@ -29,7 +29,7 @@ void Besatzung::Form_Activate() {
     modFangbuch::loadcboFArt(cboFArt);
     modFangbuch::loadcboGName(cboGName);
     modFangbuch::loadcboFJahr(cboBJahr);
-    waehleJahr(QString::number(today().year()));
+    waehleJahr(QString::number(session().AktJahr));
     zeigeAnzahl();
 }
 
