@@ -101,7 +101,7 @@ void Briefkopf::addLongTitle(const QString& label, const QString& title) {
         .wrapped();
 }
 
-void Briefkopf::addLongTitle(const QString& label, const QString& title) {
+void Briefkopf::addGrowingTitle(const QString& label, const QString& title) {
     constexpr int spaceBelow = 8;
     constexpr double longTitlePoints = 13.5; // five lines of it
     m_head.addLabel(label, title, {titleLeft, 0, breadth - titleLeft, headTop - spaceBelow})

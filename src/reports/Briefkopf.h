@@ -26,16 +26,17 @@ public:
     /// long title needs smaller letters than the 20 points it gets.
     ReportControl& addTitle(const QString& label, const QString& title);
     void addSetting(const QString& label, const QString& caption, const QString& value);
-    /// A title that may take several lines, in the place of title and settings.
+    /// A title of up to three lines, in place of addTitle; no settings stand below it.
     void addLongTitle(const QString& label, const QString& title);
+    /// A title that each run makes longer: up to five lines in smaller letters, in the place of title and
+    /// settings.
+    void addGrowingTitle(const QString& label, const QString& title);
 
     /// Smaller letters and less air in the table, where there are many columns. To be called before them.
     void setDense();
     /// The column heads on the frame Shape1, the texts, and the rules Line1 (below each row), Line2 and Line3
     /// (at the table's sides).
     void addColumns(std::initializer_list<ReportColumn> columns);
-    /// A title of up to three lines, in place of addTitle; no settings stand below it.
-    void addLongTitle(const QString& label, const QString& title);
 
     // The report footer. Each line is a caption (a label of its own name) with its value behind it; what is
     // returned is the value.
