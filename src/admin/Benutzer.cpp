@@ -4,6 +4,7 @@
 #include "Session.h"
 #include "ValueLabel.h"
 #include "modBenutzer.h"
+#include "modRun.h"
 
 #include <QTabWidget>
 
@@ -25,7 +26,10 @@ void Benutzer::Form_Paint() {
     lblGAnzahl->setCaption(QString::number(tblZugriff->rowCount()));
 }
 
-void Benutzer::Form_Deactivate() { modBenutzer::LeereBenutzerAnzeige(); }
+void Benutzer::Form_Deactivate() {
+    modRun::vergissOffenen(lblBNr->Caption() + lblGNr->Caption());
+    modBenutzer::LeereBenutzerAnzeige();
+}
 
 void Benutzer::Toolbar1_ButtonClick(const QString& key) {
     if (tabBV->currentIndex() == userPage)

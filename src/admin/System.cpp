@@ -80,7 +80,10 @@ void System::buildParameters() {
     form->setRowStretch(3, 1);
 }
 
-void System::Form_Deactivate() { modSystem::LeereParameter(); }
+void System::Form_Deactivate() {
+    modRun::vergissOffenen(txtJB->Text() + txtFJahr->Text() + txtArbStd->Text());
+    modSystem::LeereParameter();
+}
 
 void System::Toolbar1_ButtonClick(const QString& key) {
     if (key == u"tbSpeichern"_qs) {

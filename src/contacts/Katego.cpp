@@ -81,6 +81,7 @@ void Katego::Form_Load() {
 }
 
 void Katego::Form_Deactivate() {
+    modRun::vergissOffenen(lblKategoNr->Caption());
     tblKatego->selectRows(0, tblKatego->rowCount(), false);
     lblKategoNr->setCaption(QString());
     txtKatego->setText(QString());

@@ -15,7 +15,9 @@
 #include "NavigationBar.h"
 #include "Screens.h"
 #include "Session.h"
+#include "Stage.h"
 #include "System.h"
+#include "Vorschau.h"
 #include "modMitglList.h"
 
 namespace modNavigation {
@@ -70,6 +72,11 @@ void hideIfLoaded() {
     if (isLoaded<T>()) screen<T>().Hide();
 }
 
+/// A preview that the user leaves by the bar is closed, so that its list is left as any other.
+void schliesseVorschau() {
+    if (isLoaded<Vorschau>() && Stage::current()->front() == &screen<Vorschau>()) unload<Vorschau>();
+}
+
 /// Makes the item the current one, binds its screen and shows that.
 void showScreen(const QString& key) {
     Screen& target = find(key)->screen();
@@ -107,13 +114,16 @@ void VersteckeFormen() {
     hideIfLoaded<Besatzung>();
     hideIfLoaded<Hinter>();
     hideIfLoaded<MitglList>();
-    if (isLoaded<MitglList>()) modMitglList::LeereMListAnzeige();
+    // The list from which a member goes to the ledger waits for the user to come back.
+    const bool wartet = isLoaded<Arbeit>() && screen<Arbeit>().erwartetMitglied();
+    if (isLoaded<MitglList>() && !wartet) modMitglList::LeereMListAnzeige();
     hideIfLoaded<Katego>();
 }
 
 void zeigeBereich(const QString& key) {
     if (key == u"Kontakte"_qs) session().SuchAufrufer = 0;
     if (key == u"Arbeit"_qs) session().SuchAufrufer = 1;
+    schliesseVorschau();
     VersteckeFormen();
     showScreen(key);
     if (key == u"Fangbuch"_qs) screen<Fangbuch>().cboFArt->setFocus();

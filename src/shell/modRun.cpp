@@ -4,6 +4,7 @@
 #include "DataTable.h"
 #include "EventGuard.h"
 #include "MsgBox.h"
+#include "Session.h"
 #include "TextBox.h"
 
 #include <QApplication>
@@ -52,6 +53,10 @@ void connectGridFocus(DataTable* grid) {
                      [grid] { runEvent([grid] { SetzeGridFarben(grid->selectionStyle()); }); });
     QObject::connect(grid, &DataTable::OnGridLostFocus, grid,
                      [grid] { runEvent([grid] { grid->selectRows(0, grid->rowCount(), false); }); });
+}
+
+void vergissOffenen(const QString& nummer) {
+    if (!nummer.isEmpty()) session().Modus = u"SAVE"_qs;
 }
 
 void MeldeNichtVorhanden() {

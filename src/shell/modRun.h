@@ -18,6 +18,10 @@ void SetzeGridFarben(SelectionStyle& style);
 /// What every grid does when it receives and when it loses the focus.
 void connectGridFocus(DataTable* grid);
 
+/// For a screen that is left and empties its fields: a record that stood open there is open no more, and the
+/// next screen must not take it for one of its own. `nummer` is empty if none was open.
+void vergissOffenen(const QString& nummer);
+
 void MeldeNichtVorhanden();
 void MeldeNichtsGefunden();
 void MeldeEingabeFehler();

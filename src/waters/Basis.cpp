@@ -143,7 +143,10 @@ void Basis::Form_Paint() {
     lblGAnzahl->setCaption(QString::number(tblGBasis->rowCount()));
 }
 
-void Basis::Form_Deactivate() { modBasis::BasisAlleAnzeigenLoeschen(); }
+void Basis::Form_Deactivate() {
+    modRun::vergissOffenen(lblFNr->Caption() + lblGNr->Caption());
+    modBasis::BasisAlleAnzeigenLoeschen();
+}
 
 void Basis::Toolbar1_ButtonClick(const QString& key) {
     // The page in front decides at the moment of the click.

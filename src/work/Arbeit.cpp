@@ -15,6 +15,8 @@
 #include "ValueLabel.h"
 #include "modArbeit.h"
 #include "modKontakt.h"
+#include "modNavigation.h"
+#include "modRun.h"
 
 #include <QPushButton>
 
@@ -40,7 +42,10 @@ void Arbeit::Form_Activate() {
 }
 
 void Arbeit::Form_Deactivate() {
-    if (!session().NachReport) modArbeit::LeereArbAnzeige();
+    if (!session().NachReport) {
+        modRun::vergissOffenen(lblArbNr->Caption());
+        modArbeit::LeereArbAnzeige();
+    }
     unload<SuchKont>();
 }
 
@@ -84,6 +89,7 @@ void Arbeit::cmdSuch_Click() {
 
 void Arbeit::cmdMList_Click() {
     Hide();
+    modNavigation::binde(session().AktBarItem, screen<MitglList>());
     screen<MitglList>().Show();
 }
 

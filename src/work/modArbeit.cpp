@@ -77,6 +77,9 @@ void zeigeGeaenderten(ErrorTail& step, const Recordset& arbeit, const Arbeit& fo
     }
 }
 
+/// A booking that came without a date opens with the empty one.
+Date datumOderLeer(const Value& datum) { return datum.isNull() ? Date() : CDate(datum); }
+
 void zeigeNeueSumme(ErrorTail& step, const Arbeit& form) {
     step([&] {
         const double stunden = ErmittleStunden(CLng(form.lblKNr->Caption()), CLng(form.cboArbJahr->Text()));
@@ -120,6 +123,7 @@ void UpdateStunden(int row) {
         }
         zeigeNeueSumme(step, form);
         LeereArbEingabe();
+        form.pvDate->setFocus();
         step([&] { arbeit.Close(); });
     });
 }
@@ -136,6 +140,7 @@ void LoescheStunden(int row) {
             modRun::MeldeNichtVorhanden();
         }
         LeereArbEingabe();
+        form.pvDate->setFocus();
         step([&] { arbeit.Close(); });
     });
 }
@@ -154,7 +159,7 @@ void loadArbeitsVorgang(int row, int /*column*/) {
         const auto text = [&](const QString& field) { return Format(arbeit.Collect(field), QString()); };
         if (step.test([&] { return arbeit.RecordCount() == 1; })) {
             step([&] { form.lblArbNr->setCaption(text(u"ArbNr"_qs)); });
-            step([&] { form.pvDate->setDate(arbeit.Collect(u"Datum"_qs).date()); });
+            step([&] { form.pvDate->setDate(datumOderLeer(arbeit.Collect(u"Datum"_qs))); });
             step([&] { form.txtArbNotiz->setText(text(u"Notiz"_qs)); });
             step([&] { form.txtArbStd->setText(text(u"ArbStd"_qs)); });
         } else {

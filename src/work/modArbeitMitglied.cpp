@@ -72,6 +72,11 @@ bool schuldetStunden(ErrorTail& step, const QString& knr) {
 
 void zeigeMitglied(ErrorTail& step, const Mitglied& mitglied) {
     Arbeit& form = screen<Arbeit>();
+    if (!form.lblArbNr->Caption().isEmpty()) {
+        // A booking that stands open is the former member's: it must not be taken for the new one's.
+        LeereArbEingabe();
+        session().Modus = u"SAVE"_qs;
+    }
     form.lblKNr->setCaption(mitglied.knr);
     form.lblVName->setCaption(mitglied.vorname);
     form.lblNName->setCaption(mitglied.nachname);
@@ -116,8 +121,8 @@ void mnuArbContr_Click() {
         Arbeit& form = screen<Arbeit>();
         form.cmdMList->setEnabled(true);
         form.erwarteMitglied();
-        screen<MitglList>().Hide();
         modNavigation::zeigeBereich(u"Arbeit"_qs);
+        form.pvDate->setFocus();
     });
 }
 
@@ -132,8 +137,8 @@ double loadTblArbeit(qint32 knr, qint32 jahr) {
         step([&] { grid->clearRows(); });
         std::vector<Field> felder;
         step([&] { felder = liste.Fields(); });
-        std::array<Value, 4> zeile;
         while (step.test([&] { return !liste.Eof(); })) {
+            std::array<Value, 4> zeile;
             // A cell that cannot be read costs that cell, not the row.
             for (std::size_t i = 0; i < felder.size(); ++i) step([&] { zeile[i] = felder[i].Value(); });
             step([&] { zeile[2] = Format(zeile[2], stundenMuster()); });
