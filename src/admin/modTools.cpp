@@ -1,6 +1,7 @@
 #include "modTools.h"
 
 #include "DBEngine.h"
+#include "FileReplacement.h"
 #include "Main.h"
 #include "MsgBox.h"
 #include "RuntimeError.h"
@@ -9,14 +10,12 @@
 #include "modStart.h"
 
 #include <QApplication>
-#include <QFile>
 
 namespace modTools {
 
 namespace {
 
 constexpr int cannotBeRepaired = 3056;
-constexpr int accessDenied = 75;
 
 struct Words {
     QString success;
@@ -39,8 +38,7 @@ void rewriteFile() {
     const QString work = programFolder() + u"/temp/uwtmp.mdb"_qs;
     modStart::SchliesseDatenbank();
     DBEngine::CompactDatabase(file, work, connectText());
-    if (!QFile::remove(file)) throw runtimeError(accessDenied);
-    if (!QFile::rename(work, file)) throw runtimeError(accessDenied);
+    replaceDatabase(work, file);
 }
 
 void tellFailure(const RuntimeError& error, const Words& words) {

@@ -1,5 +1,6 @@
 #include "Compaction.h"
 
+#include "Salvage.h"
 #include "UnfinishedFile.h"
 
 #include <QFile>
@@ -77,29 +78,29 @@ void verifyCopy(Connection& source, const QString& target, const QString& passwo
         if (countRows(source, table.name) != countRows(copy, table.name)) throw runtimeError(3343, target);
 }
 
-/// A file so damaged that not even its tables can be read is beyond repair.
-std::unique_ptr<Connection> openSource(const QString& source, const QString& password) {
-    try {
-        return std::make_unique<Connection>(source, password, Connection::Access::ReadWrite);
-    } catch (const RuntimeError& error) {
-        if (error.number == 3343) throw runtimeError(3056, source);
-        throw;
-    }
+void copyFile(const QString& source, const QString& target, const QString& password) {
+    Connection original(source, password, Connection::Access::ReadWrite);
+    UnfinishedFile copy(target, password);
+    // Who may not read the original shall not read its copy either, not even while it grows.
+    if (!QFile::setPermissions(target, QFile::permissions(source))) throw runtimeError(70);
+    // Nobody may write to the original while it is read table by table.
+    original.execute("BEGIN");
+    copyAll(original, copy.connection());
+    copy.write();
+    verifyCopy(original, target, password);
+    original.execute("COMMIT");
+    copy.finish();
 }
 
 } // namespace
 
 void compactFile(const QString& source, const QString& target, const QString& password) {
+    constexpr int damaged = 3343;
     requireNewFile(target);
-    const auto original = openSource(source, password);
-    UnfinishedFile copy(target, password);
-    // Who may not read the original shall not read its copy either, not even while it grows.
-    if (!QFile::setPermissions(target, QFile::permissions(source))) throw runtimeError(70);
-    // Nobody may write to the original while it is read table by table.
-    original->execute("BEGIN");
-    copyAll(*original, copy.connection());
-    copy.write();
-    verifyCopy(*original, target, password);
-    original->execute("COMMIT");
-    copy.finish();
+    try {
+        copyFile(source, target, password);
+    } catch (const RuntimeError& error) {
+        if (error.number != damaged) throw;
+        salvageFile(source, target, password);
+    }
 }

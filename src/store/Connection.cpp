@@ -3,6 +3,7 @@
 #include "Cursor.h"
 #include "FileShape.h"
 #include "InterruptedFile.h"
+#include "Salvage.h"
 #include "SelectRewriter.h"
 #include "SqlFunctions.h"
 #include "Sqlite.h"
@@ -63,8 +64,7 @@ void Connection::openExisting(const QString& path, const QString& password, Acce
         requireKeyOfInterrupted(path, password);
     else
         requireWholePages(path);
-    openFile(path, password, access);
-    readFirstPage(path);
+    openKnown(path, password, access);
     requireWholePages(path);
     requireTables(path);
     if (access == Access::ReadWrite) leaveWriteAheadMode(path);
@@ -83,7 +83,21 @@ void Connection::openFile(const QString& path, const QString& password, Access a
     execute("PRAGMA foreign_keys = OFF");
     execute("PRAGMA synchronous = FULL");
     execute("PRAGMA cache_size = -32768");
+    // What was deleted stays nowhere in the file, where a repair might find it again.
+    execute("PRAGMA secure_delete = ON");
     registerSqlFunctions(m_database.get());
+}
+
+/// A first page that the password does not open is damaged if it opens others.
+void Connection::openKnown(const QString& path, const QString& password, Access access) {
+    try {
+        openFile(path, password, access);
+        readFirstPage(path);
+    } catch (const RuntimeError& error) {
+        m_database.reset();
+        if (error.number == 3031 && fitsOtherPages(path, password)) throw runtimeError(3343, path);
+        throw;
+    }
 }
 
 /// Takes back what a killed process left half-written, and shows whether the password is right.

@@ -55,6 +55,7 @@ public:
 
 private:
     void openExisting(const QString& path, const QString& password, Access access);
+    void openKnown(const QString& path, const QString& password, Access access);
     void openFile(const QString& path, const QString& password, Access access);
     void readFirstPage(const QString& path);
     void requireTables(const QString& path);

@@ -32,7 +32,8 @@ class DBEngine {
 public:
     /// There is one workspace, number 0.
     static Workspace Workspaces(int index);
-    /// Writes a compact, verified copy of a closed file, whole on disk before this returns. The target must
-    /// not exist (3204) and its folder must (3044). 3056 when not even the tables of the source can be read.
+    /// Writes a compact, verified copy of a closed file, whole on disk before this returns; of a damaged one
+    /// with all rows that lie on whole pages. The target must not exist (3204) and its folder must (3044).
+    /// 3056 when no row of the source can be read.
     static void CompactDatabase(const QString& source, const QString& target, const QString& password);
 };

@@ -4,12 +4,6 @@
 
 #include <QFileInfo>
 
-namespace {
-
-constexpr qint64 pageBytes = 1024;
-
-} // namespace
-
 void requireReadableFile(const QString& path) {
     const QFileInfo file(path);
     if (!file.exists()) throw runtimeError(3024, path);

@@ -2,6 +2,9 @@
 
 #include <QString>
 
+/// The library's encrypted files consist of pages of this size.
+constexpr qint64 pageBytes = 1024;
+
 // What can be told of a file before its password is tried: a wrong password and damage look the same from
 // within, but damage often shows from outside.
 

@@ -15,6 +15,7 @@ namespace {
 
 constexpr QLatin1String rollbackEnding("-journal");
 constexpr QLatin1String logEnding("-wal");
+constexpr QLatin1String logIndexEnding("-shm");
 
 /// A file said to be immutable is read without locks and without a look at its journal.
 DatabaseHandle openAsItLies(const QString& path) {
@@ -65,6 +66,10 @@ bool fitsOnceTakenBack(const QString& path, const QByteArray& content, const QSt
 }
 
 } // namespace
+
+QStringList journalsOf(const QString& path) {
+    return {path + rollbackEnding, path + logEnding, path + logIndexEnding};
+}
 
 bool isInterrupted(const QString& path) {
     return QFileInfo(path + rollbackEnding).size() > 0 || QFile::exists(path + logEnding);

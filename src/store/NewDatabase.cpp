@@ -2,29 +2,36 @@
 
 #include "UnfinishedFile.h"
 
-namespace {
-
-const QList<QByteArray>& seedStatements() {
-    static const QList<QByteArray> statements{
-        "INSERT INTO \"Katego\" VALUES (1, 'Mitglieder (aktiv)'), (2, 'Mitglieder (passiv)')",
-        "INSERT INTO \"Gruppen\" VALUES (1, 'Administratoren', 1, 1, 1, 1, 1, 1, 1, 1, 1, 1)",
-        "INSERT INTO \"Benutzer\" VALUES (1, 'Admin', '', 1)",
-    };
-    return statements;
-}
-
-void addSystemRow(Connection& connection, int year) {
-    Statement system = connection.prepare("INSERT INTO \"System\" VALUES (?1, 0, 0, '', '', '', '', '')");
+void seedSystem(Connection& file, int year) {
+    Statement system = file.prepare("INSERT INTO \"System\" VALUES (?1, 0, 0, '', '', '', '', '')");
     system.bind(1, static_cast<qint64>(year));
     system.run();
 }
 
-} // namespace
+void seedCategories(Connection& file) {
+    file.execute("INSERT OR IGNORE INTO \"Katego\" VALUES (1, 'Mitglieder (aktiv)'), "
+                 "(2, 'Mitglieder (passiv)')");
+}
+
+void seedGroup(Connection& file) {
+    file.execute(
+        "INSERT OR IGNORE INTO \"Gruppen\" VALUES (1, 'Administratoren', 1, 1, 1, 1, 1, 1, 1, 1, 1, 1)");
+}
+
+void seedUser(Connection& file) {
+    const QByteArray group = "(SELECT MIN(\"GNr\") FROM \"Gruppen\" WHERE \"Benutzerverwaltung\")";
+    // Two of one name and password would keep each other out.
+    file.execute("UPDATE \"Benutzer\" SET \"GNr\" = " + group +
+                 " WHERE \"Name\" = 'Admin' COLLATE NOCASE AND \"Passwort\" = ''");
+    if (file.changes() == 0) file.execute("INSERT INTO \"Benutzer\" SELECT NULL, 'Admin', '', " + group);
+}
 
 void createDatabase(const QString& path, const QString& password, int year) {
     UnfinishedFile file(path, password);
     for (const QByteArray& statement : schemaStatements()) file.connection().execute(statement);
-    for (const QByteArray& statement : seedStatements()) file.connection().execute(statement);
-    addSystemRow(file.connection(), year);
+    seedCategories(file.connection());
+    seedGroup(file.connection());
+    seedUser(file.connection());
+    seedSystem(file.connection(), year);
     file.finish();
 }

@@ -25,8 +25,9 @@ RuntimeError constraintError(int extendedCode) {
 
 RuntimeError ioError(int extendedCode) {
     if (extendedCode == SQLITE_IOERR_NOMEM) return runtimeError(7);
-    // A file that ends inside a page was cut short.
-    if (extendedCode == SQLITE_IOERR_SHORT_READ) return runtimeError(3343);
+    // A file that ends inside a page was cut short, and what the disk does not give is as good as lost.
+    if (extendedCode == SQLITE_IOERR_SHORT_READ || extendedCode == SQLITE_IOERR_READ)
+        return runtimeError(3343);
     return {3043, QStringLiteral("Datenträger- oder Netzwerkfehler.")};
 }
 
@@ -39,6 +40,8 @@ RuntimeError reservedError(int extendedCode) {
 RuntimeError plainError(QByteArrayView message) {
     if (auto marked = markedError(message)) return *marked;
     if (message.startsWith("integer overflow")) return runtimeError(6);
+    // What a statement does wrong is told in words of its own. Without any, a page could not be decrypted.
+    if (message == QByteArrayView(sqlite3_errstr(SQLITE_ERROR))) return runtimeError(3343);
     return reservedError(SQLITE_ERROR);
 }
 

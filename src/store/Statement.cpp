@@ -131,3 +131,17 @@ qint64 Statement::integer(int index) const { return sqlite3_column_int64(m_state
 QString Statement::text(int index) const { return columnText(m_statement.get(), index); }
 
 int Statement::columnCount() const { return sqlite3_column_count(m_statement.get()); }
+
+Statement::Stored Statement::stored(int index) const {
+    switch (sqlite3_column_type(m_statement.get(), index)) {
+    case SQLITE_NULL:
+        return Stored::Null;
+    case SQLITE_INTEGER:
+    case SQLITE_FLOAT:
+        return Stored::Number;
+    case SQLITE_TEXT:
+        return Stored::Text;
+    default:
+        return Stored::Other;
+    }
+}

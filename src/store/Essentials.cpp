@@ -1,0 +1,84 @@
+#include "Essentials.h"
+
+#include "Clock.h"
+#include "NewDatabase.h"
+
+#include <array>
+
+namespace {
+
+struct Reference {
+    const char* table;
+    const char* field;
+    const char* target;
+};
+
+constexpr auto references = std::to_array<Reference>({
+    {"Fang", "FischNr", "Fisch"},
+    {"Fang", "GNr", "Gewaesser"},
+    {"Besatzung", "FNr", "Fisch"},
+    {"Besatzung", "GNr", "Gewaesser"},
+    {"Kontakt", "KategoNr", "Katego"},
+    {"Mitglied", "KNr", "Kontakt"},
+    {"Arbeit", "KNr", "Kontakt"},
+    {"Benutzer", "GNr", "Gruppen"},
+});
+
+qint64 single(Connection& file, const QByteArray& sql) {
+    Statement statement = file.prepare(sql);
+    return statement.step() ? statement.integer(0) : 0;
+}
+
+void raiseCounter(Connection& file, const QString& table, qint64 number) {
+    Statement add = file.prepare("INSERT INTO sqlite_sequence SELECT ?1, 0 WHERE NOT EXISTS "
+                                 "(SELECT 1 FROM sqlite_sequence WHERE name = ?1)");
+    add.bind(1, table);
+    add.run();
+    Statement raise = file.prepare("UPDATE sqlite_sequence SET seq = max(seq, ?2) WHERE name = ?1");
+    raise.bind(1, table);
+    raise.bind(2, number);
+    raise.run();
+}
+
+void restoreSystem(Connection& file) {
+    if (single(file, "SELECT COUNT(*) FROM \"System\"") > 0) return;
+    // Catches are entered in the current fishing year.
+    const qint64 latest = single(file, "SELECT MAX(\"FangJahr\") FROM \"Fang\"");
+    seedSystem(file, static_cast<int>(latest > 0 ? latest : today().year()));
+}
+
+bool canAnybodyLogIn(Connection& file) {
+    return single(file, "SELECT COUNT(*) FROM \"Benutzer\" JOIN \"Gruppen\" USING (\"GNr\")") > 0;
+}
+
+/// With the groups back as delivered the users of the first one come in with their own passwords.
+void restoreLogin(Connection& file) {
+    if (canAnybodyLogIn(file)) return;
+    if (single(file, "SELECT COUNT(*) FROM \"Gruppen\" WHERE \"Benutzerverwaltung\"") == 0) seedGroup(file);
+    if (!canAnybodyLogIn(file)) seedUser(file);
+}
+
+void restoreMembers(Connection& file) {
+    file.execute("INSERT INTO \"Mitglied\" SELECT \"KNr\", 0, 0, 0, 0.0, 0.0, 0 FROM \"Kontakt\" WHERE "
+                 "\"KategoNr\" IN (1, 2) AND \"KNr\" NOT IN (SELECT \"KNr\" FROM \"Mitglied\")");
+}
+
+} // namespace
+
+void raiseCounters(Connection& file, const QHash<QString, qint64>& known) {
+    for (auto counter = known.begin(); counter != known.end(); ++counter)
+        if (const TableSpec* table = findTable(counter.key()); table && table->keyed)
+            raiseCounter(file, table->name.toString(), counter.value());
+    for (const Reference& reference : references) {
+        const QByteArray highest =
+            QByteArray("SELECT MAX(\"") + reference.field + "\") FROM \"" + reference.table + '"';
+        raiseCounter(file, QString::fromLatin1(reference.target), single(file, highest));
+    }
+}
+
+void restoreEssentials(Connection& file) {
+    restoreSystem(file);
+    seedCategories(file);
+    restoreLogin(file);
+    restoreMembers(file);
+}

@@ -1,0 +1,139 @@
+#include "PageReader.h"
+
+#include "FileShape.h"
+#include "RuntimeError.h"
+#include "Sqlite.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <algorithm>
+#include <limits>
+
+namespace {
+
+/// More than any table has.
+constexpr int fieldCount = 24;
+constexpr int damaged = 3343;
+
+/// A field that a row ends before shows its default, which no row of ours holds.
+QByteArray tableDefinition() {
+    QByteArrayList fields;
+    for (int i = 0; i < fieldCount; ++i) fields += "c" + QByteArray::number(i) + " DEFAULT x''";
+    return "CREATE TABLE page(" + fields.join(", ") + ')';
+}
+
+void writeAll(QFile& file, const QByteArray& bytes) {
+    if (file.write(bytes) != bytes.size() || !file.flush()) throw runtimeError(3026);
+}
+
+void execute(sqlite3* database, const QByteArray& sql) { Statement(database, sql).run(); }
+
+DatabaseHandle openWithKey(const QString& path, const QString& password) {
+    DatabaseHandle handle = openHandle(path.toUtf8(), SQLITE_OPEN_READWRITE);
+    setKey(handle.get(), password);
+    return handle;
+}
+
+/// The copy is thrown away in any case, so nothing about it has to outlast a failure.
+void forgetSafety(sqlite3* database) {
+    execute(database, "PRAGMA journal_mode = MEMORY");
+    execute(database, "PRAGMA synchronous = OFF");
+}
+
+/// Nothing if the next row can't be read.
+std::optional<bool> tryStep(Statement& statement) {
+    try {
+        return statement.step();
+    } catch (const RuntimeError& error) {
+        if (error.number != damaged) throw;
+        return std::nullopt;
+    }
+}
+
+} // namespace
+
+PageReader::PageReader(const QString& path, const QString& password, int mostPages)
+    : m_copy(m_folder.filePath(QStringLiteral("pages"))) {
+    const qint64 pages = QFileInfo(path).size() / pageBytes;
+    m_pageCount = static_cast<int>(std::min<qint64>(pages, mostPages));
+    makeCopy(path, password);
+    execute(m_pointing.get(), "PRAGMA writable_schema = ON");
+    m_reading = openWithKey(m_copy, password);
+    m_begin = Statement(m_pointing.get(), "BEGIN");
+    m_point = Statement(m_pointing.get(), "UPDATE sqlite_master SET rootpage = ?1");
+    m_commit = Statement(m_pointing.get(), "COMMIT");
+    m_rows = Statement(m_reading.get(), "SELECT rowid, * FROM page WHERE rowid > ?1 ORDER BY rowid");
+    m_next = Statement(m_reading.get(), "SELECT rowid FROM page WHERE rowid > ?1 ORDER BY rowid LIMIT 1");
+}
+
+void PageReader::makeCopy(const QString& path, const QString& password) {
+    QFile original(path);
+    if (!original.open(QIODevice::ReadOnly)) throw runtimeError(3051, path);
+    const QByteArray salt = original.read(saltBytes);
+    if (m_pageCount == 0 || salt.size() != saltBytes) throw runtimeError(3056, path);
+    growCopy(salt, password);
+    fillCopy(original);
+}
+
+/// The library takes the salt from the file that it finds, and keeps it for the one that it begins.
+void PageReader::growCopy(const QByteArray& salt, const QString& password) {
+    QFile copy(m_copy);
+    if (!copy.open(QIODevice::ReadWrite)) throw runtimeError(3026);
+    writeAll(copy, salt);
+    m_pointing = openWithKey(m_copy, password);
+    if (!copy.resize(0)) throw runtimeError(3026);
+    forgetSafety(m_pointing.get());
+    execute(m_pointing.get(), tableDefinition());
+    // The first page says how many there are, so as many are made before the others take their place.
+    Statement grow(m_pointing.get(), "INSERT INTO page(c0) VALUES (zeroblob(?1))");
+    grow.bind(1, m_pageCount * pageBytes);
+    grow.run();
+}
+
+void PageReader::fillCopy(QFile& original) const {
+    QFile copy(m_copy);
+    if (!copy.open(QIODevice::ReadWrite)) throw runtimeError(3026);
+    for (qint64 at = pageBytes; at < m_pageCount * pageBytes; at += pageBytes) {
+        // A page that the disk does not give is a damaged page like any other.
+        const QByteArray page = original.seek(at) ? original.read(pageBytes) : QByteArray();
+        if (!copy.seek(at)) throw runtimeError(3026);
+        writeAll(copy, page.leftJustified(pageBytes, 'x'));
+    }
+}
+
+/// The other connection sees that the table has moved and reads anew where it begins.
+void PageReader::turnTo(int page) {
+    m_begin.run();
+    m_point.bind(1, static_cast<qint64>(page));
+    m_point.run();
+    execute(m_pointing.get(), "PRAGMA schema_version = " + QByteArray::number(page));
+    m_commit.run();
+}
+
+/// A row that can't be read may still tell its number.
+bool PageReader::passOver(qint64& row) {
+    m_next.bind(1, row);
+    const bool found = tryStep(m_next).value_or(false);
+    if (found) row = m_next.integer(0);
+    m_next.reset();
+    return found;
+}
+
+bool PageReader::rowsOf(int page, const std::function<bool(const Statement&)>& take) {
+    turnTo(page);
+    qint64 last = std::numeric_limits<qint64>::min();
+    bool whole = true;
+    do {
+        m_rows.bind(1, last);
+        std::optional<bool> more = tryStep(m_rows);
+        while (more.value_or(false)) {
+            last = m_rows.integer(0);
+            if (!take(m_rows)) break;
+            more = tryStep(m_rows);
+        }
+        m_rows.reset();
+        if (more) return whole;
+        whole = false;
+    } while (passOver(last));
+    return false;
+}

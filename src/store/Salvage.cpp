@@ -1,0 +1,47 @@
+#include "Salvage.h"
+
+#include "Essentials.h"
+#include "PageReader.h"
+#include "PageSweep.h"
+#include "UnfinishedFile.h"
+
+#include <QFile>
+#include <limits>
+
+namespace {
+
+/// Enough to meet pages of any kind.
+constexpr int samplePages = 64;
+
+void createTables(Connection& target) {
+    for (const QByteArray& statement : schemaStatements()) target.execute(statement);
+}
+
+void verify(const QString& target, const QString& password) {
+    Connection copy(target, password, Connection::Access::ReadOnly);
+    Statement check = copy.prepare("PRAGMA integrity_check");
+    if (!check.step() || check.text(0) != u"ok") throw runtimeError(3343, target);
+}
+
+} // namespace
+
+void salvageFile(const QString& source, const QString& target, const QString& password) {
+    PageReader pages(source, password, std::numeric_limits<int>::max());
+    UnfinishedFile file(target, password);
+    if (!QFile::setPermissions(target, QFile::permissions(source))) throw runtimeError(70);
+    createTables(file.connection());
+    PageSweep sweep(pages, file.connection());
+    if (!sweep.run()) throw runtimeError(3056, source);
+    raiseCounters(file.connection(), sweep.counters());
+    restoreEssentials(file.connection());
+    file.write();
+    verify(target, password);
+    file.finish();
+}
+
+bool fitsOtherPages(const QString& path, const QString& password) {
+    PageReader pages(path, password, samplePages);
+    for (int page = 2; page <= pages.pageCount(); ++page)
+        if (pages.rowsOf(page, [](const Statement&) { return false; })) return true;
+    return false;
+}
