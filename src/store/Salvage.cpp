@@ -17,12 +17,6 @@ void createTables(Connection& target) {
     for (const QByteArray& statement : schemaStatements()) target.execute(statement);
 }
 
-void verify(const QString& target, const QString& password) {
-    Connection copy(target, password, Connection::Access::ReadOnly);
-    Statement check = copy.prepare("PRAGMA integrity_check");
-    if (!check.step() || check.text(0) != u"ok") throw runtimeError(3343, target);
-}
-
 } // namespace
 
 void salvageFile(const QString& source, const QString& target, const QString& password) {
@@ -35,7 +29,7 @@ void salvageFile(const QString& source, const QString& target, const QString& pa
     raiseCounters(file.connection(), sweep.counters());
     restoreEssentials(file.connection());
     file.write();
-    verify(target, password);
+    file.verify();
     file.finish();
 }
 

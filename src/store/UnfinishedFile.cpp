@@ -33,6 +33,17 @@ void UnfinishedFile::start(const QString& password) {
     m_connection->execute("BEGIN IMMEDIATE");
 }
 
+void UnfinishedFile::attach(const QString& path, const QString& password) {
+    // Only between two transactions, of which the first has written nothing yet.
+    m_connection->execute("COMMIT");
+    Statement attach = m_connection->prepare("ATTACH ?1 AS original KEY ?2");
+    attach.bind(1, path);
+    attach.bind(2, password);
+    attach.run();
+    m_connection->execute("PRAGMA original.cipher_compatibility = 3");
+    m_connection->execute("BEGIN");
+}
+
 void UnfinishedFile::discard() {
     m_connection.reset();
     QFile::remove(m_path);
@@ -41,10 +52,18 @@ void UnfinishedFile::discard() {
 
 void UnfinishedFile::write() {
     m_connection->execute("COMMIT");
-    m_connection->close();
+    m_written = true;
+    m_connection->execute("PRAGMA shrink_memory");
+}
+
+void UnfinishedFile::verify() {
+    // Whether the indexes know every row need not be asked: they were just made from the rows.
+    Statement check = m_connection->prepare("PRAGMA main.quick_check");
+    if (!check.step() || check.text(0) != u"ok") throw runtimeError(3343, m_path);
 }
 
 void UnfinishedFile::finish() {
-    if (m_connection->isOpen()) write();
+    if (!m_written) write();
+    m_connection->close();
     m_finished = true;
 }

@@ -15,10 +15,14 @@ public:
     UnfinishedFile& operator=(const UnfinishedFile&) = delete;
 
     Connection& connection() { return *m_connection; }
-    /// Writes everything to the disk, the folder's entry included, and lets go of the file, which can still
-    /// be thrown away.
+    /// Makes another file's tables readable under the name `original`. Before anything is written.
+    void attach(const QString& path, const QString& password);
+    /// Writes everything to the disk, the folder's entry included, and forgets it, so that it is read from
+    /// there again. The file can still be thrown away.
     void write();
-    /// As above, and the file stays.
+    /// Error 3343 if what was written can't be read.
+    void verify();
+    /// Writes what is not yet written and lets go of the file, which stays.
     void finish();
 
 private:
@@ -27,5 +31,6 @@ private:
 
     QString m_path;
     std::optional<Connection> m_connection;
+    bool m_written = false;
     bool m_finished = false;
 };
