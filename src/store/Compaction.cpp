@@ -1,94 +1,155 @@
 #include "Compaction.h"
 
+#include "Connection.h"
 #include "Salvage.h"
-#include "UnfinishedFile.h"
+#include "UnfinishedPath.h"
 
 #include <QFile>
+#include <QHash>
 
 namespace {
 
-struct SchemaObject {
-    QString name;
-    QByteArray sql;
+/// A file and its copy, which the same connection knows as main and copy.
+class Compaction {
+public:
+    Compaction(const QString& source, const QString& target, const QString& password);
+    void run();
+
+private:
+    struct SchemaObject {
+        QString name;
+        QByteArray sql;
+    };
+
+    void makeEmptyCopy(const QString& source) const;
+    void attachCopy(const QString& password);
+    QList<SchemaObject> schemaObjects(const QByteArray& condition);
+    void create(const SchemaObject& object);
+    void copyRows(const QString& table);
+    void copyCounters();
+    void copyMarks();
+    void copyAll();
+    QHash<QString, qint64> countRows(const QByteArray& file);
+    void verify(const QHash<QString, qint64>& counts);
+
+    UnfinishedPath m_target;
+    Connection m_connection;
+    QList<SchemaObject> m_tables;
 };
 
-QList<SchemaObject> schemaObjects(Connection& source, const QByteArray& condition) {
+Compaction::Compaction(const QString& source, const QString& target, const QString& password)
+    : m_target(target)
+    , m_connection(source, password, Connection::Access::ReadWrite) {
+    makeEmptyCopy(source);
+    attachCopy(password);
+}
+
+/// Who may not read the original shall not read its copy either, not even while it grows.
+void Compaction::makeEmptyCopy(const QString& source) const {
+    QFile copy(m_target.path());
+    const bool made = copy.open(QIODevice::WriteOnly | QIODevice::NewOnly);
+    if (!made || !copy.setPermissions(QFile::permissions(source))) throw runtimeError(70);
+}
+
+void Compaction::attachCopy(const QString& password) {
+    Statement attach = m_connection.prepare("ATTACH ?1 AS copy KEY ?2");
+    attach.bind(1, m_target.path());
+    attach.bind(2, password);
+    attach.run();
+    m_connection.execute("PRAGMA copy.cipher_compatibility = 3");
+    // Makes the entry in the folder last as well.
+    m_connection.execute("PRAGMA copy.synchronous = EXTRA");
+    // Indexes are sorted in this much memory.
+    m_connection.execute("PRAGMA main.cache_size = -131072");
+    m_connection.execute("PRAGMA copy.cache_size = -131072");
+}
+
+QList<Compaction::SchemaObject> Compaction::schemaObjects(const QByteArray& condition) {
     QList<SchemaObject> objects;
     Statement found =
-        source.prepare("SELECT name, sql FROM sqlite_master WHERE sql IS NOT NULL AND " + condition +
-                       " AND name NOT LIKE 'sqlite\\_%' ESCAPE '\\' ORDER BY rowid");
+        m_connection.prepare("SELECT name, sql FROM main.sqlite_master WHERE sql IS NOT NULL AND " +
+                             condition + " AND name NOT LIKE 'sqlite\\_%' ESCAPE '\\' ORDER BY rowid");
     while (found.step()) objects.push_back({found.text(0), found.text(1).toUtf8()});
     return objects;
 }
 
+/// The library keeps every definition as CREATE, what it is, its name and the rest.
+void Compaction::create(const SchemaObject& object) {
+    for (const QByteArray kind :
+         {"CREATE TABLE ", "CREATE INDEX ", "CREATE UNIQUE INDEX ", "CREATE VIEW ", "CREATE TRIGGER "})
+        if (object.sql.startsWith(kind))
+            return m_connection.execute(kind + "copy." + object.sql.sliced(kind.size()));
+    throw runtimeError(3343, object.name);
+}
+
 /// Where both tables are alike, the library hands the rows over as they are stored.
-void copyRows(Connection& target, const QString& table) {
-    target.execute("INSERT INTO main." + quotedName(table) + " SELECT * FROM original." + quotedName(table));
+void Compaction::copyRows(const QString& table) {
+    m_connection.execute("INSERT INTO copy." + quotedName(table) + " SELECT * FROM main." +
+                         quotedName(table));
 }
-
-qint64 countRows(Connection& connection, const QString& table) {
-    Statement count = connection.prepare("SELECT COUNT(*) FROM main." + quotedName(table));
-    count.step();
-    return count.integer(0);
-}
-
-QList<SchemaObject> userTables(Connection& connection) { return schemaObjects(connection, "type = 'table'"); }
 
 /// Numbers that were given out once are not given out again, so the counters go along.
-void copyCounters(Connection& target) {
-    target.execute("DELETE FROM main.sqlite_sequence");
-    copyRows(target, QStringLiteral("sqlite_sequence"));
+void Compaction::copyCounters() {
+    m_connection.execute("DELETE FROM copy.sqlite_sequence");
+    copyRows(QStringLiteral("sqlite_sequence"));
 }
 
 /// Numbers of the file itself by which other tools know it.
-void copyMarks(Connection& source, Connection& target) {
+void Compaction::copyMarks() {
     for (const QByteArray mark : {"user_version", "application_id"}) {
-        Statement value = source.prepare("PRAGMA " + mark);
-        if (value.step()) target.execute("PRAGMA " + mark + " = " + QByteArray::number(value.integer(0)));
+        Statement value = m_connection.prepare("PRAGMA main." + mark);
+        if (!value.step()) continue;
+        const QByteArray number = QByteArray::number(value.integer(0));
+        m_connection.execute("PRAGMA copy." + mark + " = " + number);
     }
 }
 
-void copyAll(Connection& source, Connection& target) {
-    const QList<SchemaObject> tables = userTables(source);
-    for (const SchemaObject& table : tables) {
-        target.execute(table.sql);
-        copyRows(target, table.name);
+void Compaction::copyAll() {
+    for (const SchemaObject& table : m_tables) {
+        create(table);
+        copyRows(table.name);
     }
-    copyCounters(target);
-    copyMarks(source, target);
-    for (const SchemaObject& object : schemaObjects(source, "type <> 'table'")) target.execute(object.sql);
+    copyCounters();
+    copyMarks();
+    for (const SchemaObject& object : schemaObjects("type <> 'table'")) create(object);
 }
 
-void requireAllRows(Connection& source, Connection& copy, const QString& path) {
-    for (const SchemaObject& table : userTables(source))
-        if (countRows(source, table.name) != countRows(copy, table.name)) throw runtimeError(3343, path);
+QHash<QString, qint64> Compaction::countRows(const QByteArray& file) {
+    QHash<QString, qint64> counts;
+    for (const SchemaObject& table : m_tables) {
+        Statement count = m_connection.prepare("SELECT COUNT(*) FROM " + file + '.' + quotedName(table.name));
+        if (count.step()) counts[table.name] = count.integer(0);
+    }
+    return counts;
 }
 
-void copyFile(const QString& source, const QString& target, const QString& password) {
-    Connection original(source, password, Connection::Access::ReadWrite);
-    UnfinishedFile copy(target, password);
-    // Who may not read the original shall not read its copy either, not even while it grows.
-    if (!QFile::setPermissions(target, QFile::permissions(source))) throw runtimeError(70);
-    // Nobody may write to the original while it is read table by table.
-    original.execute("BEGIN");
-    copy.attach(source, password);
-    // Indexes are sorted in this much memory.
-    copy.connection().execute("PRAGMA cache_size = -131072");
-    copyAll(original, copy.connection());
-    copy.write();
-    copy.verify();
-    requireAllRows(original, copy.connection(), target);
-    original.execute("COMMIT");
-    copy.finish();
+void Compaction::verify(const QHash<QString, qint64>& counts) {
+    // Forgets what was written, so that it is read from the disk again.
+    m_connection.execute("PRAGMA shrink_memory");
+    // Whether the indexes know every row need not be asked: they were just made from the rows.
+    Statement check = m_connection.prepare("PRAGMA copy.quick_check");
+    const bool whole = check.step() && check.text(0) == u"ok" && countRows("copy") == counts;
+    if (!whole) throw runtimeError(3343, m_target.path());
+}
+
+/// In one transaction, so that nobody writes to the original while it is read table by table.
+void Compaction::run() {
+    m_connection.execute("BEGIN");
+    m_tables = schemaObjects("type = 'table'");
+    copyAll();
+    const QHash<QString, qint64> counts = countRows("main");
+    m_connection.execute("COMMIT");
+    verify(counts);
+    m_connection.close();
+    m_target.keep();
 }
 
 } // namespace
 
 void compactFile(const QString& source, const QString& target, const QString& password) {
     constexpr int damaged = 3343;
-    requireNewFile(target);
     try {
-        copyFile(source, target, password);
+        Compaction(source, target, password).run();
     } catch (const RuntimeError& error) {
         if (error.number != damaged) throw;
         salvageFile(source, target, password);

@@ -28,8 +28,6 @@ void salvageFile(const QString& source, const QString& target, const QString& pa
     if (!sweep.run()) throw runtimeError(3056, source);
     raiseCounters(file.connection(), sweep.counters());
     restoreEssentials(file.connection());
-    file.write();
-    file.verify();
     file.finish();
 }
 
