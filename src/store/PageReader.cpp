@@ -54,6 +54,7 @@ std::optional<bool> tryStep(Statement& statement) {
 
 PageReader::PageReader(const QString& path, const QString& password, int mostPages)
     : m_copy(m_folder.filePath(QStringLiteral("pages"))) {
+    if (!m_folder.isValid()) throw runtimeError(75, m_folder.path());
     const qint64 pages = QFileInfo(path).size() / pageBytes;
     m_pageCount = static_cast<int>(std::min<qint64>(pages, mostPages));
     makeCopy(path, password);

@@ -17,7 +17,7 @@ public:
     static constexpr qint64 saltBytes = 16;
 
     /// Copies at most so many pages. Error 3056 if there is not even the salt, 3026 if there is no room for
-    /// the copy. A part of a page at the end is left out.
+    /// the copy, 75 if there can be no folder for it. A part of a page at the end is left out.
     PageReader(const QString& path, const QString& password, int mostPages);
 
     int pageCount() const { return m_pageCount; }

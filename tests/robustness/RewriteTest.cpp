@@ -1,0 +1,208 @@
+#include "Connection.h"
+#include "DBEngine.h"
+#include "DyingFileCalls.h"
+#include "FileReplacement.h"
+#include "FullDisk.h"
+#include "NewDatabase.h"
+#include "RuntimeError.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <csignal>
+#include <functional>
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+/// The bytes of the key themselves: deriving them from a password would be most of the time of these tests.
+QString key() { return u"x'"_qs + QString(64, u'7') + u'\''; }
+
+QByteArray bytesOf(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QString answer(Connection& file, const QByteArray& select) {
+    Statement statement = file.prepare(select);
+    statement.step();
+    return statement.text(0);
+}
+
+/// All rows that the tests put in, as a new opening finds them.
+QString contentOf(const QString& path) {
+    Connection file(path, key(), Connection::Access::ReadWrite);
+    EXPECT_EQ(answer(file, "PRAGMA integrity_check"), u"ok");
+    return answer(file, "SELECT group_concat(FangNr || ' ' || Notiz || ' ' || Gewicht) FROM Fang") + u'\n' +
+           answer(file, "SELECT group_concat(KNr || ' ' || Nachname) FROM Kontakt");
+}
+
+/// In memory where there is such a folder: a disk would be waited for thousands of times.
+QString testFolder() {
+    const QString memory = u"/dev/shm"_qs;
+    return (QDir(memory).exists() ? memory : QDir::tempPath()) + u"/uferwart-XXXXXX"_qs;
+}
+
+void killNow() { ::kill(getpid(), SIGKILL); }
+
+} // namespace
+
+/// A file that is rewritten through the work file in processes that may not live to see its end.
+class RewriteTest : public ::testing::Test {
+    QTemporaryDir m_folder = QTemporaryDir(testFolder());
+
+protected:
+    RewriteTest() {
+        QDir(m_folder.path()).mkdir(u"temp"_qs);
+        createDatabase(path(), key(), 2005);
+        Connection file(path(), key(), Connection::Access::ReadWrite);
+        const QByteArray numbers =
+            "WITH RECURSIVE n(i) AS (VALUES (1) UNION SELECT i + 1 FROM n WHERE i < 200) ";
+        file.execute(numbers + "INSERT INTO Fang(FangJahr, FangMonat, FischNr, GNr, Notiz, Anzahl, Gewicht) "
+                               "SELECT 2005, 3, 1, 1, 'am Ufer', 1, i * 10 FROM n");
+        file.execute(numbers + "INSERT INTO Kontakt(KategoNr, Nachname) SELECT 3, 'Name ' || i FROM n");
+        file.execute("DELETE FROM Kontakt WHERE KNr > 50");
+    }
+
+    QString path() const { return m_folder.filePath(u"uw01.mdb"_qs); }
+    QString work() const { return m_folder.filePath(u"temp/uwtmp.mdb"_qs); }
+
+    void damage(qint64 page) const {
+        QFile file(path());
+        ASSERT_TRUE(file.open(QIODevice::ReadWrite) && file.seek((page - 1) * 1024 + 500));
+        file.write("damage");
+    }
+
+    int rewrite(const std::function<void()>& between) const {
+        try {
+            DBEngine::CompactDatabase(path(), work(), key());
+            between();
+            replaceDatabase(work(), path());
+        } catch (const RuntimeError& error) {
+            return error.number;
+        }
+        return 0;
+    }
+
+    enum class End { Done, Failed, Killed };
+
+    /// In a process of its own.
+    End rewriteAfter(
+        const std::function<void()>& prepare, const std::function<void()>& between = [] {}) {
+        const pid_t child = fork();
+        if (child == 0) {
+            // What a killed process leaves in there goes with the test.
+            const QString ownTemporary = m_folder.filePath(QString::number(getpid()));
+            QDir().mkdir(ownTemporary);
+            qputenv("TMPDIR", ownTemporary.toUtf8());
+            prepare();
+            _exit(rewrite(between) == 0 ? 0 : 1);
+        }
+        int status = 0;
+        waitpid(child, &status, 0);
+        if (WIFSIGNALED(status)) return End::Killed;
+        return WEXITSTATUS(status) == 0 ? End::Done : End::Failed;
+    }
+
+    /// Remembers the file as it is and its rows as the rewriting leaves them.
+    void learn() {
+        m_old = bytesOf(path());
+        ASSERT_EQ(rewriteAfter([] {}), End::Done);
+        m_rows = contentOf(path());
+        ASSERT_LT(bytesOf(path()).size(), m_old.size());
+        restore();
+    }
+
+    void restore() const {
+        QFile file(path());
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(m_old);
+    }
+
+    /// The old file stands there untouched or the new one whole, and the next attempt ends well once a work
+    /// file that is left over is gone.
+    void requireAWholeFile() {
+        const bool isOld = bytesOf(path()) == m_old;
+        ASSERT_TRUE(isOld || contentOf(path()) == m_rows);
+        if (QFile::exists(work())) {
+            ASSERT_EQ(rewrite([] {}), 3204);
+            ASSERT_TRUE(QFile::remove(work()));
+        }
+        ASSERT_EQ(rewriteAfter([] {}), End::Done);
+        ASSERT_EQ(contentOf(path()), m_rows);
+        restore();
+    }
+
+    /// Kills at every call that changes a file, in both ways. Returns how often.
+    int killEverywhere() {
+        int kills = 0;
+        for (const Death death : {Death::BeforeCall, Death::InCall})
+            for (int place = 1;; ++place, ++kills) {
+                if (rewriteAfter([=] { dieAtFileCall(place, death); }) == End::Done) {
+                    restore();
+                    break;
+                }
+                requireAWholeFile();
+                if (HasFatalFailure()) return kills;
+            }
+        return kills;
+    }
+
+    void fillDiskEverywhere() {
+        for (int place = 1;; ++place) {
+            const End end = rewriteAfter([=] { fillDiskAtWrite(place); });
+            if (end == End::Done) break;
+            ASSERT_EQ(end, End::Failed);
+            ASSERT_FALSE(QFile::exists(work())) << "what is half-written is taken away, write " << place;
+            requireAWholeFile();
+            if (HasFatalFailure()) return;
+        }
+    }
+
+    QByteArray m_old;
+    QString m_rows;
+};
+
+TEST_F(RewriteTest, CompactingKilledAnywhereLeavesTheOldFileOrTheNewOne) {
+    learn();
+    EXPECT_GE(killEverywhere(), 50);
+    ASSERT_EQ(rewriteAfter([] {}, &killNow), End::Killed);
+    EXPECT_EQ(contentOf(work()), m_rows) << "the new file is whole before the old one goes";
+    requireAWholeFile();
+}
+
+TEST_F(RewriteTest, RepairingKilledAnywhereLeavesTheOldFileOrTheNewOne) {
+    damage(10);
+    learn();
+    EXPECT_GE(killEverywhere(), 50);
+}
+
+TEST_F(RewriteTest, AFullDiskLeavesTheOldFile) {
+    learn();
+    fillDiskEverywhere();
+    damage(10);
+    learn();
+    fillDiskEverywhere();
+}
+
+TEST_F(RewriteTest, WhatAKilledProcessLeftBesideTheOldFileIsNotTakenForTheNewOnes) {
+    learn();
+    const QString journal = path() + u"-journal"_qs;
+    // A write that was killed before its end leaves the way back.
+    const pid_t child = fork();
+    if (child == 0) {
+        Connection file(path(), key(), Connection::Access::ReadWrite);
+        file.execute("PRAGMA cache_size = 1");
+        file.execute("BEGIN");
+        file.execute("UPDATE Fang SET Notiz = 'halb'");
+        killNow();
+    }
+    waitpid(child, nullptr, 0);
+    ASSERT_TRUE(QFile::exists(journal));
+    ASSERT_TRUE(QFile::copy(journal, journal + u".kopie"_qs));
+    ASSERT_EQ(rewriteAfter([] {}, [&] { QFile::copy(journal + u".kopie"_qs, journal); }), End::Done);
+    EXPECT_FALSE(QFile::exists(journal));
+    EXPECT_EQ(contentOf(path()), m_rows);
+}
