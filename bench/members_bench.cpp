@@ -1,5 +1,4 @@
-// The member list with the hours of ten thousand members, of whom each has some bookings in each of three
-// years, and its way onto paper.
+// The member list with the hours of ten thousand members, each with some bookings in each of three years.
 
 #include "ComboBox.h"
 #include "DataTable.h"

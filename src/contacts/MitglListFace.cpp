@@ -255,6 +255,8 @@ void MitglList::connectEvents() {
         tblMList->clearRows();
         cboArbJahr->setEnabled(ticked);
     });
+    // What stands there are the hours of another year.
+    on(cboArbJahr, &ComboBox::Click, [this] { tblMList->clearRows(); });
     on(Toolbar1, &Toolbar::ButtonClick, [this](const QString& key) { Toolbar1_ButtonClick(key); });
     on(tblMList, &DataTable::OnGridCellDown, [this](int row, int) { tblMList_OnGridCellDown(row); });
     on(tblMList, &DataTable::OnGridCellOpen, [this](int row, int) { tblMList_OnGridCellOpen(row); });

@@ -34,8 +34,10 @@ void zeigeTreffer(ErrorTail& step, Recordset& kontakte, DataTable* grid) {
     step([&] { kontakte.MoveFirst(); });
     while (step.test([&] { return !kontakte.Eof(); })) {
         step([&] {
-            grid->appendRow({knr.Value(), ErmittleKategoName(CLng(kategonr.Value())), firma.Value(),
-                             nachname.Value(), vorname.Value()});
+            const qint32 nummer = CLng(kategonr.Value());
+            const KeptErrorCount kept;
+            grid->appendRow(
+                {knr.Value(), ErmittleKategoName(nummer), firma.Value(), nachname.Value(), vorname.Value()});
         });
         step([&] { kontakte.MoveNext(); });
     }

@@ -21,6 +21,7 @@
 
 #include <QCheckBox>
 #include <QRadioButton>
+#include <QScopeGuard>
 #include <array>
 
 namespace modMitglList {
@@ -73,7 +74,11 @@ void rechneStunden(ErrorTail& step, const Lauf& lauf, Zeile& zeile) {
         return;
     }
     zeile[8] = lauf.pfl;
-    step([&] { zeile[9] = zweiStellen(modArbeit::ErmittleStunden(CLng(zeile[0]), lauf.jahr)); });
+    step([&] {
+        const qint32 knr = CLng(zeile[0]);
+        const KeptErrorCount kept;
+        zeile[9] = zweiStellen(modArbeit::ErmittleStunden(knr, lauf.jahr));
+    });
     step([&] { zeile[10] = zweiStellen(modArbeit::BerechneSaldo(CDbl(zeile[9]), CDbl(zeile[8]))); });
 }
 
@@ -105,7 +110,6 @@ void fuelleListe(ErrorTail& step, Recordset& liste, const Lauf& lauf) {
         if (!lauf.vergleicht) form.pb->setProgress(++gelesen);
         step([&] { liste.MoveNext(); });
     }
-    form.pb->hide();
 }
 
 } // namespace
@@ -114,6 +118,7 @@ void LadeAuswahl() {
     withErrorTail(u"modMitglList"_qs, u"LadeAuswahl"_qs, [](ErrorTail& step) {
         MitglList& form = screen<MitglList>();
         form.setHourglass(true);
+        const auto leise = qScopeGuard([&] { form.pb->hide(); });
         Recordset liste, anzahl;
         step([&] {
             liste = oeffne(u"k.KNr, k.Nachname, k.Vorname, k.Strasse, k.PLZ, k.Ort, k.Tel1, k.GebDatum"_qs);
@@ -166,6 +171,7 @@ QString ErstelleFilter(const QString& sql) {
     const MitglList& form = screen<MitglList>();
     const auto& ticked = session().MListFilter;
     const QString status = form.optAktiv->isChecked() ? u"Mitglieder (aktiv)"_qs : u"Mitglieder (passiv)"_qs;
+    const KeptErrorCount kept;
     const qint32 kategoNr = modKontakt::ErmittleKategoNr(status);
     QString filter = sql;
     if (ticked[0])

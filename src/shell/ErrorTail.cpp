@@ -9,6 +9,11 @@ constexpr int boxesPerRoutine = 4;
 
 void beginErrorTail() { session().FehlerZaehler = 0; }
 
+KeptErrorCount::KeptErrorCount()
+    : m_count(session().FehlerZaehler) {}
+
+KeptErrorCount::~KeptErrorCount() { session().FehlerZaehler = m_count; }
+
 void ErrorTail::report(const RuntimeError& error) {
     if (session().Beendet) throw LeaveRoutine{};
     const QString title = u"Runtime - Error: %1"_qs.arg(error.number);

@@ -59,6 +59,19 @@ private:
 
 void beginErrorTail();
 
+/// Keeps a routine's count over calls of routines that count for themselves. For loops: a failure that comes
+/// with every row would otherwise never reach its fifth box.
+class KeptErrorCount {
+public:
+    KeptErrorCount();
+    ~KeptErrorCount();
+    KeptErrorCount(const KeptErrorCount&) = delete;
+    KeptErrorCount& operator=(const KeptErrorCount&) = delete;
+
+private:
+    qint16 m_count;
+};
+
 template<typename Routine>
 void withErrorTail(const QString& module, const QString& routine, Routine&& body) {
     beginErrorTail();

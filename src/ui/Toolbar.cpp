@@ -6,6 +6,7 @@
 #include <QIcon>
 #include <QPainter>
 #include <QToolButton>
+#include <algorithm>
 
 namespace {
 constexpr int iconEdge = 24;
@@ -39,11 +40,21 @@ Toolbar::Toolbar(QWidget* parent)
     m_row->addStretch(1);
 }
 
+bool Toolbar::hasShortcut(const QKeySequence& shortcut) const {
+    const auto keys = findChildren<QToolButton*>();
+    return std::any_of(keys.begin(), keys.end(), [&](const QToolButton* key) {
+        return !shortcut.isEmpty() && key->shortcut() == shortcut;
+    });
+}
+
 QToolButton* Toolbar::addKey(const QString& key, const QString& caption, const QString& tip,
                              const QString& icon) {
+    // Of two keys that want the same letter the first one has it; the toolkit would give it to neither.
+    const bool letterTaken = hasShortcut(QKeySequence::mnemonic(caption));
     auto* button = new QToolButton(this);
     button->setObjectName(key);
     button->setText(caption);
+    if (letterTaken) button->setShortcut({});
     button->setToolTip(tip);
     button->setAccessibleName(QString(caption).remove(u'&'));
     button->setAccessibleDescription(tip);

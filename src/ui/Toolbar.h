@@ -22,5 +22,7 @@ Q_SIGNALS:
     void ButtonClick(const QString& key);
 
 private:
+    bool hasShortcut(const QKeySequence& shortcut) const;
+
     QHBoxLayout* m_row;
 };

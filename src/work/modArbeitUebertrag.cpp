@@ -26,11 +26,8 @@ QString nichtBefreite(const QString& what) {
 /// ErmittleStunden and BerechneSaldo count errors of their own; those of this run are counted on behind them,
 /// or a failure that comes with every member would never reach its fifth box.
 double ermittleUebertrag(qint32 knr, qint32 altesJahr, double pflicht) {
-    const qint16 fehler = session().FehlerZaehler;
-    const double geleistet = ErmittleStunden(knr, altesJahr);
-    const double saldo = BerechneSaldo(geleistet, pflicht);
-    session().FehlerZaehler = fehler;
-    return saldo;
+    const KeptErrorCount kept;
+    return BerechneSaldo(ErmittleStunden(knr, altesJahr), pflicht);
 }
 
 QString notiz(double saldo, qint32 altesJahr) {
