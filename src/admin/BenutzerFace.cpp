@@ -24,12 +24,6 @@ TextBox* nameBox(const QString& name, QWidget* parent) {
     return box;
 }
 
-QCheckBox* checkBox(const QString& name, const QString& caption, QWidget* parent) {
-    auto* box = new QCheckBox(caption, parent);
-    box->setObjectName(name);
-    return box;
-}
-
 /// Takes the room of two fields, as a name of fifty characters needs it.
 void addWideField(QGridLayout* form, int row, QLabel* label, QWidget* field) {
     Face::addField(form, row, label, field);
@@ -159,16 +153,16 @@ void Benutzer::buildGroupEntry() {
 }
 
 void Benutzer::addRights(QGridLayout* form, int row) {
-    chkFBuch = checkBox(u"chkFBuch"_qs, u"Fangbuch"_qs, Frame4);
-    chkFAusw = checkBox(u"chkFAusw"_qs, u"Fangauswertg."_qs, Frame4);
-    chkKontUebers = checkBox(u"chkKontUebers"_qs, u"Kont.-Übers."_qs, Frame4);
-    chkKontList = checkBox(u"chkKontList"_qs, u"Kontaktliste"_qs, Frame4);
-    chkKontakt = checkBox(u"chkKontakt"_qs, u"Kontakt"_qs, Frame4);
-    chkArbeit = checkBox(u"chkArbeit"_qs, u"ArbStd-Contr."_qs, Frame4);
-    chkBesatz = checkBox(u"chkBesatz"_qs, u"Besatz.-Liste"_qs, Frame4);
-    chkBasis = checkBox(u"chkBasis"_qs, u"Basisdaten"_qs, Frame4);
-    chkBenutzer = checkBox(u"chkBenutzer"_qs, u"Benutzer- && Zugriff"_qs, Frame4);
-    chkSystem = checkBox(u"chkSystem"_qs, u"Systempar."_qs, Frame4);
+    chkFBuch = Face::checkBox(u"chkFBuch"_qs, u"Fangbuch"_qs, Frame4);
+    chkFAusw = Face::checkBox(u"chkFAusw"_qs, u"Fangauswertg."_qs, Frame4);
+    chkKontUebers = Face::checkBox(u"chkKontUebers"_qs, u"Kont.-Übers."_qs, Frame4);
+    chkKontList = Face::checkBox(u"chkKontList"_qs, u"Kontaktliste"_qs, Frame4);
+    chkKontakt = Face::checkBox(u"chkKontakt"_qs, u"Kontakt"_qs, Frame4);
+    chkArbeit = Face::checkBox(u"chkArbeit"_qs, u"ArbStd-Contr."_qs, Frame4);
+    chkBesatz = Face::checkBox(u"chkBesatz"_qs, u"Besatz.-Liste"_qs, Frame4);
+    chkBasis = Face::checkBox(u"chkBasis"_qs, u"Basisdaten"_qs, Frame4);
+    chkBenutzer = Face::checkBox(u"chkBenutzer"_qs, u"Benutzer- && Zugriff"_qs, Frame4);
+    chkSystem = Face::checkBox(u"chkSystem"_qs, u"Systempar."_qs, Frame4);
 
     constexpr int perRow = 5;
     auto* boxes = new QGridLayout;

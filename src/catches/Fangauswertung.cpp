@@ -2,12 +2,12 @@
 
 #include "ComboBox.h"
 #include "DataTable.h"
+#include "Drucklauf.h"
 #include "Fangbuch.h"
 #include "Main.h"
 #include "MsgBox.h"
 #include "Screens.h"
 #include "Session.h"
-#include "Stage.h"
 #include "Toolbar.h"
 #include "ValueLabel.h"
 #include "modFAuswert.h"
@@ -82,11 +82,7 @@ void Fangauswertung::tbExcel_Click() {
 }
 
 void Fangauswertung::drucke(const QString& wort) {
-    session().NachReport = true;
-    modFAuswert::DruckeFangListe(wort);
-    // Only a preview hands the front away and back; after anything else the next return is from another
-    // screen.
-    if (Stage::current()->front() == this) session().NachReport = false;
+    druckeFuer(*this, [&] { modFAuswert::DruckeFangListe(wort); });
 }
 
 void Fangauswertung::tblFAusw_OnGridCellDown(int row) {

@@ -73,7 +73,6 @@ private:
     QWidget* layOutSums();
     void connectEvents();
 
-    QCheckBox* addCheckBox(const QString& name, const QString& caption);
     ComboBox* addList(const QString& name, QCheckBox* captionedBy);
     Bound addBound(const QString& list, const QString& box, const QString& spoken, bool enabled);
     /// A click on the check box enables its controls and sets its flag, or the reverse.

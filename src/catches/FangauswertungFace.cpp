@@ -46,12 +46,6 @@ void Fangauswertung::buildToolbar() {
     Toolbar1->addKey(u"tbDruck"_qs, u"Drucken"_qs, u"Aktuelle Auswahl drucken..."_qs, u"drucken"_qs);
 }
 
-QCheckBox* Fangauswertung::addCheckBox(const QString& name, const QString& caption) {
-    auto* box = new QCheckBox(caption, Frame1);
-    box->setObjectName(name);
-    return box;
-}
-
 ComboBox* Fangauswertung::addList(const QString& name, QCheckBox* captionedBy) {
     auto* list = new ComboBox(name, ComboBox::Order::AsAdded, ComboBox::Kind::DropDownList, Frame1);
     list->setAccessibleName(captionedBy->text());
@@ -76,24 +70,24 @@ Fangauswertung::Bound Fangauswertung::addBound(const QString& list, const QStrin
 }
 
 void Fangauswertung::buildLists() {
-    chkArchiv = addCheckBox(u"chkArchiv"_qs, u"Fangjahr"_qs);
+    chkArchiv = Face::checkBox(u"chkArchiv"_qs, u"Fangjahr"_qs, Frame1);
     cboFJahr = addList(u"cboFJahr"_qs, chkArchiv);
-    chkFMonat = addCheckBox(u"chkFMonat"_qs, u"Fangmonat..."_qs);
+    chkFMonat = Face::checkBox(u"chkFMonat"_qs, u"Fangmonat..."_qs, Frame1);
     cboFMonat = addList(u"cboFMonat"_qs, chkFMonat);
     for (int month = 1; month <= 12; ++month) cboFMonat->AddItem(modRun::ErmittleMonatsname(month));
-    chkFArt = addCheckBox(u"chkFArt"_qs, u"Fischart..."_qs);
+    chkFArt = Face::checkBox(u"chkFArt"_qs, u"Fischart..."_qs, Frame1);
     cboFArt = addList(u"cboFArt"_qs, chkFArt);
-    chkGName = addCheckBox(u"chkGName"_qs, u"Gewässer..."_qs);
+    chkGName = Face::checkBox(u"chkGName"_qs, u"Gewässer..."_qs, Frame1);
     cboGName = addList(u"cboGName"_qs, chkGName);
 }
 
 void Fangauswertung::buildBounds() {
     Label1 = Face::label(u"Label1"_qs, u"- Untergrenze -"_qs, Frame1);
     Label2 = Face::label(u"Label2"_qs, u"- Obergrenze -"_qs, Frame1);
-    chkAnzahl = addCheckBox(u"chkAnzahl"_qs, u"Anzahl..."_qs);
+    chkAnzahl = Face::checkBox(u"chkAnzahl"_qs, u"Anzahl..."_qs, Frame1);
     const Bound numberLow = addBound(u"cboOptAnz01"_qs, u"txtAnz01"_qs, u"Anzahl, Untergrenze"_qs, false);
     const Bound numberHigh = addBound(u"cboOptAnz02"_qs, u"txtAnz02"_qs, u"Anzahl, Obergrenze"_qs, true);
-    chkGewicht = addCheckBox(u"chkGewicht"_qs, u"Gewicht i. Gramm..."_qs);
+    chkGewicht = Face::checkBox(u"chkGewicht"_qs, u"Gewicht i. Gramm..."_qs, Frame1);
     const Bound weightLow = addBound(u"cboOptGew01"_qs, u"txtGew01"_qs, u"Gewicht, Untergrenze"_qs, false);
     const Bound weightHigh = addBound(u"cboOptGew02"_qs, u"txtGew02"_qs, u"Gewicht, Obergrenze"_qs, true);
     cboOptAnz01 = numberLow.comparison;

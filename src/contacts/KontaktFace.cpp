@@ -41,18 +41,6 @@ QGridLayout* frameOnPage(QWidget* page, QGroupBox* frame) {
     return form;
 }
 
-QRadioButton* option(const QString& name, const QString& caption, QWidget* parent) {
-    auto* option = new QRadioButton(caption, parent);
-    option->setObjectName(name);
-    return option;
-}
-
-QCheckBox* tick(const QString& name, const QString& caption, QWidget* parent) {
-    auto* box = new QCheckBox(caption, parent);
-    box->setObjectName(name);
-    return box;
-}
-
 /// Two options side by side in a frame of their own.
 QGroupBox* optionPair(QGroupBox* frame, QRadioButton* left, QRadioButton* right) {
     auto* row = new QHBoxLayout(frame);
@@ -121,7 +109,7 @@ void Kontakt::buildPerson(QWidget* page) {
     lblGebDatum = Face::label(u"lblGebDatum"_qs, u"Geb. - Datum:"_qs, Frame1);
     txtGebDat = field(u"txtGebDat"_qs, Frame1, dateLimit);
     txtGebDat->setKeyFilter(&modRun::FilterDatum);
-    chkJG = tick(u"chkJG"_qs, u"Jugendgruppe"_qs, Frame1);
+    chkJG = Face::checkBox(u"chkJG"_qs, u"Jugendgruppe"_qs, Frame1);
 }
 
 void Kontakt::layOutGlobal(QWidget* page) {
@@ -169,19 +157,19 @@ void Kontakt::layOutGlobal(QWidget* page) {
 
 QLayout* Kontakt::buildMember(QWidget* page) {
     Frame2 = Face::frame(u"Frame2"_qs, u"Geschlecht..."_qs, page);
-    optMann = option(u"optMann"_qs, u"männlich"_qs, Frame2);
-    optFrau = option(u"optFrau"_qs, u"weiblich"_qs, Frame2);
+    optMann = Face::option(u"optMann"_qs, u"männlich"_qs, Frame2);
+    optFrau = Face::option(u"optFrau"_qs, u"weiblich"_qs, Frame2);
     Frame4 = Face::frame(u"Frame4"_qs, u"Aufnahme [nur bei Mitgl.]"_qs, page);
     lblEintritt = Face::label(u"lblEintritt"_qs, u"Aufn.- Datum:"_qs, Frame4);
     txtEintritt = field(u"txtEintritt"_qs, Frame4, dateLimit);
     lblAustritt = Face::label(u"lblAustritt"_qs, u"Austrittsdatum:"_qs, Frame4);
     txtAustritt = field(u"txtAustritt"_qs, Frame4, dateLimit);
     Frame14 = Face::frame(u"Frame14"_qs, u"Befreit (Arb.-Std.)  [nur bei Mitgl.]"_qs, page);
-    optBefreit = option(u"optBefreit"_qs, u"befreit"_qs, Frame14);
-    optNBefreit = option(u"optNBefreit"_qs, u"nicht befreit"_qs, Frame14);
+    optBefreit = Face::option(u"optBefreit"_qs, u"befreit"_qs, Frame14);
+    optNBefreit = Face::option(u"optNBefreit"_qs, u"nicht befreit"_qs, Frame14);
     Frame3 = Face::frame(u"Frame3"_qs, u"Jahresbeitrag [nur bei Mitgl.]"_qs, page);
-    optBezahlt = option(u"optBezahlt"_qs, u"bezahlt"_qs, Frame3);
-    optNBezahlt = option(u"optNBezahlt"_qs, u"nicht bezahlt"_qs, Frame3);
+    optBezahlt = Face::option(u"optBezahlt"_qs, u"bezahlt"_qs, Frame3);
+    optNBezahlt = Face::option(u"optNBezahlt"_qs, u"nicht bezahlt"_qs, Frame3);
     for (QRadioButton* first : {optMann, optNBefreit, optNBezahlt}) first->setChecked(true);
     for (TextBox* box : {txtEintritt, txtAustritt}) box->setKeyFilter(&modRun::FilterDatum);
 
@@ -230,7 +218,7 @@ void Kontakt::buildBank(QWidget* page) {
     txtBLZ = field(u"txtBLZ"_qs, Frame6, textLimit);
     lblKreditInstit = Face::label(u"lblKreditInstit"_qs, u"Kredit-Instit. :"_qs, Frame6);
     txtKInst = field(u"txtKInst"_qs, Frame6, textLimit);
-    chkEinzug = tick(u"chkEinzug"_qs, u"Bankeinzug"_qs, Frame6);
+    chkEinzug = Face::checkBox(u"chkEinzug"_qs, u"Bankeinzug"_qs, Frame6);
     for (TextBox* box : {txtKontoNr, txtBLZ}) box->setKeyFilter(&modRun::FilterZiffern);
     QGridLayout* form = frameOnPage(page, Frame6);
     Face::addField(form, 0, lblKontoNr, txtKontoNr);

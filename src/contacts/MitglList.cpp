@@ -2,11 +2,11 @@
 
 #include "ComboBox.h"
 #include "DataTable.h"
+#include "Drucklauf.h"
 #include "Main.h"
 #include "MsgBox.h"
 #include "Screens.h"
 #include "Session.h"
-#include "Stage.h"
 #include "Toolbar.h"
 #include "ValueLabel.h"
 #include "modArbeit.h"
@@ -67,13 +67,9 @@ void MitglList::tbEsc_Click() {
 }
 
 void MitglList::drucke(const QString& wort) {
-    session().NachReport = true;
-    if (chkArbAnz->isChecked())
-        modMitglList::DruckeArbListe(wort);
-    else
-        modMitglList::DruckeMitglListe(wort);
-    // Only a preview hands the front away and back.
-    if (Stage::current()->front() == this) session().NachReport = false;
+    const auto routine =
+        chkArbAnz->isChecked() ? &modMitglList::DruckeArbListe : &modMitglList::DruckeMitglListe;
+    druckeFuer(*this, [&] { routine(wort); });
 }
 
 void MitglList::tblMList_OnGridCellDown(int row) {

@@ -92,7 +92,6 @@ private:
     QWidget* layOutFoot();
     void connectEvents();
 
-    QCheckBox* addCheckBox(const QString& name, const QString& caption);
     Bound addBound(const QString& list, const QString& box, const QString& spoken);
     /// Two options, one of which is always on; `spoken` tells a screen reader what is chosen.
     void addOptions(const QCheckBox* spoken, QRadioButton*& first, const QString& firstName,

@@ -49,12 +49,6 @@ void MitglList::buildToolbar() {
     Toolbar1->addKey(u"tbEsc"_qs, u"&Schließen"_qs, u"Zurück zur Kontakt - Übersicht"_qs, u"schliessen"_qs);
 }
 
-QCheckBox* MitglList::addCheckBox(const QString& name, const QString& caption) {
-    auto* box = new QCheckBox(caption, Frame6);
-    box->setObjectName(name);
-    return box;
-}
-
 MitglList::Bound MitglList::addBound(const QString& list, const QString& box, const QString& spoken) {
     Bound bound{new ComboBox(list, ComboBox::Order::AsAdded, ComboBox::Kind::DropDownList, Frame6),
                 new TextBox(box, Frame6)};
@@ -78,10 +72,10 @@ void MitglList::buildDateFilters() {
         comparison = bound.comparison;
         day = bound.day;
     };
-    chkGebDat = addCheckBox(u"chkGebDat"_qs, u"Geburtsdatum:"_qs);
+    chkGebDat = Face::checkBox(u"chkGebDat"_qs, u"Geburtsdatum:"_qs, Frame6);
     add(u"cboOptGeb01"_qs, cboOptGeb01, u"txtGeb01"_qs, txtGeb01, u"Geburtsdatum, erster Vergleich"_qs);
     add(u"cboOptGeb02"_qs, cboOptGeb02, u"txtGeb02"_qs, txtGeb02, u"Geburtsdatum, zweiter Vergleich"_qs);
-    chkEintritt = addCheckBox(u"chkEintritt"_qs, u"Eintrittsdatum:"_qs);
+    chkEintritt = Face::checkBox(u"chkEintritt"_qs, u"Eintrittsdatum:"_qs, Frame6);
     add(u"cboOptTritt01"_qs, cboOptTritt01, u"txtTritt01"_qs, txtTritt01,
         u"Eintrittsdatum, erster Vergleich"_qs);
     add(u"cboOptTritt02"_qs, cboOptTritt02, u"txtTritt02"_qs, txtTritt02,
@@ -93,8 +87,7 @@ void MitglList::addOptions(const QCheckBox* spoken, QRadioButton*& first, const 
                            const QString& secondCaption) {
     auto* pair = new QButtonGroup(this);
     const auto add = [&](const QString& name, const QString& caption) {
-        auto* option = new QRadioButton(caption, Frame6);
-        option->setObjectName(name);
+        auto* option = Face::option(name, caption, Frame6);
         option->setAccessibleName(spoken->text() + u' ' + caption);
         option->setEnabled(false);
         pair->addButton(option);
@@ -106,27 +99,27 @@ void MitglList::addOptions(const QCheckBox* spoken, QRadioButton*& first, const 
 }
 
 void MitglList::buildChoices() {
-    chkGeschl = addCheckBox(u"chkGeschl"_qs, u"Geschlecht:"_qs);
+    chkGeschl = Face::checkBox(u"chkGeschl"_qs, u"Geschlecht:"_qs, Frame6);
     addOptions(chkGeschl, optMann, u"optMann"_qs, u"Mann"_qs, optFrau, u"optFrau"_qs, u"Frau"_qs);
-    chkJBeitrag = addCheckBox(u"chkJBeitrag"_qs, u"Jahresbeitrag:"_qs);
+    chkJBeitrag = Face::checkBox(u"chkJBeitrag"_qs, u"Jahresbeitrag:"_qs, Frame6);
     addOptions(chkJBeitrag, optBezahlt, u"optBezahlt"_qs, u"bezahlt"_qs, optNBezahlt, u"optNBezahlt"_qs,
                u"n. bezahlt"_qs);
-    chkStatus = addCheckBox(u"chkStatus"_qs, u"Status:"_qs);
+    chkStatus = Face::checkBox(u"chkStatus"_qs, u"Status:"_qs, Frame6);
     addOptions(chkStatus, optAktiv, u"optAktiv"_qs, u"aktiv"_qs, optPassiv, u"optPassiv"_qs, u"passiv"_qs);
-    chkBefreit = addCheckBox(u"chkBefreit"_qs, u"Befreit [Arb-Std.]:"_qs);
+    chkBefreit = Face::checkBox(u"chkBefreit"_qs, u"Befreit [Arb-Std.]:"_qs, Frame6);
     addOptions(chkBefreit, optBefrJa, u"optBefrJa"_qs, u"ja"_qs, optBefrNein, u"optBefrNein"_qs, u"nein"_qs);
-    chkAusgMitgl = addCheckBox(u"chkAusgMitgl"_qs, u"ausgetr. Mitgl.:"_qs);
+    chkAusgMitgl = Face::checkBox(u"chkAusgMitgl"_qs, u"ausgetr. Mitgl.:"_qs, Frame6);
     addOptions(chkAusgMitgl, optAusgJa, u"optAusgJa"_qs, u"ja"_qs, optAusgNein, u"optAusgNein"_qs,
                u"nein"_qs);
-    chkJG = addCheckBox(u"chkJG"_qs, u"Jugendgruppe:"_qs);
+    chkJG = Face::checkBox(u"chkJG"_qs, u"Jugendgruppe:"_qs, Frame6);
     addOptions(chkJG, optJGJa, u"optJGJa"_qs, u"ja"_qs, optJGNein, u"optJGNein"_qs, u"nein"_qs);
-    chkArbStd = addCheckBox(u"chkArbStd"_qs, u"Arb.-Std geleistet:"_qs);
+    chkArbStd = Face::checkBox(u"chkArbStd"_qs, u"Arb.-Std geleistet:"_qs, Frame6);
     addOptions(chkArbStd, optStdJa, u"optStdJa"_qs, u"ja"_qs, optStdNein, u"optStdNein"_qs, u"nein"_qs);
     optStdNein->setChecked(true);
 }
 
 void MitglList::buildHours() {
-    chkArbAnz = addCheckBox(u"chkArbAnz"_qs, u"Arb.-Std. - Liste generieren für Arb.- Jahr:"_qs);
+    chkArbAnz = Face::checkBox(u"chkArbAnz"_qs, u"Arb.-Std. - Liste generieren für Arb.- Jahr:"_qs, Frame6);
     cboArbJahr =
         new ComboBox(u"cboArbJahr"_qs, ComboBox::Order::AsAdded, ComboBox::Kind::DropDownList, Frame6);
     cboArbJahr->setAccessibleName(u"Arbeitsjahr"_qs);

@@ -7,6 +7,7 @@
 #include "Report.h"
 #include "Screens.h"
 #include "Session.h"
+#include "Stage.h"
 #include "StagedRows.h"
 #include "modNavigation.h"
 #include "modTools.h"
@@ -93,4 +94,10 @@ void drucke(const Druckauftrag& auftrag, const QString& wort) {
         step([&] { rows.Close(); });
         step([&] { connection.Close(); });
     });
+}
+
+void druckeFuer(const Screen& aufrufer, const std::function<void()>& routine) {
+    session().NachReport = true;
+    routine();
+    if (Stage::current()->front() == &aufrufer) session().NachReport = false;
 }

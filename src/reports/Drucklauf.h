@@ -26,3 +26,7 @@ struct Druckauftrag {
 /// The way that all five reports go: the rows of the grid are staged through the second connection, and the
 /// report, bound to them, is printed ("drucken") or shown ("vorschau"). Staged rows stay until the next run.
 void drucke(const Druckauftrag& auftrag, const QString& wort);
+
+/// Runs a print routine for a screen, which must not lose what it shows when a preview takes the front: until
+/// it is back, NachReport is set. After anything but a preview the next return is from another screen.
+void druckeFuer(const Screen& aufrufer, const std::function<void()>& routine);

@@ -4,10 +4,12 @@
 #include "Toolbar.h"
 
 #include <QBoxLayout>
+#include <QCheckBox>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
+#include <QRadioButton>
 
 namespace Face {
 
@@ -15,6 +17,18 @@ QLabel* label(const QString& name, const QString& text, QWidget* parent) {
     auto* made = new QLabel(parent);
     made->setTextFormat(Qt::PlainText);
     made->setText(text);
+    made->setObjectName(name);
+    return made;
+}
+
+QCheckBox* checkBox(const QString& name, const QString& caption, QWidget* parent) {
+    auto* made = new QCheckBox(caption, parent);
+    made->setObjectName(name);
+    return made;
+}
+
+QRadioButton* option(const QString& name, const QString& caption, QWidget* parent) {
+    auto* made = new QRadioButton(caption, parent);
     made->setObjectName(name);
     return made;
 }

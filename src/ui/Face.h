@@ -3,10 +3,12 @@
 #include <QString>
 
 class Heading;
+class QCheckBox;
 class QGridLayout;
 class QGroupBox;
 class QLabel;
 class QPushButton;
+class QRadioButton;
 class QVBoxLayout;
 class QWidget;
 class Toolbar;
@@ -20,6 +22,8 @@ constexpr int gap = 8;
 /// A plain text label.
 QLabel* label(const QString& name, const QString& text, QWidget* parent);
 QGroupBox* frame(const QString& name, const QString& title, QWidget* parent);
+QCheckBox* checkBox(const QString& name, const QString& caption, QWidget* parent);
+QRadioButton* option(const QString& name, const QString& caption, QWidget* parent);
 QPushButton* button(const QString& name, const QString& caption, QWidget* parent);
 
 /// The column that holds everything on a window.

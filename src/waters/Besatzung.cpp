@@ -4,9 +4,9 @@
 #include "ComboBox.h"
 #include "Conversions.h"
 #include "DataTable.h"
+#include "Drucklauf.h"
 #include "MsgBox.h"
 #include "Session.h"
-#include "Stage.h"
 #include "ValueLabel.h"
 #include "modBesatzList.h"
 #include "modFangbuch.h"
@@ -102,11 +102,7 @@ void Besatzung::tbExcel_Click() {
 }
 
 void Besatzung::drucke(const QString& wort) {
-    session().NachReport = true;
-    modBesatzList::DruckeBPlanListe(wort);
-    // Only a preview hands the front away and back; after anything else the next return is from another
-    // screen.
-    if (Stage::current()->front() == this) session().NachReport = false;
+    druckeFuer(*this, [&] { modBesatzList::DruckeBPlanListe(wort); });
 }
 
 void Besatzung::tblBList_OnGridCellOpen(int row) {

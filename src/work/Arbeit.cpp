@@ -4,13 +4,13 @@
 #include "Conversions.h"
 #include "DataTable.h"
 #include "DateBox.h"
+#include "Drucklauf.h"
 #include "Format.h"
 #include "MitglList.h"
 #include "MsgBox.h"
 #include "RuntimeError.h"
 #include "Screens.h"
 #include "Session.h"
-#include "Stage.h"
 #include "SuchKont.h"
 #include "ValueLabel.h"
 #include "modArbeit.h"
@@ -75,11 +75,7 @@ void Arbeit::loesche() {
 }
 
 void Arbeit::drucke(const QString& wort) {
-    session().NachReport = true;
-    modArbeit::DruckeArbListe(wort);
-    // Only a preview hands the front away and back; after anything else the next return is from another
-    // screen.
-    if (Stage::current()->front() == this) session().NachReport = false;
+    druckeFuer(*this, [&] { modArbeit::DruckeArbListe(wort); });
 }
 
 void Arbeit::cmdSuch_Click() {
