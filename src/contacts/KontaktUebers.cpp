@@ -124,7 +124,7 @@ void KontaktUebers::ErzeugeSerienbriefDatei() {
 void KontaktUebers::tblKUebers_OnGridCellDown(int row, int column) {
     Session& s = session();
     const TableHandle gedrueckt = tblKUebers->enter({});
-    s.KategoOffen.resize(std::max(s.KategoOffen.size(), std::size_t(tblKUebers->rowCount())));
+    s.KategoOffen.resize(std::size_t(tblKUebers->rowCount()));
     // The gutter of a contact's row is none of a category's.
     if (gedrueckt.parentRow >= 0) {
         tblKUebers->enter(gedrueckt);

@@ -111,6 +111,8 @@ void SuchKont::cmdSuch_Click() {
     modKontakt::SucheKontakt(txtSuch->Text(), modKontakt::ErmittleKategoNr(cboKatego->Text()));
     if (tblSuch->rowCount() > 0) {
         lblGefDS->setCaption(QString::number(tblSuch->rowCount()));
+        // The rows must be there when the focus comes, so that Enter opens the first one.
+        tblSuch->refresh();
         tblSuch->setFocus();
     } else {
         lblGefDS->setCaption(QString());

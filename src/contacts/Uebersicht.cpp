@@ -23,6 +23,10 @@ DataTable& kategorien() {
 
 ImKind::ImKind(int row)
     : m_grid(kategorien()) {
+    if (!m_grid.hasChild(row)) {
+        legeKindAn(row);
+        faerbeKind(row);
+    }
     m_grid.enterChild(row);
 }
 

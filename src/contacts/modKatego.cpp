@@ -79,12 +79,14 @@ void loadKatego(int row, int /*column*/) {
         });
         if (!step.test([&] { return katego.RecordCount() == 1; })) {
             modRun::MeldeNichtVorhanden();
-        } else if (step.test([&] { return istSystemkategorie(CStr(katego.Collect(u"kategorie"_qs))); })) {
+        } else if (step.test([&] {
+                       return istSystemkategorie(modRun::textOderLeer(katego.Fields(u"kategorie"_qs)));
+                   })) {
             MsgBox(u"ACHTUNG: Systemkategorie, keine Änderungen oder Löschung erlaubt!"_qs, vbInformation);
             session().Modus = u"SAVE"_qs;
         } else {
             step([&] { form.lblKategoNr->setCaption(CStr(katego.Collect(u"kategonr"_qs))); });
-            step([&] { form.txtKatego->setText(CStr(katego.Collect(u"kategorie"_qs))); });
+            step([&] { form.txtKatego->setText(modRun::textOderLeer(katego.Fields(u"kategorie"_qs))); });
         }
         step([&] { katego.Close(); });
     });

@@ -34,10 +34,10 @@ void zeigeTreffer(ErrorTail& step, Recordset& kontakte, DataTable* grid) {
     step([&] { kontakte.MoveFirst(); });
     while (step.test([&] { return !kontakte.Eof(); })) {
         step([&] {
-            const qint32 nummer = CLng(kategonr.Value());
+            const Value nummer = kategonr.Value();
             const KeptErrorCount kept;
-            grid->appendRow(
-                {knr.Value(), ErmittleKategoName(nummer), firma.Value(), nachname.Value(), vorname.Value()});
+            const QString kategorie = nummer.isNull() ? QString() : ErmittleKategoName(CLng(nummer));
+            grid->appendRow({knr.Value(), kategorie, firma.Value(), nachname.Value(), vorname.Value()});
         });
         step([&] { kontakte.MoveNext(); });
     }

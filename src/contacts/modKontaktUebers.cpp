@@ -25,9 +25,14 @@ QString tagUndMonatGetauscht(QString datum) {
     return datum;
 }
 
+/// A day outside the calendar, as a damaged file may hold it, costs its cell and not the list.
 Value geburtstag(const Field& feld) {
-    const Value value = feld.Value();
-    return value.isNull() ? QString() : tagUndMonatGetauscht(CStr(value));
+    try {
+        const Value value = feld.Value();
+        return value.isNull() ? QString() : tagUndMonatGetauscht(CStr(value));
+    } catch (const RuntimeError&) {
+        return QString();
+    }
 }
 
 void zeigeKontakte(int row, Recordset& kontakte) {
@@ -94,7 +99,11 @@ void FuelleKontaktUebersicht() {
 void KategorieAufklappen(int row, qint32 kategonr) {
     Recordset kontakte = session().AktDatenbank.OpenRecordset(
         u"SELECT * FROM Kontakt WHERE KategoNr = "_qs + QString::number(kategonr), dbOpenDynaset);
-    if (kontakte.RecordCount() == 0) return;
+    if (kontakte.RecordCount() == 0) {
+        // What an earlier opening has left there is nobody's any more.
+        screen<KontaktUebers>().tblKUebers->removeChild(row);
+        return;
+    }
     if (session().NurZaehlen)
         zaehleKontakte(row, kontakte);
     else

@@ -6,6 +6,9 @@
 #include "Screens.h"
 #include "Session.h"
 
+#include <QEvent>
+#include <QGuiApplication>
+
 namespace {
 Program* running = nullptr;
 }
@@ -14,6 +17,13 @@ Program::Program(const QString& folder) {
     running = this;
     beginSession(folder);
     setEventFailure([this](const RuntimeError& error) { fail(error); });
+    QCoreApplication::instance()->installEventFilter(this);
+    connect(qGuiApp, &QGuiApplication::commitDataRequest, this, &Program::finish);
+}
+
+bool Program::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == QCoreApplication::instance() && event->type() == QEvent::Quit) finish();
+    return QObject::eventFilter(watched, event);
 }
 
 Program::~Program() {

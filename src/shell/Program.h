@@ -24,6 +24,11 @@ public:
 Q_SIGNALS:
     void ended();
 
+protected:
+    /// The desktop may end the application while a box waits for its answer. The program then ends first, so
+    /// that no routine takes the closing of its box for one.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     void fail(const RuntimeError& error);
 

@@ -76,9 +76,9 @@ void wechsleJahr(ErrorTail& step, Recordset& system, bool& result) {
     const std::optional<qint32> altesJahr = uebernehmeJahr(step, system, change);
     result = true;
     if (altesJahr && *altesJahr < session().AktJahr) schalteVor(*altesJahr);
-    if (altesJahr && *altesJahr >= session().AktJahr) schalteZurueck(*altesJahr);
+    if (altesJahr && *altesJahr > session().AktJahr) schalteZurueck(*altesJahr);
     step([&] { system.Close(); });
-    if (change && !session().Beendet) step([&] { change->commit(); });
+    if (change) step([&] { change->commit(); });
 }
 
 } // namespace

@@ -105,7 +105,10 @@ void DataTable::keyPressEvent(QKeyEvent* event) {
     publish();
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (enter && currentIndex().isValid()) {
-        cellOpen(currentSpot());
+        Spot spot = currentSpot();
+        if (!isCategory(spot)) return cellOpen(spot);
+        spot.column = rowHeaderColumn;
+        cellDown(spot);
     } else if (!foldByKey(event->key())) {
         QTreeView::keyPressEvent(event);
     }

@@ -89,9 +89,10 @@ void DataTableRowPainter::paintGutter(const QModelIndex& row, const DataTableRow
     m_painter.fillRect(QRect(gutter.right(), gutter.top(), 1, gutter.height()), m_look.gutterEdge);
     m_painter.fillRect(QRect(gutter.left(), gutter.bottom(), gutter.width(), 1), m_look.gutterEdge);
     if (m_model.isCategory(row)) {
-        if (m_model.hasChild(row.row())) {
-            DataTableShapes::expandMark(m_painter, gutter, state.expanded, m_look.mark);
-        }
+        // Paler where there is nothing to open; it can be opened all the same.
+        QColor mark = m_look.mark;
+        if (!m_model.hasChild(row.row())) mark.setAlphaF(0.4F);
+        DataTableShapes::expandMark(m_painter, gutter, state.expanded, mark);
     } else if (state.current) {
         DataTableShapes::currentMark(m_painter, gutter, m_look.mark);
     }

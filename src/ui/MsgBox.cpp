@@ -1,5 +1,6 @@
 #include "MsgBox.h"
 
+#include "EventGuard.h"
 #include "QtMessageBoxes.h"
 
 namespace {
@@ -9,7 +10,10 @@ MessageBoxes* boxesInForce = nullptr;
 void setMessageBoxes(MessageBoxes* boxes) { boxesInForce = boxes; }
 
 MsgBoxResult MsgBox(const QString& text, int style, const QString& title) {
-    if (boxesInForce) return boxesInForce->show(text, style, title);
     QtMessageBoxes windows;
-    return windows.show(text, style, title);
+    MessageBoxes& boxes = boxesInForce ? *boxesInForce : windows;
+    const MsgBoxResult answer = boxes.show(text, style, title);
+    // Nobody has given it: the program was ended over the box.
+    if (eventsEnded()) throw ProgramEnded{};
+    return answer;
 }

@@ -6,6 +6,8 @@
 #include "Session.h"
 #include "modArbeit.h"
 
+#include <optional>
+
 // The carry-over of work hours at the change of the year.
 
 namespace modArbeit {
@@ -61,10 +63,10 @@ void uebertrageAlle(ErrorTail& step, Recordset& mitglieder, Recordset& arbeit, d
         begun = true;
     });
     while (begun && step.test([&] { return !mitglieder.Eof(); })) {
-        qint32 knr = 0;
+        std::optional<qint32> knr;
         step([&] { knr = CLng(mitglieder.Collect(u"KNr"_qs)); });
-        const double saldo = ermittleUebertrag(knr, altesJahr, pflicht);
-        schreibeUebertrag(step, arbeit, knr, saldo, altesJahr);
+        if (knr)
+            schreibeUebertrag(step, arbeit, *knr, ermittleUebertrag(*knr, altesJahr, pflicht), altesJahr);
         step([&] { mitglieder.MoveNext(); });
     }
 }

@@ -1,0 +1,92 @@
+#include "Clock.h"
+#include "Conversions.h"
+#include "Login.h"
+#include "OpenFolder.h"
+#include "Program.h"
+#include "ProgramFolder.h"
+#include "QtMessageBoxes.h"
+#include "Screens.h"
+#include "TextBox.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr int oldYear = 2025;
+
+class NextYear final : public Clock {
+public:
+    QDateTime now() const override { return QDate(oldYear + 1, 1, 1).startOfDay(); }
+};
+
+/// A folder with one member who has paid and worked, in last year's state.
+class QuitTest : public ::testing::Test {
+protected:
+    QuitTest() {
+        makeProgramFolder(m_folder.path(), oldYear, false);
+        Database file = openFolder(m_folder.path());
+        const auto add = [&](const QString& table, const std::vector<std::pair<QString, Value>>& fields) {
+            Recordset row = file.OpenRecordset(table, dbOpenTable);
+            row.AddNew();
+            for (const auto& [field, value] : fields) row.Collect(field, value);
+            row.Update();
+            row.Close();
+        };
+        add(u"Kontakt"_qs, {{u"KategoNr"_qs, 1}, {u"Nachname"_qs, u"Aal"_qs}});
+        add(u"Mitglied"_qs, {{u"knr"_qs, 1}, {u"Bezahlt"_qs, true}, {u"Befreit"_qs, false}});
+        setClock(&m_clock);
+        setMessageBoxes(&m_boxes);
+    }
+
+    ~QuitTest() override {
+        setMessageBoxes(nullptr);
+        setClock(nullptr);
+    }
+
+    /// Logs in, says yes to every box, and quits the application while this one stands, counted from 1.
+    void playAndQuitAtBox(int last) {
+        Program program(m_folder.path());
+        QTimer hand;
+        int boxes = 0;
+        QObject::connect(&hand, &QTimer::timeout, [&] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (!box) return;
+            if (++boxes == last) return QCoreApplication::quit();
+            QAbstractButton* yes = box->button(QMessageBox::Yes);
+            (yes ? yes : box->button(QMessageBox::Ok))->click();
+        });
+        program.start();
+        screen<Login>().txtBenutzer->setText(u"Admin"_qs);
+        QTimer::singleShot(0, [] { screen<Login>().cmdOK->click(); });
+        hand.start(5);
+        QApplication::exec();
+        EXPECT_EQ(boxes, last);
+        EXPECT_FALSE(program.isRunning());
+    }
+
+    QString content() {
+        Database file = openFolder(m_folder.path());
+        const auto one = [&](const QString& select) { return CStr(only(file, select)); };
+        return one(u"SELECT MAX(FJahr) FROM System"_qs) + u' ' + one(u"SELECT COUNT(ArbNr) FROM Arbeit"_qs) +
+               u' ' + one(u"SELECT COUNT(KNr) FROM Mitglied WHERE Bezahlt = True"_qs);
+    }
+
+    QTemporaryDir m_folder;
+    NextYear m_clock;
+    QtMessageBoxes m_boxes;
+};
+
+TEST_F(QuitTest, OverABoxOfTheYearChangeLeavesTheOldYear) {
+    constexpr int boxes = 4;
+    for (int box = 1; box <= boxes; ++box) {
+        playAndQuitAtBox(box);
+        EXPECT_EQ(content(), u"2025 0 1"_qs) << box;
+    }
+}
+
+} // namespace
