@@ -25,16 +25,18 @@ private:
     void attachCopy(const QString& password);
     QList<SchemaObject> schemaObjects(const QByteArray& condition);
     void create(const SchemaObject& object);
-    void copyRows(const QString& table);
+    /// Gives how many there were.
+    qint64 copyRows(const QString& table);
     void copyCounters();
     void copyMarks();
     void copyAll();
-    QHash<QString, qint64> countRows(const QByteArray& file);
-    void verify(const QHash<QString, qint64>& counts);
+    bool hasRows(const QString& table, qint64 count);
+    void verify();
 
     UnfinishedPath m_target;
     Connection m_connection;
     QList<SchemaObject> m_tables;
+    QHash<QString, qint64> m_counts; ///< so many rows were copied
 };
 
 Compaction::Compaction(const QString& source, const QString& target, const QString& password)
@@ -83,9 +85,12 @@ void Compaction::create(const SchemaObject& object) {
 }
 
 /// Where both tables are alike, the library hands the rows over as they are stored.
-void Compaction::copyRows(const QString& table) {
+qint64 Compaction::copyRows(const QString& table) {
     m_connection.execute("INSERT INTO copy." + quotedName(table) + " SELECT * FROM main." +
                          quotedName(table));
+    Statement rows = m_connection.prepare("SELECT changes()");
+    rows.step();
+    return rows.integer(0);
 }
 
 /// Numbers that were given out once are not given out again, so the counters go along.
@@ -107,28 +112,26 @@ void Compaction::copyMarks() {
 void Compaction::copyAll() {
     for (const SchemaObject& table : m_tables) {
         create(table);
-        copyRows(table.name);
+        m_counts[table.name] = copyRows(table.name);
     }
     copyCounters();
     copyMarks();
     for (const SchemaObject& object : schemaObjects("type <> 'table'")) create(object);
 }
 
-QHash<QString, qint64> Compaction::countRows(const QByteArray& file) {
-    QHash<QString, qint64> counts;
-    for (const SchemaObject& table : m_tables) {
-        Statement count = m_connection.prepare("SELECT COUNT(*) FROM " + file + '.' + quotedName(table.name));
-        if (count.step()) counts[table.name] = count.integer(0);
-    }
-    return counts;
+bool Compaction::hasRows(const QString& table, qint64 count) {
+    Statement found = m_connection.prepare("SELECT COUNT(*) FROM copy." + quotedName(table));
+    return found.step() && found.integer(0) == count;
 }
 
-void Compaction::verify(const QHash<QString, qint64>& counts) {
+void Compaction::verify() {
     // Forgets what was written, so that it is read from the disk again.
     m_connection.execute("PRAGMA shrink_memory");
     // Whether the indexes know every row need not be asked: they were just made from the rows.
     Statement check = m_connection.prepare("PRAGMA copy.quick_check");
-    const bool whole = check.step() && check.text(0) == u"ok" && countRows("copy") == counts;
+    bool whole = check.step() && check.text(0) == u"ok";
+    for (auto table = m_counts.cbegin(); table != m_counts.cend(); ++table)
+        whole = whole && hasRows(table.key(), table.value());
     if (!whole) throw runtimeError(3343, m_target.path());
 }
 
@@ -137,9 +140,8 @@ void Compaction::run() {
     m_connection.execute("BEGIN");
     m_tables = schemaObjects("type = 'table'");
     copyAll();
-    const QHash<QString, qint64> counts = countRows("main");
     m_connection.execute("COMMIT");
-    verify(counts);
+    verify();
     m_connection.close();
     m_target.keep();
 }
