@@ -9,6 +9,7 @@
 #include "Screens.h"
 #include "SeqData.h"
 #include "Session.h"
+#include "Uebersicht.h"
 #include "WordProcessor.h"
 #include "modKontakt.h"
 
@@ -21,21 +22,6 @@ constexpr qint32 passiv = 2;
 constexpr std::size_t placeOfEintritt = 13;
 
 bool istMitglied(qint32 kategorie) { return kategorie == aktiv || kategorie == passiv; }
-
-/// Enters the child table of a category and, whatever happens there, goes back.
-class EnteredChild {
-public:
-    EnteredChild(DataTable& grid, int row)
-        : m_grid(grid)
-        , m_parent(grid.enterChild(row)) {}
-    ~EnteredChild() { m_grid.enter(m_parent); }
-    EnteredChild(const EnteredChild&) = delete;
-    EnteredChild& operator=(const EnteredChild&) = delete;
-
-private:
-    DataTable& m_grid;
-    TableHandle m_parent;
-};
 
 /// What a category's contacts are chosen by; members only with their row in Mitglied.
 QString herkunft(qint32 kategorie) {
@@ -95,7 +81,7 @@ void schreibeKategorie(CsvDatei& datei, DataTable& uebersicht, int zeile) {
     Database& datenbank = session().AktDatenbank;
     Recordset kontakte = datenbank.OpenRecordset(datenabfrage(kategorie), dbOpenDynaset);
     Recordset zaehlung = datenbank.OpenRecordset(anzahlabfrage(kategorie), dbOpenDynaset);
-    const EnteredChild kind(uebersicht, zeile);
+    const Uebersicht::ImKind kind(zeile);
     if (zaehlung.RecordCount() != 1) return;
     if (hatGezaehlt(zaehlung.Collect(u"Expr1000"_qs)))
         schreibeKontakte(datei, kontakte, istMitglied(kategorie));
