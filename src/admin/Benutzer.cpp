@@ -43,6 +43,8 @@ void Benutzer::tabBV_Click(int page) {
     // Groups may have come, gone or been renamed on the page that is left.
     if (m_page == groupPage) modBenutzer::LadeGruppenCombo(cboBG);
     m_page = page;
+    // A page that comes to the front is a face painted anew: its counts are put right.
+    update();
 }
 
 void Benutzer::tblBenutzer_OnGridCellOpen(int row) {

@@ -58,7 +58,10 @@ QLabel* Info::addValue(const QString& name) {
     return value;
 }
 
-void Info::Form_Load() { zeigeAnschrift(); }
+void Info::Form_Load() {
+    zeigeAnschrift();
+    cmdOK->setFocus();
+}
 
 void Info::zeigeAnschrift() {
     auto line = session().Anschrift.begin();

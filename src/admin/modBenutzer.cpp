@@ -109,6 +109,17 @@ void SpeicherBenutzer() {
     });
 }
 
+namespace {
+
+/// The row of the record whose number stands in the label. A row that was opened on the other page since then
+/// is the same number of another grid.
+int zeileVon(const DataTable* grid, const ValueLabel* nummer, int row) {
+    int gefunden = 0;
+    return grid->find(0, gefunden, nummer->Caption()) < 0 ? row : gefunden;
+}
+
+} // namespace
+
 void UpdateBenutzer(int row) {
     withErrorTail(modul, u"UpdateBenutzer"_qs, [row](ErrorTail& step) {
         const Benutzer& form = screen<Benutzer>();
@@ -121,9 +132,10 @@ void UpdateBenutzer(int row) {
         } else {
             modRun::MeldeNichtVorhanden();
         }
-        step([&] { form.tblBenutzer->setCell(row, 1, form.txtBenutzer->Text()); });
-        step([&] { form.tblBenutzer->setCell(row, 2, form.txtPassw->Text()); });
-        step([&] { form.tblBenutzer->setCell(row, gruppenSpalte, form.cboBG->Text()); });
+        const int zeile = zeileVon(form.tblBenutzer, form.lblBNr, row);
+        step([&] { form.tblBenutzer->setCell(zeile, 1, form.txtBenutzer->Text()); });
+        step([&] { form.tblBenutzer->setCell(zeile, 2, form.txtPassw->Text()); });
+        step([&] { form.tblBenutzer->setCell(zeile, gruppenSpalte, form.cboBG->Text()); });
         LeereBenutzerEingabe();
         step([&] { benutzer.Close(); });
     });
@@ -135,7 +147,7 @@ void LoescheBenutzer(int row) {
         Recordset benutzer;
         if (findeOffenen(step, benutzer, u"Benutzer"_qs, form.lblBNr)) {
             step([&] { benutzer.Delete(); });
-            step([&] { form.tblBenutzer->removeRow(row); });
+            step([&] { form.tblBenutzer->removeRow(zeileVon(form.tblBenutzer, form.lblBNr, row)); });
             zeigeAnzahl(form.lblBAnzahl, form.tblBenutzer);
         } else {
             modRun::MeldeNichtVorhanden();
@@ -175,8 +187,9 @@ void UpdateBG(int row) {
             step([&] { gruppe.Update(); });
             step([&] {
                 const std::vector<Value> zeile = gruppenZeile(gruppe);
+                const int dort = zeileVon(form.tblZugriff, form.lblGNr, row);
                 for (std::size_t column = 1; column < zeile.size(); ++column)
-                    form.tblZugriff->setCell(row, static_cast<int>(column), zeile[column]);
+                    form.tblZugriff->setCell(dort, static_cast<int>(column), zeile[column]);
             });
         } else {
             // Without a record there is nothing to take the cells from.
@@ -193,7 +206,7 @@ void LoescheZugriff(int row) {
         Recordset gruppe;
         if (findeOffenen(step, gruppe, u"Gruppen"_qs, form.lblGNr)) {
             step([&] { gruppe.Delete(); });
-            step([&] { form.tblZugriff->removeRow(row); });
+            step([&] { form.tblZugriff->removeRow(zeileVon(form.tblZugriff, form.lblGNr, row)); });
             zeigeAnzahl(form.lblGAnzahl, form.tblZugriff);
             // The number of groups here too, until the next painting.
             zeigeAnzahl(form.lblBAnzahl, form.tblZugriff);
@@ -227,7 +240,7 @@ qint32 ErmittleGNr(const QString& name) {
 }
 
 QString ErmittleGName(qint32 gnr) {
-    QString name = u"0"_qs;
+    QString name;
     // The names in the box are another routine's, and users know them so.
     withErrorTail(u"modBasis"_qs, u"SpeicherFisch"_qs, [&](ErrorTail& step) {
         Recordset gruppe;
@@ -237,6 +250,8 @@ QString ErmittleGName(qint32 gnr) {
         });
         if (step.test([&] { return gruppe.RecordCount() == 1; }))
             step([&] { name = CStr(gruppe.Collect(u"GName"_qs)); });
+        else
+            name = u"0"_qs;
         step([&] { gruppe.Close(); });
     });
     return name;
@@ -313,8 +328,11 @@ bool PruefeGruppenEingabe() {
 
 void LadeGruppenCombo(ComboBox* combo) {
     const DataTable* gruppen = screen<Benutzer>().tblZugriff;
+    // What stands in the box belongs to the user who is being entered.
+    const QString text = combo->Text();
     combo->Clear();
     for (int row = 0; row < gruppen->rowCount(); ++row) combo->AddItem(gruppen->cellText(row, 1));
+    combo->setText(text);
 }
 
 } // namespace modBenutzer

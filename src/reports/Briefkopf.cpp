@@ -108,7 +108,8 @@ void Briefkopf::addGrowingTitle(const QString& label, const QString& title) {
         .points(longTitlePoints)
         .bold()
         .ink(clubBlue)
-        .wrapped();
+        .wrapped()
+        .keepingEnd();
 }
 
 void Briefkopf::addSetting(const QString& label, const QString& caption, const QString& value) {

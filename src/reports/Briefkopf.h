@@ -28,8 +28,8 @@ public:
     void addSetting(const QString& label, const QString& caption, const QString& value);
     /// A title of up to three lines, in place of addTitle; no settings stand below it.
     void addLongTitle(const QString& label, const QString& title);
-    /// A title that each run makes longer: up to five lines in smaller letters, in the place of title and
-    /// settings.
+    /// A title that each run makes longer: up to five lines in smaller letters, of which the
+    /// last words stay, in the place of title and settings.
     void addGrowingTitle(const QString& label, const QString& title);
 
     /// Smaller letters and less air in the table, where there are many columns. To be called before them.

@@ -104,7 +104,8 @@ constexpr auto gruppenFields = std::to_array<FieldSpec>({
 });
 
 // The staging tables take over what a grid shows: names and months as texts, amounts as numbers that the
-// report formats and adds up.
+// report formats and adds up. Only the weight of the stocking plan, of which there is no sum, is taken as the
+// text that stands there.
 constexpr auto druckFanglisteFields = std::to_array<FieldSpec>({
     {u"FangNr", Long},
     {u"Name", Text},

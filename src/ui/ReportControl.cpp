@@ -32,6 +32,11 @@ ReportControl& ReportControl::wrapped() {
     return *this;
 }
 
+ReportControl& ReportControl::keepingEnd() {
+    m_keepsEnd = true;
+    return *this;
+}
+
 ReportControl& ReportControl::withPageNumbers() {
     m_pageNumbers = true;
     return *this;

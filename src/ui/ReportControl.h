@@ -22,6 +22,8 @@ public:
     ReportControl& format(const QString& pattern);
     /// A label that breaks its text into as many lines as its place holds.
     ReportControl& wrapped();
+    /// Of a wrapped text that is too long, the end stays and the beginning is left out.
+    ReportControl& keepingEnd();
     /// A label whose text has places for the page number (%p), the number of pages (%P) and the day of
     /// printing (%d). All others keep these signs, since a user may have typed them.
     ReportControl& withPageNumbers();
@@ -40,6 +42,7 @@ public:
     Align align() const { return m_align; }
     const QString& format() const { return m_format; }
     bool isWrapped() const { return m_wrapped; }
+    bool keepsEnd() const { return m_keepsEnd; }
     bool hasPageNumbers() const { return m_pageNumbers; }
     QRgb ground() const { return m_ground; } ///< transparent for none
     QRgb ink() const { return m_ink; }
@@ -60,6 +63,7 @@ private:
     Align m_align = Align::Left;
     bool m_bold = false;
     bool m_wrapped = false;
+    bool m_keepsEnd = false;
     bool m_pageNumbers = false;
     bool m_visible = true;
     QRgb m_ground = 0;

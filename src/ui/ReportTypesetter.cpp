@@ -56,11 +56,27 @@ QStringList linesOf(QString text, const QFont& font, double width, int most) {
     for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
         line.setLineWidth(width);
         const bool last = lines.size() == most - 1;
-        lines.append(text.mid(line.textStart(), last ? -1 : line.textLength()));
+        QString part = text.mid(line.textStart(), last ? -1 : line.textLength());
+        // The blank at which it was broken would make a full line too long.
+        if (!last && part.endsWith(u' ')) part.chop(1);
+        lines.append(part);
         if (last) break;
     }
     layout.endLayout();
     return lines;
+}
+
+/// As many of the last words as fit in so many lines.
+QString endThatFits(const QString& text, const QFont& font, double width, int most) {
+    const auto fits = [&](const QString& part) {
+        return linesOf(part, font, width, most + 1).size() <= most;
+    };
+    QString end = text;
+    for (qsizetype blank = 0; !fits(end) && blank >= 0;) {
+        blank = text.indexOf(u' ', blank + 1);
+        if (blank >= 0) end = u'…' + text.mid(blank);
+    }
+    return end;
 }
 
 } // namespace
@@ -104,7 +120,8 @@ void ReportTypesetter::set(const QRectF& place, const QString& text, const Repor
     const double height = face.metrics.lineSpacing();
     const int most = std::max(1, static_cast<int>(place.height() / height));
     QRectF line(place.topLeft(), QSizeF(place.width(), height));
-    for (const QString& part : linesOf(text, face.font, place.width(), most)) {
+    const QString shown = look.keepsEnd() ? endThatFits(text, face.font, place.width(), most) : text;
+    for (const QString& part : linesOf(shown, face.font, place.width(), most)) {
         setLine(face, line, onOneLine(part), look);
         line.translate(0, height);
     }

@@ -25,7 +25,8 @@ void Besatzung::Form_Activate() {
         session().NachReport = false;
         return;
     }
-    if (session().Modus != u"SAVE"_qs) return;
+    // A catch that stands open elsewhere must not leave the first visit without its years.
+    if (session().Modus != u"SAVE"_qs && cboBJahr->ListCount() > 0) return;
     modFangbuch::loadcboFArt(cboFArt);
     modFangbuch::loadcboGName(cboGName);
     modFangbuch::loadcboFJahr(cboBJahr);
@@ -102,6 +103,8 @@ void Besatzung::tbExcel_Click() {
 }
 
 void Besatzung::drucke(const QString& wort) {
+    // The press ends the editing of an opened stocking, which must not stand there as a new one afterwards.
+    if (!lblBNr->Caption().isEmpty()) modBesatzList::BesatzAnzeigeLoeschen();
     druckeFuer(*this, [&] { modBesatzList::DruckeBPlanListe(wort); });
 }
 

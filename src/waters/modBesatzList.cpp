@@ -31,11 +31,15 @@ QString alsGewicht(const Value& menge) { return Format(menge, u"###0.00"_qs); }
 
 /// The current record as a row of the grid.
 std::array<Value, 5> alsZeile(ErrorTail& step, const Recordset& plan) {
-    const auto number = [&](const QString& field) { return CLng(plan.Collect(field)); };
+    const auto name = [&](const QString& field, QString (*ermittle)(qint32)) {
+        const qint32 number = CLng(plan.Collect(field));
+        const KeptErrorCount kept;
+        return ermittle(number);
+    };
     std::array<Value, 5> zeile;
     step([&] { zeile[0] = plan.Collect(u"BNr"_qs); });
-    step([&] { zeile[1] = modFangbuch::ErmittleFischname(number(u"FNr"_qs)); });
-    step([&] { zeile[2] = modFangbuch::ErmittleGewaessername(number(u"GNr"_qs)); });
+    step([&] { zeile[1] = name(u"FNr"_qs, &modFangbuch::ErmittleFischname); });
+    step([&] { zeile[2] = name(u"GNr"_qs, &modFangbuch::ErmittleGewaessername); });
     step([&] { zeile[3] = plan.Collect(u"Zeit"_qs); });
     step([&] { zeile[4] = alsGewicht(plan.Collect(u"Menge"_qs)); });
     return zeile;
@@ -61,6 +65,14 @@ bool findeOffenen(ErrorTail& step, Recordset& plan, const Besatzung& form) {
         gefunden = !plan.NoMatch();
     });
     return gefunden;
+}
+
+/// Takes the opened record's row off the grid. Another year may have come to the screen since it was opened:
+/// what stands in its place then is another record's.
+void entferneOffenen(ErrorTail& step, const Besatzung& form, int row) {
+    const DataTable& grid = *form.tblBList;
+    const bool dort = row < grid.rowCount() && grid.cellText(row, 0) == form.lblBNr->Caption();
+    if (dort) step([&] { form.tblBList->removeRow(row); });
 }
 
 void zeigeAnzahl(const Besatzung& form) {
@@ -121,7 +133,7 @@ void UpdateEintrag(int row) {
             const std::array<Value, 5> zeile = {form.lblBNr->Caption(), form.cboFArt->Text(),
                                                 form.cboGName->Text(), form.txtZeit->Text(),
                                                 alsGewicht(form.txtMenge->Text())};
-            step([&] { form.tblBList->removeRow(row); });
+            entferneOffenen(step, form, row);
             step([&] { form.tblBList->insertRow(row, zeile); });
             form.tblBList->refresh();
         }
@@ -136,7 +148,7 @@ void LoescheEintrag(int row) {
         Recordset plan;
         if (findeOffenen(step, plan, form)) {
             step([&] { plan.Delete(); });
-            step([&] { form.tblBList->removeRow(row); });
+            entferneOffenen(step, form, row);
             zeigeAnzahl(form);
         } else {
             modRun::MeldeNichtVorhanden();
@@ -153,7 +165,7 @@ void zeigeEintrag(ErrorTail& step, const Recordset& plan, Besatzung& form) {
     step([&] { form.lblBNr->setCaption(text(u"BNr"_qs)); });
     step([&] { form.cboFArt->setText(text(u"FName"_qs)); });
     step([&] { form.cboGName->setText(text(u"GName"_qs)); });
-    step([&] { form.txtZeit->setText(text(u"Zeit"_qs)); });
+    step([&] { form.txtZeit->setText(modRun::textOderLeer(plan.Fields(u"Zeit"_qs))); });
     step([&] { form.txtMenge->setText(alsGewicht(plan.Collect(u"Menge"_qs))); });
 }
 

@@ -63,6 +63,20 @@ int errorOf(const std::function<void()>& statement) {
     return 0;
 }
 
+TEST(ReportPainterTest, ATitleThatIsTooLongShowsItsEndWhereThatIsWanted) {
+    const auto painted = [](const QString& lastWord, bool keepsEnd) {
+        Report report(u"Eins"_qs);
+        ReportSection& head = report.section(u"Section2"_qs);
+        head.setHeight(200);
+        const QString title = u"Besatz - Plan für das Fangjahr 2025 "_qs.repeated(6) + lastWord;
+        ReportControl& label = head.addLabel(u"a"_qs, title, {0, 0, 500, 150}).wrapped();
+        if (keepsEnd) label.keepingEnd();
+        return pictureOf(report, 0);
+    };
+    EXPECT_EQ(painted(u"2025"_qs, false), painted(u"2026"_qs, false));
+    EXPECT_NE(painted(u"2025"_qs, true), painted(u"2026"_qs, true));
+}
+
 TEST(ReportPainterTest, NoTextLeavesItsPlaceWhateverItsAlignment) {
     using Align = ReportControl::Align;
     const QRect place(300, 0, 200, 50);
