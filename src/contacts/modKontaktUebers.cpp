@@ -18,8 +18,8 @@ namespace {
 
 /// Month before day: the birthday in the overview has its two first parts exchanged.
 QString tagUndMonatGetauscht(QString datum) {
-    constexpr int teil = 3;
-    constexpr int laenge = 10;
+    constexpr qsizetype teil = 3;
+    constexpr qsizetype laenge = 10;
     datum.truncate(laenge);
     if (datum.size() >= 2 * teil) std::swap_ranges(datum.begin(), datum.begin() + teil, datum.begin() + teil);
     return datum;

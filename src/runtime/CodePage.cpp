@@ -35,13 +35,24 @@ bool isPairAt(const QString& text, qsizetype place) {
     return text.at(place).isHighSurrogate() && place + 1 < text.size() && text.at(place + 1).isLowSurrogate();
 }
 
+/// A letter with a mark that the code page does not have loses the mark, not itself: a letter to Mr Kovac
+/// arrives.
+char nearestByteOf(QChar sign) {
+    if (const auto byte = byteOf(sign.unicode())) return *byte;
+    const bool isMarked = sign.decompositionTag() == QChar::Canonical;
+    const QString parts = isMarked ? sign.decomposition() : QString();
+    return parts.isEmpty() ? '?' : byteOf(parts.front().unicode()).value_or('?');
+}
+
 } // namespace
 
-QByteArray toWindows1252(const QString& text) {
+QByteArray toWindows1252(const QString& given) {
+    // A letter and its mark may come as two signs, as other systems write them.
+    const QString text = given.normalized(QString::NormalizationForm_C);
     QByteArray bytes;
     bytes.reserve(text.size());
     for (qsizetype place = 0; place < text.size(); ++place) {
-        bytes.append(byteOf(text.at(place).unicode()).value_or('?'));
+        bytes.append(nearestByteOf(text.at(place)));
         if (isPairAt(text, place)) ++place;
     }
     return bytes;

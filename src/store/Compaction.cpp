@@ -9,6 +9,9 @@
 
 namespace {
 
+constexpr int definitionUnknown = 3001;
+constexpr int copyFailed = 75;
+
 /// A file and its copy, which the same connection knows as main and copy.
 class Compaction {
 public:
@@ -81,7 +84,7 @@ void Compaction::create(const SchemaObject& object) {
          {"CREATE TABLE ", "CREATE INDEX ", "CREATE UNIQUE INDEX ", "CREATE VIEW ", "CREATE TRIGGER "})
         if (object.sql.startsWith(kind))
             return m_connection.execute(kind + "copy." + object.sql.sliced(kind.size()));
-    throw runtimeError(3343, object.name);
+    throw runtimeError(definitionUnknown);
 }
 
 /// Where both tables are alike, the library hands the rows over as they are stored.
@@ -132,12 +135,14 @@ void Compaction::verify() {
     bool whole = check.step() && check.text(0) == u"ok";
     for (auto table = m_counts.cbegin(); table != m_counts.cend(); ++table)
         whole = whole && hasRows(table.key(), table.value());
-    if (!whole) throw runtimeError(3343, m_target.path());
+    // Not the number of a damaged file: the original is whole, and nothing in it is to be guessed.
+    if (!whole) throw runtimeError(copyFailed);
 }
 
-/// In one transaction, so that nobody writes to the original while it is read table by table.
+/// In one transaction that is alone with the file: what a second program were writing to it meanwhile would
+/// be lost with the old file.
 void Compaction::run() {
-    m_connection.execute("BEGIN");
+    m_connection.execute("BEGIN EXCLUSIVE");
     m_tables = schemaObjects("type = 'table'");
     copyAll();
     m_connection.execute("COMMIT");

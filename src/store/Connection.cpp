@@ -60,11 +60,14 @@ Connection::Connection(const QString& path, const QString& password, Access acce
 void Connection::openExisting(const QString& path, const QString& password, Access access) {
     requireReadableFile(path);
     requireContent(path);
-    if (isInterrupted(path))
-        requireKeyOfInterrupted(path, password);
-    else
-        requireWholePages(path);
-    openKnown(path, password, access);
+    orDamaged(path, password, [&] {
+        if (isInterrupted(path))
+            requireKeyOfInterrupted(path, password);
+        else
+            requireWholePages(path);
+        openFile(path, password, access);
+        readFirstPage(path);
+    });
     requireWholePages(path);
     requireTables(path);
     if (access == Access::ReadWrite) leaveWriteAheadMode(path);
@@ -89,10 +92,9 @@ void Connection::openFile(const QString& path, const QString& password, Access a
 }
 
 /// A first page that the password does not open is damaged if it opens others.
-void Connection::openKnown(const QString& path, const QString& password, Access access) {
+void Connection::orDamaged(const QString& path, const QString& password, const std::function<void()>& open) {
     try {
-        openFile(path, password, access);
-        readFirstPage(path);
+        open();
     } catch (const RuntimeError& error) {
         m_database.reset();
         if (error.number == 3031 && fitsOtherPages(path, password)) throw runtimeError(3343, path);

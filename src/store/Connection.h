@@ -6,6 +6,7 @@
 #include "WriteTransaction.h"
 
 #include <QString>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -55,7 +56,7 @@ public:
 
 private:
     void openExisting(const QString& path, const QString& password, Access access);
-    void openKnown(const QString& path, const QString& password, Access access);
+    void orDamaged(const QString& path, const QString& password, const std::function<void()>& open);
     void openFile(const QString& path, const QString& password, Access access);
     void readFirstPage(const QString& path);
     void requireTables(const QString& path);

@@ -3,6 +3,7 @@
 #include "Clock.h"
 #include "NewDatabase.h"
 
+#include <algorithm>
 #include <array>
 
 namespace {
@@ -42,20 +43,25 @@ void raiseCounter(Connection& file, const QString& table, qint64 number) {
 
 void restoreSystem(Connection& file) {
     if (single(file, "SELECT COUNT(*) FROM \"System\"") > 0) return;
-    // Catches are entered in the current fishing year.
-    const qint64 latest = single(file, "SELECT MAX(\"FangJahr\") FROM \"Fang\"");
-    seedSystem(file, static_cast<int>(latest > 0 ? latest : today().year()));
+    // Catches and hours are entered in the current fishing year; one beyond the calendar's is a slip of the
+    // pen.
+    const qint64 latest = std::max(single(file, "SELECT MAX(\"FangJahr\") FROM \"Fang\""),
+                                   single(file, "SELECT MAX(\"Jahr\") FROM \"Arbeit\""));
+    const int thisYear = today().year();
+    seedSystem(file, latest > 0 && latest < thisYear ? static_cast<int>(latest) : thisYear);
 }
 
-bool canAnybodyLogIn(Connection& file) {
-    return single(file, "SELECT COUNT(*) FROM \"Benutzer\" JOIN \"Gruppen\" USING (\"GNr\")") > 0;
+/// Nobody else could let the others in again.
+bool canAnybodyManageUsers(Connection& file) {
+    return single(file, "SELECT COUNT(*) FROM \"Benutzer\" JOIN \"Gruppen\" USING (\"GNr\") "
+                        "WHERE \"Benutzerverwaltung\"") > 0;
 }
 
 /// With the groups back as delivered the users of the first one come in with their own passwords.
 void restoreLogin(Connection& file) {
-    if (canAnybodyLogIn(file)) return;
+    if (canAnybodyManageUsers(file)) return;
     if (single(file, "SELECT COUNT(*) FROM \"Gruppen\" WHERE \"Benutzerverwaltung\"") == 0) seedGroup(file);
-    if (!canAnybodyLogIn(file)) seedUser(file);
+    if (!canAnybodyManageUsers(file)) seedUser(file);
 }
 
 void restoreMembers(Connection& file) {

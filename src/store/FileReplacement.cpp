@@ -29,11 +29,18 @@ void settleFolderOf(const QString& path) {
 #endif
 }
 
+/// What a killed process has left may hold what stands nowhere else: it goes out of the way, not away.
+void putAside(const QString& journal) {
+    if (!QFile::exists(journal)) return;
+    const QString aside = journal + QStringLiteral(".alt");
+    const bool free = !QFile::exists(aside) || QFile::remove(aside);
+    if (!free || !QFile::rename(journal, aside)) throw runtimeError(accessDenied);
+}
+
 } // namespace
 
 void replaceDatabase(const QString& newFile, const QString& oldFile) {
-    for (const QString& journal : journalsOf(oldFile))
-        if (QFile::exists(journal) && !QFile::remove(journal)) throw runtimeError(accessDenied);
+    for (const QString& journal : journalsOf(oldFile)) putAside(journal);
     settleFolderOf(oldFile);
     std::error_code failure;
     std::filesystem::rename(newFile.toStdU16String(), oldFile.toStdU16String(), failure);

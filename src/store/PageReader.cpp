@@ -94,9 +94,12 @@ void PageReader::growCopy(const QByteArray& salt, const QString& password) {
 void PageReader::fillCopy(QFile& original) const {
     QFile copy(m_copy);
     if (!copy.open(QIODevice::ReadWrite)) throw runtimeError(3026);
-    for (qint64 at = pageBytes; at < m_pageCount * pageBytes; at += pageBytes) {
-        // A page that the disk does not give is a damaged page like any other.
-        const QByteArray page = original.seek(at) ? original.read(pageBytes) : QByteArray();
+    const qint64 end = copy.size();
+    for (qint64 at = pageBytes; at < end; at += pageBytes) {
+        // A page that the disk does not give is a damaged page like any other, and so is each that the copy
+        // has beyond the original: whole ones full of zeros would be taken for the rest of a row.
+        const bool isThere = at < m_pageCount * pageBytes && original.seek(at);
+        const QByteArray page = isThere ? original.read(pageBytes) : QByteArray();
         if (!copy.seek(at)) throw runtimeError(3026);
         writeAll(copy, page.leftJustified(pageBytes, 'x'));
     }

@@ -32,8 +32,12 @@ void salvageFile(const QString& source, const QString& target, const QString& pa
 }
 
 bool fitsOtherPages(const QString& path, const QString& password) {
-    PageReader pages(path, password, samplePages);
-    for (int page = 2; page <= pages.pageCount(); ++page)
-        if (pages.rowsOf(page, [](const Statement&) { return false; })) return true;
+    try {
+        PageReader pages(path, password, samplePages);
+        for (int page = 2; page <= pages.pageCount(); ++page)
+            if (pages.rowsOf(page, [](const Statement&) { return false; })) return true;
+    } catch (const RuntimeError&) {
+        // Without room for the copy it can't be told.
+    }
     return false;
 }

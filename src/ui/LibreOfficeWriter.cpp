@@ -44,7 +44,14 @@ QString storedLetter(const QDir& folder, const QByteArray& letter) {
 bool lacksDatabasePart(const QString& program) {
     const QDir parts = QFileInfo(QFileInfo(program).canonicalFilePath()).dir();
     return parts.exists(u"libfilelo.so"_qs) &&
-           !(parts.exists(u"libflatlo.so"_qs) && parts.exists(u"libdbalo.so"_qs));
+           !(parts.exists(u"libflatlo.so"_qs) && parts.exists(u"libdbalo.so"_qs) &&
+             parts.exists(u"libdbaxmllo.so"_qs));
+}
+
+/// An office of which only the spreadsheet was installed opens no letter.
+bool lacksWriter(const QString& program) {
+    const QDir parts = QFileInfo(QFileInfo(program).canonicalFilePath()).dir();
+    return parts.exists(u"libfilelo.so"_qs) && !parts.exists(u"libswlo.so"_qs);
 }
 
 void tellLackOfDatabasePart(const QString& letter) {
@@ -110,6 +117,6 @@ std::unique_ptr<WordProcessor> LibreOfficeWriter::running() { throw runtimeError
 
 std::unique_ptr<WordProcessor> LibreOfficeWriter::start() {
     const QString program = QStandardPaths::findExecutable(u"soffice"_qs);
-    if (program.isEmpty()) throw runtimeError(cannotBeReached);
+    if (program.isEmpty() || lacksWriter(program)) throw runtimeError(cannotBeReached);
     return std::make_unique<Writer>(program);
 }

@@ -68,6 +68,11 @@ TEST_F(LibreOfficeLetter, NeverOverwritesOneThatTheUserHasChanged) {
 
 TEST_F(LibreOfficeLetter, TellsWhatKeepsItFromBeingMerged) {
     place(u"office/libfilelo.so"_qs, "x");
+    // An office without its word processor is none.
+    modSerienbrief::StarteWordSerienbrief();
+    EXPECT_EQ(boxes.texts, QStringList{u"64 Uferwart: Es ist kein Word verfügbar !"_qs});
+    boxes.texts.clear();
+    place(u"office/libswlo.so"_qs, "x");
     EXPECT_EQ(nameOfOpened(), u"Serienbrief.odt"_qs);
     ASSERT_EQ(boxes.texts.size(), 1);
     EXPECT_TRUE(boxes.texts[0].contains(u"libreoffice-base"_qs));

@@ -11,6 +11,7 @@ TEST(CodePage, WritesGermanTextOneByteACharacter) {
 }
 
 TEST(CodePage, WritesOneQuestionMarkForWhatItLacks) {
+    EXPECT_EQ(toWindows1252(QStringLiteral("Kova\u010D, Mu\u0308ller")), QByteArray("Kovac, M\xFCller"));
     EXPECT_EQ(toWindows1252(QStringLiteral("a\u0141\U0001F41Fb")), QByteArray("a??b"));
     EXPECT_EQ(toWindows1252(QString(QChar(0xD83D)) + u'x'), QByteArray("?x"));
     EXPECT_EQ(toWindows1252(QString(QChar(0xDC1F)) + QChar(0xD83D)), QByteArray("??"));
