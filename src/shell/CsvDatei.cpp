@@ -4,6 +4,7 @@
 #include "Conversions.h"
 #include "RuntimeError.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <algorithm>
 #include <array>
@@ -34,11 +35,22 @@ void appendEncoded(QByteArray& buffer, QStringView text) {
     }
 }
 
-/// The office leaves a lock beside a file that it has open. Writing below it would be lost with its next
-/// save.
+/// Where the platform does not tell, it counts as running.
+bool isOfficeRunning() {
+    const QDir processes(u"/proc"_qs);
+    if (!processes.exists(u"self"_qs)) return true;
+    const QStringList numbers = processes.entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    return std::any_of(numbers.begin(), numbers.end(), [&](const QString& number) {
+        QFile name(processes.filePath(number + u"/comm"_qs));
+        return name.open(QIODevice::ReadOnly) && name.readAll().startsWith("soffice");
+    });
+}
+
+/// The office leaves a lock beside a file that it has open; writing below it would be lost with its next
+/// save. A lock that a crash has left behind must not keep the file from being written for ever.
 bool isHeldOpen(const QString& path) {
     const QFileInfo file(path);
-    return QFileInfo::exists(file.path() + u"/.~lock."_qs + file.fileName() + u'#');
+    return QFileInfo::exists(file.path() + u"/.~lock."_qs + file.fileName() + u'#') && isOfficeRunning();
 }
 
 } // namespace
