@@ -148,9 +148,10 @@ TEST(CsvDatei, LeavesAFileAloneThatARunningOfficeHolds) {
     EXPECT_EQ(errorOf([&] { CsvDatei(folder.filePath(u"FANG.csv"_qs)); }), 70);
     office.kill();
     office.waitForFinished();
-    // It has crashed and left its lock. Somebody's own office would count as the one that holds it.
-    if (QProcess::execute(u"pgrep"_qs, {u"-x"_qs, u"soffice.bin"_qs}) == 0) GTEST_SKIP();
-    EXPECT_EQ(errorOf([&] { CsvDatei(folder.filePath(u"FANG.csv"_qs)); }), 0);
+    // It has crashed and left its lock. Somebody's own office would count as the one that holds the file.
+    const int error = errorOf([&] { CsvDatei(folder.filePath(u"FANG.csv"_qs)); });
+    if (error != 0 && QProcess::execute(u"pgrep"_qs, {u"-x"_qs, u"soffice.bin"_qs}) == 0) GTEST_SKIP();
+    EXPECT_EQ(error, 0);
 }
 
 TEST(CsvDatei, CutsFillsAndTrimsItsFields) {
