@@ -77,7 +77,7 @@ void makeProgramFolder(const QString& folder, int year, bool demo) {
         throw RuntimeError{3204, QStringLiteral("Im Ordner %1 gibt es schon eine uw01.mdb.").arg(place)};
     }
     Beginnings beginnings;
-    for (const char16_t* inner : {u"/temp", u"/SeqData", u"/Graphics/bmp"}) {
+    for (const char16_t* inner : {u"/temp", u"/SeqData", u"/Sicherung", u"/Graphics/bmp"}) {
         beginnings.makeFolder(place + QString::fromUtf16(inner));
     }
     copyPicture(place + QStringLiteral("/Graphics/bmp/Cut.bmp"), beginnings);

@@ -5,6 +5,7 @@
 #include "MsgBox.h"
 #include "Screens.h"
 #include "Session.h"
+#include "modSicherung.h"
 
 #include <QEvent>
 #include <QGuiApplication>
@@ -27,7 +28,7 @@ bool Program::eventFilter(QObject* watched, QEvent* event) {
 }
 
 Program::~Program() {
-    finish();
+    letGo();
     if (running != this) return;
     setEventFailure({});
     running = nullptr;
@@ -43,17 +44,25 @@ void Program::start() {
 
 void Program::finish() {
     if (!m_running) return;
+    letGo();
+    modSicherung::SichereDatenbank();
+    Q_EMIT ended();
+}
+
+void Program::letGo() {
+    if (!m_running) return;
     m_running = false;
     session().Beendet = true;
     setEventsEnded(true);
     unload<Main>();
     Screens::removeAll();
     session().AktDatenbank = Database();
-    Q_EMIT ended();
 }
 
+/// What an error has left is not worth a copy: the next end without one makes it.
 void Program::fail(const RuntimeError& error) {
     if (!m_running) return;
     MsgBox(u"Laufzeitfehler '%1':\r\n\r\n%2"_qs.arg(error.number).arg(error.description), vbCritical);
-    finish();
+    letGo();
+    Q_EMIT ended();
 }

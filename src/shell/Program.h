@@ -18,7 +18,8 @@ public:
     /// Runs the start-up to the point where it waits for the user, or to its failure.
     void start();
     bool isRunning() const { return m_running; }
-    /// Ends the program: every screen goes, the database file is let go. Safe from within any handler.
+    /// Ends the program: every screen goes, the database file is let go and copied into the folder for that.
+    /// Safe from within any handler.
     void finish();
 
 Q_SIGNALS:
@@ -31,6 +32,7 @@ protected:
 
 private:
     void fail(const RuntimeError& error);
+    void letGo();
 
     bool m_running = false;
 };

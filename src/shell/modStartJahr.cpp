@@ -5,6 +5,7 @@
 #include "Transaction.h"
 #include "modArbeit.h"
 #include "modKontakt.h"
+#include "modSicherung.h"
 #include "modStart.h"
 
 #include <QStringList>
@@ -72,6 +73,7 @@ std::optional<qint32> uebernehmeJahr(ErrorTail& step, Recordset& system, std::op
 
 /// What belongs to a year is written together or, when the program is ended in the middle, not at all.
 void wechsleJahr(ErrorTail& step, Recordset& system, bool& result) {
+    modSicherung::SichereDatenbank();
     std::optional<Transaction> change;
     const std::optional<qint32> altesJahr = uebernehmeJahr(step, system, change);
     result = true;

@@ -1,6 +1,7 @@
 #include "InterruptedFile.h"
 
 #include "DatabaseHandle.h"
+#include "RawContent.h"
 #include "RuntimeError.h"
 #include "Sqlite.h"
 #include "SqliteError.h"
@@ -34,19 +35,6 @@ bool fitsFirstPage(sqlite3* database, const QString& password) {
     return true;
 }
 
-/// Reads through the library: closing a file of its own would drop the locks of this process on it.
-QByteArray contentOf(sqlite3* database) {
-    sqlite3_file* file = nullptr;
-    sqlite3_file_control(database, "main", SQLITE_FCNTL_FILE_POINTER, &file);
-    sqlite3_int64 size = 0;
-    int code = file->pMethods->xFileSize(file, &size);
-    QByteArray content(static_cast<qsizetype>(size), '\0');
-    if (code == SQLITE_OK && size > 0)
-        code = file->pMethods->xRead(file, content.data(), static_cast<int>(size), 0);
-    if (code != SQLITE_OK) throw sqliteError(code);
-    return content;
-}
-
 void copyInto(const QString& target, const QByteArray& content) {
     QFile copy(target);
     const bool written = copy.open(QIODevice::WriteOnly) && copy.write(content) == content.size();
@@ -78,5 +66,7 @@ bool isInterrupted(const QString& path) {
 void requireKeyOfInterrupted(const QString& path, const QString& password) {
     const DatabaseHandle handle = openAsItLies(path);
     if (fitsFirstPage(handle.get(), password)) return;
-    if (!fitsOnceTakenBack(path, contentOf(handle.get()), password)) throw runtimeError(3031);
+    const RawContent content(handle.get());
+    const QByteArray bytes = content.read(0, static_cast<qsizetype>(content.size()));
+    if (!fitsOnceTakenBack(path, bytes, password)) throw runtimeError(3031);
 }

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QDateTime>
+#include <QString>
+
+/// Keeps copies of a database file in a folder: makes one, named by `time`, unless the newest that is there
+/// already equals the file byte by byte. A copy gets its name when it is whole and could be read; so a file
+/// that has become damaged never pushes out the copies of its better days. The ten newest stay. Copies dated
+/// after `time` count as the oldest, since they come from a clock that went wrong, then or now.
+///
+/// Without the folder nothing happens. Errors as for Workspace::OpenDatabase, 3026 when the disk is full; the
+/// copies made before are then untouched.
+void keepSafetyCopy(const QString& file, const QString& password, const QString& folder,
+                    const QDateTime& time);

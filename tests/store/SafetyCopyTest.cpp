@@ -1,0 +1,54 @@
+#include "SafetyCopy.h"
+#include "StoreFixture.h"
+
+#include <QDir>
+#include <QFile>
+
+class SafetyCopyTest : public StoreTest {
+protected:
+    SafetyCopyTest() {
+        database.Close();
+        QDir().mkdir(folder());
+    }
+
+    QString folder() const { return file(u"Sicherung"_qs); }
+    QStringList copies() const { return QDir(folder()).entryList(QDir::Files, QDir::Name); }
+
+    void change() const { connectTo(path())->execute("UPDATE System SET FJahr = FJahr + 1"); }
+
+    /// The day of May 2026 at whose noon the copy is made.
+    void keep(int day) const {
+        keepSafetyCopy(path(), passwordOf(connect()), folder(),
+                       QDate(2026, 5, day).startOfDay().addSecs(43200));
+    }
+
+    static QString name(int day) {
+        return u"uw01 2026-05-%1 12.00.00.mdb"_qs.arg(day, 2, 10, QLatin1Char('0'));
+    }
+};
+
+TEST_F(SafetyCopyTest, TheTenNewestStayWhateverTheClockSaidInBetween) {
+    for (int day = 1; day <= 12; ++day) {
+        change();
+        keep(day == 6 ? 31 : day);
+    }
+    QStringList expected;
+    for (int day : {2, 3, 4, 5, 7, 8, 9, 10, 11, 12}) expected += name(day);
+    EXPECT_EQ(copies(), expected);
+    keep(13);
+    EXPECT_EQ(copies(), expected) << "nothing has changed";
+}
+
+TEST_F(SafetyCopyTest, ADamagedFilePushesNothingOut) {
+    keep(1);
+    QFile leftOver(folder() + u"/uw01.neu"_qs);
+    ASSERT_TRUE(leftOver.open(QIODevice::WriteOnly));
+    leftOver.close();
+    {
+        QFile damaged(path());
+        ASSERT_TRUE(damaged.open(QIODevice::ReadWrite) && damaged.seek(damaged.size() - 2000));
+        damaged.write("hier war etwas");
+    }
+    EXPECT_NE(errorOf([&] { keep(2); }), 0);
+    EXPECT_EQ(copies(), QStringList{name(1)});
+}
