@@ -13,6 +13,8 @@
 
 Info::Info()
     : Screen(u"Info"_qs, u"Info"_qs) {
+    // Who looks something up here in the middle of an entry finds the entry as it was.
+    standAlone();
     lblTitle = Face::label(u"lblTitle"_qs, u"Uferwart Version 2.0"_qs, this);
     QFont titleFont(u"Comic Sans MS"_qs);
     titleFont.setPointSize(16);

@@ -54,7 +54,10 @@ void writeParameter(Recordset& parameter, const Parameter& which) {
 void showAddress(ErrorTail& step, const Recordset& parameter) {
     const auto text = [&](const AddressLine& line) { return CStr(parameter.Fields(line.field).Value()); };
     auto shown = session().Anschrift.begin();
-    for (const AddressLine& line : address()) step([&] { *shown++ = text(line); });
+    for (const AddressLine& line : address()) {
+        QString& label = *shown++;
+        step([&] { label = text(line); });
+    }
     screen<Info>().zeigeAnschrift();
     for (const AddressLine& line : address()) step([&] { line.box->setText(text(line)); });
 }

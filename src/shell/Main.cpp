@@ -124,7 +124,7 @@ void Main::ButtnBar_ItemClick(const QString& key) { modNavigation::zeigeBereich(
 
 void Main::mnuInfo_Click() {
     modNavigation::binde(session().AktBarItem, screen<Info>());
-    screen<Info>().Show();
+    screen<Info>().ShowAbove(this);
 }
 
 void Main::loadKontMenu_Mitgl() {

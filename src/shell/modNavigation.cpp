@@ -114,9 +114,7 @@ void VersteckeFormen() {
     hideIfLoaded<Besatzung>();
     hideIfLoaded<Hinter>();
     hideIfLoaded<MitglList>();
-    // The list from which a member goes to the ledger waits for the user to come back.
-    const bool wartet = isLoaded<Arbeit>() && screen<Arbeit>().erwartetMitglied();
-    if (isLoaded<MitglList>() && !wartet) modMitglList::LeereMListAnzeige();
+    if (isLoaded<MitglList>()) modMitglList::LeereMListAnzeige();
     hideIfLoaded<Katego>();
 }
 

@@ -50,6 +50,11 @@ void Screen::Show() {
         stage->bringToFront(this);
 }
 
+void Screen::ShowAbove(QWidget* window) {
+    if (parentWidget() != window) setParent(window, Qt::Dialog);
+    showAsWindow();
+}
+
 void Screen::showAsWindow() {
     if (!testAttribute(Qt::WA_Resized)) adjustSize();
     if (!m_placed && parentWidget())

@@ -39,9 +39,11 @@ public:
     /// As a modal window of its own above the frame; returns when it is hidden or unloaded. Neither activates
     /// nor deactivates the screen below.
     void ShowModal();
+    /// As a window of its own that lies above another one and leaves it usable; for screens that stand alone.
+    void ShowAbove(QWidget* window);
     void Hide();
     bool isModalNow() const { return m_modalLoop != nullptr; }
-    /// True if it stands in a window of its own (login, start-up picture) instead of on the stage.
+    /// True if it stands in a window of its own (login, Info) instead of on the stage.
     bool isOwnWindow() const { return m_ownWindow; }
 
     /// The one instance of another screen. Stands here since QWidget::screen() would hide the free function
@@ -54,7 +56,7 @@ public:
     bool hasHourglass() const { return m_hourglass; }
 
 protected:
-    /// Login and the start-up picture stand alone, before there is a frame.
+    /// For a screen that needs no frame, or that must not cover what lies there.
     void standAlone() { m_ownWindow = true; }
 
     /// Connects a control's signal to a handler that runs guarded.

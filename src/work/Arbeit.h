@@ -28,7 +28,6 @@ public:
 
     /// The next activation finds a member here and does not ask for one.
     void erwarteMitglied() { m_uebergabe = true; }
-    bool erwartetMitglied() const { return m_uebergabe; }
 
     Heading* Ueberschrift;
     Toolbar* Toolbar1;

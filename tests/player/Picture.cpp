@@ -18,7 +18,7 @@ QRect placeOf(const QWidget* window) { return {window->mapToGlobal(QPoint(0, 0))
 int layerOf(const QWidget* window) {
     if (window->windowType() == Qt::Popup) return 3;
     if (window == QApplication::activeModalWidget()) return 2;
-    return window->isModal() ? 1 : 0;
+    return window->isModal() || window->parentWidget() ? 1 : 0;
 }
 
 QWidgetList windowsFromBack() {

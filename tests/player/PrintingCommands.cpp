@@ -30,9 +30,11 @@ QString nameOr(const QObject* object, const QString& otherwise) {
     return object ? object->objectName() : otherwise;
 }
 
-/// On the stage of the frame, or the window that stands alone before there is a frame to see.
+/// On the stage of the frame, or the window that stands alone before there is a frame to see or above it.
 const QWidget* frontScreen() {
     const QWidget* main = Screens::byName(u"Main"_qs);
+    const auto* active = qobject_cast<const Screen*>(QApplication::activeWindow());
+    if (active && active != main && !active->isModalNow()) return active;
     const bool frameIsSeen = main && main->isVisible();
     if (frameIsSeen) return Stage::current()->front() ? Stage::current()->front() : main;
     const Screen* alone = nullptr;
