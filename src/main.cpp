@@ -9,6 +9,9 @@
 int main(int argc, char* argv[]) {
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
+    // By this name the desktop finds the menu entry, and with it the icon, of a window.
+    QApplication::setDesktopFileName(u"uferwart"_qs);
+    Theme::loadFonts(QApplication::applicationDirPath() + u"/fonts"_qs);
     Theme::apply(application, Theme::desktopMode(application));
     QtMessageBoxes boxes;
     setMessageBoxes(&boxes);

@@ -4,6 +4,8 @@
 #include "ThemeIcon.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QFontDatabase>
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QLocale>
@@ -85,6 +87,11 @@ void loadGermanWords(QApplication& application) {
 } // namespace
 
 namespace Theme {
+
+void loadFonts(const QString& folder) {
+    for (const QFileInfo& file : QDir(folder).entryInfoList({u"*.ttf"_qs, u"*.otf"_qs}, QDir::Files))
+        QFontDatabase::addApplicationFont(file.filePath());
+}
 
 void apply(QApplication& application, Mode mode) {
     loadPictures();

@@ -13,6 +13,9 @@ namespace Theme {
 
 enum class Mode { Light, Dark };
 
+/// Makes the fonts in a folder known to the program, whether or not the machine has them; a missing folder is
+/// no error. To be called before the first apply().
+void loadFonts(const QString& folder);
 /// Style, palette and fonts for the whole program; also loads the toolkit's German words and
 /// makes German the locale of dates and numbers. May be called again to change the mode.
 void apply(QApplication& application, Mode mode);
