@@ -25,10 +25,12 @@ fail() {
 # A text as the value of a key.
 as_value() { printf '%s' "${1//\\/\\\\}"; }
 
-# A path as the first word of Exec: quoted, its percent signs no field codes, and all that as a value.
+# A path as what Exec starts: quoted, its percent signs no field codes, and all that as a value. GNOME looks for
+# the first word as it stands, and would not find one with a doubled percent sign.
 as_command() {
   local word=$1 sign
   for sign in \\ \" \` \$; do word=${word//"$sign"/"\\$sign"}; done
+  case $word in *%*) printf 'env ' ;; esac
   as_value "\"${word//%/%%}\""
 }
 

@@ -19,7 +19,7 @@ build_packages=(
   libsqlcipher-dev libzip-dev libgtest-dev
   fonts-liberation fonts-comic-neue
 )
-test_packages=(sqlcipher)
+test_packages=(sqlcipher appstream desktop-file-utils libglib2.0-bin)
 lint_packages=(clang-format clang-tidy)
 
 # A field of the file by which a system tells its name.
