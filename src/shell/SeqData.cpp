@@ -8,8 +8,8 @@ namespace SeqData {
 
 QString path(const QString& name) {
     const QDir folder(programFolder() + u"/SeqData"_qs);
-    if (folder.exists(name)) return folder.filePath(name);
-    for (const QString& entry : folder.entryList(QDir::Files | QDir::Hidden))
+    // In a fixed order: of two files that differ in capitals only, each spelling must mean the same one.
+    for (const QString& entry : folder.entryList(QDir::Files | QDir::Hidden, QDir::Name))
         if (entry.compare(name, Qt::CaseInsensitive) == 0) return folder.filePath(entry);
     return folder.filePath(name);
 }
