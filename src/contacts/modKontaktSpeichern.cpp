@@ -96,15 +96,20 @@ void SpeicherKontakt() {
         step([&] { kontakt.AddNew(); });
         step([&] { kontakt.Collect(u"kategonr"_qs, ErmittleKategoNr(form.cboKatego->Text())); });
         KontaktFelder::schreibeKontakt(step, kontakt, form);
-        step([&] { kontakt.Update(); });
-        if (KontaktFelder::istMitglied(form)) {
+        // The last row is the new one only if there is a new one: it would be somebody else otherwise.
+        bool gespeichert = false;
+        step([&] {
+            kontakt.Update();
+            gespeichert = true;
+        });
+        if (gespeichert && KontaktFelder::istMitglied(form)) {
             step([&] { mitglied = oeffne(u"Mitglied"_qs); });
             step([&] { kontakt.Index(u"PrimaryKey"_qs); });
             step([&] { kontakt.MoveLast(); });
             fuegeMitgliedAn(step, mitglied, kontakt, form);
             step([&] { mitglied.Close(); });
         }
-        zeigeNeuen(step, kontakt, form);
+        if (gespeichert) zeigeNeuen(step, kontakt, form);
         KontaktAnzeigeLoeschen();
         step([&] { kontakt.Close(); });
     });
