@@ -42,6 +42,9 @@ start_program() {
   [ -e "$folder" ] || "$top/build/release/tools/uferwart-neu" "$folder" "${kind[@]}"
   # The program looks for its data beside its executable.
   cp --update --remove-destination "$top/build/release/src/uferwart" "$folder/"
+  mkdir -p "$folder/Handbuch/bilder"
+  cp --update "$top"/docs/handbuch/*.{html,css} "$folder/Handbuch/"
+  cp --update "$top"/docs/handbuch/bilder/*.png "$folder/Handbuch/bilder/"
   say "Starting $folder/uferwart (user Admin, no password)"
   cd "$folder"
   exec ./uferwart

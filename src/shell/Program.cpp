@@ -5,14 +5,29 @@
 #include "MsgBox.h"
 #include "Screens.h"
 #include "Session.h"
+#include "modHandbuch.h"
 #include "modSicherung.h"
 
-#include <QEvent>
-#include <QGuiApplication>
+#include <QApplication>
+#include <QKeyEvent>
 
 namespace {
+
 Program* running = nullptr;
+
+// A list or menu that hangs open keeps its keys.
+bool asksForHandbook(const QObject* watched, const QEvent* event) {
+    if (event->type() != QEvent::KeyPress || !watched->isWidgetType()) return false;
+    const auto* key = static_cast<const QKeyEvent*>(event);
+    return key->key() == Qt::Key_F1 && key->modifiers() == Qt::NoModifier &&
+           !QApplication::activePopupWidget();
 }
+
+void openHandbook(const QWidget* focused, const QKeyEvent& key) {
+    if (!key.isAutoRepeat()) runEvent([&] { modHandbuch::ZeigeHandbuch(focused); });
+}
+
+} // namespace
 
 Program::Program(const QString& folder) {
     running = this;
@@ -24,6 +39,10 @@ Program::Program(const QString& folder) {
 
 bool Program::eventFilter(QObject* watched, QEvent* event) {
     if (watched == QCoreApplication::instance() && event->type() == QEvent::Quit) finish();
+    if (asksForHandbook(watched, event)) {
+        openHandbook(static_cast<QWidget*>(watched), *static_cast<QKeyEvent*>(event));
+        return true;
+    }
     return QObject::eventFilter(watched, event);
 }
 

@@ -27,7 +27,8 @@ Q_SIGNALS:
 
 protected:
     /// The desktop may end the application while a box waits for its answer. The program then ends first, so
-    /// that no routine takes the closing of its box for one.
+    /// that no routine takes the closing of its box for one. And F1 opens the handbook wherever it is
+    /// pressed.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:

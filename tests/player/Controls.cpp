@@ -1,6 +1,7 @@
 #include "Controls.h"
 
 #include "CommandFailure.h"
+#include "Hand.h"
 #include "Screens.h"
 
 #include <QApplication>
@@ -61,9 +62,9 @@ QString nameOf(const QWidget* widget) {
 }
 
 void requireNotBlocked(const QWidget* widget, const QString& name) {
-    const QWidget* modal = QApplication::activeModalWidget();
-    if (modal && modal != widget->window())
-        throw CommandFailure{u"%1 lies behind the modal screen %2"_qs.arg(name, modal->objectName())};
+    if (!Hand::isLocked(widget->window())) return;
+    const QString modal = QApplication::activeModalWidget()->objectName();
+    throw CommandFailure{u"%1 lies behind the modal screen %2"_qs.arg(name, modal)};
 }
 
 void requireUsable(QWidget* control, const QString& name) {

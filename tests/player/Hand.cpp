@@ -106,10 +106,17 @@ void settle() {
     }
 }
 
+bool isLocked(const QWidget* window) {
+    const QWidget* modal = QApplication::activeModalWidget();
+    if (!modal || modal == window) return false;
+    const QWindow* above = window->windowHandle();
+    return !above || !modal->windowHandle()->isAncestorOf(above, QWindow::IncludeTransients);
+}
+
 QWidget* windowInFront() {
-    if (QWidget* modal = QApplication::activeModalWidget()) return modal;
     QWidget* active = QApplication::activeWindow();
-    if (active && isUsable(active)) return active;
+    if (active && isUsable(active) && !isLocked(active)) return active;
+    if (QWidget* modal = QApplication::activeModalWidget()) return modal;
     QWidget* front = nullptr;
     for (QWidget* window : QApplication::topLevelWidgets()) {
         if (isUsable(window)) front = window;

@@ -16,6 +16,8 @@ void settle();
 void activateWindow();
 /// As a click into it does.
 void activateWindowOf(QWidget* widget);
+/// Behind a modal window, and none of its own.
+bool isLocked(const QWidget* window);
 /// The window in front that a user can use; null if there is none.
 QWidget* windowInFront();
 

@@ -40,6 +40,7 @@ void PlayedProgram::wantDemoClub() {
 const QString& PlayedProgram::folder() {
     if (m_made) return m_folder;
     makeProgramFolder(m_folder, m_year ? m_year : m_clock.day().year(), m_demo);
+    QFile::link(QStringLiteral(UW_HANDBOOK), m_folder + u"/Handbuch"_qs);
     m_made = true;
     return m_folder;
 }

@@ -1,0 +1,79 @@
+#include "modHandbuch.h"
+
+#include "Handbuch.h"
+#include "Main.h"
+#include "Screens.h"
+#include "Session.h"
+#include "Stage.h"
+
+#include <map>
+
+namespace modHandbuch {
+
+namespace {
+
+const std::map<QString, QString>& pages() {
+    static const std::map<QString, QString> byScreen = {
+        {u"Arbeit"_qs, u"arbeitsstunden"_qs},
+        {u"Basis"_qs, u"basisdaten"_qs},
+        {u"Benutzer"_qs, u"benutzer"_qs},
+        {u"Besatzung"_qs, u"besatzung"_qs},
+        // Behind the questions of a start in a new year there is nothing but the start-up picture.
+        {u"Eroef"_qs, u"jahreswechsel"_qs},
+        {u"Fangauswertung"_qs, u"fangauswertung"_qs},
+        {u"Fangbuch"_qs, u"fangbuch"_qs},
+        {u"Info"_qs, u"info"_qs},
+        {u"Katego"_qs, u"kategorien"_qs},
+        {u"Kontakt"_qs, u"kontakt"_qs},
+        {u"KontaktUebers"_qs, u"kontakte"_qs},
+        {u"Login"_qs, u"anmeldung"_qs},
+        {u"MitglList"_qs, u"mitgliederliste"_qs},
+        {u"SuchKont"_qs, u"kontaktsuche"_qs},
+        {u"System"_qs, u"parameter"_qs},
+        {u"Vorschau"_qs, u"vorschau"_qs},
+    };
+    return byScreen;
+}
+
+const Screen* screenAround(const QWidget* widget) {
+    while (widget && !qobject_cast<const Screen*>(widget)) widget = widget->parentWidget();
+    return qobject_cast<const Screen*>(widget);
+}
+
+const Screen* lastShown() {
+    const Screen* shown = nullptr;
+    for (const Screen* screen : Screens::all())
+        if (screen->isVisible()) shown = screen;
+    return shown;
+}
+
+/// The frame's bar and menus belong to the screen on its stage.
+const Screen* screenInFront(const QWidget* focused) {
+    const Screen* screen = screenAround(focused);
+    if (!screen) screen = lastShown();
+    const bool isFrame = qobject_cast<const Main*>(screen);
+    return isFrame && Stage::current()->front() ? Stage::current()->front() : screen;
+}
+
+/// Without any screen the start has failed, and its box stands alone.
+QString pageFor(const Screen* screen) { return screen ? SeiteFuer(screen->objectName()) : u"hilfe"_qs; }
+
+} // namespace
+
+QString SeiteFuer(const QString& screen) {
+    const auto found = pages().find(screen);
+    return found == pages().end() ? u"index"_qs : found->second;
+}
+
+QStringList BeschriebeneMasken() {
+    QStringList screens;
+    for (const auto& [screen, page] : pages()) screens.append(screen);
+    return screens;
+}
+
+void ZeigeHandbuch(const QWidget* focused) {
+    const QString page = pageFor(screenInFront(focused));
+    screen<Handbuch>().zeige(programFolder() + u"/Handbuch/%1.html"_qs.arg(page));
+}
+
+} // namespace modHandbuch

@@ -1,0 +1,64 @@
+#include "HandbuchSeite.h"
+
+#include "RuntimeError.h"
+#include "Theme.h"
+
+#include <QImage>
+#include <QScrollBar>
+
+namespace {
+
+constexpr int paperMargin = 24;
+
+/// The style file that goes with the pages is for web browsers; here the house's own look is in force, in
+/// the light as in the dark one.
+QString houseStyle() {
+    return u"h1, h2, th { color: %1; } a { color: %2; } p, li, td { line-height: 125%; }"
+           "p.bild { line-height: 100%; margin-top: 14px; margin-bottom: 14px; }"
+           "li { margin-bottom: 6px; } td, th { padding: 4px 12px 4px 0; } th { text-align: left; }"
+           "h2 { margin-top: 22px; }"_qs.arg(Theme::headingInk().name(), Theme::accent().name());
+}
+
+} // namespace
+
+HandbuchSeite::HandbuchSeite(QWidget* parent)
+    : QTextBrowser(parent) {
+    setOpenLinks(false);
+    setFrameShape(QFrame::NoFrame);
+    // Pictures fill the width: a bar that comes and goes with their height would go on doing so for ever.
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    QFont reading = font();
+    reading.setPointSizeF(reading.pointSizeF() * 1.15);
+    setFont(reading);
+    document()->setDocumentMargin(paperMargin);
+    document()->setDefaultStyleSheet(houseStyle());
+    connect(this, &QTextBrowser::anchorClicked, this, [this](const QUrl& link) {
+        if (link.isLocalFile()) Q_EMIT seiteGewuenscht(link);
+    });
+}
+
+QVariant HandbuchSeite::loadResource(int type, const QUrl& name) {
+    const QUrl file = source().resolved(name);
+    if (!file.isLocalFile() || type == QTextDocument::StyleSheetResource) return QByteArray();
+    const QVariant resource = QTextBrowser::loadResource(type, name);
+    if (type != QTextDocument::ImageResource) return resource;
+    m_setWidth = viewport()->width();
+    const int room = m_setWidth - 2 * paperMargin;
+    const QImage picture(file.toLocalFile());
+    if (picture.width() <= room) return picture;
+    QImage fitting = picture.scaledToWidth(qRound(room * devicePixelRatio()), Qt::SmoothTransformation);
+    fitting.setDevicePixelRatio(devicePixelRatio());
+    return fitting;
+}
+
+void HandbuchSeite::resizeEvent(QResizeEvent* event) {
+    QTextBrowser::resizeEvent(event);
+    if (isVisible() && m_setWidth && m_setWidth != viewport()->width()) setzeNeu();
+}
+
+// Anew with pictures of another width, at the same line.
+void HandbuchSeite::setzeNeu() {
+    const int line = verticalScrollBar()->value();
+    reload();
+    verticalScrollBar()->setValue(line);
+}

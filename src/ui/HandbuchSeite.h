@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QTextBrowser>
+
+/// A page of the handbook. Links lead to pages on the disk and nowhere else; pictures that are too wide for
+/// the window are drawn as wide as it is.
+class HandbuchSeite : public QTextBrowser {
+    Q_OBJECT
+
+public:
+    explicit HandbuchSeite(QWidget* parent = nullptr);
+
+    QVariant loadResource(int type, const QUrl& name) override;
+
+Q_SIGNALS:
+    /// A link to a page was clicked.
+    void seiteGewuenscht(const QUrl& page);
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void setzeNeu();
+
+    int m_setWidth = 0; ///< of the view when its pictures were scaled, in pixels
+};

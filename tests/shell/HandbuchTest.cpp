@@ -1,0 +1,53 @@
+#include "modHandbuch.h"
+
+#include <QDir>
+#include <QFile>
+#include <QRegularExpression>
+#include <gtest/gtest.h>
+
+namespace {
+
+const QDir handbook(QStringLiteral(UW_HANDBOOK));
+
+QString contentOf(const QString& page) {
+    QFile file(handbook.filePath(page));
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+/// Pages, pictures and the style file that a page names, each with a page's mark behind "#" if it names one.
+QStringList targetsOf(const QString& page) {
+    static const QRegularExpression target(QStringLiteral("(?:href|src)=\"([^\"]*)\""));
+    QStringList targets;
+    for (const auto& match : target.globalMatch(contentOf(page))) targets.append(match.captured(1));
+    return targets;
+}
+
+bool leadsSomewhere(const QString& target) {
+    const QString mark = target.section(u'#', 1);
+    return handbook.exists(target.section(u'#', 0, 0)) &&
+           (mark.isEmpty() || contentOf(target.section(u'#', 0, 0)).contains(u"id=\"%1\""_qs.arg(mark)));
+}
+
+} // namespace
+
+TEST(Handbook, HasAPageForEachScreen) {
+    for (const QString& screen : modHandbuch::BeschriebeneMasken())
+        EXPECT_TRUE(handbook.exists(modHandbuch::SeiteFuer(screen) + u".html"_qs)) << screen.toStdString();
+    EXPECT_TRUE(handbook.exists(modHandbuch::SeiteFuer(u"Main"_qs) + u".html"_qs));
+    EXPECT_TRUE(handbook.exists(u"hilfe.html"_qs));
+}
+
+TEST(Handbook, LeadsNowhereIntoTheVoidAndLeavesNothingUnreached) {
+    QStringList unreached = handbook.entryList({u"*.html"_qs}) + handbook.entryList({u"*.css"_qs});
+    for (const QString& picture : QDir(handbook.filePath(u"bilder"_qs)).entryList(QDir::Files))
+        unreached.append(u"bilder/"_qs + picture);
+    const QStringList pages = handbook.entryList({u"*.html"_qs});
+    ASSERT_FALSE(pages.isEmpty());
+    for (const QString& page : pages) {
+        for (const QString& target : targetsOf(page)) {
+            EXPECT_TRUE(leadsSomewhere(target)) << page.toStdString() << ": " << target.toStdString();
+            unreached.removeAll(target.section(u'#', 0, 0));
+        }
+    }
+    EXPECT_TRUE(unreached.isEmpty()) << unreached.join(u' ').toStdString();
+}
