@@ -14,18 +14,21 @@ QString contentOf(const QString& page) {
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
-/// Pages, pictures and the style file that a page names, each with a page's mark behind "#" if it names one.
+/// Pages, pictures and the style file that a page names, each with the mark behind "#" if it names one.
 QStringList targetsOf(const QString& page) {
     static const QRegularExpression target(QStringLiteral("(?:href|src)=\"([^\"]*)\""));
     QStringList targets;
-    for (const auto& match : target.globalMatch(contentOf(page))) targets.append(match.captured(1));
+    for (const auto& match : target.globalMatch(contentOf(page))) {
+        const QString named = match.captured(1);
+        targets.append(named.startsWith(u'#') ? page + named : named);
+    }
     return targets;
 }
 
 bool leadsSomewhere(const QString& target) {
+    const QString file = target.section(u'#', 0, 0);
     const QString mark = target.section(u'#', 1);
-    return handbook.exists(target.section(u'#', 0, 0)) &&
-           (mark.isEmpty() || contentOf(target.section(u'#', 0, 0)).contains(u"id=\"%1\""_qs.arg(mark)));
+    return handbook.exists(file) && (mark.isEmpty() || contentOf(file).contains(u"id=\"%1\""_qs.arg(mark)));
 }
 
 } // namespace
