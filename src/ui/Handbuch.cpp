@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QGuiApplication>
+#include <QScreen>
 #include <QToolButton>
 #include <QWindow>
 
@@ -35,7 +36,7 @@ Handbuch::Handbuch()
     whole->setSpacing(0);
     whole->addWidget(Toolbar1);
     whole->addWidget(Seite, 1);
-    resize(860, 720);
+    resize(QSize(860, 720).boundedTo(QWidget::screen()->availableSize() * 9 / 10));
     on(Toolbar1, &Toolbar::ButtonClick, [this](const QString& key) { Toolbar1_ButtonClick(key); });
     on(Seite, &HandbuchSeite::seiteGewuenscht, [this](const QUrl& page) { blaettere(page); });
     on(Seite, &QTextBrowser::sourceChanged, [this](const QUrl&) { zeigeTitel(); });
