@@ -74,7 +74,7 @@ void Handbuch::zeige(const QString& file) {
     }
     const bool closed = !isVisible();
     winId(); // what it is to stand above has to be known before it is shown
-    stelleUeber(QGuiApplication::modalWindow());
+    folgeModal();
     Seite->setSource(QUrl::fromLocalFile(page.absoluteFilePath()));
     if (closed) Seite->clearHistory();
     Show();
@@ -96,17 +96,19 @@ void Handbuch::zeigeTitel() {
 }
 
 bool Handbuch::event(QEvent* event) {
-    if (event->type() == QEvent::WindowBlocked) stelleUeber(QGuiApplication::modalWindow());
+    if (event->type() == QEvent::WindowBlocked) folgeModal();
     return Screen::event(event);
 }
 
-// A modal window locks all others but those that belong to it. When it goes, an earlier one may still be
-// there.
+// A modal window locks all others but those that belong to it.
 void Handbuch::stelleUeber(QWindow* modal) {
     if (modal == windowHandle()->transientParent()) return;
     windowHandle()->setTransientParent(modal);
-    if (!modal) return;
-    connect(
-        modal, &QWindow::visibleChanged, this, [this] { stelleUeber(QGuiApplication::modalWindow()); },
-        static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
+    constexpr int once = Qt::QueuedConnection | Qt::UniqueConnection;
+    if (modal)
+        connect(modal, &QWindow::visibleChanged, this, &Handbuch::folgeModal,
+                static_cast<Qt::ConnectionType>(once));
 }
+
+// When one goes, an earlier one may still be there.
+void Handbuch::folgeModal() { stelleUeber(QGuiApplication::modalWindow()); }

@@ -34,4 +34,5 @@ private:
     void blaettere(const QUrl& page);
     void zeigeTitel();
     void stelleUeber(QWindow* modal);
+    void folgeModal();
 };

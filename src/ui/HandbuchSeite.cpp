@@ -41,15 +41,17 @@ HandbuchSeite::HandbuchSeite(QWidget* parent)
 QVariant HandbuchSeite::loadResource(int type, const QUrl& name) {
     const QUrl file = source().resolved(name);
     if (!file.isLocalFile() || type == QTextDocument::StyleSheetResource) return QByteArray();
-    const QVariant resource = QTextBrowser::loadResource(type, name);
-    if (type != QTextDocument::ImageResource) return resource;
+    return type == QTextDocument::ImageResource ? fitting(QImage(file.toLocalFile()))
+                                                : QTextBrowser::loadResource(type, name);
+}
+
+QImage HandbuchSeite::fitting(const QImage& picture) {
     m_setWidth = viewport()->width();
     const int room = m_setWidth - 2 * paperMargin;
-    const QImage picture(file.toLocalFile());
     if (picture.width() <= room) return picture;
-    QImage fitting = picture.scaledToWidth(qRound(room * devicePixelRatio()), Qt::SmoothTransformation);
-    fitting.setDevicePixelRatio(devicePixelRatio());
-    return fitting;
+    QImage smaller = picture.scaledToWidth(qRound(room * devicePixelRatio()), Qt::SmoothTransformation);
+    smaller.setDevicePixelRatio(devicePixelRatio());
+    return smaller;
 }
 
 void HandbuchSeite::resizeEvent(QResizeEvent* event) {

@@ -20,6 +20,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    QImage fitting(const QImage& picture);
     void setzeNeu();
 
     int m_setWidth = 0; ///< of the view when its pictures were scaled, in pixels
