@@ -147,6 +147,7 @@ TEST_F(DataTableEventsTest, TheMenuComesAfterThePressAlsoByKey) {
     QContextMenuEvent byKey(QContextMenuEvent::Keyboard, {}, {});
     QCoreApplication::sendEvent(m_grid, &byKey);
     EXPECT_EQ(heard(), "down 2 1, menu");
+    QTest::mouseRelease(m_grid->viewport(), Qt::RightButton, {}, place);
 }
 
 TEST_F(DataTableEventsTest, KeysMoveTheCurrentRowAndTabLeaves) {
