@@ -7,6 +7,7 @@
 #include "Session.h"
 #include "modHandbuch.h"
 #include "modSicherung.h"
+#include "modStart.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -82,6 +83,9 @@ void Program::letGo() {
 void Program::fail(const RuntimeError& error) {
     if (!m_running) return;
     MsgBox(u"Laufzeitfehler '%1':\r\n\r\n%2"_qs.arg(error.number).arg(error.description), vbCritical);
+    // A start that fails over a damaged page would fail again each time, and never reach the menu.
+    if (modStart::DatenbankIstBeschaedigt()) runEvent([] { modStart::RepariereAufWunsch(); });
+    if (!m_running) return;
     letGo();
     Q_EMIT ended();
 }

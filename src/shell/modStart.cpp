@@ -24,6 +24,7 @@
 #include "modKontakt.h"
 #include "modNavigation.h"
 #include "modRun.h"
+#include "modSicherung.h"
 #include "modSystem.h"
 #include "modTools.h"
 
@@ -37,6 +38,7 @@ namespace {
 
 constexpr int fileNotFound = 3024;
 constexpr int wrongPassword = 3031;
+constexpr int damagedFile = 3343;
 
 /// Sizes were given in twips, fifteen to a pixel.
 constexpr int twips(int count) { return count / 15; }
@@ -47,12 +49,7 @@ void tellEnd(const QString& text, const QString& title = u"Uferwart"_qs) {
 }
 
 void askForRepair() {
-    session().MsgAntwort =
-        MsgBox(u"ACHTUNG: Datenbank konnte nicht geöffnet werden. Soll Uferwart versuchen die "_qs +
-                   u"Datenbank zu reparieren?"_qs,
-               vbYesNo);
-    if (session().MsgAntwort != vbYes) return tellEnd(u"Uferwart beendet sich jetzt !"_qs);
-    modTools::RepariereDatenbank();
+    if (!RepariereAufWunsch()) return tellEnd(u"Uferwart beendet sich jetzt !"_qs);
     // The frame stands open with an empty bar: the user starts the program again.
     if (isLoaded<Main>()) screen<Main>().Show();
 }
@@ -97,6 +94,7 @@ void continueAfterLogin() {
     SetzeDatumsVariablen();
     if (!KontrolliereSystemJahr()) {
         unload<Eroef>();
+        if (DatenbankIstBeschaedigt()) return askForRepair();
         unload<Main>();
         unload<::Login>();
         SchliesseDatenbank();
@@ -115,6 +113,7 @@ void continueAfterLogin() {
 void StarteUferwart() {
     try {
         OeffneDatenbank();
+        if (!modSicherung::DatenbankIstHeil()) throw runtimeError(damagedFile, u"uw01.mdb"_qs);
         modNavigation::InitButtnBar();
         SetzeFensterGroesse();
         screen<Main>().Hide();
@@ -135,6 +134,20 @@ void SchliesseDatenbank() {
     if (session().AktDatenbank.isOpen()) session().AktDatenbank.Close();
 }
 
+bool RepariereAufWunsch() {
+    session().MsgAntwort =
+        MsgBox(u"ACHTUNG: Datenbank konnte nicht geöffnet werden. Soll Uferwart versuchen die "_qs +
+                   u"Datenbank zu reparieren?"_qs,
+               vbYesNo);
+    if (session().MsgAntwort != vbYes) return false;
+    modTools::RepariereDatenbank();
+    return true;
+}
+
+bool DatenbankIstBeschaedigt() {
+    return session().AktDatenbank.isOpen() && !session().AktDatenbank.isSound();
+}
+
 void SetzeFensterGroesse() {
     constexpr int firstWidth = 1000;
     screen<Main>().resize(firstWidth, twips(8625));
@@ -145,6 +158,11 @@ void Anmelden() {
     ::Login& form = screen<::Login>();
     if (form.txtBenutzer->Text().isEmpty()) return form.txtBenutzer->setFocus();
     if (Login(form.txtBenutzer->Text(), form.txtPassw->Text())) return continueAfterLogin();
+    // Where the users themselves are damaged nobody would get as far as the menu with the repair.
+    if (DatenbankIstBeschaedigt()) {
+        form.Hide();
+        return askForRepair();
+    }
     form.txtBenutzer->setText(QString());
     form.txtPassw->setText(QString());
     form.txtBenutzer->setFocus();

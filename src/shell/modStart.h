@@ -15,6 +15,10 @@ void StarteUferwart();
 /// Opens the database file of the program folder. Has no error box of its own: errors go to the caller.
 void OeffneDatenbank();
 void SchliesseDatenbank();
+/// Asks whether the database is to be repaired, and does so; false if the user doesn't want it.
+bool RepariereAufWunsch();
+/// True if what has failed may have failed over a damaged page: the database is open and has one.
+bool DatenbankIstBeschaedigt();
 /// First sizes of the frame and of the bar.
 void SetzeFensterGroesse();
 

@@ -9,6 +9,15 @@ Database::Database(std::shared_ptr<Connection> connection)
 
 bool Database::isOpen() const { return m_connection != nullptr && m_connection->isOpen(); }
 
+bool Database::isSound() const {
+    try {
+        Statement check = m_connection->prepare("PRAGMA quick_check(1)");
+        return check.step() && check.text(0) == u"ok";
+    } catch (const RuntimeError&) {
+        return false;
+    }
+}
+
 Recordset Database::OpenRecordset(const QString& nameOrSelect, RecordsetType type) {
     if (!isOpen()) throw runtimeError(91);
     m_connection->tellKeptFailure();

@@ -19,6 +19,8 @@ public:
     /// Ends the database and every cursor on it. What finished routines wrote is in the file.
     void Close();
     bool isOpen() const;
+    /// Reads the whole file. False if a page of it is damaged; then CompactDatabase saves what is left.
+    bool isSound() const;
 
 private:
     std::shared_ptr<Connection> m_connection;

@@ -4,7 +4,6 @@
 #include "FileReplacement.h"
 #include "RawContent.h"
 #include "RuntimeError.h"
-#include "UnfinishedPath.h"
 
 #include <QDir>
 #include <QFile>
@@ -48,7 +47,6 @@ public:
     }
 
     QString path(const QString& name) const { return m_folder.filePath(name + m_ending); }
-    QString unfinished() const { return m_folder.filePath(m_stem.chopped(1) + QStringLiteral(".neu")); }
 
 private:
     bool isOurs(const QString& name) const {
@@ -64,6 +62,10 @@ private:
     QString m_ending;
     QString m_time;
 };
+
+QString unfinishedPath(const QString& file, const QString& folder) {
+    return QDir(folder).filePath(QFileInfo(file).completeBaseName() + QStringLiteral(".neu"));
+}
 
 /// Calls `take` for one piece after the other, as long as it returns true.
 template<typename Take>
@@ -94,14 +96,11 @@ void requireSound(const QString& path, const QString& password) {
     if (!check.step() || check.text(0) != u"ok") throw runtimeError(3343, path);
 }
 
-void makeCopy(const RawContent& content, const QString& password, const CopyNames& names) {
-    // Left by a process that was killed over it.
-    QFile::remove(names.unfinished());
-    UnfinishedPath unfinished(names.unfinished());
-    writeOut(content, unfinished.path());
-    requireSound(unfinished.path(), password);
-    replaceDatabase(unfinished.path(), names.path(names.free()));
-    unfinished.keep();
+void makeCopy(const RawContent& content, const QString& password, const CopyNames& names,
+              const QString& unfinished) {
+    writeOut(content, unfinished);
+    requireSound(unfinished, password);
+    replaceDatabase(unfinished, names.path(names.free()));
 }
 
 void removeOldest(const CopyNames& names) {
@@ -124,6 +123,14 @@ void keepSafetyCopy(const QString& file, const QString& password, const QString&
     if (const QStringList present = names.present();
         !present.isEmpty() && equals(content, names.path(present.last())))
         return;
-    makeCopy(content, password, names);
+    makeCopy(content, password, names, unfinishedPath(file, folder));
     removeOldest(names);
+}
+
+bool isCopyUnfinished(const QString& file, const QString& folder) {
+    return QFile::exists(unfinishedPath(file, folder));
+}
+
+void forgetUnfinishedCopy(const QString& file, const QString& folder) {
+    QFile::remove(unfinishedPath(file, folder));
 }

@@ -8,7 +8,13 @@
 /// that has become damaged never pushes out the copies of its better days. The ten newest stay. Copies dated
 /// after `time` count as the oldest, since they come from a clock that went wrong, then or now.
 ///
+/// What could not be read back, or was cut short by a power cut, stays as "uw01.neu" until the next copy.
+///
 /// Without the folder nothing happens. Errors as for Workspace::OpenDatabase, 3026 when the disk is full; the
 /// copies made before are then untouched.
 void keepSafetyCopy(const QString& file, const QString& password, const QString& folder,
                     const QDateTime& time);
+/// Whether the copy before failed in that way, which may be the file's own fault.
+bool isCopyUnfinished(const QString& file, const QString& folder);
+/// Takes away what is left of it.
+void forgetUnfinishedCopy(const QString& file, const QString& folder);
