@@ -7,6 +7,7 @@
 #include "Session.h"
 #include "Stage.h"
 #include "StatusBar.h"
+#include "Toolbar.h"
 #include "modArbeit.h"
 #include "modEnde.h"
 #include "modFAuswert.h"
@@ -66,6 +67,7 @@ Main::Main()
     column->addLayout(middle, 1);
     column->addWidget(StatusBar1);
 
+    connect(stage, &Stage::frontChanged, this, &Main::keepMenuLetters);
     on(ButtnBar, &NavigationBar::itemClicked, [this](const QString& key) { ButtnBar_ItemClick(key); });
 }
 
@@ -102,6 +104,13 @@ void Main::buildPanels() {
     StatusBar1->addPanel(Style::Text, QString(), u"Statusinformationen..."_qs, true);
     StatusBar1->addPanel(Style::Text, u"Fangjahr:"_qs, u"Fangjahr:"_qs);
     StatusBar1->addPanel(Style::Text, QString(), u"Akt. Fangjahr..."_qs);
+}
+
+/// Alt with a letter of the menu would open the menu every other time only.
+void Main::keepMenuLetters(const Screen* front) {
+    QVector<QKeySequence> letters;
+    for (const QAction* menu : menuBar->actions()) letters.append(QKeySequence::mnemonic(menu->text()));
+    if (auto* toolbar = front ? front->findChild<Toolbar*>() : nullptr) toolbar->yieldLetters(letters);
 }
 
 void Main::Form_Load() { modStart::StarteUferwart(); }

@@ -51,6 +51,7 @@ protected:
 private:
     void buildMenus();
     void buildPanels();
+    void keepMenuLetters(const Screen* front);
     void ButtnBar_ItemClick(const QString& key);
     void mnuInfo_Click();
 };

@@ -53,8 +53,7 @@ QToolButton* Toolbar::addKey(const QString& key, const QString& caption, const Q
     const bool letterTaken = hasShortcut(QKeySequence::mnemonic(caption));
     auto* button = new QToolButton(this);
     button->setObjectName(key);
-    button->setText(caption);
-    if (letterTaken) button->setShortcut({});
+    button->setText(letterTaken ? QString(caption).remove(u'&') : caption);
     button->setToolTip(tip);
     button->setAccessibleName(QString(caption).remove(u'&'));
     button->setAccessibleDescription(tip);
@@ -67,6 +66,11 @@ QToolButton* Toolbar::addKey(const QString& key, const QString& caption, const Q
     connect(button, &QToolButton::clicked, this, [this, key] { Q_EMIT ButtonClick(key); });
     m_row->insertWidget(m_row->count() - 1, button);
     return button;
+}
+
+void Toolbar::yieldLetters(const QVector<QKeySequence>& letters) {
+    for (QToolButton* key : findChildren<QToolButton*>())
+        if (letters.contains(key->shortcut())) key->setText(key->text().remove(u'&'));
 }
 
 void Toolbar::addSeparator() { m_row->insertWidget(m_row->count() - 1, new Separator(this)); }

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <QVector>
 #include <QWidget>
 
+class QKeySequence;
 class QToolButton;
 class QHBoxLayout;
 
@@ -17,6 +19,8 @@ public:
     void addSeparator();
     QToolButton* key(const QString& key) const; ///< null if there is none
     void setKeyEnabled(const QString& key, bool on);
+    /// Keys that want a letter which others around the toolbar have do without, and show none underlined.
+    void yieldLetters(const QVector<QKeySequence>& letters);
 
 Q_SIGNALS:
     void ButtonClick(const QString& key);

@@ -1,0 +1,98 @@
+#include "PlayedProgram.h"
+#include "Screens.h"
+
+#include "Arbeit.h"
+#include "Basis.h"
+#include "Benutzer.h"
+#include "Besatzung.h"
+#include "Fangauswertung.h"
+#include "Fangbuch.h"
+#include "Info.h"
+#include "Katego.h"
+#include "Kontakt.h"
+#include "KontaktUebers.h"
+#include "Login.h"
+#include "Main.h"
+#include "MitglList.h"
+#include "SuchKont.h"
+#include "System.h"
+#include "TextBox.h"
+
+#include <QAbstractButton>
+#include <QAbstractScrollArea>
+#include <QAccessible>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QToolButton>
+#include <gtest/gtest.h>
+
+namespace {
+
+/// What a user works with, and a screen reader has to name.
+bool isControl(const QWidget* widget) {
+    const bool isPart = widget->objectName().startsWith(u"qt_"_qs) || widget->objectName().isEmpty();
+    return !isPart &&
+           (qobject_cast<const QAbstractButton*>(widget) || qobject_cast<const QLineEdit*>(widget) ||
+            qobject_cast<const QComboBox*>(widget) || qobject_cast<const QAbstractScrollArea*>(widget));
+}
+
+QString nameOf(QWidget* widget) {
+    QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(widget);
+    return interface ? interface->text(QAccessible::Name) : QString();
+}
+
+/// The letter with Alt that goes to a widget; empty if none does.
+QKeySequence letterOf(const QWidget* widget) {
+    if (const auto* button = qobject_cast<const QAbstractButton*>(widget)) return button->shortcut();
+    const auto* label = qobject_cast<const QLabel*>(widget);
+    return label && label->buddy() ? QKeySequence::mnemonic(label->text()) : QKeySequence();
+}
+
+void expectAccess(Screen& screen) {
+    screen.Show();
+    QMap<QKeySequence, QString> letters;
+    const auto take = [&](const QKeySequence& letter, const QString& who) {
+        if (letter.isEmpty()) return;
+        EXPECT_FALSE(letters.contains(letter))
+            << screen.objectName().toStdString() << ": " << who.toStdString() << " and "
+            << letters.value(letter).toStdString();
+        letters[letter] = who;
+    };
+    if (!screen.isOwnWindow())
+        for (const QAction* menu : ::screen<Main>().menuBar->actions())
+            take(QKeySequence::mnemonic(menu->text()), menu->text());
+    for (QWidget* widget : screen.findChildren<QWidget*>()) {
+        take(letterOf(widget), widget->objectName());
+        const bool isNameless = isControl(widget) && nameOf(widget).isEmpty();
+        EXPECT_FALSE(isNameless) << screen.objectName().toStdString() << "."
+                                 << widget->objectName().toStdString();
+    }
+}
+
+TEST(Access, EveryControlHasANameAndNoTwoShareALetter) {
+    const QTemporaryDir folder;
+    PlayedProgram program(folder.path() + u"/programm"_qs, folder.path());
+    setEventsEnded(false); // the program of the test before has ended them
+    program.start();
+    expectAccess(screen<Login>());
+    screen<Login>().txtBenutzer->setText(u"Admin"_qs);
+    screen<Login>().cmdOK->click();
+    // The work hours ask for their member first.
+    QTimer search;
+    QObject::connect(&search, &QTimer::timeout, [] {
+        if (screen<SuchKont>().isModalNow()) screen<SuchKont>().Hide();
+    });
+    search.start(1);
+    for (Screen* screen : std::initializer_list<Screen*>{
+             &screen<Fangbuch>(), &screen<Fangauswertung>(), &screen<KontaktUebers>(), &screen<Kontakt>(),
+             &screen<Katego>(), &screen<SuchKont>(), &screen<MitglList>(), &screen<Arbeit>(),
+             &screen<Besatzung>(), &screen<Basis>(), &screen<Benutzer>(), &screen<System>(), &screen<Info>()})
+        expectAccess(*screen);
+}
+
+} // namespace
