@@ -56,12 +56,17 @@ void Player::step() {
     const QScopedValueRollback level(m_level, loopLevel());
     Hand::releaseButton();
     Hand::settle();
-    if (m_next == m_script.size()) return finishPlay();
-    const ScriptCommand& command = m_script[m_next++];
-    m_line = command.line;
-    m_command = command.text;
-    carryOut(command);
+    const std::optional<ScriptCommand> command = next();
+    if (!command) return finishPlay();
+    m_line = command->line;
+    m_command = command->text;
+    carryOut(*command);
     reportUnanswered();
+}
+
+std::optional<ScriptCommand> Player::next() {
+    if (m_next == m_script.size()) return std::nullopt;
+    return m_script[m_next++];
 }
 
 void Player::finishPlay() {

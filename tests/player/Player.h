@@ -5,6 +5,7 @@
 
 #include <QObject>
 #include <QPointer>
+#include <optional>
 
 struct PlayerCommand;
 
@@ -24,15 +25,22 @@ public:
     /// Plays to the end and gives the number of failures, which it has told on the standard error output.
     int play();
 
+protected:
+    /// What is played next; nothing at the end.
+    virtual std::optional<ScriptCommand> next();
+    virtual void carryOut(const ScriptCommand& command);
+    /// Carries it out and gives what it prints. CommandFailure if it can't be done.
+    QStringList output(const ScriptCommand& command);
+    /// At the end: boxes, answers and dialogs that nobody has asked for.
+    virtual void reportLeftovers();
+    PlayedProgram& program() { return m_program; }
+
 private:
     void programIsIdle();
     void step();
-    void carryOut(const ScriptCommand& command);
-    QStringList output(const ScriptCommand& command);
     void finishPlay();
 
     void reportUnanswered();
-    void reportLeftovers();
     void fail(const QString& expected, const QString& got);
     void tell(const QString& line) const;
 

@@ -1,3 +1,4 @@
+#include "Platform.h"
 #include "Player.h"
 #include "Theme.h"
 
@@ -6,7 +7,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QHashSeed>
 #include <QTemporaryDir>
 #include <cstdio>
 
@@ -14,32 +14,8 @@ namespace {
 
 constexpr int wrongArguments = 2;
 
-/// What must be the same on every machine, before the toolkit looks at it.
-void settleEnvironment() {
-    const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
-    if (platform.isEmpty() || platform == "offscreen")
-        qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" UW_PLAYER_SCREEN);
-    // Only Qt's own event loop says when it has nothing left to do.
-    qputenv("QT_NO_GLIB", "1");
-    qputenv("TZ", "UTC");
-    QHashSeed::setDeterministicGlobalSeed();
-}
-
-void settleApplication(QApplication& application, bool dark) {
-    QApplication::setQuitOnLastWindowClosed(false);
-    QApplication::setCursorFlashTime(0);
-    for (const Qt::UIEffect effect : {Qt::UI_AnimateMenu, Qt::UI_FadeMenu, Qt::UI_AnimateCombo,
-                                      Qt::UI_AnimateTooltip, Qt::UI_FadeTooltip, Qt::UI_AnimateToolBox})
-        QApplication::setEffectEnabled(effect, false);
-    Theme::apply(application, dark ? Theme::Mode::Dark : Theme::Mode::Light);
-}
-
-// The platform without a screen says of each window what it can't do, and where it has no session of its own.
 void passMessage(QtMsgType, const QMessageLogContext&, const QString& message) {
-    for (const auto* usual : {u"This plugin does not support", u"QStandardPaths: XDG_RUNTIME_DIR"}) {
-        if (message.startsWith(QString::fromUtf16(usual))) return;
-    }
-    std::fprintf(stderr, "%s\n", qPrintable(message));
+    if (!Platform::isUsual(message)) std::fprintf(stderr, "%s\n", qPrintable(message));
 }
 
 struct Arguments {
@@ -79,11 +55,11 @@ int play(const Arguments& arguments, const QString& keep, const QString& script)
 } // namespace
 
 int main(int argc, char* argv[]) {
-    settleEnvironment();
+    Platform::settleEnvironment();
     qInstallMessageHandler(&passMessage);
     QApplication application(argc, argv);
     const Arguments arguments = readArguments(application);
-    settleApplication(application, arguments.dark);
+    Platform::settleApplication(application, arguments.dark ? Theme::Mode::Dark : Theme::Mode::Light);
     QFile file(arguments.file);
     if (!file.open(QIODevice::ReadOnly)) {
         std::fprintf(stderr, "%s can't be read\n", qPrintable(arguments.file));
