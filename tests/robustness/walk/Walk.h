@@ -1,0 +1,43 @@
+#pragma once
+
+#include "KeptGrids.h"
+#include "Player.h"
+#include "RandomUser.h"
+
+class QFile;
+
+/// Lets a random user loose on the program and looks at what comes of each step. Ends at the first finding.
+class Walk : public Player {
+public:
+    /// Each step is written to the trace before it is taken; the trace is a scenario that repeats the walk.
+    Walk(PlayedProgram& program, quint32 seed, int steps, QFile& trace);
+
+    /// True if there was nothing to find.
+    bool isSound() const { return m_findings.isEmpty(); }
+    /// A message of the toolkit that nobody expects.
+    static void hear(const QString& message);
+
+protected:
+    std::optional<ScriptCommand> next() override;
+    void carryOut(const ScriptCommand& command) override;
+    void reportLeftovers() override {}
+
+private:
+    QString nextLine();
+    bool canCompare() const;
+    void planComparison();
+    void compare();
+    bool lookAtBoxes(const QString& screen);
+    void lookAtFile();
+    void find(const QString& what);
+    void write(const QString& line);
+
+    RandomUser m_user;
+    KeptGrids m_grids;
+    QFile& m_trace;
+    int m_steps;
+    int m_step = 0;
+    int m_compared = 0; ///< the step at which the grids were last compared
+    QStringList m_planned;
+    QStringList m_findings;
+};
