@@ -1,0 +1,154 @@
+#include "Connection.h"
+#include "DBEngine.h"
+#include "Fuzz.h"
+#include "NewDatabase.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <algorithm>
+#include <array>
+#include <sqlite3.h>
+
+namespace {
+
+/// The bytes of the key themselves: deriving them from a password would be most of the time.
+QString key() { return u"x'"_qs + QString(64, u'7') + u'\''; }
+
+QByteArray fileBytes(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void writeFile(const QString& path, const QByteArray& bytes) {
+    QFile file(path);
+    require(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size(), "the file can be written");
+}
+
+/// The folder in which all inputs are played, in memory where there is such a one, and the file they damage.
+struct Room {
+    Room() {
+        qputenv("TMPDIR", folder.path().toUtf8());
+        createDatabase(path(), key(), 2005);
+        Connection file(path(), key(), Connection::Access::ReadWrite);
+        for (const char* rows : {"INSERT INTO Fisch VALUES (1, 'Hecht', NULL), (2, 'Äsche', 'selten')",
+                                 "INSERT INTO Gewaesser VALUES (1, 'Waldsee', hex(zeroblob(1500)))",
+                                 "INSERT INTO Fang SELECT NULL, 2005, 5, FNr, 1, 'Notiz', 3, 1.5 FROM Fisch",
+                                 "INSERT INTO Kontakt (KategoNr, Nachname) VALUES (1, 'Müller')",
+                                 "INSERT INTO Mitglied VALUES (1, 1, 0, 1, 36526.0, 0.0, 0)"})
+            file.execute(rows);
+        file.close();
+        whole = fileBytes(path());
+    }
+
+    QString path() const { return folder.filePath(u"uw01.mdb"_qs); }
+    QString copy() const { return folder.filePath(u"uwtmp.mdb"_qs); }
+
+    void clear() const {
+        for (const QString& name : QDir(folder.path()).entryList(QDir::Files))
+            QFile::remove(folder.filePath(name));
+    }
+
+    QTemporaryDir folder{(QDir(u"/dev/shm"_qs).exists() ? u"/dev/shm"_qs : QDir::tempPath()) +
+                         u"/fuzz-XXXXXX"_qs};
+    QByteArray whole;
+};
+
+int forbidForeignFiles(void*, int action, const char* name, const char*, const char*, const char*) {
+    const bool leadsOut = action == SQLITE_ATTACH || action == SQLITE_CREATE_VTABLE ||
+                          (action == SQLITE_PRAGMA && sqlite3_stricmp(name, "temp_store_directory") == 0);
+    return leadsOut ? SQLITE_DENY : SQLITE_OK;
+}
+
+/// What another tool with the password may do to the file, to its definitions as well.
+void alter(const QString& path, const QByteArray& sql) {
+    sqlite3* file = nullptr;
+    sqlite3_open(path.toUtf8().constData(), &file);
+    const QByteArray unlock = "PRAGMA key = \"" + key().toUtf8() + "\"; PRAGMA cipher_compatibility = 3";
+    sqlite3_exec(file, unlock.constData(), nullptr, nullptr, nullptr);
+    sqlite3_set_authorizer(file, &forbidForeignFiles, nullptr);
+    sqlite3_progress_handler(
+        file, 1'000'000, [](void*) { return 1; }, nullptr);
+    sqlite3_exec(file, "PRAGMA writable_schema = ON", nullptr, nullptr, nullptr);
+    sqlite3_exec(file, sql.constData(), nullptr, nullptr, nullptr);
+    sqlite3_close(file);
+}
+
+/// "@OFFSET TEXT" overwrites, "<SIZE" cuts off, ">TEXT" appends, "%PAGE PAGE" copies a page, "-TEXT" is a
+/// journal and "~TEXT" a log; any other line is SQL.
+void damage(const QString& path, const QByteArray& line) {
+    QByteArray bytes = fileBytes(path);
+    const QByteArray rest = line.mid(1);
+    const QByteArrayList words = rest.split(' ');
+    const qsizetype place = bytes.isEmpty() ? 0 : std::abs(words[0].toInt()) % (bytes.size() + 1);
+    switch (line.isEmpty() ? '\0' : line[0]) {
+    case '@':
+        return writeFile(path,
+                         bytes.replace(place, rest.size() - words[0].size(), rest.mid(words[0].size())));
+    case '<':
+        return writeFile(path, bytes.first(place));
+    case '>':
+        return writeFile(path, bytes + rest);
+    case '%':
+        return writeFile(path, bytes.replace(place / 1024 * 1024, 1024,
+                                             bytes.mid(words.value(1).toInt() % 64 * 1024, 1024)));
+    case '-':
+        return writeFile(path + u"-journal"_qs, rest);
+    case '~':
+        return writeFile(path + u"-wal"_qs, rest);
+    default:
+        alter(path, line);
+    }
+}
+
+/// All rows of a file that opens; the error of one that doesn't.
+int read(const QString& path, bool& sound, int& rows) {
+    Database database;
+    const int refused = errorOf(
+        [&] { database = DBEngine::Workspaces(0).OpenDatabase(path, false, false, u";pwd="_qs + key()); });
+    if (refused != 0) return refused;
+    sound = true;
+    for (const TableSpec& table : schemaTables())
+        sound = errorOf([&] {
+                    Recordset all = database.OpenRecordset(table.name.toString(), dbOpenTable);
+                    for (; !all.Eof(); all.MoveNext(), ++rows)
+                        for (const Field& field : all.Fields()) field.Value();
+                }) == 0 &&
+                sound;
+    return errorOf([&] { database.Close(); });
+}
+
+bool isWhole(const QString& path) {
+    Connection file(path, key(), Connection::Access::ReadOnly);
+    Statement check = file.prepare("PRAGMA integrity_check");
+    return check.step() && check.text(0) == u"ok";
+}
+
+} // namespace
+
+/// Behind a "!" stands a whole file, else lines that damage one.
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size) {
+    static const Room room;
+    const QByteArray input(reinterpret_cast<const char*>(bytes), static_cast<qsizetype>(size));
+    room.clear();
+    writeFile(room.path(), input.startsWith('!') ? input.mid(1) : room.whole);
+    if (!input.startsWith('!'))
+        for (const QByteArray& line : input.split('\n').first(std::min<qsizetype>(input.count('\n') + 1, 20)))
+            damage(room.path(), line);
+
+    bool sound = false;
+    int rows = 0;
+    constexpr std::array promised = {0, 3024, 3031, 3343, 3045, 3051};
+    const int opened = read(room.path(), sound, rows);
+    require(std::ranges::count(promised, opened) == 1, "a file that does not open has a promised error");
+    sound = sound && isWhole(room.path());
+    if (errorOf([&] { DBEngine::CompactDatabase(room.path(), room.copy(), key()); }) != 0) {
+        require(!QFile::exists(room.copy()), "no half-written copy stays");
+        return 0;
+    }
+    bool copySound = false;
+    int copied = 0;
+    require(read(room.copy(), copySound, copied) == 0 && isWhole(room.copy()), "the copy is whole");
+    require(!sound || (copySound && copied == rows), "the copy of a sound file has all its rows");
+    return 0;
+}

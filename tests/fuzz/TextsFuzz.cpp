@@ -1,0 +1,131 @@
+#include "CodePage.h"
+#include "Conversions.h"
+#include "DateLiteral.h"
+#include "DateText.h"
+#include "Format.h"
+#include "Fuzz.h"
+#include "LikePattern.h"
+#include "NumberText.h"
+#include "TextComparison.h"
+
+#include <QStringList>
+#include <cmath>
+#include <cstring>
+#include <functional>
+
+namespace {
+
+using Signs = QList<uint>;
+
+/// Whether the sign is in the class between two brackets.
+bool isInClass(const Signs& inner, char32_t sign) {
+    const bool inverted = inner.size() > 1 && inner[0] == U'!';
+    bool found = false;
+    for (qsizetype i = inverted ? 1 : 0; i < inner.size(); ++i) {
+        const bool isRange = i + 2 < inner.size() && inner[i + 1] == U'-';
+        const char32_t last = foldedCharacter(inner[isRange ? i + 2 : i]);
+        found = found || (foldedCharacter(inner[i]) <= sign && sign <= last);
+        if (isRange) i += 2;
+    }
+    return found != inverted;
+}
+
+/// The rules of LIKE as one would write them down, trying all that "*" can stand for.
+bool isLike(const Signs& text, const Signs& pattern) {
+    if (pattern.isEmpty()) return text.isEmpty();
+    const auto restMatches = [&](qsizetype signs, qsizetype places) {
+        return isLike(text.sliced(signs), pattern.sliced(places));
+    };
+    const char32_t place = pattern[0];
+    if (place == U'*') return restMatches(0, 1) || (!text.isEmpty() && restMatches(1, 0));
+    const qsizetype end = place == U'[' ? pattern.indexOf(U']') : 0;
+    if (end == 1) return restMatches(0, 2);
+    if (text.isEmpty()) return false;
+    const char32_t sign = foldedCharacter(text[0]);
+    bool fits = place == U'?' || sign == foldedCharacter(place);
+    if (place == U'#') fits = sign >= U'0' && sign <= U'9';
+    if (end > 1) fits = isInClass(pattern.sliced(1, end - 1), sign);
+    return fits && restMatches(1, end + 1);
+}
+
+void checkLike(const QString& text, const QString& pattern) {
+    bool matches = false;
+    const int error = errorOf([&] { matches = LikePattern(pattern).matches(text.toUtf8()); });
+    if (error != 0) return require(error == 93, "a bad pattern is error 93");
+    // The naive way would not end with more.
+    if (pattern.count(u'*') > 4 || text.size() > 40) return;
+    const QString stored = QString::fromUtf8(text.toUtf8());
+    require(matches == isLike(stored.toUcs4(), pattern.toUcs4()), "LIKE matches as its rules say");
+}
+
+int sign(int number) { return (number > 0) - (number < 0); }
+
+void checkOrder(const QByteArray& a, const QByteArray& b, const QByteArray& c) {
+    const auto order = [](const QByteArray& x, const QByteArray& y) { return sign(compareTexts(x, y)); };
+    require(compareTexts(a, a) == 0 && order(a, b) == -order(b, a), "the order is the same both ways");
+    if (order(a, b) <= 0 && order(b, c) <= 0)
+        require(order(a, c) == std::min(order(a, b), order(b, c)), "the order is one row");
+}
+
+void checkDate(const QString& text) {
+    const auto date = dateFromText(text);
+    require(date.has_value() == IsDate(text), "IsDate tells what is read");
+    require(date.has_value() == (errorOf([&] { CDate(text); }) == 0), "CDate takes what IsDate tells");
+    if (const auto literal = readDateLiteral(text)) {
+        const auto again = readDateLiteral(Format(*literal, u"m\\/d\\/yyyy"_qs));
+        require(again && again->toQDate() == literal->toQDate(), "a date of a statement is written back");
+    }
+    if (!date) return;
+    const auto again = dateFromText(dateText(*date));
+    require(again && again->toQDate() == date->toQDate() && again->toQTime() == date->toQTime(),
+            "a written date is read back");
+}
+
+void checkNumber(double number) {
+    constexpr double roundedUpToInfinity = 1.7976931348623e308;
+    if (!std::isfinite(number) || std::abs(number) > roundedUpToInfinity) return;
+    const auto again = numberFromText(numberText(number));
+    require(again && numberText(*again) == numberText(number), "a written number is read back");
+    if (std::abs(number) > 1e9) return;
+    const auto rounded = numberFromText(Format(number, u"#,##0.00"_qs));
+    require(rounded && std::abs(*rounded - number) < 0.0051, "two decimals are near the number");
+}
+
+void checkConversions(const Value& value) {
+    for (const auto& convert : std::initializer_list<std::function<void()>>{
+             [&] { CLng(value); }, [&] { CInt(value); }, [&] { CDate(value); }, [&] { CStr(value); }})
+        errorOf(convert);
+    require(IsNumeric(value) == (errorOf([&] { CDbl(value); }) == 0), "IsNumeric tells what CDbl takes");
+}
+
+/// Text, number and date in the pattern; a date that has a text has one in any pattern.
+void checkFormats(const QString& text, double number, const QString& pattern) {
+    for (const Value& value : {Value(text), Value(number), Value(Date{number}), Value(true)})
+        errorOf([&] { Format(value, pattern); });
+}
+
+void checkCodePage(const QByteArray& bytes, const QString& text) {
+    require(toWindows1252(fromWindows1252(bytes)) == bytes, "every byte comes back");
+    const QByteArray narrow = toWindows1252(text);
+    require(toWindows1252(fromWindows1252(narrow)) == narrow, "what fits the code page stays");
+}
+
+} // namespace
+
+/// Three lines are three texts; the first bytes are a number as well.
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size) {
+    const QByteArray input(reinterpret_cast<const char*>(bytes), static_cast<qsizetype>(size));
+    double number = 0;
+    if (size >= sizeof number) std::memcpy(&number, bytes, sizeof number);
+    QStringList texts = QString::fromUtf8(input).split(u'\n');
+    texts += {QString(), QString()};
+    checkLike(texts[0], texts[1]);
+    checkOrder(texts[0].toUtf8(), texts[1].toUtf8(), texts[2].toUtf8());
+    checkDate(texts[0]);
+    checkNumber(number);
+    if (const auto typed = numberFromText(texts[0])) checkNumber(*typed);
+    for (const Value& value : {Value(texts[0]), Value(number), Value(Date{number})}) checkConversions(value);
+    checkFormats(texts[0], number, texts[1]);
+    checkCodePage(input, texts[0]);
+    return 0;
+}
