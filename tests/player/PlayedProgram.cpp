@@ -12,7 +12,8 @@
 
 PlayedProgram::PlayedProgram(QString folder, QString pictures)
     : m_folder(std::move(folder))
-    , m_pictures(std::move(pictures)) {
+    , m_pictures(std::move(pictures))
+    , m_made(QFileInfo::exists(m_folder + u"/uw01.mdb"_qs)) {
     setClock(&m_clock);
     setMessageBoxes(&m_boxes);
 }

@@ -13,7 +13,8 @@ class Program;
 /// The program under play: its folder, what stands around it, and its lives one after the other.
 class PlayedProgram {
 public:
-    /// The folder is made when it is first needed; relative names of pictures and PDFs lead to the other one.
+    /// The folder is made when it is first needed, unless there is a database in it already. Relative names
+    /// of pictures and PDFs lead to the other one.
     PlayedProgram(QString folder, QString pictures);
     ~PlayedProgram();
     PlayedProgram(const PlayedProgram&) = delete;
@@ -43,7 +44,7 @@ private:
 
     QString m_folder;
     QString m_pictures;
-    bool m_made = false;
+    bool m_made;
     bool m_demo = false;
     int m_year = 0; ///< 0 is the year of the clock
     FixedClock m_clock;

@@ -21,6 +21,7 @@ void passMessage(QtMsgType, const QMessageLogContext&, const QString& message) {
 struct Arguments {
     QString file;
     QString keep;
+    QString folder;
     bool verbose = false;
     bool dark = false;
 };
@@ -31,6 +32,7 @@ Arguments readArguments(const QApplication& application) {
     parser.addHelpOption();
     parser.addPositionalArgument(u"FILE"_qs, u"the scenario"_qs);
     parser.addOptions({{u"keep"_qs, u"keeps pictures and the program folder there"_qs, u"DIR"_qs},
+                       {u"folder"_qs, u"plays on this program folder, which stays"_qs, u"DIR"_qs},
                        {u"verbose"_qs, u"prints every command and its output"_qs},
                        {u"dark"_qs, u"the same as --theme dark"_qs},
                        {u"theme"_qs, u"dark or light"_qs, u"THEME"_qs, u"light"_qs}});
@@ -38,15 +40,16 @@ Arguments readArguments(const QApplication& application) {
     const QString theme = parser.value(u"theme"_qs);
     if (parser.positionalArguments().size() != 1 || (theme != u"dark"_qs && theme != u"light"_qs))
         parser.showHelp(wrongArguments);
-    return {parser.positionalArguments().first(), parser.value(u"keep"_qs), parser.isSet(u"verbose"_qs),
-            parser.isSet(u"dark"_qs) || theme == u"dark"_qs};
+    return {parser.positionalArguments().first(), parser.value(u"keep"_qs), parser.value(u"folder"_qs),
+            parser.isSet(u"verbose"_qs), parser.isSet(u"dark"_qs) || theme == u"dark"_qs};
 }
 
 int play(const Arguments& arguments, const QString& keep, const QString& script) {
     const QString name = QFileInfo(arguments.file).completeBaseName();
     QDir().mkpath(keep);
-    const QString folder = QDir(keep).absoluteFilePath(name + u".programm"_qs);
-    QDir(folder).removeRecursively();
+    const QString made = QDir(keep).absoluteFilePath(name + u".programm"_qs);
+    QDir(made).removeRecursively();
+    const QString folder = arguments.folder.isEmpty() ? made : arguments.folder;
     PlayedProgram program(folder, keep);
     Player player(parseScript(script), program, {arguments.file, arguments.verbose});
     return player.play() == 0 ? 0 : 1;
