@@ -31,6 +31,13 @@ RuntimeError ioError(int extendedCode) {
     return {3043, QStringLiteral("Datenträger- oder Netzwerkfehler.")};
 }
 
+/// What were written then would be gone with the file that has no name any more.
+RuntimeError readOnlyError(int extendedCode) {
+    if (extendedCode != SQLITE_READONLY_DBMOVED) return runtimeError(3027);
+    return {3197, QStringLiteral("Die Datenbank wurde inzwischen durch eine andere ersetzt, etwa von einem "
+                                 "zweiten Uferwart. Bitte beenden Sie Uferwart und starten Sie es neu.")};
+}
+
 RuntimeError reservedError(int extendedCode) {
     return {3000, QStringLiteral("Reservierter Fehler (%1); es gibt keine Meldung für diesen Fehler.")
                       .arg(extendedCode)};
@@ -73,6 +80,7 @@ RuntimeError sqliteError(int extendedCode) {
     case SQLITE_LOCKED:
         return runtimeError(3260);
     case SQLITE_READONLY:
+        return readOnlyError(extendedCode);
     // A journal cannot be made where the folder may not be written to.
     case SQLITE_CANTOPEN:
         return runtimeError(3027);

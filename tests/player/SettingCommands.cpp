@@ -1,5 +1,6 @@
 #include "CommandFailure.h"
 #include "Commands.h"
+#include "FullDisk.h"
 #include "GridCells.h"
 #include "PlayedProgram.h"
 
@@ -39,6 +40,15 @@ QStringList sh(PlayedProgram& program, const QStringList& words) {
     return {};
 }
 
+QStringList disk(PlayedProgram&, const QStringList& words) {
+    if (words[0] != u"full" && words[0] != u"readonly" && words[0] != u"fine")
+        throw CommandFailure{u"%1 is nothing that a disk can be"_qs.arg(words[0])};
+    fillDiskAtWrite(1);
+    if (words[0] != u"full") emptyDisk();
+    forbidWriting(words[0] == u"readonly");
+    return {};
+}
+
 QStringList start(PlayedProgram& program, const QStringList&) {
     program.start();
     return {};
@@ -53,7 +63,7 @@ const QVector<PlayerCommand>& settingCommands() {
         {u"today", 1, kind, needs, &today},       {u"fjahr", 1, kind, needs, &fjahr},
         {u"printers", 1, kind, needs, &printers}, {u"demo", 0, kind, needs, &demo},
         {u"sql", 1, kind, needs, &sql},           {u"sh", 1, kind, needs, &sh},
-        {u"start", 0, kind, needs, &start},
+        {u"disk", 1, kind, needs, &disk},         {u"start", 0, kind, needs, &start},
     };
     return commands;
 }

@@ -1,5 +1,10 @@
 #pragma once
 
-/// From here on the disk is full at the `place`th write of the database library, counted from 1, and stays
-/// so.
+// What may be wrong with the disk, as the database library sees it.
+
+/// From here on the disk is full at the `place`th write, counted from 1, and stays so.
 void fillDiskAtWrite(int place);
+/// There is room again.
+void emptyDisk();
+/// Whether files that are opened from here on may not be written to. The tests' user may write everywhere.
+void forbidWriting(bool forbidden);
