@@ -55,14 +55,6 @@ private:
     int m_steps = 0;
 };
 
-int rewritingError(const QString& select) {
-    return errorOf([&] {
-        LexedStatement statement;
-        lexStatement(select, statement);
-        rewriteSelect(select, statement);
-    });
-}
-
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size) {
@@ -71,7 +63,11 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size) {
     constexpr int notPrepared[] = {3000, 3061, 3075, 3078, 3360};
     const QString select =
         QString::fromUtf8(reinterpret_cast<const char*>(bytes), static_cast<qsizetype>(size));
-    const int refused = rewritingError(select);
+    const int refused = errorOf([&] {
+        LexedStatement statement;
+        lexStatement(select, statement);
+        rewriteSelect(select, statement);
+    });
     QStringList first, second;
     const int number = errorOf([&] { first = club.rows(select); });
     if (club.wasTooLong()) return 0;

@@ -80,7 +80,7 @@ void damage(const QString& path, const QByteArray& line) {
     QByteArray bytes = fileBytes(path);
     const QByteArray rest = line.mid(1);
     const QByteArrayList words = rest.split(' ');
-    const qsizetype place = bytes.isEmpty() ? 0 : std::abs(words[0].toInt()) % (bytes.size() + 1);
+    const qsizetype place = bytes.isEmpty() ? 0 : words[0].toUInt() % (bytes.size() + 1);
     switch (line.isEmpty() ? '\0' : line[0]) {
     case '@':
         return writeFile(path,
@@ -91,7 +91,7 @@ void damage(const QString& path, const QByteArray& line) {
         return writeFile(path, bytes + rest);
     case '%':
         return writeFile(path, bytes.replace(place / 1024 * 1024, 1024,
-                                             bytes.mid(words.value(1).toInt() % 64 * 1024, 1024)));
+                                             bytes.mid(words.value(1).toUInt() % 64 * 1024, 1024)));
     case '-':
         return writeFile(path + u"-journal"_qs, rest);
     case '~':
