@@ -2,28 +2,49 @@
 
 #include <algorithm>
 #include <chrono>
-#include <cstdio>
 #include <vector>
 
-/// Median time of several runs, in seconds. The median, because a machine that does something else now and
-/// then disturbs single runs only.
+/// The median, because a machine that does something else now and then disturbs single runs only.
+inline double median(std::vector<double> values) {
+    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+    std::nth_element(values.begin(), middle, values.end());
+    return *middle;
+}
+
+/// In seconds.
+template<typename Work>
+double secondsOf(Work&& work) {
+    const auto begin = std::chrono::steady_clock::now();
+    work();
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
+}
+
+/// Median of several runs, in seconds.
 template<typename Work>
 double medianSeconds(int runs, Work&& work) {
     std::vector<double> seconds;
-    for (int run = 0; run < runs; ++run) {
-        const auto begin = std::chrono::steady_clock::now();
-        work();
-        seconds.push_back(std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count());
-    }
-    std::nth_element(seconds.begin(), seconds.begin() + runs / 2, seconds.end());
-    return seconds[static_cast<std::size_t>(runs / 2)];
+    for (int run = 0; run < runs; ++run) seconds.push_back(secondsOf(work));
+    return median(seconds);
 }
 
-/// A line of the table: the work, its time, the floor it is held against, their ratio and the ratio wanted.
-inline void printRow(const char* work, double seconds, const char* floor, double floorSeconds,
-                     double wanted) {
-    const double ratio = seconds / floorSeconds;
-    std::printf("%-44s %10.3f ms   floor: %-36s %10.3f ms   ratio %5.2f (at most %.2f)%s\n", work,
-                seconds * 1e3, floor, floorSeconds * 1e3, ratio, wanted,
-                ratio <= wanted ? "" : "   <- MISSED");
+/// Medians, in seconds, of two works that take turns, so that both meet the machine in the same moods.
+struct Pair {
+    double own;
+    double floor;
+};
+template<typename Own, typename Floor>
+Pair byTurns(int runs, Own&& own, Floor&& floor) {
+    std::vector<double> ours;
+    std::vector<double> floors;
+    for (int run = 0; run < runs; ++run) {
+        floors.push_back(secondsOf(floor));
+        ours.push_back(secondsOf(own));
+    }
+    return {median(ours), median(floors)};
 }
+
+/// A line of the table: the work, its time, the floor that it is held against, their ratio, the ratio wanted,
+/// and the memory of the process after it.
+void printRow(const char* work, Pair seconds, const char* floor, double wanted);
+/// A line for what a grid takes.
+void printGrid(double bytes, int rows);

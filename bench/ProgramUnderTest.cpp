@@ -1,22 +1,46 @@
 #include "ProgramUnderTest.h"
 
 #include "Login.h"
-#include "ProgramFolder.h"
-#include "RawFile.h"
+#include "Measure.h"
 #include "Screens.h"
 #include "TextBox.h"
 #include "Theme.h"
 
+#include <QDir>
+#include <QFile>
 #include <QPushButton>
 #include <cstdio>
 #include <cstdlib>
 
-BenchDesk::BenchDesk(int& argc, char** argv, MessageBoxes& boxes)
-    : m_application(argc, argv) {
-    QApplication::setQuitOnLastWindowClosed(false);
-    Theme::apply(m_application, Theme::Mode::Light);
-    setClock(&m_clock);
-    setMessageBoxes(&boxes);
+namespace {
+
+int timesInForce = 1;
+
+/// What the process has in memory, in MiB.
+double residentMegabytes() {
+    QFile status(u"/proc/self/statm"_qs);
+    if (!status.open(QIODevice::ReadOnly)) return 0;
+    constexpr double pagesAMegabyte = 256;
+    return status.readAll().split(' ').value(1).toDouble() / pagesAMegabyte;
+}
+
+} // namespace
+
+void printRow(const char* work, Pair seconds, const char* floor, double wanted) {
+    const double ratio = seconds.own / seconds.floor;
+    std::printf("%-38s x%-4d %10.3f ms  %-34s %10.3f ms %6.2f %6.2f%s %5.0f MiB\n", work, timesInForce,
+                seconds.own * 1e3, floor, seconds.floor * 1e3, ratio, wanted, ratio <= wanted ? " " : "!",
+                residentMegabytes());
+    std::fflush(stdout);
+}
+
+void printGrid(double bytes, int rows) {
+    std::printf("%-38s x%-4d %10d rows %32s %6.0f bytes a row (at most 250)\n", "  its grid", timesInForce,
+                rows, "", bytes / rows);
+}
+
+MsgBoxResult Nodding::show(const QString&, int style, const QString&) {
+    return (style & vbYesNo) != 0 ? vbNo : vbOK;
 }
 
 MsgBoxResult NoBoxes::show(const QString& text, int, const QString& title) {
@@ -24,47 +48,29 @@ MsgBoxResult NoBoxes::show(const QString& text, int, const QString& title) {
     std::exit(1);
 }
 
-namespace {
-
-constexpr int kinds = 30;
-constexpr int waters = 12;
-constexpr int years = 20;
-
-void addNames(RawFile& file) {
-    for (int i = 1; i <= kinds; ++i)
-        file.execute(qUtf8Printable(u"INSERT INTO Fisch(FName, Notiz) VALUES ('Fischart %1', '')"_qs.arg(i)));
-    for (int i = 1; i <= waters; ++i)
-        file.execute(
-            qUtf8Printable(u"INSERT INTO Gewaesser(GName, Notiz) VALUES ('Gewässer %1', '')"_qs.arg(i)));
-}
-
-void addCatches(RawFile& file, int from, int to, int year, int month) {
-    sqlite3_stmt* insert =
-        file.prepare("INSERT INTO Fang(FangJahr, FangMonat, FischNr, GNr, Notiz, Anzahl, Gewicht) "
-                     "VALUES (?1, ?2, ?3, ?4, '', ?5, ?6)");
-    for (int i = from; i < to; ++i) {
-        sqlite3_bind_int(insert, 1, year ? year : benchYear - 1 - i % years);
-        sqlite3_bind_int(insert, 2, month ? month : 1 + i / years % 12);
-        sqlite3_bind_int(insert, 3, 1 + i % kinds);
-        sqlite3_bind_int(insert, 4, 1 + i % waters);
-        sqlite3_bind_int(insert, 5, 1 + i % 5);
-        sqlite3_bind_int(insert, 6, 100 + i % 4000);
-        sqlite3_step(insert);
-        sqlite3_reset(insert);
+BenchDesk::BenchDesk(int& argc, char** argv, MessageBoxes& boxes)
+    : m_application(argc, argv) {
+    if (argc != 3) {
+        std::fprintf(stderr, "usage: %s FOLDER-OF-CLUBS SIZE (see bench/run)\n", argv[0]);
+        std::exit(2);
     }
-    sqlite3_finalize(insert);
+    m_clubs = QString::fromLocal8Bit(argv[1]);
+    m_size.times = timesInForce = QByteArray(argv[2]).toInt();
+    QApplication::setQuitOnLastWindowClosed(false);
+    Theme::apply(m_application, Theme::Mode::Light);
+    setClock(&m_clock);
+    setMessageBoxes(&boxes);
 }
 
-} // namespace
-
-void makeFolderWithCatches(const QString& folder, int catches, int ofThisMonth) {
-    makeProgramFolder(folder, benchYear, false);
-    RawFile file(folder + u"/uw01.mdb"_qs);
-    file.execute("BEGIN");
-    addNames(file);
-    addCatches(file, 0, ofThisMonth, benchYear, benchMonth);
-    addCatches(file, ofThisMonth, catches, 0, 0);
-    file.execute("COMMIT");
+QString BenchDesk::club(ClubSize size) {
+    const QString name = QString::number(size.times);
+    const QString folder = m_copies.filePath(name);
+    if (QDir(folder).exists()) return folder;
+    for (const char16_t* inner : {u"/temp", u"/SeqData", u"/Graphics/bmp"})
+        QDir().mkpath(folder + QString::fromUtf16(inner));
+    for (const char16_t* file : {u"/uw01.mdb", u"/Graphics/bmp/Cut.bmp"})
+        QFile::copy(m_clubs + u'/' + name + QString::fromUtf16(file), folder + QString::fromUtf16(file));
+    return folder;
 }
 
 void logIn() {

@@ -1,4 +1,4 @@
-// The catch book: its grid over a month with 100,000 entries, and the start of the program over a million.
+// The catch book: its grid over a month of the clock, and the start of the program.
 
 #include "DataTable.h"
 #include "Fangbuch.h"
@@ -11,7 +11,7 @@
 #include "modFangbuch.h"
 
 #include <QApplication>
-#include <QTemporaryDir>
+#include <array>
 #include <string>
 
 namespace {
@@ -40,68 +40,59 @@ void rawJoin(RawFile& file, std::vector<std::array<RawCell, 6>>& rows) {
 }
 
 void benchMonthList(const QString& folder) {
-    constexpr int runs = 5;
     RawFile file(folder + u"/uw01.mdb"_qs);
     std::vector<std::array<RawCell, 6>> rows;
-    const double floor = medianSeconds(runs, [&] { rawJoin(file, rows); });
-
     Program program(folder);
     program.start();
     logIn();
     Fangbuch& form = screen<Fangbuch>();
-    const double fill = medianSeconds(runs, [&] {
+    const auto fill = [&] {
         modFangbuch::loadTblFList(form.pb);
         form.tblFList->publish();
-    });
-    printRow("loadTblFList, month of 100,000 entries", fill, "join stepped, cells copied", floor, 2.0);
-    std::printf("%-44s %10.0f bytes a row (at most 250), %d rows\n", "its grid",
-                double(form.tblFList->memoryInUse()) / form.tblFList->rowCount(), form.tblFList->rowCount());
+    };
+    printRow("loadTblFList, catches of a month", byTurns(5, fill, [&] { rawJoin(file, rows); }),
+             "join stepped, cells copied", 2.0);
+    printGrid(double(form.tblFList->memoryInUse()), form.tblFList->rowCount());
 }
 
-void startOnce(const QString& folder, double& toLogin, double& toCatchBook) {
-    Program program(folder);
-    toLogin = medianSeconds(1, [&] {
-        program.start();
-        QApplication::processEvents();
-    });
-    toCatchBook = medianSeconds(1, [&] {
-        logIn();
-        QApplication::processEvents();
-    });
-}
-
-struct StartTimes {
+struct Start {
     double toLogin;
     double toCatchBook;
 };
 
-StartTimes medianStart(const QString& folder) {
+Start startOnce(const QString& folder) {
+    Program program(folder);
+    const double toLogin = secondsOf([&] {
+        program.start();
+        QApplication::processEvents();
+    });
+    const double toCatchBook = secondsOf([] {
+        logIn();
+        QApplication::processEvents();
+    });
+    return {toLogin, toCatchBook};
+}
+
+void benchStart(const QString& folder, const QString& empty) {
     constexpr int runs = 9;
-    std::vector<double> logins;
-    std::vector<double> books;
-    for (int run = 0; run < runs; ++run) startOnce(folder, logins.emplace_back(), books.emplace_back());
-    std::nth_element(logins.begin(), logins.begin() + runs / 2, logins.end());
-    std::nth_element(books.begin(), books.begin() + runs / 2, books.end());
-    return {logins[runs / 2], books[runs / 2]};
+    std::vector<double> logins, books, emptyLogins, emptyBooks;
+    for (int run = 0; run < runs; ++run) {
+        const Start small = startOnce(empty);
+        const Start large = startOnce(folder);
+        emptyLogins.push_back(small.toLogin);
+        emptyBooks.push_back(small.toCatchBook);
+        logins.push_back(large.toLogin);
+        books.push_back(large.toCatchBook);
+    }
+    printRow("start to login", {median(logins), median(emptyLogins)}, "with an empty file", 1.3);
+    printRow("login to catch book", {median(books), median(emptyBooks)}, "with an empty file", 1.3);
 }
 
 } // namespace
 
 int main(int argc, char* argv[]) {
     NoBoxes boxes;
-    const BenchDesk desk(argc, argv, boxes);
-    QTemporaryDir temporary;
-    const QString full = temporary.filePath(u"voll"_qs);
-    const QString million = temporary.filePath(u"million"_qs);
-    const QString empty = temporary.filePath(u"leer"_qs);
-    makeFolderWithCatches(full, 1'000'000, 100'000);
-    makeFolderWithCatches(million, 1'000'000, 30);
-    makeFolderWithCatches(empty, 30, 30);
-
-    benchMonthList(full);
-    const StartTimes small = medianStart(empty);
-    const StartTimes large = medianStart(million);
-    printRow("start to login, a million catches", large.toLogin, "with 30 catches", small.toLogin, 1.3);
-    printRow("login to catch book, a million catches", large.toCatchBook, "with 30 catches",
-             small.toCatchBook, 1.3);
+    BenchDesk desk(argc, argv, boxes);
+    benchMonthList(desk.club());
+    benchStart(desk.club(), desk.club(emptyClub));
 }

@@ -1,5 +1,4 @@
-// The evaluation: an unfiltered query of a million catches, its file for the spreadsheet, and the way of a
-// hundred thousand rows onto paper.
+// The evaluation: an unfiltered query, its file for the spreadsheet, and the way of its rows onto paper.
 
 #include "Ado.h"
 #include "Berichte.h"
@@ -18,21 +17,13 @@
 #include "modFAuswert.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QFile>
 #include <QProcess>
 #include <QStandardPaths>
-#include <QTemporaryDir>
 #include <string>
 
 namespace {
-
-/// Acknowledges what the export tells, and starts no spreadsheet.
-class Nodding final : public MessageBoxes {
-public:
-    MsgBoxResult show(const QString&, int style, const QString&) override {
-        return (style & vbYesNo) != 0 ? vbNo : vbOK;
-    }
-};
 
 struct RawRow {
     qint64 numbers[5];
@@ -72,18 +63,16 @@ qint64 rawEvaluation(RawFile& file, std::vector<RawRow>& rows) {
 }
 
 void benchEvaluation(const QString& folder) {
-    constexpr int runs = 3;
     RawFile file(folder + u"/uw01.mdb"_qs);
     std::vector<RawRow> rows;
-    const double floor = medianSeconds(runs, [&] { rawEvaluation(file, rows); });
     Fangauswertung& form = screen<Fangauswertung>();
-    const double fill = medianSeconds(runs, [&] {
+    const auto fill = [&] {
         modFAuswert::LadeAuswahl();
         form.tblFAusw->publish();
-    });
-    printRow("LadeAuswahl, 1,000,000 catches", fill, "four statements, cells copied", floor, 2.0);
-    std::printf("%-44s %10.0f bytes a row (at most 250), %d rows\n", "its grid",
-                double(form.tblFAusw->memoryInUse()) / form.tblFAusw->rowCount(), form.tblFAusw->rowCount());
+    };
+    printRow("evaluation of all catches", byTurns(3, fill, [&] { rawEvaluation(file, rows); }),
+             "four statements, cells copied", 2.0);
+    printGrid(double(form.tblFAusw->memoryInUse()), form.tblFAusw->rowCount());
 }
 
 void writeBuffered(const QString& path, const QByteArray& bytes) {
@@ -101,7 +90,7 @@ void benchExport(const QString& folder) {
     if (!written.open(QIODevice::ReadOnly)) return;
     const QByteArray bytes = written.readAll();
     const double floor = medianSeconds(runs, [&] { writeBuffered(folder + u"/floor.csv"_qs, bytes); });
-    printRow("FANG.csv, 100,000 rows", write, "the same bytes, buffered, by line", floor, 3.0);
+    printRow("FANG.csv, catches of a month", {write, floor}, "the same bytes, buffered", 3.0);
 }
 
 void rawStaging(RawFile& file, int rows) {
@@ -128,17 +117,15 @@ void clearStaging(RawFile& file) { file.execute("DELETE FROM Druck_Fangliste"); 
 void benchStaging(const QString& folder, int rows) {
     constexpr int runs = 3;
     RawFile file(folder + u"/uw01.mdb"_qs);
-    std::vector<double> floors;
-    std::vector<double> stagings;
+    std::vector<double> floors, stagings;
     for (int run = 0; run < runs; ++run) {
         clearStaging(file);
-        floors.push_back(medianSeconds(1, [&] { rawStaging(file, rows); }));
+        floors.push_back(secondsOf([&] { rawStaging(file, rows); }));
         clearStaging(file);
-        stagings.push_back(medianSeconds(1, [] { modFAuswert::DruckeFangListe(u"nichts"_qs); }));
+        stagings.push_back(secondsOf([] { modFAuswert::DruckeFangListe(u"nichts"_qs); }));
     }
-    std::nth_element(floors.begin(), floors.begin() + 1, floors.end());
-    std::nth_element(stagings.begin(), stagings.begin() + 1, stagings.end());
-    printRow("staging and binding 100,000 rows", stagings[1], "inserted in one transaction", floors[1], 3.0);
+    printRow("staging and binding them", {median(stagings), median(floors)}, "inserted in one transaction",
+             3.0);
 }
 
 /// So many catches for a report, alike in their first rows.
@@ -179,34 +166,28 @@ double firstPage(int rows) {
     Berichte::rpt_Fangliste().bind(sample);
     showPreview();
     closePreview();
-    const double seconds = medianSeconds(1, &showPreview);
+    const double seconds = secondsOf(&showPreview);
     closePreview();
     return seconds;
 }
 
-/// By turns, so that both meet the machine in the same moods.
-void benchPreview() {
-    constexpr std::size_t runs = 51;
+void benchPreview(int rows) {
+    constexpr int runs = 51;
+    constexpr int few = 100;
     std::vector<double> small, large;
-    for (std::size_t run = 0; run < runs; ++run) {
-        small.push_back(firstPage(100));
-        large.push_back(firstPage(100'000));
+    for (int run = 0; run < runs; ++run) {
+        small.push_back(firstPage(few));
+        large.push_back(firstPage(rows));
     }
-    for (auto* seconds : {&small, &large})
-        std::nth_element(seconds->begin(), seconds->begin() + runs / 2, seconds->end());
-    printRow("preview's first page, 100,000 rows", large[runs / 2], "with 100 rows", small[runs / 2], 1.0);
+    printRow("preview's first page of them", {median(large), median(small)}, "with 100 rows", 1.0);
 }
 
 void benchPdf(const QString& folder) {
     const QString pdf = folder + u"/liste.pdf"_qs;
-    const double own = medianSeconds(1, [&] { saveReportAsPdf(*Berichte::rpt_Fangliste().document(), pdf); });
+    const double own = secondsOf([&] { saveReportAsPdf(*Berichte::rpt_Fangliste().document(), pdf); });
     const QString office = QStandardPaths::findExecutable(u"soffice"_qs);
-    if (office.isEmpty()) {
-        std::printf("%-44s %10.3f ms   no soffice here to hold it against\n", "PDF of 10,000 rows",
-                    own * 1e3);
-        return;
-    }
-    modFAuswert::ErzeugeFangDatei();
+    if (office.isEmpty())
+        return (void)std::printf("PDF of them: %.3f ms; no soffice here to hold it against\n", own * 1e3);
     const QStringList words = {u"--headless"_qs,
                                u"--infilter=Text - txt - csv (StarCalc):59,34,1,1,,1031,true,true"_qs,
                                u"--convert-to"_qs,
@@ -214,40 +195,36 @@ void benchPdf(const QString& folder) {
                                u"--outdir"_qs,
                                folder,
                                folder + u"/SeqData/FANG.csv"_qs};
-    const double theirs = medianSeconds(1, [&] { QProcess::execute(office, words); });
-    printRow("PDF of 10,000 rows", own, "LibreOffice, the same rows as CSV", theirs, 0.2);
+    const double theirs = secondsOf([&] {
+        QProcess process;
+        process.start(office, words);
+        process.waitForFinished(-1);
+    });
+    printRow("PDF of them", {own, theirs}, "LibreOffice, the same rows as CSV", 0.2);
 }
 
-/// The program over so many catches, with all of them in the evaluation's grid.
-template<typename Work>
-void withEvaluation(const QString& folder, int catches, Work work) {
-    makeFolderWithCatches(folder, catches, 30);
-    Program program(folder);
-    program.start();
-    logIn();
+/// The catches of the clock's month in the grid.
+void chooseMonth() {
+    Fangauswertung& form = screen<Fangauswertung>();
+    form.chkArchiv->setChecked(true);
+    form.chkFMonat->setChecked(true);
     modFAuswert::LadeAuswahl();
-    work();
 }
 
 } // namespace
 
 int main(int argc, char* argv[]) {
     Nodding boxes;
-    const BenchDesk desk(argc, argv, boxes);
-    QTemporaryDir temporary;
-
-    const QString million = temporary.filePath(u"million"_qs);
-    withEvaluation(million, 1'000'000, [&] { benchEvaluation(million); });
-
-    const QString large = temporary.filePath(u"gross"_qs);
-    withEvaluation(large, 100'000, [&] {
-        benchExport(large);
-        benchStaging(large, 100'000);
-        benchPreview();
-    });
-    const QString medium = temporary.filePath(u"mittel"_qs);
-    withEvaluation(medium, 10'000, [&] {
-        modFAuswert::DruckeFangListe(u"nichts"_qs);
-        benchPdf(medium);
-    });
+    BenchDesk desk(argc, argv, boxes);
+    Program program(desk.club());
+    program.start();
+    logIn();
+    benchEvaluation(desk.club());
+    chooseMonth();
+    benchExport(desk.club());
+    const int rows = desk.size().catchesOfThisMonth();
+    benchStaging(desk.club(), rows);
+    benchPreview(rows);
+    modFAuswert::DruckeFangListe(u"nichts"_qs);
+    benchPdf(desk.club());
 }
