@@ -4,7 +4,8 @@
 
 namespace {
 constexpr int hundredths = 100;
-}
+constexpr int millisecondsBetweenPaints = 40;
+} // namespace
 
 ProgressBar::ProgressBar(const QString& name, QWidget* parent)
     : QProgressBar(parent) {
@@ -16,11 +17,19 @@ ProgressBar::ProgressBar(const QString& name, QWidget* parent)
 
 void ProgressBar::setMax(qint64 maximum) {
     m_max = std::max<qint64>(1, maximum);
-    setProgress(0);
+    m_value = m_reached = 0;
+    setValue(0);
+    m_sincePainted.start();
 }
 
 void ProgressBar::setProgress(qint64 value) {
     m_value = std::clamp<qint64>(value, 0, m_max);
     const int reached = static_cast<int>(m_value * hundredths / m_max);
-    if (reached != QProgressBar::value()) setValue(reached);
+    if (reached == m_reached) return;
+    m_reached = reached;
+    if (reached < hundredths && m_sincePainted.isValid() &&
+        !m_sincePainted.hasExpired(millisecondsBetweenPaints))
+        return;
+    setValue(reached);
+    m_sincePainted.start();
 }
