@@ -47,18 +47,15 @@ void Cursor::moveTo(Place place) {
     m_written.end();
 }
 
-void Cursor::requireRow() const {
-    if (m_place == Place::Deleted) throw runtimeError(3167);
-    if (m_place != Place::Row) throw runtimeError(3021);
-}
+RuntimeError Cursor::noRow() const { return runtimeError(m_place == Place::Deleted ? 3167 : 3021); }
 
 Value Cursor::value(int column) {
     if (m_buffer.mode() == CopyBuffer::Mode::Adding) return m_buffer.initial(fieldOfColumn(column));
     requireRow();
-    if (!m_connection->transaction().isIntact()) m_written.end();
     const bool unchanged =
         m_buffer.mode() == CopyBuffer::Mode::Idle && m_written.mode() == CopyBuffer::Mode::Idle;
     if (unchanged) return storedValue(column);
+    if (!m_connection->transaction().isIntact()) m_written.end();
     const int field = fieldOfColumn(column);
     for (const CopyBuffer* buffer : {&m_buffer, &m_written}) {
         if (buffer->mode() == CopyBuffer::Mode::Idle) continue;

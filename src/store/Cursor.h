@@ -57,7 +57,9 @@ protected:
     /// As above when the cursor is there already.
     void stay() { m_buffer.end(); }
     /// Error 3021 without a current row, 3167 on one that was deleted.
-    void requireRow() const;
+    void requireRow() const {
+        if (m_place != Place::Row) throw noRow();
+    }
 
     virtual const TableSpec* target() const = 0; ///< null if the rows cannot be edited
     virtual int fieldOfColumn(int column) const = 0;
@@ -67,6 +69,7 @@ protected:
     virtual void releaseRows() noexcept = 0;
 
 private:
+    RuntimeError noRow() const;
     const TableSpec& requireTarget() const;
     qint64 currentRow();
     RowWriter& writer();

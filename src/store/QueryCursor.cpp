@@ -46,8 +46,8 @@ void QueryCursor::hold() {
 }
 
 Value QueryCursor::storedValue(int column) {
+    if (m_stream == Stream::CurrentRow) return streamedValue(column);
     catchUp();
-    if (!m_held) return streamedValue(column);
     const auto& value = m_held->values[static_cast<size_t>(column)];
     if (const auto* error = std::get_if<RuntimeError>(&value)) throw *error;
     return std::get<Value>(value);

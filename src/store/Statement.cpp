@@ -8,9 +8,9 @@
 
 namespace {
 
-QString columnText(sqlite3_stmt* statement, int index) {
-    const auto* bytes = reinterpret_cast<const char*>(sqlite3_column_text(statement, index));
-    return storedText({bytes, sqlite3_column_bytes(statement, index)});
+QString textOf(sqlite3_value* stored) {
+    const auto* bytes = reinterpret_cast<const char*>(sqlite3_value_text(stored));
+    return storedText({bytes, sqlite3_value_bytes(stored)});
 }
 
 bool fitsLong(qint64 number) {
@@ -113,22 +113,23 @@ void Statement::reset() noexcept {
 void Statement::clear() noexcept { sqlite3_clear_bindings(m_statement.get()); }
 
 Value Statement::column(int index, FieldKind kind) const {
-    sqlite3_stmt* statement = m_statement.get();
-    switch (sqlite3_column_type(statement, index)) {
+    // Looked up once: each question to the statement itself would look it up anew.
+    sqlite3_value* stored = sqlite3_column_value(m_statement.get(), index);
+    switch (sqlite3_value_type(stored)) {
     case SQLITE_NULL:
         return kind == FieldKind::Boolean ? Value(false) : Value();
     case SQLITE_INTEGER:
-        return storedInteger(sqlite3_column_int64(statement, index), kind);
+        return storedInteger(sqlite3_value_int64(stored), kind);
     case SQLITE_FLOAT:
-        return storedReal(sqlite3_column_double(statement, index), kind);
+        return storedReal(sqlite3_value_double(stored), kind);
     default:
-        return columnText(statement, index);
+        return textOf(stored);
     }
 }
 
 qint64 Statement::integer(int index) const { return sqlite3_column_int64(m_statement.get(), index); }
 
-QString Statement::text(int index) const { return columnText(m_statement.get(), index); }
+QString Statement::text(int index) const { return textOf(sqlite3_column_value(m_statement.get(), index)); }
 
 int Statement::columnCount() const { return sqlite3_column_count(m_statement.get()); }
 
