@@ -4,6 +4,7 @@
 #include "RuntimeError.h"
 
 #include <array>
+#include <cmath>
 
 namespace {
 
@@ -159,9 +160,10 @@ QString shortForm(QDate date) {
     int year = 0, month = 0, day = 0;
     date.getDate(&year, &month, &day);
     QString text(10, u'.');
-    const auto put = [&](qsizetype last, int digits, int number) {
+    QChar* const signs = text.data();
+    const auto put = [signs](int last, int digits, int number) {
         for (; digits > 0; --digits, --last, number /= 10)
-            text[last] = QChar(static_cast<char16_t>(u'0' + number % 10));
+            signs[last] = QChar(static_cast<char16_t>(u'0' + number % 10));
     };
     put(1, 2, day);
     put(4, 2, month);
@@ -173,8 +175,9 @@ QString shortForm(QDate date) {
 
 QString dateText(Date date) {
     const QDate day = date.toQDate();
-    const QTime time = date.toQTime();
     if (!day.isValid()) throw runtimeError(6);
+    const bool hasTime = date.days != std::trunc(date.days);
+    const QTime time = hasTime ? date.toQTime() : QTime(0, 0);
 
     static const QDate ofTheEmptyDate = Date().toQDate();
     if (day == ofTheEmptyDate) return time.toString(u"hh:mm:ss");

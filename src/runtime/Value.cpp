@@ -6,7 +6,9 @@
 namespace {
 
 constexpr int secondsPerDay = 24 * 60 * 60;
-constexpr QDate dayZero = QDate::fromJulianDay(2'415'019); // 30 December 1899
+constexpr QDate dayZero = QDate::fromJulianDay(2'415'019);  // 30 December 1899
+constexpr QDate firstDay = QDate::fromJulianDay(1'757'585); // 1 January 100
+constexpr QDate lastDay = QDate::fromJulianDay(5'373'484);  // 31 December 9999
 
 struct Moment {
     QDate day;
@@ -22,7 +24,7 @@ std::optional<Moment> momentOf(double days) {
     const double whole = std::trunc(days);
     const int second = static_cast<int>(std::lround(std::abs(days - whole) * secondsPerDay));
     const QDate day = dayZero.addDays(static_cast<qint64>(whole) + second / secondsPerDay);
-    if (day.year() < 100 || day.year() > 9999) return std::nullopt;
+    if (day < firstDay || day > lastDay) return std::nullopt;
     return Moment{day, second % secondsPerDay};
 }
 

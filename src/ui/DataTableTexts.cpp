@@ -10,7 +10,9 @@ constexpr std::size_t firstSlots = 64;
 constexpr std::size_t textHead = 16;
 
 quint32 hashOf(const QString& text) {
-    const std::size_t hash = qHash(QStringView(text));
+    // With a seed the toolkit lets the processor help.
+    constexpr std::size_t seed = 1;
+    const std::size_t hash = qHash(QStringView(text), seed);
     return static_cast<quint32>(hash ^ (quint64(hash) >> 32));
 }
 
