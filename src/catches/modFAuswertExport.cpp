@@ -10,6 +10,8 @@
 #include "modFAuswert.h"
 #include "modRun.h"
 
+#include <array>
+
 // The evaluation as a file for the spreadsheet.
 
 namespace modFAuswert {
@@ -18,11 +20,10 @@ namespace {
 
 /// Year, point and two digits of the month: sorts and reads as a number with two decimals.
 QString fangdatum(const QString& jahr, const QString& monatsname) {
-    constexpr int lastOfOneDigit = 9;
-    const int monat = modRun::ErmittleMonatsNr(monatsname);
-    QString datum = jahr;
-    datum += monat <= lastOfOneDigit ? QStringView(u".0") : QStringView(u".");
-    return datum += QString::number(monat);
+    static const std::array<QString, 12> endungen = {u".01"_qs, u".02"_qs, u".03"_qs, u".04"_qs,
+                                                     u".05"_qs, u".06"_qs, u".07"_qs, u".08"_qs,
+                                                     u".09"_qs, u".10"_qs, u".11"_qs, u".12"_qs};
+    return jahr + endungen[static_cast<std::size_t>(modRun::ErmittleMonatsNr(monatsname) - 1)];
 }
 
 void schreibeZeile(CsvDatei& datei, const DataTable& grid, int row) {

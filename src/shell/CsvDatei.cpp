@@ -19,19 +19,17 @@ constexpr int pathNotFound = 76;
 
 /// As the code page has them. It agrees with the first signs of Unicode but for a gap, so that German texts
 /// need no table.
-void appendEncoded(QByteArray& buffer, QStringView text) {
+void appendEncoded(std::string& buffer, QStringView text) {
     constexpr char16_t gapBegin = 0x80, gapEnd = 0xa0, beyond = 0x100;
-    const qsizetype before = buffer.size();
-    buffer.resize(before + text.size());
-    char* out = buffer.data() + before;
+    const std::size_t before = buffer.size();
     for (const QChar sign : text) {
         const char16_t code = sign.unicode();
         if (code >= beyond || (code >= gapBegin && code < gapEnd)) {
             buffer.resize(before);
-            buffer += toWindows1252(text.toString());
+            buffer += toWindows1252(text.toString()).toStdString();
             return;
         }
-        *out++ = static_cast<char>(code);
+        buffer += static_cast<char>(code);
     }
 }
 
@@ -66,7 +64,7 @@ CsvDatei::CsvDatei(const QString& path)
 
 CsvDatei::~CsvDatei() {
     // Unclosed because of an error, which is told already.
-    if (m_file.isOpen()) m_file.write(m_buffer);
+    if (m_file.isOpen()) m_file.write(m_buffer.data(), qsizetype(m_buffer.size()));
 }
 
 void CsvDatei::writeHead(const QString& head) {
@@ -101,12 +99,12 @@ void CsvDatei::writeField(const Value& cell, int length, Fill fill) {
     std::array<char, 12> digits;
     const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), cell.number()).ptr;
     const qsizetype written = std::min<qsizetype>(end - digits.data(), length);
-    m_buffer.append(digits.data(), written);
+    m_buffer.append(digits.data(), std::size_t(written));
     fillUp(written, length, fill);
 }
 
 void CsvDatei::fillUp(qsizetype written, int length, Fill fill) {
-    if (fill == Fill::Padded) m_buffer.append(length - written, ' ');
+    if (fill == Fill::Padded) m_buffer.append(std::size_t(length - written), ' ');
     m_buffer += ';';
 }
 
@@ -122,7 +120,8 @@ void CsvDatei::close() {
 }
 
 void CsvDatei::flush() {
-    const bool whole = m_file.write(m_buffer) == m_buffer.size();
-    m_buffer.resize(0); // keeps its room
+    const qsizetype size = qsizetype(m_buffer.size());
+    const bool whole = m_file.write(m_buffer.data(), size) == size;
+    m_buffer.clear(); // keeps its room
     if (!whole) throw runtimeError(diskFull);
 }

@@ -2,9 +2,9 @@
 
 #include "Value.h"
 
-#include <QByteArray>
 #include <QFile>
 #include <QString>
+#include <string>
 
 /// A file for an office program: fields closed by ";", lines by carriage return and line feed, in
 /// Windows-1252, nothing quoted. Blanks at the end of a field are cut off. A field may be given a fixed
@@ -37,5 +37,5 @@ private:
     void flush();
 
     QFile m_file;
-    QByteArray m_buffer;
+    std::string m_buffer;
 };
