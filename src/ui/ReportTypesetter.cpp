@@ -31,6 +31,11 @@ QString onOneLine(QString text) {
     return text;
 }
 
+bool isNumber(const QString& text) {
+    return text.size() > 1 &&
+           std::all_of(text.begin(), text.end(), [](QChar sign) { return sign >= u'0' && sign <= u'9'; });
+}
+
 double leftEnd(const QRectF& place, double width, ReportControl::Align align) {
     switch (align) {
     case ReportControl::Align::Right:
@@ -91,7 +96,8 @@ ReportTypesetter::Face& ReportTypesetter::faceFor(const ReportControl& look) {
     return found != m_faces.end() ? found->second : m_faces.emplace(key, fontOf(look)).first->second;
 }
 
-const ReportTypesetter::Setting& ReportTypesetter::setting(Face& face, const QString& text) {
+ReportTypesetter::Setting ReportTypesetter::setting(Face& face, const QString& text) {
+    if (isNumber(text)) return composed(face, text);
     const auto found = face.settings.constFind(text);
     if (found != face.settings.constEnd()) return *found;
     if (face.settings.size() >= settingsKept) face.settings.clear();
@@ -104,8 +110,32 @@ const ReportTypesetter::Setting& ReportTypesetter::setting(Face& face, const QSt
     return *face.settings.insert(text, {layout.glyphRuns(), line.naturalTextWidth()});
 }
 
-const ReportTypesetter::Setting& ReportTypesetter::fitting(Face& face, const QString& text, double width) {
-    const Setting& whole = setting(face, text);
+/// Numbers hardly repeat, so they are set digit by digit: much quicker than measuring each, and the digits of
+/// a column stand below each other, which a font that moves them closer together would spoil.
+ReportTypesetter::Setting ReportTypesetter::composed(Face& face, const QString& digits) {
+    Setting number;
+    QList<quint32> letters;
+    QList<QPointF> positions;
+    letters.reserve(digits.size());
+    positions.reserve(digits.size());
+    for (const QChar digit : digits) {
+        const Setting one = setting(face, digit);
+        for (const QGlyphRun& run : one.runs) {
+            letters += run.glyphIndexes();
+            for (const QPointF& place : run.positions()) positions.append(place + QPointF(number.width, 0));
+        }
+        if (number.runs.isEmpty()) number.runs = one.runs;
+        number.width += one.width;
+    }
+    for (QGlyphRun& run : number.runs) {
+        run.setGlyphIndexes(letters);
+        run.setPositions(positions);
+    }
+    return number;
+}
+
+ReportTypesetter::Setting ReportTypesetter::fitting(Face& face, const QString& text, double width) {
+    Setting whole = setting(face, text);
     if (whole.width <= width) return whole;
     return setting(face, face.metrics.elidedText(text, Qt::ElideRight, width));
 }
@@ -129,14 +159,16 @@ void ReportTypesetter::set(const QRectF& place, const QString& text, const Repor
 
 void ReportTypesetter::setLine(Face& face, const QRectF& place, const QString& text,
                                const ReportControl& look) {
-    const Setting& fit = fitting(face, text, place.width());
+    const Setting fit = fitting(face, text, place.width());
     const double letters = face.metrics.ascent() + face.metrics.descent();
     const QPointF start(leftEnd(place, fit.width, look.align()),
                         place.top() + (place.height() - letters) / 2 + face.metrics.ascent());
     for (const QGlyphRun& run : fit.runs) {
         Batch& batch = batchFor(run.rawFont(), look.ink());
         batch.letters += run.glyphIndexes();
-        for (const QPointF& position : run.positions()) batch.positions.append(start + position);
+        // To whole units, finer than any eye: fractions would take up half of a PDF and of the time to write
+        // it.
+        for (const QPointF& position : run.positions()) batch.positions.append((start + position).toPoint());
     }
 }
 

@@ -47,8 +47,9 @@ private:
     };
 
     Face& faceFor(const ReportControl& look);
-    const Setting& setting(Face& face, const QString& text);
-    const Setting& fitting(Face& face, const QString& text, double width);
+    Setting setting(Face& face, const QString& text);
+    Setting composed(Face& face, const QString& digits);
+    Setting fitting(Face& face, const QString& text, double width);
     void setLine(Face& face, const QRectF& place, const QString& text, const ReportControl& look);
     Batch& batchFor(const QRawFont& font, QRgb ink);
 
