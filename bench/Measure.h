@@ -27,7 +27,8 @@ double medianSeconds(int runs, Work&& work) {
     return median(seconds);
 }
 
-/// Medians, in seconds, of two works that take turns, so that both meet the machine in the same moods.
+/// Medians, in seconds, of two works that take turns, so that both meet the machine in the same moods. Short
+/// ones run more often.
 struct Pair {
     double own;
     double floor;
@@ -36,9 +37,11 @@ template<typename Own, typename Floor>
 Pair byTurns(int runs, Own&& own, Floor&& floor) {
     std::vector<double> ours;
     std::vector<double> floors;
-    for (int run = 0; run < runs; ++run) {
+    constexpr double enough = 0.3;
+    for (double spent = 0; spent < enough || static_cast<int>(ours.size()) < runs;) {
         floors.push_back(secondsOf(floor));
         ours.push_back(secondsOf(own));
+        spent += floors.back() + ours.back();
     }
     return {median(ours), median(floors)};
 }
@@ -46,5 +49,6 @@ Pair byTurns(int runs, Own&& own, Floor&& floor) {
 /// A line of the table: the work, its time, the floor that it is held against, their ratio, the ratio wanted,
 /// and the memory of the process after it.
 void printRow(const char* work, Pair seconds, const char* floor, double wanted);
-/// A line for what a grid takes.
-void printGrid(double bytes, int rows);
+constexpr int mostBytesARow = 250; ///< of a grid of catches
+/// A line for what a grid takes; `most` is the limit of its bytes a row, 0 if there is none.
+void printGrid(double bytes, int rows, int most = 0);

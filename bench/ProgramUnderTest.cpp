@@ -34,9 +34,10 @@ void printRow(const char* work, Pair seconds, const char* floor, double wanted) 
     std::fflush(stdout);
 }
 
-void printGrid(double bytes, int rows) {
-    std::printf("%-38s x%-4d %10d rows %32s %6.0f bytes a row (at most 250)\n", "  its grid", timesInForce,
-                rows, "", bytes / rows);
+void printGrid(double bytes, int rows, int most) {
+    std::printf("%-38s x%-4d %10d rows  %21.0f bytes a row", "  its grid", timesInForce, rows, bytes / rows);
+    if (most > 0) std::printf(" (at most %d)%s", most, bytes / rows <= most ? "" : "!");
+    std::printf("\n");
 }
 
 MsgBoxResult Nodding::show(const QString&, int style, const QString&) {

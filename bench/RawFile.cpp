@@ -6,7 +6,8 @@
 
 RawFile::RawFile(const QString& path) {
     check(sqlite3_open(path.toUtf8().constData(), &m_handle));
-    execute("PRAGMA key = 'qx-1987-nkr'; PRAGMA cipher_compatibility = 3;");
+    execute("PRAGMA key = 'qx-1987-nkr'; PRAGMA cipher_compatibility = 3; PRAGMA cache_size = -32768; "
+            "SELECT COUNT(*) FROM sqlite_master");
 }
 
 void RawFile::execute(const char* sql) { check(sqlite3_exec(m_handle, sql, nullptr, nullptr, nullptr)); }

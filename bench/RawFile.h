@@ -3,9 +3,11 @@
 #include <QString>
 #include <sqlite3.h>
 
-/// The database file through the bare C API: what everything is held against.
+/// The database file through the bare C API, with as much memory for its pages as the program gives it: what
+/// everything is held against.
 class RawFile {
 public:
+    /// Works the key out and reads the first page.
     explicit RawFile(const QString& path);
     ~RawFile() { sqlite3_close(m_handle); }
     RawFile(const RawFile&) = delete;

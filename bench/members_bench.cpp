@@ -61,7 +61,6 @@ void fill(DataTable& grid) {
 void benchLists(const QString& folder) {
     constexpr int runs = 7;
     RawFile file(folder + u"/uw01.mdb"_qs);
-    file.execute("PRAGMA cache_size = -32768"); // as the program has it
     std::vector<RawRow> rows;
     const auto floor = [&] { rawList(file, rows); };
     MitglList& form = screen<MitglList>();

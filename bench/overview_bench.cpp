@@ -7,6 +7,7 @@
 #include "Program.h"
 #include "ProgramUnderTest.h"
 #include "RawFile.h"
+#include "RawFills.h"
 #include "Screens.h"
 #include "Session.h"
 #include "SqlFunctions.h"
@@ -19,20 +20,6 @@ namespace {
 
 /// The one with the most contacts.
 constexpr int crowdedNumber = 1;
-
-/// Every contact of every category, not looked at.
-int rawCounts(RawFile& file) {
-    sqlite3_stmt* names = file.prepare("SELECT KategoNr, Kategorie FROM Katego");
-    int rows = 0;
-    while (sqlite3_step(names) == SQLITE_ROW) {
-        sqlite3_stmt* of = file.prepare("SELECT * FROM Kontakt WHERE KategoNr = " +
-                                        QByteArray::number(sqlite3_column_int(names, 0)));
-        while (sqlite3_step(of) == SQLITE_ROW) ++rows;
-        sqlite3_finalize(of);
-    }
-    sqlite3_finalize(names);
-    return rows;
-}
 
 struct RawContact {
     int number = 0;
@@ -120,7 +107,6 @@ int main(int argc, char* argv[]) {
     NoBoxes boxes;
     BenchDesk desk(argc, argv, boxes);
     RawFile file(desk.club() + u"/uw01.mdb"_qs);
-    file.execute("PRAGMA cache_size = -32768"); // as the program has it
     registerSqlFunctions(file.handle());
     Program program(desk.club());
     program.start();

@@ -107,7 +107,6 @@ int main(int argc, char* argv[]) {
     const int catches = desk.size().catches();
     RawFile file(path);
     registerSqlFunctions(file.handle());
-    file.execute("PRAGMA cache_size = -32768"); // as the program has it
     Database database = DBEngine::Workspaces(0).OpenDatabase(path, false, false, u";pwd=qx-1987-nkr"_qs);
     const auto names = speciesNames();
     printRow("20,000 lookups among 30 names", {storeLookups(database, names), rawLookups(file, names)},

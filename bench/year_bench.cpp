@@ -73,7 +73,7 @@ double measure(const QString& folder, Change change) {
 
 double rawSeconds(const QString& path) {
     RawFile file(path);
-    file.execute("PRAGMA cache_size = -32768; SELECT FJahr FROM System");
+    file.execute("SELECT FJahr FROM System");
     return secondsOf([&] { rawChange(file); });
 }
 
