@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QFile>
 #include <QPushButton>
+#include <cmath>
 #include <cstdio>
 #include <cstdlib>
 
@@ -27,7 +28,7 @@ double residentMegabytes() {
 } // namespace
 
 void printRow(const char* work, Pair seconds, const char* floor, double wanted) {
-    const double ratio = seconds.own / seconds.floor;
+    const double ratio = std::round(100 * seconds.own / seconds.floor) / 100; // as it is printed
     std::printf("%-38s x%-4d %10.3f ms  %-34s %10.3f ms %6.2f %6.2f%s %5.0f MiB\n", work, timesInForce,
                 seconds.own * 1e3, floor, seconds.floor * 1e3, ratio, wanted, ratio <= wanted ? " " : "!",
                 residentMegabytes());

@@ -72,6 +72,8 @@ QString NumberPattern::textOf(double number) const {
     DecimalDigits digits(number);
     digits.roundTo(m_maxDecimals);
     QString text = digits.isNegative() ? u'-' + m_prefix : m_prefix;
+    constexpr qsizetype most = 24; // of nearly all numbers
+    text.reserve(text.size() + most + m_suffix.size());
     for (int place = std::max(digits.integerDigits(), m_minIntegerDigits) - 1; place >= 0; --place) {
         text += QLatin1Char(digits.digitAt(place));
         if (m_isGrouped && place > 0 && place % 3 == 0) text += u'.';
