@@ -109,17 +109,6 @@ void SpeicherBenutzer() {
     });
 }
 
-namespace {
-
-/// The row of the record whose number stands in the label. A row that was opened on the other page since then
-/// is the same number of another grid.
-int zeileVon(const DataTable* grid, const ValueLabel* nummer, int row) {
-    int gefunden = 0;
-    return grid->find(0, gefunden, nummer->Caption()) < 0 ? row : gefunden;
-}
-
-} // namespace
-
 void UpdateBenutzer(int row) {
     withErrorTail(modul, u"UpdateBenutzer"_qs, [row](ErrorTail& step) {
         const Benutzer& form = screen<Benutzer>();
@@ -132,10 +121,13 @@ void UpdateBenutzer(int row) {
         } else {
             modRun::MeldeNichtVorhanden();
         }
-        const int zeile = zeileVon(form.tblBenutzer, form.lblBNr, row);
-        step([&] { form.tblBenutzer->setCell(zeile, 1, form.txtBenutzer->Text()); });
-        step([&] { form.tblBenutzer->setCell(zeile, 2, form.txtPassw->Text()); });
-        step([&] { form.tblBenutzer->setCell(zeile, gruppenSpalte, form.cboBG->Text()); });
+        // Without a number no user stands open but a group, and its row is another user's here.
+        if (!form.lblBNr->Caption().isEmpty()) {
+            const int zeile = modRun::zeileVon(form.tblBenutzer, form.lblBNr, row);
+            step([&] { form.tblBenutzer->setCell(zeile, 1, form.txtBenutzer->Text()); });
+            step([&] { form.tblBenutzer->setCell(zeile, 2, form.txtPassw->Text()); });
+            step([&] { form.tblBenutzer->setCell(zeile, gruppenSpalte, form.cboBG->Text()); });
+        }
         LeereBenutzerEingabe();
         step([&] { benutzer.Close(); });
     });
@@ -147,7 +139,7 @@ void LoescheBenutzer(int row) {
         Recordset benutzer;
         if (findeOffenen(step, benutzer, u"Benutzer"_qs, form.lblBNr)) {
             step([&] { benutzer.Delete(); });
-            step([&] { form.tblBenutzer->removeRow(zeileVon(form.tblBenutzer, form.lblBNr, row)); });
+            step([&] { form.tblBenutzer->removeRow(modRun::zeileVon(form.tblBenutzer, form.lblBNr, row)); });
             zeigeAnzahl(form.lblBAnzahl, form.tblBenutzer);
         } else {
             modRun::MeldeNichtVorhanden();
@@ -187,7 +179,7 @@ void UpdateBG(int row) {
             step([&] { gruppe.Update(); });
             step([&] {
                 const std::vector<Value> zeile = gruppenZeile(gruppe);
-                const int dort = zeileVon(form.tblZugriff, form.lblGNr, row);
+                const int dort = modRun::zeileVon(form.tblZugriff, form.lblGNr, row);
                 for (std::size_t column = 1; column < zeile.size(); ++column)
                     form.tblZugriff->setCell(dort, static_cast<int>(column), zeile[column]);
             });
@@ -206,7 +198,7 @@ void LoescheZugriff(int row) {
         Recordset gruppe;
         if (findeOffenen(step, gruppe, u"Gruppen"_qs, form.lblGNr)) {
             step([&] { gruppe.Delete(); });
-            step([&] { form.tblZugriff->removeRow(zeileVon(form.tblZugriff, form.lblGNr, row)); });
+            step([&] { form.tblZugriff->removeRow(modRun::zeileVon(form.tblZugriff, form.lblGNr, row)); });
             zeigeAnzahl(form.lblGAnzahl, form.tblZugriff);
             // The number of groups here too, until the next painting.
             zeigeAnzahl(form.lblBAnzahl, form.tblZugriff);

@@ -17,6 +17,8 @@
 #include "modFangbuch.h"
 #include "modRun.h"
 
+#include <utility>
+
 // The face of the screen is built in FangbuchFace.cpp; here is what it does.
 
 void Fangbuch::Form_Load() {
@@ -30,6 +32,7 @@ void Fangbuch::Form_Load() {
 }
 
 void Fangbuch::Form_Activate() {
+    if (std::exchange(m_offen, false)) session().Modus = u"EDIT"_qs;
     // A catch that has just been opened from the evaluation must not lose what it shows.
     if (session().Modus != u"SAVE"_qs) return;
     zeigeAnzahlen();
@@ -38,7 +41,10 @@ void Fangbuch::Form_Activate() {
     cboFArt->setFocus();
 }
 
-void Fangbuch::Form_Deactivate() { modFangbuch::FangAnzeigeLoeschen(); }
+void Fangbuch::Form_Deactivate() {
+    m_offen = modRun::stelleOffenenZurueck();
+    modFangbuch::FangAnzeigeLoeschen();
+}
 
 void Fangbuch::zeigeAnzahlen() {
     lblAnzahl->setCaption(QString::number(tblFList->rowCount()));

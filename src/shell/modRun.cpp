@@ -6,6 +6,7 @@
 #include "MsgBox.h"
 #include "Session.h"
 #include "TextBox.h"
+#include "ValueLabel.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -57,6 +58,17 @@ void connectGridFocus(DataTable* grid) {
 
 void vergissOffenen(const QString& nummer) {
     if (!nummer.isEmpty()) session().Modus = u"SAVE"_qs;
+}
+
+bool stelleOffenenZurueck() {
+    const bool offen = session().Modus == u"EDIT"_qs;
+    session().Modus = u"SAVE"_qs;
+    return offen;
+}
+
+int zeileVon(const DataTable* grid, const ValueLabel* nummer, int row) {
+    int gefunden = 0;
+    return grid->find(0, gefunden, nummer->Caption()) < 0 ? row : gefunden;
 }
 
 void MeldeNichtVorhanden() {

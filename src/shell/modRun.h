@@ -8,6 +8,7 @@ class DataTable;
 class QAbstractButton;
 class QCheckBox;
 class TextBox;
+class ValueLabel;
 struct SelectionStyle;
 
 /// What all screens share.
@@ -21,6 +22,12 @@ void connectGridFocus(DataTable* grid);
 /// For a screen that is left and empties its fields: a record that stood open there is open no more, and the
 /// next screen must not take it for one of its own. `nummer` is empty if none was open.
 void vergissOffenen(const QString& nummer);
+/// For a screen that finds its record still being edited when it comes back: whether one is, which until then
+/// the others must not take for one of theirs.
+bool stelleOffenenZurueck();
+/// The row of the record whose number stands in the label; `row` if the grid has none. On a screen of two
+/// pages the row that was opened last may be one of the other page's grid.
+int zeileVon(const DataTable* grid, const ValueLabel* nummer, int row);
 
 void MeldeNichtVorhanden();
 void MeldeNichtsGefunden();

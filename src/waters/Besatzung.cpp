@@ -10,6 +10,9 @@
 #include "ValueLabel.h"
 #include "modBesatzList.h"
 #include "modFangbuch.h"
+#include "modRun.h"
+
+#include <utility>
 
 // The face of the screen is built in BesatzungFace.cpp; here is what it does.
 
@@ -25,8 +28,8 @@ void Besatzung::Form_Activate() {
         session().NachReport = false;
         return;
     }
-    // A catch that stands open elsewhere must not leave the first visit without its years.
-    if (session().Modus != u"SAVE"_qs && cboBJahr->ListCount() > 0) return;
+    if (std::exchange(m_offen, false)) session().Modus = u"EDIT"_qs;
+    if (session().Modus != u"SAVE"_qs) return;
     modFangbuch::loadcboFArt(cboFArt);
     modFangbuch::loadcboGName(cboGName);
     modFangbuch::loadcboFJahr(cboBJahr);
@@ -35,7 +38,9 @@ void Besatzung::Form_Activate() {
 }
 
 void Besatzung::Form_Deactivate() {
-    if (!session().NachReport) modBesatzList::BesatzAnzeigeLoeschen();
+    if (session().NachReport) return;
+    m_offen = modRun::stelleOffenenZurueck();
+    modBesatzList::BesatzAnzeigeLoeschen();
 }
 
 void Besatzung::zeigeAnzahl() { lblAnzahl->setCaption(QString::number(tblBList->rowCount())); }

@@ -62,4 +62,6 @@ private:
     void tbExcel_Click();
     void drucke(const QString& wort);
     void tblBList_OnGridCellOpen(int row);
+
+    bool m_offen = false; ///< whether a stocking stood open when the screen was left
 };

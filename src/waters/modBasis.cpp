@@ -138,7 +138,7 @@ void aendere(const QString& routine, const Art& art, int row) {
             step([&] { satz.Collect(art.feldName, name); });
             step([&] { satz.Collect(u"Notiz"_qs, art.txtNotiz->Text()); });
             step([&] { satz.Update(); });
-            step([&] { art.grid->setCell(row, 1, name); });
+            step([&] { art.grid->setCell(modRun::zeileVon(art.grid, art.lblNr, row), 1, name); });
             step([&] {
                 modRun::GridVerweiseAbgleichen(screen<Fangbuch>().tblFList, art.spalteImFangbuch, name,
                                                u"UPDATE"_qs, alterName);
@@ -156,7 +156,7 @@ void loesche(const QString& routine, const Art& art, int row) {
             MsgBox(u"FEHLER: Datensatz kann nicht gelöscht oder gefunden werden !"_qs, vbCritical);
         } else {
             step([&] { satz.Delete(); });
-            step([&] { art.grid->removeRow(row); });
+            step([&] { art.grid->removeRow(modRun::zeileVon(art.grid, art.lblNr, row)); });
             zeigeAnzahl(art);
             step([&] {
                 modRun::GridVerweiseAbgleichen(screen<Fangbuch>().tblFList, art.spalteImFangbuch,

@@ -136,6 +136,7 @@ void UpdateEintrag(int row) {
             entferneOffenen(step, form, row);
             step([&] { form.tblBList->insertRow(row, zeile); });
             form.tblBList->refresh();
+            zeigeAnzahl(form);
         }
         BesatzAnzeigeLoeschen();
         step([&] { plan.Close(); });
