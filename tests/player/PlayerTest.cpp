@@ -1,6 +1,7 @@
 #include "EventGuard.h"
 #include "Player.h"
 
+#include <QLoggingCategory>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -12,6 +13,7 @@ namespace {
 /// What the player tells on the standard error output of a scenario that begins in the login.
 std::string told(const QString& script) {
     const QTemporaryDir folder;
+    QLoggingCategory::setFilterRules(u"default.warning=false"_qs); // of the platform without a display
     testing::internal::CaptureStderr();
     {
         PlayedProgram program(folder.path() + u"/programm"_qs, folder.path());
