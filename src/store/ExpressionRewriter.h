@@ -6,8 +6,8 @@
 
 /// Reads one expression of the dialect and writes it as the database engine understands it.
 ///
-/// From the weakest to the strongest binding: OR; AND; NOT; comparison, IS, LIKE, IN, BETWEEN; &; + -; * /;
-/// sign.
+/// From the weakest to the strongest binding: OR; AND; comparison, LIKE; sign. It holds what the routines'
+/// statements hold and no more.
 class ExpressionRewriter {
 public:
     enum class Aggregates : quint8 { Allowed, Refused };
@@ -27,22 +27,12 @@ private:
     void requireTruth(const Operand& operand) const;
     Operand readChain(QStringView word, Part part);
     Operand readConjunction();
-    Operand readNegation();
     Operand readComparison();
-    Operand readTest(Operand left);
-    Operand readNullTest(const Operand& left);
-    Operand readLike(const Operand& left, const QByteArray& negation);
-    Operand readIn(const Operand& left, const QByteArray& negation);
-    Operand readInList(const Operand& left, const QByteArray& negation);
-    Operand readBetween(const Operand& left, const QByteArray& negation);
-    Operand readConcatenation();
-    Operand readSum();
-    Operand readProduct();
+    Operand readLike(const Operand& left);
     Operand readSigned();
     Operand readPrimary();
     Operand readLiteral();
     Operand readBracketed();
-    Operand readExists();
     Operand readNamed();
     Operand readAggregate(const QString& name);
     Operand readAggregateArgument();

@@ -169,10 +169,6 @@ private:
             return add(TokenKind::Equal, 1);
         case u'+':
             return add(TokenKind::Plus, 1);
-        case u'/':
-            return add(TokenKind::Slash, 1);
-        case u'&':
-            return add(TokenKind::Ampersand, 1);
         case u';':
             return add(TokenKind::Semicolon, 1);
         case u'<':

@@ -25,8 +25,6 @@ enum class TokenKind : quint8 {
     GreaterEqual,
     Plus,
     Minus,
-    Slash,
-    Ampersand,
     Semicolon
 };
 

@@ -30,17 +30,3 @@ Operand compared(const Operand& left, const QByteArray& sign, const Operand& rig
     };
     return joined(left, right, '(' + side(left) + ' ' + sign + ' ' + side(right) + ')', FieldKind::Boolean);
 }
-
-Operand calculated(const Operand& left, char sign, const Operand& right) {
-    if (sign == '+' && left.isText() && right.isText())
-        return joined(left, right, '(' + left.sql + " || " + right.sql + ')', FieldKind::Text);
-    if (left.isText() || right.isText()) throw unlikeKinds();
-    // A quotient has its fraction, also that of two whole numbers.
-    const QByteArray first = sign == '/' ? "CAST(" + asNumber(left) + " AS REAL)" : asNumber(left);
-    return joined(left, right, '(' + first + ' ' + sign + ' ' + asNumber(right) + ')', FieldKind::Number);
-}
-
-Operand concatenated(const Operand& left, const Operand& right) {
-    const auto side = [](const Operand& operand) { return "IFNULL(" + asNumber(operand) + ", '')"; };
-    return joined(left, right, '(' + side(left) + " || " + side(right) + ')', FieldKind::Text);
-}

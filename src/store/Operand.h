@@ -22,11 +22,6 @@ Operand joined(const Operand& left, const Operand& right, QByteArray sql, FieldK
 
 /// A comparison with one of the signs = <> < <= > >=. Error 3464 for a text beside a number.
 Operand compared(const Operand& left, const QByteArray& sign, const Operand& right);
-/// + - * /; two texts are joined by +. Error 3464 for other texts.
-Operand calculated(const Operand& left, char sign, const Operand& right);
-/// Texts joined by &, Null counting as empty.
-Operand concatenated(const Operand& left, const Operand& right);
-
 /// Error 3464 when one is known to be a text and the other to be none.
 void requireComparable(const Operand& left, const Operand& right);
 /// The expression as one side of a comparison with texts, if it is one.

@@ -21,8 +21,6 @@ struct SelectPlan {
     /// The table that the result can be edited in; its row number is then the first column of the statement,
     /// before the result's own. Null for joins, aggregates and DISTINCT.
     const TableSpec* editable = nullptr;
-    /// False if the statement holds the value of one of its literals.
-    bool reusable = true;
 
     int firstColumn() const { return editable != nullptr ? 1 : 0; }
 };

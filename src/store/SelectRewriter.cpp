@@ -16,9 +16,7 @@ constexpr size_t mostTables = 32;
 struct Item {
     Operand operand;
     QString name;
-    QString sourceName = {}; ///< the table it is a field of
     int field = -1;
-    bool hasAlias = false;
 };
 
 class SelectRewriter {
@@ -28,10 +26,8 @@ public:
         , m_scope(outer) {}
 
     void read();
-    void readOrder();
     SelectPlan plan() const;
     Operand value() const;
-    Operand list() const;
     QByteArray sql(const QByteArray& columns) const;
 
 private:
@@ -41,14 +37,8 @@ private:
     void readItem();
     void add(Item item);
     void addFields(const Source& source);
-    void readAlias(Item& item);
-    void readOrderTerm();
-    const Item* ordinalItem();
-    const Item* aliasItem();
-    bool endsOrderTerm(size_t ahead) const;
     void checkAggregates() const;
     void nameItems();
-    bool nameOccursTwice(const Item& item) const;
     QByteArray columns() const;
     bool isAggregate() const;
     const Item& onlyItem() const;
@@ -57,17 +47,12 @@ private:
     Scope m_scope;
     std::vector<Item> m_items;
     QByteArray m_where;
-    QByteArray m_order;
-    bool m_distinct = false;
-    bool m_reusable = true;
 };
 
 /// The tables stand behind the columns but must be known before them.
 void SelectRewriter::read() {
     m_reader.beginClause();
     m_reader.expectWord(u"SELECT", SyntaxFault::NoSelect);
-    m_distinct = m_reader.acceptWord(u"DISTINCT");
-    if (!m_distinct) m_reader.acceptWord(u"ALL");
     const size_t items = m_reader.place();
     const size_t from = m_reader.findFrom();
     m_reader.moveTo(from);
@@ -94,8 +79,7 @@ void SelectRewriter::readSource() {
     const QString tableName = m_reader.takeName(SyntaxFault::From);
     const TableSpec* table = findTable(tableName);
     if (table == nullptr) throw runtimeError(3078, tableName);
-    const bool as = m_reader.acceptWord(u"AS");
-    QString name = as || m_reader.atName() ? m_reader.takeName(SyntaxFault::From) : tableName;
+    QString name = m_reader.atName() ? m_reader.takeName(SyntaxFault::From) : tableName;
     if (m_scope.findSource(name) != nullptr) m_reader.fail(SyntaxFault::From);
     if (m_scope.sources().size() == mostTables) throw tooComplex();
     m_scope.add({table, std::move(name), m_reader.nextAlias()});
@@ -113,22 +97,13 @@ void SelectRewriter::readItem() {
         for (const Source& source : m_scope.sources()) addFields(source);
         return;
     }
-    if (m_reader.atName() && m_reader.peek(1).kind == TokenKind::Dot &&
-        m_reader.peek(2).kind == TokenKind::Star) {
-        const Source* source = m_scope.findSource(m_reader.takeName(SyntaxFault::General));
-        if (source == nullptr) throw unknownField();
-        m_reader.moveTo(m_reader.place() + 2);
-        return addFields(*source);
-    }
     Item item{.operand = ExpressionRewriter(m_reader, m_scope, Aggregates::Allowed).read(), .name = {}};
     for (const Source& source : m_scope.sources()) {
         const int field = source.table->fieldIndex(item.operand.bareField);
         if (field < 0 || fieldOf(source, field).sql != item.operand.sql) continue;
         item.field = field;
-        item.sourceName = source.name;
         item.name = item.operand.bareField;
     }
-    readAlias(item);
     add(std::move(item));
 }
 
@@ -143,34 +118,15 @@ void SelectRewriter::addFields(const Source& source) {
         const FieldReference reference = fieldOf(source, field);
         const QString name = reference.field->name.toString();
         Operand operand{.sql = reference.sql, .kind = reference.field->kind, .bareField = name};
-        add({std::move(operand), name, source.name, field});
+        add({std::move(operand), name, field});
     }
 }
 
-void SelectRewriter::readAlias(Item& item) {
-    if (!m_reader.acceptWord(u"AS")) return;
-    item.name = m_reader.takeName(SyntaxFault::General);
-    item.hasAlias = true;
-}
-
-bool SelectRewriter::nameOccursTwice(const Item& item) const {
-    return std::ranges::count_if(m_items, [&item](const Item& other) {
-               return other.name.compare(item.name, Qt::CaseInsensitive) == 0;
-           }) > 1;
-}
-
-/// Columns of one name from two tables are told apart by the table; what has no name is numbered.
+/// What is no field has no name of its own and is numbered.
 void SelectRewriter::nameItems() {
-    std::vector<QString> names;
     int unnamed = 1000;
-    for (const Item& item : m_items) {
-        const bool isDouble = !item.hasAlias && item.field >= 0 && nameOccursTwice(item);
-        if (item.name.isEmpty())
-            names.push_back(QStringLiteral("Expr%1").arg(unnamed++));
-        else
-            names.push_back(isDouble ? item.sourceName + u'.' + item.name : item.name);
-    }
-    for (size_t i = 0; i < names.size(); ++i) m_items[i].name = names[i];
+    for (Item& item : m_items)
+        if (item.name.isEmpty()) item.name = QStringLiteral("Expr%1").arg(unnamed++);
 }
 
 bool SelectRewriter::isAggregate() const {
@@ -183,61 +139,9 @@ void SelectRewriter::checkAggregates() const {
         if (!item.operand.bareField.isEmpty()) throw fieldOutsideAggregate(item.operand.bareField);
 }
 
-void SelectRewriter::readOrder() {
-    if (!m_reader.acceptWord(u"ORDER")) return;
-    m_reader.expectWord(u"BY", SyntaxFault::General);
-    m_reader.beginClause();
-    do readOrderTerm();
-    while (m_reader.accept(TokenKind::Comma));
-}
-
-void SelectRewriter::readOrderTerm() {
-    const Item* item = ordinalItem();
-    if (item == nullptr) item = aliasItem();
-    const Operand term =
-        item != nullptr ? item->operand : ExpressionRewriter(m_reader, m_scope, Aggregates::Refused).read();
-    m_order += m_order.isEmpty() ? " ORDER BY " : ", ";
-    // The sign keeps the engine from walking along an index, for the reason told at the plan.
-    m_order += '+' + collated(term);
-    if (m_reader.acceptWord(u"DESC"))
-        m_order += " DESC";
-    else
-        m_reader.acceptWord(u"ASC");
-}
-
-bool SelectRewriter::endsOrderTerm(size_t ahead) const {
-    const TokenKind kind = m_reader.peek(ahead).kind;
-    return kind == TokenKind::Comma || kind == TokenKind::End || kind == TokenKind::Semicolon ||
-           m_reader.atWord(u"ASC", ahead) || m_reader.atWord(u"DESC", ahead);
-}
-
-/// A lone number is the place of a column, counted from 1.
-const Item* SelectRewriter::ordinalItem() {
-    if (!m_reader.at(TokenKind::NumberLiteral) || !endsOrderTerm(1)) return nullptr;
-    const Value& ordinal = m_reader.literal(m_reader.take());
-    const bool isPlace = ordinal.kind() == Value::Kind::Long && ordinal.number() >= 1 &&
-                         static_cast<size_t>(ordinal.number()) <= m_items.size();
-    if (!isPlace) m_reader.fail(SyntaxFault::General);
-    m_reusable = false;
-    return &m_items[static_cast<size_t>(ordinal.number()) - 1];
-}
-
-const Item* SelectRewriter::aliasItem() {
-    if (!m_reader.atName() || !endsOrderTerm(1)) return nullptr;
-    const size_t place = m_reader.place();
-    const QString name = m_reader.takeName(SyntaxFault::General);
-    const auto found = std::ranges::find_if(m_items, [&name](const Item& item) {
-        return item.hasAlias && item.name.compare(name, Qt::CaseInsensitive) == 0;
-    });
-    if (found != m_items.end()) return &*found;
-    m_reader.moveTo(place);
-    return nullptr;
-}
-
 QByteArray SelectRewriter::columns() const {
     QByteArrayList columns;
-    // Texts that differ in case only are one to DISTINCT.
-    for (const Item& item : m_items) columns += m_distinct ? collated(item.operand) : item.operand.sql;
+    for (const Item& item : m_items) columns += item.operand.sql;
     return columns.join(", ");
 }
 
@@ -245,16 +149,13 @@ QByteArray SelectRewriter::sql(const QByteArray& columns) const {
     QByteArrayList tables;
     for (const Source& source : m_scope.sources())
         tables += quotedName(source.table->name) + " AS " + source.alias;
-    QByteArray select =
-        (m_distinct ? "SELECT DISTINCT " : "SELECT ") + columns + " FROM " + tables.join(", ");
-    if (!m_where.isEmpty()) select += " WHERE " + m_where;
-    return select + m_order;
+    const QByteArray select = "SELECT " + columns + " FROM " + tables.join(", ");
+    return m_where.isEmpty() ? select : select + " WHERE " + m_where;
 }
 
 SelectPlan SelectRewriter::plan() const {
     SelectPlan plan;
-    plan.reusable = m_reusable;
-    const bool editable = m_scope.sources().size() == 1 && !m_distinct && !isAggregate();
+    const bool editable = m_scope.sources().size() == 1 && !isAggregate();
     for (const Item& item : m_items)
         plan.columns.push_back({item.name, item.operand.kind, editable ? item.field : -1});
     if (!editable) {
@@ -263,10 +164,9 @@ SelectPlan SelectRewriter::plan() const {
     }
     const Source& source = m_scope.sources().front();
     plan.editable = source.table;
-    plan.sql = sql(source.alias + ".rowid, " + columns());
     // Walking along an index, the cursor would meet a row again whose place in it a change has moved ahead.
     // In the order of the keys it cannot.
-    if (m_order.isEmpty()) plan.sql += " ORDER BY " + source.alias + ".rowid";
+    plan.sql = sql(source.alias + ".rowid, " + columns()) + " ORDER BY " + source.alias + ".rowid";
     return plan;
 }
 
@@ -277,34 +177,15 @@ const Item& SelectRewriter::onlyItem() const {
 
 Operand SelectRewriter::value() const {
     const Item& item = onlyItem();
-    Operand result{.sql = {}, .kind = item.operand.kind};
     const QByteArray single = sqlname::singleValue;
-    if (isAggregate())
-        result.sql = sql(columns());
-    else if (m_distinct)
-        result.sql = "SELECT " + single + "(w) FROM (" + sql(columns() + " AS w") + ')';
-    else
-        result.sql = sql(single + '(' + columns() + ')');
-    result.sql = '(' + result.sql + ')';
-    return result;
-}
-
-Operand SelectRewriter::list() const {
-    onlyItem();
-    return {.sql = sql(columns()), .kind = m_items.front().operand.kind};
+    const QByteArray select = isAggregate() ? sql(columns()) : sql(single + '(' + columns() + ')');
+    return {.sql = '(' + select + ')', .kind = item.operand.kind};
 }
 
 void requireEnd(TokenReader& reader) {
     if (reader.at(TokenKind::Comma)) reader.fail(SyntaxFault::Comma);
     const bool ended = reader.accept(TokenKind::Semicolon);
     if (!reader.at(TokenKind::End)) reader.fail(ended ? SyntaxFault::Ending : SyntaxFault::Operator);
-}
-
-SelectRewriter readSubselect(TokenReader& reader, const Scope& outer) {
-    const TokenReader::Level level(reader);
-    SelectRewriter select(reader, &outer);
-    select.read();
-    return select;
 }
 
 } // namespace
@@ -316,19 +197,13 @@ SelectPlan rewriteSelect(QStringView source, const LexedStatement& statement) {
     TokenReader reader(source, statement);
     SelectRewriter select(reader, nullptr);
     select.read();
-    select.readOrder();
     requireEnd(reader);
     return select.plan();
 }
 
 Operand readValueSelect(TokenReader& reader, const Scope& outer) {
-    return readSubselect(reader, outer).value();
-}
-
-Operand readListSelect(TokenReader& reader, const Scope& outer) {
-    return readSubselect(reader, outer).list();
-}
-
-QByteArray readExistsSelect(TokenReader& reader, const Scope& outer) {
-    return readSubselect(reader, outer).sql("1");
+    const TokenReader::Level level(reader);
+    SelectRewriter select(reader, &outer);
+    select.read();
+    return select.value();
 }

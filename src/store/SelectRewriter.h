@@ -12,11 +12,6 @@
 /// than 255 columns; 3360 for more than 32 tables or a statement of many thousand words.
 SelectPlan rewriteSelect(QStringView source, const LexedStatement& statement);
 
-// Sub-selects, read from their SELECT up to the bracket that ends them.
-
-/// One that stands for a value: Null without a row, error 3354 with more than one, 3306 with more than one
-/// column.
+/// A sub-select, read from its SELECT up to the bracket that ends it. It stands for a value: Null without a
+/// row, error 3354 with more than one, 3306 with more than one column.
 Operand readValueSelect(TokenReader& reader, const Scope& outer);
-/// One that stands for a list of values.
-Operand readListSelect(TokenReader& reader, const Scope& outer);
-QByteArray readExistsSelect(TokenReader& reader, const Scope& outer);

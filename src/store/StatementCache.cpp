@@ -32,12 +32,7 @@ StatementCache::Loan StatementCache::take(const QString& key) {
 }
 
 StatementCache::Loan StatementCache::add(const QString& key, SelectPlan plan) {
-    if (plan.reusable) return lend(remember(key, std::move(plan)));
-    const auto entry = std::make_shared<Entry>();
-    entry->plan = std::make_shared<const SelectPlan>(std::move(plan));
-    Loan loan = lend(entry);
-    loan.m_home.reset();
-    return loan;
+    return lend(remember(key, std::move(plan)));
 }
 
 StatementCache::Loan StatementCache::take(const QByteArray& sql) {

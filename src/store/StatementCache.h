@@ -44,7 +44,7 @@ public:
         friend class StatementCache;
         Statement m_statement;
         std::shared_ptr<const SelectPlan> m_plan;
-        std::shared_ptr<Entry> m_home; ///< null for one that is used only once
+        std::shared_ptr<Entry> m_home;
     };
 
     /// Empty if nothing is known of the key yet.

@@ -38,7 +38,7 @@ TEST_F(StatementCacheTest, GivesEachUserOfAStatementHisOwn) {
 
 TEST_F(StatementCacheTest, StaysBoundedHoweverManyStatementsThereAre) {
     const auto statement = [](int number) {
-        return u"SELECT FNr AS A%1 FROM Fisch WHERE FNr = 1"_qs.arg(number);
+        return u"SELECT f%1.FNr FROM Fisch f%1 WHERE f%1.FNr = 1"_qs.arg(number);
     };
     for (int number = 0; number < 200; ++number) rows(statement(number));
     const qint64 full = preparedStatements();

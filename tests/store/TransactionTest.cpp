@@ -121,8 +121,7 @@ TEST_F(TransactionTest, ReportsAFileThatAnotherProcessWritesTo) {
 TEST_F(TransactionTest, LetsOthersWriteWhileAResultThatIsReadToItsEndStaysOpen) {
     const QStringList results{u"SELECT COUNT(FNr) FROM Fisch"_qs, u"SELECT * FROM Fisch WHERE FNr = 1"_qs,
                               u"SELECT fa.FangNr, fi.FName FROM Fang fa, Fisch fi WHERE fa.FischNr = fi.FNr "
-                              u"AND fa.FangNr = 1"_qs,
-                              u"SELECT FNr FROM Fisch ORDER BY FName"_qs};
+                              u"AND fa.FangNr = 1"_qs};
     for (const QString& select : results) {
         Recordset shown = query(select);
         shown.MoveLast();
@@ -132,7 +131,7 @@ TEST_F(TransactionTest, LetsOthersWriteWhileAResultThatIsReadToItsEndStaysOpen) 
         shown.MoveNext();
         EXPECT_TRUE(shown.Eof());
     }
-    EXPECT_EQ(rowsInFile(u"SELECT Notiz FROM Fisch WHERE FNr = 3"_qs), u"seltenxxxx");
+    EXPECT_EQ(rowsInFile(u"SELECT Notiz FROM Fisch WHERE FNr = 3"_qs), u"seltenxxx");
 }
 
 TEST_F(TransactionTest, ReportsAFailedCommitAtTheCloseAndStaysUsable) {
@@ -172,7 +171,7 @@ TEST_F(TransactionTest, TellsOfAFailedCommitOfAForgottenCursorAtTheNextUse) {
         if (!database.isOpen()) break;
         EXPECT_EQ(errorOf([&] { nextUse(waters = table(u"Gewaesser")); }), 0) << "told once";
     }
-    EXPECT_EQ(rowsInFile(u"SELECT COUNT(*) FROM Gewaesser"_qs), u"1");
+    EXPECT_EQ(rowsInFile(u"SELECT COUNT(GNr) FROM Gewaesser"_qs), u"1");
 }
 
 TEST_F(TransactionTest, WritesAndShowsNothingMoreOfAnActionThatAFullDiskHasUndone) {
@@ -192,7 +191,7 @@ TEST_F(TransactionTest, WritesAndShowsNothingMoreOfAnActionThatAFullDiskHasUndon
     EXPECT_EQ(errorOf([&] { fish.Close(); }), 0);
     EXPECT_EQ(errorOf([&] { waters.Close(); }), 3026);
     EXPECT_EQ(namesInFile(), unchanged);
-    EXPECT_EQ(rowsInFile(u"SELECT COUNT(*) FROM Gewaesser"_qs), u"2");
+    EXPECT_EQ(rowsInFile(u"SELECT COUNT(GNr) FROM Gewaesser"_qs), u"2");
     EXPECT_EQ(errorOf([&] { table(u"Gewaesser").Delete(); }), 0) << "the next action is a new one";
 }
 
@@ -215,7 +214,7 @@ TEST_F(HeldTransactionTest, BringsSeveralActionsToTheFileAtItsCommit) {
     EXPECT_EQ(namesInFile(), unchanged);
     action.commit();
     EXPECT_EQ(namesInFile(), u"Aal;Zander;Äsche;Barsch");
-    EXPECT_EQ(rowsInFile(u"SELECT COUNT(*) FROM Gewaesser"_qs), u"1");
+    EXPECT_EQ(rowsInFile(u"SELECT COUNT(GNr) FROM Gewaesser"_qs), u"1");
 }
 
 TEST_F(HeldTransactionTest, TakesBackWhatEndsWithoutACommit) {
