@@ -61,7 +61,6 @@ void schreibeBenutzer(ErrorTail& step, Recordset& benutzer, qint32 gnr) {
     step([&] { benutzer.Collect(u"Name"_qs, form.txtBenutzer->Text()); });
     step([&] { benutzer.Collect(u"Passwort"_qs, form.txtPassw->Text()); });
     step([&] { benutzer.Collect(u"GNr"_qs, gnr); });
-    step([&] { benutzer.Update(); });
 }
 
 void leereBenutzer(const Benutzer& form) {
@@ -94,8 +93,7 @@ void SpeicherBenutzer() {
         if (gnr == 0) return LeereBenutzerEingabe();
         step([&] { benutzer.AddNew(); });
         schreibeBenutzer(step, benutzer, gnr);
-        step([&] { benutzer.Index(u"PrimaryKey"_qs); });
-        step([&] { benutzer.MoveLast(); });
+        if (!modRun::speichereNeuen(step, benutzer)) return LeereBenutzerEingabe();
         QString gruppe;
         step([&] { gruppe = ErmittleGName(CLng(benutzer.Collect(u"GNr"_qs))); });
         if (gruppe.isEmpty()) return LeereBenutzerEingabe();
@@ -118,6 +116,7 @@ void UpdateBenutzer(int row) {
             if (gnr == 0) return LeereBenutzerEingabe();
             step([&] { benutzer.Edit(); });
             schreibeBenutzer(step, benutzer, gnr);
+            step([&] { benutzer.Update(); });
         } else {
             modRun::MeldeNichtVorhanden();
         }
@@ -157,10 +156,8 @@ void SpeicherBG() {
         step([&] { gruppe.AddNew(); });
         step([&] { gruppe.Collect(u"GName"_qs, form.txtGruppe->Text()); });
         step([&] { SichereZugriff(gruppe); });
-        step([&] { gruppe.Update(); });
-        step([&] { gruppe.Index(u"PrimaryKey"_qs); });
-        step([&] { gruppe.MoveLast(); });
-        step([&] { form.tblZugriff->appendRow(gruppenZeile(gruppe)); });
+        if (modRun::speichereNeuen(step, gruppe))
+            step([&] { form.tblZugriff->appendRow(gruppenZeile(gruppe)); });
         LeereBenutzerEingabe();
         zeigeAnzahl(form.lblGAnzahl, form.tblZugriff);
         LadeGruppenCombo(form.cboBG);

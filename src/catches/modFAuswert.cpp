@@ -18,6 +18,7 @@
 #include "modRun.h"
 
 #include <QCheckBox>
+#include <QScopeGuard>
 
 namespace modFAuswert {
 
@@ -88,6 +89,11 @@ void LadeAuswahl() {
     withErrorTail(u"modFAuswert"_qs, u"LadeAuswahl"_qs, [](ErrorTail& step) {
         Fangauswertung& form = screen<Fangauswertung>();
         form.setHourglass(true);
+        // Also where a fifth error ends it.
+        const auto ruhe = qScopeGuard([&] {
+            form.pb->hide();
+            form.setHourglass(false);
+        });
         Recordset liste, anzahl, summeAnzahl, summeGewicht;
         step([&] {
             liste = abfrage(
@@ -112,8 +118,6 @@ void LadeAuswahl() {
         else
             fuelleListe(step, liste, form);
         form.lblGefDS->setCaption(QString::number(form.tblFAusw->rowCount()));
-        form.pb->hide();
-        form.setHourglass(false);
         for (Recordset* offen : {&liste, &summeAnzahl, &summeGewicht}) step([&] { offen->Close(); });
     });
 }

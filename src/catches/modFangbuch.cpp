@@ -34,7 +34,6 @@ void schreibeFelder(ErrorTail& step, Recordset& fang, const Fangbuch& form) {
     step([&] { fang.Collect(u"Notiz"_qs, form.txtNotiz->Text()); });
     step([&] { fang.Collect(u"Anzahl"_qs, CLng(form.txtAnzahl->Text())); });
     step([&] { fang.Collect(u"Gewicht"_qs, CLng(form.txtGewicht->Text())); });
-    step([&] { fang.Update(); });
 }
 
 /// Opens the table and seeks the record whose number the form shows. False also when the seek itself failed:
@@ -87,9 +86,7 @@ void SpeicherFang() {
         step([&] { fang = oeffne(u"Fang"_qs, dbOpenTable); });
         step([&] { fang.AddNew(); });
         schreibeFelder(step, fang, form);
-        step([&] { fang.Index(u"PrimaryKey"_qs); });
-        step([&] { fang.MoveLast(); });
-        zeigeNeuen(step, fang, form);
+        if (modRun::speichereNeuen(step, fang)) zeigeNeuen(step, fang, form);
         FangAnzeigeLoeschen();
         form.cboFArt->setFocus();
         form.lblAnzahl->setCaption(QString::number(form.tblFList->rowCount()));
@@ -107,6 +104,7 @@ void UpdateFang(int row) {
         } else {
             step([&] { fang.Edit(); });
             schreibeFelder(step, fang, form);
+            step([&] { fang.Update(); });
             std::vector<Value> zeile = {form.lblFNr->Caption(), form.cboFArt->Text(),
                                         form.cboGName->Text(),  form.txtFangMonat->Text(),
                                         form.txtAnzahl->Text(), form.txtGewicht->Text()};

@@ -107,4 +107,6 @@ private:
     void tblMList_OnGridCellDown(int row);
     void tblMList_OnGridCellOpen(int row);
     void tblMList_OnGridCellMenu();
+
+    QString m_arbJahr; ///< the year last chosen for the hours
 };

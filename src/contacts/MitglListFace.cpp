@@ -16,6 +16,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QRadioButton>
+#include <utility>
 
 MitglList::MitglList()
     : Screen(u"MitglList"_qs, u"Mitglieder - Listen"_qs) {
@@ -249,7 +250,9 @@ void MitglList::connectEvents() {
         cboArbJahr->setEnabled(ticked);
     });
     // What stands there are the hours of another year.
-    on(cboArbJahr, &ComboBox::Click, [this] { tblMList->clearRows(); });
+    on(cboArbJahr, &ComboBox::Click, [this] {
+        if (std::exchange(m_arbJahr, cboArbJahr->Text()) != m_arbJahr) tblMList->clearRows();
+    });
     on(Toolbar1, &Toolbar::ButtonClick, [this](const QString& key) { Toolbar1_ButtonClick(key); });
     on(tblMList, &DataTable::OnGridCellDown, [this](int row, int) { tblMList_OnGridCellDown(row); });
     on(tblMList, &DataTable::OnGridCellOpen, [this](int row, int) { tblMList_OnGridCellOpen(row); });

@@ -108,7 +108,10 @@ bool SuchKont::Form_KeyDown(int key, Qt::KeyboardModifiers) {
 
 void SuchKont::cmdSuch_Click() {
     if (txtSuch->Text().isEmpty() || cboKatego->Text().isEmpty()) return modRun::MeldeEingabeFehler();
-    modKontakt::SucheKontakt(txtSuch->Text(), modKontakt::ErmittleKategoNr(cboKatego->Text()));
+    // The club may have a category of its own by this name.
+    const bool alle = session().SuchAufrufer == kontaktUebersicht && cboKatego->ListIndex() == 0;
+    const qint32 kategonr = alle ? 0 : modKontakt::ErmittleKategoNr(cboKatego->Text());
+    modKontakt::SucheKontakt(txtSuch->Text(), kategonr);
     if (tblSuch->rowCount() > 0) {
         lblGefDS->setCaption(QString::number(tblSuch->rowCount()));
         // The rows must be there when the focus comes, so that Enter opens the first one.

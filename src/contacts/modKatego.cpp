@@ -92,23 +92,28 @@ void loadKatego(int row, int /*column*/) {
     });
 }
 
+namespace {
+
+void zeigeNeue(ErrorTail& step, const Recordset& katego, Katego& form) {
+    Value nummer;
+    Value name;
+    step([&] { nummer = katego.Collect(u"kategonr"_qs); });
+    step([&] { name = katego.Collect(u"kategorie"_qs); });
+    step([&] { form.tblKatego->appendRow({nummer, name}); });
+    zeigeAnzahl(form);
+    step([&] { Uebersicht::nehmeKategorieAuf(nummer, name); });
+}
+
+} // namespace
+
 void SpeicherKatego() {
     withErrorTail(modul, u"SpeicherKatego"_qs, [](ErrorTail& step) {
         Katego& form = screen<Katego>();
         Recordset katego;
-        Value nummer;
-        Value name;
         step([&] { katego = oeffne(u"Katego"_qs, dbOpenTable); });
         step([&] { katego.AddNew(); });
         step([&] { katego.Collect(u"kategorie"_qs, form.txtKatego->Text()); });
-        step([&] { katego.Update(); });
-        step([&] { katego.Index(u"PrimaryKey"_qs); });
-        step([&] { katego.MoveLast(); });
-        step([&] { nummer = katego.Collect(u"kategonr"_qs); });
-        step([&] { name = katego.Collect(u"kategorie"_qs); });
-        step([&] { form.tblKatego->appendRow({nummer, name}); });
-        zeigeAnzahl(form);
-        step([&] { Uebersicht::nehmeKategorieAuf(nummer, name); });
+        if (modRun::speichereNeuen(step, katego)) zeigeNeue(step, katego, form);
         KategoAnzeigeLoeschen();
         step([&] { katego.Close(); });
     });

@@ -58,7 +58,6 @@ struct Lauf {
 void meldeNichts(MitglList& form) {
     form.lblGefDS->setCaption(u"0"_qs);
     MsgBox(u"Keine passenden Einträge gefunden !"_qs, vbInformation);
-    form.setHourglass(false);
 }
 
 void lesePerson(ErrorTail& step, const std::vector<Field>& felder, Zeile& zeile) {
@@ -118,7 +117,11 @@ void LadeAuswahl() {
     withErrorTail(u"modMitglList"_qs, u"LadeAuswahl"_qs, [](ErrorTail& step) {
         MitglList& form = screen<MitglList>();
         form.setHourglass(true);
-        const auto leise = qScopeGuard([&] { form.pb->hide(); });
+        // Also where a fifth error ends it.
+        const auto ruhe = qScopeGuard([&] {
+            form.pb->hide();
+            form.setHourglass(false);
+        });
         Recordset liste, anzahl;
         step([&] {
             liste = oeffne(u"k.KNr, k.Nachname, k.Vorname, k.Strasse, k.PLZ, k.Ort, k.Tel1, k.GebDatum"_qs);
@@ -135,7 +138,6 @@ void LadeAuswahl() {
         step([&] { lauf.pfl = zweiStellen(pflichtStunden()); });
         fuelleListe(step, liste, lauf);
         form.lblGefDS->setCaption(QString::number(form.tblMList->rowCount()));
-        form.setHourglass(false);
         for (Recordset* offen : {&liste, &anzahl}) step([&] { offen->Close(); });
     });
 }

@@ -9,7 +9,6 @@
 #include "Screens.h"
 #include "SeqData.h"
 #include "Session.h"
-#include "Uebersicht.h"
 #include "WordProcessor.h"
 #include "modKontakt.h"
 
@@ -81,7 +80,6 @@ void schreibeKategorie(CsvDatei& datei, DataTable& uebersicht, int zeile) {
     Database& datenbank = session().AktDatenbank;
     Recordset kontakte = datenbank.OpenRecordset(datenabfrage(kategorie), dbOpenDynaset);
     Recordset zaehlung = datenbank.OpenRecordset(anzahlabfrage(kategorie), dbOpenDynaset);
-    const Uebersicht::ImKind kind(zeile);
     if (zaehlung.RecordCount() != 1) return;
     if (hatGezaehlt(zaehlung.Collect(u"Expr1000"_qs)))
         schreibeKontakte(datei, kontakte, istMitglied(kategorie));

@@ -2,6 +2,7 @@
 
 #include "Conversions.h"
 #include "DataTable.h"
+#include "ErrorTail.h"
 #include "EventGuard.h"
 #include "MsgBox.h"
 #include "Session.h"
@@ -69,6 +70,18 @@ bool stelleOffenenZurueck() {
 int zeileVon(const DataTable* grid, const ValueLabel* nummer, int row) {
     int gefunden = 0;
     return grid->find(0, gefunden, nummer->Caption()) < 0 ? row : gefunden;
+}
+
+bool speichereNeuen(ErrorTail& step, Recordset& satz) {
+    bool gespeichert = false;
+    step([&] {
+        satz.Update();
+        gespeichert = true;
+    });
+    if (!gespeichert) return false;
+    step([&] { satz.Index(u"PrimaryKey"_qs); });
+    step([&] { satz.MoveLast(); });
+    return true;
 }
 
 void MeldeNichtVorhanden() {

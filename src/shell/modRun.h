@@ -5,6 +5,7 @@
 #include <QString>
 
 class DataTable;
+class ErrorTail;
 class QAbstractButton;
 class QCheckBox;
 class TextBox;
@@ -28,6 +29,10 @@ bool stelleOffenenZurueck();
 /// The row of the record whose number stands in the label; `row` if the grid has none. On a screen of two
 /// pages the row that was opened last may be one of the other page's grid.
 int zeileVon(const DataTable* grid, const ValueLabel* nummer, int row);
+
+/// Stores the record that has been added and makes it the current one: the newest number is the highest.
+/// False, after the box, if it could not be stored; the last record is then somebody else's.
+bool speichereNeuen(ErrorTail& step, Recordset& satz);
 
 void MeldeNichtVorhanden();
 void MeldeNichtsGefunden();

@@ -104,10 +104,8 @@ void speichere(const QString& routine, const Art& art) {
         step([&] { satz.AddNew(); });
         step([&] { satz.Collect(art.feldName, art.txtName->Text()); });
         step([&] { satz.Collect(u"Notiz"_qs, art.txtNotiz->Text()); });
-        step([&] { satz.Update(); });
-        step([&] { satz.Index(u"PrimaryKey"_qs); });
-        step([&] { satz.MoveLast(); });
-        step([&] { art.grid->appendRow({satz.Collect(art.feldNr), satz.Collect(art.feldName)}); });
+        if (modRun::speichereNeuen(step, satz))
+            step([&] { art.grid->appendRow({satz.Collect(art.feldNr), satz.Collect(art.feldName)}); });
         BasisAnzeigeLoeschen();
         zeigeAnzahl(art);
         step([&] { satz.Close(); });

@@ -52,7 +52,6 @@ void schreibeFelder(ErrorTail& step, Recordset& plan, const Besatzung& form) {
     step([&] { plan.Collect(u"GNr"_qs, modFangbuch::ErmittleGewaesserNr(form.cboGName->Text())); });
     step([&] { plan.Collect(u"Zeit"_qs, form.txtZeit->Text()); });
     step([&] { plan.Collect(u"Menge"_qs, CDbl(form.txtMenge->Text())); });
-    step([&] { plan.Update(); });
 }
 
 /// Opens the table and seeks the record whose number the form shows. False also when the seek itself failed.
@@ -111,9 +110,7 @@ void SpeicherEintrag() {
         step([&] { plan = oeffne(u"Besatzung"_qs, dbOpenTable); });
         step([&] { plan.AddNew(); });
         schreibeFelder(step, plan, form);
-        step([&] { plan.Index(u"PrimaryKey"_qs); });
-        step([&] { plan.MoveLast(); });
-        step([&] { form.tblBList->appendRow(alsZeile(step, plan)); });
+        if (modRun::speichereNeuen(step, plan)) step([&] { form.tblBList->appendRow(alsZeile(step, plan)); });
         form.tblBList->refresh();
         BesatzAnzeigeLoeschen();
         zeigeAnzahl(form);
@@ -130,6 +127,7 @@ void UpdateEintrag(int row) {
         } else {
             step([&] { plan.Edit(); });
             schreibeFelder(step, plan, form);
+            step([&] { plan.Update(); });
             const std::array<Value, 5> zeile = {form.lblBNr->Caption(), form.cboFArt->Text(),
                                                 form.cboGName->Text(), form.txtZeit->Text(),
                                                 alsGewicht(form.txtMenge->Text())};

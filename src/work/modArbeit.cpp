@@ -34,7 +34,6 @@ void schreibeFelder(ErrorTail& step, Recordset& arbeit, const Arbeit& form) {
     step([&] { arbeit.Collect(u"Datum"_qs, form.pvDate->date()); });
     step([&] { arbeit.Collect(u"ArbStd"_qs, CDbl(form.txtArbStd->Text())); });
     step([&] { arbeit.Collect(u"Notiz"_qs, form.txtArbNotiz->Text()); });
-    step([&] { arbeit.Update(); });
 }
 
 /// Opens the table and seeks the booking whose number the form shows. False also when the seek itself failed:
@@ -100,9 +99,7 @@ void SpeicherStunden() {
         step([&] { arbeit.AddNew(); });
         step([&] { arbeit.Collect(u"knr"_qs, CLng(form.lblKNr->Caption())); });
         schreibeFelder(step, arbeit, form);
-        step([&] { arbeit.Index(u"PrimaryKey"_qs); });
-        step([&] { arbeit.MoveLast(); });
-        haengeAn(step, arbeit, form);
+        if (modRun::speichereNeuen(step, arbeit)) haengeAn(step, arbeit, form);
         zeigeNeueSumme(step, form);
         LeereArbEingabe();
         form.pvDate->setFocus();
@@ -117,6 +114,7 @@ void UpdateStunden(int row) {
         if (findeOffenen(step, arbeit, form)) {
             step([&] { arbeit.Edit(); });
             schreibeFelder(step, arbeit, form);
+            step([&] { arbeit.Update(); });
             zeigeGeaenderten(step, arbeit, form, row);
         } else {
             modRun::MeldeNichtVorhanden();
