@@ -96,9 +96,8 @@ void Benutzer::buildUserEntry() {
     for (TextBox* box : {txtPassw, txtPasswBest}) box->setEchoMode(QLineEdit::Password);
     lblBG = Face::label(u"lblBG"_qs, u"Benutzergruppe:"_qs, Frame2);
     cboBG = new ComboBox(u"cboBG"_qs, ComboBox::Order::AsAdded, ComboBox::Kind::Editable, Frame2);
-    // What is typed counts as it stands: nothing completes it. A long name must not widen the form.
+    // What is typed counts as it stands: nothing completes it.
     cboBG->setCompleter(nullptr);
-    cboBG->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     cboBG->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 
     constexpr int secondColumn = 3;
@@ -179,22 +178,22 @@ void Benutzer::addRights(QGridLayout* form, int row) {
 void Benutzer::buildGroupGrid() {
     Frame1 = Face::frame(u"Frame1"_qs, u"Zugriff"_qs, nullptr);
     tblZugriff = new DataTable(u"tblZugriff"_qs, Frame1);
-    QVector<GridColumn> columns = {{u"Gruppen-Nr."_qs, 96, true}, {u"Gruppe \\ Forms"_qs, 240}};
+    QVector<GridColumn> columns = {{u"Gruppen-Nr."_qs, 84, true}, {u"Gruppe \\ Forms"_qs, 150, false, 128}};
     const auto addRight = [&](const QString& head, int width) {
         GridColumn column{head, width};
         column.fixed = true;
         columns.append(column);
     };
-    addRight(u"Fangbuch"_qs, 80);
-    addRight(u"Fangauswertg."_qs, 112);
-    addRight(u"Kontakt-Übers."_qs, 112);
-    addRight(u"Kontakt-Liste"_qs, 104);
-    addRight(u"Kontakt"_qs, 72);
-    addRight(u"Arbeitscontrolling"_qs, 136);
-    addRight(u"Besatz.-Liste"_qs, 104);
-    addRight(u"Basisdaten"_qs, 88);
-    addRight(u"Benutzerverwltg."_qs, 128);
-    addRight(u"Systempar."_qs, 96);
+    addRight(u"Fangbuch"_qs, 72);
+    addRight(u"Fangauswertg."_qs, 100);
+    addRight(u"Kontakt-Übers."_qs, 104);
+    addRight(u"Kontakt-Liste"_qs, 92);
+    addRight(u"Kontakt"_qs, 60);
+    addRight(u"Arbeitscontrolling"_qs, 116);
+    addRight(u"Besatz.-Liste"_qs, 92);
+    addRight(u"Basisdaten"_qs, 80);
+    addRight(u"Benutzerverwltg."_qs, 112);
+    addRight(u"Systempar."_qs, 84);
     tblZugriff->setColumns(columns);
     Label1 = Face::label(u"Label1"_qs, u"Anzahl:"_qs, Frame1);
     lblGAnzahl = new ValueLabel(u"lblGAnzahl"_qs, Frame1);

@@ -187,10 +187,10 @@ void MitglList::buildGrid() {
                           {u"Nachname"_qs, 104},
                           {u"Vorname"_qs, 96},
                           {u"Straße"_qs, 140},
-                          {u"PLZ"_qs, 52},
+                          {.head = u"PLZ"_qs, .width = 52, .fixed = true},
                           {u"Ort"_qs, 104},
                           {u"Tel. [privat]"_qs, 116},
-                          {u"Geb.-Datum"_qs, 96},
+                          {.head = u"Geb.-Datum"_qs, .width = 92, .fixed = true},
                           {u"Pfl.-Std."_qs, 96, true},
                           {u"Gel. Arb-Std."_qs, 104, true},
                           {u"Soll/Haben"_qs, 96, true}});

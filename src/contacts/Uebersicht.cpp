@@ -66,14 +66,14 @@ void schreibeMarke(int row, const QString& name, qint32 anzahl, Abstand abstand)
 
 void SetzeKontaktSpalten() {
     grid().setChildColumns({{u"Kontakt.-Nr"_qs, 80, true},
-                            {QString(), 24, false, 24, true},
+                            {QString(), 16, false, 16, true},
                             {u"Firma"_qs, 153, false, 50},
                             {u"Anrede"_qs, 67, false, 50},
                             {u"Nachname"_qs, 100, false, 50},
                             {u"Vorname"_qs, 100, false, 50},
-                            {u"Tel (priv.)"_qs, 100, false, 30},
+                            {.head = u"Tel (priv.)"_qs, .width = 100, .minimumWidth = 30, .fixed = true},
                             {u"Fax (geschftl.)"_qs, 100, false, 30},
-                            {.head = u"Geb-Datum"_qs, .width = 88, .minimumWidth = 30, .fixed = true},
+                            {.head = u"Geb-Datum"_qs, .width = 100, .minimumWidth = 30, .fixed = true},
                             {u"EMail"_qs, 132, false, 30}},
                            spalteName);
 }

@@ -2,8 +2,11 @@
 
 #include "RuntimeError.h"
 
+#include <QAbstractItemView>
 #include <QCollator>
+#include <QScreen>
 #include <QWheelEvent>
+#include <algorithm>
 
 namespace {
 
@@ -66,6 +69,23 @@ void ComboBox::setListIndex(int index) {
     if (index == currentIndex()) return;
     setCurrentIndex(index);
     Q_EMIT Click();
+}
+
+QSize ComboBox::bounded(QSize hint) const {
+    constexpr int longest = 28;
+    const QSize widest(longest * fontMetrics().averageCharWidth(), QWIDGETSIZE_MAX);
+    return hint.boundedTo(widest);
+}
+
+QSize ComboBox::sizeHint() const { return bounded(QComboBox::sizeHint()); }
+
+QSize ComboBox::minimumSizeHint() const { return bounded(QComboBox::minimumSizeHint()); }
+
+void ComboBox::showPopup() {
+    const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, view());
+    const int room = screen()->availableGeometry().width() - 2 * scrollBar;
+    view()->setMinimumWidth(std::min(view()->sizeHintForColumn(0) + 2 * scrollBar, room));
+    QComboBox::showPopup();
 }
 
 // Rolling a screen must not change the fields that pass under the pointer.

@@ -29,6 +29,12 @@ public:
     /// -1 selects none; error 380 beyond the list.
     void setListIndex(int index);
 
+    /// As its widest entry, but a single long name does not widen the screen for all.
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+    /// The list hangs open as wide as its entries need, up to the room on the desktop.
+    void showPopup() override;
+
 Q_SIGNALS:
     void Click();
 
@@ -38,6 +44,7 @@ protected:
 private:
     int placeFor(const QString& text) const;
     int indexOf(const QString& text) const;
+    QSize bounded(QSize hint) const;
 
     Order m_order;
 };

@@ -274,15 +274,24 @@ void DataTable::fitColumns() {
         heads->resizeSection(column, m_widths[column]);
         room -= m_widths[column];
     }
-    int wanted = 0;
+    shareOut(room);
+}
+
+// What is left goes to the wide ones most; what lacks comes from those that have most to give.
+void DataTable::shareOut(int room) {
     const QVector<int> elastic = elasticColumns();
-    for (const int column : elastic) wanted += m_widths[column];
+    const auto narrowest = [&](int column) {
+        return std::min(m_widths[column], m_model->shownColumns()[column].narrowest());
+    };
+    const bool lacks = room < 0;
+    const auto weight = [&](int column) { return m_widths[column] - (lacks ? narrowest(column) : 0); };
+    int weights = 0;
+    for (const int column : elastic) weights += weight(column);
     for (const int column : elastic) {
-        const int share = room * m_widths[column] / std::max(wanted, 1);
-        const int narrowest = m_widths[column] * 2 / 3;
-        heads->resizeSection(column, std::max(m_widths[column] + share, narrowest));
+        const int share = room * weight(column) / std::max(weights, 1);
+        header()->resizeSection(column, std::max(m_widths[column] + share, narrowest(column)));
         room -= share;
-        wanted -= m_widths[column];
+        weights -= weight(column);
     }
 }
 

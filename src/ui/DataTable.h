@@ -162,6 +162,7 @@ private:
     /// Columns of texts share what room is left or lacking; numbers keep their width.
     QVector<int> elasticColumns() const;
     void fitColumns();
+    void shareOut(int room);
     QModelIndex lastIndex() const;
     QRect spaceBelowRows() const;
 

@@ -3,14 +3,19 @@
 #include <QString>
 
 /// A column of a grid. `width` is in pixels at 100 %, 0 hides the column; columns of texts share what room is
-/// left, or give up to a third where it lacks.
+/// left. Where it lacks they give up to a third, or all down to the minimum that is told for them.
 struct GridColumn {
+    static constexpr int usualMinimum = 24;
+
     QString head;
     int width = 100;
     bool numeric = false; ///< right-aligned
-    int minimumWidth = 24;
+    int minimumWidth = usualMinimum;
     bool picture = false; ///< the cell holds the path of a picture
     bool fixed = false;   ///< its texts are all of one length, such as dates: it gives and takes no room
+
+    /// As narrow as the grid makes it of its own accord.
+    int narrowest() const { return minimumWidth == usualMinimum ? width * 2 / 3 : minimumWidth; }
 
     friend bool operator==(const GridColumn&, const GridColumn&) = default;
 };

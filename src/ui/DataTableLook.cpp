@@ -89,7 +89,7 @@ void expandMark(QPainter& painter, const QRect& gutter, bool open, const QColor&
 }
 
 void picture(QPainter& painter, const QRect& cell, const QString& path) {
-    const QRect room = cell.adjusted(2, 2, -2, -2);
+    const QRect room = cell.adjusted(0, 2, 0, -2);
     if (path.trimmed().isEmpty() || room.isEmpty()) return;
     const QPixmap picture = loadedPicture(path, room.size(), painter.device()->devicePixelRatioF());
     if (picture.isNull()) return;

@@ -30,6 +30,7 @@ Handbuch::Handbuch()
     standAlone();
     buildToolbar();
     Seite->setObjectName(u"Seite"_qs);
+    Seite->setMinimumSize(420, 300);
     Seite->setAccessibleName(u"Seite des Handbuchs"_qs);
     auto* whole = new QVBoxLayout(this);
     whole->setContentsMargins(0, 0, 0, 0);

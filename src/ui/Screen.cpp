@@ -12,6 +12,7 @@
 #include <QPaintEvent>
 #include <QPushButton>
 #include <QScreen>
+#include <QToolButton>
 
 namespace {
 
@@ -158,9 +159,10 @@ void Screen::childEvent(QChildEvent* event) {
 
 // Outside dialogs the toolkit's buttons take the space bar only.
 void Screen::keyPressEvent(QKeyEvent* event) {
-    auto* button = qobject_cast<QPushButton*>(focusWidget());
+    auto* button = qobject_cast<QAbstractButton*>(focusWidget());
+    const bool takesEnter = qobject_cast<QPushButton*>(button) || qobject_cast<QToolButton*>(button);
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (enter && button && button->isEnabled())
+    if (enter && takesEnter && button->isEnabled())
         button->click();
     else
         QWidget::keyPressEvent(event);

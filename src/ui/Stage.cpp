@@ -1,6 +1,7 @@
 #include "Stage.h"
 
 #include "Screen.h"
+#include "Toolbar.h"
 
 #include <QTabBar>
 #include <QTabWidget>
@@ -9,10 +10,11 @@ namespace {
 
 Stage* stageInForce = nullptr;
 
-// Tabs can have the focus, but what a user comes for is the first field on the page.
+// Tabs and toolbar keys can have the focus, but what a user comes for is the first field on the page.
 bool takesFocus(const QWidget* control, const Screen* screen) {
     const bool isTabs = qobject_cast<const QTabBar*>(control) || qobject_cast<const QTabWidget*>(control);
-    return !isTabs && (control->focusPolicy() & Qt::TabFocus) && control->isEnabled() &&
+    const bool isKey = qobject_cast<const Toolbar*>(control->parentWidget());
+    return !isTabs && !isKey && (control->focusPolicy() & Qt::TabFocus) && control->isEnabled() &&
            control->isVisibleTo(screen) && screen->isAncestorOf(control);
 }
 
@@ -117,9 +119,10 @@ void Stage::setActive(bool on) {
     settle();
 }
 
-// The frame grows with the screen that needs the most room instead of squeezing its controls.
+// The frame grows with the screen that needs the most room instead of squeezing its controls, and keeps room
+// for some rows in the grids of the others.
 QSize Stage::minimumSizeHint() const {
-    QSize room;
+    QSize room(640, 420);
     for (const QPointer<Screen>& screen : m_order) {
         if (screen) room = room.expandedTo(screen->minimumSizeHint());
     }

@@ -37,6 +37,13 @@ TextBox::TextBox(const QString& name, QWidget* parent)
     connect(this, &QLineEdit::textEdited, this, &TextBox::joinLines);
 }
 
+QSize TextBox::minimumSizeHint() const {
+    constexpr int characters = 8;
+    const QSize room = QLineEdit::minimumSizeHint();
+    const int more = std::min(characters, maxLength()) - 1;
+    return {room.width() + more * fontMetrics().horizontalAdvance(u'0'), room.height()};
+}
+
 // A text pasted from elsewhere may end in a line break, which one line cannot show and nobody means to keep.
 void TextBox::joinLines(const QString& pasted) {
     if (!pasted.contains(u'\n') && !pasted.contains(u'\r')) return;

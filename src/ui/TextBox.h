@@ -22,6 +22,8 @@ public:
     void setLimit(int characters) { setMaxLength(characters); }
     void setKeyFilter(KeyFilter filter) { m_filter = std::move(filter); }
     void setSelectAllOnFocus(bool on) { m_selectAllOnFocus = on; }
+    /// Room for eight characters, or for all where fewer are let in.
+    QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
     /// A key that makes a character (or Backspace or Enter) was pressed, whether or not the filter lets it

@@ -53,7 +53,7 @@ QToolButton* Toolbar::addKey(const QString& key, const QString& caption, const Q
     const bool letterTaken = hasShortcut(QKeySequence::mnemonic(caption));
     auto* button = new QToolButton(this);
     button->setObjectName(key);
-    button->setText(letterTaken ? QString(caption).remove(u'&') : caption);
+    setCaption(button, letterTaken ? QString(caption).remove(u'&') : caption);
     button->setToolTip(tip);
     button->setAccessibleName(QString(caption).remove(u'&'));
     button->setAccessibleDescription(tip);
@@ -61,8 +61,6 @@ QToolButton* Toolbar::addKey(const QString& key, const QString& caption, const Q
     button->setIconSize({iconEdge, iconEdge});
     button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     button->setAutoRaise(true);
-    // A press must leave the focus with the field being filled in.
-    button->setFocusPolicy(Qt::NoFocus);
     connect(button, &QToolButton::clicked, this, [this, key] { Q_EMIT ButtonClick(key); });
     m_row->insertWidget(m_row->count() - 1, button);
     return button;
@@ -70,7 +68,12 @@ QToolButton* Toolbar::addKey(const QString& key, const QString& caption, const Q
 
 void Toolbar::yieldLetters(const QVector<QKeySequence>& letters) {
     for (QToolButton* key : findChildren<QToolButton*>())
-        if (letters.contains(key->shortcut())) key->setText(key->text().remove(u'&'));
+        if (letters.contains(key->shortcut())) setCaption(key, key->text().remove(u'&'));
+}
+
+void Toolbar::setCaption(QToolButton* key, const QString& caption) {
+    key->setText(caption);
+    key->setFocusPolicy(key->shortcut().isEmpty() ? Qt::TabFocus : Qt::NoFocus);
 }
 
 void Toolbar::addSeparator() { m_row->insertWidget(m_row->count() - 1, new Separator(this)); }

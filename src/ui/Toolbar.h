@@ -7,7 +7,8 @@ class QKeySequence;
 class QToolButton;
 class QHBoxLayout;
 
-/// The toolbar of a screen: keys with icon and caption, told apart by their key.
+/// The toolbar of a screen: keys with icon and caption, told apart by their key. A press leaves the focus
+/// with the field being filled in. Keys without a letter are reached with Tab.
 class Toolbar : public QWidget {
     Q_OBJECT
 
@@ -27,6 +28,7 @@ Q_SIGNALS:
 
 private:
     bool hasShortcut(const QKeySequence& shortcut) const;
+    static void setCaption(QToolButton* key, const QString& caption);
 
     QHBoxLayout* m_row;
 };

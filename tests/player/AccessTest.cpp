@@ -67,6 +67,10 @@ void expectAccess(Screen& screen) {
         for (const QAction* menu : ::screen<Main>().menuBar->actions())
             take(QKeySequence::mnemonic(menu->text()), menu->text());
     for (QWidget* widget : screen.findChildren<QWidget*>()) {
+        const auto* key = qobject_cast<QToolButton*>(widget);
+        const bool outOfReach = key && key->shortcut().isEmpty() && !(key->focusPolicy() & Qt::TabFocus);
+        EXPECT_FALSE(outOfReach) << screen.objectName().toStdString() << "."
+                                 << widget->objectName().toStdString();
         take(letterOf(widget), widget->objectName());
         const bool isNameless = isControl(widget) && nameOf(widget).isEmpty();
         EXPECT_FALSE(isNameless) << screen.objectName().toStdString() << "."
