@@ -71,7 +71,7 @@ void SetzeKontaktSpalten() {
                             {u"Anrede"_qs, 67, false, 50},
                             {u"Nachname"_qs, 100, false, 50},
                             {u"Vorname"_qs, 100, false, 50},
-                            {.head = u"Tel (priv.)"_qs, .width = 100, .minimumWidth = 30, .fixed = true},
+                            {.head = u"Tel (priv.)"_qs, .width = 100, .minimumWidth = 30, .firm = true},
                             {u"Fax (geschftl.)"_qs, 100, false, 30},
                             {.head = u"Geb-Datum"_qs, .width = 100, .minimumWidth = 30, .fixed = true},
                             {u"EMail"_qs, 132, false, 30}},

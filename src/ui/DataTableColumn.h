@@ -13,9 +13,13 @@ struct GridColumn {
     int minimumWidth = usualMinimum;
     bool picture = false; ///< the cell holds the path of a picture
     bool fixed = false;   ///< its texts are all of one length, such as dates: it gives and takes no room
+    bool firm = false;    ///< such as telephone numbers: it takes room but gives none
 
     /// As narrow as the grid makes it of its own accord.
-    int narrowest() const { return minimumWidth == usualMinimum ? width * 2 / 3 : minimumWidth; }
+    int narrowest() const {
+        if (firm) return width;
+        return minimumWidth == usualMinimum ? width * 2 / 3 : minimumWidth;
+    }
 
     friend bool operator==(const GridColumn&, const GridColumn&) = default;
 };

@@ -12,6 +12,7 @@
 #include <QPainter>
 #include <QStyleFactory>
 #include <QStyleOption>
+#include <QToolButton>
 
 namespace {
 
@@ -62,6 +63,13 @@ QRect scrollPart(const QStyleOptionSlider* bar, QStyle::SubControl part) {
     default:
         return {};
     }
+}
+
+// Around a toolbar key as a whole; the toolkit's place for it runs through the icon.
+void drawFocus(const QStyleOption* option, QPainter* painter, const QWidget* widget) {
+    QStyleOption place = *option;
+    if (qobject_cast<const QToolButton*>(widget)) place.rect = widget->rect().adjusted(1, 1, -1, -1);
+    HousePaint::focusRing(&place, painter);
 }
 
 QRect contentsOfGroup(const QStyleOptionComplex* option) {
@@ -160,7 +168,7 @@ void HouseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
     case PE_PanelButtonTool:
         return HousePaint::toolButton(option, painter);
     case PE_FrameFocusRect:
-        return HousePaint::focusRing(option, painter);
+        return drawFocus(option, painter, widget);
     case PE_IndicatorCheckBox:
         return HousePaint::checkBox(option, painter);
     case PE_IndicatorRadioButton:
@@ -179,12 +187,23 @@ void HouseStyle::drawControl(ControlElement element, const QStyleOption* option,
                              const QWidget* widget) const {
     if (const auto* tab = as<QStyleOptionTab>(option); tab && element == CE_TabBarTabShape)
         return HousePaint::tab(tab, painter);
+    const auto* combo = as<QStyleOptionComboBox>(option);
+    if (combo && element == CE_ComboBoxLabel && !combo->editable) return drawEntry(combo, painter, widget);
     if (const auto* bar = as<QStyleOptionProgressBar>(option)) {
         if (element == CE_ProgressBarGroove) return HousePaint::progressGroove(option, painter);
         if (element == CE_ProgressBarContents) return drawProgress(bar, painter);
         if (element == CE_ProgressBarLabel) return drawProgressLabel(bar, painter);
     }
     QProxyStyle::drawControl(element, option, painter, widget);
+}
+
+// The toolkit would cut an entry that is too long in the middle of a letter.
+void HouseStyle::drawEntry(const QStyleOptionComboBox* option, QPainter* painter,
+                           const QWidget* widget) const {
+    QStyleOptionComboBox shown = *option;
+    const int room = subControlRect(CC_ComboBox, option, SC_ComboBoxEditField, widget).width() - 2;
+    shown.currentText = option->fontMetrics.elidedText(option->currentText, Qt::ElideRight, room);
+    QProxyStyle::drawControl(CE_ComboBoxLabel, &shown, painter, widget);
 }
 
 void HouseStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,

@@ -2,6 +2,8 @@
 
 #include <QProxyStyle>
 
+class QStyleOptionComboBox;
+
 /// The flat look of the program's controls: rounded fields, one accent ring for the focus, slim scroll bars.
 /// What it does not draw itself is left to the style below it.
 class HouseStyle : public QProxyStyle {
@@ -33,6 +35,7 @@ public:
                   QStyleHintReturn* answer = nullptr) const override;
 
 private:
+    void drawEntry(const QStyleOptionComboBox* option, QPainter* painter, const QWidget* widget) const;
     void drawGroupBox(const QStyleOptionComplex* option, QPainter* painter, const QWidget* widget) const;
     void drawSpinBox(const QStyleOptionComplex* option, QPainter* painter, const QWidget* widget) const;
     void drawScrollBar(const QStyleOptionComplex* option, QPainter* painter, const QWidget* widget) const;

@@ -110,6 +110,16 @@ TEST_F(ComboBoxTest, TheWheelChangesItOnlyWithTheFocus) {
     EXPECT_EQ(combo.ListIndex(), 1);
 }
 
+TEST_F(ComboBoxTest, ALongEntryWidensTheOpenListButNotTheScreen) {
+    constexpr int room = 250;
+    combo.AddItem(QString(60, u'W'));
+    EXPECT_LT(combo.sizeHint().width(), room);
+    EXPECT_LT(combo.minimumSizeHint().width(), room);
+    combo.resize(combo.sizeHint());
+    combo.showPopup();
+    EXPECT_GT(combo.view()->width(), combo.fontMetrics().horizontalAdvance(combo.itemText(3)));
+}
+
 TEST_F(ComboBoxTest, AnEditableOneTakesAnyText) {
     ComboBox free(u"cboFrei"_qs, ComboBox::Order::AsAdded, ComboBox::Kind::Editable);
     free.setText(u"Wal"_qs);
