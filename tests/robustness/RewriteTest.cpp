@@ -1,39 +1,27 @@
 #include "Connection.h"
 #include "DBEngine.h"
-#include "DyingFileCalls.h"
 #include "FileReplacement.h"
 #include "FullDisk.h"
+#include "KilledRuns.h"
 #include "NewDatabase.h"
 #include "RuntimeError.h"
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
-#include <csignal>
-#include <functional>
 #include <gtest/gtest.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 namespace {
-
-/// The bytes of the key themselves: deriving them from a password would be most of the time of these tests.
-QString key() { return u"x'"_qs + QString(64, u'7') + u'\''; }
 
 QByteArray bytesOf(const QString& path) {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-QString answer(Connection& file, const QByteArray& select) {
-    Statement statement = file.prepare(select);
-    statement.step();
-    return statement.text(0);
-}
-
 /// All rows that the tests put in, as a new opening finds them.
 QString contentOf(const QString& path) {
-    Connection file(path, key(), Connection::Access::ReadWrite);
+    Connection file(path, rawKey(), Connection::Access::ReadWrite);
     EXPECT_EQ(answer(file, "PRAGMA integrity_check"), u"ok");
     return answer(file, "SELECT group_concat(FangNr || ' ' || Notiz || ' ' || Gewicht) FROM Fang") + u'\n' +
            answer(file, "SELECT group_concat(KNr || ' ' || Nachname) FROM Kontakt");
@@ -45,8 +33,6 @@ QString testFolder() {
     return (QDir(memory).exists() ? memory : QDir::tempPath()) + u"/uferwart-XXXXXX"_qs;
 }
 
-void killNow() { ::kill(getpid(), SIGKILL); }
-
 } // namespace
 
 /// A file that is rewritten through the work file in processes that may not live to see its end.
@@ -56,8 +42,8 @@ class RewriteTest : public ::testing::Test {
 protected:
     RewriteTest() {
         QDir(m_folder.path()).mkdir(u"temp"_qs);
-        createDatabase(path(), key(), 2005);
-        Connection file(path(), key(), Connection::Access::ReadWrite);
+        createDatabase(path(), rawKey(), 2005);
+        Connection file(path(), rawKey(), Connection::Access::ReadWrite);
         const QByteArray numbers =
             "WITH RECURSIVE n(i) AS (VALUES (1) UNION SELECT i + 1 FROM n WHERE i < 200) ";
         file.execute(numbers + "INSERT INTO Fang(FangJahr, FangMonat, FischNr, GNr, Notiz, Anzahl, Gewicht) "
@@ -77,7 +63,7 @@ protected:
 
     int rewrite(const std::function<void()>& between) const {
         try {
-            DBEngine::CompactDatabase(path(), work(), key());
+            DBEngine::CompactDatabase(path(), work(), rawKey());
             between();
             replaceDatabase(work(), path());
         } catch (const RuntimeError& error) {
@@ -86,24 +72,17 @@ protected:
         return 0;
     }
 
-    enum class End { Done, Failed, Killed };
-
     /// In a process of its own.
     End rewriteAfter(
-        const std::function<void()>& prepare, const std::function<void()>& between = [] {}) {
-        const pid_t child = fork();
-        if (child == 0) {
+        const Preparation& prepare, const std::function<void()>& between = [] {}) const {
+        return inOwnProcess([&] {
             // What a killed process leaves in there goes with the test.
             const QString ownTemporary = m_folder.filePath(QString::number(getpid()));
             QDir().mkdir(ownTemporary);
             qputenv("TMPDIR", ownTemporary.toUtf8());
             prepare();
-            _exit(rewrite(between) == 0 ? 0 : 1);
-        }
-        int status = 0;
-        waitpid(child, &status, 0);
-        if (WIFSIGNALED(status)) return End::Killed;
-        return WEXITSTATUS(status) == 0 ? End::Done : End::Failed;
+            return rewrite(between) == 0;
+        });
     }
 
     /// Remembers the file as it is and its rows as the rewriting leaves them.
@@ -135,19 +114,13 @@ protected:
         restore();
     }
 
-    /// Kills at every call that changes a file, in both ways. Returns how often.
     int killEverywhere() {
-        int kills = 0;
-        for (const Death death : {Death::BeforeCall, Death::InCall})
-            for (int place = 1;; ++place, ++kills) {
-                if (rewriteAfter([=] { dieAtFileCall(place, death); }) == End::Done) {
-                    restore();
-                    break;
-                }
-                requireAWholeFile();
-                if (HasFatalFailure()) return kills;
-            }
-        return kills;
+        const auto run = [&](const Preparation& prepare) {
+            const End end = rewriteAfter(prepare);
+            if (end == End::Done) restore();
+            return end;
+        };
+        return killAtEachFileCall(run, [&] { requireAWholeFile(); });
     }
 
     void fillDiskEverywhere() {
@@ -168,7 +141,7 @@ protected:
 TEST_F(RewriteTest, CompactingKilledAnywhereLeavesTheOldFileOrTheNewOne) {
     learn();
     EXPECT_GE(killEverywhere(), 50);
-    ASSERT_EQ(rewriteAfter([] {}, &killNow), End::Killed);
+    ASSERT_EQ(rewriteAfter([] {}, &killThisProcess), End::Killed);
     EXPECT_EQ(contentOf(work()), m_rows) << "the new file is whole before the old one goes";
     requireAWholeFile();
 }
@@ -191,15 +164,15 @@ TEST_F(RewriteTest, WhatAKilledProcessLeftBesideTheOldFileIsNotTakenForTheNewOne
     learn();
     const QString journal = path() + u"-journal"_qs;
     // A write that was killed before its end leaves the way back.
-    const pid_t child = fork();
-    if (child == 0) {
-        Connection file(path(), key(), Connection::Access::ReadWrite);
+    const auto write = [&] {
+        Connection file(path(), rawKey(), Connection::Access::ReadWrite);
         file.execute("PRAGMA cache_size = 1");
         file.execute("BEGIN");
         file.execute("UPDATE Fang SET Notiz = 'halb'");
-        killNow();
-    }
-    waitpid(child, nullptr, 0);
+        killThisProcess();
+        return true;
+    };
+    ASSERT_EQ(inOwnProcess(write), End::Killed);
     ASSERT_TRUE(QFile::exists(journal));
     ASSERT_TRUE(QFile::copy(journal, journal + u".kopie"_qs));
     ASSERT_EQ(rewriteAfter([] {}, [&] { QFile::copy(journal + u".kopie"_qs, journal); }), End::Done);

@@ -1,7 +1,8 @@
 #include "RandomTexts.h"
 
+#include <QRegularExpression>
 #include <QStringList>
-#include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -28,10 +29,12 @@ QString longText(DemoDice& dice) {
     return u"Länge "_qs.repeated(dice.pick(lengths) / 6 + 1);
 }
 
-bool asksFor(const QString& control, const QStringList& parts) {
-    return std::any_of(parts.begin(), parts.end(),
-                       [&](const QString& part) { return control.contains(part); });
-}
+/// What a control asks for, told by its name.
+const std::pair<const char16_t*, const QStringList*> wishes[] = {
+    {u"FJahr", &years},
+    {u"Geb|[tT]ritt|pvDate", &dates},
+    {u"ArbStd|Menge", &hours},
+    {u"Anz|Gew|PLZ|BLZ|KontoNr|JB|Seite", &numbers}};
 
 } // namespace
 
@@ -44,15 +47,12 @@ QString any(DemoDice& dice) {
 }
 
 QString fitting(DemoDice& dice, const QString& control) {
-    if (asksFor(control, {u"MonNr"_qs})) return QString::number(dice.between(1, 12)).rightJustified(2, u'0');
-    if (asksFor(control, {u"FJahr"_qs})) return oneOf(years, dice);
-    if (asksFor(control, {u"Geb"_qs, u"tritt"_qs, u"Tritt"_qs, u"pvDate"_qs})) return oneOf(dates, dice);
-    if (asksFor(control, {u"ArbStd"_qs, u"Menge"_qs})) return oneOf(hours, dice);
-    if (asksFor(control, {u"Anz"_qs, u"Gew"_qs, u"PLZ"_qs, u"BLZ"_qs, u"KontoNr"_qs, u"JB"_qs, u"Seite"_qs}))
-        return oneOf(numbers, dice);
-    if (asksFor(control, {u"txtSuch"_qs}))
+    if (control.contains(u"MonNr"_qs)) return QString::number(dice.between(1, 12)).rightJustified(2, u'0');
+    for (const auto& [parts, texts] : wishes)
+        if (control.contains(QRegularExpression(QString::fromUtf16(parts)))) return oneOf(*texts, dice);
+    if (control.contains(u"txtSuch"_qs))
         return dice.chance(50) ? u"*"_qs : QString(QChar(u'a' + dice.below(26)));
-    if (asksFor(control, {u"Passw"_qs}) && dice.chance(80)) return {};
+    if (control.contains(u"Passw"_qs) && dice.chance(80)) return {};
     // Mostly a name of its own.
     return oneOf(names, dice) + (dice.chance(80) ? u" %1"_qs.arg(dice.below(1000)) : QString());
 }

@@ -1,25 +1,32 @@
-#include "DyingFileCalls.h"
+#include "KilledRuns.h"
+
+#include "Connection.h"
 
 #include <algorithm>
 #include <csignal>
+#include <gtest/gtest.h>
 #include <sqlite3.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 namespace {
+
+enum class Death {
+    BeforeCall,
+    InCall, ///< a write has brought half of its bytes, another call all it does
+};
 
 int callsLeft = 0;
 Death kind = Death::BeforeCall;
 
 bool isLast() { return --callsLeft == 0; }
 
-void die() { ::kill(getpid(), SIGKILL); }
-
 /// The call with its end in it; `part` is as much of the call as is done before a death in its midst.
 template<typename Call, typename Part>
 auto mortal(Call call, Part part) {
     if (!isLast()) return call();
     if (kind == Death::InCall) part();
-    die();
+    killThisProcess();
     return call();
 }
 
@@ -48,8 +55,7 @@ void replaceCall(const char* name, Function* function) {
     files->xSetSystemCall(files, name, reinterpret_cast<sqlite3_syscall_ptr>(function));
 }
 
-} // namespace
-
+/// From here on the process kills itself at its `place`th such call, counted from 1.
 void dieAtFileCall(int place, Death death) {
     callsLeft = place;
     kind = death;
@@ -58,4 +64,35 @@ void dieAtFileCall(int place, Death death) {
     replaceCall("pwrite64", &mortalPwrite);
     replaceCall("ftruncate", &mortalTruncate);
     replaceCall("unlink", &mortalUnlink);
+}
+
+} // namespace
+
+QString rawKey() { return u"x'"_qs + QString(64, u'7') + u'\''; }
+
+QString answer(Connection& file, const QByteArray& select) {
+    Statement statement = file.prepare(select);
+    statement.step();
+    return statement.text(0);
+}
+
+End inOwnProcess(const std::function<bool()>& work) {
+    const pid_t child = fork();
+    if (child == 0) _exit(work() ? 0 : 1);
+    int status = 0;
+    waitpid(child, &status, 0);
+    if (WIFSIGNALED(status)) return End::Killed;
+    return WEXITSTATUS(status) == 0 ? End::Done : End::Failed;
+}
+
+void killThisProcess() { ::kill(getpid(), SIGKILL); }
+
+int killAtEachFileCall(const PreparedRun& run, const std::function<void()>& look) {
+    int kills = 0;
+    for (const Death death : {Death::BeforeCall, Death::InCall})
+        for (int place = 1; run([=] { dieAtFileCall(place, death); }) != End::Done; ++place, ++kills) {
+            look();
+            if (::testing::Test::HasFatalFailure()) return kills;
+        }
+    return kills;
 }
