@@ -1,11 +1,9 @@
 #include "Spreadsheet.h"
 
-#include "CodePage.h"
 #include "CsvDatei.h"
 #include "LibreOfficeCalc.h"
 #include "MsgBox.h"
 #include "RuntimeError.h"
-#include "SeqData.h"
 #include "Session.h"
 #include "modFAuswert.h"
 
@@ -108,16 +106,6 @@ TEST_F(StarteExcelFang, SaysSoWhenThereIsNone) {
     EXPECT_EQ(program.steps, QStringList{u"running"_qs});
 }
 
-TEST(SeqDataPath, IsThatOfTheFileInWhateverCapitals) {
-    QTemporaryDir folder;
-    QDir(folder.path()).mkdir(u"SeqData"_qs);
-    beginSession(folder.path());
-    EXPECT_TRUE(SeqData::path(u"Fang.csv"_qs).endsWith(u"/SeqData/Fang.csv"_qs));
-    QFile there(folder.filePath(u"SeqData/FANG.CSV"_qs));
-    ASSERT_TRUE(there.open(QIODevice::WriteOnly));
-    EXPECT_TRUE(SeqData::path(u"Fang.csv"_qs).endsWith(u"/SeqData/FANG.CSV"_qs));
-}
-
 int errorOf(const std::function<void()>& attempt) {
     try {
         attempt();
@@ -156,24 +144,6 @@ TEST(CsvDatei, LeavesAFileAloneThatARunningOfficeHolds) {
     const int error = errorOf([&] { CsvDatei(folder.filePath(u"FANG.csv"_qs)); });
     if (error != 0 && QProcess::execute(u"pgrep"_qs, {u"-x"_qs, u"soffice.bin"_qs}) == 0) GTEST_SKIP();
     EXPECT_EQ(error, 0);
-}
-
-TEST(CsvDatei, CutsFillsAndTrimsItsFields) {
-    QTemporaryDir folder;
-    const QString path = folder.filePath(u"FANG.csv"_qs);
-    CsvDatei file(path);
-    file.writeField(Value(12), 5, CsvDatei::Fill::Padded);
-    file.writeField(Value(-123456), 5);
-    file.writeField(Value(u"Rotauge   "_qs), 50);
-    file.writeField(Value(u"ÄÖÜß €"_qs), 4);
-    file.writeField(Value(u"千€"_qs), 5);
-    file.writeField(Value(2.5), 5);
-    file.writeField(Value(), 5);
-    file.endLine();
-    file.close();
-    QFile written(path);
-    ASSERT_TRUE(written.open(QIODevice::ReadOnly));
-    EXPECT_EQ(fromWindows1252(written.readAll()), u"12   ;-1234;Rotauge;ÄÖÜß;?€;2,5;;\r\n"_qs);
 }
 
 /// What the office makes of the file: read with the very filter that opens it for the user.

@@ -7,18 +7,9 @@
 #include "Screens.h"
 #include "Session.h"
 
-#include <QFile>
 #include <QTemporaryDir>
 
-/// The fields of a contact that the serial letter shows; the rest is empty texts.
-struct Person {
-    qint32 KategoNr;
-    QString Firma, Anrede, Nachname, Vorname, Strasse, PLZ, Ort;
-    Value GebDatum = Date{};
-    Value Eintritt = {}; ///< Null: no row in Mitglied
-};
-
-/// A program folder with contacts and their overview, as far as the serial letter looks at them.
+/// A program folder and the overview of its contacts, as far as the serial letter looks at them.
 class Club {
 public:
     Club() {
@@ -34,42 +25,6 @@ public:
     }
 
     static DataTable& overview() { return *screen<KontaktUebers>().tblKUebers; }
-    static void show(const Value& kategonr, const QString& mark) {
-        overview().appendRow({kategonr, mark, u"Name"_qs});
-    }
-
-    static void add(const Person& person) {
-        Recordset kontakt = session().AktDatenbank.OpenRecordset(u"Kontakt"_qs, dbOpenTable);
-        kontakt.AddNew();
-        kontakt.Collect(u"KategoNr"_qs, person.KategoNr);
-        kontakt.Collect(u"Firma"_qs, person.Firma.isNull() ? Value() : person.Firma);
-        kontakt.Collect(u"Anrede"_qs, person.Anrede);
-        kontakt.Collect(u"Nachname"_qs, person.Nachname);
-        kontakt.Collect(u"Vorname"_qs, person.Vorname);
-        kontakt.Collect(u"Strasse"_qs, person.Strasse);
-        kontakt.Collect(u"PLZ"_qs, person.PLZ);
-        kontakt.Collect(u"Ort"_qs, person.Ort);
-        kontakt.Collect(u"Tel1"_qs, u"0351/1 "_qs);
-        kontakt.Collect(u"Tel2"_qs, u"2"_qs);
-        kontakt.Collect(u"Fax"_qs, u"3"_qs);
-        kontakt.Collect(u"Mobil"_qs, u"4"_qs);
-        kontakt.Collect(u"EMail"_qs, u"@"_qs);
-        kontakt.Collect(u"GebDatum"_qs, person.GebDatum);
-        kontakt.Update();
-        if (person.Eintritt.isNull()) return;
-        kontakt.Index(u"PrimaryKey"_qs);
-        kontakt.MoveLast();
-        Recordset mitglied = session().AktDatenbank.OpenRecordset(u"Mitglied"_qs, dbOpenTable);
-        mitglied.AddNew();
-        mitglied.Collect(u"KNr"_qs, kontakt.Collect(u"KNr"_qs));
-        mitglied.Collect(u"Eintritt"_qs, person.Eintritt);
-        mitglied.Update();
-    }
-
-    QByteArray seri() const {
-        QFile file(folder.filePath(u"SeqData/SERI.txt"_qs));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("not there");
-    }
 
     QTemporaryDir folder;
 };
