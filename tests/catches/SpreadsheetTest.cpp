@@ -125,6 +125,10 @@ TEST(CsvDatei, FailsLoudlyAndKeepsWhatIsThereWhenItCannotBegin) {
                   full.close();
               }),
               61);
+    // Unclosed because of an error, which the caller tells.
+    const QString path = folder.filePath(u"FANG.csv"_qs);
+    CsvDatei(path).writeText(u"Hecht", 50);
+    EXPECT_EQ(QFileInfo(path).size(), 6);
 }
 
 TEST(CsvDatei, LeavesAFileAloneThatARunningOfficeHolds) {
