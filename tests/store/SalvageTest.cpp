@@ -135,13 +135,3 @@ TEST_F(SalvageTest, LetsSomebodyInWhateverIsLost) {
     EXPECT_EQ(rowsOf(*copy, u"SELECT KNr, Eintritt FROM Mitglied"_qs).count(u"00:00:00"), 0);
     EXPECT_EQ(rowsOf(*copy, u"SELECT COUNT(KNr) FROM Mitglied"_qs), u"3");
 }
-
-TEST_F(SalvageTest, TellsADamagedFirstPageFromAWrongPassword) {
-    flip(1);
-    EXPECT_EQ(errorOf([&] { connectTo(path()); }), 3343);
-    EXPECT_EQ(errorOf([&] { DBEngine::CompactDatabase(path(), target(), u";pwd=falsch"_qs); }), 3031);
-    overwrite(0, "salt");
-    EXPECT_EQ(errorOf([&] { connectTo(path()); }), 3031) << "without the salt there is no key";
-    EXPECT_EQ(repair(), 3031);
-    EXPECT_FALSE(QFile::exists(target()));
-}

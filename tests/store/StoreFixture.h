@@ -2,8 +2,8 @@
 
 #include "Connection.h"
 #include "DBEngine.h"
+#include "ErrorOf.h"
 #include "NewDatabase.h"
-#include "RuntimeError.h"
 
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -39,18 +39,6 @@ protected:
 };
 
 QString shown(const Value& value);
-
-/// The number of the error that a statement ends with, 0 if it ends well.
-template<typename Statement>
-int errorOf(Statement statement) {
-    try {
-        statement();
-    } catch (const RuntimeError& error) {
-        EXPECT_FALSE(error.description.isEmpty());
-        return error.number;
-    }
-    return 0;
-}
 
 // What GoogleTest shows of a text that is not as expected.
 inline void PrintTo(const QString& text, std::ostream* stream) { *stream << text.toStdString(); }

@@ -17,17 +17,6 @@ protected:
     }
 };
 
-TEST_F(WritingTest, ReadsBackANewKeyAtTheLastRow) {
-    Recordset fish = table(u"Fisch");
-    fish.Index(u"PrimaryKey"_qs);
-    addFish(fish, u"Aal"_qs);
-    EXPECT_EQ(fish.Fields(u"FNr"_qs).Value(), Value(1)) << "the current row is the one from before";
-    fish.MoveLast();
-    EXPECT_EQ(fish.Fields(u"FNr"_qs).Value(), Value(5));
-    EXPECT_EQ(fish.Fields(u"FName"_qs).Value(), Value(u"Aal"));
-    EXPECT_TRUE(fish.Fields(u"Notiz"_qs).Value().isNull());
-}
-
 TEST_F(WritingTest, NeverGivesANumberOutTwice) {
     Recordset last = seek(u"Fisch", 4);
     last.Delete();
@@ -86,16 +75,6 @@ TEST_F(WritingTest, GivesTextsBackSignForSign) {
     fish.Update();
     EXPECT_EQ(rows(u"SELECT FName FROM Fisch WHERE FName = '"_qs + half + u"x'"_qs), u"\ufffdx");
     EXPECT_EQ(rows(u"SELECT FNr FROM Fisch WHERE FName = '\ufeffHecht'"_qs), u"6") << "not Hecht alone";
-}
-
-TEST_F(WritingTest, KeepsAFieldThatRefusedItsValue) {
-    Recordset entry = seek(u"Fang", 1);
-    entry.Edit();
-    EXPECT_EQ(errorOf([&] { entry.Collect(u"Anzahl"_qs, Value(u"viele")); }), 13);
-    entry.Collect(u"Gewicht"_qs, 99);
-    entry.Update();
-    entry.Close();
-    EXPECT_EQ(rowsInFile(u"SELECT Anzahl, Gewicht, Notiz FROM Fang WHERE FangNr = 1"_qs), u"3|99|früh");
 }
 
 TEST_F(WritingTest, FillsFieldsThatWereNotSet) {

@@ -1,5 +1,5 @@
 #include "ComboBox.h"
-#include "RuntimeError.h"
+#include "ErrorOf.h"
 
 #include <QAbstractItemView>
 #include <QTest>
@@ -60,14 +60,6 @@ TEST_F(ComboBoxTest, AChangeByProgramClicksOnce) {
 
 TEST_F(ComboBoxTest, AnUnknownTextOrIndexIsAnError) {
     combo.setListIndex(0);
-    const auto errorOf = [](const std::function<void()>& statement) {
-        try {
-            statement();
-        } catch (const RuntimeError& error) {
-            return error.number;
-        }
-        return 0;
-    };
     EXPECT_EQ(errorOf([&] { combo.setText(u"Wal"_qs); }), 383);
     EXPECT_EQ(errorOf([&] { combo.setListIndex(3); }), 380);
     EXPECT_EQ(combo.Text(), u"Hecht"_qs);

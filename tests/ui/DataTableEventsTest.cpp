@@ -187,22 +187,6 @@ TEST_F(DataTableEventsTest, AHandlerMayDestroyTheGrid) {
     EXPECT_EQ(m_grid, nullptr);
 }
 
-TEST_F(DataTableEventsTest, TheRowHeaderOfACategoryFoldsItAfterTheHandlerHasFilledIt) {
-    showTwoLevels();
-    QObject::connect(m_grid, &DataTable::OnGridCellDown, m_grid, [this](int row, int) {
-        const TableHandle parent = m_grid->enterChild(row);
-        m_grid->clearRows();
-        for (int child = 0; child < 3; ++child) m_grid->appendRow({child, u"Name"});
-        m_grid->enter(parent);
-    });
-    press(0, DataTable::rowHeaderColumn);
-    EXPECT_TRUE(isOpen(0));
-    EXPECT_EQ(m_grid->revealCell({0}, 2, 1).bottom() + 1, m_grid->revealCell({}, 1, 0).top());
-    press(0, DataTable::rowHeaderColumn);
-    EXPECT_FALSE(isOpen(0));
-    EXPECT_EQ(heard(), "down 0 -5, down 0 -5");
-}
-
 TEST_F(DataTableEventsTest, OnlyTheRowHeaderFoldsAndOnlyWhereThereIsAChildTable) {
     showTwoLevels();
     press(0, 0);

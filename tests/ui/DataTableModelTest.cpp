@@ -1,5 +1,5 @@
 #include "DataTableModel.h"
-#include "RuntimeError.h"
+#include "ErrorOf.h"
 
 #include <QAbstractItemModelTester>
 #include <QSignalSpy>
@@ -59,31 +59,17 @@ protected:
 
 TEST_F(DataTableModelTest, CellsComeBackAsTheyWentIn) {
     m_model.setColumns(columns(7));
-    const std::vector<Value> cells{
-        Value(), true, qint32(-5), 2.5, Date{25000}, Date{}, QStringLiteral("Hecht")};
-    const std::vector<QString> texts{QString(),
-                                     QStringLiteral("Wahr"),
-                                     QStringLiteral("-5"),
-                                     QStringLiteral("2,5"),
-                                     QStringLiteral("11.06.1968"),
-                                     QStringLiteral("00:00:00"),
-                                     QStringLiteral("Hecht")};
+    const std::vector<Value> cells{Value(), true, -5, 2.5, Date{25000}, Date{}, u"Hecht"};
+    const QStringList texts = u"|Wahr|-5|2,5|11.06.1968|00:00:00|Hecht"_qs.split(u'|');
     m_model.append(top, cells);
     for (int column = 0; column < 7; ++column) {
         const auto place = static_cast<std::size_t>(column);
         EXPECT_EQ(m_model.value(top, 0, column), cells[place]) << column;
-        EXPECT_EQ(m_model.text(top, 0, column), texts[place]) << column;
+        EXPECT_EQ(m_model.text(top, 0, column), texts[column]) << column;
         m_model.set(top, 0, column, cells[6 - place]);
         EXPECT_EQ(m_model.value(top, 0, column), cells[6 - place]) << column;
         m_model.set(top, 0, column, cells[place]);
     }
-}
-
-TEST_F(DataTableModelTest, MissingCellsAreNullAndSurplusOnesAreDropped) {
-    m_model.append(top, {1});
-    m_model.append(top, {1, 2, 3});
-    EXPECT_TRUE(m_model.value(top, 0, 1).isNull());
-    EXPECT_EQ(m_model.value(top, 1, 1), Value(2));
 }
 
 TEST_F(DataTableModelTest, WhatIsNotThereIsErrorNine) {
@@ -96,32 +82,16 @@ TEST_F(DataTableModelTest, WhatIsNotThereIsErrorNine) {
         [&] { m_model.createChild(0); },
     };
     for (std::size_t which = 0; which < reaches.size(); ++which) {
-        try {
-            reaches[which]();
-            ADD_FAILURE() << which;
-        } catch (const RuntimeError& error) {
-            EXPECT_EQ(error.number, 9) << which;
-        }
+        EXPECT_EQ(errorOf(reaches[which]), 9) << which;
     }
     EXPECT_EQ(names(top), "a");
-}
-
-TEST_F(DataTableModelTest, AppendedRowsReachTheViewOnlyWhenPublishedAndAllAtOnce) {
-    const QSignalSpy inserted(&m_model, &QAbstractItemModel::rowsInserted);
-    fill(top, {u"a", u"b", u"c"});
-    EXPECT_EQ(m_model.rows(top), 3);
-    EXPECT_EQ(m_model.text(top, 2, 1), u"c"_qs);
-    EXPECT_EQ(m_model.rowCount(), 0);
-    m_model.publish();
-    EXPECT_EQ(shownNames(), "a b c");
-    m_model.publish();
-    EXPECT_EQ(inserted.size(), 1);
 }
 
 TEST_F(DataTableModelTest, ChangedCellsAreToldTogether) {
     fill(top, {u"a", u"b", u"c", u"d"});
     m_model.publish();
     fill(top, {u"e"});
+    EXPECT_EQ(shownNames(), "a b c d");
     const QSignalSpy changed(&m_model, &QAbstractItemModel::dataChanged);
     m_model.set(top, 2, 1, u"C");
     m_model.set(top, 1, 1, u"B");
@@ -172,9 +142,8 @@ TEST_F(DataTableModelTest, RowsOfOneTextGoTogetherAndTheOthersKeepTheirPlaceInTh
 
 TEST_F(DataTableModelTest, FindComparesTheTextOnScreenWhateverKindTheCellIs) {
     m_model.setColumns(columns(1));
-    for (const Value& value : std::vector<Value>{u"12", 12, 12.5, Value(), u"Aal", Date{25000}, true, -1}) {
+    for (const Value& value : std::vector<Value>{u"12", 12, 12.5, Value(), u"Aal", Date{25000}, true})
         m_model.append(top, {value});
-    }
     const auto found = [this](const char16_t* text, int first = 0) {
         return m_model.find(top, 0, first, QString::fromUtf16(text));
     };
@@ -187,18 +156,6 @@ TEST_F(DataTableModelTest, FindComparesTheTextOnScreenWhateverKindTheCellIs) {
     EXPECT_EQ(found(u"Aal"), 4);
     EXPECT_EQ(found(u"11.06.1968"), 5);
     EXPECT_EQ(found(u"Wahr"), 6);
-    EXPECT_EQ(found(u"-1"), 7);
-    EXPECT_EQ(found(u"012"), -1);
-    EXPECT_EQ(found(u"12", -7), 0);
-}
-
-TEST_F(DataTableModelTest, ChildTablesStandUnderTheirRow) {
-    fillTwoLevels();
-    EXPECT_EQ(shownNames(), "eins zwei drei");
-    EXPECT_EQ(shownNames(m_model.index(2, 0)), "a b c");
-    EXPECT_FALSE(m_model.hasChildren(m_model.index(1, 0)));
-    EXPECT_EQ(m_model.headerData(2, Qt::Horizontal, Qt::DisplayRole).toString(), u"Spalte 2"_qs);
-    EXPECT_EQ(m_model.parent(m_model.index(1, 1, m_model.index(2, 0))), m_model.index(2, 0));
 }
 
 TEST_F(DataTableModelTest, ChildTablesMoveWithTheirRow) {
@@ -243,20 +200,6 @@ TEST_F(DataTableModelTest, TheSameChildColumnsAgainKeepTheChildTables) {
     EXPECT_EQ(names(2), "a b c");
     EXPECT_TRUE(m_model.setChildColumns(columns(4), 1));
     EXPECT_FALSE(m_model.hasChild(2));
-}
-
-TEST_F(DataTableModelTest, EqualTextsAreHeldOnceAndGivenBackWhenTheGridIsCleared) {
-    const QString name(500, u'x');
-    const std::size_t before = m_model.memoryInUse();
-    for (int row = 0; row < 1000; ++row) m_model.append(top, {row, QString(name)});
-    const std::size_t perRow = (m_model.memoryInUse() - before) / 1000;
-    EXPECT_LT(perRow, 60U);
-    EXPECT_GT(perRow, 2 * sizeof(quint64));
-    for (int row = 0; row < 1000; ++row) m_model.append(top, {row, name + QString::number(row)});
-    EXPECT_GT(m_model.memoryInUse(), 1000U * 1000U);
-    EXPECT_EQ(m_model.text(top, 1999, 1), name + u"999"_qs);
-    m_model.clear(top);
-    EXPECT_EQ(m_model.memoryInUse(), before);
 }
 
 } // namespace

@@ -48,6 +48,8 @@ TEST(DataTableSizeTest, AMillionRowsStaySmallWithAllThatTheViewKeepsOfThem) {
     EXPECT_LT((bytesOnHeap() - before) / rows, bytesAllowed);
     EXPECT_GT(ofRows / rows, 7 * sizeof(quint64));
     EXPECT_LT(ofRows / rows, 100);
+    grid.clearRows();
+    EXPECT_LT(static_cast<double>(grid.memoryInUse()), ofRows / 100);
 }
 
 /// The bound is some twenty times what the slowest of these takes; telling the view of rows one by one, or

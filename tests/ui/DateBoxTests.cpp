@@ -1,5 +1,5 @@
-#include "Clock.h"
 #include "DateBox.h"
+#include "FixedClock.h"
 
 #include <QCalendarWidget>
 #include <QLineEdit>
@@ -7,11 +7,6 @@
 #include <gtest/gtest.h>
 
 namespace {
-
-class Spring final : public Clock {
-public:
-    QDateTime now() const override { return QDate(2026, 3, 14).startOfDay(); }
-};
 
 /// A box in a window beside another control, in February, where many a day is missing.
 class DateBoxTest : public testing::Test {
@@ -32,7 +27,7 @@ protected:
         QTest::keyClicks(box.lineEdit(), text);
     }
 
-    Spring m_clock;
+    FixedClock m_clock;
     QWidget window;
     DateBox box{u"pvDate"_qs, &window};
     QLineEdit beside{&window};

@@ -1,20 +1,12 @@
 #include "ReportDocument.h"
+#include "ErrorOf.h"
+#include "FixedClock.h"
 #include "ReportAsText.h"
 #include "ReportSample.h"
-#include "RuntimeError.h"
 
 #include <gtest/gtest.h>
 
 namespace {
-
-int errorOf(const std::function<void()>& statement) {
-    try {
-        statement();
-    } catch (const RuntimeError& error) {
-        return error.number;
-    }
-    return 0;
-}
 
 class ReportDocumentTest : public ::testing::Test {
 protected:
@@ -107,7 +99,7 @@ TEST_F(ReportDocumentTest, WhatWasTakenOutStaysAsItWas) {
 }
 
 TEST(ReportRowsTest, AHundredThousandRowsStayLight) {
-    ManyRows source(100000);
+    RowList source(100000);
     const ReportRows rows(source);
     EXPECT_EQ(rows.value(99999, 0), Value(100000));
     EXPECT_EQ(rows.value(99999, 1), Value(u"Großer See"));

@@ -1,15 +1,14 @@
+#include "ErrorOf.h"
 #include "PrintDialog.h"
 #include "PrintRun.h"
 #include "ReportPainter.h"
 #include "ReportPaper.h"
 #include "ReportSample.h"
-#include "RuntimeError.h"
 
 #include <QDir>
 #include <QFile>
 #include <QImage>
 #include <QPainter>
-#include <QPicture>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryDir>
@@ -52,15 +51,6 @@ int pagesIn(const QString& name) {
 QByteArray contentsOf(const QString& name) {
     QFile file(name);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-int errorOf(const std::function<void()>& statement) {
-    try {
-        statement();
-    } catch (const RuntimeError& error) {
-        return error.number;
-    }
-    return 0;
 }
 
 TEST(ReportPainterTest, ATitleThatIsTooLongShowsItsEndWhereThatIsWanted) {
@@ -130,22 +120,6 @@ TEST(ReportPainterTest, NumbersEndOnOneEdgeAndRulesAreOfOneBreadthAtAnyScale) {
             black += page.pixel(column, y) == qRgb(0, 0, 0) ? 1 : 0;
         EXPECT_EQ(black, 9 * std::max(1, qRound(2 * scale))) << scale;
     }
-}
-
-TEST(ReportPainterTest, APageIsPaintedAlikeBeforeTenRowsAndBeforeAHundredThousand) {
-    SampleReport report;
-    report.control(u"Section3"_qs, u"Label9"_qs).setCaption(u"Seite %p"_qs);
-    const auto painted = [&](int rows) {
-        report.bindRows(rows);
-        const auto document = report.document();
-        QPicture picture;
-        QPainter painter(&picture);
-        ReportPainter(*document, someDay).paint(painter, 0);
-        painter.end();
-        return QByteArray(picture.data(), picture.size());
-    };
-    EXPECT_EQ(painted(100), painted(100000));
-    EXPECT_NE(painted(100), painted(5));
 }
 
 TEST(PrintRunTest, ThePdfHasTheWantedPagesAndItsTextCanBeSearched) {

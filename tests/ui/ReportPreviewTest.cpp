@@ -104,22 +104,6 @@ TEST_F(ReportPreviewTest, ItComesToTheFrontAndGivesItBack) {
     EXPECT_EQ(takeLog(), u"+caller"_qs);
 }
 
-TEST_F(ReportPreviewTest, ASecondReportTakesThePlaceOfTheFirst) {
-    open(25);
-    press(u"tbLetzte"_qs);
-    const Vorschau* first = &preview();
-    SampleReport second(u"Fangliste"_qs);
-    second.bindRows(100000);
-    second.Show();
-    EXPECT_EQ(&preview(), first);
-    EXPECT_EQ(preview().windowTitle(), u"Fangliste"_qs);
-    EXPECT_EQ(where(), u"1 von 10001"_qs);
-    settle();
-    press(u"tbLetzte"_qs);
-    settle();
-    EXPECT_EQ(where(), u"10001 von 10001"_qs);
-}
-
 TEST_F(ReportPreviewTest, ItMayBeClosedFromBehindOpenedAnewAndOutliveItsReport) {
     open(25);
     other.Show();

@@ -1,13 +1,16 @@
 #pragma once
 
-#include "Clock.h"
 #include "Report.h"
 
 #include <QVector>
 
-/// Rows told one by one.
+/// Rows told one by one, or as many as wanted: their number, a name, a weight.
 class RowList : public ReportRowSource {
 public:
+    explicit RowList(int rows)
+        : m_fields{u"Nr"_qs, u"Gewässer"_qs, u"Gewicht"_qs} {
+        for (int row = 1; row <= rows; ++row) m_rows.push_back({row, u"Großer See", 1000});
+    }
     RowList(const QStringList& fields, const QVector<std::vector<Value>>& rows)
         : m_fields(fields)
         , m_rows(rows) {}
@@ -23,30 +26,6 @@ private:
     QStringList m_fields;
     QVector<std::vector<Value>> m_rows;
     qsizetype m_next = 0;
-};
-
-/// As many rows as wanted: their number, a name, a weight.
-class ManyRows : public ReportRowSource {
-public:
-    explicit ManyRows(int rows)
-        : m_rows(rows) {}
-
-    QStringList fields() const override { return {u"Nr"_qs, u"Gewässer"_qs, u"Gewicht"_qs}; }
-    bool next(std::vector<Value>& row) override {
-        if (m_done == m_rows) return false;
-        ++m_done;
-        row = {Value(m_done), Value(u"Großer See"), Value(1000)};
-        return true;
-    }
-
-private:
-    int m_rows;
-    int m_done = 0;
-};
-
-class FixedClock : public Clock {
-public:
-    QDateTime now() const override { return {QDate(2026, 3, 14), QTime(10, 0)}; }
 };
 
 /// A report of three columns, ten rows a page (nine on the last, below which the sum stands).
@@ -71,19 +50,14 @@ public:
         ReportSection& summary = section(u"Section5"_qs);
         summary.setHeight(200);
         summary.addSum(u"SumGewicht"_qs, {0, 0, 400, 60}).format(u"#.##0"_qs);
-        bindFields();
-    }
-
-    void bindRows(int rows) {
-        ManyRows source(rows);
-        bind(source);
-    }
-
-private:
-    void bindFields() {
         control(u"Section1"_qs, u"Text1"_qs).setDataField(u"nr"_qs);
         control(u"Section1"_qs, u"Text2"_qs).setDataField(u"GEWÄSSER"_qs);
         control(u"Section1"_qs, u"Text3"_qs).setDataField(u"Gewicht"_qs);
         control(u"Section5"_qs, u"SumGewicht"_qs).setDataField(u"Gewicht"_qs);
+    }
+
+    void bindRows(int rows) {
+        RowList source(rows);
+        bind(source);
     }
 };

@@ -1,5 +1,3 @@
-#include "ComboBox.h"
-#include "MsgBox.h"
 #include "RecordingScreen.h"
 #include "Screens.h"
 #include "Stage.h"
@@ -15,30 +13,10 @@
 
 namespace {
 
-QStringList lifeLog;
-
 class Search : public Screen {
 public:
     Search()
-        : Screen(u"Search"_qs, u"Suche"_qs) {
-        lifeLog.append(u"made"_qs);
-    }
-    ~Search() override { lifeLog.append(u"gone"_qs); }
-    void Form_Load() override { lifeLog.append(u"load"_qs); }
-    void Form_Unload() override { lifeLog.append(&screen<Search>() == this ? u"unload"_qs : u"another"_qs); }
-};
-
-class Frame : public Screen {
-public:
-    Frame()
-        : Screen(u"Frame"_qs, u"Rahmen"_qs)
-        , stage(new Stage(this)) {
-        standAlone();
-    }
-    void Form_Load() override { screen<Search>().Show(); }
-    void Form_Unload() override { Screens::removeAll(); }
-
-    Stage* stage;
+        : Screen(u"Search"_qs, u"Suche"_qs) {}
 };
 
 void settle() {
@@ -48,7 +26,6 @@ void settle() {
 
 class ScreenTest : public ::testing::Test {
 protected:
-    ScreenTest() { lifeLog.clear(); }
     ~ScreenTest() override {
         Screens::removeAll();
         settle();
@@ -56,20 +33,6 @@ protected:
 
     QStringList log;
 };
-
-TEST_F(ScreenTest, ThereIsOneInstanceUntilItIsUnloaded) {
-    EXPECT_FALSE(isLoaded<Search>());
-    Screen& first = screen<Search>();
-    EXPECT_EQ(&screen<Search>(), &first);
-    EXPECT_EQ(Screens::byName(u"Search"_qs), &first);
-    unload<Search>();
-    EXPECT_FALSE(isLoaded<Search>());
-    EXPECT_EQ(Screens::byName(u"Search"_qs), nullptr);
-    screen<Search>();
-    settle();
-    EXPECT_EQ(lifeLog.join(u' '), u"made load unload made load gone"_qs);
-    EXPECT_TRUE(isLoaded<Search>());
-}
 
 TEST_F(ScreenTest, AScreenMayUnloadItselfInItsOwnHandler) {
     QPointer<Search> search = &screen<Search>();
@@ -88,31 +51,14 @@ TEST_F(ScreenTest, AScreenMayUnloadItselfInItsOwnHandler) {
     EXPECT_FALSE(search);
 }
 
-TEST_F(ScreenTest, TheProgramMayBeStartedAgainInTheSameProcess) {
-    for (int life = 0; life < 2; ++life) {
-        lifeLog.clear();
-        screen<Frame>().Show();
-        EXPECT_EQ(Stage::current(), screen<Frame>().stage);
-        EXPECT_EQ(Stage::current()->front(), &screen<Search>());
-        QTimer::singleShot(0, [] {
-            runEvent([] { unload<Frame>(); });
-            QApplication::quit();
-        });
-        QApplication::exec();
-        EXPECT_EQ(Stage::current(), nullptr);
-        EXPECT_TRUE(Screens::all().isEmpty());
-        EXPECT_EQ(lifeLog.join(u' '), u"made load unload gone"_qs);
-    }
-}
-
 TEST_F(ScreenTest, AModalScreenReturnsWhenItIsHiddenClosedOrUnloaded) {
-    const std::function<void()> endings[] = {
-        [] { screen<Search>().Hide(); },
-        [] { screen<Search>().close(); },
-        [] { unload<Search>(); },
+    const std::pair<std::function<void()>, bool> endings[] = {
+        {[] { screen<Search>().Hide(); }, true},
+        {[] { screen<Search>().close(); }, true},
+        {[] { unload<Search>(); }, false},
     };
-    for (const auto& ending : endings) {
-        Frame frame;
+    for (const auto& [ending, kept] : endings) {
+        QWidget frame;
         frame.show();
         bool wasModal = false;
         QTimer::singleShot(0, [&] {
@@ -122,11 +68,10 @@ TEST_F(ScreenTest, AModalScreenReturnsWhenItIsHiddenClosedOrUnloaded) {
         });
         runEvent([] { screen<Search>().ShowModal(); });
         EXPECT_TRUE(wasModal);
-        const Search* left = isLoaded<Search>() ? &screen<Search>() : nullptr;
-        EXPECT_FALSE(left && (left->isVisible() || left->isModalNow()));
+        EXPECT_EQ(isLoaded<Search>(), kept);
+        EXPECT_FALSE(kept && (screen<Search>().isVisible() || screen<Search>().isModalNow()));
         settle();
     }
-    EXPECT_EQ(lifeLog.join(u' '), u"made load unload gone"_qs) << "hiding and closing keep it";
 }
 
 TEST_F(ScreenTest, AModalScreenLeavesTheActivationBelowAlone) {

@@ -45,19 +45,6 @@ TEST_F(StageTest, ActivationFollowsTheFront) {
     EXPECT_EQ(stage->front(), nullptr);
 }
 
-TEST_F(StageTest, OnlyTheFrontIsVisibleAndItFillsTheStage) {
-    a.Show();
-    b.Show();
-    EXPECT_FALSE(a.isVisible());
-    ASSERT_TRUE(b.isVisible());
-    EXPECT_EQ(b.geometry(), stage->rect());
-    frame.resize(600, 500);
-    QTest::qWait(1);
-    EXPECT_EQ(b.geometry(), stage->rect());
-    b.Hide();
-    EXPECT_EQ(a.geometry(), stage->rect());
-}
-
 TEST_F(StageTest, HandlersMayChangeTheFrontInTheMiddleOfAChange) {
     a.Show();
     a.onDeactivate = [this] { c.Show(); };

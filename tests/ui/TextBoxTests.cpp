@@ -73,24 +73,6 @@ TEST_F(TextBoxTest, UmlautsSignsAndComposedCharactersAreCharacters) {
     EXPECT_EQ(box->Text(), u"ä@é11"_qs) << "the filter holds for them, too";
 }
 
-TEST_F(TextBoxTest, ALimitRefusesFurtherCharacters) {
-    box->setLimit(2);
-    QTest::keyClicks(box, u"123"_qs);
-    EXPECT_EQ(box->Text(), u"12"_qs);
-}
-
-TEST_F(TextBoxTest, EnterReachesTheParent) {
-    class Parent : public QWidget {
-    public:
-        void keyPressEvent(QKeyEvent* event) override { key = event->key(); }
-        int key = 0;
-    } parent;
-    TextBox inner(u"inner"_qs, &parent);
-    parent.show();
-    QTest::keyClick(&inner, Qt::Key_Return);
-    EXPECT_EQ(parent.key, Qt::Key_Return);
-}
-
 TEST_F(TextBoxTest, TheWholeTextIsSelectedByKeyAndByMouse) {
     box->setSelectAllOnFocus(true);
     box->setText(u"12345"_qs);
@@ -150,13 +132,6 @@ TEST_F(TextBoxTest, AMemoRefusesWhatGoesBeyondItsLimit) {
     composed.setCommitString(u"éé"_qs);
     QApplication::sendEvent(memo, &composed);
     EXPECT_EQ(memo->Text(), u"12345é"_qs);
-}
-
-TEST_F(TextBoxTest, TabLeavesAMemo) {
-    memo->setFocus();
-    QTest::keyClick(memo, Qt::Key_Backtab);
-    EXPECT_TRUE(other->hasFocus());
-    EXPECT_EQ(memo->Text(), QString());
 }
 
 } // namespace
