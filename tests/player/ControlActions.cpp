@@ -1,6 +1,7 @@
 #include "ControlActions.h"
 
 #include "CommandFailure.h"
+#include "ControlText.h"
 #include "Controls.h"
 #include "EventGuard.h"
 #include "GridCells.h"
@@ -108,12 +109,6 @@ QPoint arrowOf(const QComboBox* combo) {
         .center();
 }
 
-QStringList entriesOf(const QComboBox* combo) {
-    QStringList entries;
-    for (int entry = 0; entry < combo->count(); ++entry) entries.append(combo->itemText(entry));
-    return entries;
-}
-
 /// The list takes a release for a choice only after the mouse has moved in it.
 void clickEntry(QComboBox* combo, int entry, const QString& name) {
     QAbstractItemView* list = combo->view();
@@ -124,6 +119,15 @@ void clickEntry(QComboBox* combo, int entry, const QString& name) {
     Hand::move(face, face->rect().bottomRight());
     Hand::move(face, face->rect().topLeft());
     Hand::click(face, list->visualRect(index).center());
+}
+
+std::pair<QWidget*, QPoint> reachCell(const QString& grid, const QString& row, const QString& column) {
+    auto* table = Controls::find<DataTable>(grid, u"grid"_qs);
+    Controls::requireUsable(table, grid);
+    const GridCells::Row there = GridCells::parseRow(row);
+    const QPoint place = GridCells::placeOf(table, grid, there, GridCells::parseNumber(column));
+    Controls::requireReachable(table->viewport(), place, grid);
+    return {table->viewport(), place};
 }
 
 NavigationBar* bar() { return qobject_cast<Main*>(Controls::findScreen(u"Main"_qs))->ButtnBar; }
@@ -164,7 +168,8 @@ void choose(const QString& name, const QString& entry) {
     auto* combo = Controls::find<QComboBox>(name, u"combo box"_qs);
     const int place = combo->findText(entry, Qt::MatchExactly | Qt::MatchCaseSensitive);
     if (place < 0)
-        throw CommandFailure{u"%1 has only the entries %2"_qs.arg(name, entriesOf(combo).join(u"|"_qs))};
+        throw CommandFailure{
+            u"%1 has only the entries %2"_qs.arg(name, ControlText::entries(name).join(u'|'))};
     clickOn(combo, arrowOf(combo), name);
     clickEntry(combo, place, name);
 }
@@ -243,21 +248,13 @@ void clickBarItem(const QString& key) {
 }
 
 void openCell(const QString& grid, const QString& row, const QString& column) {
-    auto* table = Controls::find<DataTable>(grid, u"grid"_qs);
-    Controls::requireUsable(table, grid);
-    const GridCells::Row there = GridCells::parseRow(row);
-    const QPoint place = GridCells::placeOf(table, grid, there, GridCells::parseNumber(column));
-    Controls::requireReachable(table->viewport(), place, grid);
-    Hand::doubleClick(table->viewport(), place);
+    const auto [face, place] = reachCell(grid, row, column);
+    Hand::doubleClick(face, place);
 }
 
 void pressCell(const QString& grid, const QString& row, const QString& column, Qt::MouseButton button) {
-    auto* table = Controls::find<DataTable>(grid, u"grid"_qs);
-    Controls::requireUsable(table, grid);
-    const GridCells::Row there = GridCells::parseRow(row);
-    const QPoint place = GridCells::placeOf(table, grid, there, GridCells::parseNumber(column));
-    Controls::requireReachable(table->viewport(), place, grid);
-    Hand::click(table->viewport(), place, button);
+    const auto [face, place] = reachCell(grid, row, column);
+    Hand::click(face, place, button);
 }
 
 void logIn(const QString& name, const QString& password) {

@@ -17,6 +17,7 @@
 #include <QLineEdit>
 #include <QRadioButton>
 #include <QTabWidget>
+#include <optional>
 
 namespace {
 
@@ -38,34 +39,21 @@ QString shownOnItem(const QAction* item) {
     return item->isCheckable() ? onOrOff(item->isChecked()) : withoutMnemonic(item->text());
 }
 
-template<typename T, typename Text>
-bool readAs(const QWidget* control, QString& text, Text read) {
-    const auto* kind = qobject_cast<const T*>(control);
-    if (kind) text = read(kind);
-    return kind;
-}
-
-bool readText(const QWidget* control, QString& text) {
-    return readAs<QLineEdit>(control, text, [](const auto* box) { return box->text(); }) ||
-           readAs<MemoBox>(control, text, [](const auto* box) { return box->Text(); }) ||
-           readAs<QComboBox>(control, text, [](const auto* box) { return box->currentText(); }) ||
-           readAs<QAbstractSpinBox>(control, text, [](const auto* box) { return box->text(); });
-}
-
-bool readFace(const QWidget* control, QString& text) {
-    return readAs<QLabel>(control, text,
-                          [](const auto* label) {
-                              return label->buddy() ? withoutMnemonic(label->text()) : label->text();
-                          }) ||
-           readAs<QAbstractButton>(control, text, shownOnButton) ||
-           readAs<QGroupBox>(control, text,
-                             [](const auto* frame) { return withoutMnemonic(frame->title()); }) ||
-           readAs<ProgressBar>(control, text,
-                               [](const auto* bar) { return QString::number(bar->progress()); }) ||
-           readAs<QTabWidget>(
-               control, text,
-               [](const auto* tabs) { return withoutMnemonic(tabs->tabText(tabs->currentIndex())); }) ||
-           readAs<Screen>(control, text, [](const auto* screen) { return screen->windowTitle(); });
+/// Nothing for a control without a text.
+std::optional<QString> textOf(const QWidget* control) {
+    if (const auto* box = qobject_cast<const QLineEdit*>(control)) return box->text();
+    if (const auto* memo = qobject_cast<const MemoBox*>(control)) return memo->Text();
+    if (const auto* combo = qobject_cast<const QComboBox*>(control)) return combo->currentText();
+    if (const auto* spin = qobject_cast<const QAbstractSpinBox*>(control)) return spin->text();
+    if (const auto* button = qobject_cast<const QAbstractButton*>(control)) return shownOnButton(button);
+    if (const auto* frame = qobject_cast<const QGroupBox*>(control)) return withoutMnemonic(frame->title());
+    if (const auto* bar = qobject_cast<const ProgressBar*>(control)) return QString::number(bar->progress());
+    if (const auto* tabs = qobject_cast<const QTabWidget*>(control))
+        return withoutMnemonic(tabs->tabText(tabs->currentIndex()));
+    if (const auto* screen = qobject_cast<const Screen*>(control)) return screen->windowTitle();
+    const auto* label = qobject_cast<const QLabel*>(control);
+    if (!label) return std::nullopt;
+    return label->buddy() ? withoutMnemonic(label->text()) : label->text();
 }
 
 } // namespace
@@ -76,10 +64,9 @@ QString shown(const QString& name) {
     if (MenuItems::isItem(name)) return shownOnItem(MenuItems::find(name));
     if (GridCells::isCell(name)) return GridCells::cellText(name);
     const QWidget* control = Controls::find(name);
-    QString text;
-    if (!readText(control, text) && !readFace(control, text))
-        Controls::refuseKind(name, u"control with a text"_qs);
-    return lineText(text);
+    const auto text = textOf(control);
+    if (!text) Controls::refuseKind(name, u"control with a text"_qs);
+    return lineText(*text);
 }
 
 bool isEnabled(const QString& name) {

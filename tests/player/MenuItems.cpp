@@ -10,22 +10,16 @@
 #include <QApplication>
 #include <QMenu>
 #include <QMenuBar>
-#include <QPointer>
 
 namespace {
 
 QString plainName(const QString& name) { return name.mid(name.indexOf(u'.') + 1); }
 
-QMenu* menuHolding(const QAction* item) {
+/// The menu or the bar in which it stands; null if it is in none.
+template<typename Holder>
+Holder* holding(const QAction* item) {
     for (QObject* place : item->associatedObjects()) {
-        if (auto* menu = qobject_cast<QMenu*>(place)) return menu;
-    }
-    return nullptr;
-}
-
-QMenuBar* barHolding(const QAction* item) {
-    for (QObject* place : item->associatedObjects()) {
-        if (auto* bar = qobject_cast<QMenuBar*>(place)) return bar;
+        if (auto* holder = qobject_cast<Holder*>(place)) return holder;
     }
     return nullptr;
 }
@@ -55,8 +49,8 @@ void open(QMenu* menu, const QString& name) {
     if (menu->isVisible()) return;
     QAction* title = menu->menuAction();
     requireUsable(title, name);
-    if (QMenuBar* bar = barHolding(title)) return clickInBar(bar, title, name);
-    QMenu* outer = menuHolding(title);
+    if (QMenuBar* bar = holding<QMenuBar>(title)) return clickInBar(bar, title, name);
+    QMenu* outer = holding<QMenu>(title);
     if (!outer) throw CommandFailure{u"the menu of %1 is not open"_qs.arg(name)};
     open(outer, name);
     Hand::click(outer, outer->actionGeometry(title).center());
@@ -76,15 +70,15 @@ QAction* find(const QString& name) {
 
 bool isVisible(const QAction* item) {
     if (!item->isVisible()) return false;
-    if (const QMenuBar* bar = barHolding(item)) return bar->isVisible();
-    const QMenu* menu = menuHolding(item);
+    if (const QMenuBar* bar = holding<QMenuBar>(item)) return bar->isVisible();
+    const QMenu* menu = holding<QMenu>(item);
     return menu && (menu->isVisible() || isVisible(menu->menuAction()));
 }
 
 void click(const QString& name) {
     QAction* item = find(name);
-    if (QMenuBar* bar = barHolding(item)) return clickInBar(bar, item, name);
-    QMenu* menu = menuHolding(item);
+    if (QMenuBar* bar = holding<QMenuBar>(item)) return clickInBar(bar, item, name);
+    QMenu* menu = holding<QMenu>(item);
     if (!menu) throw CommandFailure{u"%1 stands in no menu"_qs.arg(name)};
     if (!menu->isVisible()) dismissOpenMenu();
     open(menu, name);

@@ -34,14 +34,13 @@ Arguments readArguments(const QApplication& application) {
     parser.addOptions({{u"keep"_qs, u"keeps pictures and the program folder there"_qs, u"DIR"_qs},
                        {u"folder"_qs, u"plays on this program folder, which stays"_qs, u"DIR"_qs},
                        {u"verbose"_qs, u"prints every command and its output"_qs},
-                       {u"dark"_qs, u"the same as --theme dark"_qs},
                        {u"theme"_qs, u"dark or light"_qs, u"THEME"_qs, u"light"_qs}});
     parser.process(application);
     const QString theme = parser.value(u"theme"_qs);
     if (parser.positionalArguments().size() != 1 || (theme != u"dark"_qs && theme != u"light"_qs))
         parser.showHelp(wrongArguments);
     return {parser.positionalArguments().first(), parser.value(u"keep"_qs), parser.value(u"folder"_qs),
-            parser.isSet(u"verbose"_qs), parser.isSet(u"dark"_qs) || theme == u"dark"_qs};
+            parser.isSet(u"verbose"_qs), theme == u"dark"_qs};
 }
 
 int play(const Arguments& arguments, const QString& keep, const QString& script) {

@@ -49,22 +49,13 @@ TEST_F(DemoClub, IsOfTheSizeOfARealClub) {
         int most;
     };
     const Row rows[] = {
-        {u"Fang WHERE FangJahr = 2024", 700, 1000},
         {u"Fang WHERE FangJahr = 2026", 700, 1000},
         {u"Fang WHERE FangJahr < 2024 OR FangJahr > 2026", 0, 0},
         {u"Fang WHERE Gewicht <= 0 OR Anzahl <= 0", 0, 0},
-        {u"Mitglied WHERE JG = True", 15, 40},
-        {u"Mitglied WHERE Befreit = True", 40, 150},
         {u"Mitglied WHERE Bezahlt = False", 20, 80},
-        {u"Mitglied WHERE Austritt > #1/1/2000#", 4, 30},
         {u"Kontakt WHERE KategoNr = 1", 190, 230},
-        {u"Kontakt WHERE KategoNr = 2", 30, 60},
-        {u"Kontakt WHERE KategoNr > 2", 15, 40},
-        {u"Katego", 6, 6},
-        {u"Benutzer", 4, 4},
         {u"Besatzung WHERE BJahr = 2026", 10, 30},
         {u"Arbeit WHERE Jahr = 2026 AND Datum = #1/1/2026#", 80, 250},
-        {u"Arbeit", 900, 4000},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(QString::fromUtf16(row.what).toStdString());

@@ -1,6 +1,6 @@
 #include "ProgramFolder.h"
+#include "ErrorOf.h"
 #include "OpenFolder.h"
-#include "RuntimeError.h"
 
 #include <QDir>
 #include <QFile>
@@ -10,12 +10,7 @@
 namespace {
 
 int failureOf(const QString& folder) {
-    try {
-        makeProgramFolder(folder, 2026, false);
-    } catch (const RuntimeError& error) {
-        return error.number;
-    }
-    return 0;
+    return errorOf([&] { makeProgramFolder(folder, 2026, false); });
 }
 
 QByteArray contents(const QString& path) {
@@ -27,10 +22,9 @@ QByteArray contents(const QString& path) {
 
 TEST(ProgramFolder, HoldsAllThatTheProgramExpectsWhateverItsPath) {
     QTemporaryDir place;
-    const QString longName = QStringLiteral("/Lang ").repeated(1) + QString(120, u'x');
+    const QString longName = QStringLiteral("/Lang ") + QString(120, u'x');
     for (const QString& name :
-         {QStringLiteral("/neu"), QStringLiteral("/Müllers Ordner mit ß, 'Strich' & %1"),
-          QStringLiteral("/a/b/c"), longName + longName}) {
+         {QStringLiteral("/Müllers Ordner mit ß, 'Strich' & %1"), QStringLiteral("/a/b/c") + longName + longName}) {
         SCOPED_TRACE(name.toStdString());
         const QString folder = place.path() + name;
         makeProgramFolder(folder, 2024, false);
