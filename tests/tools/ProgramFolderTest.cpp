@@ -23,8 +23,8 @@ QByteArray contents(const QString& path) {
 TEST(ProgramFolder, HoldsAllThatTheProgramExpectsWhateverItsPath) {
     QTemporaryDir place;
     const QString longName = QStringLiteral("/Lang ") + QString(120, u'x');
-    for (const QString& name :
-         {QStringLiteral("/Müllers Ordner mit ß, 'Strich' & %1"), QStringLiteral("/a/b/c") + longName + longName}) {
+    for (const QString& name : {QStringLiteral("/Müllers Ordner mit ß, 'Strich' & %1"),
+                                QStringLiteral("/a/b/c") + longName + longName}) {
         SCOPED_TRACE(name.toStdString());
         const QString folder = place.path() + name;
         makeProgramFolder(folder, 2024, false);
