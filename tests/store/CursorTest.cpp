@@ -48,17 +48,6 @@ TEST_F(CursorTest, CountsTheRowsOfAQueryAsTheyAreReached) {
     EXPECT_EQ(errorOf([&] { none.MoveFirst(); }), 3021);
 }
 
-TEST_F(CursorTest, GivesEachFieldItsKind) {
-    const Recordset contact = query(u"SELECT * FROM Kontakt WHERE KNr = 1"_qs);
-    EXPECT_EQ(contact.Fields(u"knr"_qs).Value(), Value(1));
-    EXPECT_EQ(contact.Fields(u"Bankeinzug"_qs).Value(), Value(true));
-    EXPECT_EQ(contact.Fields(u"GEBDATUM"_qs).Value(), Value(Date{25569}));
-    EXPECT_EQ(contact.Fields(u"Nachname"_qs).Value(), Value(u"Müller"));
-    EXPECT_TRUE(contact.Fields(u"Firma"_qs).Value().isNull());
-    EXPECT_EQ(errorOf([&] { contact.Fields(u"Nix"_qs); }), 3265);
-    EXPECT_EQ(table(u"Arbeit").Fields(u"ArbStd"_qs).Value(), Value(2.5));
-}
-
 TEST_F(CursorTest, BearsStoredValuesOfTheWrongKind) {
     execute("UPDATE Fang SET Anzahl = 5000000000, Gewicht = 'viel', FangMonat = 1.5 WHERE FangNr = 1");
     execute("UPDATE System SET JBeitrag = 12.5, PflichtStd = NULL");
@@ -152,35 +141,6 @@ TEST_F(CursorTest, DoesNotSearchAgainForALastRowThatItFailedToRead) {
     EXPECT_EQ(place(fish), u"2 -1 eof");
     fish.MoveLast();
     EXPECT_EQ(number(fish, u"FNr"), 2);
-}
-
-TEST_F(CursorTest, WalksOnWhileItsRowsAreChanged) {
-    Recordset members = query(u"SELECT * FROM Mitglied WHERE Bezahlt = True"_qs);
-    for (; !members.Eof(); members.MoveNext()) {
-        members.Edit();
-        members.Collect(u"Bezahlt"_qs, false);
-        members.Update();
-        EXPECT_EQ(members.Fields(u"Bezahlt"_qs).Value(), Value(false));
-    }
-    members.Close();
-    EXPECT_EQ(walk(u"SELECT Bezahlt FROM Mitglied"_qs, u"Bezahlt"), u"False False False");
-}
-
-TEST_F(CursorTest, WalksOnWhileAnotherCursorDeletesItsRows) {
-    Recordset found = query(u"SELECT ArbNr FROM Arbeit WHERE Datum = #1/1/2005#"_qs);
-    found.MoveFirst();
-    found.MoveLast();
-    EXPECT_EQ(found.RecordCount(), 2);
-    found.MoveFirst();
-    Recordset work = table(u"Arbeit");
-    work.Index(u"PrimaryKey"_qs);
-    for (; !found.Eof(); found.MoveNext()) {
-        work.Seek(u"="_qs, found.Fields(u"ArbNr"_qs).Value());
-        ASSERT_FALSE(work.NoMatch());
-        work.Delete();
-    }
-    work.Close();
-    EXPECT_EQ(walk(u"SELECT ArbNr FROM Arbeit"_qs, u"ArbNr"), u"2 4");
 }
 
 TEST_F(CursorTest, ReachesEachRowOnceThoughItsPlaceInTheIndexMoves) {

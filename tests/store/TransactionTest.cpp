@@ -64,17 +64,6 @@ TEST_F(TransactionTest, TakesBackAHalfWrittenFileOfAnySize) {
     EXPECT_EQ(namesInFile(), unchanged);
 }
 
-TEST_F(TransactionTest, ReportsAFileThatAnotherProcessWritesTo) {
-    const auto other = connectTo(path());
-    other->execute("BEGIN IMMEDIATE");
-    Recordset fish = table(u"Fisch");
-    EXPECT_EQ(errorOf([&] { rename(fish, u"Aal"_qs); }), 3260);
-    other->execute("ROLLBACK");
-    rename(fish, u"Aal"_qs);
-    fish.Close();
-    EXPECT_EQ(namesInFile(), u"Aal;Zander;Äsche;Barsch");
-}
-
 TEST_F(TransactionTest, LetsOthersWriteWhileAResultThatIsReadToItsEndStaysOpen) {
     const QStringList results{u"SELECT COUNT(FNr) FROM Fisch"_qs, u"SELECT * FROM Fisch WHERE FNr = 1"_qs,
                               u"SELECT fa.FangNr, fi.FName FROM Fang fa, Fisch fi WHERE fa.FischNr = fi.FNr "

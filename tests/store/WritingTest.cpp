@@ -25,16 +25,6 @@ TEST_F(WritingTest, NeverGivesANumberOutTwice) {
     EXPECT_EQ(rowsInFile(u"SELECT FNr FROM Fisch"_qs), u"1;2;3;5");
 }
 
-TEST_F(WritingTest, FindsTheFirstRowOfATableThatWasEmpty) {
-    Recordset staging = table(u"Druck_Fangliste");
-    staging.AddNew();
-    staging.Collect(u"gewässer"_qs, u"Mühlbach"_qs);
-    staging.Update();
-    EXPECT_EQ(errorOf([&] { staging.Fields(u"Name"_qs).Value(); }), 3021);
-    staging.MoveLast();
-    EXPECT_EQ(staging.Fields(u"Gewässer"_qs).Value(), Value(u"Mühlbach"));
-}
-
 TEST_F(WritingTest, ConvertsToTheKindOfTheField) {
     EXPECT_EQ(collected(u"Fang", u"Anzahl", Value(u"12")), u"12");
     EXPECT_EQ(collected(u"Fang", u"Anzahl", Value(2.5)), u"2");
@@ -75,15 +65,6 @@ TEST_F(WritingTest, GivesTextsBackSignForSign) {
     fish.Update();
     EXPECT_EQ(rows(u"SELECT FName FROM Fisch WHERE FName = '"_qs + half + u"x'"_qs), u"\ufffdx");
     EXPECT_EQ(rows(u"SELECT FNr FROM Fisch WHERE FName = '\ufeffHecht'"_qs), u"6") << "not Hecht alone";
-}
-
-TEST_F(WritingTest, FillsFieldsThatWereNotSet) {
-    Recordset members = table(u"Mitglied");
-    members.AddNew();
-    members.Collect(u"KNr"_qs, 3);
-    members.Update();
-    members.Close();
-    EXPECT_EQ(rowsInFile(u"SELECT * FROM Mitglied WHERE KNr = 3"_qs), u"3|False|False|False|Null|Null|False");
 }
 
 TEST_F(WritingTest, ChangesNothingWithoutAStartedChange) {

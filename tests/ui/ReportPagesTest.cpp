@@ -53,15 +53,23 @@ QByteArray contentsOf(const QString& name) {
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
+// A page with one label.
+template<typename Style>
+QImage pictureOf(const QString& text, const QRect& place, Style style) {
+    Report report(u"Eins"_qs);
+    ReportSection& head = report.section(u"Section2"_qs);
+    head.setHeight(400);
+    style(head.addLabel(u"a"_qs, text, place));
+    return pictureOf(report, 0);
+}
+
 TEST(ReportPainterTest, ATitleThatIsTooLongShowsItsEndWhereThatIsWanted) {
     const auto painted = [](const QString& lastWord, bool keepsEnd) {
-        Report report(u"Eins"_qs);
-        ReportSection& head = report.section(u"Section2"_qs);
-        head.setHeight(200);
         const QString title = u"Besatz - Plan für das Fangjahr 2025 "_qs.repeated(6) + lastWord;
-        ReportControl& label = head.addLabel(u"a"_qs, title, {0, 0, 500, 150}).wrapped();
-        if (keepsEnd) label.keepingEnd();
-        return pictureOf(report, 0);
+        return pictureOf(title, {0, 0, 500, 150}, [&](ReportControl& label) {
+            label.wrapped();
+            if (keepsEnd) label.keepingEnd();
+        });
     };
     EXPECT_EQ(painted(u"2025"_qs, false), painted(u"2026"_qs, false));
     EXPECT_NE(painted(u"2025"_qs, true), painted(u"2026"_qs, true));
@@ -70,29 +78,19 @@ TEST(ReportPainterTest, ATitleThatIsTooLongShowsItsEndWhereThatIsWanted) {
 TEST(ReportPainterTest, NoTextLeavesItsPlaceWhateverItsAlignment) {
     using Align = ReportControl::Align;
     const QRect place(300, 0, 200, 50);
-    const QString longest = u"Europäischer Flussaal "_qs.repeated(5);
     for (const Align align : {Align::Left, Align::Centre, Align::Right}) {
-        for (const QString& text : {longest, u"Aal"_qs}) {
-            Report report(u"Eins"_qs);
-            ReportSection& head = report.section(u"Section2"_qs);
-            head.setHeight(200);
-            head.addLabel(u"a"_qs, text, place).align(align);
-            const QImage picture = pictureOf(report, 0);
+        for (const QString& text : {u"Europäischer Flussaal "_qs.repeated(5), u"Aal"_qs}) {
+            const QImage picture = pictureOf(text, place, [&](ReportControl& label) { label.align(align); });
             EXPECT_TRUE(hasInk(picture, place));
-            EXPECT_FALSE(hasInk(picture, {0, 0, 300, 200})) << qPrintable(text);
-            EXPECT_FALSE(hasInk(picture, {500, 0, 500, 200})) << qPrintable(text);
-            EXPECT_FALSE(hasInk(picture, {0, 50, 1000, 150})) << qPrintable(text);
+            for (const QRect& beside : {QRect(0, 0, 300, 400), {500, 0, 500, 400}, {0, 50, 1000, 350}})
+                EXPECT_FALSE(hasInk(picture, beside)) << qPrintable(text);
         }
     }
 }
 
 TEST(ReportPainterTest, AWrappedLabelTakesTheLinesItHasRoomFor) {
-    Report report(u"Eins"_qs);
-    ReportSection& head = report.section(u"Section2"_qs);
-    head.setHeight(400);
-    head.addLabel(u"a"_qs, u"Alle, die im Herbst geholfen haben. "_qs.repeated(9), {0, 0, 500, 130})
-        .wrapped();
-    const QImage picture = pictureOf(report, 0);
+    const QImage picture = pictureOf(u"Alle, die im Herbst geholfen haben. "_qs.repeated(9), {0, 0, 500, 130},
+                                     [](ReportControl& label) { label.wrapped(); });
     EXPECT_TRUE(hasInk(picture, {0, 80, 500, 40})) << "the third line";
     EXPECT_FALSE(hasInk(picture, {0, 130, 500, 200}));
     EXPECT_FALSE(hasInk(picture, {500, 0, 500, 200}));

@@ -92,18 +92,6 @@ protected:
     SampleReport report{u"Besatz - Plan"_qs};
 };
 
-TEST_F(ReportPreviewTest, ItComesToTheFrontAndGivesItBack) {
-    open(25);
-    EXPECT_EQ(stage.front(), &preview());
-    EXPECT_EQ(preview().windowTitle(), u"Besatz - Plan"_qs);
-    EXPECT_EQ(where(), u"1 von 3"_qs);
-    EXPECT_EQ(takeLog(), u"-caller"_qs);
-    QTest::keyClick(preview().pageView, Qt::Key_Escape);
-    EXPECT_FALSE(isLoaded<Vorschau>());
-    EXPECT_EQ(stage.front(), &caller);
-    EXPECT_EQ(takeLog(), u"+caller"_qs);
-}
-
 TEST_F(ReportPreviewTest, ItMayBeClosedFromBehindOpenedAnewAndOutliveItsReport) {
     open(25);
     other.Show();
