@@ -153,16 +153,6 @@ protected:
     Database held = workspace.OpenDatabase(path(), false, false, connect());
 };
 
-TEST_F(HeldTransactionTest, BringsSeveralActionsToTheFileAtItsCommit) {
-    Transaction action(workspace);
-    fishOfAal().Close();
-    held.OpenRecordset(u"Gewaesser"_qs, dbOpenTable).Delete();
-    EXPECT_EQ(namesInFile(), unchanged);
-    action.commit();
-    EXPECT_EQ(namesInFile(), u"Aal;Zander;Äsche;Barsch");
-    EXPECT_EQ(rowsInFile(u"SELECT COUNT(GNr) FROM Gewaesser"_qs), u"1");
-}
-
 TEST_F(HeldTransactionTest, TakesBackWhatEndsWithoutACommit) {
     Recordset stillOpen;
     {

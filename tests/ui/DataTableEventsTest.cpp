@@ -9,8 +9,7 @@
 
 namespace {
 
-/// A grid beside a field, with what its handlers hear: "down 1 2", with the table before it where it is a
-/// child.
+/// A grid beside a field, with what its handlers hear: "down 1 2".
 class DataTableEventsTest : public testing::Test {
 protected:
     DataTableEventsTest()
@@ -20,15 +19,10 @@ protected:
         layout->addWidget(m_field);
         layout->addWidget(m_grid);
         m_screen.resize(500, 400);
-        const auto cell = [this](const char16_t* event, int row, int column) {
-            const int table = m_grid->currentTable().parentRow;
-            hear((table < 0 ? QString() : QString::number(table) + u'/') + QString::fromUtf16(event) +
-                 QStringLiteral(" %1 %2").arg(row).arg(column));
-        };
         QObject::connect(m_grid, &DataTable::OnGridCellDown, m_grid,
-                         [cell](int row, int column) { cell(u"down", row, column); });
+                         [this](int row, int column) { hear(u"down %1 %2"_qs.arg(row).arg(column)); });
         QObject::connect(m_grid, &DataTable::OnGridCellOpen, m_grid,
-                         [cell](int row, int column) { cell(u"open", row, column); });
+                         [this](int row, int column) { hear(u"open %1 %2"_qs.arg(row).arg(column)); });
         QObject::connect(m_grid, &DataTable::OnGridCellMenu, m_grid, [this] { hear(u"menu"_qs); });
         QObject::connect(m_grid, &DataTable::OnGridGotFocus, m_grid, [this] { hear(u"got"_qs); });
         QObject::connect(m_grid, &DataTable::OnGridLostFocus, m_grid, [this] { hear(u"lost"_qs); });
@@ -56,8 +50,8 @@ protected:
         m_heard.clear();
     }
 
-    void press(int row, int column, Qt::MouseButton button = Qt::LeftButton, TableHandle table = {}) {
-        QTest::mouseClick(m_grid->viewport(), button, {}, m_grid->revealCell(table, row, column).center());
+    void press(int row, int column, Qt::MouseButton button = Qt::LeftButton) {
+        QTest::mouseClick(m_grid->viewport(), button, {}, m_grid->revealCell({}, row, column).center());
     }
 
     /// As the window system does: the second press comes as the double click.
@@ -231,26 +225,6 @@ TEST_F(DataTableEventsTest, KeysFoldThroughTheSameEvent) {
     key(Qt::Key_Asterisk);
     EXPECT_EQ(heard(), "");
     EXPECT_FALSE(isOpen(0));
-}
-
-TEST_F(DataTableEventsTest, AnEventInAChildTableMakesItCurrentUntilTheNextOne) {
-    showTwoLevels();
-    m_grid->enterChild(0);
-    m_grid->appendRow({1, u"Name"});
-    m_grid->appendRow({2, u"Name"});
-    m_grid->enter({});
-    press(1, 1, Qt::LeftButton, {0});
-    EXPECT_EQ(heard(), "0/down 1 1");
-    EXPECT_EQ(m_grid->currentTable().parentRow, 0);
-    m_grid->enter({});
-    key(Qt::Key_Return);
-    EXPECT_EQ(heard(), "0/open 1 1");
-    press(1, DataTable::rowHeaderColumn, Qt::LeftButton, {0});
-    EXPECT_EQ(heard(), "0/down 1 -5");
-    EXPECT_TRUE(isOpen(0));
-    press(1, 0);
-    EXPECT_EQ(heard(), "down 1 2");
-    EXPECT_EQ(m_grid->currentTable().parentRow, -1);
 }
 
 } // namespace
