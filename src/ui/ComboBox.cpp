@@ -47,13 +47,6 @@ void ComboBox::InsertItem(int index, const QString& text) {
     if (isEditable()) setEditText(typed);
 }
 
-void ComboBox::RemoveItem(int index) {
-    if (index == currentIndex()) setCurrentIndex(-1);
-    const bool noneSelected = currentIndex() < 0;
-    removeItem(index);
-    if (noneSelected) setCurrentIndex(-1);
-}
-
 void ComboBox::setText(const QString& text) {
     if (isEditable()) {
         setEditText(text);

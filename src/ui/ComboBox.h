@@ -20,8 +20,6 @@ public:
     /// At its place in the German order, regardless of case, or at the end. The selection stays.
     void AddItem(const QString& text);
     void InsertItem(int index, const QString& text);
-    /// If it was the selected entry, none is selected afterwards; no click.
-    void RemoveItem(int index);
     QString Text() const { return currentText(); }
     /// Selects the entry of this text; error 383 if a drop-down list has none such (an empty text selects
     /// nothing). An editable one takes any text.
