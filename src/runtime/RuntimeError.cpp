@@ -12,22 +12,13 @@ struct Description {
 };
 
 constexpr auto descriptions = std::to_array<Description>({
-    {5, u"Ungültiger Prozeduraufruf oder ungültiges Argument"},
     {6, u"Überlauf"},
     {7, u"Nicht genügend Speicher"},
     {9, u"Index außerhalb des gültigen Bereichs"},
-    {11, u"Division durch Null"},
     {13, u"Typen unverträglich"},
-    {28, u"Nicht genügend Stapelspeicher"},
-    {52, u"Dateiname oder -nummer falsch"},
     {53, u"Datei nicht gefunden"},
-    {55, u"Datei bereits geöffnet"},
-    {57, u"E/A-Fehler"},
-    {58, u"Datei existiert bereits"},
     {61, u"Datenträger voll"},
-    {62, u"Eingabe hinter Dateiende"},
     {70, u"Zugriff verweigert"},
-    {71, u"Datenträger nicht bereit"},
     {75, u"Fehler beim Zugriff auf Pfad/Datei"},
     {76, u"Pfad nicht gefunden"},
     {91, u"Objektvariable oder With-Blockvariable nicht festgelegt"},
@@ -59,7 +50,6 @@ constexpr auto descriptions = std::to_array<Description>({
     {3056, u"Datenbank '%1' kann nicht repariert werden."},
     {3061, u"%1 Parameter wurden erwartet, aber es wurden zu wenig Parameter übergeben."},
     {3075, u"Syntaxfehler in Abfrageausdruck: %1"},
-    {3077, u"Syntaxfehler in Ausdruck: %1"},
     {3078,
      u"Die Eingabetabelle oder Abfrage '%1' wurde nicht gefunden. Stellen Sie sicher, dass sie existiert "
      u"und ihr Name richtig geschrieben ist."},
@@ -68,7 +58,6 @@ constexpr auto descriptions = std::to_array<Description>({
      u"ein."},
     {3167, u"Datensatz ist gelöscht."},
     {3204, u"Datenbank '%1' existiert bereits."},
-    {3218, u"Aktualisieren nicht möglich; momentan gesperrt."},
     {3260, u"Aktualisieren nicht möglich; momentan durch einen anderen Benutzer gesperrt."},
     {3265, u"Element '%1' in dieser Auflistung nicht gefunden."},
     {3343, u"Unbekanntes Datenbankformat '%1'."},

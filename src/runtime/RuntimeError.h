@@ -15,5 +15,5 @@ RuntimeError runtimeError(int number);
 
 /// As above with the %1 in the description replaced: the file of 3024, 3045, 3051, 3056 and 3204, the folder
 /// of 3044, the format of 3343, the table of 3078, the name of 3015 and 3265, the number of parameters of
-/// 3061, the field of 3163, and for 3075 and 3077 the reason. A description without a %1 stays as it is.
+/// 3061, the field of 3163, and for 3075 the reason. A description without a %1 stays as it is.
 RuntimeError runtimeError(int number, const QString& subject);

@@ -5,6 +5,5 @@
 #include <QStringView>
 #include <optional>
 
-/// The date between two number signs: m/d/yyyy or yyyy-mm-dd, either with a time behind it. Nothing if there
-/// is no such day.
+/// The date between two number signs, written m/d/yyyy. Nothing if there is no such day.
 std::optional<Date> readDateLiteral(QStringView text);

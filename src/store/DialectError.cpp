@@ -12,10 +12,6 @@ QString wording(SyntaxFault fault) {
         return QStringLiteral("Syntaxfehler in Zeichenfolge in Abfrageausdruck '%1'.");
     case SyntaxFault::Date:
         return QStringLiteral("Syntaxfehler in Datum in Abfrageausdruck '%1'.");
-    case SyntaxFault::Bracket:
-        return QStringLiteral("Ungültige Verwendung von Klammern bei Name '%1'.");
-    case SyntaxFault::Ending:
-        return QStringLiteral("Zeichen hinter dem Ende der SQL-Anweisung gefunden: '%1'.");
     case SyntaxFault::NoSelect:
         return QStringLiteral("Unzulässige SQL-Anweisung; 'SELECT' erwartet: '%1'.");
     case SyntaxFault::From:

@@ -4,18 +4,7 @@
 
 #include <QStringView>
 
-enum class SyntaxFault : quint8 {
-    General,
-    Operator,
-    Comma,
-    Text,
-    Date,
-    Bracket,
-    Ending,
-    NoSelect,
-    From,
-    Nesting
-};
+enum class SyntaxFault : quint8 { General, Operator, Comma, Text, Date, NoSelect, From, Nesting };
 
 /// Error 3075 with its reason and the place at fault, a long one cut off.
 RuntimeError syntaxError(SyntaxFault fault, QStringView place);

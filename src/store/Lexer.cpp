@@ -57,8 +57,6 @@ private:
             return readText();
         case u'#':
             return readDate();
-        case u'[':
-            return readBracketedName();
         default:
             readSymbol(first);
         }
@@ -81,14 +79,6 @@ private:
         qsizetype end = m_place + 1;
         while (isNamePart(at(end))) ++end;
         add(TokenKind::Name, end - m_place);
-    }
-
-    void readBracketedName() {
-        const qsizetype end = m_source.indexOf(u']', m_place);
-        if (end < 0) throw syntaxError(SyntaxFault::Bracket, rest());
-        for (const QChar c : m_source.sliced(m_place, end - m_place))
-            if (c < u' ') throw syntaxError(SyntaxFault::General, rest());
-        add(TokenKind::BracketedName, end + 1 - m_place);
     }
 
     void readText() {
@@ -169,8 +159,6 @@ private:
             return add(TokenKind::Equal, 1);
         case u'+':
             return add(TokenKind::Plus, 1);
-        case u';':
-            return add(TokenKind::Semicolon, 1);
         case u'<':
             if (second == u'>') return add(TokenKind::Unequal, 2);
             return second == u'=' ? add(TokenKind::LessEqual, 2) : add(TokenKind::Less, 1);

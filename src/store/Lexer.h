@@ -8,7 +8,6 @@
 enum class TokenKind : quint8 {
     End,
     Name,
-    BracketedName,
     TextLiteral,
     NumberLiteral,
     DateLiteral,
@@ -24,8 +23,7 @@ enum class TokenKind : quint8 {
     Greater,
     GreaterEqual,
     Plus,
-    Minus,
-    Semicolon
+    Minus
 };
 
 struct Token {

@@ -9,8 +9,6 @@
 
 namespace {
 
-RuntimeError invalidPattern() { return {93, QStringLiteral("Ungültige Zeichenfolge für Muster")}; }
-
 bool isAsciiText(QByteArrayView text) {
     return std::ranges::all_of(text, [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
@@ -42,7 +40,7 @@ LikePattern::LikePattern(const QString& pattern) {
 /// Reads from behind the bracket to the closing one and returns the place of that.
 qsizetype LikePattern::readClass(const QList<uint>& signs, qsizetype start) {
     const qsizetype end = signs.indexOf(U']', start);
-    if (end < 0) throw invalidPattern();
+    if (end < 0) throw runtimeError(93);
     Element element{.kind = Kind::Class};
     qsizetype i = start;
     if (end - i > 1 && signs[i] == U'!') {

@@ -19,7 +19,7 @@ struct SelectPlan {
     QByteArray sql;
     std::vector<ResultColumn> columns;
     /// The table that the result can be edited in; its row number is then the first column of the statement,
-    /// before the result's own. Null for joins, aggregates and DISTINCT.
+    /// before the result's own. Null for joins and aggregates.
     const TableSpec* editable = nullptr;
 
     int firstColumn() const { return editable != nullptr ? 1 : 0; }

@@ -184,8 +184,7 @@ Operand SelectRewriter::value() const {
 
 void requireEnd(TokenReader& reader) {
     if (reader.at(TokenKind::Comma)) reader.fail(SyntaxFault::Comma);
-    const bool ended = reader.accept(TokenKind::Semicolon);
-    if (!reader.at(TokenKind::End)) reader.fail(ended ? SyntaxFault::Ending : SyntaxFault::Operator);
+    if (!reader.at(TokenKind::End)) reader.fail(SyntaxFault::Operator);
 }
 
 } // namespace

@@ -56,16 +56,12 @@ void TokenReader::expectWord(QStringView word, SyntaxFault fault) {
 
 bool TokenReader::atName(size_t ahead) const {
     const Token& token = peek(ahead);
-    if (token.kind == TokenKind::BracketedName) return true;
     return token.kind == TokenKind::Name && !isLanguageWord(textOf(token));
 }
 
 QString TokenReader::takeName(SyntaxFault fault) {
     if (!atName()) fail(fault);
-    const Token& token = take();
-    const QStringView text = textOf(token);
-    if (token.kind == TokenKind::Name) return text.toString();
-    return text.sliced(1, text.size() - 2).trimmed().toString();
+    return textOf(take()).toString();
 }
 
 const Value& TokenReader::literal(const Token& token) const {
