@@ -35,23 +35,6 @@ constexpr int ersteRechteSpalte = 2;
 /// Where the grid of users shows the group's name.
 constexpr int gruppenSpalte = 3;
 
-Recordset oeffne(const QString& nameOrSelect, RecordsetType type) {
-    return session().AktDatenbank.OpenRecordset(nameOrSelect, type);
-}
-
-/// Opens the table and seeks the number that the form shows. False also when the seek itself failed: there
-/// is then no current record to write to.
-bool findeOffenen(ErrorTail& step, Recordset& satz, const QString& tabelle, const ValueLabel* nummer) {
-    bool gefunden = false;
-    step([&] { satz = oeffne(tabelle, dbOpenTable); });
-    step([&] { satz.Index(u"PrimaryKey"_qs); });
-    step([&] {
-        satz.Seek(u"="_qs, CLng(nummer->Caption()));
-        gefunden = !satz.NoMatch();
-    });
-    return gefunden;
-}
-
 void zeigeAnzahl(ValueLabel* label, const DataTable* grid) {
     label->setCaption(QString::number(grid->rowCount()));
 }
@@ -88,7 +71,7 @@ void SpeicherBenutzer() {
     withErrorTail(modul, u"SpeicherBenutzer"_qs, [](ErrorTail& step) {
         const Benutzer& form = screen<Benutzer>();
         Recordset benutzer;
-        step([&] { benutzer = oeffne(u"Benutzer"_qs, dbOpenTable); });
+        step([&] { benutzer = oeffneTabelle(u"Benutzer"_qs); });
         const qint32 gnr = ErmittleGNr(form.cboBG->Text());
         if (gnr == 0) return LeereBenutzerEingabe();
         step([&] { benutzer.AddNew(); });
@@ -111,7 +94,7 @@ void UpdateBenutzer(int row) {
     withErrorTail(modul, u"UpdateBenutzer"_qs, [row](ErrorTail& step) {
         const Benutzer& form = screen<Benutzer>();
         Recordset benutzer;
-        if (findeOffenen(step, benutzer, u"Benutzer"_qs, form.lblBNr)) {
+        if (modRun::findeIn(step, benutzer, u"Benutzer"_qs, form.lblBNr->Caption())) {
             const qint32 gnr = ErmittleGNr(form.cboBG->Text());
             if (gnr == 0) return LeereBenutzerEingabe();
             step([&] { benutzer.Edit(); });
@@ -136,7 +119,7 @@ void LoescheBenutzer(int row) {
     withErrorTail(modul, u"LoescheBenutzer"_qs, [row](ErrorTail& step) {
         const Benutzer& form = screen<Benutzer>();
         Recordset benutzer;
-        if (findeOffenen(step, benutzer, u"Benutzer"_qs, form.lblBNr)) {
+        if (modRun::findeIn(step, benutzer, u"Benutzer"_qs, form.lblBNr->Caption())) {
             step([&] { benutzer.Delete(); });
             step([&] { form.tblBenutzer->removeRow(modRun::zeileVon(form.tblBenutzer, form.lblBNr, row)); });
             zeigeAnzahl(form.lblBAnzahl, form.tblBenutzer);
@@ -152,7 +135,7 @@ void SpeicherBG() {
     withErrorTail(modul, u"SpeicherBG"_qs, [](ErrorTail& step) {
         const Benutzer& form = screen<Benutzer>();
         Recordset gruppe;
-        step([&] { gruppe = oeffne(u"Gruppen"_qs, dbOpenTable); });
+        step([&] { gruppe = oeffneTabelle(u"Gruppen"_qs); });
         step([&] { gruppe.AddNew(); });
         step([&] { gruppe.Collect(u"GName"_qs, form.txtGruppe->Text()); });
         step([&] { SichereZugriff(gruppe); });
@@ -169,7 +152,7 @@ void UpdateBG(int row) {
     withErrorTail(modul, u"UpdateBG"_qs, [row](ErrorTail& step) {
         const Benutzer& form = screen<Benutzer>();
         Recordset gruppe;
-        if (findeOffenen(step, gruppe, u"Gruppen"_qs, form.lblGNr)) {
+        if (modRun::findeIn(step, gruppe, u"Gruppen"_qs, form.lblGNr->Caption())) {
             step([&] { gruppe.Edit(); });
             step([&] { gruppe.Collect(u"GName"_qs, form.txtGruppe->Text()); });
             step([&] { SichereZugriff(gruppe); });
@@ -193,7 +176,7 @@ void LoescheZugriff(int row) {
     withErrorTail(modul, u"LoescheZugriff"_qs, [row](ErrorTail& step) {
         const Benutzer& form = screen<Benutzer>();
         Recordset gruppe;
-        if (findeOffenen(step, gruppe, u"Gruppen"_qs, form.lblGNr)) {
+        if (modRun::findeIn(step, gruppe, u"Gruppen"_qs, form.lblGNr->Caption())) {
             step([&] { gruppe.Delete(); });
             step([&] { form.tblZugriff->removeRow(modRun::zeileVon(form.tblZugriff, form.lblGNr, row)); });
             zeigeAnzahl(form.lblGAnzahl, form.tblZugriff);
@@ -216,9 +199,7 @@ qint32 ErmittleGNr(const QString& name) {
     qint32 gnr = 0;
     withErrorTail(modul, u"ErmittleGNr"_qs, [&](ErrorTail& step) {
         Recordset gruppe;
-        step([&] {
-            gruppe = oeffne(u"SELECT GNr FROM Gruppen WHERE GName = "_qs + quoted(name), dbOpenDynaset);
-        });
+        step([&] { gruppe = oeffneAbfrage(u"SELECT GNr FROM Gruppen WHERE GName = "_qs + quoted(name)); });
         if (step.test([&] { return gruppe.RecordCount() != 1; }))
             MsgBox(u"Keine Benutzergruppe angelegt! Bitte legen Sie zuerst eine Gruppe an."_qs, vbCritical);
         else
@@ -234,8 +215,7 @@ QString ErmittleGName(qint32 gnr) {
     withErrorTail(u"modBasis"_qs, u"SpeicherFisch"_qs, [&](ErrorTail& step) {
         Recordset gruppe;
         step([&] {
-            gruppe =
-                oeffne(u"SELECT GName FROM Gruppen WHERE GNr = "_qs + QString::number(gnr), dbOpenDynaset);
+            gruppe = oeffneAbfrage(u"SELECT GName FROM Gruppen WHERE GNr = "_qs + QString::number(gnr));
         });
         if (step.test([&] { return gruppe.RecordCount() == 1; }))
             step([&] { name = CStr(gruppe.Collect(u"GName"_qs)); });

@@ -1,35 +1,9 @@
 #include "Benutzer.h"
-#include "DataTable.h"
-#include "ErrorTail.h"
 #include "Screens.h"
-#include "Session.h"
 #include "modBenutzer.h"
 #include "modStart.h"
 
-#include <functional>
-
 namespace modStart {
-
-namespace {
-
-/// A grid row from each record that the statement finds.
-void fuelleGrid(const QString& routine, DataTable* grid, const QString& select,
-                const std::function<std::vector<Value>(const Recordset&)>& zeile) {
-    withErrorTail(u"modStart"_qs, routine, [&](ErrorTail& step) {
-        Recordset satz;
-        step([&] { satz = session().AktDatenbank.OpenRecordset(select, dbOpenDynaset); });
-        if (step.test([&] { return satz.RecordCount() != 0; })) {
-            step([&] { satz.MoveFirst(); });
-            while (step.test([&] { return !satz.Eof(); })) {
-                step([&] { grid->appendRow(zeile(satz)); });
-                step([&] { satz.MoveNext(); });
-            }
-        }
-        step([&] { satz.Close(); });
-    });
-}
-
-} // namespace
 
 void loadTblBenutzer() {
     fuelleGrid(u"loadTblBenutzer"_qs, screen<Benutzer>().tblBenutzer,

@@ -13,8 +13,8 @@ namespace {
 struct Tool {
     QString program;
     QStringList arguments;
-    QString
-        page{}; ///< the desktop's entry for the page that the arguments name; releases name it differently
+    /// The desktop's entry for the page that the arguments name; releases name it differently.
+    QString page{};
 };
 
 /// Where desktops keep what they tell about the machine, the settings programs' own pages first.

@@ -19,6 +19,8 @@ namespace modSystem {
 namespace {
 
 const QString twoDecimals = u"###0.00"_qs;
+const QString labelJahresbeitrag = u"Jahresbeitrag"_qs;
+const QString labelFangjahr = u"akt. Fangjahr"_qs;
 
 /// A line of the address: its field and its box.
 struct AddressLine {
@@ -64,38 +66,31 @@ void showAddress(ErrorTail& step, const Recordset& parameter) {
 
 } // namespace
 
-QString labelJahresbeitrag() { return u"Jahresbeitrag"_qs; }
-QString labelFangjahr() { return u"akt. Fangjahr"_qs; }
 QString labelPflichtStd() { return u"Pflicht-Std. (Arbeit)"_qs; }
 
 void loadTblSystem() {
     withErrorTail(u"modStart"_qs, u"loadTblSystem"_qs, [](ErrorTail& step) {
         Recordset parameter;
         DataTable* grid = screen<System>().tblSystem;
-        step([&] {
-            parameter = session().AktDatenbank.OpenRecordset(u"SELECT * FROM System"_qs, dbOpenDynaset);
-        });
+        step([&] { parameter = oeffneAbfrage(u"SELECT * FROM System"_qs); });
         if (step.test([&] { return parameter.RecordCount() != 0; })) step([&] { parameter.MoveFirst(); });
-        while (step.test([&] { return !parameter.Eof(); })) {
+        step.forEachRow(parameter, [&] {
             const auto value = [&](const QString& field) { return parameter.Fields(field).Value(); };
-            step([&] {
-                grid->appendRow({labelJahresbeitrag(), Format(value(u"JBeitrag"_qs), twoDecimals)});
-            });
-            step([&] { grid->appendRow({labelFangjahr(), value(u"FJahr"_qs)}); });
+            step([&] { grid->appendRow({labelJahresbeitrag, Format(value(u"JBeitrag"_qs), twoDecimals)}); });
+            step([&] { grid->appendRow({labelFangjahr, value(u"FJahr"_qs)}); });
             step([&] { grid->appendRow({labelPflichtStd(), Format(value(u"PflichtStd"_qs), twoDecimals)}); });
             showAddress(step, parameter);
-            step([&] { parameter.MoveNext(); });
-        }
+        });
         step([&] { parameter.Close(); });
     });
 }
 
 void UpdateParameter() {
     System& form = screen<System>();
-    Recordset parameter = session().AktDatenbank.OpenRecordset(u"System"_qs, dbOpenTable);
+    Recordset parameter = oeffneTabelle(u"System"_qs);
     parameter.Edit();
-    writeParameter(parameter, {u"FJahr"_qs, form.txtFJahr, labelFangjahr()});
-    writeParameter(parameter, {u"JBeitrag"_qs, form.txtJB, labelJahresbeitrag()});
+    writeParameter(parameter, {u"FJahr"_qs, form.txtFJahr, labelFangjahr});
+    writeParameter(parameter, {u"JBeitrag"_qs, form.txtJB, labelJahresbeitrag});
     writeParameter(parameter, {u"PflichtStd"_qs, form.txtArbStd, labelPflichtStd()});
     parameter.Update();
     parameter.Close();
@@ -103,7 +98,7 @@ void UpdateParameter() {
 }
 
 void UpdateAdresse() {
-    Recordset parameter = session().AktDatenbank.OpenRecordset(u"System"_qs, dbOpenTable);
+    Recordset parameter = oeffneTabelle(u"System"_qs);
     parameter.Edit();
     for (const AddressLine& line : address()) parameter.Collect(line.field, line.box->Text());
     parameter.Update();

@@ -5,9 +5,7 @@
 /// The one row of the club's parameters.
 namespace modSystem {
 
-/// The labels of the parameters in the grid, by which other routines find their rows.
-QString labelJahresbeitrag();
-QString labelFangjahr();
+/// The label of the hours owed in the grid, by which other routines find their row.
 QString labelPflichtStd();
 
 /// Reads the row into the grid, the address boxes and the labels of Info.

@@ -3,6 +3,7 @@
 #include "ComboBox.h"
 #include "DataTable.h"
 #include "Drucklauf.h"
+#include "ExcelAusgabe.h"
 #include "Fangbuch.h"
 #include "Main.h"
 #include "MsgBox.h"
@@ -55,7 +56,7 @@ void Fangauswertung::tbSuch_Click() {
                    u"Bendenken Sie das die Ladezeit je nach Grösse der Datenbank sehr lange dauern kann !"_qs,
                    vbYesNo);
         if (s.MsgAntwort != vbYes) {
-            MsgBox(u"Vorgang von User abgebrochen !"_qs, vbInformation);
+            modRun::MeldeAbgebrochen();
             return;
         }
     }
@@ -65,20 +66,13 @@ void Fangauswertung::tbSuch_Click() {
 }
 
 void Fangauswertung::tbExcel_Click() {
-    Session& s = session();
-    s.MsgAntwort = MsgBox(
+    erzeugeAufWunsch(
+        *tblFAusw,
         u"Wollen Sie eine in Excel zu importierende Datei mit der Bezeichnung - FANG.csv - erzeugen ?\n\r"_qs
         u"ACHTUNG: Der Datei liegen die gerade erzeugten Fangdaten zugrunde ! "_qs
         u"Wollen Sie die Datei jetzt erzeugen ?"_qs,
-        vbYesNo);
-    if (s.MsgAntwort != vbYes) {
-        MsgBox(u"Vorgang von User abgebrochen !"_qs, vbInformation);
-    } else if (tblFAusw->rowCount() == 0) {
-        MsgBox(u"Keine Daten zum erzeugen der Datei - FANG.csv - gefunden, der Vorgang wird abgebrochen !"_qs,
-               vbInformation);
-    } else {
-        modFAuswert::ErzeugeFangDatei();
-    }
+        u"Keine Daten zum erzeugen der Datei - FANG.csv - gefunden, der Vorgang wird abgebrochen !"_qs,
+        &modFAuswert::ErzeugeFangDatei);
 }
 
 void Fangauswertung::drucke(const QString& wort) {
@@ -98,7 +92,7 @@ void Fangauswertung::tblFAusw_OnGridCellMenu() {
 void Fangauswertung::tblFAusw_OnGridCellOpen(int row) {
     if (row < 0) return;
     if (!modFangbuch::FangbuchZugriff_Erlaubt()) {
-        MsgBox(u"Sie haben keine Zugriffsberechtigung auf diese Funktion !"_qs, vbInformation);
+        modRun::MeldeKeinZugriff();
         return;
     }
     modFangbuch::FangAnzeigeLoeschen();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Screen.h"
+#include "Vergleich.h"
 
 class ComboBox;
 class DataTable;
@@ -23,12 +24,6 @@ public:
 
     void Form_Load() override;
     void Form_Activate() override;
-
-    /// A lower or upper bound: its comparison and its number.
-    struct Bound {
-        ComboBox* comparison;
-        TextBox* number;
-    };
 
     Heading* Ueberschrift;
     Toolbar* Toolbar1;
@@ -74,7 +69,7 @@ private:
     void connectEvents();
 
     ComboBox* addList(const QString& name, QCheckBox* captionedBy);
-    Bound addBound(const QString& list, const QString& box, const QString& spoken, bool enabled);
+    Vergleich addBound(const QString& list, const QString& box, const QString& spoken);
     /// A click on the check box enables its controls and sets its flag, or the reverse.
     void connectFilter(QCheckBox* box, std::size_t flag, const QVector<QWidget*>& controls);
 

@@ -53,19 +53,10 @@ ComboBox* Fangauswertung::addList(const QString& name, QCheckBox* captionedBy) {
     return list;
 }
 
-Fangauswertung::Bound Fangauswertung::addBound(const QString& list, const QString& box, const QString& spoken,
-                                               bool enabled) {
-    Bound bound{new ComboBox(list, ComboBox::Order::AsAdded, ComboBox::Kind::DropDownList, Frame1),
-                new TextBox(box, Frame1)};
-    for (const QString& comparison : {u"="_qs, u">"_qs, u">="_qs, u"<"_qs, u"<="_qs, u"<>"_qs})
-        bound.comparison->AddItem(comparison);
-    bound.comparison->setListIndex(-1);
-    bound.comparison->setAccessibleName(spoken + u", Vergleich"_qs);
-    bound.comparison->setEnabled(false);
-    bound.number->setAccessibleName(spoken);
-    bound.number->setAlignment(Qt::AlignRight);
-    bound.number->setKeyFilter(&modRun::FilterZiffern);
-    bound.number->setEnabled(enabled);
+Vergleich Fangauswertung::addBound(const QString& list, const QString& box, const QString& spoken) {
+    const Vergleich bound = Vergleich::neu(list, box, spoken, Frame1);
+    bound.wert->setAlignment(Qt::AlignRight);
+    bound.wert->setKeyFilter(&modRun::FilterZiffern);
     return bound;
 }
 
@@ -85,19 +76,21 @@ void Fangauswertung::buildBounds() {
     Label1 = Face::label(u"Label1"_qs, u"- Untergrenze -"_qs, Frame1);
     Label2 = Face::label(u"Label2"_qs, u"- Obergrenze -"_qs, Frame1);
     chkAnzahl = Face::checkBox(u"chkAnzahl"_qs, u"Anzahl..."_qs, Frame1);
-    const Bound numberLow = addBound(u"cboOptAnz01"_qs, u"txtAnz01"_qs, u"Anzahl, Untergrenze"_qs, false);
-    const Bound numberHigh = addBound(u"cboOptAnz02"_qs, u"txtAnz02"_qs, u"Anzahl, Obergrenze"_qs, true);
+    const Vergleich numberLow = addBound(u"cboOptAnz01"_qs, u"txtAnz01"_qs, u"Anzahl, Untergrenze"_qs);
+    const Vergleich numberHigh = addBound(u"cboOptAnz02"_qs, u"txtAnz02"_qs, u"Anzahl, Obergrenze"_qs);
     chkGewicht = Face::checkBox(u"chkGewicht"_qs, u"Gewicht i. Gramm..."_qs, Frame1);
-    const Bound weightLow = addBound(u"cboOptGew01"_qs, u"txtGew01"_qs, u"Gewicht, Untergrenze"_qs, false);
-    const Bound weightHigh = addBound(u"cboOptGew02"_qs, u"txtGew02"_qs, u"Gewicht, Obergrenze"_qs, true);
-    cboOptAnz01 = numberLow.comparison;
-    txtAnz01 = numberLow.number;
-    cboOptAnz02 = numberHigh.comparison;
-    txtAnz02 = numberHigh.number;
-    cboOptGew01 = weightLow.comparison;
-    txtGew01 = weightLow.number;
-    cboOptGew02 = weightHigh.comparison;
-    txtGew02 = weightHigh.number;
+    const Vergleich weightLow = addBound(u"cboOptGew01"_qs, u"txtGew01"_qs, u"Gewicht, Untergrenze"_qs);
+    const Vergleich weightHigh = addBound(u"cboOptGew02"_qs, u"txtGew02"_qs, u"Gewicht, Obergrenze"_qs);
+    // The upper numbers can be typed in until their filter is ticked and cleared for the first time.
+    for (const Vergleich& high : {numberHigh, weightHigh}) high.wert->setEnabled(true);
+    cboOptAnz01 = numberLow.zeichen;
+    txtAnz01 = numberLow.wert;
+    cboOptAnz02 = numberHigh.zeichen;
+    txtAnz02 = numberHigh.wert;
+    cboOptGew01 = weightLow.zeichen;
+    txtGew01 = weightLow.wert;
+    cboOptGew02 = weightHigh.zeichen;
+    txtGew02 = weightHigh.wert;
 }
 
 void Fangauswertung::layOutFilters() {
@@ -114,12 +107,12 @@ void Fangauswertung::layOutFilters() {
     addLine(1, right, chkGName, cboGName);
     form->addWidget(Label1, 2, 1, 1, 2, Qt::AlignHCenter);
     form->addWidget(Label2, 2, right + 1, 1, 2, Qt::AlignHCenter);
-    const auto addBounds = [form](int row, QWidget* box, const Bound& low, const Bound& high) {
+    const auto addBounds = [form](int row, QWidget* box, const Vergleich& low, const Vergleich& high) {
         form->addWidget(box, row, 0);
-        form->addWidget(low.comparison, row, 1);
-        form->addWidget(low.number, row, 2);
-        form->addWidget(high.comparison, row, right + 1);
-        form->addWidget(high.number, row, right + 2);
+        form->addWidget(low.zeichen, row, 1);
+        form->addWidget(low.wert, row, 2);
+        form->addWidget(high.zeichen, row, right + 1);
+        form->addWidget(high.wert, row, right + 2);
     };
     addBounds(3, chkAnzahl, {cboOptAnz01, txtAnz01}, {cboOptAnz02, txtAnz02});
     addBounds(4, chkGewicht, {cboOptGew01, txtGew01}, {cboOptGew02, txtGew02});
@@ -149,10 +142,7 @@ void Fangauswertung::buildGrid() {
 }
 
 QWidget* Fangauswertung::layOutSums() {
-    auto* line = new QWidget(this);
-    auto* row = new QHBoxLayout(line);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(Face::gap);
+    QHBoxLayout* row = Face::line(this);
     row->addWidget(pb, 1);
     row->addStretch();
     const auto add = [row](QLabel* caption, ValueLabel* value) {
@@ -163,7 +153,7 @@ QWidget* Fangauswertung::layOutSums() {
     add(lblAnzDS, lblGefDS);
     add(lblSAnz, lblSumAnz);
     add(lblSGew, lblSumGew);
-    return line;
+    return row->parentWidget();
 }
 
 void Fangauswertung::connectFilter(QCheckBox* box, std::size_t flag, const QVector<QWidget*>& controls) {
@@ -185,7 +175,5 @@ void Fangauswertung::connectEvents() {
     on(tblFAusw, &DataTable::OnGridCellOpen, [this](int row, int) { tblFAusw_OnGridCellOpen(row); });
     on(tblFAusw, &DataTable::OnGridCellMenu, [this] { tblFAusw_OnGridCellMenu(); });
     modRun::connectGridFocus(tblFAusw);
-    // Here the selection also goes when the grid receives the focus.
-    on(tblFAusw, &DataTable::OnGridGotFocus,
-       [this] { tblFAusw->selectRows(0, tblFAusw->rowCount(), false); });
+    modRun::leereAuswahlBeiFokus(tblFAusw);
 }

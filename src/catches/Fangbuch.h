@@ -75,6 +75,6 @@ private:
     void tblFList_OnGridCellOpen(int row);
 
     bool m_offen = false; ///< whether an entry stood open when the screen was left
-    qint16 m_tastenZaehler =
-        0; ///< keys pressed in txtMonNr since it got the focus; the second ends the month
+    /// Keys pressed in txtMonNr since it got the focus; the second ends the month.
+    qint16 m_tastenZaehler = 0;
 };

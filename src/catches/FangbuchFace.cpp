@@ -165,7 +165,5 @@ void Fangbuch::connectEvents() {
     on(txtNotiz, &MemoBox::LostFocus, [this] { cboFArt->setFocus(); });
     on(tblFList, &DataTable::OnGridCellOpen, [this](int row, int) { tblFList_OnGridCellOpen(row); });
     modRun::connectGridFocus(tblFList);
-    // Here the selection also goes when the grid receives the focus.
-    on(tblFList, &DataTable::OnGridGotFocus,
-       [this] { tblFList->selectRows(0, tblFList->rowCount(), false); });
+    modRun::leereAuswahlBeiFokus(tblFList);
 }

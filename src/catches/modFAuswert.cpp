@@ -32,23 +32,8 @@ QString selektion() {
     return text;
 }
 
-Recordset abfrage(const QString& select) {
-    return session().AktDatenbank.OpenRecordset(select, dbOpenDynaset);
-}
-
-using Bound = Fangauswertung::Bound;
-
-QString klausel(const QString& field, const Bound& bound) {
-    return u" AND fa."_qs + field + u' ' + bound.comparison->Text() + u' ' + bound.number->Text();
-}
-
-/// Both halves filled, or the lower one alone.
-bool boundGueltig(const QCheckBox* box, const Bound& low, const Bound& high) {
-    if (!box->isChecked()) return true;
-    const bool lowFilled = !low.comparison->Text().isEmpty() && !low.number->Text().isEmpty();
-    const bool highFilled = !high.comparison->Text().isEmpty() && !high.number->Text().isEmpty();
-    const bool highEmpty = high.comparison->Text().isEmpty() && high.number->Text().isEmpty();
-    return lowFilled && (highFilled || highEmpty);
+QString klausel(const QString& field, const Vergleich& bound) {
+    return u" AND fa."_qs + field + u' ' + bound.zeichen->Text() + u' ' + bound.wert->Text();
 }
 
 bool listeGueltig(const QCheckBox* box, const ComboBox* list) {
@@ -56,7 +41,7 @@ bool listeGueltig(const QCheckBox* box, const ComboBox* list) {
 }
 
 void zeigeSumme(ErrorTail& step, Recordset& summe, ValueLabel* label, const QString& field) {
-    step([&] { summe = abfrage(u"SELECT SUM(fa."_qs + field + u")"_qs + selektion()); });
+    step([&] { summe = oeffneAbfrage(u"SELECT SUM(fa."_qs + field + u")"_qs + selektion()); });
     const auto wert = [&] { return summe.Collect(u"Expr1000"_qs); };
     if (step.test([&] { return wert().isNull(); }))
         label->setCaption(u"0"_qs);
@@ -71,16 +56,14 @@ void fuelleListe(ErrorTail& step, Recordset& liste, Fangauswertung& form) {
     form.pb->show();
     step([&] { liste.MoveFirst(); });
     step([&] { felder = liste.Fields(); });
-    while (step.test([&] { return !liste.Eof(); })) {
-        // A cell that cannot be read costs that cell, not the row.
-        for (std::size_t i = 0; i < felder.size(); ++i) step([&] { zeile[i] = felder[i].Value(); });
+    step.forEachRow(liste, [&] {
+        modRun::leseZellen(step, felder, zeile);
         // The grid has the month, by its name, before the year.
         std::swap(zeile[3], zeile[4]);
         step([&] { zeile[3] = modRun::ErmittleMonatsname(CLng(zeile[3])); });
         step([&] { form.tblFAusw->appendRow(zeile); });
-        step([&] { liste.MoveNext(); });
         form.pb->setProgress(++count);
-    }
+    });
 }
 
 } // namespace
@@ -96,12 +79,12 @@ void LadeAuswahl() {
         });
         Recordset liste, anzahl, summeAnzahl, summeGewicht;
         step([&] {
-            liste = abfrage(
+            liste = oeffneAbfrage(
                 u"SELECT fa.FangNr, f.FName, g.GName, fa.FangJahr, fa.FangMonat, fa.Anzahl, fa.Gewicht"_qs +
                 selektion());
         });
         qint32 gefunden = 0;
-        step([&] { anzahl = abfrage(u"SELECT COUNT(fa.FangNr)"_qs + selektion()); });
+        step([&] { anzahl = oeffneAbfrage(u"SELECT COUNT(fa.FangNr)"_qs + selektion()); });
         const auto wert = [&] { return anzahl.Collect(u"Expr1000"_qs); };
         if (step.test([&] { return wert().isNull() || CLng(wert()) == 0; })) {
             form.lblGefDS->setCaption(u"0"_qs);
@@ -143,10 +126,9 @@ bool AuswahlGueltig() {
     const Fangauswertung& form = screen<Fangauswertung>();
     return listeGueltig(form.chkFArt, form.cboFArt) && listeGueltig(form.chkArchiv, form.cboFJahr) &&
            listeGueltig(form.chkFMonat, form.cboFMonat) &&
-           boundGueltig(form.chkGewicht, {form.cboOptGew01, form.txtGew01},
-                        {form.cboOptGew02, form.txtGew02}) &&
-           boundGueltig(form.chkAnzahl, {form.cboOptAnz01, form.txtAnz01},
-                        {form.cboOptAnz02, form.txtAnz02}) &&
+           istGueltig(form.chkGewicht, {form.cboOptGew01, form.txtGew01},
+                      {form.cboOptGew02, form.txtGew02}) &&
+           istGueltig(form.chkAnzahl, {form.cboOptAnz01, form.txtAnz01}, {form.cboOptAnz02, form.txtAnz02}) &&
            listeGueltig(form.chkGName, form.cboGName);
 }
 
@@ -157,12 +139,10 @@ void leereFilter(QCheckBox* box, ComboBox* list) {
     box->setChecked(false);
 }
 
-void leereBounds(QCheckBox* box, const Bound& low, const Bound& high) {
-    for (const Bound& bound : {low, high}) {
-        bound.comparison->setListIndex(-1);
-        bound.comparison->setEnabled(false);
-        bound.number->setText(QString());
-        bound.number->setEnabled(false);
+void leereBounds(QCheckBox* box, const Vergleich& low, const Vergleich& high) {
+    for (const Vergleich& bound : {low, high}) {
+        bound.leere();
+        bound.setEnabled(false);
     }
     box->setChecked(false);
 }

@@ -1,12 +1,9 @@
 #include "CsvDatei.h"
 #include "DataTable.h"
-#include "ExcelAnzeige.h"
+#include "ExcelAusgabe.h"
 #include "Fangauswertung.h"
-#include "MsgBox.h"
-#include "RuntimeError.h"
 #include "Screens.h"
 #include "SeqData.h"
-#include "Session.h"
 #include "modFAuswert.h"
 #include "modRun.h"
 
@@ -49,18 +46,11 @@ void schreibeDatei(const DataTable& grid) {
 } // namespace
 
 void ErzeugeFangDatei() {
-    try {
-        schreibeDatei(*screen<Fangauswertung>().tblFAusw);
-    } catch (const RuntimeError&) {
-        MsgBox(u"ACHTUNG: Ein unerwarteter Fehler trat beim Erzeugen der Fangdatei - FANG.csv - auf !\r\n"_qs
-               u"Bitte überprüfen Sie ob noch genug Speicher auf den Datenträger verfügbar ist."_qs,
-               vbCritical);
-        return;
-    }
-    MsgBox(u"Datei - FANG.CSV - wurde erfolgreich im Pfad: ..\\uferwart\\seqdata\\ erstellt !"_qs,
-           vbInformation);
-    session().MsgAntwort = MsgBox(u"Möchten Sie jetzt Excel starten ?"_qs, vbYesNo);
-    if (session().MsgAntwort == vbYes) StarteExcelFang();
+    schreibeFuerExcel(
+        [] { schreibeDatei(*screen<Fangauswertung>().tblFAusw); },
+        u"ACHTUNG: Ein unerwarteter Fehler trat beim Erzeugen der Fangdatei - FANG.csv - auf !"_qs,
+        u"Datei - FANG.CSV - wurde erfolgreich im Pfad: ..\\uferwart\\seqdata\\ erstellt !"_qs,
+        &StarteExcelFang);
 }
 
 void StarteExcelFang() {

@@ -21,10 +21,6 @@ namespace {
 
 const QString modul = u"modFangbuch"_qs;
 
-Recordset oeffne(const QString& nameOrSelect, RecordsetType type) {
-    return session().AktDatenbank.OpenRecordset(nameOrSelect, type);
-}
-
 /// The seven fields of the form, in the order in which they are written.
 void schreibeFelder(ErrorTail& step, Recordset& fang, const Fangbuch& form) {
     step([&] { fang.Collect(u"FangJahr"_qs, CLng(form.cboFJahr->Text())); });
@@ -36,18 +32,9 @@ void schreibeFelder(ErrorTail& step, Recordset& fang, const Fangbuch& form) {
     step([&] { fang.Collect(u"Gewicht"_qs, CLng(form.txtGewicht->Text())); });
 }
 
-/// Opens the table and seeks the record whose number the form shows. False also when the seek itself failed:
-/// there is then no current record, and the routine tells that instead of stumbling over each further
-/// statement.
+/// Seeks the record whose number the form shows.
 bool findeOffenen(ErrorTail& step, Recordset& fang, const Fangbuch& form) {
-    bool gefunden = false;
-    step([&] { fang = oeffne(u"Fang"_qs, dbOpenTable); });
-    step([&] { fang.Index(u"PrimaryKey"_qs); });
-    step([&] {
-        fang.Seek(u"="_qs, CLng(form.lblFNr->Caption()));
-        gefunden = !fang.NoMatch();
-    });
-    return gefunden;
+    return modRun::findeIn(step, fang, u"Fang"_qs, form.lblFNr->Caption());
 }
 
 bool imGewaehltenMonat(const Fangbuch& form) {
@@ -83,7 +70,7 @@ void SpeicherFang() {
     withErrorTail(modul, u"SpeicherFang"_qs, [](ErrorTail& step) {
         Fangbuch& form = screen<Fangbuch>();
         Recordset fang;
-        step([&] { fang = oeffne(u"Fang"_qs, dbOpenTable); });
+        step([&] { fang = oeffneTabelle(u"Fang"_qs); });
         step([&] { fang.AddNew(); });
         schreibeFelder(step, fang, form);
         if (modRun::speichereNeuen(step, fang)) zeigeNeuen(step, fang, form);
@@ -164,10 +151,10 @@ void loadFang(DataTable* grid, int row) {
     withErrorTail(modul, u"loadFang"_qs, [grid, row](ErrorTail& step) {
         Recordset fang;
         step([&] {
-            fang = oeffne(u"SELECT fa.FangNr, f.FName, g.GName, fa.FangMonat, fa.Anzahl, "
-                          u"fa.Gewicht, fa.Notiz FROM Fang fa , Fisch f, Gewaesser g WHERE fa.FangNr = "_qs +
-                              grid->cellText(row, 0) + u" AND fa.FischNr = f.FNr AND fa.GNr = g.GNr"_qs,
-                          dbOpenDynaset);
+            fang = oeffneAbfrage(
+                u"SELECT fa.FangNr, f.FName, g.GName, fa.FangMonat, fa.Anzahl, "
+                u"fa.Gewicht, fa.Notiz FROM Fang fa , Fisch f, Gewaesser g WHERE fa.FangNr = "_qs +
+                grid->cellText(row, 0) + u" AND fa.FischNr = f.FNr AND fa.GNr = g.GNr"_qs);
         });
         if (step.test([&] { return fang.RecordCount() != 0; }))
             zeigeFang(step, fang, screen<Fangbuch>());
@@ -210,9 +197,8 @@ QString Ermittle_DSAnzahl() {
     withErrorTail(modul, u"Ermittle_DSAnzahl"_qs, [&](ErrorTail& step) {
         Recordset fang;
         step([&] {
-            fang = oeffne(u"SELECT COUNT(fa.FangNr) FROM Fang fa WHERE fa.FangJahr = "_qs +
-                              screen<Fangbuch>().cboFJahr->Text(),
-                          dbOpenDynaset);
+            fang = oeffneAbfrage(u"SELECT COUNT(fa.FangNr) FROM Fang fa WHERE fa.FangJahr = "_qs +
+                                 screen<Fangbuch>().cboFJahr->Text());
         });
         step([&] {
             const Value count = fang.Collect(u"Expr1000"_qs);

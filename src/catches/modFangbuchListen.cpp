@@ -19,10 +19,6 @@ namespace modFangbuch {
 
 namespace {
 
-Recordset abfrage(const QString& select) {
-    return session().AktDatenbank.OpenRecordset(select, dbOpenDynaset);
-}
-
 /// The entries of the month, streamed from the file into the grid.
 void fuelleListe(ErrorTail& step, Recordset& liste, DataTable* grid, ProgressBar* pb) {
     qint64 count = 0;
@@ -30,14 +26,12 @@ void fuelleListe(ErrorTail& step, Recordset& liste, DataTable* grid, ProgressBar
     std::vector<Field> felder;
     step([&] { liste.MoveFirst(); });
     step([&] { felder = liste.Fields(); });
-    while (step.test([&] { return !liste.Eof(); })) {
-        // A cell that cannot be read costs that cell, not the row.
-        for (std::size_t i = 0; i < felder.size(); ++i) step([&] { zeile[i] = felder[i].Value(); });
+    step.forEachRow(liste, [&] {
+        modRun::leseZellen(step, felder, zeile);
         step([&] { zeile[3] = modRun::ErmittleMonatsname(CLng(zeile[3])); });
         step([&] { grid->appendRow(zeile); });
-        step([&] { liste.MoveNext(); });
         pb->setProgress(++count);
-    }
+    });
 }
 
 } // namespace
@@ -49,16 +43,16 @@ void loadTblFList(ProgressBar* pb) {
         Recordset liste;
         Recordset anzahl;
         step([&] {
-            liste = abfrage(u"SELECT fa.FangNr, f.FName, g.GName, fa.FangMonat, fa.Anzahl, "
-                            u"fa.Gewicht FROM Fang fa , Fisch f, Gewaesser g WHERE fa.FangJahr = "_qs +
-                            jahr + u"AND fa.FangMonat = "_qs + monat +
-                            u" AND fa.FischNr = f.FNr AND fa.GNr = g.GNr"_qs);
+            liste = oeffneAbfrage(u"SELECT fa.FangNr, f.FName, g.GName, fa.FangMonat, fa.Anzahl, "
+                                  u"fa.Gewicht FROM Fang fa , Fisch f, Gewaesser g WHERE fa.FangJahr = "_qs +
+                                  jahr + u"AND fa.FangMonat = "_qs + monat +
+                                  u" AND fa.FischNr = f.FNr AND fa.GNr = g.GNr"_qs);
         });
         step([&] {
-            anzahl = abfrage(u"SELECT COUNT(fa.FangNr) FROM Fang fa, Fisch f, Gewaesser g WHERE "
-                             u"fa.FangJahr = "_qs +
-                             jahr + u" AND fa.FangMonat = "_qs + monat +
-                             u" AND fa.FischNr = f.FNr AND fa.GNr = g.GNr"_qs);
+            anzahl = oeffneAbfrage(u"SELECT COUNT(fa.FangNr) FROM Fang fa, Fisch f, Gewaesser g WHERE "
+                                   u"fa.FangJahr = "_qs +
+                                   jahr + u" AND fa.FangMonat = "_qs + monat +
+                                   u" AND fa.FischNr = f.FNr AND fa.GNr = g.GNr"_qs);
         });
         pb->show();
         step([&] {
@@ -83,7 +77,7 @@ namespace {
 qint32 grenzjahr(ErrorTail& step, const QString& select) {
     qint32 jahr = session().AktJahr;
     Recordset fang;
-    step([&] { fang = abfrage(select); });
+    step([&] { fang = oeffneAbfrage(select); });
     step([&] {
         const Value value = fang.RecordCount() == 0 ? Value() : fang.Collect(u"Expr1000"_qs);
         if (!value.isNull() && CLng(value) != 0) jahr = CLng(value);
@@ -104,7 +98,7 @@ Result schlageNach(const QString& routine, const QString& field, Result (*conver
     Result result{};
     withErrorTail(u"modFangbuch"_qs, routine, [&](ErrorTail& step) {
         Recordset satz;
-        step([&] { satz = abfrage(select()); });
+        step([&] { satz = oeffneAbfrage(select()); });
         if (step.test([&] { return satz.RecordCount() == 1; }))
             step([&] { result = convert(satz.Collect(field)); });
         step([&] { satz.Close(); });
@@ -116,13 +110,9 @@ Result schlageNach(const QString& routine, const QString& field, Result (*conver
 
 void loadcboFJahr(ComboBox* combo) {
     withErrorTail(u"modFAuswert"_qs, u"loadcboFJahr"_qs, [combo](ErrorTail& step) {
-        const qint32 aktJahr = session().AktJahr;
         const qint32 lowest = grenzjahr(step, u"SELECT MIN(FangJahr) FROM Fang"_qs);
         const qint32 highest = grenzjahr(step, u"SELECT MAX(FangJahr) FROM Fang"_qs);
-        const auto add = [&](qint32 jahr) { combo->AddItem(QString::number(jahr)); };
-        for (qint32 jahr = lowest; jahr <= highest; ++jahr) add(jahr);
-        if (highest < aktJahr) add(aktJahr);
-        for (qint32 jahr = aktJahr; jahr < lowest; ++jahr) add(jahr);
+        modRun::haengeJahreAn(combo, lowest, highest);
     });
 }
 

@@ -23,11 +23,7 @@ Katego::Katego()
     : Screen(u"Katego"_qs, u"Kontakt - Kategorien"_qs) {
     Ueberschrift = new Heading(u"KONTAKT-KATEGORIEN"_qs, this);
     Toolbar1 = new Toolbar(this);
-    Toolbar1->addKey(u"tbSpeichern"_qs, u"&Speichern"_qs, u"Speichern"_qs, u"speichern"_qs);
-    Toolbar1->addSeparator();
-    Toolbar1->addKey(u"tbLoeschen"_qs, u"&Löschen"_qs, u"Löschen"_qs, u"loeschen"_qs);
-    Toolbar1->addSeparator();
-    Toolbar1->addKey(u"tbAnzLoeschen"_qs, u"&Anz. löschen"_qs, u"Anzeige löschen"_qs, u"anzeige-loeschen"_qs);
+    Face::addRecordKeys(Toolbar1);
     Toolbar1->addSeparator();
     Toolbar1->addKey(u"tbEsc"_qs, u"&Schließen"_qs, u"Zurück zur Kontakt - Übersicht"_qs, u"schliessen"_qs);
     buildEntry();

@@ -72,11 +72,7 @@ Kontakt::Kontakt()
 
 void Kontakt::buildToolbar() {
     Toolbar1 = new Toolbar(this);
-    Toolbar1->addKey(u"tbSpeichern"_qs, u"&Speichern"_qs, u"Speichern"_qs, u"speichern"_qs);
-    Toolbar1->addSeparator();
-    Toolbar1->addKey(u"tbLoeschen"_qs, u"&Löschen"_qs, u"Löschen"_qs, u"loeschen"_qs);
-    Toolbar1->addSeparator();
-    Toolbar1->addKey(u"tbAnzLoeschen"_qs, u"&Anz. löschen"_qs, u"Anzeige löschen"_qs, u"anzeige-loeschen"_qs);
+    Face::addRecordKeys(Toolbar1);
 }
 
 TextBox* Kontakt::field(const QString& name, QWidget* parent, int limit) {

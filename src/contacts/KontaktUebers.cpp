@@ -15,6 +15,7 @@
 #include "Uebersicht.h"
 #include "modKontakt.h"
 #include "modNavigation.h"
+#include "modRun.h"
 #include "modSerienbrief.h"
 
 #include <QBoxLayout>
@@ -104,7 +105,7 @@ void KontaktUebers::ErzeugeSerienbriefDatei() {
                           u"erzeugen ?"_qs,
                           vbYesNo);
     if (s.MsgAntwort != vbYes) {
-        MsgBox(u"Vorgang von User abgebrochen !"_qs, vbInformation);
+        modRun::MeldeAbgebrochen();
         return;
     }
     tblKUebers->enter({});
@@ -147,7 +148,7 @@ void KontaktUebers::klappe(int row) {
 void KontaktUebers::tblKUebers_OnGridCellOpen(int row, int column) {
     if (row < 0 || column < 0) return;
     if (!modKontakt::KontaktZugriff_Erlaubt()) {
-        MsgBox(u"Sie haben keine Zugriffsberechtigung auf diese Funktion !"_qs, vbInformation);
+        modRun::MeldeKeinZugriff();
         return;
     }
     session().Modus = u"EDIT"_qs;

@@ -50,7 +50,7 @@ void MitglList::tbSuch_Click() {
     if (std::find(s.MListFilter.begin(), s.MListFilter.end(), true) == s.MListFilter.end()) {
         s.MsgAntwort = MsgBox(u"ACHTUNG: Wirklich alle Mitglieder aus der Datenbank laden ?"_qs, vbYesNo);
         if (s.MsgAntwort != vbYes) {
-            MsgBox(u"Vorgang von User abgebrochen !"_qs, vbInformation);
+            modRun::MeldeAbgebrochen();
             return;
         }
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Screen.h"
+#include "Vergleich.h"
 
 class ComboBox;
 class DataTable;
@@ -25,12 +26,6 @@ public:
 
     void Form_Load() override;
     void Form_Activate() override;
-
-    /// Half of a date filter: its comparison and its day.
-    struct Bound {
-        ComboBox* comparison;
-        TextBox* day;
-    };
 
     /// In the hour view the three columns of hours stand in place of address, telephone and birthday.
     void setHourView(bool on);
@@ -92,7 +87,7 @@ private:
     QWidget* layOutFoot();
     void connectEvents();
 
-    Bound addBound(const QString& list, const QString& box, const QString& spoken);
+    Vergleich addBound(const QString& list, const QString& box, const QString& spoken);
     /// Two options, one of which is always on; `spoken` tells a screen reader what is chosen.
     void addOptions(const QCheckBox* spoken, QRadioButton*& first, const QString& firstName,
                     const QString& firstCaption, QRadioButton*& second, const QString& secondName,

@@ -50,28 +50,20 @@ void MitglList::buildToolbar() {
     Toolbar1->addKey(u"tbEsc"_qs, u"&Schließen"_qs, u"Zurück zur Kontakt - Übersicht"_qs, u"schliessen"_qs);
 }
 
-MitglList::Bound MitglList::addBound(const QString& list, const QString& box, const QString& spoken) {
-    Bound bound{new ComboBox(list, ComboBox::Order::AsAdded, ComboBox::Kind::DropDownList, Frame6),
-                new TextBox(box, Frame6)};
-    for (const QString& comparison : {u"="_qs, u">"_qs, u">="_qs, u"<"_qs, u"<="_qs, u"<>"_qs})
-        bound.comparison->AddItem(comparison);
-    bound.comparison->setListIndex(-1);
-    bound.comparison->setAccessibleName(spoken + u", Vergleich"_qs);
-    bound.comparison->setEnabled(false);
+Vergleich MitglList::addBound(const QString& list, const QString& box, const QString& spoken) {
     constexpr int wholeDate = 10;
-    bound.day->setLimit(wholeDate);
-    bound.day->setAccessibleName(spoken);
-    bound.day->setKeyFilter(&modRun::FilterDatum);
-    bound.day->setEnabled(false);
+    const Vergleich bound = Vergleich::neu(list, box, spoken, Frame6);
+    bound.wert->setLimit(wholeDate);
+    bound.wert->setKeyFilter(&modRun::FilterDatum);
     return bound;
 }
 
 void MitglList::buildDateFilters() {
     const auto add = [this](const QString& list, ComboBox*& comparison, const QString& box, TextBox*& day,
                             const QString& spoken) {
-        const Bound bound = addBound(list, box, spoken);
-        comparison = bound.comparison;
-        day = bound.day;
+        const Vergleich bound = addBound(list, box, spoken);
+        comparison = bound.zeichen;
+        day = bound.wert;
     };
     chkGebDat = Face::checkBox(u"chkGebDat"_qs, u"Geburtsdatum:"_qs, Frame6);
     add(u"cboOptGeb01"_qs, cboOptGeb01, u"txtGeb01"_qs, txtGeb01, u"Geburtsdatum, erster Vergleich"_qs);
@@ -134,11 +126,11 @@ void MitglList::layOutFilters() {
     form->setHorizontalSpacing(Face::gap);
     form->setVerticalSpacing(4);
     constexpr int right = 6;
-    const auto addDates = [form](int row, QCheckBox* box, const Bound& first, const Bound& second) {
+    const auto addDates = [form](int row, QCheckBox* box, const Vergleich& first, const Vergleich& second) {
         form->addWidget(box, row, 0);
         int column = 0;
-        for (QWidget* part : {static_cast<QWidget*>(first.comparison), static_cast<QWidget*>(first.day),
-                              static_cast<QWidget*>(second.comparison), static_cast<QWidget*>(second.day)})
+        for (QWidget* part : {static_cast<QWidget*>(first.zeichen), static_cast<QWidget*>(first.wert),
+                              static_cast<QWidget*>(second.zeichen), static_cast<QWidget*>(second.wert)})
             form->addWidget(part, row, ++column);
     };
     const auto addLeft = [form](int row, QCheckBox* box, QRadioButton* first, QRadioButton* second) {
@@ -171,14 +163,11 @@ void MitglList::layOutFilters() {
 }
 
 QWidget* MitglList::hourLine() {
-    auto* line = new QWidget(Frame6);
-    auto* row = new QHBoxLayout(line);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(Face::gap);
+    QHBoxLayout* row = Face::line(Frame6);
     row->addWidget(chkArbAnz);
     row->addWidget(cboArbJahr);
     row->addStretch();
-    return line;
+    return row->parentWidget();
 }
 
 void MitglList::buildGrid() {
@@ -213,10 +202,7 @@ void MitglList::buildFoot() {
 }
 
 QWidget* MitglList::layOutFoot() {
-    auto* line = new QWidget(this);
-    auto* row = new QHBoxLayout(line);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(Face::gap);
+    QHBoxLayout* row = Face::line(this);
     row->addWidget(Label1);
     row->addWidget(txtInfo, 1);
     constexpr int progressWidth = 160;
@@ -224,7 +210,7 @@ QWidget* MitglList::layOutFoot() {
     row->addWidget(pb);
     row->addWidget(lblAnzDS);
     row->addWidget(lblGefDS);
-    return line;
+    return row->parentWidget();
 }
 
 void MitglList::connectFilter(QCheckBox* box, std::size_t flag, const QVector<QWidget*>& controls) {

@@ -135,7 +135,7 @@ void SuchKont::tblSuch_OnGridCellOpen(int row, int column) {
 void SuchKont::oeffneKontakt(int row, int column) {
     Session& s = session();
     if (!modKontakt::KontaktZugriff_Erlaubt()) {
-        MsgBox(u"Sie haben keine Zugriffsberechtigung auf diese Funktion !"_qs, vbInformation);
+        modRun::MeldeKeinZugriff();
         return;
     }
     s.Modus = u"EDIT"_qs;

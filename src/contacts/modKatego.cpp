@@ -14,6 +14,7 @@
 #include "ValueLabel.h"
 
 #include "modRun.h"
+#include "modStart.h"
 
 namespace modKatego {
 
@@ -21,22 +22,11 @@ namespace {
 
 const QString modul = u"modKatego"_qs;
 
-Recordset oeffne(const QString& nameOrSelect, RecordsetType type) {
-    return session().AktDatenbank.OpenRecordset(nameOrSelect, type);
-}
-
 void zeigeAnzahl(Katego& form) { form.lblAnzahl->setCaption(QString::number(form.tblKatego->rowCount())); }
 
-/// Opens the table and seeks the category that the mask shows. False also when the seek itself failed.
+/// Seeks the category that the mask shows.
 bool findeOffene(ErrorTail& step, Recordset& katego, const Katego& form) {
-    bool gefunden = false;
-    step([&] { katego = oeffne(u"Katego"_qs, dbOpenTable); });
-    step([&] { katego.Index(u"PrimaryKey"_qs); });
-    step([&] {
-        katego.Seek(u"="_qs, CLng(form.lblKategoNr->Caption()));
-        gefunden = !katego.NoMatch();
-    });
-    return gefunden;
+    return modRun::findeIn(step, katego, u"Katego"_qs, form.lblKategoNr->Caption());
 }
 
 QString alsZeile(const QString& name) { return istSystemkategorie(name) ? name + systemMarke : name; }
@@ -50,22 +40,11 @@ bool istSystemkategorie(const QString& name) {
 }
 
 void loadTblKatego() {
-    withErrorTail(u"modStart"_qs, u"loadTblKatego"_qs, [](ErrorTail& step) {
-        DataTable* grid = screen<Katego>().tblKatego;
-        Recordset katego;
-        step([&] { katego = oeffne(u"SELECT * FROM Katego"_qs, dbOpenDynaset); });
-        if (step.test([&] { return katego.RecordCount() > 0; })) {
-            step([&] { katego.MoveFirst(); });
-            while (step.test([&] { return !katego.Eof(); })) {
-                step([&] {
-                    grid->appendRow({katego.Collect(u"kategonr"_qs),
-                                     alsZeile(modRun::textOderLeer(katego.Fields(u"kategorie"_qs)))});
-                });
-                step([&] { katego.MoveNext(); });
-            }
-        }
-        step([&] { katego.Close(); });
-    });
+    modStart::fuelleGrid(u"loadTblKatego"_qs, screen<Katego>().tblKatego, u"SELECT * FROM Katego"_qs,
+                         [](const Recordset& katego) {
+                             const QString name = modRun::textOderLeer(katego.Fields(u"kategorie"_qs));
+                             return std::vector<Value>{katego.Collect(u"kategonr"_qs), alsZeile(name)};
+                         });
 }
 
 void loadKatego(int row, int /*column*/) {
@@ -73,9 +52,8 @@ void loadKatego(int row, int /*column*/) {
         Katego& form = screen<Katego>();
         Recordset katego;
         step([&] {
-            katego = oeffne(u"SELECT * FROM Katego WHERE KategoNr = "_qs +
-                                QString::number(CLng(form.tblKatego->cell(row, 0))),
-                            dbOpenDynaset);
+            katego = oeffneAbfrage(u"SELECT * FROM Katego WHERE KategoNr = "_qs +
+                                   QString::number(CLng(form.tblKatego->cell(row, 0))));
         });
         if (!step.test([&] { return katego.RecordCount() == 1; })) {
             modRun::MeldeNichtVorhanden();
@@ -110,7 +88,7 @@ void SpeicherKatego() {
     withErrorTail(modul, u"SpeicherKatego"_qs, [](ErrorTail& step) {
         Katego& form = screen<Katego>();
         Recordset katego;
-        step([&] { katego = oeffne(u"Katego"_qs, dbOpenTable); });
+        step([&] { katego = oeffneTabelle(u"Katego"_qs); });
         step([&] { katego.AddNew(); });
         step([&] { katego.Collect(u"kategorie"_qs, form.txtKatego->Text()); });
         if (modRun::speichereNeuen(step, katego)) zeigeNeue(step, katego, form);

@@ -32,17 +32,13 @@ namespace {
 
 const QString modul = u"modKontakt"_qs;
 
-Recordset abfrage(const QString& select) {
-    return session().AktDatenbank.OpenRecordset(select, dbOpenDynaset);
-}
-
 /// A value of the first row of a query; what is given otherwise where there is none.
 Value erster(const QString& routine, const QString& feld, const Value& sonst,
              const std::function<QString()>& select) {
     Value value = sonst;
     withErrorTail(modul, routine, [&](ErrorTail& step) {
         Recordset katego;
-        step([&] { katego = abfrage(select()); });
+        step([&] { katego = oeffneAbfrage(select()); });
         if (step.test([&] { return katego.RecordCount() == 1; })) step([&] { value = katego.Collect(feld); });
         step([&] { katego.Close(); });
     });
@@ -82,7 +78,7 @@ namespace {
 
 void zeigeMitgliedZu(ErrorTail& step, qint32 knr, Kontakt& form) {
     Recordset mitglied;
-    step([&] { mitglied = abfrage(u"SELECT * FROM Mitglied WHERE KNr = "_qs + QString::number(knr)); });
+    step([&] { mitglied = oeffneAbfrage(u"SELECT * FROM Mitglied WHERE KNr = "_qs + QString::number(knr)); });
     if (step.test([&] { return mitglied.RecordCount() == 1; }))
         KontaktFelder::zeigeMitglied(step, mitglied, form);
     step([&] { mitglied.Close(); });
@@ -95,7 +91,9 @@ void loadKontakt(DataTable* grid, int row, int /*column*/) {
         qint32 knr = 0;
         Recordset kontakt;
         step([&] { knr = CLng(grid->cell(row, 0)); });
-        step([&] { kontakt = abfrage(u"SELECT * FROM Kontakt WHERE KNr = "_qs + QString::number(knr)); });
+        step([&] {
+            kontakt = oeffneAbfrage(u"SELECT * FROM Kontakt WHERE KNr = "_qs + QString::number(knr));
+        });
         if (step.test([&] { return kontakt.RecordCount() == 1; })) {
             Kontakt& form = screen<Kontakt>();
             KontaktFelder::zeigeKontakt(step, kontakt, form);

@@ -49,10 +49,10 @@ void FuelleKontaktUebersicht();
 /// counts them.
 void KategorieAufklappen(int row, qint32 kategonr);
 
-// The search.
-
 /// Sets the annual fee of all members to unpaid.
 void ReinitialisiereJB();
+
+// The search.
 
 /// Empties the search before it is shown.
 void SuchAnzeigeLoeschen();

@@ -10,17 +10,14 @@ namespace modKontakt {
 void ReinitialisiereJB() {
     withErrorTail(u"modKontakt"_qs, u"ReinitialisiereJB"_qs, [](ErrorTail& step) {
         Recordset mitglied;
-        step([&] {
-            mitglied = session().AktDatenbank.OpenRecordset(u"SELECT * FROM Mitglied"_qs, dbOpenDynaset);
-        });
+        step([&] { mitglied = oeffneAbfrage(u"SELECT * FROM Mitglied"_qs); });
         if (step.test([&] { return mitglied.RecordCount() != 0; })) {
             step([&] { mitglied.MoveFirst(); });
-            while (step.test([&] { return !mitglied.Eof(); })) {
+            step.forEachRow(mitglied, [&] {
                 step([&] { mitglied.Edit(); });
                 step([&] { mitglied.Collect(u"Bezahlt"_qs, false); });
                 step([&] { mitglied.Update(); });
-                step([&] { mitglied.MoveNext(); });
-            }
+            });
         }
         step([&] { mitglied.Close(); });
     });

@@ -24,19 +24,6 @@ namespace {
 
 const QString modul = u"modKontakt"_qs;
 
-Recordset oeffne(const QString& table) { return session().AktDatenbank.OpenRecordset(table, dbOpenTable); }
-
-/// Seeks the record of this number. False also when the seek itself failed: there is then no current record.
-bool finde(ErrorTail& step, Recordset& satz, qint32 knr) {
-    bool gefunden = false;
-    step([&] { satz.Index(u"PrimaryKey"_qs); });
-    step([&] {
-        satz.Seek(u"="_qs, knr);
-        gefunden = !satz.NoMatch();
-    });
-    return gefunden;
-}
-
 /// The number that the mask shows; 0, after the box, where it shows none.
 qint32 nummerDerMaske(ErrorTail& step, const Kontakt& form) {
     qint32 knr = 0;
@@ -54,7 +41,7 @@ void fuegeMitgliedAn(ErrorTail& step, Recordset& mitglied, const Recordset& kont
 /// A member's row as the mask has it; one that is missing is added.
 void schreibeMitglied(ErrorTail& step, Recordset& mitglied, const Recordset& kontakt, qint32 knr,
                       const Kontakt& form) {
-    if (!finde(step, mitglied, knr)) return fuegeMitgliedAn(step, mitglied, kontakt, form);
+    if (!modRun::finde(step, mitglied, knr)) return fuegeMitgliedAn(step, mitglied, kontakt, form);
     step([&] { mitglied.Edit(); });
     KontaktFelder::schreibeMitglied(step, mitglied, form);
     step([&] { mitglied.Update(); });
@@ -92,7 +79,7 @@ void SpeicherKontakt() {
         const Kontakt& form = screen<Kontakt>();
         Recordset kontakt;
         Recordset mitglied;
-        step([&] { kontakt = oeffne(u"Kontakt"_qs); });
+        step([&] { kontakt = oeffneTabelle(u"Kontakt"_qs); });
         step([&] { kontakt.AddNew(); });
         step([&] { kontakt.Collect(u"kategonr"_qs, ErmittleKategoNr(form.cboKatego->Text())); });
         KontaktFelder::schreibeKontakt(step, kontakt, form);
@@ -103,7 +90,7 @@ void SpeicherKontakt() {
             gespeichert = true;
         });
         if (gespeichert && KontaktFelder::istMitglied(form)) {
-            step([&] { mitglied = oeffne(u"Mitglied"_qs); });
+            step([&] { mitglied = oeffneTabelle(u"Mitglied"_qs); });
             step([&] { kontakt.Index(u"PrimaryKey"_qs); });
             step([&] { kontakt.MoveLast(); });
             fuegeMitgliedAn(step, mitglied, kontakt, form);
@@ -168,7 +155,7 @@ void wechsleKategorie(ErrorTail& step, Recordset& kontakt, qint32 knr, qint32 al
 
 /// Who leaves a member category loses the member's row, also on the way into the other one.
 void loescheMitglied(ErrorTail& step, Recordset& mitglied, qint32 knr) {
-    if (finde(step, mitglied, knr))
+    if (modRun::finde(step, mitglied, knr))
         step([&] { mitglied.Delete(); });
     else
         modRun::MeldeNichtVorhanden();
@@ -184,15 +171,15 @@ void UpdateKontakt(int row) {
         Recordset mitglied;
         qint32 alteNr = 0;
         bool mitMitglied = false;
-        step([&] { kontakt = oeffne(u"Kontakt"_qs); });
+        step([&] { kontakt = oeffneTabelle(u"Kontakt"_qs); });
         const qint32 knr = nummerDerMaske(step, form);
-        if (finde(step, kontakt, knr)) {
+        if (modRun::finde(step, kontakt, knr)) {
             const qint32 neueNr = ErmittleKategoNr(form.cboKatego->Text());
             step([&] { kontakt.Edit(); });
             step([&] { alteNr = CLng(kontakt.Collect(u"kategonr"_qs)); });
             const bool warMitglied = modKatego::istSystemkategorie(ErmittleKategoName(alteNr));
             mitMitglied = warMitglied || KontaktFelder::istMitglied(form);
-            if (mitMitglied) step([&] { mitglied = oeffne(u"Mitglied"_qs); });
+            if (mitMitglied) step([&] { mitglied = oeffneTabelle(u"Mitglied"_qs); });
             if (alteNr == neueNr) {
                 step([&] { kontakt.Collect(u"kategonr"_qs, neueNr); });
                 step([&] { aktualisiereZeile(row, knr, neueNr, form); });
@@ -231,7 +218,7 @@ void ziehtUm(qint32 knr, qint32 alteNr, const QString& alterName, qint32 neueNr,
 void richteMitglied(ErrorTail& step, Recordset& mitglied, const Recordset& kontakt, qint32 knr,
                     const Kontakt& form) {
     if (KontaktFelder::istMitglied(form)) return schreibeMitglied(step, mitglied, kontakt, knr, form);
-    if (finde(step, mitglied, knr)) step([&] { mitglied.Delete(); });
+    if (modRun::finde(step, mitglied, knr)) step([&] { mitglied.Delete(); });
 }
 
 } // namespace
@@ -242,10 +229,10 @@ void UpdateSQLKontakt() {
         Recordset kontakt;
         Recordset mitglied;
         qint32 alteNr = 0;
-        step([&] { kontakt = oeffne(u"Kontakt"_qs); });
-        step([&] { mitglied = oeffne(u"Mitglied"_qs); });
+        step([&] { kontakt = oeffneTabelle(u"Kontakt"_qs); });
+        step([&] { mitglied = oeffneTabelle(u"Mitglied"_qs); });
         const qint32 knr = nummerDerMaske(step, form);
-        if (finde(step, kontakt, knr)) {
+        if (modRun::finde(step, kontakt, knr)) {
             step([&] { alteNr = CLng(kontakt.Collect(u"kategonr"_qs)); });
             const QString alterName = ErmittleKategoName(alteNr);
             const qint32 neueNr = ErmittleKategoNr(form.cboKatego->Text());
@@ -284,13 +271,13 @@ void LoescheKontakt() {
         const Kontakt& form = screen<Kontakt>();
         Recordset kontakt;
         Recordset mitglied;
-        step([&] { kontakt = oeffne(u"Kontakt"_qs); });
+        step([&] { kontakt = oeffneTabelle(u"Kontakt"_qs); });
         const qint32 knr = nummerDerMaske(step, form);
         const qint32 kategonr = ErmittleKategoNr(form.cboKatego->Text());
-        if (finde(step, kontakt, knr)) {
+        if (modRun::finde(step, kontakt, knr)) {
             step([&] { kontakt.Delete(); });
-            step([&] { mitglied = oeffne(u"Mitglied"_qs); });
-            if (finde(step, mitglied, knr)) step([&] { mitglied.Delete(); });
+            step([&] { mitglied = oeffneTabelle(u"Mitglied"_qs); });
+            if (modRun::finde(step, mitglied, knr)) step([&] { mitglied.Delete(); });
             step([&] { mitglied.Close(); });
             step([&] { nimmHeraus(knr, kategonr, form.cboKatego->Text()); });
         } else {

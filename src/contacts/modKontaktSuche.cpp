@@ -32,15 +32,14 @@ void zeigeTreffer(ErrorTail& step, Recordset& kontakte, DataTable* grid) {
                 vorname = kontakte.Fields(u"Vorname"_qs);
     step([&] { grid->clearRows(); });
     step([&] { kontakte.MoveFirst(); });
-    while (step.test([&] { return !kontakte.Eof(); })) {
+    step.forEachRow(kontakte, [&] {
         step([&] {
             const Value nummer = kategonr.Value();
             const KeptErrorCount kept;
             const QString kategorie = nummer.isNull() ? QString() : ErmittleKategoName(CLng(nummer));
             grid->appendRow({knr.Value(), kategorie, firma.Value(), nachname.Value(), vorname.Value()});
         });
-        step([&] { kontakte.MoveNext(); });
-    }
+    });
 }
 
 } // namespace
@@ -55,9 +54,7 @@ void SuchAnzeigeLoeschen() {
 void SucheKontakt(const QString& word, qint32 kategonr) {
     withErrorTail(u"modKontakt"_qs, u"SucheKontakt"_qs, [&](ErrorTail& step) {
         Recordset kontakte;
-        step([&] {
-            kontakte = session().AktDatenbank.OpenRecordset(sucheNach(word, kategonr), dbOpenDynaset);
-        });
+        step([&] { kontakte = oeffneAbfrage(sucheNach(word, kategonr)); });
         if (step.test([&] { return kontakte.RecordCount() < 1; }))
             modRun::MeldeNichtsGefunden();
         else

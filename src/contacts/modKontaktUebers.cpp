@@ -71,16 +71,15 @@ void tblKUebersfüllen() {
     withErrorTail(u"modKontakt"_qs, u"tblKUebersfüllen"_qs, [](ErrorTail& step) {
         DataTable* grid = screen<KontaktUebers>().tblKUebers;
         Recordset katego;
-        step([&] { katego = session().AktDatenbank.OpenRecordset(u"katego"_qs, dbOpenTable); });
+        step([&] { katego = oeffneTabelle(u"katego"_qs); });
         if (step.test([&] { return katego.RecordCount() != 0; })) {
             step([&] { katego.MoveFirst(); });
-            while (step.test([&] { return !katego.Eof(); })) {
+            step.forEachRow(katego, [&] {
                 step([&] {
                     grid->appendRow(
                         {katego.Collect(u"kategonr"_qs), u"+"_qs, katego.Collect(u"kategorie"_qs)});
                 });
-                step([&] { katego.MoveNext(); });
-            }
+            });
         }
         step([&] { katego.Close(); });
     });
@@ -97,8 +96,8 @@ void FuelleKontaktUebersicht() {
 }
 
 void KategorieAufklappen(int row, qint32 kategonr) {
-    Recordset kontakte = session().AktDatenbank.OpenRecordset(
-        u"SELECT * FROM Kontakt WHERE KategoNr = "_qs + QString::number(kategonr), dbOpenDynaset);
+    Recordset kontakte =
+        oeffneAbfrage(u"SELECT * FROM Kontakt WHERE KategoNr = "_qs + QString::number(kategonr));
     if (kontakte.RecordCount() == 0) {
         // What an earlier opening has left there is nobody's any more.
         screen<KontaktUebers>().tblKUebers->removeChild(row);

@@ -28,14 +28,13 @@ namespace modMitglList {
 
 namespace {
 
-using Bound = MitglList::Bound;
 using Zeile = std::array<Value, 11>;
 
 QString zweiStellen(const Value& number) { return Format(number, u"###0.00"_qs); }
 
 Recordset oeffne(const QString& what) {
     const QString sql = u"SELECT "_qs + what + u" FROM Kontakt k, Mitglied m WHERE k.KNr = m.KNr"_qs;
-    return session().AktDatenbank.OpenRecordset(ErstelleFilter(sql), dbOpenDynaset);
+    return oeffneAbfrage(ErstelleFilter(sql));
 }
 
 /// What the parameters' grid says at this moment.
@@ -61,8 +60,7 @@ void meldeNichts(MitglList& form) {
 }
 
 void lesePerson(ErrorTail& step, const std::vector<Field>& felder, Zeile& zeile) {
-    // A cell that cannot be read costs that cell, not the row.
-    for (std::size_t i = 0; i < felder.size(); ++i) step([&] { zeile[i] = felder[i].Value(); });
+    modRun::leseZellen(step, felder, zeile);
     constexpr std::size_t geburtstag = 7;
     if (zeile[geburtstag] == Value(Date{})) zeile[geburtstag] = QString();
 }
@@ -100,15 +98,14 @@ void fuelleListe(ErrorTail& step, Recordset& liste, const Lauf& lauf) {
     }
     step([&] { liste.MoveFirst(); });
     step([&] { felder = liste.Fields(); });
-    while (step.test([&] { return !liste.Eof(); })) {
+    step.forEachRow(liste, [&] {
         Zeile zeile;
         lesePerson(step, felder, zeile);
         rechneStunden(step, lauf, zeile);
         if (step.test([&] { return gehoertDazu(lauf, zeile); }))
             step([&] { form.tblMList->appendRow(zeile); });
         if (!lauf.vergleicht) form.pb->setProgress(++gelesen);
-        step([&] { liste.MoveNext(); });
-    }
+    });
 }
 
 } // namespace
@@ -148,24 +145,12 @@ QString wahrheit(const QRadioButton* option) {
     return modRun::WertAusOption(option) ? u"True"_qs : u"False"_qs;
 }
 
-QString vergleich(const QString& field, const Bound& bound) {
-    const QString day = Format(bound.day->Text(), u"\\#m\\/d\\/yyyy\\#"_qs);
-    return u" AND "_qs + field + u' ' + bound.comparison->Text() + u' ' + day;
+QString vergleich(const QString& field, const Vergleich& bound) {
+    const QString day = Format(bound.wert->Text(), u"\\#m\\/d\\/yyyy\\#"_qs);
+    return u" AND "_qs + field + u' ' + bound.zeichen->Text() + u' ' + day;
 }
 
 bool istDatumOderLeer(const TextBox* box) { return box->Text().isEmpty() || IsDate(box->Text()); }
-
-/// Both halves filled, or the first one alone.
-bool datumsfilterGueltig(const QCheckBox* box, const Bound& first, const Bound& second) {
-    if (!box->isChecked()) return true;
-    const auto empty = [](const Bound& bound) {
-        return bound.comparison->Text().isEmpty() && bound.day->Text().isEmpty();
-    };
-    const auto filled = [](const Bound& bound) {
-        return !bound.comparison->Text().isEmpty() && !bound.day->Text().isEmpty();
-    };
-    return filled(first) && (filled(second) || empty(second));
-}
 
 } // namespace
 
@@ -197,10 +182,9 @@ bool PruefeMListEingabe() {
     const MitglList& form = screen<MitglList>();
     return istDatumOderLeer(form.txtGeb01) && istDatumOderLeer(form.txtGeb02) &&
            istDatumOderLeer(form.txtTritt01) && istDatumOderLeer(form.txtTritt02) &&
-           datumsfilterGueltig(form.chkGebDat, {form.cboOptGeb01, form.txtGeb01},
-                               {form.cboOptGeb02, form.txtGeb02}) &&
-           datumsfilterGueltig(form.chkEintritt, {form.cboOptTritt01, form.txtTritt01},
-                               {form.cboOptTritt02, form.txtTritt02});
+           istGueltig(form.chkGebDat, {form.cboOptGeb01, form.txtGeb01}, {form.cboOptGeb02, form.txtGeb02}) &&
+           istGueltig(form.chkEintritt, {form.cboOptTritt01, form.txtTritt01},
+                      {form.cboOptTritt02, form.txtTritt02});
 }
 
 void LeereMListAnzeige() {
@@ -212,12 +196,10 @@ void LeereMListAnzeige() {
     for (QRadioButton* option : {form.optMann, form.optBezahlt, form.optAktiv, form.optBefrJa, form.optAusgJa,
                                  form.optJGJa, form.optStdNein})
         option->setChecked(true);
-    for (const Bound& bound :
-         {Bound{form.cboOptGeb01, form.txtGeb01}, Bound{form.cboOptGeb02, form.txtGeb02},
-          Bound{form.cboOptTritt01, form.txtTritt01}, Bound{form.cboOptTritt02, form.txtTritt02}}) {
-        bound.comparison->setListIndex(-1);
-        bound.day->setText(QString());
-    }
+    for (const Vergleich& bound :
+         {Vergleich{form.cboOptGeb01, form.txtGeb01}, Vergleich{form.cboOptGeb02, form.txtGeb02},
+          Vergleich{form.cboOptTritt01, form.txtTritt01}, Vergleich{form.cboOptTritt02, form.txtTritt02}})
+        bound.leere();
     form.tblMList->clearRows();
     form.lblGefDS->setCaption(QString());
     form.txtInfo->setText(QString());

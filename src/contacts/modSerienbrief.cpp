@@ -77,9 +77,8 @@ bool hatGezaehlt(const Value& anzahl) { return !anzahl.isNull() && CLng(anzahl) 
 
 void schreibeKategorie(CsvDatei& datei, DataTable& uebersicht, int zeile) {
     const qint32 kategorie = CLng(uebersicht.cell(zeile, 0));
-    Database& datenbank = session().AktDatenbank;
-    Recordset kontakte = datenbank.OpenRecordset(datenabfrage(kategorie), dbOpenDynaset);
-    Recordset zaehlung = datenbank.OpenRecordset(anzahlabfrage(kategorie), dbOpenDynaset);
+    Recordset kontakte = oeffneAbfrage(datenabfrage(kategorie));
+    Recordset zaehlung = oeffneAbfrage(anzahlabfrage(kategorie));
     if (zaehlung.RecordCount() != 1) return;
     if (hatGezaehlt(zaehlung.Collect(u"Expr1000"_qs)))
         schreibeKontakte(datei, kontakte, istMitglied(kategorie));

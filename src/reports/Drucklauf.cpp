@@ -26,10 +26,7 @@ void oeffne(ErrorTail& step, ADODB::Connection& connection) {
 void leere(ErrorTail& step, ADODB::Recordset& rows) {
     if (!step.test([&] { return !rows.Bof(); })) return;
     step([&] { rows.MoveFirst(); });
-    while (step.test([&] { return !rows.Eof(); })) {
-        step([&] { rows.Delete(); });
-        step([&] { rows.MoveNext(); });
-    }
+    step.forEachRow(rows, [&] { step([&] { rows.Delete(); }); });
 }
 
 void setzeAnschrift(ErrorTail& step, Report& report) {

@@ -14,9 +14,8 @@ QString dateText(Date date);
 /// The moment that a text stands for, or nothing. Blanks round it and behind its signs don't matter.
 ///
 /// A day is one of
-/// - day, month, year: 24.12.1970, 1.2.05, 1-2-2005, 1/2/2005; years of one or two digits are 2000 to 2029
-/// and
-///   1930 to 1999;
+/// - day, month, year: 24.12.1970, 1.2.05, 1-2-2005, 1/2/2005; a year of one or two digits lies between
+///   1930 and 2029;
 /// - day and month of the current year: 1.2. or 1.2;
 /// - year, month, day if the year has four digits: 1970-12-24;
 /// - month and year, which is the first of the month, if the year has four digits: 12.1970, Dezember 1970.

@@ -10,7 +10,7 @@
 ///
 ///     withErrorTail(u"modBasis"_qs, u"SpeicherFisch"_qs, [](ErrorTail& step) {
 ///         Recordset fisch;
-///         step([&] { fisch = session().AktDatenbank.OpenRecordset(u"Fisch"_qs, dbOpenTable); });
+///         step([&] { fisch = oeffneTabelle(u"Fisch"_qs); });
 ///         step([&] { fisch.AddNew(); });
 ///         ...
 ///     });
@@ -43,6 +43,15 @@ public:
         } catch (const RuntimeError& error) {
             report(error);
             return true;
+        }
+    }
+
+    /// Runs `body` for each row from the current one to the last; a failed look at the end counts as a row.
+    template<typename Rows, typename Body>
+    void forEachRow(Rows& rows, Body&& body) {
+        while (test([&] { return !rows.Eof(); })) {
+            body();
+            (*this)([&] { rows.MoveNext(); });
         }
     }
 

@@ -29,6 +29,14 @@ void beginSession(const QString& folder) {
     state().folder = folder;
 }
 
+Recordset oeffneAbfrage(const QString& select) {
+    return session().AktDatenbank.OpenRecordset(select, dbOpenDynaset);
+}
+
+Recordset oeffneTabelle(const QString& name) {
+    return session().AktDatenbank.OpenRecordset(name, dbOpenTable);
+}
+
 QString sessionValue(const QString& name) {
     const Session& s = session();
     const QHash<QString, Value> values = {

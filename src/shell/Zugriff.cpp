@@ -14,10 +14,9 @@ bool zugriffErlaubt(const QString& module, const QString& routine, const QString
         const QString name = screen<Main>().StatusBar1->panelText(4);
         Recordset gruppe;
         step([&] {
-            gruppe = session().AktDatenbank.OpenRecordset(
+            gruppe = oeffneAbfrage(
                 u"SELECT * FROM Gruppen WHERE GNr = (SELECT GNr FROM Benutzer WHERE Name = "_qs +
-                    quoted(name) + u")"_qs,
-                dbOpenDynaset);
+                quoted(name) + u")"_qs);
         });
         if (step.test([&] { return gruppe.RecordCount() >= 1; }))
             step([&] { allowed = gruppe.Fields(right).Value() == Value(true); });

@@ -1,5 +1,6 @@
 #include "modRun.h"
 
+#include "ComboBox.h"
 #include "Conversions.h"
 #include "DataTable.h"
 #include "ErrorTail.h"
@@ -57,6 +58,11 @@ void connectGridFocus(DataTable* grid) {
                      [grid] { runEvent([grid] { grid->selectRows(0, grid->rowCount(), false); }); });
 }
 
+void leereAuswahlBeiFokus(DataTable* grid) {
+    QObject::connect(grid, &DataTable::OnGridGotFocus, grid,
+                     [grid] { runEvent([grid] { grid->selectRows(0, grid->rowCount(), false); }); });
+}
+
 void vergissOffenen(const QString& nummer) {
     if (!nummer.isEmpty()) session().Modus = u"SAVE"_qs;
 }
@@ -70,6 +76,25 @@ bool stelleOffenenZurueck() {
 int zeileVon(const DataTable* grid, const ValueLabel* nummer, int row) {
     int gefunden = 0;
     return grid->find(0, gefunden, nummer->Caption()) < 0 ? row : gefunden;
+}
+
+bool finde(ErrorTail& step, Recordset& satz, const Value& nummer) {
+    bool gefunden = false;
+    step([&] { satz.Index(u"PrimaryKey"_qs); });
+    step([&] {
+        satz.Seek(u"="_qs, nummer);
+        gefunden = !satz.NoMatch();
+    });
+    return gefunden;
+}
+
+bool findeIn(ErrorTail& step, Recordset& satz, const QString& tabelle, const Value& nummer) {
+    step([&] { satz = oeffneTabelle(tabelle); });
+    return finde(step, satz, nummer);
+}
+
+void leseZellen(ErrorTail& step, const std::vector<Field>& felder, std::span<Value> zeile) {
+    for (std::size_t i = 0; i < felder.size(); ++i) step([&] { zeile[i] = felder[i].Value(); });
 }
 
 bool speichereNeuen(ErrorTail& step, Recordset& satz) {
@@ -94,6 +119,12 @@ void MeldeNichtsGefunden() {
 
 void MeldeEingabeFehler() {
     MsgBox(u"ACHTUNG: Eingabefelder nicht korrekt, Vorgang abgebrochen !"_qs, vbInformation);
+}
+
+void MeldeAbgebrochen() { MsgBox(u"Vorgang von User abgebrochen !"_qs, vbInformation); }
+
+void MeldeKeinZugriff() {
+    MsgBox(u"Sie haben keine Zugriffsberechtigung auf diese Funktion !"_qs, vbInformation);
 }
 
 bool WertAusCheckBox(const QCheckBox* box) { return box->isChecked(); }
@@ -129,6 +160,14 @@ qint16 ErmittleMonatsNr(const QString& name) {
         if (names[i] == name) return static_cast<qint16>(i + 1);
     tellWrongMonth(u"1"_qs);
     return 1;
+}
+
+void haengeJahreAn(ComboBox* combo, qint32 lowest, qint32 highest) {
+    const qint32 aktJahr = session().AktJahr;
+    const auto add = [&](qint32 jahr) { combo->AddItem(QString::number(jahr)); };
+    for (qint32 jahr = lowest; jahr <= highest; ++jahr) add(jahr);
+    if (highest < aktJahr) add(aktJahr);
+    for (qint32 jahr = aktJahr; jahr < lowest; ++jahr) add(jahr);
 }
 
 QString WochentagName(int number) {

@@ -3,7 +3,10 @@
 #include "Recordset.h"
 
 #include <QString>
+#include <span>
+#include <vector>
 
+class ComboBox;
 class DataTable;
 class ErrorTail;
 class QAbstractButton;
@@ -20,6 +23,9 @@ void SetzeGridFarben(SelectionStyle& style);
 /// What every grid does when it receives and when it loses the focus.
 void connectGridFocus(DataTable* grid);
 
+/// For the grids that lose their selection also when they receive the focus.
+void leereAuswahlBeiFokus(DataTable* grid);
+
 /// For a screen that is left and empties its fields: a record that stood open there is open no more, and the
 /// next screen must not take it for one of its own. `nummer` is empty if none was open.
 void vergissOffenen(const QString& nummer);
@@ -30,6 +36,15 @@ bool stelleOffenenZurueck();
 /// pages the row that was opened last may be one of the other page's grid.
 int zeileVon(const DataTable* grid, const ValueLabel* nummer, int row);
 
+/// Seeks the record of this number in an open table. False also when the seek itself failed: there is then no
+/// current record, and the routine tells that instead of stumbling over each further statement.
+bool finde(ErrorTail& step, Recordset& satz, const Value& nummer);
+/// As above in a table that is opened first.
+bool findeIn(ErrorTail& step, Recordset& satz, const QString& tabelle, const Value& nummer);
+
+/// The fields of the current row. A cell that cannot be read costs that cell, not the row.
+void leseZellen(ErrorTail& step, const std::vector<Field>& felder, std::span<Value> zeile);
+
 /// Stores the record that has been added and makes it the current one: the newest number is the highest.
 /// False, after the box, if it could not be stored; the last record is then somebody else's.
 bool speichereNeuen(ErrorTail& step, Recordset& satz);
@@ -37,6 +52,8 @@ bool speichereNeuen(ErrorTail& step, Recordset& satz);
 void MeldeNichtVorhanden();
 void MeldeNichtsGefunden();
 void MeldeEingabeFehler();
+void MeldeAbgebrochen();
+void MeldeKeinZugriff();
 
 bool WertAusCheckBox(const QCheckBox* box);
 int CheckBoxAusWert(const Field& field);
@@ -53,6 +70,10 @@ QString TextAusDatum(const Field& field);
 QString ErmittleMonatsname(qint32 number);
 /// The names above, compared exactly; any other text is told in a box and gives 1.
 qint16 ErmittleMonatsNr(const QString& name);
+/// Appends the years from the lowest to the highest, AktJahr if it lies behind them, and the years from
+/// AktJahr on if it lies before them. A gap before AktJahr stays a gap.
+void haengeJahreAn(ComboBox* combo, qint32 lowest, qint32 highest);
+
 /// 1 (Sunday) to 7; any other number gives the empty text.
 QString WochentagName(int number);
 

@@ -1,6 +1,7 @@
 #include "modStart.h"
 
 #include "Clock.h"
+#include "DataTable.h"
 #include "Eroef.h"
 #include "ErrorTail.h"
 #include "Fangbuch.h"
@@ -173,10 +174,9 @@ bool Login(const QString& name, const QString& passwort) {
     withErrorTail(u"modStart"_qs, u"Login"_qs, [&](ErrorTail& step) {
         Recordset gruppe;
         step([&] {
-            gruppe = session().AktDatenbank.OpenRecordset(
+            gruppe = oeffneAbfrage(
                 u"SELECT * FROM Gruppen WHERE GNr = (SELECT GNr FROM Benutzer WHERE Name = "_qs +
-                    quoted(name) + u" AND Passwort = "_qs + quoted(passwort) + u")"_qs,
-                dbOpenDynaset);
+                quoted(name) + u" AND Passwort = "_qs + quoted(passwort) + u")"_qs);
         });
         if (step.test([&] { return gruppe.RecordCount() == 0; })) {
             MsgBox(u"Anmeldung fehlgeschlagen, bitte versuchen Sie es erneut!"_qs, vbCritical,
@@ -229,6 +229,19 @@ void LadeStammdaten() {
     modKatego::loadTblKatego();
     modFangbuch::loadTblFList(screen<Eroef>().pb);
     session().TabelleLaedt = false;
+}
+
+void fuelleGrid(const QString& routine, DataTable* grid, const QString& select,
+                const std::function<std::vector<Value>(const Recordset&)>& zeile) {
+    withErrorTail(u"modStart"_qs, routine, [&](ErrorTail& step) {
+        Recordset satz;
+        step([&] { satz = oeffneAbfrage(select); });
+        if (step.test([&] { return satz.RecordCount() != 0; })) {
+            step([&] { satz.MoveFirst(); });
+            step.forEachRow(satz, [&] { step([&] { grid->appendRow(zeile(satz)); }); });
+        }
+        step([&] { satz.Close(); });
+    });
 }
 
 void ZeigeFangjahr() { screen<Main>().StatusBar1->setPanelText(8, QString::number(session().AktJahr)); }

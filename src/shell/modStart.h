@@ -3,7 +3,10 @@
 #include "Recordset.h"
 
 #include <QString>
+#include <functional>
+#include <vector>
 
+class DataTable;
 struct RuntimeError;
 
 /// The start of the program, from the loading of the frame to the catch book in front.
@@ -35,6 +38,9 @@ void SetzeDatumsVariablen();
 bool KontrolliereSystemJahr();
 /// Fills all grids of all screens, once.
 void LadeStammdaten();
+/// A grid row from each record that the statement finds; `routine` stands in the error box.
+void fuelleGrid(const QString& routine, DataTable* grid, const QString& select,
+                const std::function<std::vector<Value>(const Recordset&)>& zeile);
 /// Users with a group, and groups with their rights.
 void loadTblBenutzer();
 void loadTblZugriff();

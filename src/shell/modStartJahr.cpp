@@ -90,7 +90,7 @@ bool KontrolliereSystemJahr() {
     withErrorTail(u"modStart"_qs, u"KontrolliereSystemJahr"_qs, [&](ErrorTail& step) {
         Recordset system;
         qint16 fangjahr = 0;
-        step([&] { system = session().AktDatenbank.OpenRecordset(u"System"_qs, dbOpenTable); });
+        step([&] { system = oeffneTabelle(u"System"_qs); });
         step([&] { fangjahr = CInt(system.Collect(u"FJahr"_qs)); });
         if (fangjahr != session().AktJahr && frageNachSystemjahr() == vbYes)
             return wechsleJahr(step, system, result);

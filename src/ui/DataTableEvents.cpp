@@ -1,15 +1,13 @@
 #include "DataTable.h"
-#include "FocusMove.h"
 
 #include "DataTableLook.h"
 #include "DataTableModel.h"
+#include "FocusMove.h"
 
 #include <QContextMenuEvent>
 #include <QHelpEvent>
 #include <QPointer>
 #include <QToolTip>
-
-namespace {} // namespace
 
 // What the user does in the grid, told as its events. Handlers may change the rows and even close the screen
 // with the grid on it, so nothing of the grid is touched after an event unless it is known to be alive.

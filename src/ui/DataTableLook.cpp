@@ -8,12 +8,6 @@
 
 namespace {
 
-QColor mixed(const QColor& from, const QColor& to, double share) {
-    const auto part = [share](float a, float b) { return static_cast<float>(a + (b - a) * share); };
-    return QColor::fromRgbF(part(from.redF(), to.redF()), part(from.greenF(), to.greenF()),
-                            part(from.blueF(), to.blueF()));
-}
-
 bool isDark(const QPalette& palette) { return palette.color(QPalette::Base).lightness() < 128; }
 
 QPixmap loadedPicture(const QString& path, QSize room, double ratio) {
@@ -41,19 +35,19 @@ DataTableLook::DataTableLook(const QPalette& palette) {
     const bool dark = isDark(palette);
 
     even = base;
-    odd = dark ? mixed(base, deep, 0.16) : mixed(base, blue, 0.12);
+    odd = dark ? Theme::mixed(base, deep, 0.16) : Theme::mixed(base, blue, 0.12);
     text = ink;
-    rule = mixed(base, ink, dark ? 0.14 : 0.11);
-    gutter = dark ? mixed(base, deep, 0.40) : mixed(base, blue, 0.30);
-    gutterEdge = dark ? mixed(base, blue, 0.26) : mixed(base, blue, 0.80);
+    rule = Theme::mixed(base, ink, dark ? 0.14 : 0.11);
+    gutter = dark ? Theme::mixed(base, deep, 0.40) : Theme::mixed(base, blue, 0.30);
+    gutterEdge = dark ? Theme::mixed(base, blue, 0.26) : Theme::mixed(base, blue, 0.80);
     mark = dark ? blue : deep;
-    band = dark ? mixed(base, deep, 0.62) : mixed(base, blue, 0.42);
-    bandText = dark ? mixed(blue, Qt::white, 0.4) : mixed(deep, Qt::black, 0.35);
+    band = dark ? Theme::mixed(base, deep, 0.62) : Theme::mixed(base, blue, 0.42);
+    bandText = dark ? Theme::mixed(blue, Qt::white, 0.4) : Theme::mixed(deep, Qt::black, 0.35);
     head = deep;
     headText = Qt::white;
-    headEdge = mixed(deep, Qt::white, 0.25);
+    headEdge = Theme::mixed(deep, Qt::white, 0.25);
     childText = Qt::black;
-    childRule = mixed(blue, deep, 0.30);
+    childRule = Theme::mixed(blue, deep, 0.30);
     focus = Theme::accent();
 }
 

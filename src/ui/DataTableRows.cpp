@@ -1,50 +1,14 @@
 #include "DataTableRows.h"
 
 #include "Conversions.h"
+#include "PackedValue.h"
 #include "RuntimeError.h"
 
 #include <algorithm>
-#include <bit>
 
 namespace {
 
-quint64 wordOf(const Value& value, DataTableTexts& texts) {
-    switch (value.kind()) {
-    case Value::Kind::Null:
-        break;
-    case Value::Kind::Boolean:
-        return value.boolean() ? 1 : 0;
-    case Value::Kind::Long:
-        return static_cast<quint32>(value.number());
-    case Value::Kind::Double:
-        return std::bit_cast<quint64>(value.real());
-    case Value::Kind::Date:
-        return std::bit_cast<quint64>(value.date().days);
-    case Value::Kind::Text:
-        return texts.numberOf(value.text());
-    }
-    return 0;
-}
-
 qint32 numberIn(quint64 word) { return static_cast<qint32>(static_cast<quint32>(word)); }
-
-/// All kinds but texts, which need their pool.
-Value plainValue(Value::Kind kind, quint64 word) {
-    switch (kind) {
-    case Value::Kind::Boolean:
-        return word != 0;
-    case Value::Kind::Long:
-        return numberIn(word);
-    case Value::Kind::Double:
-        return std::bit_cast<double>(word);
-    case Value::Kind::Date:
-        return Date{std::bit_cast<double>(word)};
-    case Value::Kind::Null:
-    case Value::Kind::Text:
-        break;
-    }
-    return {};
-}
 
 /// A day outside the calendar has no text; painting must go on all the same.
 QString shown(const Value& value) {
@@ -58,7 +22,8 @@ QString shown(const Value& value) {
 } // namespace
 
 DataTableRows::Wanted::Wanted(const QString& text, const DataTableTexts& texts)
-    : m_text(text)
+    : m_texts(texts)
+    , m_text(text)
     , m_pooled(texts.find(text)) {
     bool whole = false;
     const qint32 number = text.toInt(&whole);
@@ -100,9 +65,7 @@ void DataTableRows::clear() {
 
 Value DataTableRows::value(int row, int column, const DataTableTexts& texts) const {
     const quint64* cells = rowWith(row, column);
-    const Value::Kind held = kind(cells, column);
-    if (held == Value::Kind::Text) return texts.text(static_cast<quint32>(cells[column]));
-    return plainValue(held, cells[column]);
+    return unpackedValue(kind(cells, column), cells[column], texts);
 }
 
 QString DataTableRows::text(int row, int column, const DataTableTexts& texts) const {
@@ -135,7 +98,7 @@ DataTableRows::Row DataTableRows::packed(std::span<const Value> cells, DataTable
 }
 
 void DataTableRows::put(quint64* row, int column, const Value& value, DataTableTexts& texts) const {
-    row[column] = wordOf(value, texts);
+    row[column] = packedValue(value, texts);
     reinterpret_cast<quint8*>(row + m_columns)[column] = static_cast<quint8>(value.kind());
 }
 
@@ -147,7 +110,7 @@ bool DataTableRows::matches(const quint64* row, int column, const Wanted& wanted
     const Value::Kind held = kind(row, column);
     if (held == Value::Kind::Text) return wanted.m_pooled == static_cast<quint32>(row[column]);
     if (held == Value::Kind::Long) return wanted.m_number == numberIn(row[column]);
-    return shown(plainValue(held, row[column])) == wanted.m_text;
+    return shown(unpackedValue(held, row[column], wanted.m_texts)) == wanted.m_text;
 }
 
 const quint64* DataTableRows::rowWith(int row, int column) const {

@@ -18,6 +18,7 @@ public:
 
     private:
         friend class DataTableRows;
+        const DataTableTexts& m_texts;
         QString m_text;
         std::optional<quint32> m_pooled;
         std::optional<qint32> m_number;

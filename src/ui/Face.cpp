@@ -65,6 +65,21 @@ QVBoxLayout* column(QWidget* screen, Heading* heading, Toolbar* toolbar) {
     return rest;
 }
 
+QHBoxLayout* line(QWidget* parent) {
+    auto* made = new QHBoxLayout(new QWidget(parent));
+    made->setContentsMargins(0, 0, 0, 0);
+    made->setSpacing(gap);
+    return made;
+}
+
+void addRecordKeys(Toolbar* toolbar) {
+    toolbar->addKey(u"tbSpeichern"_qs, u"&Speichern"_qs, u"Speichern"_qs, u"speichern"_qs);
+    toolbar->addSeparator();
+    toolbar->addKey(u"tbLoeschen"_qs, u"&Löschen"_qs, u"Löschen"_qs, u"loeschen"_qs);
+    toolbar->addSeparator();
+    toolbar->addKey(u"tbAnzLoeschen"_qs, u"&Anz. löschen"_qs, u"Anzeige löschen"_qs, u"anzeige-loeschen"_qs);
+}
+
 void addField(QGridLayout* form, int row, QLabel* label, QWidget* field, int column) {
     form->addWidget(label, row, column);
     form->addWidget(field, row, column + 1);

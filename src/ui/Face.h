@@ -6,6 +6,7 @@ class Heading;
 class QCheckBox;
 class QGridLayout;
 class QGroupBox;
+class QHBoxLayout;
 class QLabel;
 class QPushButton;
 class QRadioButton;
@@ -32,6 +33,10 @@ QVBoxLayout* column(QWidget* window);
 /// returned.
 QVBoxLayout* column(QWidget* screen, Heading* heading, Toolbar* toolbar);
 
+/// A line without a frame of its own, on a widget of its own (parentWidget).
+QHBoxLayout* line(QWidget* parent);
+/// The keys that most screens with an entry form begin with: save, delete, empty.
+void addRecordKeys(Toolbar* toolbar);
 /// A row of a form. The label becomes the field's name for screen readers.
 void addField(QGridLayout* form, int row, QLabel* label, QWidget* field, int column = 0);
 

@@ -32,12 +32,6 @@ private:
     QPainter* m_painter;
 };
 
-QColor mixed(const QColor& a, const QColor& b, double partOfB) {
-    const auto part = [partOfB](float x, float y) { return static_cast<float>(x + (y - x) * partOfB); };
-    return QColor::fromRgbF(part(a.redF(), b.redF()), part(a.greenF(), b.greenF()),
-                            part(a.blueF(), b.blueF()));
-}
-
 // A pen draws on both sides of its line; this keeps it within the rectangle.
 void rounded(QPainter* painter, const QRectF& place, const QColor& line, double width, const QBrush& ground,
              double radius = corner) {
@@ -68,7 +62,7 @@ QColor markGround(const QStyleOption* option) {
     if (!enabled(option)) return checked(option) ? Theme::outline() : option->palette.color(QPalette::Window);
     if (checked(option)) return option->palette.color(QPalette::Highlight);
     const QColor base = option->palette.color(QPalette::Base);
-    return pressed(option) ? mixed(base, Theme::blue(), 0.4) : base;
+    return pressed(option) ? Theme::mixed(base, Theme::blue(), 0.4) : base;
 }
 
 QColor markBorder(const QStyleOption* option) {
@@ -100,9 +94,9 @@ void pushButton(const QStyleOption* option, QPainter* painter, bool isDefault) {
     const PainterState state(painter);
     QColor ground = option->palette.color(enabled(option) ? QPalette::Button : QPalette::Window);
     if (pressed(option))
-        ground = mixed(ground, Theme::accent(), 0.3);
+        ground = Theme::mixed(ground, Theme::accent(), 0.3);
     else if (hovered(option))
-        ground = mixed(ground, Theme::accent(), 0.12);
+        ground = Theme::mixed(ground, Theme::accent(), 0.12);
     const bool accented = enabled(option) && isDefault;
     rounded(painter, option->rect, accented ? Theme::accent() : borderOf(option), borderWidth(option),
             ground);
@@ -113,7 +107,8 @@ void toolButton(const QStyleOption* option, QPainter* painter) {
     const bool down = pressed(option) || checked(option);
     if (!down && !hovered(option) && !focused(option)) return;
     const PainterState state(painter);
-    const QColor ground = mixed(option->palette.color(QPalette::Window), Theme::accent(), down ? 0.32 : 0.16);
+    const QColor ground =
+        Theme::mixed(option->palette.color(QPalette::Window), Theme::accent(), down ? 0.32 : 0.16);
     rounded(painter, option->rect, Theme::accent(), focused(option) ? ringWidth : 0, ground);
 }
 
@@ -155,7 +150,7 @@ void tab(const QStyleOptionTab* option, QPainter* painter) {
     const QRectF place = option->rect;
     if (hovered(option) && !has(option, QStyle::State_Selected))
         rounded(painter, place.adjusted(1, 2, -1, -2), Qt::transparent, 0,
-                mixed(option->palette.color(QPalette::Window), Theme::accent(), 0.12));
+                Theme::mixed(option->palette.color(QPalette::Window), Theme::accent(), 0.12));
     if (focused(option)) rounded(painter, place.adjusted(2, 3, -2, -5), Theme::accent(), 1.5, Qt::NoBrush);
     if (!has(option, QStyle::State_Selected)) return;
     painter->setPen(Qt::NoPen);
@@ -192,7 +187,7 @@ void bar(const QRect& place, const QColor& ground, Qt::Edge end, QPainter* paint
 void scrollHandle(const QRectF& place, const QStyleOption* option, bool isPressed, QPainter* painter) {
     const PainterState state(painter);
     const QColor idle =
-        mixed(option->palette.color(QPalette::Window), option->palette.color(QPalette::Dark), 0.65);
+        Theme::mixed(option->palette.color(QPalette::Window), option->palette.color(QPalette::Dark), 0.65);
     const QColor ground = isPressed ? Theme::accent() : hovered(option) ? Theme::outline() : idle;
     const double radius = std::min(place.width(), place.height()) / 2;
     rounded(painter, place, Qt::transparent, 0, ground, radius);

@@ -1,9 +1,8 @@
 #include "ReportRows.h"
 
 #include "Conversions.h"
+#include "PackedValue.h"
 #include "RuntimeError.h"
-
-#include <bit>
 
 namespace {
 
@@ -31,28 +30,10 @@ void ReportRows::append(const std::vector<Value>& row) {
     for (std::size_t field = 0; field < fields; ++field) {
         const Value value = field < row.size() ? row[field] : Value();
         m_kinds.push_back(value.kind());
-        m_bits.push_back(bitsOf(value));
+        m_bits.push_back(packedValue(value, m_texts));
         if (m_sums[field]) addUp(field, value);
     }
     ++m_rowCount;
-}
-
-quint64 ReportRows::bitsOf(const Value& value) {
-    switch (value.kind()) {
-    case Value::Kind::Null:
-        return 0;
-    case Value::Kind::Boolean:
-        return value.boolean() ? 1 : 0;
-    case Value::Kind::Long:
-        return quint64(quint32(value.number()));
-    case Value::Kind::Double:
-        return std::bit_cast<quint64>(value.real());
-    case Value::Kind::Date:
-        return std::bit_cast<quint64>(value.date().days);
-    case Value::Kind::Text:
-        return m_texts.numberOf(value.text());
-    }
-    return 0;
 }
 
 // Added up here, once, so that a report with many rows opens as quickly as one with few.
@@ -73,22 +54,7 @@ std::optional<int> ReportRows::fieldIndex(const QString& name) const {
 
 Value ReportRows::value(int row, int field) const {
     const std::size_t cell = std::size_t(row) * std::size_t(m_fields.size()) + std::size_t(field);
-    const quint64 bits = m_bits[cell];
-    switch (m_kinds[cell]) {
-    case Value::Kind::Null:
-        break;
-    case Value::Kind::Boolean:
-        return bits != 0;
-    case Value::Kind::Long:
-        return static_cast<qint32>(static_cast<quint32>(bits));
-    case Value::Kind::Double:
-        return std::bit_cast<double>(bits);
-    case Value::Kind::Date:
-        return Date{std::bit_cast<double>(bits)};
-    case Value::Kind::Text:
-        return m_texts.text(static_cast<quint32>(bits));
-    }
-    return {};
+    return unpackedValue(m_kinds[cell], m_bits[cell], m_texts);
 }
 
 std::size_t ReportRows::memoryInUse() const {

@@ -36,7 +36,6 @@ public:
 
 private:
     void append(const std::vector<Value>& row);
-    quint64 bitsOf(const Value& value);
     void addUp(std::size_t field, const Value& value);
 
     QStringList m_fields; ///< case-folded

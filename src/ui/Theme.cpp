@@ -136,6 +136,12 @@ QColor barItemGround(bool current, bool hovered, bool pressed) {
     return Qt::transparent;
 }
 
+QColor mixed(const QColor& from, const QColor& to, double share) {
+    const auto part = [share](float a, float b) { return static_cast<float>(a + (b - a) * share); };
+    return QColor::fromRgbF(part(from.redF(), to.redF()), part(from.greenF(), to.greenF()),
+                            part(from.blueF(), to.blueF()));
+}
+
 QIcon icon(const QString& name) { return QIcon(new ThemeIcon(name)); }
 
 } // namespace Theme

@@ -34,6 +34,8 @@ QColor barGround();
 QColor toolbarGround(); ///< toolbars and the status bar
 QColor barItemGround(bool current, bool hovered, bool pressed);
 
+/// So much of the way from one colour to the other; 0 is the first, 1 the second.
+QColor mixed(const QColor& from, const QColor& to, double share);
 /// A picture among the program's own (assets/icons/NAME.svg), drawn sharp at any scale and legible in both
 /// modes.
 QIcon icon(const QString& name);

@@ -5,6 +5,7 @@
 #include "Conversions.h"
 #include "DataTable.h"
 #include "Drucklauf.h"
+#include "ExcelAusgabe.h"
 #include "MsgBox.h"
 #include "Session.h"
 #include "ValueLabel.h"
@@ -90,21 +91,13 @@ void Besatzung::Loeschen() {
 }
 
 void Besatzung::tbExcel_Click() {
-    Session& s = session();
-    s.MsgAntwort = MsgBox(
+    erzeugeAufWunsch(
+        *tblBList,
         u"Wollen Sie eine in Excel zu importierende Datei mit der Bezeichnung - BPLAN.csv - erzeugen ?\n\r"_qs
         u"ACHTUNG: Der Datei liegen die in der Tabelle angezeigten Daten zugrunde ! "_qs
         u"Wollen Sie die Datei jetzt erzeugen ?"_qs,
-        vbYesNo);
-    if (s.MsgAntwort != vbYes) {
-        MsgBox(u"Vorgang von User abgebrochen !"_qs, vbInformation);
-    } else if (tblBList->rowCount() == 0) {
-        MsgBox(
-            u"Keine Daten zum erzeugen der Datei - BPLAN.csv - gefunden, der Vorgang wird abgebrochen !"_qs,
-            vbInformation);
-    } else {
-        modBesatzList::ErzeugeBPlanDatei();
-    }
+        u"Keine Daten zum erzeugen der Datei - BPLAN.csv - gefunden, der Vorgang wird abgebrochen !"_qs,
+        &modBesatzList::ErzeugeBPlanDatei);
 }
 
 void Besatzung::drucke(const QString& wort) {

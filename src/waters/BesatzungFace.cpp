@@ -101,14 +101,11 @@ void Besatzung::buildGrid() {
 }
 
 QWidget* Besatzung::layOutCount() {
-    auto* line = new QWidget(this);
-    auto* row = new QHBoxLayout(line);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(Face::gap);
+    QHBoxLayout* row = Face::line(this);
     row->addStretch();
     row->addWidget(Label8);
     row->addWidget(lblAnzahl);
-    return line;
+    return row->parentWidget();
 }
 
 void Besatzung::connectEvents() {
@@ -116,7 +113,5 @@ void Besatzung::connectEvents() {
     on(cboBJahr, &ComboBox::Click, [this] { cboBJahr_Click(); });
     on(tblBList, &DataTable::OnGridCellOpen, [this](int row, int) { tblBList_OnGridCellOpen(row); });
     modRun::connectGridFocus(tblBList);
-    // Here the selection also goes when the grid receives the focus.
-    on(tblBList, &DataTable::OnGridGotFocus,
-       [this] { tblBList->selectRows(0, tblBList->rowCount(), false); });
+    modRun::leereAuswahlBeiFokus(tblBList);
 }

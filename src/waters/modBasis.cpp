@@ -13,6 +13,7 @@
 #include "TextBox.h"
 #include "ValueLabel.h"
 #include "modRun.h"
+#include "modStart.h"
 
 #include <QTabWidget>
 
@@ -78,51 +79,32 @@ void leere(const Art& art) {
 
 void zeigeAnzahl(const Art& art) { art.lblAnzahl->setCaption(QString::number(art.grid->rowCount())); }
 
-Recordset oeffne(const QString& nameOrSelect, RecordsetType type) {
-    return session().AktDatenbank.OpenRecordset(nameOrSelect, type);
+std::vector<Value> alsZeile(const Recordset& satz, const Art& art) {
+    return {satz.Collect(art.feldNr), satz.Collect(art.feldName)};
 }
 
 void fuelleGrid(const QString& routine, const Art& art, const QString& select) {
-    withErrorTail(u"modStart"_qs, routine, [&](ErrorTail& step) {
-        Recordset satz;
-        step([&] { satz = oeffne(select, dbOpenDynaset); });
-        if (step.test([&] { return satz.RecordCount() != 0; })) {
-            step([&] { satz.MoveFirst(); });
-            while (step.test([&] { return !satz.Eof(); })) {
-                step([&] { art.grid->appendRow({satz.Collect(art.feldNr), satz.Collect(art.feldName)}); });
-                step([&] { satz.MoveNext(); });
-            }
-        }
-        step([&] { satz.Close(); });
-    });
+    modStart::fuelleGrid(routine, art.grid, select,
+                         [&](const Recordset& satz) { return alsZeile(satz, art); });
 }
 
 void speichere(const QString& routine, const Art& art) {
     withErrorTail(u"modBasis"_qs, routine, [&](ErrorTail& step) {
         Recordset satz;
-        step([&] { satz = oeffne(art.tabelle, dbOpenTable); });
+        step([&] { satz = oeffneTabelle(art.tabelle); });
         step([&] { satz.AddNew(); });
         step([&] { satz.Collect(art.feldName, art.txtName->Text()); });
         step([&] { satz.Collect(u"Notiz"_qs, art.txtNotiz->Text()); });
-        if (modRun::speichereNeuen(step, satz))
-            step([&] { art.grid->appendRow({satz.Collect(art.feldNr), satz.Collect(art.feldName)}); });
+        if (modRun::speichereNeuen(step, satz)) step([&] { art.grid->appendRow(alsZeile(satz, art)); });
         BasisAnzeigeLoeschen();
         zeigeAnzahl(art);
         step([&] { satz.Close(); });
     });
 }
 
-/// Opens the table and seeks the record of the form. False also when the seek itself failed: there is
-/// then no current record, and the routine tells that instead of stumbling over each further statement.
+/// Seeks the record of the form.
 bool findeOffenen(ErrorTail& step, Recordset& satz, const Art& art) {
-    bool gefunden = false;
-    step([&] { satz = oeffne(art.tabelle, dbOpenTable); });
-    step([&] { satz.Index(u"PrimaryKey"_qs); });
-    step([&] {
-        satz.Seek(u"="_qs, CLng(art.lblNr->Caption()));
-        gefunden = !satz.NoMatch();
-    });
-    return gefunden;
+    return modRun::findeIn(step, satz, art.tabelle, art.lblNr->Caption());
 }
 
 void aendere(const QString& routine, const Art& art, int row) {
@@ -170,9 +152,8 @@ void ladeAuswahl(const QString& routine, const Art& art, int row) {
     withErrorTail(u"modBasis"_qs, routine, [&](ErrorTail& step) {
         Recordset satz;
         step([&] {
-            satz = oeffne(u"SELECT * FROM "_qs + art.tabelle + u" WHERE "_qs + art.feldNr + u" = "_qs +
-                              art.grid->cellText(row, 0),
-                          dbOpenDynaset);
+            satz = oeffneAbfrage(u"SELECT * FROM "_qs + art.tabelle + u" WHERE "_qs + art.feldNr + u" = "_qs +
+                                 art.grid->cellText(row, 0));
         });
         if (step.test([&] { return satz.RecordCount() != 0; })) {
             step([&] { art.lblNr->setCaption(CStr(satz.Collect(art.feldNr))); });

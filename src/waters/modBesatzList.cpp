@@ -23,10 +23,6 @@ namespace {
 
 const QString modul = u"modBesatzList"_qs;
 
-Recordset oeffne(const QString& nameOrSelect, RecordsetType type) {
-    return session().AktDatenbank.OpenRecordset(nameOrSelect, type);
-}
-
 QString alsGewicht(const Value& menge) { return Format(menge, u"###0.00"_qs); }
 
 /// The current record as a row of the grid.
@@ -54,16 +50,9 @@ void schreibeFelder(ErrorTail& step, Recordset& plan, const Besatzung& form) {
     step([&] { plan.Collect(u"Menge"_qs, CDbl(form.txtMenge->Text())); });
 }
 
-/// Opens the table and seeks the record whose number the form shows. False also when the seek itself failed.
+/// Seeks the record whose number the form shows.
 bool findeOffenen(ErrorTail& step, Recordset& plan, const Besatzung& form) {
-    bool gefunden = false;
-    step([&] { plan = oeffne(u"Besatzung"_qs, dbOpenTable); });
-    step([&] { plan.Index(u"PrimaryKey"_qs); });
-    step([&] {
-        plan.Seek(u"="_qs, CLng(form.lblBNr->Caption()));
-        gefunden = !plan.NoMatch();
-    });
-    return gefunden;
+    return modRun::findeIn(step, plan, u"Besatzung"_qs, form.lblBNr->Caption());
 }
 
 /// Takes the opened record's row off the grid. Another year may have come to the screen since it was opened:
@@ -84,8 +73,8 @@ void loadTblBList() {
     withErrorTail(u"modStart"_qs, u"loadTblBList"_qs, [](ErrorTail& step) {
         Recordset plan;
         step([&] {
-            plan = oeffne(u"SELECT * FROM Besatzung WHERE BJahr = "_qs + QString::number(session().AktJahr),
-                          dbOpenDynaset);
+            plan = oeffneAbfrage(u"SELECT * FROM Besatzung WHERE BJahr = "_qs +
+                                 QString::number(session().AktJahr));
         });
         DataTable* grid = screen<Besatzung>().tblBList;
         step([&] { grid->clearRows(); });
@@ -94,10 +83,7 @@ void loadTblBList() {
                 MsgBox(u"Keine Einträge für dieses Jahr vorhanden !"_qs, vbInformation);
         } else {
             step([&] { plan.MoveFirst(); });
-            while (step.test([&] { return !plan.Eof(); })) {
-                step([&] { grid->appendRow(alsZeile(step, plan)); });
-                step([&] { plan.MoveNext(); });
-            }
+            step.forEachRow(plan, [&] { step([&] { grid->appendRow(alsZeile(step, plan)); }); });
         }
         step([&] { plan.Close(); });
     });
@@ -107,7 +93,7 @@ void SpeicherEintrag() {
     withErrorTail(modul, u"SpeicherEintrag"_qs, [](ErrorTail& step) {
         Besatzung& form = screen<Besatzung>();
         Recordset plan;
-        step([&] { plan = oeffne(u"Besatzung"_qs, dbOpenTable); });
+        step([&] { plan = oeffneTabelle(u"Besatzung"_qs); });
         step([&] { plan.AddNew(); });
         schreibeFelder(step, plan, form);
         if (modRun::speichereNeuen(step, plan)) step([&] { form.tblBList->appendRow(alsZeile(step, plan)); });
@@ -176,12 +162,11 @@ void loadEintrag(DataTable* grid, int row) {
         Besatzung& form = screen<Besatzung>();
         Recordset plan;
         step([&] {
-            plan =
-                oeffne(u"SELECT b.BNr, f.FName, g.GName, b.Zeit, b.Menge "_qs
-                       u"FROM Besatzung b, Fisch f, Gewaesser g WHERE b.BNr = "_qs +
-                           grid->cellText(row, 0) +
-                           u" AND b.FNr = f.FNr AND b.GNr = g.GNr AND b.BJahr = "_qs + form.cboBJahr->Text(),
-                       dbOpenDynaset);
+            plan = oeffneAbfrage(u"SELECT b.BNr, f.FName, g.GName, b.Zeit, b.Menge "_qs
+                                 u"FROM Besatzung b, Fisch f, Gewaesser g WHERE b.BNr = "_qs +
+                                 grid->cellText(row, 0) +
+                                 u" AND b.FNr = f.FNr AND b.GNr = g.GNr AND b.BJahr = "_qs +
+                                 form.cboBJahr->Text());
         });
         if (step.test([&] { return plan.RecordCount() != 0; }))
             zeigeEintrag(step, plan, form);

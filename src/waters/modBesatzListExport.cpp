@@ -1,12 +1,9 @@
 #include "Besatzung.h"
 #include "CsvDatei.h"
 #include "DataTable.h"
-#include "ExcelAnzeige.h"
-#include "MsgBox.h"
-#include "RuntimeError.h"
+#include "ExcelAusgabe.h"
 #include "Screens.h"
 #include "SeqData.h"
-#include "Session.h"
 #include "modBesatzList.h"
 
 // The stocking plan as a file for the spreadsheet.
@@ -35,19 +32,11 @@ void schreibeDatei(const DataTable& grid) {
 } // namespace
 
 void ErzeugeBPlanDatei() {
-    try {
-        schreibeDatei(*screen<Besatzung>().tblBList);
-    } catch (const RuntimeError&) {
-        MsgBox(
-            u"ACHTUNG: Ein unerwarteter Fehler trat beim Erzeugen des Besatzungsplanes - BPLAN.csv - auf !\r\n"_qs
-            u"Bitte überprüfen Sie ob noch genug Speicher auf den Datenträger verfügbar ist."_qs,
-            vbCritical);
-        return;
-    }
-    MsgBox(u"Datei - BPLAN.CSV - wurde erfolgreich im Pfad: ..\\uferwart\\seqdata\\ erstellt !"_qs,
-           vbInformation);
-    session().MsgAntwort = MsgBox(u"Möchten Sie jetzt Excel starten ?"_qs, vbYesNo);
-    if (session().MsgAntwort == vbYes) StarteExcelBPlan();
+    schreibeFuerExcel(
+        [] { schreibeDatei(*screen<Besatzung>().tblBList); },
+        u"ACHTUNG: Ein unerwarteter Fehler trat beim Erzeugen des Besatzungsplanes - BPLAN.csv - auf !"_qs,
+        u"Datei - BPLAN.CSV - wurde erfolgreich im Pfad: ..\\uferwart\\seqdata\\ erstellt !"_qs,
+        &StarteExcelBPlan);
 }
 
 void StarteExcelBPlan() {

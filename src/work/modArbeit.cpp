@@ -36,17 +36,9 @@ void schreibeFelder(ErrorTail& step, Recordset& arbeit, const Arbeit& form) {
     step([&] { arbeit.Collect(u"Notiz"_qs, form.txtArbNotiz->Text()); });
 }
 
-/// Opens the table and seeks the booking whose number the form shows. False also when the seek itself failed:
-/// there is then no current record.
+/// Seeks the booking whose number the form shows.
 bool findeOffenen(ErrorTail& step, Recordset& arbeit, const Arbeit& form) {
-    bool gefunden = false;
-    step([&] { arbeit = session().AktDatenbank.OpenRecordset(u"Arbeit"_qs, dbOpenTable); });
-    step([&] { arbeit.Index(u"PrimaryKey"_qs); });
-    step([&] {
-        arbeit.Seek(u"="_qs, CLng(form.lblArbNr->Caption()));
-        gefunden = !arbeit.NoMatch();
-    });
-    return gefunden;
+    return modRun::findeIn(step, arbeit, u"Arbeit"_qs, form.lblArbNr->Caption());
 }
 
 /// The current record as a new row of the grid.
@@ -95,7 +87,7 @@ void SpeicherStunden() {
     withErrorTail(modul, u"SpeicherStunden"_qs, [](ErrorTail& step) {
         const Arbeit& form = screen<Arbeit>();
         Recordset arbeit;
-        step([&] { arbeit = session().AktDatenbank.OpenRecordset(u"Arbeit"_qs, dbOpenTable); });
+        step([&] { arbeit = oeffneTabelle(u"Arbeit"_qs); });
         step([&] { arbeit.AddNew(); });
         step([&] { arbeit.Collect(u"knr"_qs, CLng(form.lblKNr->Caption())); });
         schreibeFelder(step, arbeit, form);
@@ -148,10 +140,8 @@ void loadArbeitsVorgang(int row, int /*column*/) {
         const Arbeit& form = screen<Arbeit>();
         Recordset arbeit;
         step([&] {
-            arbeit = session().AktDatenbank.OpenRecordset(
-                u"SELECT ArbNr, Datum, ArbStd, Notiz FROM Arbeit WHERE ArbNr = "_qs +
-                    form.tblArbStd->cellText(row, 0),
-                dbOpenDynaset);
+            arbeit = oeffneAbfrage(u"SELECT ArbNr, Datum, ArbStd, Notiz FROM Arbeit WHERE ArbNr = "_qs +
+                                   form.tblArbStd->cellText(row, 0));
         });
         // Hours that a failed booking never got stand as an empty text.
         const auto text = [&](const QString& field) { return Format(arbeit.Collect(field), QString()); };

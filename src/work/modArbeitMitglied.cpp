@@ -30,10 +30,6 @@ namespace {
 
 const QString modul = u"modArbeit"_qs;
 
-Recordset abfrage(const QString& select) {
-    return session().AktDatenbank.OpenRecordset(select, dbOpenDynaset);
-}
-
 /// What a list tells of the member in one of its rows.
 struct Mitglied {
     QString knr;
@@ -53,14 +49,8 @@ void meldeBefreit() {
 /// False, after a box, for a number that is no member's and for a member who owes no hours.
 bool schuldetStunden(ErrorTail& step, const QString& knr) {
     Recordset mitglied;
-    bool gefunden = false;
     bool befreit = false;
-    step([&] { mitglied = session().AktDatenbank.OpenRecordset(u"Mitglied"_qs, dbOpenTable); });
-    step([&] { mitglied.Index(u"PrimaryKey"_qs); });
-    step([&] {
-        mitglied.Seek(u"="_qs, CLng(knr));
-        gefunden = !mitglied.NoMatch();
-    });
+    const bool gefunden = modRun::findeIn(step, mitglied, u"Mitglied"_qs, knr);
     if (!gefunden)
         modRun::MeldeNichtVorhanden();
     else if (step.test([&] { return mitglied.Collect(u"Befreit"_qs) == Value(true); }))
@@ -131,20 +121,18 @@ double loadTblArbeit(qint32 knr, qint32 jahr) {
         DataTable* grid = screen<Arbeit>().tblArbStd;
         Recordset liste;
         step([&] {
-            liste = abfrage(u"SELECT ArbNr, KNr, ArbStd, Datum FROM Arbeit WHERE KNr = "_qs +
-                            QString::number(knr) + u" AND Jahr = "_qs + QString::number(jahr));
+            liste = oeffneAbfrage(u"SELECT ArbNr, KNr, ArbStd, Datum FROM Arbeit WHERE KNr = "_qs +
+                                  QString::number(knr) + u" AND Jahr = "_qs + QString::number(jahr));
         });
         step([&] { grid->clearRows(); });
         std::vector<Field> felder;
         step([&] { felder = liste.Fields(); });
-        while (step.test([&] { return !liste.Eof(); })) {
+        step.forEachRow(liste, [&] {
             std::array<Value, 4> zeile;
-            // A cell that cannot be read costs that cell, not the row.
-            for (std::size_t i = 0; i < felder.size(); ++i) step([&] { zeile[i] = felder[i].Value(); });
+            modRun::leseZellen(step, felder, zeile);
             step([&] { zeile[2] = Format(zeile[2], stundenMuster()); });
             step([&] { grid->appendRow(zeile); });
-            step([&] { liste.MoveNext(); });
-        }
+        });
         step([&] { liste.Close(); });
     });
     return ErmittleStunden(knr, jahr);
@@ -155,8 +143,8 @@ double ErmittleStunden(qint32 knr, qint32 jahr) {
     withErrorTail(modul, u"ErmittleStunden"_qs, [&](ErrorTail& step) {
         Recordset summe;
         step([&] {
-            summe = abfrage(u"SELECT SUM(ArbStd) FROM Arbeit WHERE KNr = "_qs + QString::number(knr) +
-                            u" AND Jahr = "_qs + QString::number(jahr));
+            summe = oeffneAbfrage(u"SELECT SUM(ArbStd) FROM Arbeit WHERE KNr = "_qs + QString::number(knr) +
+                                  u" AND Jahr = "_qs + QString::number(jahr));
         });
         step([&] {
             const Value value = summe.RecordCount() == 1 ? summe.Collect(u"Expr1000"_qs) : Value();
@@ -192,7 +180,7 @@ namespace {
 std::optional<qint32> grenzjahr(ErrorTail& step, const QString& select) {
     std::optional<qint32> jahr;
     Recordset arbeit;
-    step([&] { arbeit = abfrage(select); });
+    step([&] { arbeit = oeffneAbfrage(select); });
     step([&] {
         if (arbeit.RecordCount() != 1) return;
         const Value value = arbeit.Collect(u"Expr1000"_qs);
@@ -206,15 +194,11 @@ std::optional<qint32> grenzjahr(ErrorTail& step, const QString& select) {
 
 void loadcboArbJahre(ComboBox* combo) {
     withErrorTail(modul, u"loadcboArbJahre"_qs, [combo](ErrorTail& step) {
-        const qint32 aktJahr = session().AktJahr;
         const auto lowest = grenzjahr(step, u"SELECT MIN(Jahr) FROM Arbeit"_qs);
         if (!lowest) return;
         const auto highest = grenzjahr(step, u"SELECT MAX(Jahr) FROM Arbeit"_qs);
         if (!highest) return;
-        const auto add = [&](qint32 jahr) { combo->AddItem(QString::number(jahr)); };
-        for (qint32 jahr = *lowest; jahr <= *highest; ++jahr) add(jahr);
-        if (*highest < aktJahr) add(aktJahr);
-        for (qint32 jahr = aktJahr; jahr < *lowest; ++jahr) add(jahr);
+        modRun::haengeJahreAn(combo, *lowest, *highest);
     });
 }
 

@@ -16,10 +16,6 @@ namespace {
 
 const auto titel = u"Uferwart [Arbeitscontrolling]"_qs;
 
-Recordset oeffne(const QString& nameOrSelect, RecordsetType type) {
-    return session().AktDatenbank.OpenRecordset(nameOrSelect, type);
-}
-
 /// Every member who is not exempt, also one who has left.
 QString nichtBefreite(const QString& what) {
     return u"SELECT %1 FROM Kontakt k, Mitglied m WHERE k.KNr = m.KNr AND m.Befreit = False"_qs.arg(what);
@@ -62,13 +58,13 @@ void uebertrageAlle(ErrorTail& step, Recordset& mitglieder, Recordset& arbeit, d
         mitglieder.MoveFirst();
         begun = true;
     });
-    while (begun && step.test([&] { return !mitglieder.Eof(); })) {
+    if (!begun) return;
+    step.forEachRow(mitglieder, [&] {
         std::optional<qint32> knr;
         step([&] { knr = CLng(mitglieder.Collect(u"KNr"_qs)); });
         if (knr)
             schreibeUebertrag(step, arbeit, *knr, ermittleUebertrag(*knr, altesJahr, pflicht), altesJahr);
-        step([&] { mitglieder.MoveNext(); });
-    }
+    });
 }
 
 void loesche(ErrorTail& step, const Recordset& treffer, Recordset& arbeit) {
@@ -81,10 +77,7 @@ void loescheAlle(ErrorTail& step, Recordset& treffer, Recordset& arbeit, qint32 
                u"Es gehen daher alle Arb.-Einträge dieses Datums verloren !"_qs,
            vbInformation, titel);
     step([&] { arbeit.Index(u"PrimaryKey"_qs); });
-    while (step.test([&] { return !treffer.Eof(); })) {
-        loesche(step, treffer, arbeit);
-        step([&] { treffer.MoveNext(); });
-    }
+    step.forEachRow(treffer, [&] { loesche(step, treffer, arbeit); });
 }
 
 void loescheTreffer(ErrorTail& step, Recordset& treffer, Recordset& arbeit, qint32 altesJahr) {
@@ -104,10 +97,10 @@ void loescheTreffer(ErrorTail& step, Recordset& treffer, Recordset& arbeit, qint
 void UebernehmeStunden(qint32 altesJahr) {
     withErrorTail(u"modArbeit"_qs, u"UebernehmeStunden"_qs, [&](ErrorTail& step) {
         Recordset mitglieder, anzahl, system, arbeit;
-        step([&] { mitglieder = oeffne(nichtBefreite(u"k.KNr"_qs), dbOpenDynaset); });
-        step([&] { anzahl = oeffne(nichtBefreite(u"COUNT(k.KNr)"_qs), dbOpenDynaset); });
-        step([&] { system = oeffne(u"System"_qs, dbOpenTable); });
-        step([&] { arbeit = oeffne(u"Arbeit"_qs, dbOpenTable); });
+        step([&] { mitglieder = oeffneAbfrage(nichtBefreite(u"k.KNr"_qs)); });
+        step([&] { anzahl = oeffneAbfrage(nichtBefreite(u"COUNT(k.KNr)"_qs)); });
+        step([&] { system = oeffneTabelle(u"System"_qs); });
+        step([&] { arbeit = oeffneTabelle(u"Arbeit"_qs); });
         if (step.test([&] { return istKeiner(anzahl); })) {
             MsgBox(u"Keine nicht befreiten Mitglieder vorhanden, daher wird der Vorgang abgebrochen"_qs,
                    vbInformation);
@@ -128,8 +121,8 @@ void Ueberpruefe_auf_Uebertrag(qint32 altesJahr) {
         QString datum;
         Recordset treffer, arbeit;
         step([&] { datum = Format(CDate(u"01.01.%1"_qs.arg(altesJahr)), u"\\#m\\/d\\/yyyy\\#"_qs); });
-        step([&] { treffer = oeffne(u"SELECT ArbNr FROM Arbeit WHERE Datum = "_qs + datum, dbOpenDynaset); });
-        step([&] { arbeit = oeffne(u"Arbeit"_qs, dbOpenTable); });
+        step([&] { treffer = oeffneAbfrage(u"SELECT ArbNr FROM Arbeit WHERE Datum = "_qs + datum); });
+        step([&] { arbeit = oeffneTabelle(u"Arbeit"_qs); });
         if (step.test([&] { return treffer.RecordCount() != 0; }))
             loescheTreffer(step, treffer, arbeit, altesJahr);
         step([&] { treffer.Close(); });

@@ -1,0 +1,47 @@
+#include "ExcelAusgabe.h"
+
+#include "DataTable.h"
+#include "MsgBox.h"
+#include "OfficeProgram.h"
+#include "RuntimeError.h"
+#include "Session.h"
+#include "Spreadsheet.h"
+#include "modRun.h"
+
+void erzeugeAufWunsch(const DataTable& grid, const QString& frage, const QString& keineDaten,
+                      void (*erzeuge)()) {
+    session().MsgAntwort = MsgBox(frage, vbYesNo);
+    if (session().MsgAntwort != vbYes)
+        modRun::MeldeAbgebrochen();
+    else if (grid.rowCount() == 0)
+        MsgBox(keineDaten, vbInformation);
+    else
+        erzeuge();
+}
+
+void schreibeFuerExcel(const std::function<void()>& schreibe, const QString& fehler, const QString& erfolg,
+                       void (*starte)()) {
+    try {
+        schreibe();
+    } catch (const RuntimeError&) {
+        const QString rat =
+            u"Bitte überprüfen Sie ob noch genug Speicher auf den Datenträger verfügbar ist."_qs;
+        MsgBox(fehler + u"\r\n"_qs + rat, vbCritical);
+        return;
+    }
+    MsgBox(erfolg, vbInformation);
+    session().MsgAntwort = MsgBox(u"Möchten Sie jetzt Excel starten ?"_qs, vbYesNo);
+    if (session().MsgAntwort == vbYes) starte();
+}
+
+void zeigeInExcel(const QString& path, std::initializer_list<QString> columns) {
+    try {
+        const std::unique_ptr<Spreadsheet> excel = runningOrNew(spreadsheetProgram());
+        excel->setVisible(true);
+        excel->openWorkbook(path);
+        for (const QString& column : columns) excel->autoFitColumns(column);
+    } catch (const RuntimeError&) {
+        // Whether the program can be reached may only turn out when it is to do something.
+        MsgBox(u"Es ist kein Excel verfügbar !"_qs, vbInformation);
+    }
+}

@@ -1,0 +1,36 @@
+#include "Vergleich.h"
+
+#include "ComboBox.h"
+#include "TextBox.h"
+
+#include <QCheckBox>
+
+Vergleich Vergleich::neu(const QString& list, const QString& box, const QString& spoken, QWidget* parent) {
+    const Vergleich made{new ComboBox(list, ComboBox::Order::AsAdded, ComboBox::Kind::DropDownList, parent),
+                         new TextBox(box, parent)};
+    for (const QString& zeichen : {u"="_qs, u">"_qs, u">="_qs, u"<"_qs, u"<="_qs, u"<>"_qs})
+        made.zeichen->AddItem(zeichen);
+    made.zeichen->setAccessibleName(spoken + u", Vergleich"_qs);
+    made.wert->setAccessibleName(spoken);
+    made.leere();
+    made.setEnabled(false);
+    return made;
+}
+
+bool Vergleich::isFilled() const { return !zeichen->Text().isEmpty() && !wert->Text().isEmpty(); }
+
+bool Vergleich::isEmpty() const { return zeichen->Text().isEmpty() && wert->Text().isEmpty(); }
+
+void Vergleich::leere() const {
+    zeichen->setListIndex(-1);
+    wert->setText(QString());
+}
+
+void Vergleich::setEnabled(bool on) const {
+    zeichen->setEnabled(on);
+    wert->setEnabled(on);
+}
+
+bool istGueltig(const QCheckBox* filter, const Vergleich& first, const Vergleich& second) {
+    return !filter->isChecked() || (first.isFilled() && (second.isFilled() || second.isEmpty()));
+}
