@@ -3,7 +3,6 @@
 #include "DataTable.h"
 #include "Face.h"
 #include "Heading.h"
-#include "Session.h"
 #include "TextBox.h"
 #include "Toolbar.h"
 #include "ValueLabel.h"

@@ -3,7 +3,6 @@
 #include "Face.h"
 #include "Screens.h"
 #include "Session.h"
-#include "Theme.h"
 #include "modSysInfo.h"
 
 #include <QBoxLayout>

@@ -8,7 +8,6 @@ class DataTable;
 class Heading;
 class ProgressBar;
 class QCheckBox;
-class QGridLayout;
 class QGroupBox;
 class QLabel;
 class TextBox;

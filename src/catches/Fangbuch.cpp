@@ -6,7 +6,6 @@
 #include "DataTable.h"
 #include "MemoBox.h"
 #include "MsgBox.h"
-#include "ProgressBar.h"
 #include "RuntimeError.h"
 #include "Screens.h"
 #include "Session.h"

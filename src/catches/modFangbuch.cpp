@@ -6,7 +6,6 @@
 #include "ErrorTail.h"
 #include "Fangbuch.h"
 #include "MemoBox.h"
-#include "MsgBox.h"
 #include "Recordset.h"
 #include "Screens.h"
 #include "Session.h"

@@ -3,7 +3,6 @@
 #include "ComboBox.h"
 #include "DataTable.h"
 #include "Face.h"
-#include "MsgBox.h"
 #include "Session.h"
 #include "TextBox.h"
 #include "Theme.h"

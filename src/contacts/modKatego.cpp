@@ -4,7 +4,6 @@
 #include "DataTable.h"
 #include "ErrorTail.h"
 #include "Katego.h"
-#include "KontaktUebers.h"
 #include "MsgBox.h"
 #include "Recordset.h"
 #include "Screens.h"

@@ -60,10 +60,6 @@ struct Session {
 
 Session& session();
 
-/// A session value by its name as text, for those who drive the program from outside; a null text for a name
-/// that there is not.
-QString sessionValue(const QString& name);
-
 /// The folder that holds the program, its database file and the folders beside it.
 const QString& programFolder();
 /// The result of a SELECT on the open database, and one of its tables. Errors as for Database::OpenRecordset.

@@ -14,7 +14,6 @@
 #include "Screens.h"
 #include "Session.h"
 #include "SqlText.h"
-#include "Stage.h"
 #include "StatusBar.h"
 #include "TextBox.h"
 #include "Toolbar.h"

@@ -7,7 +7,6 @@
 #include <vector>
 
 class DataTable;
-struct RuntimeError;
 
 /// The start of the program, from the loading of the frame to the catch book in front.
 namespace modStart {

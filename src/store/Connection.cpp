@@ -7,7 +7,6 @@
 #include "SelectRewriter.h"
 #include "SqlFunctions.h"
 #include "Sqlite.h"
-#include "SqliteError.h"
 
 #include <QtGlobal>
 #include <utility>

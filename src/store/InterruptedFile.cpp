@@ -4,7 +4,6 @@
 #include "RawContent.h"
 #include "RuntimeError.h"
 #include "Sqlite.h"
-#include "SqliteError.h"
 #include "Statement.h"
 
 #include <QFile>

@@ -1,7 +1,5 @@
 #include "StatementCache.h"
 
-#include "DialectError.h"
-
 #include <utility>
 
 StatementCache::Loan& StatementCache::Loan::operator=(Loan&& other) noexcept {

@@ -1,6 +1,5 @@
 #include "Handbuch.h"
 
-#include "Face.h"
 #include "HandbuchSeite.h"
 #include "MsgBox.h"
 #include "Toolbar.h"

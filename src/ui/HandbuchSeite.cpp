@@ -1,6 +1,5 @@
 #include "HandbuchSeite.h"
 
-#include "RuntimeError.h"
 #include "Theme.h"
 
 #include <QImage>

@@ -7,7 +7,6 @@
 
 class QEventLoop;
 class QKeyEvent;
-class Stage;
 
 /// A window of the program: one instance of each at most, made on first use, reached by its class.
 /// Controls are named members and carry their name as objectName, as does the screen itself.

@@ -7,8 +7,6 @@
 #include <QPointer>
 #include <optional>
 
-struct PlayerCommand;
-
 /// Plays a scenario. A command begins when the program has nothing left to do, also while an earlier one
 /// still stands in a modal screen that it has opened: the loop of that screen drives the player on.
 class Player : public QObject {

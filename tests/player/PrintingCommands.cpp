@@ -12,7 +12,7 @@
 #include "PrintRun.h"
 #include "ReportAsText.h"
 #include "Screens.h"
-#include "Session.h"
+#include "SessionValue.h"
 #include "Stage.h"
 #include "StatusBar.h"
 #include "Vorschau.h"
