@@ -16,11 +16,11 @@ namespace {
 
 constexpr int accessDenied = 75;
 
-/// Where the platform keeps an entry of a folder back until it is told otherwise.
-void settleFolderOf(const QString& path) {
+/// Where the platform keeps what was written to a file, or entered in a folder, back until it is told
+/// otherwise.
+void settle(const QString& path) {
 #ifdef Q_OS_UNIX
-    const QByteArray folder = QFile::encodeName(QFileInfo(path).absolutePath());
-    const int handle = ::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    const int handle = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
     if (handle < 0) return;
     ::fsync(handle);
     ::close(handle);
@@ -28,6 +28,8 @@ void settleFolderOf(const QString& path) {
     Q_UNUSED(path)
 #endif
 }
+
+void settleFolderOf(const QString& path) { settle(QFileInfo(path).absolutePath()); }
 
 /// What a killed process has left may hold what stands nowhere else: it goes out of the way, not away.
 void putAside(const QString& journal) {
@@ -37,14 +39,28 @@ void putAside(const QString& journal) {
     if (!free || !QFile::rename(journal, aside)) throw runtimeError(accessDenied);
 }
 
+/// One step, which only leads to a place on the same disk: from another one a copy beside the old file takes
+/// it.
+std::error_code move(const QString& from, const QString& to) {
+    std::error_code failure;
+    std::filesystem::rename(from.toStdU16String(), to.toStdU16String(), failure);
+    if (failure != std::errc::cross_device_link) return failure;
+    const QString beside = to + QStringLiteral(".neu");
+    QFile::remove(beside);
+    if (QFile::copy(from, beside)) {
+        settle(beside);
+        std::filesystem::rename(beside.toStdU16String(), to.toStdU16String(), failure);
+    }
+    QFile::remove(failure ? beside : from);
+    return failure;
+}
+
 } // namespace
 
 void replaceDatabase(const QString& newFile, const QString& oldFile) {
     for (const QString& journal : journalsOf(oldFile)) putAside(journal);
     settleFolderOf(oldFile);
-    std::error_code failure;
-    std::filesystem::rename(newFile.toStdU16String(), oldFile.toStdU16String(), failure);
-    if (failure) throw runtimeError(accessDenied);
+    if (move(newFile, oldFile)) throw runtimeError(accessDenied);
     settleFolderOf(oldFile);
     settleFolderOf(newFile);
 }
