@@ -13,6 +13,8 @@
 #include "modFangbuch.h"
 #include "modRun.h"
 
+#include <QScopeGuard>
+
 // The lists of the catch book: its grid, the combo boxes, and the way from a name to its number and back.
 
 namespace modFangbuch {
@@ -55,6 +57,8 @@ void loadTblFList(ProgressBar* pb) {
                                    u" AND fa.FischNr = f.FNr AND fa.GNr = g.GNr"_qs);
         });
         pb->show();
+        // Also where a fifth error ends it.
+        const auto ruhe = qScopeGuard([pb] { pb->hide(); });
         step([&] {
             const Value count = anzahl.Collect(u"Expr1000"_qs);
             pb->setMax(count.isNull() ? 1 : CLng(count));
@@ -65,7 +69,6 @@ void loadTblFList(ProgressBar* pb) {
             fuelleListe(step, liste, grid, pb);
         else if (!session().TabelleLaedt)
             MsgBox(u"Keine Einträge für diesen Monat vorhanden !"_qs, vbInformation);
-        pb->hide();
         step([&] { liste.Close(); });
         step([&] { anzahl.Close(); });
     });
