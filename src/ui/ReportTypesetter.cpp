@@ -1,5 +1,6 @@
 #include "ReportTypesetter.h"
 
+#include <QGlyphRun>
 #include <QPainter>
 #include <QTextLayout>
 #include <cmath>
@@ -101,35 +102,39 @@ ReportTypesetter::Setting ReportTypesetter::setting(Face& face, const QString& t
     const auto found = face.settings.constFind(text);
     if (found != face.settings.constEnd()) return *found;
     if (face.settings.size() >= settingsKept) face.settings.clear();
+    return *face.settings.insert(text, measured(face, text));
+}
+
+ReportTypesetter::Setting ReportTypesetter::measured(Face& face, const QString& text) {
     QTextLayout layout(text, face.font);
     layout.beginLayout();
     QTextLine line = layout.createLine();
     line.setLineWidth(endless);
     line.setPosition({0, -line.ascent()});
     layout.endLayout();
-    return *face.settings.insert(text, {layout.glyphRuns(), line.naturalTextWidth()});
+    Setting set{{}, line.naturalTextWidth()};
+    for (const QGlyphRun& run : layout.glyphRuns()) {
+        const int font = numberOf(run.rawFont());
+        const QList<quint32> glyphs = run.glyphIndexes();
+        const QList<QPointF> places = run.positions();
+        for (qsizetype one = 0; one < glyphs.size(); ++one)
+            set.letters.append({font, glyphs[one], places[one]});
+    }
+    return set;
 }
 
 /// Numbers hardly repeat, so they are set digit by digit: much quicker than measuring each, and the digits of
 /// a column stand below each other, which a font that moves them closer together would spoil.
 ReportTypesetter::Setting ReportTypesetter::composed(Face& face, const QString& digits) {
     Setting number;
-    QList<quint32> letters;
-    QList<QPointF> positions;
-    letters.reserve(digits.size());
-    positions.reserve(digits.size());
+    number.letters.reserve(digits.size());
     for (const QChar digit : digits) {
         const Setting one = setting(face, digit);
-        for (const QGlyphRun& run : one.runs) {
-            letters += run.glyphIndexes();
-            for (const QPointF& place : run.positions()) positions.append(place + QPointF(number.width, 0));
+        for (Letter letter : one.letters) {
+            letter.place.rx() += number.width;
+            number.letters.append(letter);
         }
-        if (number.runs.isEmpty()) number.runs = one.runs;
         number.width += one.width;
-    }
-    for (QGlyphRun& run : number.runs) {
-        run.setGlyphIndexes(letters);
-        run.setPositions(positions);
     }
     return number;
 }
@@ -163,16 +168,24 @@ void ReportTypesetter::setLine(Face& face, const QRectF& place, const QString& t
     const double letters = face.metrics.ascent() + face.metrics.descent();
     const QPointF start(leftEnd(place, fit.width, look.align()),
                         place.top() + (place.height() - letters) / 2 + face.metrics.ascent());
-    for (const QGlyphRun& run : fit.runs) {
-        Batch& batch = batchFor(run.rawFont(), look.ink());
-        batch.letters += run.glyphIndexes();
+    Batch* batch = nullptr;
+    for (const Letter& letter : fit.letters) {
+        if (!batch || batch->font != letter.font) batch = &batchFor(letter.font, look.ink());
+        batch->glyphs.append(letter.glyph);
         // To whole units, finer than any eye: fractions would take up half of a PDF and of the time to write
         // it.
-        for (const QPointF& position : run.positions()) batch.positions.append((start + position).toPoint());
+        batch->positions.append((start + letter.place).toPoint());
     }
 }
 
-ReportTypesetter::Batch& ReportTypesetter::batchFor(const QRawFont& font, QRgb ink) {
+int ReportTypesetter::numberOf(const QRawFont& font) {
+    const auto known = m_fonts.indexOf(font);
+    if (known >= 0) return static_cast<int>(known);
+    m_fonts.append(font);
+    return static_cast<int>(m_fonts.size()) - 1;
+}
+
+ReportTypesetter::Batch& ReportTypesetter::batchFor(int font, QRgb ink) {
     for (Batch& batch : m_batches) {
         if (batch.ink == ink && batch.font == font) return batch;
     }
@@ -182,8 +195,8 @@ ReportTypesetter::Batch& ReportTypesetter::batchFor(const QRawFont& font, QRgb i
 void ReportTypesetter::paint(QPainter& painter) {
     for (const Batch& batch : m_batches) {
         QGlyphRun run;
-        run.setRawFont(batch.font);
-        run.setGlyphIndexes(batch.letters);
+        run.setRawFont(m_fonts[batch.font]);
+        run.setGlyphIndexes(batch.glyphs);
         run.setPositions(batch.positions);
         painter.setPen(QColor(batch.ink));
         painter.drawGlyphRun({}, run);

@@ -4,9 +4,10 @@
 
 #include <QFont>
 #include <QFontMetricsF>
-#include <QGlyphRun>
 #include <QHash>
 #include <QList>
+#include <QPointF>
+#include <QRawFont>
 #include <map>
 #include <vector>
 
@@ -27,9 +28,15 @@ public:
     void paint(QPainter& painter);
 
 private:
+    struct Letter {
+        /// Its place among the fonts: a text may need several, for letters that the first lacks.
+        int font;
+        quint32 glyph;
+        QPointF place;
+    };
     /// A text that has been measured, its letters relative to its left end on the base line.
     struct Setting {
-        QList<QGlyphRun> runs;
+        QList<Letter> letters;
         double width = 0;
     };
     struct Face {
@@ -40,19 +47,22 @@ private:
         QHash<QString, Setting> settings;
     };
     struct Batch {
-        QRawFont font;
+        int font;
         QRgb ink;
-        QList<quint32> letters;
+        QList<quint32> glyphs;
         QList<QPointF> positions;
     };
 
     Face& faceFor(const ReportControl& look);
     Setting setting(Face& face, const QString& text);
+    Setting measured(Face& face, const QString& text);
     Setting composed(Face& face, const QString& digits);
     Setting fitting(Face& face, const QString& text, double width);
     void setLine(Face& face, const QRectF& place, const QString& text, const ReportControl& look);
-    Batch& batchFor(const QRawFont& font, QRgb ink);
+    int numberOf(const QRawFont& font);
+    Batch& batchFor(int font, QRgb ink);
 
     std::map<std::pair<double, bool>, Face> m_faces;
+    QList<QRawFont> m_fonts;
     std::vector<Batch> m_batches;
 };
