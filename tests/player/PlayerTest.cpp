@@ -1,5 +1,5 @@
-#include "EventGuard.h"
 #include "Player.h"
+#include "EventGuard.h"
 
 #include <QLoggingCategory>
 #include <QTemporaryDir>
