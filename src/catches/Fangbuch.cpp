@@ -16,8 +16,6 @@
 #include "modFangbuch.h"
 #include "modRun.h"
 
-#include <utility>
-
 // The face of the screen is built in FangbuchFace.cpp; here is what it does.
 
 void Fangbuch::Form_Load() {
@@ -31,7 +29,7 @@ void Fangbuch::Form_Load() {
 }
 
 void Fangbuch::Form_Activate() {
-    if (std::exchange(m_offen, false)) session().Modus = u"EDIT"_qs;
+    modRun::nimmOffenenWiederAuf(m_offen);
     // A catch that has just been opened from the evaluation must not lose what it shows.
     if (session().Modus != u"SAVE"_qs) return;
     zeigeAnzahlen();

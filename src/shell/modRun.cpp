@@ -13,6 +13,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <array>
+#include <utility>
 
 namespace modRun {
 
@@ -71,6 +72,10 @@ bool stelleOffenenZurueck() {
     const bool offen = session().Modus == u"EDIT"_qs;
     session().Modus = u"SAVE"_qs;
     return offen;
+}
+
+void nimmOffenenWiederAuf(bool& offen) {
+    if (std::exchange(offen, false)) session().Modus = u"EDIT"_qs;
 }
 
 int zeileVon(const DataTable* grid, const ValueLabel* nummer, int row) {

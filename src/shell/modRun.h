@@ -32,6 +32,8 @@ void vergissOffenen(const QString& nummer);
 /// For a screen that finds its record still being edited when it comes back: whether one is, which until then
 /// the others must not take for one of theirs.
 bool stelleOffenenZurueck();
+/// When it is back: `offen` is what `stelleOffenenZurueck` has told, and false from then on.
+void nimmOffenenWiederAuf(bool& offen);
 /// The row of the record whose number stands in the label; `row` if the grid has none. On a screen of two
 /// pages the row that was opened last may be one of the other page's grid.
 int zeileVon(const DataTable* grid, const ValueLabel* nummer, int row);

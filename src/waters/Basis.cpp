@@ -142,8 +142,10 @@ void Basis::Form_Paint() {
     lblGAnzahl->setCaption(QString::number(tblGBasis->rowCount()));
 }
 
+void Basis::Form_Activate() { modRun::nimmOffenenWiederAuf(m_offen); }
+
 void Basis::Form_Deactivate() {
-    modRun::vergissOffenen(lblFNr->Caption() + lblGNr->Caption());
+    m_offen = modRun::stelleOffenenZurueck();
     modBasis::BasisAlleAnzeigenLoeschen();
 }
 

@@ -21,6 +21,7 @@ public:
 
     void Form_Load() override;
     void Form_Paint() override;
+    void Form_Activate() override;
     void Form_Deactivate() override;
 
     Heading* Ueberschrift;
@@ -57,4 +58,6 @@ private:
     void Toolbar1_ButtonClick(const QString& key);
     void tblFBasis_OnGridCellOpen(int row, int column);
     void tblGBasis_OnGridCellOpen(int row, int column);
+
+    bool m_offen = false; ///< whether a record stood open when the screen was left
 };

@@ -13,8 +13,6 @@
 #include "modFangbuch.h"
 #include "modRun.h"
 
-#include <utility>
-
 // The face of the screen is built in BesatzungFace.cpp; here is what it does.
 
 void Besatzung::Form_Load() {
@@ -29,7 +27,7 @@ void Besatzung::Form_Activate() {
         session().NachReport = false;
         return;
     }
-    if (std::exchange(m_offen, false)) session().Modus = u"EDIT"_qs;
+    modRun::nimmOffenenWiederAuf(m_offen);
     if (session().Modus != u"SAVE"_qs) return;
     modFangbuch::loadcboFArt(cboFArt);
     modFangbuch::loadcboGName(cboGName);
