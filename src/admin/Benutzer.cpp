@@ -15,7 +15,7 @@ std::array<QCheckBox*, 10> Benutzer::Zugriffe() const {
 
 void Benutzer::Form_Load() {
     tabBV->setCurrentIndex(userPage);
-    session().Modus = u"SAVE"_qs;
+    modRun::beendeVorgang();
     session().AktZeile = 0;
 }
 
@@ -36,7 +36,7 @@ void Benutzer::Toolbar1_ButtonClick(const QString& key) {
         modBenutzer::bedieneBenutzer(key);
     else
         modBenutzer::bedieneGruppe(key);
-    session().Modus = u"SAVE"_qs;
+    modRun::beendeVorgang();
 }
 
 void Benutzer::tabBV_Click(int page) {

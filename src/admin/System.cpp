@@ -93,7 +93,7 @@ void System::Toolbar1_ButtonClick(const QString& key) {
     } else if (key == u"tbAnzLoeschen"_qs) {
         modSystem::LeereParameter();
     }
-    session().Modus = u"SAVE"_qs;
+    modRun::beendeVorgang();
 }
 
 void System::tblSystem_OnGridCellOpen(int row) {

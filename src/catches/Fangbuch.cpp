@@ -29,7 +29,7 @@ void Fangbuch::Form_Load() {
 }
 
 void Fangbuch::Form_Activate() {
-    modRun::nimmOffenenWiederAuf(m_offen);
+    modRun::nimmOffenenWiederAuf(*this);
     // A catch that has just been opened from the evaluation must not lose what it shows.
     if (session().Modus != u"SAVE"_qs) return;
     zeigeAnzahlen();
@@ -39,7 +39,7 @@ void Fangbuch::Form_Activate() {
 }
 
 void Fangbuch::Form_Deactivate() {
-    m_offen = modRun::stelleOffenenZurueck();
+    modRun::legeOffenenBeiseite(*this);
     modFangbuch::FangAnzeigeLoeschen();
 }
 
@@ -62,7 +62,7 @@ bool Fangbuch::Form_KeyDown(int key, Qt::KeyboardModifiers) {
     default:
         return false;
     }
-    session().Modus = u"SAVE"_qs;
+    modRun::beendeVorgang();
     return true;
 }
 
@@ -70,7 +70,7 @@ void Fangbuch::Toolbar1_ButtonClick(const QString& key) {
     if (key == u"tbSpeichern"_qs) Speichern();
     if (key == u"tbLoeschen"_qs) Loeschen();
     if (key == u"tbAnzLoeschen"_qs) modFangbuch::FangAnzeigeLoeschen();
-    session().Modus = u"SAVE"_qs;
+    modRun::beendeVorgang();
 }
 
 void Fangbuch::Speichern() {

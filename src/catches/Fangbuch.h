@@ -73,8 +73,6 @@ private:
     void txtMonNr_LostFocus();
     void pruefeMonat();
     void tblFList_OnGridCellOpen(int row);
-
-    bool m_offen = false; ///< whether an entry stood open when the screen was left
     /// Keys pressed in txtMonNr since it got the focus; the second ends the month.
     qint16 m_tastenZaehler = 0;
 };

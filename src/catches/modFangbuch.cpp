@@ -61,7 +61,7 @@ void zeigeNeuen(ErrorTail& step, const Recordset& fang, Fangbuch& form) {
 } // namespace
 
 void InitFangbuch() {
-    session().Modus = u"SAVE"_qs;
+    modRun::beendeVorgang();
     session().AktZeile = 0;
 }
 

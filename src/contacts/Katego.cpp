@@ -72,7 +72,7 @@ void Katego::buildTable() {
 }
 
 void Katego::Form_Load() {
-    session().Modus = u"SAVE"_qs;
+    modRun::beendeVorgang();
     session().AktZeile = 0;
 }
 
@@ -94,7 +94,7 @@ void Katego::Toolbar1_ButtonClick(const QString& key) {
     if (key == u"tbLoeschen"_qs) Loeschen();
     if (key == u"tbAnzLoeschen"_qs) modKatego::KategoAnzeigeLoeschen();
     if (key == u"tbEsc"_qs) Schliessen();
-    s.Modus = u"SAVE"_qs;
+    modRun::beendeVorgang();
 }
 
 void Katego::Loeschen() {

@@ -25,7 +25,7 @@ void Kontakt::Toolbar1_ButtonClick(const QString& key) {
     if (key == u"tbSpeichern"_qs) Speichern();
     if (key == u"tbLoeschen"_qs) Loeschen();
     if (key == u"tbAnzLoeschen"_qs) modKontakt::KontaktAnzeigeLoeschen();
-    session().Modus = u"SAVE"_qs;
+    modRun::beendeVorgang();
 }
 
 void Kontakt::Speichern() {

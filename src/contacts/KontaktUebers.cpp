@@ -64,7 +64,7 @@ void KontaktUebers::buildToolbar() {
 }
 
 void KontaktUebers::Form_Load() {
-    session().Modus = u"SAVE"_qs;
+    modRun::beendeVorgang();
     session().AktZeile = 0;
 }
 
@@ -76,11 +76,11 @@ void KontaktUebers::Toolbar1_ButtonClick(const QString& key) {
     if (key == u"tbWord"_qs) ErzeugeSerienbriefDatei();
     if (key == u"tbSuch"_qs) Suchen();
     if (key == u"tbMitglList"_qs) ZeigeMitglieder();
-    session().Modus = u"SAVE"_qs;
+    modRun::beendeVorgang();
 }
 
 void KontaktUebers::NeuerKontakt() {
-    session().Modus = u"SAVE"_qs;
+    modRun::beendeVorgang();
     screen<Kontakt>().ShowModal();
 }
 
@@ -154,5 +154,5 @@ void KontaktUebers::tblKUebers_OnGridCellOpen(int row, int column) {
     session().Modus = u"EDIT"_qs;
     session().AktZeile = row;
     modKontakt::loadKontakt(tblKUebers, row, column);
-    session().Modus = u"SAVE"_qs;
+    modRun::beendeVorgang();
 }

@@ -13,7 +13,6 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <array>
-#include <utility>
 
 namespace modRun {
 
@@ -68,14 +67,21 @@ void vergissOffenen(const QString& nummer) {
     if (!nummer.isEmpty()) session().Modus = u"SAVE"_qs;
 }
 
-bool stelleOffenenZurueck() {
-    const bool offen = session().Modus == u"EDIT"_qs;
+void beendeVorgang() {
     session().Modus = u"SAVE"_qs;
-    return offen;
+    session().OffenAuf = nullptr;
 }
 
-void nimmOffenenWiederAuf(bool& offen) {
-    if (std::exchange(offen, false)) session().Modus = u"EDIT"_qs;
+void legeOffenenBeiseite(const Screen& screen) {
+    if (session().Modus != u"EDIT"_qs) return;
+    session().Modus = u"SAVE"_qs;
+    session().OffenAuf = &screen;
+}
+
+void nimmOffenenWiederAuf(const Screen& screen) {
+    if (session().OffenAuf != &screen) return;
+    session().Modus = u"EDIT"_qs;
+    session().OffenAuf = nullptr;
 }
 
 int zeileVon(const DataTable* grid, const ValueLabel* nummer, int row) {

@@ -11,6 +11,7 @@ class DataTable;
 class ErrorTail;
 class QAbstractButton;
 class QCheckBox;
+class Screen;
 class TextBox;
 class ValueLabel;
 struct SelectionStyle;
@@ -29,11 +30,13 @@ void leereAuswahlBeiFokus(DataTable* grid);
 /// For a screen that is left and empties its fields: a record that stood open there is open no more, and the
 /// next screen must not take it for one of its own. `nummer` is empty if none was open.
 void vergissOffenen(const QString& nummer);
-/// For a screen that finds its record still being edited when it comes back: whether one is, which until then
-/// the others must not take for one of theirs.
-bool stelleOffenenZurueck();
-/// When it is back: `offen` is what `stelleOffenenZurueck` has told, and false from then on.
-void nimmOffenenWiederAuf(bool& offen);
+/// The end of each press in a toolbar, whatever came of it, and the start of a screen: what is saved next is
+/// a new record, on any screen.
+void beendeVorgang();
+/// For a screen that is left and finds its record still being edited when it comes back, unless a press on
+/// another screen has ended that. In between the others must not take it for one of theirs.
+void legeOffenenBeiseite(const Screen& screen);
+void nimmOffenenWiederAuf(const Screen& screen);
 /// The row of the record whose number stands in the label; `row` if the grid has none. On a screen of two
 /// pages the row that was opened last may be one of the other page's grid.
 int zeileVon(const DataTable* grid, const ValueLabel* nummer, int row);

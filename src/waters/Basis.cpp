@@ -142,10 +142,10 @@ void Basis::Form_Paint() {
     lblGAnzahl->setCaption(QString::number(tblGBasis->rowCount()));
 }
 
-void Basis::Form_Activate() { modRun::nimmOffenenWiederAuf(m_offen); }
+void Basis::Form_Activate() { modRun::nimmOffenenWiederAuf(*this); }
 
 void Basis::Form_Deactivate() {
-    m_offen = modRun::stelleOffenenZurueck();
+    modRun::legeOffenenBeiseite(*this);
     modBasis::BasisAlleAnzeigenLoeschen();
 }
 
@@ -155,7 +155,7 @@ void Basis::Toolbar1_ButtonClick(const QString& key) {
         modBasis::bedieneFisch(key);
     else
         modBasis::bedieneGewaesser(key);
-    session().Modus = u"SAVE"_qs;
+    modRun::beendeVorgang();
 }
 
 void Basis::tblFBasis_OnGridCellOpen(int row, int column) {

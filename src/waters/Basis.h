@@ -58,6 +58,4 @@ private:
     void Toolbar1_ButtonClick(const QString& key);
     void tblFBasis_OnGridCellOpen(int row, int column);
     void tblGBasis_OnGridCellOpen(int row, int column);
-
-    bool m_offen = false; ///< whether a record stood open when the screen was left
 };

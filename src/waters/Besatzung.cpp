@@ -27,7 +27,7 @@ void Besatzung::Form_Activate() {
         session().NachReport = false;
         return;
     }
-    modRun::nimmOffenenWiederAuf(m_offen);
+    modRun::nimmOffenenWiederAuf(*this);
     if (session().Modus != u"SAVE"_qs) return;
     modFangbuch::loadcboFArt(cboFArt);
     modFangbuch::loadcboGName(cboGName);
@@ -38,7 +38,7 @@ void Besatzung::Form_Activate() {
 
 void Besatzung::Form_Deactivate() {
     if (session().NachReport) return;
-    m_offen = modRun::stelleOffenenZurueck();
+    modRun::legeOffenenBeiseite(*this);
     modBesatzList::BesatzAnzeigeLoeschen();
 }
 
@@ -68,7 +68,7 @@ void Besatzung::Toolbar1_ButtonClick(const QString& key) {
     if (key == u"tbExcel"_qs) tbExcel_Click();
     if (key == u"tbVorschau"_qs) drucke(u"vorschau"_qs);
     if (key == u"tbDruck"_qs) drucke(u"drucken"_qs);
-    session().Modus = u"SAVE"_qs;
+    modRun::beendeVorgang();
 }
 
 void Besatzung::Speichern() {

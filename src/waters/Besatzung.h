@@ -62,6 +62,4 @@ private:
     void tbExcel_Click();
     void drucke(const QString& wort);
     void tblBList_OnGridCellOpen(int row);
-
-    bool m_offen = false; ///< whether a stocking stood open when the screen was left
 };

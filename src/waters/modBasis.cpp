@@ -201,7 +201,7 @@ void bediene(const QString& key, const Routinen& routinen) {
 } // namespace
 
 void InitBasis() {
-    session().Modus = u"SAVE"_qs;
+    modRun::beendeVorgang();
     session().AktZeile = 0;
     alterName.clear();
 }

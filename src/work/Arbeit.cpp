@@ -26,7 +26,7 @@ void Arbeit::Form_Load() {
     modArbeit::LeereArbEingabe();
     modArbeit::loadcboArbJahre(cboArbJahr);
     if (cboArbJahr->ListCount() > 0) cboArbJahr->setText(QString::number(session().AktJahr));
-    session().Modus = u"SAVE"_qs;
+    modRun::beendeVorgang();
     session().AktZeile = 0;
     // From here on a year stands for the wish to see it.
     on(cboArbJahr, &ComboBox::Click, [this] { cboArbJahr_Click(); });
@@ -55,7 +55,7 @@ void Arbeit::Toolbar1_ButtonClick(const QString& key) {
     if (key == u"tbAnzLoeschen"_qs) modArbeit::LeereArbEingabe();
     if (key == u"tbVorschau"_qs) drucke(u"vorschau"_qs);
     if (key == u"tbDruck"_qs) drucke(u"drucken"_qs);
-    session().Modus = u"SAVE"_qs;
+    modRun::beendeVorgang();
 }
 
 void Arbeit::buche() {

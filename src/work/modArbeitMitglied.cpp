@@ -65,7 +65,7 @@ void zeigeMitglied(ErrorTail& step, const Mitglied& mitglied) {
     if (!form.lblArbNr->Caption().isEmpty()) {
         // A booking that stands open is the former member's: it must not be taken for the new one's.
         LeereArbEingabe();
-        session().Modus = u"SAVE"_qs;
+        modRun::beendeVorgang();
     }
     form.lblKNr->setCaption(mitglied.knr);
     form.lblVName->setCaption(mitglied.vorname);
