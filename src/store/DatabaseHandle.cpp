@@ -33,6 +33,8 @@ void setKey(sqlite3* database, const QString& password) {
     // A library without encryption would take any key, and write in the clear.
     if (!Statement(database, "PRAGMA cipher_version").step())
         throw RuntimeError{3000, QStringLiteral("Die Datenbankbibliothek kann nicht verschlüsseln.")};
-    // Newer libraries have another format of their own; older ones pass over this.
+    // SQLCipher 4 has another format of its own; SQLCipher 3 ignores both settings.
     Statement(database, "PRAGMA cipher_compatibility = 3").run();
+    // SQLCipher 4 writes each page that it can't read to the terminal.
+    Statement(database, "PRAGMA cipher_log_level = NONE").run();
 }

@@ -76,13 +76,15 @@ void PageReader::makeCopy(const QString& path, const QString& password) {
     fillCopy(original);
 }
 
-/// The library takes the salt from the file that it finds, and keeps it for the one that it begins.
 void PageReader::growCopy(const QByteArray& salt, const QString& password) {
     QFile copy(m_copy);
     if (!copy.open(QIODevice::ReadWrite)) throw runtimeError(3026);
+    // SQLCipher 3 takes the salt from the file while keying. SQLCipher 4 keys at the first page, for which it
+    // must be told the salt of an empty file.
     writeAll(copy, salt);
     m_pointing = openWithKey(m_copy, password);
     if (!copy.resize(0)) throw runtimeError(3026);
+    execute(m_pointing.get(), "PRAGMA cipher_salt = \"x'" + salt.toHex() + "'\"");
     forgetSafety(m_pointing.get());
     execute(m_pointing.get(), tableDefinition());
     // The first page says how many there are, so as many are made before the others take their place.
