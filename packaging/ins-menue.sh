@@ -83,7 +83,12 @@ enter() {
 
 take_out() {
   [ -e "$entry" ] || fail 'Im Menü steht kein Uferwart.'
-  local icon
+  # An entry whose program is gone belongs to nobody: its folder has been moved or deleted.
+  local icon owner
+  owner=$(sed -n 's/^Path=//p' "$entry")
+  owner=${owner//\\\\/\\}
+  [ "$owner" = "$folder" ] || [ ! -x "$owner/uferwart" ] ||
+    fail "Im Menü steht Uferwart aus dem Ordner $owner. Entfernen Sie es dort."
   rm -f "$entry"
   icons | while IFS= read -r icon; do rm -f "$data/$icon"; done
   tell_menu

@@ -21,6 +21,7 @@ holds() { # holds WHAT COMMAND...
   failures=$((failures + 1))
 }
 
+fails() { ! "$@"; }
 lacks() { ! grep -q "$@"; }
 untouched() { (cd "$folder" && sha256sum --check --status share/uw01.mdb.sha256); }
 menu() { "$folder/ins-menue.sh" "$@"; }
@@ -58,6 +59,8 @@ holds 'the start from the menu' gio launch "$entry"
 holds 'the login' runs
 holds 'libraries of its own' lacks -E '/usr/.*/(libQt6|libsqlcipher|libzip|libicu|plugins)' "/proc/$program/maps"
 
+install -D "$folder/ins-menue.sh" "$place/alt/ins-menue.sh"
+holds "another folder's entry, kept" fails "$place/alt/ins-menue.sh" --entfernen
 holds 'the way out of the menu' menu --entfernen
 holds 'nothing left in the menu' test -z "$(find "$XDG_DATA_HOME" -name 'uferwart*')"
 
