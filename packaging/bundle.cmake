@@ -60,8 +60,9 @@ endforeach()
 bring("${qt_translations}/qtbase_de.qm" translations/qtbase_de.qm)
 
 foreach(font ${fonts})
-  # Of two generations of a font the newer one has the freer licence.
-  file(GLOB candidates /usr/share/fonts/*/*2/${font} /usr/share/fonts/*/*/${font})
+  # Of two generations of a font the newer one has the freer licence: "liberation2", which sorts behind.
+  file(GLOB candidates /usr/share/fonts/*/*/${font})
+  list(SORT candidates ORDER DESCENDING)
   if(candidates)
     list(GET candidates 0 candidate)
     bring("${candidate}" fonts/${font})
