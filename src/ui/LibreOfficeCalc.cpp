@@ -39,5 +39,6 @@ std::unique_ptr<Spreadsheet> LibreOfficeCalc::start() {
 }
 
 QStringList LibreOfficeCalc::arguments(const QString& fileName) {
-    return {u"--calc"_qs, u"--infilter=Text - txt - csv (StarCalc):59,34,1,1,,1031,true,true"_qs, fileName};
+    return {u"--calc"_qs, u"--infilter=Text - txt - csv (StarCalc):59,,1,1,,1031,true,true,,,,,false"_qs,
+            fileName};
 }

@@ -10,7 +10,7 @@ public:
     std::unique_ptr<Spreadsheet> running() override;
     std::unique_ptr<Spreadsheet> start() override;
 
-    /// The words that open a semicolon-separated file in Windows-1252 without a question: separator 59, quote
-    /// 34, code page 1, from the first line on, German (1031), dates recognised.
+    /// The arguments that open a semicolon-separated file in Windows-1252 without a question: separator 59,
+    /// no quotation mark, code page 1, from the first line on, German (1031), dates recognised, no formulas.
     static QStringList arguments(const QString& fileName);
 };
