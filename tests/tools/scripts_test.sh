@@ -18,7 +18,7 @@ code_of() { # code_of COMMAND...
   echo $?
 }
 
-for words in 'run.sh nichts' 'run.sh demo demo' 'test.sh debug' 'check.sh release' 'tests/fuzz/run viel'; do
+for words in 'run.sh nichts' 'run.sh demo demo' 'test.sh debug' 'check.sh release' 'tests/fuzz/run viel' 'tools/test-in-root'; do
   # shellcheck disable=SC2086
   expect "$words" 2 "$(code_of "$top"/$words)"
 done
