@@ -148,6 +148,10 @@ void zeigeFang(ErrorTail& step, const Recordset& fang, Fangbuch& form) {
 
 void loadFang(DataTable* grid, int row) {
     withErrorTail(modul, u"loadFang"_qs, [grid, row](ErrorTail& step) {
+        Fangbuch& form = screen<Fangbuch>();
+        // Opened from the evaluation, the catch book comes up in EDIT, and its activation fills no lists.
+        step([&] { loadcboFArt(form.cboFArt); });
+        step([&] { loadcboGName(form.cboGName); });
         Recordset fang;
         step([&] {
             fang = oeffneAbfrage(
@@ -156,7 +160,7 @@ void loadFang(DataTable* grid, int row) {
                 grid->cellText(row, 0) + u" AND fa.FischNr = f.FNr AND fa.GNr = g.GNr"_qs);
         });
         if (step.test([&] { return fang.RecordCount() != 0; }))
-            zeigeFang(step, fang, screen<Fangbuch>());
+            zeigeFang(step, fang, form);
         else
             modRun::MeldeNichtVorhanden();
         step([&] { fang.Close(); });
