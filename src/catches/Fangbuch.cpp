@@ -74,6 +74,8 @@ void Fangbuch::Toolbar1_ButtonClick(const QString& key) {
 }
 
 void Fangbuch::Speichern() {
+    // F3 and the toolbar leave the caret where it is, so the month may not have been checked yet.
+    txtMonNr_LostFocus();
     Session& s = session();
     if (s.Modus == u"EDIT"_qs && modFangbuch::FangEingabeVollstaendig()) modFangbuch::UpdateFang(s.AktZeile);
     if (s.Modus == u"SAVE"_qs && modFangbuch::FangEingabeVollstaendig()) modFangbuch::SpeicherFang();
