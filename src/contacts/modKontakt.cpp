@@ -21,6 +21,7 @@
 
 #include <QCheckBox>
 #include <QRadioButton>
+#include <QScopeGuard>
 #include <QTabWidget>
 #include <functional>
 
@@ -87,6 +88,8 @@ void zeigeMitgliedZu(ErrorTail& step, qint32 knr, Kontakt& form) {
 } // namespace
 
 void loadKontakt(DataTable* grid, int row, int /*column*/) {
+    // A fifth error may leave the mask filled and hidden. "Neuer Kontakt" would then open with this contact.
+    const auto schliesse = qScopeGuard([] { unload<Kontakt>(); });
     withErrorTail(modul, u"loadKontakt"_qs, [grid, row](ErrorTail& step) {
         qint32 knr = 0;
         Recordset kontakt;
