@@ -6,6 +6,7 @@
 #include "ErrorTail.h"
 #include "Fangauswertung.h"
 #include "Fangbuch.h"
+#include "Hourglass.h"
 #include "MsgBox.h"
 #include "ProgressBar.h"
 #include "Recordset.h"
@@ -71,12 +72,9 @@ void fuelleListe(ErrorTail& step, Recordset& liste, Fangauswertung& form) {
 void LadeAuswahl() {
     withErrorTail(u"modFAuswert"_qs, u"LadeAuswahl"_qs, [](ErrorTail& step) {
         Fangauswertung& form = screen<Fangauswertung>();
-        form.setHourglass(true);
+        const Hourglass hourglass(form);
         // Also where a fifth error ends it.
-        const auto ruhe = qScopeGuard([&] {
-            form.pb->hide();
-            form.setHourglass(false);
-        });
+        const auto ruhe = qScopeGuard([&] { form.pb->hide(); });
         Recordset liste, anzahl, summeAnzahl, summeGewicht;
         step([&] {
             liste = oeffneAbfrage(

@@ -5,6 +5,7 @@
 #include "DataTable.h"
 #include "ErrorTail.h"
 #include "Format.h"
+#include "Hourglass.h"
 #include "MitglList.h"
 #include "MsgBox.h"
 #include "ProgressBar.h"
@@ -113,12 +114,9 @@ void fuelleListe(ErrorTail& step, Recordset& liste, const Lauf& lauf) {
 void LadeAuswahl() {
     withErrorTail(u"modMitglList"_qs, u"LadeAuswahl"_qs, [](ErrorTail& step) {
         MitglList& form = screen<MitglList>();
-        form.setHourglass(true);
+        const Hourglass hourglass(form);
         // Also where a fifth error ends it.
-        const auto ruhe = qScopeGuard([&] {
-            form.pb->hide();
-            form.setHourglass(false);
-        });
+        const auto ruhe = qScopeGuard([&] { form.pb->hide(); });
         Recordset liste, anzahl;
         step([&] {
             liste = oeffne(u"k.KNr, k.Nachname, k.Vorname, k.Strasse, k.PLZ, k.Ort, k.Tel1, k.GebDatum"_qs);

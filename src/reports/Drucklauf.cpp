@@ -1,6 +1,7 @@
 #include "Drucklauf.h"
 
 #include "DataTable.h"
+#include "Hourglass.h"
 #include "Info.h"
 #include "MsgBox.h"
 #include "PrinterList.h"
@@ -35,20 +36,20 @@ void setzeAnschrift(ErrorTail& step, Report& report) {
         step([&] { report.control(u"Section2"_qs, label->objectName()).setCaption(label->text()); });
 }
 
-void gibAus(ErrorTail& step, const Druckauftrag& auftrag, Report& report, const QString& wort) {
+void gibAus(ErrorTail& step, Hourglass& hourglass, Report& report, const QString& wort) {
     if (wort == u"drucken"_qs) {
         step([&] { report.PrintReport(); });
-        auftrag.aufrufer.setHourglass(false);
     } else if (wort == u"vorschau"_qs) {
-        auftrag.aufrufer.setHourglass(false);
+        hourglass.end();
         step([&] { modNavigation::binde(session().AktBarItem, report.window()); });
         step([&] { report.Show(); });
     }
 }
 
-void stelleDar(ErrorTail& step, const Druckauftrag& auftrag, ADODB::Recordset& rows, const QString& wort) {
+void stelleDar(ErrorTail& step, const Druckauftrag& auftrag, ADODB::Recordset& rows, const QString& wort,
+               Hourglass& hourglass) {
     if (step.test([] { return printerCount() <= 0; })) {
-        // The hourglass stays: the next routine that sets the pointer ends it.
+        hourglass.leave();
         MsgBox(u"ACHTUNG: Kein Drucker installiert, Vorgang wird abgebrochen !"_qs, vbInformation);
         return;
     }
@@ -59,14 +60,14 @@ void stelleDar(ErrorTail& step, const Druckauftrag& auftrag, ADODB::Recordset& r
     });
     setzeAnschrift(step, report);
     auftrag.richteEin(step, report);
-    gibAus(step, auftrag, report, wort);
+    gibAus(step, hourglass, report, wort);
 }
 
 } // namespace
 
 void drucke(const Druckauftrag& auftrag, const QString& wort) {
     withErrorTail(auftrag.modul, auftrag.routine, [&](ErrorTail& step) {
-        auftrag.aufrufer.setHourglass(true);
+        Hourglass hourglass(auftrag.aufrufer);
         ADODB::Connection connection;
         ADODB::Recordset rows;
         oeffne(step, connection);
@@ -76,7 +77,7 @@ void drucke(const Druckauftrag& auftrag, const QString& wort) {
         });
         leere(step, rows);
         if (auftrag.grid.rowCount() == 0) {
-            auftrag.aufrufer.setHourglass(false);
+            hourglass.end();
             step([&] { rows.Close(); });
             step([&] { connection.Close(); });
             MsgBox(u"Keine Daten zum Drucken vorhanden, Vorgang wird abgebrochen !"_qs, vbInformation);
@@ -87,7 +88,7 @@ void drucke(const Druckauftrag& auftrag, const QString& wort) {
             auftrag.schreibeZeile(step, rows, row);
             step([&] { rows.Update(); });
         }
-        stelleDar(step, auftrag, rows, wort);
+        stelleDar(step, auftrag, rows, wort, hourglass);
         step([&] { rows.Close(); });
         step([&] { connection.Close(); });
     });

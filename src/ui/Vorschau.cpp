@@ -3,6 +3,7 @@
 #include "ComboBox.h"
 #include "Face.h"
 #include "Heading.h"
+#include "Hourglass.h"
 #include "MsgBox.h"
 #include "PrintDialog.h"
 #include "PrintRun.h"
@@ -23,23 +24,6 @@ namespace {
 constexpr int zoomLevels[] = {50, 75, 100, 125, 150, 200};
 constexpr int zoomCount = static_cast<int>(std::size(zoomLevels));
 constexpr int pageWidthEntry = zoomCount;
-
-/// The hourglass over the preview for as long as it lives; the screen may end before it does.
-class HourglassOver {
-public:
-    explicit HourglassOver(Screen* shown)
-        : m_screen(shown) {
-        m_screen->setHourglass(true);
-    }
-    ~HourglassOver() {
-        if (m_screen) m_screen->setHourglass(false);
-    }
-    HourglassOver(const HourglassOver&) = delete;
-    HourglassOver& operator=(const HourglassOver&) = delete;
-
-private:
-    QPointer<Screen> m_screen;
-};
 
 void addToRow(Toolbar* toolbar, QWidget* control) {
     auto* row = static_cast<QBoxLayout*>(toolbar->layout());
@@ -213,7 +197,7 @@ void Vorschau::drucke() {
     const auto target = choosePrintTarget(printed->caption(), printed->pageCount(), pageView->page());
     if (!target || !Screens::isAlive(alive)) return;
     try {
-        const HourglassOver hourglass(this);
+        const Hourglass hourglass(*this);
         printReport(*printed, *target);
     } catch (const RuntimeError& error) {
         MsgBox(u"Der Bericht konnte nicht gedruckt werden !\r\n\r\n"_qs + error.description, vbExclamation);
@@ -226,7 +210,7 @@ void Vorschau::speicherPdf() {
     const QString file = choosePdfFile(pdfNameFor(saved->caption()));
     if (file.isEmpty() || !Screens::isAlive(alive)) return;
     try {
-        const HourglassOver hourglass(this);
+        const Hourglass hourglass(*this);
         saveReportAsPdf(*saved, file);
     } catch (const RuntimeError& error) {
         MsgBox(u"Die Datei '%1' konnte nicht geschrieben werden !\r\n\r\n%2"_qs.arg(
