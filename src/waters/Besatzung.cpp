@@ -88,7 +88,14 @@ void Besatzung::Loeschen() {
         modBesatzList::BesatzAnzeigeLoeschen();
 }
 
+/// A press that puts the plan out ends the editing of an opened stocking, which must not stand there as a new
+/// one afterwards. A new one that is being typed stays.
+void Besatzung::leereOffenen() {
+    if (!lblBNr->Caption().isEmpty()) modBesatzList::BesatzAnzeigeLoeschen();
+}
+
 void Besatzung::tbExcel_Click() {
+    leereOffenen();
     erzeugeAufWunsch(
         *tblBList,
         u"Wollen Sie eine in Excel zu importierende Datei mit der Bezeichnung - BPLAN.csv - erzeugen ?\n\r"_qs
@@ -99,8 +106,7 @@ void Besatzung::tbExcel_Click() {
 }
 
 void Besatzung::drucke(const QString& wort) {
-    // The press ends the editing of an opened stocking, which must not stand there as a new one afterwards.
-    if (!lblBNr->Caption().isEmpty()) modBesatzList::BesatzAnzeigeLoeschen();
+    leereOffenen();
     druckeFuer(*this, [&] { modBesatzList::DruckeBPlanListe(wort); });
 }
 

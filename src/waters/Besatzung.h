@@ -59,6 +59,7 @@ private:
     void Toolbar1_ButtonClick(const QString& key);
     void Speichern();
     void Loeschen();
+    void leereOffenen();
     void tbExcel_Click();
     void drucke(const QString& wort);
     void tblBList_OnGridCellOpen(int row);

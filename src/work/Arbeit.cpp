@@ -75,6 +75,8 @@ void Arbeit::loesche() {
 }
 
 void Arbeit::drucke(const QString& wort) {
+    // The press ends the editing of an opened booking, which must not stand there as a new one afterwards.
+    modArbeit::LeereOffenen();
     druckeFuer(*this, [&] { modArbeit::DruckeArbListe(wort); });
 }
 

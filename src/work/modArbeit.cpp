@@ -165,6 +165,10 @@ void LeereArbEingabe() {
     form.txtArbStd->setText(QString());
 }
 
+void LeereOffenen() {
+    if (!screen<Arbeit>().lblArbNr->Caption().isEmpty()) LeereArbEingabe();
+}
+
 void LeereArbAnzeige() {
     const Arbeit& form = screen<Arbeit>();
     LeereArbEingabe();

@@ -40,6 +40,8 @@ void UpdateStunden(int row);
 void LoescheStunden(int row);
 
 void LeereArbEingabe();
+/// Empties the entry fields if they show a stored booking. A new one that is being typed stays.
+void LeereOffenen();
 void LeereArbAnzeige();
 /// True if there are hours, a member and a date that can be read; else a box says so.
 bool PruefeArbEingabe();
