@@ -255,7 +255,7 @@ void LadeBenutzerVorgang() {
         step([&] { form.txtPassw->setText(form.tblBenutzer->cellText(row, 2)); });
         step([&] { form.txtPasswBest->setText(form.tblBenutzer->cellText(row, 2)); });
         step([&] { form.cboBG->setText(form.tblBenutzer->cellText(row, gruppenSpalte)); });
-        session().Modus = u"EDIT"_qs;
+        modRun::beginneBearbeitung(form.lblBNr, row);
     });
 }
 
@@ -266,7 +266,7 @@ void LadeGruppenVorgang(int row) {
         step([&] { form.lblGNr->setCaption(form.tblZugriff->cellText(row, 0)); });
         step([&] { form.txtGruppe->setText(form.tblZugriff->cellText(row, 1)); });
         LadeZugriff(row);
-        session().Modus = u"EDIT"_qs;
+        modRun::beginneBearbeitung(form.lblGNr, row);
     });
 }
 

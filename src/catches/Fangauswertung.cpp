@@ -101,4 +101,5 @@ void Fangauswertung::tblFAusw_OnGridCellOpen(int row) {
     Hide();
     screen<Fangbuch>().Show();
     modFangbuch::loadFang(tblFAusw, row);
+    modRun::beginneBearbeitung(screen<Fangbuch>().lblFNr, row);
 }

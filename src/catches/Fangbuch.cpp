@@ -150,6 +150,5 @@ void Fangbuch::tblFList_OnGridCellOpen(int row) {
     if (row < 0) return;
     modFangbuch::FangAnzeigeLoeschen();
     modFangbuch::loadFang(tblFList, row);
-    session().Modus = u"EDIT"_qs;
-    session().AktZeile = row;
+    modRun::beginneBearbeitung(lblFNr, row);
 }

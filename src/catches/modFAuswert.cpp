@@ -168,7 +168,7 @@ void mnuFangInfo_Click() {
     Fangauswertung& form = screen<Fangauswertung>();
     modFangbuch::FangAnzeigeLoeschen();
     modFangbuch::loadFang(form.tblFAusw, session().AktZeile);
-    session().Modus = u"EDIT"_qs;
+    modRun::beginneBearbeitung(screen<Fangbuch>().lblFNr, session().AktZeile);
     form.Hide();
     screen<Fangbuch>().Show();
 }

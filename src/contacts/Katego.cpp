@@ -120,7 +120,6 @@ void Katego::Schliessen() {
 void Katego::tblKatego_OnGridCellOpen(int row, int column) {
     if (row < 0) return;
     modKatego::KategoAnzeigeLoeschen();
-    session().Modus = u"EDIT"_qs;
     modKatego::loadKatego(row, column);
-    session().AktZeile = row;
+    modRun::beginneBearbeitung(lblKategoNr, row);
 }

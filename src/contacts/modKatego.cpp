@@ -60,7 +60,6 @@ void loadKatego(int row, int /*column*/) {
                        return istSystemkategorie(modRun::textOderLeer(katego.Fields(u"kategorie"_qs)));
                    })) {
             MsgBox(u"ACHTUNG: Systemkategorie, keine Änderungen oder Löschung erlaubt!"_qs, vbInformation);
-            modRun::beendeVorgang();
         } else {
             step([&] { form.lblKategoNr->setCaption(CStr(katego.Collect(u"kategonr"_qs))); });
             step([&] { form.txtKatego->setText(modRun::textOderLeer(katego.Fields(u"kategorie"_qs))); });

@@ -63,6 +63,12 @@ void leereAuswahlBeiFokus(DataTable* grid) {
                      [grid] { runEvent([grid] { grid->selectRows(0, grid->rowCount(), false); }); });
 }
 
+void beginneBearbeitung(const ValueLabel* nummer, int row) {
+    session().AktZeile = row;
+    if (nummer->Caption().isEmpty()) return beendeVorgang();
+    session().Modus = u"EDIT"_qs;
+}
+
 void vergissOffenen(const QString& nummer) {
     if (!nummer.isEmpty()) session().Modus = u"SAVE"_qs;
 }

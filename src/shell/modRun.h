@@ -27,6 +27,9 @@ void connectGridFocus(DataTable* grid);
 /// For the grids that lose their selection also when they receive the focus.
 void leereAuswahlBeiFokus(DataTable* grid);
 
+/// Call after the loading routine of an opened row. Sets Modus to EDIT if the screen shows a record's number,
+/// otherwise to SAVE: without a record nothing can be changed, and the next entry is a new one.
+void beginneBearbeitung(const ValueLabel* nummer, int row);
 /// For a screen that is left and empties its fields: a record that stood open there is open no more, and the
 /// next screen must not take it for one of its own. `nummer` is empty if none was open.
 void vergissOffenen(const QString& nummer);

@@ -162,14 +162,12 @@ void Basis::tblFBasis_OnGridCellOpen(int row, int column) {
     if (row < 0) return;
     modBasis::BasisAnzeigeLoeschen();
     modBasis::loadFAuswahl(row, column);
-    session().Modus = u"EDIT"_qs;
-    session().AktZeile = row;
+    modRun::beginneBearbeitung(lblFNr, row);
 }
 
 void Basis::tblGBasis_OnGridCellOpen(int row, int column) {
     if (row < 0) return;
     modBasis::BasisAnzeigeLoeschen();
     modBasis::loadGAuswahl(row, column);
-    session().Modus = u"EDIT"_qs;
-    session().AktZeile = row;
+    modRun::beginneBearbeitung(lblGNr, row);
 }

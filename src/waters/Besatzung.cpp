@@ -114,6 +114,5 @@ void Besatzung::tblBList_OnGridCellOpen(int row) {
     if (row < 0) return;
     modBesatzList::BesatzAnzeigeLoeschen();
     modBesatzList::loadEintrag(tblBList, row);
-    session().Modus = u"EDIT"_qs;
-    session().AktZeile = row;
+    modRun::beginneBearbeitung(lblBNr, row);
 }

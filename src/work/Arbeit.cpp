@@ -123,8 +123,7 @@ void Arbeit::cboArbJahr_Click() {
 void Arbeit::tblArbStd_OnGridCellOpen(int row, int column) {
     if (row < 0) return;
     modArbeit::LeereArbEingabe();
-    session().Modus = u"EDIT"_qs;
-    session().AktZeile = row;
     modArbeit::loadArbeitsVorgang(row, column);
+    modRun::beginneBearbeitung(lblArbNr, row);
     pvDate->setFocus();
 }
