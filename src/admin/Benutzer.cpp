@@ -27,7 +27,7 @@ void Benutzer::Form_Paint() {
 }
 
 void Benutzer::Form_Deactivate() {
-    modRun::vergissOffenen(lblBNr->Caption() + lblGNr->Caption());
+    modRun::vergissOffenen();
     modBenutzer::LeereBenutzerAnzeige();
 }
 

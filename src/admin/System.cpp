@@ -81,7 +81,7 @@ void System::buildParameters() {
 }
 
 void System::Form_Deactivate() {
-    modRun::vergissOffenen(txtJB->Text() + txtFJahr->Text() + txtArbStd->Text());
+    modRun::vergissOffenen();
     modSystem::LeereParameter();
 }
 

@@ -77,7 +77,7 @@ void Katego::Form_Load() {
 }
 
 void Katego::Form_Deactivate() {
-    modRun::vergissOffenen(lblKategoNr->Caption());
+    modRun::vergissOffenen();
     tblKatego->selectRows(0, tblKatego->rowCount(), false);
     lblKategoNr->setCaption(QString());
     txtKatego->setText(QString());

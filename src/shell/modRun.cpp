@@ -69,9 +69,7 @@ void beginneBearbeitung(const ValueLabel* nummer, int row) {
     session().Modus = u"EDIT"_qs;
 }
 
-void vergissOffenen(const QString& nummer) {
-    if (!nummer.isEmpty()) session().Modus = u"SAVE"_qs;
-}
+void vergissOffenen() { session().Modus = u"SAVE"_qs; }
 
 void beendeVorgang() {
     session().Modus = u"SAVE"_qs;

@@ -30,9 +30,9 @@ void leereAuswahlBeiFokus(DataTable* grid);
 /// Call after the loading routine of an opened row. Sets Modus to EDIT if the screen shows a record's number,
 /// otherwise to SAVE: without a record nothing can be changed, and the next entry is a new one.
 void beginneBearbeitung(const ValueLabel* nummer, int row);
-/// For a screen that is left and empties its fields: a record that stood open there is open no more, and the
-/// next screen must not take it for one of its own. `nummer` is empty if none was open.
-void vergissOffenen(const QString& nummer);
+/// Ends EDIT. Call when leaving a screen that empties its fields, whatever they show: a record can be open
+/// over a box that the user has emptied.
+void vergissOffenen();
 /// The end of each press in a toolbar, whatever came of it, and the start of a screen: what is saved next is
 /// a new record, on any screen.
 void beendeVorgang();

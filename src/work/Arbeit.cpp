@@ -43,7 +43,7 @@ void Arbeit::Form_Activate() {
 
 void Arbeit::Form_Deactivate() {
     if (!session().NachReport) {
-        modRun::vergissOffenen(lblArbNr->Caption());
+        modRun::vergissOffenen();
         modArbeit::LeereArbAnzeige();
     }
     unload<SuchKont>();

@@ -62,11 +62,9 @@ bool schuldetStunden(ErrorTail& step, const QString& knr) {
 
 void zeigeMitglied(ErrorTail& step, const Mitglied& mitglied) {
     Arbeit& form = screen<Arbeit>();
-    if (!form.lblArbNr->Caption().isEmpty()) {
-        // A booking that stands open is the former member's: it must not be taken for the new one's.
-        LeereArbEingabe();
-        modRun::beendeVorgang();
-    }
+    // A booking that stands open is the former member's: it must not be taken for the new one's.
+    LeereOffenen();
+    modRun::vergissOffenen();
     form.lblKNr->setCaption(mitglied.knr);
     form.lblVName->setCaption(mitglied.vorname);
     form.lblNName->setCaption(mitglied.nachname);
