@@ -8,7 +8,6 @@
 #include "SqlFunctions.h"
 #include "Sqlite.h"
 
-#include <QtGlobal>
 #include <utility>
 
 namespace {
@@ -73,10 +72,6 @@ void Connection::openExisting(const QString& path, const QString& password, Acce
     cascadeDeletions();
 }
 
-Connection::~Connection() {
-    if (m_keptFailure) qWarning("%s", qUtf8Printable(m_keptFailure->description));
-}
-
 void Connection::openFile(const QString& path, const QString& password, Access access) {
     m_database = openHandle(path.toUtf8(), openFlags(access));
     m_cache.emplace(m_database.get());
@@ -135,7 +130,7 @@ void Connection::cascadeDeletions() {
 }
 
 void Connection::close() {
-    std::optional<RuntimeError> failure = std::exchange(m_keptFailure, std::nullopt);
+    std::optional<RuntimeError> failure;
     while (!m_cursors.empty()) {
         try {
             m_cursors.back()->close();
@@ -158,14 +153,6 @@ StatementCache::Loan Connection::select(QStringView source) {
 }
 
 int Connection::changes() const { return sqlite3_changes(m_database.get()); }
-
-void Connection::keepFailure(const RuntimeError& failure) {
-    if (!m_keptFailure) m_keptFailure = failure;
-}
-
-void Connection::tellKeptFailure() {
-    if (const auto failure = std::exchange(m_keptFailure, std::nullopt)) throw *failure;
-}
 
 void Connection::remove(Cursor* cursor) { std::erase(m_cursors, cursor); }
 

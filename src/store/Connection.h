@@ -25,7 +25,7 @@ public:
     /// is for a file that is to be made and does not check what it holds. Errors as for
     /// Workspace::OpenDatabase.
     Connection(const QString& path, const QString& password, Access access);
-    ~Connection();
+    ~Connection() = default;
     Connection(const Connection&) = delete;
     Connection& operator=(const Connection&) = delete;
 
@@ -46,11 +46,6 @@ public:
     /// How many rows the last write touched.
     int changes() const;
 
-    /// Of a commit at the end of a cursor that nobody closed. Thrown, once, at the next use of the
-    /// connection: when a cursor is opened, writes or is closed, and at the latest when the connection is.
-    void keepFailure(const RuntimeError& failure);
-    void tellKeptFailure();
-
     void add(Cursor* cursor) { m_cursors.push_back(cursor); }
     void remove(Cursor* cursor);
 
@@ -67,7 +62,6 @@ private:
     std::optional<StatementCache> m_cache;
     std::optional<WriteTransaction> m_transaction;
     std::vector<Cursor*> m_cursors;
-    std::optional<RuntimeError> m_keptFailure;
     LexedStatement m_lexed; ///< kept for its buffers
 };
 

@@ -16,29 +16,31 @@ Cursor::Cursor(std::shared_ptr<Connection> connection)
 }
 
 Cursor::~Cursor() {
-    const std::shared_ptr<Connection> connection = m_connection;
     try {
-        leave();
-    } catch (const RuntimeError& error) {
-        // Routines close what they have written to; this is a cursor that an error carried away.
-        connection->keepFailure(error);
+        leave(End::Abandon);
+    } catch (const RuntimeError&) {
+        // The write that has failed threw it before.
     }
 }
 
 void Cursor::close() {
-    const std::shared_ptr<Connection> connection = m_connection;
     releaseRows();
-    leave();
-    connection->tellKeptFailure();
+    leave(End::Commit);
 }
 
-void Cursor::leave() {
+void Cursor::abandon() {
+    releaseRows();
+    leave(End::Abandon);
+}
+
+void Cursor::leave(End end) {
     const auto ended = std::exchange(m_connection, nullptr);
     if (ended == nullptr) return;
     ended->remove(this);
     const bool hasWritten = m_writer.has_value();
     m_writer.reset();
-    if (hasWritten) ended->transaction().leave();
+    if (!hasWritten) return;
+    end == End::Commit ? ended->transaction().leave() : ended->transaction().abandon();
 }
 
 void Cursor::moveTo(Place place) {
@@ -95,7 +97,6 @@ qint64 Cursor::currentRow() {
 }
 
 RowWriter& Cursor::writer() {
-    m_connection->tellKeptFailure();
     if (m_writer) {
         m_connection->transaction().requireIntact();
         return *m_writer;

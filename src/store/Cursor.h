@@ -20,6 +20,8 @@ public:
     bool isOpen() const { return m_connection != nullptr; }
     /// The last cursor that has written commits.
     void close();
+    /// Takes back what the action has written, as the end of a cursor that nobody closed does.
+    void abandon();
 
     /// Error 3265 if there is none.
     virtual int columnIndex(const QString& name) const = 0;
@@ -75,7 +77,8 @@ private:
     RowWriter& writer();
     template<typename Write>
     void write(Write write);
-    void leave();
+    enum class End : quint8 { Commit, Abandon };
+    void leave(End end);
 
     std::shared_ptr<Connection> m_connection;
     Place m_place = Place::Empty;

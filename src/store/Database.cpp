@@ -20,7 +20,6 @@ bool Database::isSound() const {
 
 Recordset Database::OpenRecordset(const QString& nameOrSelect, RecordsetType type) {
     if (!isOpen()) throw runtimeError(91);
-    m_connection->tellKeptFailure();
     if (type == dbOpenDynaset) return Recordset(std::make_shared<QueryCursor>(m_connection, nameOrSelect));
     const TableSpec* table = findTable(nameOrSelect);
     if (table == nullptr) throw runtimeError(3078, nameOrSelect);

@@ -61,3 +61,5 @@ void Recordset::Update() { cursor().update(); }
 void Recordset::Delete() { cursor().remove(); }
 
 void Recordset::Close() { cursor().close(); }
+
+void Recordset::Abandon() { cursor().abandon(); }

@@ -67,9 +67,11 @@ public:
     void Update();
     void Delete();
     /// Ends the cursor. If it was the last one that has written, this is where the user action reaches the
-    /// disk, and where a failure to do so is reported; one at the end of a cursor that nobody closed is
-    /// reported at the database's next use.
+    /// disk, and where a failure to do so is reported.
     void Close();
+    /// Ends the cursor and takes the user action back, as the end of a cursor that has written and was never
+    /// closed does. Throws what has undone the action already.
+    void Abandon();
 
 private:
     Cursor& cursor() const;

@@ -51,6 +51,18 @@ void WriteTransaction::commit() {
 
 void WriteTransaction::rollback() {
     endHold();
+    undo();
+}
+
+void WriteTransaction::abandon() {
+    if (m_isHeld || m_isUndone) return leave();
+    const auto lost = m_lost;
+    undo();
+    if (lost) throw *lost;
+}
+
+/// Cursors that are still open write no more, and their ends commit nothing.
+void WriteTransaction::undo() {
     m_lost = noneBegun();
     m_isUndone = true;
     leave();

@@ -19,6 +19,9 @@ public:
     /// A cursor that has joined is closed; the last one commits. Failing that, everything is rolled back and
     /// the failure is thrown.
     void leave();
+    /// As leave, but takes the action back. Throws what has undone it already, once. Under begin the
+    /// decision is left to commit and rollback.
+    void abandon();
     /// To be told of each failed write: the library may have taken back all writes of the action, which must
     /// then not go on as if nothing were missing.
     void noteFailure(const RuntimeError& cause);
@@ -37,6 +40,7 @@ private:
     void execute(const QByteArray& sql);
     bool isOpen() const;
     void endHold();
+    void undo();
 
     sqlite3* m_database;
     int m_writers = 0;     ///< with the hold of begin

@@ -135,8 +135,10 @@ TEST_F(CursorTest, DoesNotSearchAgainForALastRowThatItFailedToRead) {
     running.Close();
 
     fish.MoveLast();
-    seek(u"Fisch", 4).Delete();
-    seek(u"Fisch", 3).Delete();
+    for (Recordset gone : {seek(u"Fisch", 4), seek(u"Fisch", 3)}) {
+        gone.Delete();
+        gone.Close();
+    }
     EXPECT_EQ(errorOf([&] { number(fish, u"FNr"); }), 3021);
     EXPECT_EQ(place(fish), u"2 -1 eof");
     fish.MoveLast();
@@ -168,7 +170,8 @@ TEST_F(CursorTest, HasNoRowAfterADeletionUntilItMoves) {
         fish.Close();
     }
     EXPECT_EQ(walk(u"SELECT FNr FROM Fisch"_qs, u"FNr"), u"3 4");
-    for (Recordset fish = table(u"Fisch"); !fish.Eof(); fish.MoveNext()) fish.Delete();
+    Recordset rest = table(u"Fisch");
+    for (; !rest.Eof(); rest.MoveNext()) rest.Delete();
     EXPECT_EQ(place(table(u"Fisch")), u"0 -1 bof eof");
 }
 
