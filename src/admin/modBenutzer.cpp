@@ -4,6 +4,7 @@
 #include "ComboBox.h"
 #include "Conversions.h"
 #include "DataTable.h"
+#include "Datensatz.h"
 #include "ErrorTail.h"
 #include "MsgBox.h"
 #include "Screens.h"
@@ -39,11 +40,25 @@ void zeigeAnzahl(ValueLabel* label, const DataTable* grid) {
     label->setCaption(QString::number(grid->rowCount()));
 }
 
-void schreibeBenutzer(ErrorTail& step, Recordset& benutzer, qint32 gnr) {
-    const Benutzer& form = screen<Benutzer>();
-    step([&] { benutzer.Collect(u"Name"_qs, form.txtBenutzer->Text()); });
-    step([&] { benutzer.Collect(u"Passwort"_qs, form.txtPassw->Text()); });
-    step([&] { benutzer.Collect(u"GNr"_qs, gnr); });
+Datensatz::Felder felder(ErrorTail& step, const Benutzer& form, qint32 gnr) {
+    return [&step, &form, gnr](Recordset& benutzer) {
+        step([&] { benutzer.Collect(u"Name"_qs, form.txtBenutzer->Text()); });
+        step([&] { benutzer.Collect(u"Passwort"_qs, form.txtPassw->Text()); });
+        step([&] { benutzer.Collect(u"GNr"_qs, gnr); });
+    };
+}
+
+Datensatz::Felder felder(ErrorTail& step, const Benutzer& form) {
+    return [&](Recordset& gruppe) {
+        step([&] { gruppe.Collect(u"GName"_qs, form.txtGruppe->Text()); });
+        step([&] { SichereZugriff(gruppe); });
+    };
+}
+
+/// The fields of a group that its row in the grid is made from.
+Datensatz::Danach liesGruppe(ErrorTail& step, std::vector<Value>& zeile) {
+    return Datensatz::lies(
+        step, zeile, QStringList{u"GNr"_qs, u"GName"_qs} + QStringList(rechte().begin(), rechte().end()));
 }
 
 void leereBenutzer(const Benutzer& form) {
@@ -70,114 +85,90 @@ std::vector<Value> gruppenZeile(const Recordset& gruppe) {
 void SpeicherBenutzer() {
     withErrorTail(modul, u"SpeicherBenutzer"_qs, [](ErrorTail& step) {
         const Benutzer& form = screen<Benutzer>();
-        Recordset benutzer;
-        step([&] { benutzer = oeffneTabelle(u"Benutzer"_qs); });
         const qint32 gnr = ErmittleGNr(form.cboBG->Text());
         if (gnr == 0) return LeereBenutzerEingabe();
-        step([&] { benutzer.AddNew(); });
-        schreibeBenutzer(step, benutzer, gnr);
-        if (!modRun::speichereNeuen(step, benutzer)) return LeereBenutzerEingabe();
+        std::vector<Value> zeile;
         QString gruppe;
-        step([&] { gruppe = ErmittleGName(CLng(benutzer.Collect(u"GNr"_qs))); });
+        if (Datensatz::speichere(
+                step, u"Benutzer"_qs, felder(step, form, gnr),
+                Datensatz::lies(step, zeile, {u"BNr"_qs, u"Name"_qs, u"Passwort"_qs, u"GNr"_qs})))
+            step([&] { gruppe = ErmittleGName(CLng(zeile[gruppenSpalte])); });
         if (gruppe.isEmpty()) return LeereBenutzerEingabe();
-        step([&] {
-            form.tblBenutzer->appendRow({benutzer.Collect(u"BNr"_qs), benutzer.Collect(u"Name"_qs),
-                                         benutzer.Collect(u"Passwort"_qs), gruppe});
-        });
+        zeile[gruppenSpalte] = gruppe;
+        step([&] { form.tblBenutzer->appendRow(zeile); });
         LeereBenutzerEingabe();
         zeigeAnzahl(form.lblBAnzahl, form.tblBenutzer);
-        step([&] { benutzer.Close(); });
     });
 }
 
 void UpdateBenutzer(int row) {
     withErrorTail(modul, u"UpdateBenutzer"_qs, [row](ErrorTail& step) {
         const Benutzer& form = screen<Benutzer>();
-        Recordset benutzer;
-        if (modRun::findeIn(step, benutzer, u"Benutzer"_qs, form.lblBNr->Caption())) {
-            const qint32 gnr = ErmittleGNr(form.cboBG->Text());
-            if (gnr == 0) return LeereBenutzerEingabe();
+        bool fehlt = false;
+        const bool steht = Datensatz::schreibe(step, u"Benutzer"_qs, [&](Recordset& benutzer) {
+            fehlt = !modRun::finde(step, benutzer, form.lblBNr->Caption());
+            if (fehlt) modRun::MeldeNichtVorhanden();
+            const qint32 gnr = fehlt ? 0 : ErmittleGNr(form.cboBG->Text());
+            if (gnr == 0) return false;
             step([&] { benutzer.Edit(); });
-            schreibeBenutzer(step, benutzer, gnr);
-            step([&] { benutzer.Update(); });
-        } else {
-            modRun::MeldeNichtVorhanden();
-        }
-        // Without a number no user stands open but a group, and its row is another user's here.
-        if (!form.lblBNr->Caption().isEmpty()) {
+            felder(step, form, gnr)(benutzer);
+            return step([&] { benutzer.Update(); });
+        });
+        // A user who is gone is shown as typed. Without a number no user stands open but a group, and its row
+        // is another user's here.
+        if ((steht || fehlt) && !form.lblBNr->Caption().isEmpty()) {
             const int zeile = modRun::zeileVon(form.tblBenutzer, form.lblBNr, row);
             step([&] { form.tblBenutzer->setCell(zeile, 1, form.txtBenutzer->Text()); });
             step([&] { form.tblBenutzer->setCell(zeile, 2, form.txtPassw->Text()); });
             step([&] { form.tblBenutzer->setCell(zeile, gruppenSpalte, form.cboBG->Text()); });
         }
         LeereBenutzerEingabe();
-        step([&] { benutzer.Close(); });
     });
 }
 
 void LoescheBenutzer(int row) {
     withErrorTail(modul, u"LoescheBenutzer"_qs, [row](ErrorTail& step) {
         const Benutzer& form = screen<Benutzer>();
-        Recordset benutzer;
-        if (modRun::findeIn(step, benutzer, u"Benutzer"_qs, form.lblBNr->Caption())) {
-            step([&] { benutzer.Delete(); });
+        if (Datensatz::loesche(step, u"Benutzer"_qs, form.lblBNr->Caption())) {
             step([&] { form.tblBenutzer->removeRow(modRun::zeileVon(form.tblBenutzer, form.lblBNr, row)); });
             zeigeAnzahl(form.lblBAnzahl, form.tblBenutzer);
-        } else {
-            modRun::MeldeNichtVorhanden();
         }
         LeereBenutzerEingabe();
-        step([&] { benutzer.Close(); });
     });
 }
 
 void SpeicherBG() {
     withErrorTail(modul, u"SpeicherBG"_qs, [](ErrorTail& step) {
         const Benutzer& form = screen<Benutzer>();
-        Recordset gruppe;
-        step([&] { gruppe = oeffneTabelle(u"Gruppen"_qs); });
-        step([&] { gruppe.AddNew(); });
-        step([&] { gruppe.Collect(u"GName"_qs, form.txtGruppe->Text()); });
-        step([&] { SichereZugriff(gruppe); });
-        if (modRun::speichereNeuen(step, gruppe))
-            step([&] { form.tblZugriff->appendRow(gruppenZeile(gruppe)); });
+        std::vector<Value> zeile;
+        if (Datensatz::speichere(step, u"Gruppen"_qs, felder(step, form), liesGruppe(step, zeile)))
+            step([&] { form.tblZugriff->appendRow(zeile); });
         LeereBenutzerEingabe();
         zeigeAnzahl(form.lblGAnzahl, form.tblZugriff);
         LadeGruppenCombo(form.cboBG);
-        step([&] { gruppe.Close(); });
     });
 }
 
 void UpdateBG(int row) {
     withErrorTail(modul, u"UpdateBG"_qs, [row](ErrorTail& step) {
         const Benutzer& form = screen<Benutzer>();
-        Recordset gruppe;
-        if (modRun::findeIn(step, gruppe, u"Gruppen"_qs, form.lblGNr->Caption())) {
-            step([&] { gruppe.Edit(); });
-            step([&] { gruppe.Collect(u"GName"_qs, form.txtGruppe->Text()); });
-            step([&] { SichereZugriff(gruppe); });
-            step([&] { gruppe.Update(); });
+        std::vector<Value> zeile;
+        // Without a record there is nothing to take the cells from.
+        if (Datensatz::aendere(step, u"Gruppen"_qs, form.lblGNr->Caption(), felder(step, form),
+                               liesGruppe(step, zeile)))
             step([&] {
-                const std::vector<Value> zeile = gruppenZeile(gruppe);
                 const int dort = modRun::zeileVon(form.tblZugriff, form.lblGNr, row);
                 for (std::size_t column = 1; column < zeile.size(); ++column)
                     form.tblZugriff->setCell(dort, static_cast<int>(column), zeile[column]);
             });
-        } else {
-            // Without a record there is nothing to take the cells from.
-            modRun::MeldeNichtVorhanden();
-        }
         LeereBenutzerEingabe();
-        step([&] { gruppe.Close(); });
     });
 }
 
 void LoescheZugriff(int row) {
     withErrorTail(modul, u"LoescheZugriff"_qs, [row](ErrorTail& step) {
         const Benutzer& form = screen<Benutzer>();
-        Recordset gruppe;
-        if (modRun::findeIn(step, gruppe, u"Gruppen"_qs, form.lblGNr->Caption())) {
-            step([&] { gruppe.Delete(); });
+        if (Datensatz::loesche(step, u"Gruppen"_qs, form.lblGNr->Caption())) {
             step([&] { form.tblZugriff->removeRow(modRun::zeileVon(form.tblZugriff, form.lblGNr, row)); });
             zeigeAnzahl(form.lblGAnzahl, form.tblZugriff);
             // The number of groups here too, until the next painting.
@@ -187,11 +178,8 @@ void LoescheZugriff(int row) {
                                                u"LOESCHEN"_qs, QString());
             });
             LadeGruppenCombo(form.cboBG);
-        } else {
-            modRun::MeldeNichtVorhanden();
         }
         LeereBenutzerEingabe();
-        step([&] { gruppe.Close(); });
     });
 }
 

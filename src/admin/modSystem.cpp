@@ -45,11 +45,14 @@ struct Parameter {
 
 void writeParameter(Recordset& parameter, const Parameter& which) {
     const QString text = which.box->Text();
-    if (text.isEmpty()) return;
-    parameter.Collect(which.field, CLng(text));
+    if (!text.isEmpty()) parameter.Collect(which.field, CLng(text));
+}
+
+void showParameter(const Parameter& which) {
+    const QString text = which.box->Text();
     DataTable* grid = screen<System>().tblSystem;
     int row = 0;
-    if (grid->find(0, row, which.label) >= 0) grid->setCell(row, 1, text);
+    if (!text.isEmpty() && grid->find(0, row, which.label) >= 0) grid->setCell(row, 1, text);
 }
 
 /// First for Info, then for the boxes.
@@ -86,14 +89,16 @@ void loadTblSystem() {
 }
 
 void UpdateParameter() {
-    System& form = screen<System>();
+    const System& form = screen<System>();
+    const Parameter changed[] = {{u"FJahr"_qs, form.txtFJahr, labelFangjahr},
+                                 {u"JBeitrag"_qs, form.txtJB, labelJahresbeitrag},
+                                 {u"PflichtStd"_qs, form.txtArbStd, labelPflichtStd()}};
     Recordset parameter = oeffneTabelle(u"System"_qs);
     parameter.Edit();
-    writeParameter(parameter, {u"FJahr"_qs, form.txtFJahr, labelFangjahr});
-    writeParameter(parameter, {u"JBeitrag"_qs, form.txtJB, labelJahresbeitrag});
-    writeParameter(parameter, {u"PflichtStd"_qs, form.txtArbStd, labelPflichtStd()});
+    for (const Parameter& which : changed) writeParameter(parameter, which);
     parameter.Update();
     parameter.Close();
+    for (const Parameter& which : changed) showParameter(which);
     LeereParameter();
 }
 

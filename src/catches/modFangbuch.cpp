@@ -3,6 +3,7 @@
 #include "ComboBox.h"
 #include "Conversions.h"
 #include "DataTable.h"
+#include "Datensatz.h"
 #include "ErrorTail.h"
 #include "Fangbuch.h"
 #include "MemoBox.h"
@@ -21,41 +22,37 @@ namespace {
 const QString modul = u"modFangbuch"_qs;
 
 /// The seven fields of the form, in the order in which they are written.
-void schreibeFelder(ErrorTail& step, Recordset& fang, const Fangbuch& form) {
+void schreibeFelder(ErrorTail& step, Recordset& fang, const Fangbuch& form, const Nummern& nummern) {
     step([&] { fang.Collect(u"FangJahr"_qs, CLng(form.cboFJahr->Text())); });
     step([&] { fang.Collect(u"FangMonat"_qs, CLng(form.txtMonNr->Text())); });
-    step([&] { fang.Collect(u"FischNr"_qs, ErmittleFischNr(form.cboFArt->Text())); });
-    step([&] { fang.Collect(u"GNr"_qs, ErmittleGewaesserNr(form.cboGName->Text())); });
+    step([&] { fang.Collect(u"FischNr"_qs, nummern.fisch); });
+    step([&] { fang.Collect(u"GNr"_qs, nummern.gewaesser); });
     step([&] { fang.Collect(u"Notiz"_qs, form.txtNotiz->Text()); });
     step([&] { fang.Collect(u"Anzahl"_qs, CLng(form.txtAnzahl->Text())); });
     step([&] { fang.Collect(u"Gewicht"_qs, CLng(form.txtGewicht->Text())); });
-}
-
-/// Seeks the record whose number the form shows.
-bool findeOffenen(ErrorTail& step, Recordset& fang, const Fangbuch& form) {
-    return modRun::findeIn(step, fang, u"Fang"_qs, form.lblFNr->Caption());
 }
 
 bool imGewaehltenMonat(const Fangbuch& form) {
     return CLng(form.txtMonNr->Text()) == modRun::ErmittleMonatsNr(form.cboSelMonat->Text());
 }
 
+/// The fields of a record that its row in the grid is made from.
+const QStringList& felderDerZeile() {
+    static const QStringList felder = {u"FangNr"_qs,    u"FischNr"_qs, u"GNr"_qs,
+                                       u"FangMonat"_qs, u"Anzahl"_qs,  u"Gewicht"_qs};
+    return felder;
+}
+
 /// The record just made as a row of the grid, if its month is the one on show.
-void zeigeNeuen(ErrorTail& step, const Recordset& fang, Fangbuch& form) {
-    const auto number = [&](const QString& field) { return CLng(fang.Collect(field)); };
-    const auto monat = [&] { return modRun::ErmittleMonatsname(number(u"FangMonat"_qs)); };
+void zeigeNeuen(ErrorTail& step, std::vector<Value> zeile, const Fangbuch& form) {
+    const auto monat = [monat = zeile[3]] { return modRun::ErmittleMonatsname(CLng(monat)); };
     if (!step.test([&] { return form.cboSelMonat->Text() == monat(); })) return;
-    std::vector<Value> zeile(6);
-    step([&] { zeile[0] = fang.Collect(u"FangNr"_qs); });
-    step([&] { zeile[1] = ErmittleFischname(number(u"FischNr"_qs)); });
-    step([&] { zeile[2] = ErmittleGewaessername(number(u"GNr"_qs)); });
+    step([&] { zeile[1] = ErmittleFischname(CLng(zeile[1])); });
+    step([&] { zeile[2] = ErmittleGewaessername(CLng(zeile[2])); });
     step([&] { zeile[3] = monat(); });
-    step([&] { zeile[4] = fang.Collect(u"Anzahl"_qs); });
-    step([&] { zeile[5] = fang.Collect(u"Gewicht"_qs); });
-    if (step.test([&] { return imGewaehltenMonat(form); })) {
-        step([&] { form.tblFList->appendRow(zeile); });
-        form.tblFList->refresh();
-    }
+    if (!step.test([&] { return imGewaehltenMonat(form); })) return;
+    step([&] { form.tblFList->appendRow(zeile); });
+    form.tblFList->refresh();
 }
 
 } // namespace
@@ -67,33 +64,30 @@ void InitFangbuch() {
 
 void SpeicherFang() {
     withErrorTail(modul, u"SpeicherFang"_qs, [](ErrorTail& step) {
-        Fangbuch& form = screen<Fangbuch>();
-        Recordset fang;
-        step([&] { fang = oeffneTabelle(u"Fang"_qs); });
-        step([&] { fang.AddNew(); });
-        schreibeFelder(step, fang, form);
-        if (modRun::speichereNeuen(step, fang)) zeigeNeuen(step, fang, form);
+        const Fangbuch& form = screen<Fangbuch>();
+        const auto nummern = ermittleNummern(form.cboFArt, form.cboGName);
+        if (!nummern) return;
+        std::vector<Value> zeile;
+        const auto felder = [&](Recordset& fang) { schreibeFelder(step, fang, form, *nummern); };
+        if (Datensatz::speichere(step, u"Fang"_qs, felder, Datensatz::lies(step, zeile, felderDerZeile())))
+            zeigeNeuen(step, zeile, form);
         FangAnzeigeLoeschen();
         form.cboFArt->setFocus();
         form.lblAnzahl->setCaption(QString::number(form.tblFList->rowCount()));
         step([&] { form.lblGesAnz->setCaption(Ermittle_DSAnzahl()); });
-        step([&] { fang.Close(); });
     });
 }
 
 void UpdateFang(int row) {
     withErrorTail(modul, u"UpdateFang"_qs, [row](ErrorTail& step) {
-        Fangbuch& form = screen<Fangbuch>();
-        Recordset fang;
-        if (!findeOffenen(step, fang, form)) {
-            modRun::MeldeNichtVorhanden();
-        } else {
-            step([&] { fang.Edit(); });
-            schreibeFelder(step, fang, form);
-            step([&] { fang.Update(); });
-            std::vector<Value> zeile = {form.lblFNr->Caption(), form.cboFArt->Text(),
-                                        form.cboGName->Text(),  form.txtFangMonat->Text(),
-                                        form.txtAnzahl->Text(), form.txtGewicht->Text()};
+        const Fangbuch& form = screen<Fangbuch>();
+        const auto nummern = ermittleNummern(form.cboFArt, form.cboGName);
+        if (!nummern) return;
+        const auto felder = [&](Recordset& fang) { schreibeFelder(step, fang, form, *nummern); };
+        if (Datensatz::aendere(step, u"Fang"_qs, form.lblFNr->Caption(), felder)) {
+            const std::vector<Value> zeile = {form.lblFNr->Caption(), form.cboFArt->Text(),
+                                              form.cboGName->Text(),  form.txtFangMonat->Text(),
+                                              form.txtAnzahl->Text(), form.txtGewicht->Text()};
             step([&] { form.tblFList->removeRow(row); });
             if (step.test([&] { return imGewaehltenMonat(form); })) {
                 step([&] { form.tblFList->insertRow(row, zeile); });
@@ -101,24 +95,18 @@ void UpdateFang(int row) {
             }
         }
         FangAnzeigeLoeschen();
-        step([&] { fang.Close(); });
     });
 }
 
 void LoescheFang(int row) {
     withErrorTail(modul, u"LoescheFang"_qs, [row](ErrorTail& step) {
-        Fangbuch& form = screen<Fangbuch>();
-        Recordset fang;
-        if (findeOffenen(step, fang, form)) {
-            step([&] { fang.Delete(); });
+        const Fangbuch& form = screen<Fangbuch>();
+        if (Datensatz::loesche(step, u"Fang"_qs, form.lblFNr->Caption())) {
             step([&] { form.tblFList->removeRow(row); });
             form.lblAnzahl->setCaption(QString::number(form.tblFList->rowCount()));
-        } else {
-            modRun::MeldeNichtVorhanden();
         }
         FangAnzeigeLoeschen();
         form.cboFArt->setFocus();
-        step([&] { fang.Close(); });
     });
 }
 

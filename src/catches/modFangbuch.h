@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <optional>
 
 class ComboBox;
 class DataTable;
@@ -43,5 +44,13 @@ qint32 ErmittleFischNr(const QString& name);
 QString ErmittleFischname(qint32 number);
 qint32 ErmittleGewaesserNr(const QString& name);
 QString ErmittleGewaessername(qint32 number);
+
+/// The numbers behind the two combo boxes.
+struct Nummern {
+    qint32 fisch;
+    qint32 gewaesser;
+};
+/// Nothing, after a box, if the file does not know one of the names.
+std::optional<Nummern> ermittleNummern(const ComboBox* art, const ComboBox* gewaesser);
 
 } // namespace modFangbuch

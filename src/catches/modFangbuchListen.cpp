@@ -143,4 +143,12 @@ QString ErmittleGewaessername(qint32 number) {
     });
 }
 
+std::optional<Nummern> ermittleNummern(const ComboBox* art, const ComboBox* gewaesser) {
+    const auto fisch = modRun::ermittleNummer(&ErmittleFischNr, art->Text());
+    if (!fisch) return std::nullopt;
+    const auto dort = modRun::ermittleNummer(&ErmittleGewaesserNr, gewaesser->Text());
+    if (!dort) return std::nullopt;
+    return Nummern{*fisch, *dort};
+}
+
 } // namespace modFangbuch

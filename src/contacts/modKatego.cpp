@@ -2,6 +2,7 @@
 
 #include "Conversions.h"
 #include "DataTable.h"
+#include "Datensatz.h"
 #include "ErrorTail.h"
 #include "Katego.h"
 #include "MsgBox.h"
@@ -23,9 +24,9 @@ const QString modul = u"modKatego"_qs;
 
 void zeigeAnzahl(Katego& form) { form.lblAnzahl->setCaption(QString::number(form.tblKatego->rowCount())); }
 
-/// Seeks the category that the mask shows.
-bool findeOffene(ErrorTail& step, Recordset& katego, const Katego& form) {
-    return modRun::findeIn(step, katego, u"Katego"_qs, form.lblKategoNr->Caption());
+/// The one field of the mask.
+Datensatz::Felder felder(ErrorTail& step, const Katego& form) {
+    return [&](Recordset& katego) { step([&] { katego.Collect(u"kategorie"_qs, form.txtKatego->Text()); }); };
 }
 
 QString alsZeile(const QString& name) { return istSystemkategorie(name) ? name + systemMarke : name; }
@@ -68,66 +69,43 @@ void loadKatego(int row, int /*column*/) {
     });
 }
 
-namespace {
-
-void zeigeNeue(ErrorTail& step, const Recordset& katego, Katego& form) {
-    Value nummer;
-    Value name;
-    step([&] { nummer = katego.Collect(u"kategonr"_qs); });
-    step([&] { name = katego.Collect(u"kategorie"_qs); });
-    step([&] { form.tblKatego->appendRow({nummer, name}); });
-    zeigeAnzahl(form);
-    step([&] { Uebersicht::nehmeKategorieAuf(nummer, name); });
-}
-
-} // namespace
-
 void SpeicherKatego() {
     withErrorTail(modul, u"SpeicherKatego"_qs, [](ErrorTail& step) {
         Katego& form = screen<Katego>();
-        Recordset katego;
-        step([&] { katego = oeffneTabelle(u"Katego"_qs); });
-        step([&] { katego.AddNew(); });
-        step([&] { katego.Collect(u"kategorie"_qs, form.txtKatego->Text()); });
-        if (modRun::speichereNeuen(step, katego)) zeigeNeue(step, katego, form);
+        std::vector<Value> neue;
+        if (Datensatz::speichere(step, u"Katego"_qs, felder(step, form),
+                                 Datensatz::lies(step, neue, {u"kategonr"_qs, u"kategorie"_qs}))) {
+            step([&] { form.tblKatego->appendRow(neue); });
+            zeigeAnzahl(form);
+            step([&] { Uebersicht::nehmeKategorieAuf(neue[0], neue[1]); });
+        }
         KategoAnzeigeLoeschen();
-        step([&] { katego.Close(); });
     });
 }
 
 void UpdateKatego(int row) {
     withErrorTail(modul, u"UpdateKatego"_qs, [row](ErrorTail& step) {
-        Katego& form = screen<Katego>();
-        Recordset katego;
-        if (findeOffene(step, katego, form)) {
+        const Katego& form = screen<Katego>();
+        const QString nummer = form.lblKategoNr->Caption();
+        if (Datensatz::aendere(step, u"Katego"_qs, nummer, felder(step, form))) {
             const QString name = form.txtKatego->Text();
-            step([&] { katego.Edit(); });
-            step([&] { katego.Collect(u"kategorie"_qs, name); });
-            step([&] { katego.Update(); });
             step([&] { form.tblKatego->setCell(row, 1, name); });
-            step([&] { Uebersicht::benenneKategorieUm(CLng(form.lblKategoNr->Caption()), name); });
-        } else {
-            modRun::MeldeNichtVorhanden();
+            step([&] { Uebersicht::benenneKategorieUm(CLng(nummer), name); });
         }
         KategoAnzeigeLoeschen();
-        step([&] { katego.Close(); });
     });
 }
 
 void LoescheKatego(int row) {
     withErrorTail(modul, u"LoescheKatego"_qs, [row](ErrorTail& step) {
         Katego& form = screen<Katego>();
-        Recordset katego;
-        if (findeOffene(step, katego, form)) {
-            step([&] { katego.Delete(); });
+        const QString nummer = form.lblKategoNr->Caption();
+        if (Datensatz::loesche(step, u"Katego"_qs, nummer)) {
             step([&] { form.tblKatego->removeRow(row); });
             zeigeAnzahl(form);
-            step([&] { Uebersicht::entferneKategorie(CLng(form.lblKategoNr->Caption())); });
-        } else {
-            modRun::MeldeNichtVorhanden();
+            step([&] { Uebersicht::entferneKategorie(CLng(nummer)); });
         }
         KategoAnzeigeLoeschen();
-        step([&] { katego.Close(); });
     });
 }
 

@@ -1,6 +1,7 @@
 #include "ComboBox.h"
 #include "Conversions.h"
 #include "DataTable.h"
+#include "Datensatz.h"
 #include "ErrorTail.h"
 #include "Kontakt.h"
 #include "KontaktFelder.h"
@@ -24,6 +25,14 @@ namespace {
 
 const QString modul = u"modKontakt"_qs;
 
+/// The category and the fields of the mask, in the order in which they are written.
+Datensatz::Felder felder(ErrorTail& step, const Kontakt& form, qint32 kategonr) {
+    return [&step, &form, kategonr](Recordset& kontakt) {
+        step([&] { kontakt.Collect(u"kategonr"_qs, kategonr); });
+        KontaktFelder::schreibeKontakt(step, kontakt, form);
+    };
+}
+
 /// The number that the mask shows; 0, after the box, where it shows none.
 qint32 nummerDerMaske(ErrorTail& step, const Kontakt& form) {
     qint32 knr = 0;
@@ -31,45 +40,44 @@ qint32 nummerDerMaske(ErrorTail& step, const Kontakt& form) {
     return knr;
 }
 
-void fuegeMitgliedAn(ErrorTail& step, Recordset& mitglied, const Recordset& kontakt, const Kontakt& form) {
-    step([&] { mitglied.AddNew(); });
-    step([&] { mitglied.Collect(u"knr"_qs, kontakt.Collect(u"knr"_qs)); });
+void fuelleMitglied(ErrorTail& step, Recordset& mitglied, const Value& knr, const Kontakt& form) {
+    step([&] { mitglied.Collect(u"knr"_qs, knr); });
     KontaktFelder::schreibeMitglied(step, mitglied, form);
-    step([&] { mitglied.Update(); });
 }
 
 /// A member's row as the mask has it; one that is missing is added.
-void schreibeMitglied(ErrorTail& step, Recordset& mitglied, const Recordset& kontakt, qint32 knr,
-                      const Kontakt& form) {
-    if (!modRun::finde(step, mitglied, knr)) return fuegeMitgliedAn(step, mitglied, kontakt, form);
-    step([&] { mitglied.Edit(); });
-    KontaktFelder::schreibeMitglied(step, mitglied, form);
-    step([&] { mitglied.Update(); });
-}
-
-/// The contact just made as a row of its open category. Its birthday stands there as the field has it.
-std::array<Value, 10> alsZeile(const Recordset& kontakt) {
-    const auto feld = [&](const QString& name) { return kontakt.Collect(name); };
-    return {
-        feld(u"knr"_qs),     u" "_qs,          feld(u"Firma"_qs), feld(u"Anrede"_qs),   feld(u"Nachname"_qs),
-        feld(u"Vorname"_qs), feld(u"Tel1"_qs), feld(u"Fax"_qs),   feld(u"GebDatum"_qs), feld(u"EMail"_qs)};
+bool schreibeMitglied(ErrorTail& step, Recordset& mitglied, qint32 knr, const Kontakt& form) {
+    if (modRun::finde(step, mitglied, knr)) {
+        step([&] { mitglied.Edit(); });
+        KontaktFelder::schreibeMitglied(step, mitglied, form);
+    } else {
+        step([&] { mitglied.AddNew(); });
+        fuelleMitglied(step, mitglied, knr, form);
+    }
+    return step([&] { mitglied.Update(); });
 }
 
 /// The new contact in the overview. What the last press on a category left behind decides, whichever category
 /// that was: listed at once, or only counted, to be read when the category is opened.
-void zeigeNeuen(ErrorTail& step, Recordset& kontakt, const Kontakt& form) {
-    const QString name = form.cboKatego->Text();
-    const int row = Uebersicht::findeKategorie(ErmittleKategoNr(name));
+void zeigeNeuen(ErrorTail& step, std::span<const Value> zeile, qint32 kategonr, const Kontakt& form) {
+    const int row = Uebersicht::findeKategorie(kategonr);
     if (row < 0) return;
     const qint32 anzahl = Uebersicht::anzahl(row);
-    if (session().LetzterKlappZustand && anzahl >= 1) {
-        step([&] { kontakt.Index(u"PrimaryKey"_qs); });
-        step([&] { kontakt.MoveLast(); });
-        step([&] { Uebersicht::fuegeKontaktAn(row, alsZeile(kontakt)); });
-    } else {
+    if (session().LetzterKlappZustand && anzahl >= 1)
+        step([&] { Uebersicht::fuegeKontaktAn(row, zeile); });
+    else
         step([&] { Uebersicht::legeKindMitPlatzhalterAn(row); });
-    }
-    step([&] { Uebersicht::schreibeMarke(row, name, anzahl + 1, Uebersicht::Abstand::Eins); });
+    step([&] {
+        Uebersicht::schreibeMarke(row, form.cboKatego->Text(), anzahl + 1, Uebersicht::Abstand::Eins);
+    });
+}
+
+/// The fields of a contact that its row in the overview is made from. Its birthday stands there as the field
+/// has it.
+Datensatz::Danach liesZeile(ErrorTail& step, std::vector<Value>& zeile) {
+    return Datensatz::lies(step, zeile,
+                           {u"knr"_qs, u"Firma"_qs, u"Anrede"_qs, u"Nachname"_qs, u"Vorname"_qs, u"Tel1"_qs,
+                            u"Fax"_qs, u"GebDatum"_qs, u"EMail"_qs});
 }
 
 } // namespace
@@ -77,32 +85,33 @@ void zeigeNeuen(ErrorTail& step, Recordset& kontakt, const Kontakt& form) {
 void SpeicherKontakt() {
     withErrorTail(modul, u"SpeicherKontakt"_qs, [](ErrorTail& step) {
         const Kontakt& form = screen<Kontakt>();
-        Recordset kontakt;
-        Recordset mitglied;
-        step([&] { kontakt = oeffneTabelle(u"Kontakt"_qs); });
-        step([&] { kontakt.AddNew(); });
-        step([&] { kontakt.Collect(u"kategonr"_qs, ErmittleKategoNr(form.cboKatego->Text())); });
-        KontaktFelder::schreibeKontakt(step, kontakt, form);
-        // The last row is the new one only if there is a new one: it would be somebody else otherwise.
-        bool gespeichert = false;
-        step([&] {
-            kontakt.Update();
-            gespeichert = true;
-        });
-        if (gespeichert && KontaktFelder::istMitglied(form)) {
-            step([&] { mitglied = oeffneTabelle(u"Mitglied"_qs); });
-            step([&] { kontakt.Index(u"PrimaryKey"_qs); });
-            step([&] { kontakt.MoveLast(); });
-            fuegeMitgliedAn(step, mitglied, kontakt, form);
-            step([&] { mitglied.Close(); });
+        const auto kategonr = modRun::ermittleNummer(&ErmittleKategoNr, form.cboKatego->Text());
+        if (!kategonr) return;
+        std::vector<Value> zeile;
+        const auto danach = [&](Recordset& kontakt) {
+            liesZeile(step, zeile)(kontakt);
+            return !KontaktFelder::istMitglied(form) ||
+                   Datensatz::speichere(
+                       step, u"Mitglied"_qs,
+                       [&](Recordset& mitglied) { fuelleMitglied(step, mitglied, zeile[0], form); }, {});
+        };
+        if (Datensatz::speichere(step, u"Kontakt"_qs, felder(step, form, *kategonr), danach)) {
+            // The place of the picture.
+            zeile.insert(zeile.begin() + 1, u" "_qs);
+            zeigeNeuen(step, zeile, *kategonr, form);
         }
-        if (gespeichert) zeigeNeuen(step, kontakt, form);
         KontaktAnzeigeLoeschen();
-        step([&] { kontakt.Close(); });
     });
 }
 
 namespace {
+
+/// The way of a changed contact from its stored category into the mask's; both may be the same.
+struct Umzug {
+    qint32 neueNr;
+    qint32 alteNr = 0;
+    QString alterName = {};
+};
 
 /// A contact that keeps its category and whose row is not known: only an open category shows it.
 void bleibt(qint32 knr, qint32 kategonr, const Kontakt& form) {
@@ -144,21 +153,49 @@ void gibInKategorie(qint32 kategonr, const Kontakt& form) {
     Uebersicht::fuegeKontaktAn(kategorie, KontaktFelder::alsZeile(form));
 }
 
-/// The new category of the edited contact, in the record and in the overview.
-void wechsleKategorie(ErrorTail& step, Recordset& kontakt, qint32 knr, qint32 alteNr, qint32 neueNr, int row,
-                      const Kontakt& form) {
-    const QString alterName = ErmittleKategoName(alteNr);
-    step([&] { kontakt.Collect(u"kategonr"_qs, neueNr); });
-    step([&] { nimmAusKategorie(row, knr, alteNr, alterName); });
-    step([&] { gibInKategorie(neueNr, form); });
+/// The edited contact in the overview, where its row is known.
+void zeigeGeaenderten(ErrorTail& step, qint32 knr, const Umzug& umzug, int row, const Kontakt& form) {
+    if (umzug.alteNr == umzug.neueNr)
+        return void(step([&] { aktualisiereZeile(row, knr, umzug.neueNr, form); }));
+    step([&] { nimmAusKategorie(row, knr, umzug.alteNr, umzug.alterName); });
+    step([&] { gibInKategorie(umzug.neueNr, form); });
 }
 
 /// Who leaves a member category loses the member's row, also on the way into the other one.
-void loescheMitglied(ErrorTail& step, Recordset& mitglied, qint32 knr) {
-    if (modRun::finde(step, mitglied, knr))
-        step([&] { mitglied.Delete(); });
-    else
-        modRun::MeldeNichtVorhanden();
+bool loescheMitglied(ErrorTail& step, Recordset& mitglied, qint32 knr) {
+    if (modRun::finde(step, mitglied, knr)) return step([&] { mitglied.Delete(); });
+    modRun::MeldeNichtVorhanden();
+    return true;
+}
+
+/// Writes the member's row that belongs to the changed contact.
+bool zieheMitgliedNach(ErrorTail& step, qint32 knr, const Umzug& umzug, const Kontakt& form) {
+    const bool verlaesst = umzug.alteNr != umzug.neueNr && modKatego::istSystemkategorie(umzug.alterName);
+    const bool istMitglied = KontaktFelder::istMitglied(form);
+    if (!verlaesst && !istMitglied) return true;
+    return Datensatz::schreibe(step, u"Mitglied"_qs, [&](Recordset& mitglied) {
+        if (verlaesst && !loescheMitglied(step, mitglied, knr)) return false;
+        return !istMitglied || schreibeMitglied(step, mitglied, knr, form);
+    });
+}
+
+/// After a save from the search the category alone decides whether there is a member's row.
+bool richteMitglied(ErrorTail& step, qint32 knr, const Kontakt& form) {
+    return Datensatz::schreibe(step, u"Mitglied"_qs, [&](Recordset& mitglied) {
+        if (KontaktFelder::istMitglied(form)) return schreibeMitglied(step, mitglied, knr, form);
+        return !modRun::finde(step, mitglied, knr) || step([&] { mitglied.Delete(); });
+    });
+}
+
+/// Changes the contact that the mask shows, with what `dazu` writes for it.
+bool aendere(ErrorTail& step, qint32 knr, Umzug& umzug, const Kontakt& form,
+             const std::function<bool()>& dazu) {
+    const auto schreibe = [&](Recordset& kontakt) {
+        step([&] { umzug.alteNr = CLng(kontakt.Collect(u"kategonr"_qs)); });
+        umzug.alterName = ErmittleKategoName(umzug.alteNr);
+        felder(step, form, umzug.neueNr)(kontakt);
+    };
+    return Datensatz::aendere(step, u"Kontakt"_qs, knr, schreibe, [&](Recordset&) { return dazu(); });
 }
 
 } // namespace
@@ -166,59 +203,29 @@ void loescheMitglied(ErrorTail& step, Recordset& mitglied, qint32 knr) {
 void UpdateKontakt(int row) {
     withErrorTail(modul, u"UpdateKontakt"_qs, [row](ErrorTail& step) {
         const Kontakt& form = screen<Kontakt>();
-        Recordset kontakt;
-        // Open until the contact is written too: what is written together reaches the file together.
-        Recordset mitglied;
-        qint32 alteNr = 0;
-        bool mitMitglied = false;
-        step([&] { kontakt = oeffneTabelle(u"Kontakt"_qs); });
+        const auto neueNr = modRun::ermittleNummer(&ErmittleKategoNr, form.cboKatego->Text());
+        if (!neueNr) return;
+        Umzug umzug{*neueNr};
         const qint32 knr = nummerDerMaske(step, form);
-        if (modRun::finde(step, kontakt, knr)) {
-            const qint32 neueNr = ErmittleKategoNr(form.cboKatego->Text());
-            step([&] { kontakt.Edit(); });
-            step([&] { alteNr = CLng(kontakt.Collect(u"kategonr"_qs)); });
-            const bool warMitglied = modKatego::istSystemkategorie(ErmittleKategoName(alteNr));
-            mitMitglied = warMitglied || KontaktFelder::istMitglied(form);
-            if (mitMitglied) step([&] { mitglied = oeffneTabelle(u"Mitglied"_qs); });
-            if (alteNr == neueNr) {
-                step([&] { kontakt.Collect(u"kategonr"_qs, neueNr); });
-                step([&] { aktualisiereZeile(row, knr, neueNr, form); });
-            } else {
-                wechsleKategorie(step, kontakt, knr, alteNr, neueNr, row, form);
-                if (warMitglied) loescheMitglied(step, mitglied, knr);
-            }
-            KontaktFelder::schreibeKontakt(step, kontakt, form);
-            step([&] { kontakt.Update(); });
-            if (KontaktFelder::istMitglied(form)) schreibeMitglied(step, mitglied, kontakt, knr, form);
-        } else {
-            modRun::MeldeNichtVorhanden();
-        }
+        if (aendere(step, knr, umzug, form, [&] { return zieheMitgliedNach(step, knr, umzug, form); }))
+            zeigeGeaenderten(step, knr, umzug, row, form);
         unload<Kontakt>();
-        if (mitMitglied) step([&] { mitglied.Close(); });
-        step([&] { kontakt.Close(); });
     });
 }
 
 namespace {
 
 /// The overview after a change from the search: only what stands open there is touched.
-void ziehtUm(qint32 knr, qint32 alteNr, const QString& alterName, qint32 neueNr, const Kontakt& form) {
-    const int alt = Uebersicht::findeKategorie(alteNr);
+void ziehtUm(qint32 knr, const Umzug& umzug, const Kontakt& form) {
+    const int alt = Uebersicht::findeKategorie(umzug.alteNr);
     if (alt >= 0) {
         if (Uebersicht::istOffen(alt)) Uebersicht::entferneKontakt(alt, knr);
-        Uebersicht::schreibeMarke(alt, alterName, Uebersicht::anzahl(alt) - 1);
+        Uebersicht::schreibeMarke(alt, umzug.alterName, Uebersicht::anzahl(alt) - 1);
     }
-    const int neu = Uebersicht::findeKategorie(neueNr);
+    const int neu = Uebersicht::findeKategorie(umzug.neueNr);
     if (neu < 0) return;
     Uebersicht::schreibeMarke(neu, form.cboKatego->Text(), Uebersicht::anzahl(neu) + 1);
     if (Uebersicht::istOffen(neu)) Uebersicht::fuegeKontaktAn(neu, KontaktFelder::alsZeile(form));
-}
-
-/// After a save from the search the category alone decides whether there is a member's row.
-void richteMitglied(ErrorTail& step, Recordset& mitglied, const Recordset& kontakt, qint32 knr,
-                    const Kontakt& form) {
-    if (KontaktFelder::istMitglied(form)) return schreibeMitglied(step, mitglied, kontakt, knr, form);
-    if (modRun::finde(step, mitglied, knr)) step([&] { mitglied.Delete(); });
 }
 
 } // namespace
@@ -226,31 +233,17 @@ void richteMitglied(ErrorTail& step, Recordset& mitglied, const Recordset& konta
 void UpdateSQLKontakt() {
     withErrorTail(modul, u"UpdateSQLKontakt"_qs, [](ErrorTail& step) {
         const Kontakt& form = screen<Kontakt>();
-        Recordset kontakt;
-        Recordset mitglied;
-        qint32 alteNr = 0;
-        step([&] { kontakt = oeffneTabelle(u"Kontakt"_qs); });
-        step([&] { mitglied = oeffneTabelle(u"Mitglied"_qs); });
+        const auto neueNr = modRun::ermittleNummer(&ErmittleKategoNr, form.cboKatego->Text());
+        if (!neueNr) return;
+        Umzug umzug{*neueNr};
         const qint32 knr = nummerDerMaske(step, form);
-        if (modRun::finde(step, kontakt, knr)) {
-            step([&] { alteNr = CLng(kontakt.Collect(u"kategonr"_qs)); });
-            const QString alterName = ErmittleKategoName(alteNr);
-            const qint32 neueNr = ErmittleKategoNr(form.cboKatego->Text());
-            step([&] { kontakt.Edit(); });
-            if (alterName != form.cboKatego->Text())
-                step([&] { ziehtUm(knr, alteNr, alterName, neueNr, form); });
+        if (aendere(step, knr, umzug, form, [&] { return richteMitglied(step, knr, form); })) {
+            if (umzug.alterName != form.cboKatego->Text())
+                step([&] { ziehtUm(knr, umzug, form); });
             else
-                step([&] { bleibt(knr, neueNr, form); });
-            step([&] { kontakt.Collect(u"kategonr"_qs, neueNr); });
-            KontaktFelder::schreibeKontakt(step, kontakt, form);
-            step([&] { kontakt.Update(); });
-            richteMitglied(step, mitglied, kontakt, knr, form);
-        } else {
-            modRun::MeldeNichtVorhanden();
+                step([&] { bleibt(knr, umzug.neueNr, form); });
         }
         unload<Kontakt>();
-        step([&] { kontakt.Close(); });
-        step([&] { mitglied.Close(); });
     });
 }
 
@@ -269,22 +262,16 @@ void nimmHeraus(qint32 knr, qint32 kategonr, const QString& name) {
 void LoescheKontakt() {
     withErrorTail(modul, u"LoescheKontakt"_qs, [](ErrorTail& step) {
         const Kontakt& form = screen<Kontakt>();
-        Recordset kontakt;
-        Recordset mitglied;
-        step([&] { kontakt = oeffneTabelle(u"Kontakt"_qs); });
         const qint32 knr = nummerDerMaske(step, form);
         const qint32 kategonr = ErmittleKategoNr(form.cboKatego->Text());
-        if (modRun::finde(step, kontakt, knr)) {
-            step([&] { kontakt.Delete(); });
-            step([&] { mitglied = oeffneTabelle(u"Mitglied"_qs); });
-            if (modRun::finde(step, mitglied, knr)) step([&] { mitglied.Delete(); });
-            step([&] { mitglied.Close(); });
+        const auto mitglied = [&](Recordset&) {
+            return Datensatz::schreibe(step, u"Mitglied"_qs, [&](Recordset& satz) {
+                return !modRun::finde(step, satz, knr) || step([&] { satz.Delete(); });
+            });
+        };
+        if (Datensatz::loesche(step, u"Kontakt"_qs, knr, mitglied))
             step([&] { nimmHeraus(knr, kategonr, form.cboKatego->Text()); });
-        } else {
-            modRun::MeldeNichtVorhanden();
-        }
         unload<Kontakt>();
-        step([&] { kontakt.Close(); });
     });
 }
 

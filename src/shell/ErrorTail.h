@@ -17,20 +17,22 @@
 ///
 /// After four such boxes the fifth error leaves the routine. The count is a session value, so a called
 /// routine with a tail of its own sets the caller's count to 0 as well. Statements that can't fail need no
-/// step.
+/// step. A routine that writes does so through `Datensatz`.
 class ErrorTail {
 public:
     ErrorTail(QString module, QString routine)
         : m_module(std::move(module))
         , m_routine(std::move(routine)) {}
 
-    /// Runs one statement.
+    /// Runs one statement. False, after the box, if it failed.
     template<typename Statement>
-    void operator()(Statement&& statement) {
+    bool operator()(Statement&& statement) {
         try {
             statement();
+            return true;
         } catch (const RuntimeError& error) {
             report(error);
+            return false;
         }
     }
 

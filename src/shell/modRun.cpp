@@ -94,34 +94,19 @@ int zeileVon(const DataTable* grid, const ValueLabel* nummer, int row) {
 }
 
 bool finde(ErrorTail& step, Recordset& satz, const Value& nummer) {
-    bool gefunden = false;
     step([&] { satz.Index(u"PrimaryKey"_qs); });
-    step([&] {
-        satz.Seek(u"="_qs, nummer);
-        gefunden = !satz.NoMatch();
-    });
-    return gefunden;
-}
-
-bool findeIn(ErrorTail& step, Recordset& satz, const QString& tabelle, const Value& nummer) {
-    step([&] { satz = oeffneTabelle(tabelle); });
-    return finde(step, satz, nummer);
+    return step([&] { satz.Seek(u"="_qs, nummer); }) && !satz.NoMatch();
 }
 
 void leseZellen(ErrorTail& step, const std::vector<Field>& felder, std::span<Value> zeile) {
     for (std::size_t i = 0; i < felder.size(); ++i) step([&] { zeile[i] = felder[i].Value(); });
 }
 
-bool speichereNeuen(ErrorTail& step, Recordset& satz) {
-    bool gespeichert = false;
-    step([&] {
-        satz.Update();
-        gespeichert = true;
-    });
-    if (!gespeichert) return false;
-    step([&] { satz.Index(u"PrimaryKey"_qs); });
-    step([&] { satz.MoveLast(); });
-    return true;
+std::optional<qint32> ermittleNummer(qint32 (*ermittle)(const QString&), const QString& name) {
+    const qint32 nummer = ermittle(name);
+    if (nummer != 0 || session().FehlerZaehler != 0) return nummer;
+    MeldeEingabeFehler();
+    return std::nullopt;
 }
 
 void MeldeNichtVorhanden() {

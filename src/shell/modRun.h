@@ -3,6 +3,7 @@
 #include "Recordset.h"
 
 #include <QString>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -47,15 +48,14 @@ int zeileVon(const DataTable* grid, const ValueLabel* nummer, int row);
 /// Seeks the record of this number in an open table. False also when the seek itself failed: there is then no
 /// current record, and the routine tells that instead of stumbling over each further statement.
 bool finde(ErrorTail& step, Recordset& satz, const Value& nummer);
-/// As above in a table that is opened first.
-bool findeIn(ErrorTail& step, Recordset& satz, const QString& tabelle, const Value& nummer);
 
 /// The fields of the current row. A cell that cannot be read costs that cell, not the row.
 void leseZellen(ErrorTail& step, const std::vector<Field>& felder, std::span<Value> zeile);
 
-/// Stores the record that has been added and makes it the current one: the newest number is the highest.
-/// False, after the box, if it could not be stored; the last record is then somebody else's.
-bool speichereNeuen(ErrorTail& step, Recordset& satz);
+/// The number behind a name in a combo box, from a lookup that answers 0 if its table does not know the name.
+/// Nothing, after a box, in that case: 0 is nobody's number. A lookup that failed has shown its own boxes;
+/// its 0 is passed on.
+std::optional<qint32> ermittleNummer(qint32 (*ermittle)(const QString&), const QString& name);
 
 void MeldeNichtVorhanden();
 void MeldeNichtsGefunden();

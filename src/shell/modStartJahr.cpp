@@ -51,14 +51,9 @@ void schalteZurueck(qint32 altesJahr) {
 
 /// True if the new year stands in the record.
 bool schreibeJahr(ErrorTail& step, Recordset& system) {
-    bool written = false;
     step([&] { system.Edit(); });
     step([&] { system.Collect(u"FJahr"_qs, qint32(session().AktJahr)); });
-    step([&] {
-        system.Update();
-        written = true;
-    });
-    return written;
+    return step([&] { system.Update(); });
 }
 
 /// The year that the record has been changed from; nothing if it could not be changed. The rest of the change

@@ -3,6 +3,7 @@
 #include "Basis.h"
 #include "Conversions.h"
 #include "DataTable.h"
+#include "Datensatz.h"
 #include "ErrorTail.h"
 #include "Fangbuch.h"
 #include "MemoBox.h"
@@ -88,36 +89,32 @@ void fuelleGrid(const QString& routine, const Art& art, const QString& select) {
                          [&](const Recordset& satz) { return alsZeile(satz, art); });
 }
 
-void speichere(const QString& routine, const Art& art) {
-    withErrorTail(u"modBasis"_qs, routine, [&](ErrorTail& step) {
-        Recordset satz;
-        step([&] { satz = oeffneTabelle(art.tabelle); });
-        step([&] { satz.AddNew(); });
+/// The two fields of the form, in the order in which they are written.
+Datensatz::Felder felder(ErrorTail& step, const Art& art) {
+    return [&](Recordset& satz) {
         step([&] { satz.Collect(art.feldName, art.txtName->Text()); });
         step([&] { satz.Collect(u"Notiz"_qs, art.txtNotiz->Text()); });
-        if (modRun::speichereNeuen(step, satz)) step([&] { art.grid->appendRow(alsZeile(satz, art)); });
+    };
+}
+
+void speichere(const QString& routine, const Art& art) {
+    withErrorTail(u"modBasis"_qs, routine, [&](ErrorTail& step) {
+        std::vector<Value> zeile;
+        if (Datensatz::speichere(step, art.tabelle, felder(step, art),
+                                 Datensatz::lies(step, zeile, {art.feldNr, art.feldName})))
+            step([&] { art.grid->appendRow(zeile); });
         BasisAnzeigeLoeschen();
         zeigeAnzahl(art);
-        step([&] { satz.Close(); });
     });
 }
 
-/// Seeks the record of the form.
-bool findeOffenen(ErrorTail& step, Recordset& satz, const Art& art) {
-    return modRun::findeIn(step, satz, art.tabelle, art.lblNr->Caption());
-}
+void meldeNichtGefunden() { MsgBox(u"FEHLER: Datensatz nicht vorhanden o. nicht gefunden !"_qs, vbCritical); }
 
 void aendere(const QString& routine, const Art& art, int row) {
     withErrorTail(u"modBasis"_qs, routine, [&](ErrorTail& step) {
-        Recordset satz;
-        if (!findeOffenen(step, satz, art)) {
-            MsgBox(u"FEHLER: Datensatz nicht vorhanden o. nicht gefunden !"_qs, vbCritical);
-        } else {
-            const QString name = art.txtName->Text();
-            step([&] { satz.Edit(); });
-            step([&] { satz.Collect(art.feldName, name); });
-            step([&] { satz.Collect(u"Notiz"_qs, art.txtNotiz->Text()); });
-            step([&] { satz.Update(); });
+        const QString name = art.txtName->Text();
+        if (Datensatz::aendere(step, art.tabelle, art.lblNr->Caption(), felder(step, art), {},
+                               &meldeNichtGefunden)) {
             step([&] { art.grid->setCell(modRun::zeileVon(art.grid, art.lblNr, row), 1, name); });
             step([&] {
                 modRun::GridVerweiseAbgleichen(screen<Fangbuch>().tblFList, art.spalteImFangbuch, name,
@@ -125,17 +122,16 @@ void aendere(const QString& routine, const Art& art, int row) {
             });
         }
         BasisAnzeigeLoeschen();
-        step([&] { satz.Close(); });
     });
+}
+
+void meldeNichtGeloescht() {
+    MsgBox(u"FEHLER: Datensatz kann nicht gelöscht oder gefunden werden !"_qs, vbCritical);
 }
 
 void loesche(const QString& routine, const Art& art, int row) {
     withErrorTail(u"modBasis"_qs, routine, [&](ErrorTail& step) {
-        Recordset satz;
-        if (!findeOffenen(step, satz, art)) {
-            MsgBox(u"FEHLER: Datensatz kann nicht gelöscht oder gefunden werden !"_qs, vbCritical);
-        } else {
-            step([&] { satz.Delete(); });
+        if (Datensatz::loesche(step, art.tabelle, art.lblNr->Caption(), {}, &meldeNichtGeloescht)) {
             step([&] { art.grid->removeRow(modRun::zeileVon(art.grid, art.lblNr, row)); });
             zeigeAnzahl(art);
             step([&] {
@@ -144,7 +140,6 @@ void loesche(const QString& routine, const Art& art, int row) {
             });
         }
         BasisAnzeigeLoeschen();
-        step([&] { satz.Close(); });
     });
 }
 

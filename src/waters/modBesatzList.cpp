@@ -4,6 +4,7 @@
 #include "ComboBox.h"
 #include "Conversions.h"
 #include "DataTable.h"
+#include "Datensatz.h"
 #include "ErrorTail.h"
 #include "Format.h"
 #include "MsgBox.h"
@@ -25,34 +26,31 @@ const QString modul = u"modBesatzList"_qs;
 
 QString alsGewicht(const Value& menge) { return Format(menge, u"###0.00"_qs); }
 
-/// The current record as a row of the grid.
-std::array<Value, 5> alsZeile(ErrorTail& step, const Recordset& plan) {
-    const auto name = [&](const QString& field, QString (*ermittle)(qint32)) {
-        const qint32 number = CLng(plan.Collect(field));
+/// The fields of a record that its row in the grid is made from.
+const QStringList& felderDerZeile() {
+    static const QStringList felder = {u"BNr"_qs, u"FNr"_qs, u"GNr"_qs, u"Zeit"_qs, u"Menge"_qs};
+    return felder;
+}
+
+/// Those fields as the row has them: names for numbers.
+void fuelleZeile(ErrorTail& step, std::vector<Value>& zeile) {
+    const auto name = [](const Value& number, QString (*ermittle)(qint32)) {
         const KeptErrorCount kept;
-        return ermittle(number);
+        return ermittle(CLng(number));
     };
-    std::array<Value, 5> zeile;
-    step([&] { zeile[0] = plan.Collect(u"BNr"_qs); });
-    step([&] { zeile[1] = name(u"FNr"_qs, &modFangbuch::ErmittleFischname); });
-    step([&] { zeile[2] = name(u"GNr"_qs, &modFangbuch::ErmittleGewaessername); });
-    step([&] { zeile[3] = plan.Collect(u"Zeit"_qs); });
-    step([&] { zeile[4] = alsGewicht(plan.Collect(u"Menge"_qs)); });
-    return zeile;
+    step([&] { zeile[1] = name(zeile[1], &modFangbuch::ErmittleFischname); });
+    step([&] { zeile[2] = name(zeile[2], &modFangbuch::ErmittleGewaessername); });
+    step([&] { zeile[4] = alsGewicht(zeile[4]); });
 }
 
 /// The five fields of the form, in the order in which they are written.
-void schreibeFelder(ErrorTail& step, Recordset& plan, const Besatzung& form) {
+void schreibeFelder(ErrorTail& step, Recordset& plan, const Besatzung& form,
+                    const modFangbuch::Nummern& nummern) {
     step([&] { plan.Collect(u"BJahr"_qs, CLng(form.cboBJahr->Text())); });
-    step([&] { plan.Collect(u"FNr"_qs, modFangbuch::ErmittleFischNr(form.cboFArt->Text())); });
-    step([&] { plan.Collect(u"GNr"_qs, modFangbuch::ErmittleGewaesserNr(form.cboGName->Text())); });
+    step([&] { plan.Collect(u"FNr"_qs, nummern.fisch); });
+    step([&] { plan.Collect(u"GNr"_qs, nummern.gewaesser); });
     step([&] { plan.Collect(u"Zeit"_qs, form.txtZeit->Text()); });
     step([&] { plan.Collect(u"Menge"_qs, CDbl(form.txtMenge->Text())); });
-}
-
-/// Seeks the record whose number the form shows.
-bool findeOffenen(ErrorTail& step, Recordset& plan, const Besatzung& form) {
-    return modRun::findeIn(step, plan, u"Besatzung"_qs, form.lblBNr->Caption());
 }
 
 /// Takes the opened record's row off the grid. Another year may have come to the screen since it was opened:
@@ -83,7 +81,12 @@ void loadTblBList() {
                 MsgBox(u"Keine Einträge für dieses Jahr vorhanden !"_qs, vbInformation);
         } else {
             step([&] { plan.MoveFirst(); });
-            step.forEachRow(plan, [&] { step([&] { grid->appendRow(alsZeile(step, plan)); }); });
+            step.forEachRow(plan, [&] {
+                std::vector<Value> zeile;
+                Datensatz::lies(step, zeile, felderDerZeile())(plan);
+                fuelleZeile(step, zeile);
+                step([&] { grid->appendRow(zeile); });
+            });
         }
         step([&] { plan.Close(); });
     });
@@ -91,29 +94,29 @@ void loadTblBList() {
 
 void SpeicherEintrag() {
     withErrorTail(modul, u"SpeicherEintrag"_qs, [](ErrorTail& step) {
-        Besatzung& form = screen<Besatzung>();
-        Recordset plan;
-        step([&] { plan = oeffneTabelle(u"Besatzung"_qs); });
-        step([&] { plan.AddNew(); });
-        schreibeFelder(step, plan, form);
-        if (modRun::speichereNeuen(step, plan)) step([&] { form.tblBList->appendRow(alsZeile(step, plan)); });
-        form.tblBList->refresh();
+        const Besatzung& form = screen<Besatzung>();
+        const auto nummern = modFangbuch::ermittleNummern(form.cboFArt, form.cboGName);
+        if (!nummern) return;
+        std::vector<Value> zeile;
+        const auto felder = [&](Recordset& plan) { schreibeFelder(step, plan, form, *nummern); };
+        if (Datensatz::speichere(step, u"Besatzung"_qs, felder,
+                                 Datensatz::lies(step, zeile, felderDerZeile()))) {
+            fuelleZeile(step, zeile);
+            step([&] { form.tblBList->appendRow(zeile); });
+            form.tblBList->refresh();
+        }
         BesatzAnzeigeLoeschen();
         zeigeAnzahl(form);
-        step([&] { plan.Close(); });
     });
 }
 
 void UpdateEintrag(int row) {
     withErrorTail(modul, u"UpdateEintrag"_qs, [row](ErrorTail& step) {
-        Besatzung& form = screen<Besatzung>();
-        Recordset plan;
-        if (!findeOffenen(step, plan, form)) {
-            modRun::MeldeNichtVorhanden();
-        } else {
-            step([&] { plan.Edit(); });
-            schreibeFelder(step, plan, form);
-            step([&] { plan.Update(); });
+        const Besatzung& form = screen<Besatzung>();
+        const auto nummern = modFangbuch::ermittleNummern(form.cboFArt, form.cboGName);
+        if (!nummern) return;
+        const auto felder = [&](Recordset& plan) { schreibeFelder(step, plan, form, *nummern); };
+        if (Datensatz::aendere(step, u"Besatzung"_qs, form.lblBNr->Caption(), felder)) {
             const std::array<Value, 5> zeile = {form.lblBNr->Caption(), form.cboFArt->Text(),
                                                 form.cboGName->Text(), form.txtZeit->Text(),
                                                 alsGewicht(form.txtMenge->Text())};
@@ -123,23 +126,17 @@ void UpdateEintrag(int row) {
             zeigeAnzahl(form);
         }
         BesatzAnzeigeLoeschen();
-        step([&] { plan.Close(); });
     });
 }
 
 void LoescheEintrag(int row) {
     withErrorTail(modul, u"LoescheEintrag"_qs, [row](ErrorTail& step) {
-        Besatzung& form = screen<Besatzung>();
-        Recordset plan;
-        if (findeOffenen(step, plan, form)) {
-            step([&] { plan.Delete(); });
+        const Besatzung& form = screen<Besatzung>();
+        if (Datensatz::loesche(step, u"Besatzung"_qs, form.lblBNr->Caption())) {
             entferneOffenen(step, form, row);
             zeigeAnzahl(form);
-        } else {
-            modRun::MeldeNichtVorhanden();
         }
         BesatzAnzeigeLoeschen();
-        step([&] { plan.Close(); });
     });
 }
 

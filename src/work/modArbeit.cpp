@@ -6,6 +6,7 @@
 #include "Conversions.h"
 #include "DataTable.h"
 #include "DateBox.h"
+#include "Datensatz.h"
 #include "ErrorTail.h"
 #include "Format.h"
 #include "MemoBox.h"
@@ -36,18 +37,13 @@ void schreibeFelder(ErrorTail& step, Recordset& arbeit, const Arbeit& form) {
     step([&] { arbeit.Collect(u"Notiz"_qs, form.txtArbNotiz->Text()); });
 }
 
-/// Seeks the booking whose number the form shows.
-bool findeOffenen(ErrorTail& step, Recordset& arbeit, const Arbeit& form) {
-    return modRun::findeIn(step, arbeit, u"Arbeit"_qs, form.lblArbNr->Caption());
+/// The fields of a booking that its row in the grid is made from.
+Datensatz::Danach lies(ErrorTail& step, std::vector<Value>& zeile) {
+    return Datensatz::lies(step, zeile, {u"ArbNr"_qs, u"knr"_qs, u"ArbStd"_qs, u"Datum"_qs});
 }
 
-/// The current record as a new row of the grid.
-void haengeAn(ErrorTail& step, const Recordset& arbeit, const Arbeit& form) {
-    std::vector<Value> zeile(4);
-    step([&] { zeile[0] = arbeit.Collect(u"ArbNr"_qs); });
-    step([&] { zeile[1] = arbeit.Collect(u"knr"_qs); });
-    step([&] { zeile[2] = Format(arbeit.Collect(u"ArbStd"_qs), stundenMuster()); });
-    step([&] { zeile[3] = arbeit.Collect(u"Datum"_qs); });
+void haengeAn(ErrorTail& step, std::vector<Value> zeile, const Arbeit& form) {
+    step([&] { zeile[2] = Format(zeile[2], stundenMuster()); });
     step([&] { form.tblArbStd->appendRow(zeile); });
 }
 
@@ -58,13 +54,13 @@ bool zeigtOffenen(const Arbeit& form, int row) {
 }
 
 /// The hours stand as they were typed until the next load.
-void zeigeGeaenderten(ErrorTail& step, const Recordset& arbeit, const Arbeit& form, int row) {
-    const auto mitglied = [&] { return CLng(arbeit.Collect(u"knr"_qs)) == CLng(form.lblKNr->Caption()); };
+void zeigeGeaenderten(ErrorTail& step, const std::vector<Value>& zeile, const Arbeit& form, int row) {
+    const auto mitglied = [&] { return CLng(zeile[1]) == CLng(form.lblKNr->Caption()); };
     if (zeigtOffenen(form, row)) {
         step([&] { form.tblArbStd->setCell(row, 2, form.txtArbStd->Text()); });
         step([&] { form.tblArbStd->setCell(row, 3, form.pvDate->date()); });
     } else if (step.test(mitglied)) {
-        haengeAn(step, arbeit, form);
+        haengeAn(step, zeile, form);
     }
 }
 
@@ -86,52 +82,40 @@ bool ArbeitsZugriff_Erlaubt() { return zugriffErlaubt(modul, u"ArbeitsZugriff_Er
 void SpeicherStunden() {
     withErrorTail(modul, u"SpeicherStunden"_qs, [](ErrorTail& step) {
         const Arbeit& form = screen<Arbeit>();
-        Recordset arbeit;
-        step([&] { arbeit = oeffneTabelle(u"Arbeit"_qs); });
-        step([&] { arbeit.AddNew(); });
-        step([&] { arbeit.Collect(u"knr"_qs, CLng(form.lblKNr->Caption())); });
-        schreibeFelder(step, arbeit, form);
-        if (modRun::speichereNeuen(step, arbeit)) haengeAn(step, arbeit, form);
+        std::vector<Value> zeile;
+        const auto felder = [&](Recordset& arbeit) {
+            step([&] { arbeit.Collect(u"knr"_qs, CLng(form.lblKNr->Caption())); });
+            schreibeFelder(step, arbeit, form);
+        };
+        if (Datensatz::speichere(step, u"Arbeit"_qs, felder, lies(step, zeile))) haengeAn(step, zeile, form);
         zeigeNeueSumme(step, form);
         LeereArbEingabe();
         form.pvDate->setFocus();
-        step([&] { arbeit.Close(); });
     });
 }
 
 void UpdateStunden(int row) {
     withErrorTail(modul, u"UpdateStunden"_qs, [row](ErrorTail& step) {
         const Arbeit& form = screen<Arbeit>();
-        Recordset arbeit;
-        if (findeOffenen(step, arbeit, form)) {
-            step([&] { arbeit.Edit(); });
-            schreibeFelder(step, arbeit, form);
-            step([&] { arbeit.Update(); });
-            zeigeGeaenderten(step, arbeit, form, row);
-        } else {
-            modRun::MeldeNichtVorhanden();
-        }
+        std::vector<Value> zeile;
+        const auto felder = [&](Recordset& arbeit) { schreibeFelder(step, arbeit, form); };
+        if (Datensatz::aendere(step, u"Arbeit"_qs, form.lblArbNr->Caption(), felder, lies(step, zeile)))
+            zeigeGeaenderten(step, zeile, form, row);
         zeigeNeueSumme(step, form);
         LeereArbEingabe();
         form.pvDate->setFocus();
-        step([&] { arbeit.Close(); });
     });
 }
 
 void LoescheStunden(int row) {
     withErrorTail(modul, u"LoescheStunden"_qs, [row](ErrorTail& step) {
         const Arbeit& form = screen<Arbeit>();
-        Recordset arbeit;
-        if (findeOffenen(step, arbeit, form)) {
-            step([&] { arbeit.Delete(); });
+        if (Datensatz::loesche(step, u"Arbeit"_qs, form.lblArbNr->Caption())) {
             if (zeigtOffenen(form, row)) step([&] { form.tblArbStd->removeRow(row); });
             zeigeNeueSumme(step, form);
-        } else {
-            modRun::MeldeNichtVorhanden();
         }
         LeereArbEingabe();
         form.pvDate->setFocus();
-        step([&] { arbeit.Close(); });
     });
 }
 

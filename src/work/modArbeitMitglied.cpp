@@ -50,7 +50,8 @@ void meldeBefreit() {
 bool schuldetStunden(ErrorTail& step, const QString& knr) {
     Recordset mitglied;
     bool befreit = false;
-    const bool gefunden = modRun::findeIn(step, mitglied, u"Mitglied"_qs, knr);
+    step([&] { mitglied = oeffneTabelle(u"Mitglied"_qs); });
+    const bool gefunden = modRun::finde(step, mitglied, knr);
     if (!gefunden)
         modRun::MeldeNichtVorhanden();
     else if (step.test([&] { return mitglied.Collect(u"Befreit"_qs) == Value(true); }))

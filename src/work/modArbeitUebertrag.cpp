@@ -53,12 +53,7 @@ bool istKeiner(const Recordset& anzahl) {
 void uebertrageAlle(ErrorTail& step, Recordset& mitglieder, Recordset& arbeit, double pflicht,
                     qint32 altesJahr) {
     // A walk that can't begin has no end either.
-    bool begun = false;
-    step([&] {
-        mitglieder.MoveFirst();
-        begun = true;
-    });
-    if (!begun) return;
+    if (!step([&] { mitglieder.MoveFirst(); })) return;
     step.forEachRow(mitglieder, [&] {
         std::optional<qint32> knr;
         step([&] { knr = CLng(mitglieder.Collect(u"KNr"_qs)); });
