@@ -40,11 +40,18 @@ QStringList sh(PlayedProgram& program, const QStringList& words) {
     return {};
 }
 
+/// The write from which on there is no room: the first one, or the one that is named.
+void fillDisk(const QStringList& words) {
+    if (words.size() == 1) return fillDiskAtWrite(1);
+    if (words[1] == u"commit") return fillDiskAtCommits();
+    fillDiskAtWrite(GridCells::parseNumber(words[1]));
+}
+
 QStringList disk(PlayedProgram&, const QStringList& words) {
-    if (words[0] != u"full" && words[0] != u"readonly" && words[0] != u"fine")
-        throw CommandFailure{u"%1 is nothing that a disk can be"_qs.arg(words[0])};
-    fillDiskAtWrite(1);
-    if (words[0] != u"full") emptyDisk();
+    const bool full = words[0] == u"full";
+    if (words.size() > (full ? 2 : 1) || (!full && words[0] != u"readonly" && words[0] != u"fine"))
+        throw CommandFailure{u"%1 is nothing that a disk can be"_qs.arg(words.join(u' '))};
+    full ? fillDisk(words) : emptyDisk();
     forbidWriting(words[0] == u"readonly");
     return {};
 }
@@ -60,10 +67,14 @@ const QVector<PlayerCommand>& settingCommands() {
     constexpr auto kind = PlayerCommand::Kind::Acting;
     constexpr auto needs = PlayerCommand::Needs::Nothing;
     static const QVector<PlayerCommand> commands = {
-        {u"today", 1, kind, needs, &today},       {u"fjahr", 1, kind, needs, &fjahr},
-        {u"printers", 1, kind, needs, &printers}, {u"demo", 0, kind, needs, &demo},
-        {u"sql", 1, kind, needs, &sql},           {u"sh", 1, kind, needs, &sh},
-        {u"disk", 1, kind, needs, &disk},         {u"start", 0, kind, needs, &start},
+        {u"today", 1, kind, needs, &today},
+        {u"fjahr", 1, kind, needs, &fjahr},
+        {u"printers", 1, kind, needs, &printers},
+        {u"demo", 0, kind, needs, &demo},
+        {u"sql", 1, kind, needs, &sql},
+        {u"sh", 1, kind, needs, &sh},
+        {u"disk", PlayerCommand::anyNumber, kind, needs, &disk},
+        {u"start", 0, kind, needs, &start},
     };
     return commands;
 }

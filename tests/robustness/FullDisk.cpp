@@ -1,19 +1,40 @@
 #include "FullDisk.h"
 
+#include <array>
 #include <cerrno>
+#include <climits>
 #include <fcntl.h>
 #include <initializer_list>
 #include <limits>
 #include <sqlite3.h>
+#include <string>
+#include <string_view>
 #include <unistd.h>
+#include <utility>
 
 namespace {
 
 int writesLeft = 0;
+bool commitsFail = false;
+bool isCommitting = false;
 bool isReadOnly = false;
 
+bool isJournal(int file) {
+    std::array<char, PATH_MAX> name{};
+    const std::string link = "/proc/self/fd/" + std::to_string(file);
+    const ssize_t size = ::readlink(link.c_str(), name.data(), name.size());
+    return size > 0 && std::string_view(name.data(), static_cast<size_t>(size)).ends_with("-journal");
+}
+
+/// The first page of a commit comes after the journal's last; those of the rollback follow it.
+bool isFirstOfCommit(int file) {
+    const bool journal = isJournal(file);
+    return std::exchange(isCommitting, journal) && !journal;
+}
+
 ssize_t writeWhileThereIsRoom(int file, const void* bytes, size_t size, off_t place) {
-    if (--writesLeft > 0) return ::pwrite(file, bytes, size, place);
+    const bool hasRoom = commitsFail ? !isFirstOfCommit(file) : --writesLeft > 0;
+    if (hasRoom) return ::pwrite(file, bytes, size, place);
     errno = ENOSPC;
     return -1;
 }
@@ -35,10 +56,17 @@ void replaceCall(const char* name, Function* function) {
 
 void fillDiskAtWrite(int place) {
     writesLeft = place;
+    commitsFail = false;
     for (const char* call : {"pwrite", "pwrite64"}) replaceCall(call, &writeWhileThereIsRoom);
 }
 
-void emptyDisk() { writesLeft = std::numeric_limits<int>::max(); }
+void fillDiskAtCommits() {
+    emptyDisk();
+    commitsFail = true;
+    isCommitting = false;
+}
+
+void emptyDisk() { fillDiskAtWrite(std::numeric_limits<int>::max()); }
 
 void forbidWriting(bool forbidden) {
     isReadOnly = forbidden;

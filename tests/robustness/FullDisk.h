@@ -4,6 +4,8 @@
 
 /// From here on the disk is full at the `place`th write, counted from 1, and stays so.
 void fillDiskAtWrite(int place);
+/// From here on the journal finds room and the file does not: each commit fails at its first page.
+void fillDiskAtCommits();
 /// There is room again.
 void emptyDisk();
 /// Whether files that are opened from here on may not be written to. The tests' user may write everywhere.
