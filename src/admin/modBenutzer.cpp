@@ -40,7 +40,7 @@ void zeigeAnzahl(ValueLabel* label, const DataTable* grid) {
     label->setCaption(QString::number(grid->rowCount()));
 }
 
-Datensatz::Felder felder(ErrorTail& step, const Benutzer& form, qint32 gnr) {
+Datensatz::Felder felderDesBenutzers(ErrorTail& step, const Benutzer& form, qint32 gnr) {
     return [&step, &form, gnr](Recordset& benutzer) {
         step([&] { benutzer.Collect(u"Name"_qs, form.txtBenutzer->Text()); });
         step([&] { benutzer.Collect(u"Passwort"_qs, form.txtPassw->Text()); });
@@ -48,7 +48,7 @@ Datensatz::Felder felder(ErrorTail& step, const Benutzer& form, qint32 gnr) {
     };
 }
 
-Datensatz::Felder felder(ErrorTail& step, const Benutzer& form) {
+Datensatz::Felder felderDerGruppe(ErrorTail& step, const Benutzer& form) {
     return [&](Recordset& gruppe) {
         step([&] { gruppe.Collect(u"GName"_qs, form.txtGruppe->Text()); });
         step([&] { SichereZugriff(gruppe); });
@@ -90,7 +90,7 @@ void SpeicherBenutzer() {
         std::vector<Value> zeile;
         QString gruppe;
         if (Datensatz::speichere(
-                step, u"Benutzer"_qs, felder(step, form, gnr),
+                step, u"Benutzer"_qs, felderDesBenutzers(step, form, gnr),
                 Datensatz::lies(step, zeile, {u"BNr"_qs, u"Name"_qs, u"Passwort"_qs, u"GNr"_qs})))
             step([&] { gruppe = ErmittleGName(CLng(zeile[gruppenSpalte])); });
         if (gruppe.isEmpty()) return LeereBenutzerEingabe();
@@ -111,7 +111,7 @@ void UpdateBenutzer(int row) {
             const qint32 gnr = fehlt ? 0 : ErmittleGNr(form.cboBG->Text());
             if (gnr == 0) return false;
             step([&] { benutzer.Edit(); });
-            felder(step, form, gnr)(benutzer);
+            felderDesBenutzers(step, form, gnr)(benutzer);
             return step([&] { benutzer.Update(); });
         });
         // A user who is gone is shown as typed. Without a number no user stands open but a group, and its row
@@ -141,7 +141,7 @@ void SpeicherBG() {
     withErrorTail(modul, u"SpeicherBG"_qs, [](ErrorTail& step) {
         const Benutzer& form = screen<Benutzer>();
         std::vector<Value> zeile;
-        if (Datensatz::speichere(step, u"Gruppen"_qs, felder(step, form), liesGruppe(step, zeile)))
+        if (Datensatz::speichere(step, u"Gruppen"_qs, felderDerGruppe(step, form), liesGruppe(step, zeile)))
             step([&] { form.tblZugriff->appendRow(zeile); });
         LeereBenutzerEingabe();
         zeigeAnzahl(form.lblGAnzahl, form.tblZugriff);
@@ -154,7 +154,7 @@ void UpdateBG(int row) {
         const Benutzer& form = screen<Benutzer>();
         std::vector<Value> zeile;
         // Without a record there is nothing to take the cells from.
-        if (Datensatz::aendere(step, u"Gruppen"_qs, form.lblGNr->Caption(), felder(step, form),
+        if (Datensatz::aendere(step, u"Gruppen"_qs, form.lblGNr->Caption(), felderDerGruppe(step, form),
                                liesGruppe(step, zeile)))
             step([&] {
                 const int dort = modRun::zeileVon(form.tblZugriff, form.lblGNr, row);
