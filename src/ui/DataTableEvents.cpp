@@ -102,6 +102,8 @@ void DataTable::contextMenuEvent(QContextMenuEvent* event) {
 void DataTable::keyPressEvent(QKeyEvent* event) {
     publish();
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    // An Enter held down belongs to whatever had the focus at its press, such as a search.
+    if (enter && event->isAutoRepeat()) return;
     if (enter && currentIndex().isValid()) {
         Spot spot = currentSpot();
         if (!isCategory(spot)) return cellOpen(spot);

@@ -1,5 +1,6 @@
 #include "PrintQtDialog.h"
 
+#include "KeyGuard.h"
 #include "PrintSaveDialog.h"
 
 #include <QApplication>
@@ -53,6 +54,7 @@ std::optional<PrintTarget> PrintQtDialog::choose(const QString& caption, int pag
     dialog.setOption(QAbstractPrintDialog::PrintCurrentPage);
     dialog.setMinMax(1, pages);
     proposeFile(dialog, caption);
+    const KeyGuard guard(&dialog);
     if (dialog.exec() != QDialog::Accepted) return std::nullopt;
     target.pages = wantedPages(*target.printer, pages, page);
     // Otherwise a print server might pick from the picked pages once more.

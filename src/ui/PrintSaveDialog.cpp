@@ -1,5 +1,7 @@
 #include "PrintSaveDialog.h"
 
+#include "KeyGuard.h"
+
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
@@ -16,6 +18,7 @@ QString askPlatform(const QString& proposal) {
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(u"pdf"_qs);
     dialog.selectFile(proposal);
+    const KeyGuard guard(&dialog);
     if (dialog.exec() != QDialog::Accepted) return {};
     return dialog.selectedFiles().value(0);
 }

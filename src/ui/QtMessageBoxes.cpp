@@ -1,5 +1,6 @@
 #include "QtMessageBoxes.h"
 
+#include "KeyGuard.h"
 #include "LineBreaks.h"
 #include "Stage.h"
 
@@ -54,6 +55,7 @@ MsgBoxResult QtMessageBoxes::show(const QString& text, int style, const QString&
     } else {
         box.setStandardButtons(QMessageBox::Ok);
     }
+    const KeyGuard guard(&box);
     const int answer = box.exec();
     if (!question) return vbOK;
     return answer == QMessageBox::Yes ? vbYes : vbNo;

@@ -162,6 +162,8 @@ void Screen::keyPressEvent(QKeyEvent* event) {
     auto* button = qobject_cast<QAbstractButton*>(focusWidget());
     const bool takesEnter = qobject_cast<QPushButton*>(button) || qobject_cast<QToolButton*>(button);
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    // The focus may have come to the button while the key was held down.
+    if (enter && takesEnter && event->isAutoRepeat()) return;
     if (enter && takesEnter && button->isEnabled())
         button->click();
     else

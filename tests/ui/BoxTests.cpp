@@ -3,6 +3,7 @@
 #include "Toolbar.h"
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -21,38 +22,70 @@ struct Seen {
     Qt::TextFormat format = Qt::AutoText;
 };
 
-// Looks at the box that opens and presses a key in it.
-Seen answer(const QString& text, int style, Qt::Key key, MsgBoxResult& result) {
+QMessageBox* boxInFront() { return qobject_cast<QMessageBox*>(QApplication::activeModalWidget()); }
+
+// Looks at the box that opens and presses one of its buttons.
+Seen answer(const QString& text, int style, int place, MsgBoxResult& result) {
     Seen seen;
     QTimer::singleShot(0, [&] {
-        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        QMessageBox* box = boxInFront();
         ASSERT_TRUE(box);
         seen = {box->text(), QString(), box->icon(), box->textFormat()};
         for (QAbstractButton* button : box->buttons()) seen.buttons += button->text().remove(u'&') + u' ';
-        QTest::keyClick(box, key);
+        EXPECT_TRUE(qobject_cast<QPushButton*>(box->buttons().first())->isDefault());
+        box->buttons().at(place)->click();
     });
     result = MsgBox(text, style, u"Titel"_qs);
     return seen;
 }
 
+void hold(Qt::Key key) {
+    QKeyEvent repeated(QEvent::KeyPress, key, Qt::NoModifier, QString(), true);
+    QApplication::sendEvent(boxInFront()->defaultButton(), &repeated);
+}
+
+bool isOpen() { return boxInFront() && boxInFront()->isVisible(); }
+
 TEST(MsgBoxTest, BoxesAreGermanPlainAndBreakTheirLinesOnce) {
     MsgBoxResult result = vbNo;
-    Seen seen = answer(u"eins\n\rzwei\r\ndrei <b>\n\n\rvier"_qs, vbCritical, Qt::Key_Return, result);
+    Seen seen = answer(u"eins\n\rzwei\r\ndrei <b>\n\n\rvier"_qs, vbCritical, 0, result);
     EXPECT_EQ(seen.text, u"eins\nzwei\ndrei <b>\n\nvier"_qs);
     EXPECT_EQ(seen.buttons, u"OK "_qs);
     EXPECT_EQ(seen.icon, QMessageBox::Critical);
     EXPECT_EQ(seen.format, Qt::PlainText);
     EXPECT_EQ(result, vbOK);
 
-    seen = answer(u"?"_qs, vbYesNo, Qt::Key_Return, result);
+    seen = answer(u"?"_qs, vbYesNo, 0, result);
     EXPECT_EQ(seen.buttons, u"Ja Nein "_qs);
     EXPECT_EQ(seen.icon, QMessageBox::NoIcon);
-    EXPECT_EQ(result, vbYes) << "the first key is the default";
-    seen = answer(u"?"_qs, vbYesNo | vbExclamation, Qt::Key_Escape, result);
+    EXPECT_EQ(result, vbYes);
+    seen = answer(u"?"_qs, vbYesNo | vbExclamation, 1, result);
     EXPECT_EQ(seen.icon, QMessageBox::Warning);
     EXPECT_EQ(result, vbNo);
-    answer(u"!"_qs, vbInformation, Qt::Key_Escape, result);
+    answer(u"!"_qs, vbInformation, 0, result);
     EXPECT_EQ(result, vbOK);
+}
+
+TEST(MsgBoxTest, AKeyCountsOnlyWhenPressedSomeTimeAfterTheBoxCameUp) {
+    constexpr int firstMoments = 310;
+    QStringList log;
+    const auto note = [&log](const QString& when) {
+        log.append(when + (isOpen() ? u":open"_qs : u":gone"_qs));
+    };
+    QTimer::singleShot(0, [&] {
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape, Qt::Key_Space, Qt::Key_N})
+            QTest::keyClick(boxInFront()->defaultButton(), key);
+        QTest::keyClick(boxInFront()->defaultButton(), Qt::Key_J, Qt::AltModifier);
+        note(u"atOnce"_qs);
+    });
+    QTimer::singleShot(firstMoments, [&] {
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape, Qt::Key_N}) hold(key);
+        note(u"held"_qs);
+        QTest::keyClick(boxInFront()->defaultButton(), Qt::Key_Escape);
+        note(u"pressed"_qs);
+    });
+    EXPECT_EQ(MsgBox(u"?"_qs, vbYesNo), vbNo);
+    EXPECT_EQ(log.join(u' '), u"atOnce:open held:open pressed:gone"_qs);
 }
 
 TEST(ToolbarTest, AKeyIsToldByItsNameAndLeavesTheFocusAlone) {

@@ -146,7 +146,9 @@ TEST_F(ScreenTest, EnterPressesTheButtonWithTheFocus) {
     QApplication::setActiveWindow(&form);
     cancel.setFocus();
     QTest::keyClick(&cancel, Qt::Key_Return);
-    EXPECT_EQ(pressed.join(u' '), u"cancel"_qs);
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QString(), true);
+    QApplication::sendEvent(&cancel, &held);
+    EXPECT_EQ(pressed.join(u' '), u"cancel"_qs) << "once for each press";
 }
 
 TEST_F(ScreenTest, KeysInABoxAboveTheScreenAreNotTheScreens) {

@@ -1,0 +1,36 @@
+#include "KeyGuard.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QWidget>
+
+namespace {
+
+constexpr int firstMomentsMilliseconds = 300;
+
+} // namespace
+
+KeyGuard::KeyGuard(QWidget* window)
+    : m_window(window) {
+    qApp->installEventFilter(this);
+}
+
+bool KeyGuard::isMeant(const QKeyEvent& key) const {
+    if (key.isAutoRepeat()) return key.key() == m_pressed;
+    return m_shown.isValid() && m_shown.hasExpired(firstMomentsMilliseconds);
+}
+
+bool KeyGuard::eventFilter(QObject* watched, QEvent* event) {
+    const QEvent::Type type = event->type();
+    if (watched == m_window && type == QEvent::Show) m_shown.start();
+    // A shortcut that is overridden comes as a common key.
+    const bool comesDown = type == QEvent::KeyPress || type == QEvent::ShortcutOverride;
+    if (!comesDown || !watched->isWidgetType()) return false;
+    if (static_cast<QWidget*>(watched)->window() != m_window) return false;
+
+    const auto* key = static_cast<QKeyEvent*>(event);
+    const bool meant = isMeant(*key);
+    if (type == QEvent::KeyPress) m_pressed = meant ? key->key() : 0;
+    if (!meant) event->accept();
+    return !meant;
+}
