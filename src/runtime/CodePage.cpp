@@ -35,13 +35,31 @@ bool isPairAt(const QString& text, qsizetype place) {
     return text.at(place).isHighSurrogate() && place + 1 < text.size() && text.at(place + 1).isLowSurrogate();
 }
 
+struct Likeness {
+    char16_t sign;
+    char byte;
+};
+
+// Letters of names in Europe that are no letter and mark to Unicode: their stroke is part of them.
+constexpr std::array<Likeness, 10> likenesses = {{{u'Đ', 'D'},
+                                                  {u'đ', 'd'},
+                                                  {u'Ħ', 'H'},
+                                                  {u'ħ', 'h'},
+                                                  {u'ı', 'i'},
+                                                  {u'Ł', 'L'},
+                                                  {u'ł', 'l'},
+                                                  {u'Ŧ', 'T'},
+                                                  {u'ŧ', 't'},
+                                                  {u'ẞ', '\xDF'}}};
+
 /// A letter with a mark that the code page does not have loses the mark, not itself: a letter to Mr Kovac
-/// arrives.
+/// arrives. Where there are several marks they go one by one.
 char nearestByteOf(QChar sign) {
     if (const auto byte = byteOf(sign.unicode())) return *byte;
-    const bool isMarked = sign.decompositionTag() == QChar::Canonical;
-    const QString parts = isMarked ? sign.decomposition() : QString();
-    return parts.isEmpty() ? '?' : byteOf(parts.front().unicode()).value_or('?');
+    if (sign.decompositionTag() == QChar::Canonical) return nearestByteOf(sign.decomposition().front());
+    const auto like = std::find_if(likenesses.begin(), likenesses.end(),
+                                   [&](const Likeness& one) { return one.sign == sign.unicode(); });
+    return like == likenesses.end() ? '?' : like->byte;
 }
 
 } // namespace
