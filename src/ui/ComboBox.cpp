@@ -3,7 +3,9 @@
 #include "RuntimeError.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QCollator>
+#include <QKeyEvent>
 #include <QScreen>
 #include <QWheelEvent>
 #include <algorithm>
@@ -79,6 +81,19 @@ void ComboBox::showPopup() {
     const int room = screen()->availableGeometry().width() - 2 * scrollBar;
     view()->setMinimumWidth(std::min(view()->sizeHintForColumn(0) + 2 * scrollBar, room));
     QComboBox::showPopup();
+}
+
+// A blank opens the list, but in the middle of a name it is a letter like any other.
+void ComboBox::keyPressEvent(QKeyEvent* event) {
+    const bool searching =
+        m_lastLetter.isValid() && !m_lastLetter.hasExpired(QApplication::keyboardInputInterval());
+    const bool blank = event->key() == Qt::Key_Space;
+    const bool inName = blank && searching && !isEditable();
+    const bool letter = !blank && !event->text().isEmpty() && event->text().front().isPrint();
+    if (letter || inName) m_lastLetter.start();
+    if (!inName) return QComboBox::keyPressEvent(event);
+    QKeyEvent asLetter(QEvent::KeyPress, 0, event->modifiers(), event->text());
+    QComboBox::keyPressEvent(&asLetter);
 }
 
 // Rolling a screen must not change the fields that pass under the pointer.

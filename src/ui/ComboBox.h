@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QComboBox>
+#include <QElapsedTimer>
 
 /// A drop-down list. Its click runs when the user picks an entry, also the one that stands there already, and
 /// when the program changes the selection.
@@ -37,6 +38,7 @@ Q_SIGNALS:
     void Click();
 
 protected:
+    void keyPressEvent(QKeyEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
 
 private:
@@ -45,4 +47,5 @@ private:
     QSize bounded(QSize hint) const;
 
     Order m_order;
+    QElapsedTimer m_lastLetter; ///< of an entry that is looked for by typing its name
 };

@@ -22,6 +22,8 @@ namespace {
 Theme::Mode modeInForce = Theme::Mode::Light;
 
 constexpr double bodyPoints = 9.75;
+/// Letters of a name that is looked for in a list belong together so long; Qt's 400 ms are for quick hands.
+constexpr int slowestTypingMilliseconds = 2000;
 
 bool dark() { return modeInForce == Theme::Mode::Dark; }
 
@@ -102,6 +104,7 @@ void apply(QApplication& application, Mode mode) {
     QToolTip::setPalette(paletteInForce());
     QApplication::setFont(bodyFont());
     QApplication::setWindowIcon(icon(u"uferwart"_qs));
+    QApplication::setKeyboardInputInterval(slowestTypingMilliseconds);
 }
 
 Mode desktopMode(const QApplication& /*application*/) {

@@ -74,6 +74,20 @@ TEST_F(ComboBoxTest, APickClicksOnceAlsoOfTheSameEntry) {
     EXPECT_EQ(takeClicks(), 1);
 }
 
+TEST_F(ComboBoxTest, ANameMayBeTypedSlowlyAndWithItsBlanks) {
+    for (const QString& water : {u"Leise (Oberlauf)"_qs, u"Leise (Unterlauf)"_qs}) combo.AddItem(water);
+    QTest::keyClicks(&combo, u"L"_qs);
+    QTest::qWait(400); // Qt's own interval
+    QTest::keyClicks(&combo, u"eise (U"_qs);
+    EXPECT_EQ(combo.Text(), u"Leise (Unterlauf)"_qs);
+    EXPECT_FALSE(combo.view()->isVisible());
+    QApplication::setKeyboardInputInterval(0);
+    QTest::qWait(1);
+    QTest::keyClick(&combo, Qt::Key_Space);
+    QApplication::setKeyboardInputInterval(2000);
+    EXPECT_TRUE(combo.view()->isVisible()) << "with nothing being typed it opens the list";
+}
+
 TEST_F(ComboBoxTest, SortedEntriesStandInGermanOrder) {
     ComboBox sorted(u"cboGew"_qs, ComboBox::Order::Sorted);
     for (const QString& name : {u"Zander"_qs, u"öhe"_qs, u"Ohm"_qs, u"apfel"_qs, u"Äsche"_qs, u"Ast"_qs}) {
