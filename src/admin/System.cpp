@@ -66,8 +66,8 @@ void System::buildParameters() {
     auto* form = new QGridLayout(Frame1);
     const auto add = [&](int row, const char16_t* name, const char16_t* text) {
         auto* box = new TextBox(QString::fromUtf16(name), Frame1);
-        // A refused key beeps and still goes into the box: a comma can be typed into the fee.
-        on(box, &TextBox::KeyPress, [](int code) { modRun::FilterZiffern(code); });
+        // A comma can be typed into the fee, after a beep.
+        box->setKeyFilter(&modRun::FilterZiffern, Refused::Admitted);
         Face::addField(form, row, Face::label(u"lblParam%1"_qs.arg(row), QString::fromUtf16(text), Frame1),
                        box);
         return box;

@@ -104,7 +104,7 @@ void Kontakt::buildPerson(QWidget* page) {
     txtOrt = field(u"txtOrt"_qs, Frame1, textLimit);
     lblGebDatum = Face::label(u"lblGebDatum"_qs, u"Geb. - Datum:"_qs, Frame1);
     txtGebDat = field(u"txtGebDat"_qs, Frame1, dateLimit);
-    txtGebDat->setKeyFilter(&modRun::FilterDatum);
+    txtGebDat->setKeyFilter(&modRun::FilterDatum, Refused::WithTheWhole);
     chkJG = Face::checkBox(u"chkJG"_qs, u"Jugendgruppe"_qs, Frame1);
 }
 
@@ -167,7 +167,8 @@ QLayout* Kontakt::buildMember(QWidget* page) {
     optBezahlt = Face::option(u"optBezahlt"_qs, u"bezahlt"_qs, Frame3);
     optNBezahlt = Face::option(u"optNBezahlt"_qs, u"nicht bezahlt"_qs, Frame3);
     for (QRadioButton* first : {optMann, optNBefreit, optNBezahlt}) first->setChecked(true);
-    for (TextBox* box : {txtEintritt, txtAustritt}) box->setKeyFilter(&modRun::FilterDatum);
+    for (TextBox* box : {txtEintritt, txtAustritt})
+        box->setKeyFilter(&modRun::FilterDatum, Refused::WithTheWhole);
 
     auto* dates = new QGridLayout(Frame4);
     dates->setHorizontalSpacing(Face::gap);

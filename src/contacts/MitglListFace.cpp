@@ -54,7 +54,7 @@ Vergleich MitglList::addBound(const QString& list, const QString& box, const QSt
     constexpr int wholeDate = 10;
     const Vergleich bound = Vergleich::neu(list, box, spoken, Frame6);
     bound.wert->setLimit(wholeDate);
-    bound.wert->setKeyFilter(&modRun::FilterDatum);
+    bound.wert->setKeyFilter(&modRun::FilterDatum, Refused::WithTheWhole);
     return bound;
 }
 

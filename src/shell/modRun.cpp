@@ -10,7 +10,6 @@
 #include "TextBox.h"
 #include "ValueLabel.h"
 
-#include <QApplication>
 #include <QCheckBox>
 #include <array>
 
@@ -37,11 +36,7 @@ constexpr int enter = 13;
 bool isDigit(int code) { return code >= '0' && code <= '9'; }
 bool isLetter(int code) { return (code >= 'A' && code <= 'Z') || (code >= 'a' && code <= 'z'); }
 
-int passOrBeep(int code, bool accepted) {
-    if (accepted) return code;
-    QApplication::beep();
-    return 0;
-}
+int passOr0(int code, bool accepted) { return accepted ? code : 0; }
 
 } // namespace
 
@@ -186,21 +181,20 @@ void GridVerweiseAbgleichen(DataTable* grid, int column, const QString& text, co
     }
 }
 
-int FilterZiffern(int code) { return passOrBeep(code, isDigit(code) || code == backspace || code == enter); }
+int FilterZiffern(int code) { return passOr0(code, isDigit(code) || code == backspace || code == enter); }
 
 int FilterKomma(int code) {
-    return passOrBeep(code, isDigit(code) || code == backspace || code == enter || code == ',');
+    return passOr0(code, isDigit(code) || code == backspace || code == enter || code == ',');
 }
 
 int FilterTelefon(int code) {
-    return passOrBeep(code, isDigit(code) || code == backspace || code == '-' || code == ' ');
+    return passOr0(code, isDigit(code) || code == backspace || code == '-' || code == ' ');
 }
 
-int FilterDatum(int code) { return passOrBeep(code, isDigit(code) || code == backspace || code == '.'); }
+int FilterDatum(int code) { return passOr0(code, isDigit(code) || code == backspace || code == '.'); }
 
 int FilterSuche(int code) {
-    return passOrBeep(code,
-                      isDigit(code) || isLetter(code) || code == backspace || code == '*' || code == ' ');
+    return passOr0(code, isDigit(code) || isLetter(code) || code == backspace || code == '*' || code == ' ');
 }
 
 } // namespace modRun

@@ -91,7 +91,7 @@ QString WochentagName(int number);
 void GridVerweiseAbgleichen(DataTable* grid, int column, const QString& text, const QString& mode,
                             const QString& oldText);
 
-// Key filters: give the typed code back, or 0 after a beep.
+// Key filters: give the typed code back, or 0, at which the box beeps.
 int FilterZiffern(int code); ///< digits
 int FilterKomma(int code);   ///< digits and comma
 int FilterTelefon(int code); ///< digits, minus, blank

@@ -2,8 +2,12 @@
 
 #include "FocusMove.h"
 
+#include <QApplication>
+#include <QDropEvent>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
+#include <QMenu>
+#include <QMimeData>
 #include <QPointer>
 #include <algorithm>
 
@@ -28,13 +32,22 @@ QList<uint> codesOf(const QKeyEvent* event) {
     return printable ? codes : QList<uint>();
 }
 
+bool isEntry(const QAction* entry, const QString& caption) {
+    return entry->text().section(u'\t', 0, 0) == caption;
+}
+
+// A text from elsewhere may end in a line break, which one line cannot show and nobody means to keep.
+QString inOneLine(QString text) {
+    if (!text.contains(u'\n') && !text.contains(u'\r')) return text;
+    return text.replace(u"\r\n"_qs, u" "_qs).replace(u'\n', u' ').replace(u'\r', u' ').trimmed();
+}
+
 } // namespace
 
 TextBox::TextBox(const QString& name, QWidget* parent)
     : QLineEdit(parent) {
     setObjectName(name);
     whenFocusIsElsewhere(this, [this] { loseFocus(); });
-    connect(this, &QLineEdit::textEdited, this, &TextBox::joinLines);
 }
 
 QSize TextBox::minimumSizeHint() const {
@@ -44,35 +57,54 @@ QSize TextBox::minimumSizeHint() const {
     return {room.width() + more * fontMetrics().horizontalAdvance(u'0'), room.height()};
 }
 
-// A text pasted from elsewhere may end in a line break, which one line cannot show and nobody means to keep.
-void TextBox::joinLines(const QString& pasted) {
-    if (!pasted.contains(u'\n') && !pasted.contains(u'\r')) return;
-    const int caret = cursorPosition();
-    QLineEdit::setText(
-        QString(pasted).replace(u"\r\n"_qs, u" "_qs).replace(u'\n', u' ').replace(u'\r', u' ').trimmed());
-    setCursorPosition(caret);
-}
-
 void TextBox::setText(const QString& text) {
     QLineEdit::setText(text);
     if (!hasFocus()) setCursorPosition(0);
 }
 
-bool TextBox::admits(int code) {
-    Q_EMIT KeyPress(code);
-    return !m_filter || m_filter(code) != 0;
+void TextBox::setKeyFilter(KeyFilter filter, Refused refused) {
+    m_filter = std::move(filter);
+    m_refused = refused;
+}
+
+QString TextBox::whatPasses(const QString& text, qsizetype room) const {
+    const bool whole = m_refused == Refused::WithTheWhole;
+    const QString offered = whole ? inOneLine(text).trimmed() : inOneLine(text);
+    if (!m_filter) return offered;
+    QString passed;
+    bool refused = false;
+    for (const uint code : offered.toUcs4()) {
+        const bool admitted = passes(code);
+        refused |= !admitted;
+        if (admitted || m_refused == Refused::Admitted) passed += QChar::fromUcs4(code);
+    }
+    refused |= whole && passed.size() > room;
+    if (refused) QApplication::beep();
+    return whole && refused ? QString() : passed;
+}
+
+void TextBox::pasteFrom(QClipboard::Mode mode) {
+    if (isReadOnly()) return;
+    const QString passed = whatPasses(QApplication::clipboard()->text(mode), roomForPasting());
+    if (!passed.isEmpty()) insert(passed);
 }
 
 void TextBox::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Paste)) {
+        const bool selection = event->modifiers() == (Qt::ControlModifier | Qt::ShiftModifier);
+        return pasteFrom(selection ? QClipboard::Selection : QClipboard::Clipboard);
+    }
     const QList<uint> codes = codesOf(event);
     // The handlers may close the screen.
     const QPointer<TextBox> alive(this);
     bool admitted = true;
     for (const uint code : codes) {
-        admitted = admits(static_cast<int>(code)) && admitted;
+        Q_EMIT KeyPress(static_cast<int>(code));
         if (!alive) return;
+        admitted = passes(code) && admitted;
     }
-    if (admitted)
+    if (!admitted) QApplication::beep();
+    if (admitted || m_refused == Refused::Admitted)
         QLineEdit::keyPressEvent(event);
     else
         event->accept();
@@ -86,17 +118,41 @@ void TextBox::keyPressEvent(QKeyEvent* event) {
 void TextBox::inputMethodEvent(QInputMethodEvent* event) {
     const QPointer<TextBox> alive(this);
     const QList<uint> codes = event->commitString().toUcs4();
-    QString admitted;
     for (const uint code : codes) {
-        if (admits(static_cast<int>(code))) admitted += QChar::fromUcs4(code);
+        Q_EMIT KeyPress(static_cast<int>(code));
         if (!alive) return;
     }
     QInputMethodEvent passed(event->preeditString(), event->attributes());
-    passed.setCommitString(admitted, event->replacementStart(), event->replacementLength());
+    passed.setCommitString(whatPasses(event->commitString(), roomForPasting()), event->replacementStart(),
+                           event->replacementLength());
     QLineEdit::inputMethodEvent(&passed);
     for (const uint code : codes) {
         if (alive) Q_EMIT KeyDone(static_cast<int>(code));
     }
+}
+
+// Qt's own entry would paste past the filter.
+void TextBox::contextMenuEvent(QContextMenuEvent* event) {
+    QMenu* menu = createStandardContextMenu();
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (QAction* entry : menu->actions()) {
+        if (!isEntry(entry, QLineEdit::tr("&Paste"))) continue;
+        disconnect(entry, nullptr, this, nullptr);
+        connect(entry, &QAction::triggered, this, [this] { pasteFrom(QClipboard::Clipboard); });
+    }
+    menu->popup(event->globalPos());
+}
+
+void TextBox::dropEvent(QDropEvent* event) {
+    // A text moved within the box is none from elsewhere.
+    if (event->source() == this) return QLineEdit::dropEvent(event);
+    QMimeData passed;
+    passed.setText(whatPasses(event->mimeData()->text(), maxLength() - text().size()));
+    if (passed.text().isEmpty()) return event->ignore();
+    QDropEvent drop(event->position(), event->possibleActions(), &passed, event->buttons(),
+                    event->modifiers());
+    QLineEdit::dropEvent(&drop);
+    event->acceptProposedAction();
 }
 
 void TextBox::focusInEvent(QFocusEvent* event) {
@@ -123,6 +179,10 @@ void TextBox::loseFocus() {
 
 // The press has put the caret where the pointer is, so the selection has to wait for the release.
 void TextBox::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() == Qt::MiddleButton) {
+        deselect();
+        return pasteFrom(QClipboard::Selection);
+    }
     QLineEdit::mouseReleaseEvent(event);
     if (m_selectOnRelease && !hasSelectedText()) selectAll();
     m_selectOnRelease = false;

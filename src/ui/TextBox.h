@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QClipboard>
 #include <QLineEdit>
 #include <functional>
 
@@ -7,8 +8,15 @@
 /// Enter (13) pass through it as well.
 using KeyFilter = std::function<int(int code)>;
 
-/// A one-line text box with the events the screens use. A refused key beeps (the filter does that) and
-/// changes nothing. Pasted text passes no key filter, and keys such as copy and undo are no characters.
+/// What becomes of a character that the key filter refuses. It beeps in any case.
+enum class Refused {
+    Dropped,      ///< what is pasted comes without it
+    WithTheWhole, ///< what is pasted comes as a whole, if there is room for it, or not at all
+    Admitted      ///< it beeps only
+};
+
+/// A one-line text box with the events the screens use. What is typed, composed, pasted or dropped passes the
+/// key filter; what a routine puts in does not, nor do keys such as copy and undo.
 class TextBox : public QLineEdit {
     Q_OBJECT
 
@@ -20,7 +28,7 @@ public:
     void setText(const QString& text);
     /// Characters beyond are refused.
     void setLimit(int characters) { setMaxLength(characters); }
-    void setKeyFilter(KeyFilter filter) { m_filter = std::move(filter); }
+    void setKeyFilter(KeyFilter filter, Refused refused = Refused::Dropped);
     void setSelectAllOnFocus(bool on) { m_selectAllOnFocus = on; }
     /// Room for eight characters, or for all where fewer are let in.
     QSize minimumSizeHint() const override;
@@ -37,17 +45,22 @@ Q_SIGNALS:
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
     void loseFocus();
-    void joinLines(const QString& pasted);
-
-    bool admits(int code);
+    bool passes(uint code) const { return !m_filter || m_filter(static_cast<int>(code)) != 0; }
+    /// The part of a text from elsewhere that the key filter lets in; beeps if that is not all.
+    QString whatPasses(const QString& text, qsizetype room) const;
+    qsizetype roomForPasting() const { return maxLength() - text().size() + selectedText().size(); }
+    void pasteFrom(QClipboard::Mode mode);
 
     KeyFilter m_filter;
+    Refused m_refused = Refused::Dropped;
     bool m_selectAllOnFocus = false;
     bool m_selectOnRelease = false;
     bool m_hasFocus = false;

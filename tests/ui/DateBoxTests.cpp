@@ -1,7 +1,9 @@
 #include "DateBox.h"
 #include "FixedClock.h"
 
+#include <QApplication>
 #include <QCalendarWidget>
+#include <QClipboard>
 #include <QLineEdit>
 #include <QTest>
 #include <gtest/gtest.h>
@@ -43,6 +45,9 @@ TEST_F(DateBoxTest, ReadsADateAsItIsTyped) {
         EXPECT_TRUE(box.isReadable()) << typed.toStdString();
         EXPECT_EQ(box.date().toQDate(), day) << typed.toStdString();
     }
+    QApplication::clipboard()->setText(u"\u00a05.6.\r\n"_qs);
+    box.lineEdit()->selectAll();
+    box.lineEdit()->paste();
     beside.setFocus();
     EXPECT_EQ(box.currentText(), u"05.06.2026"_qs) << "left, it stands in full";
     QTest::keyClick(&beside, Qt::Key_Backtab);
@@ -51,8 +56,8 @@ TEST_F(DateBoxTest, ReadsADateAsItIsTyped) {
 }
 
 TEST_F(DateBoxTest, TakesNothingElseForADate) {
-    for (const QString& typed :
-         {u""_qs, u"5"_qs, u"30.2.2026"_qs, u"99999999"_qs, u"12:30"_qs, u"morgen"_qs}) {
+    for (const QString& typed : {u""_qs, u"5"_qs, u"30.2.2026"_qs, u"99999999"_qs, u"01.02.20051"_qs,
+                                 u"1.12.2005 10:30"_qs, u"12:30"_qs, u"morgen"_qs}) {
         type(typed);
         if (typed.isEmpty()) box.clearEditText();
         EXPECT_FALSE(box.isReadable()) << typed.toStdString();

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QMenu>
+#include <QMimeData>
 #include <QTest>
 #include <QVBoxLayout>
 #include <gtest/gtest.h>
@@ -49,7 +50,7 @@ TEST_F(TextBoxTest, AKeyIsToldThenFilteredThenItWorks) {
 }
 
 TEST_F(TextBoxTest, KeysThatMakeNoCharacterAreNotToldAndNotFiltered) {
-    box->setKeyFilter([](int) { return 0; });
+    box->setKeyFilter([](int code) { return code == '1' ? code : 0; });
     box->setText(u"12"_qs);
     box->selectAll();
     QTest::keyClick(box, Qt::Key_C, Qt::ControlModifier);
@@ -57,7 +58,7 @@ TEST_F(TextBoxTest, KeysThatMakeNoCharacterAreNotToldAndNotFiltered) {
     QTest::keyClick(box, Qt::Key_Left);
     QTest::keyClick(box, Qt::Key_V, Qt::ControlModifier);
     QTest::keyClick(box, Qt::Key_Delete);
-    EXPECT_EQ(box->Text(), u"112"_qs) << "pasted between 1 and 2, and the last character deleted";
+    EXPECT_EQ(box->Text(), u"11"_qs) << "pasted between 1 and 2, and the last character deleted";
     EXPECT_EQ(log, QString());
 }
 
@@ -71,6 +72,58 @@ TEST_F(TextBoxTest, UmlautsSignsAndComposedCharactersAreCharacters) {
     box->setKeyFilter(digitsOnly);
     QApplication::sendEvent(box, &composed);
     EXPECT_EQ(box->Text(), u"ä@é11"_qs) << "the filter holds for them, too";
+}
+
+// All ways of pasting, and dropping, in turn: each replaces the whole text, or adds to it.
+TEST_F(TextBoxTest, WhatIsPastedOrDroppedPassesTheFilter) {
+    box->setKeyFilter(digitsOnly);
+    box->setLimit(4);
+    QApplication::clipboard()->setText(u"-1 OR 2=3\n"_qs);
+    const auto pasted = [this](const std::function<void()>& way) {
+        box->setText(u"7"_qs);
+        box->selectAll();
+        way();
+        return box->Text();
+    };
+    EXPECT_EQ(pasted([this] { QTest::keyClick(box, Qt::Key_V, Qt::ControlModifier); }), u"123"_qs);
+    EXPECT_EQ(pasted([this] {
+                  QContextMenuEvent asked(QContextMenuEvent::Keyboard, {}, {});
+                  QApplication::sendEvent(box, &asked);
+                  auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+                  for (QAction* entry : menu->actions())
+                      if (entry->text().startsWith(QLineEdit::tr("&Paste"))) entry->trigger();
+                  menu->close();
+              }),
+              u"123"_qs);
+    QMimeData dragged;
+    dragged.setText(u"a9b8"_qs);
+    QDragEnterEvent enter({1000, 5}, Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+    QDropEvent drop({1000, 5}, Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+    EXPECT_EQ(pasted([&] {
+                  QApplication::sendEvent(box, &enter);
+                  QApplication::sendEvent(box, &drop);
+              }),
+              u"798"_qs);
+    box->setKeyFilter(digitsOnly, Refused::Admitted);
+    EXPECT_EQ(pasted([this] { QTest::keyClick(box, Qt::Key_V, Qt::ControlModifier); }), u"-1 O"_qs);
+    box->setText(u"-5"_qs);
+    EXPECT_EQ(box->Text(), u"-5"_qs) << "what a routine puts in is its own affair";
+}
+
+TEST_F(TextBoxTest, ADateIsPastedAsAWholeOrNotAtAll) {
+    box->setKeyFilter([](int code) { return code == '.' ? code : digitsOnly(code); }, Refused::WithTheWhole);
+    box->setLimit(10);
+    const std::pair<QString, QString> cases[] = {{u" 01.02.2005\u00a0\r\n"_qs, u"01.02.2005"_qs},
+                                                 {u"01.02.20051"_qs, u"9.9.1999"_qs},
+                                                 {u"1.12.2005 10:30"_qs, u"9.9.1999"_qs},
+                                                 {u"1. Mai 2005"_qs, u"9.9.1999"_qs}};
+    for (const auto& [offered, stands] : cases) {
+        box->setText(u"9.9.1999"_qs);
+        box->selectAll();
+        QApplication::clipboard()->setText(offered);
+        QTest::keyClick(box, Qt::Key_V, Qt::ControlModifier);
+        EXPECT_EQ(box->Text(), stands) << offered.toStdString();
+    }
 }
 
 TEST_F(TextBoxTest, TheWholeTextIsSelectedByKeyAndByMouse) {
