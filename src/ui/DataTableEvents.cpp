@@ -7,6 +7,7 @@
 #include <QContextMenuEvent>
 #include <QHelpEvent>
 #include <QPointer>
+#include <QTextDocument>
 #include <QToolTip>
 
 // What the user does in the grid, told as its events. Handlers may change the rows and even close the screen
@@ -127,7 +128,10 @@ void DataTable::focusOutEvent(QFocusEvent* event) {
 bool DataTable::viewportEvent(QEvent* event) {
     if (event->type() != QEvent::ToolTip) return QTreeView::viewportEvent(event);
     const auto* help = static_cast<QHelpEvent*>(event);
-    QToolTip::showText(help->globalPos(), clippedText(help->pos()), viewport());
+    const QString text = clippedText(help->pos());
+    // A name that looks like markup would be read as such, and could show any file of the disk.
+    QToolTip::showText(help->globalPos(), Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text,
+                       viewport());
     return true;
 }
 

@@ -1,9 +1,12 @@
 #include "DataTable.h"
 
 #include <QContextMenuEvent>
+#include <QHelpEvent>
 #include <QLineEdit>
 #include <QMenu>
 #include <QTest>
+#include <QTextDocument>
+#include <QToolTip>
 #include <QVBoxLayout>
 #include <gtest/gtest.h>
 
@@ -130,6 +133,17 @@ TEST_F(DataTableEventsTest, ADoubleClickAndEnterOpenTheRow) {
     EXPECT_EQ(heard(), "") << "the search that filled the grid was started by the same Enter";
     doubleClick(-1, 0);
     EXPECT_EQ(heard(), "down -1 -1");
+}
+
+TEST_F(DataTableEventsTest, ATextTooWideForItsCellShowsInATipAsItIs) {
+    showFlat();
+    m_grid->setCell(1, 1, QString(u"<img src=\"/etc/motd\"> and a long name"_qs));
+    const QPoint place = m_grid->revealCell({}, 1, 1).center();
+    QHelpEvent help(QEvent::ToolTip, place, m_grid->viewport()->mapToGlobal(place));
+    QApplication::sendEvent(m_grid->viewport(), &help);
+    QTextDocument tip;
+    tip.setHtml(QToolTip::text());
+    EXPECT_EQ(tip.toPlainText(), m_grid->cellText(1, 1));
 }
 
 TEST_F(DataTableEventsTest, TheMenuComesAfterThePressAlsoByKey) {
