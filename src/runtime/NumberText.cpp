@@ -47,11 +47,15 @@ public:
         : m_rest(text) {}
 
     bool read() {
+        takeCurrency();
         if (takeAny(u"-"))
             m_plain += '-';
         else
             takeAny(u"+");
-        return readMantissa() && readExponent() && m_rest.isEmpty();
+        takeCurrency();
+        if (!readMantissa() || !readExponent()) return false;
+        takeCurrency();
+        return m_rest.isEmpty();
     }
     const QByteArray& plain() const { return m_plain; }
 
@@ -60,6 +64,14 @@ private:
         if (m_rest.isEmpty() || !signs.contains(m_rest.front())) return false;
         m_rest = m_rest.sliced(1);
         return true;
+    }
+
+    /// Once, with the blanks around it.
+    void takeCurrency() {
+        const QStringView rest = m_rest.trimmed();
+        if (m_hasCurrency || !rest.startsWith(u'€')) return;
+        m_hasCurrency = true;
+        m_rest = rest.sliced(1).trimmed();
     }
 
     bool readDigits() {
@@ -95,6 +107,7 @@ private:
     }
 
     QStringView m_rest;
+    bool m_hasCurrency = false;
     QByteArray m_plain;
 };
 

@@ -11,7 +11,8 @@
 /// "-1,#IND".
 QString numberText(double number);
 
-/// The number that a text stands for: blanks round it, a sign, digits, points between digits before the
-/// comma, one comma, an exponent ("1e3"). Points are not checked for threes: "1.2" is 12, as users of this
-/// kind of program know. Infinite if it is too large for a double; nothing if the text is no number.
+/// The number that a text stands for: blanks round it, a sign, one "€" in front or behind, digits, points
+/// between digits before the comma, one comma, an exponent ("1e3"). Points are not checked for threes: "1.2"
+/// is 12, as users of this kind of program know. Infinite if it is too large for a double; nothing if the
+/// text is no number.
 std::optional<double> numberFromText(QStringView text);

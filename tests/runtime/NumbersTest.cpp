@@ -20,7 +20,8 @@ TEST(Numbers, AreReadFromTextAsGermansWriteThem) {
         {"5,", 5},          {"1.234.567,89", 1234567.89},
         {"12.5", 125},      {"1e3", 1000},
         {"1,5E-3", 0.0015}, {"1e-99999999999999999999", 0},
-        {"-1e-400", 0},
+        {"-1e-400", 0},     {"65,00 €", 65},
+        {"€ -5", -5},       {"-€5", -5},
     };
     for (const auto& [text, number] : cases) {
         EXPECT_EQ(CDbl(QString::fromUtf8(text)), number) << text;
@@ -29,9 +30,9 @@ TEST(Numbers, AreReadFromTextAsGermansWriteThem) {
 }
 
 TEST(Numbers, AreNotReadFromOtherText) {
-    for (const auto* text :
-         {"",   "  ",  "12a", "a12", "1,2,3", "1,2.3", ",",   "-",   "--1",          "1..2",      ".5",
-          "5.", "1 2", "1e",  "1e+", "e5",    "0x10",  "inf", "nan", "\u0661\u0662", "24/12/1970"}) {
+    for (const auto* text : {"",     "  ",   "12a", "a12", "1,2,3",        "1,2.3",     ",",   "-",  "--1",
+                             "1..2", ".5",   "5.",  "€",   "€5€",          "6€5",       "1 2", "1e", "1e+",
+                             "e5",   "0x10", "inf", "nan", "\u0661\u0662", "24/12/1970"}) {
         EXPECT_EQ(errorOf([&] { CDbl(QString::fromUtf8(text)); }), 13) << text;
         EXPECT_EQ(errorOf([&] { CLng(QString::fromUtf8(text)); }), 13) << text;
         EXPECT_FALSE(IsNumeric(QString::fromUtf8(text))) << text;
