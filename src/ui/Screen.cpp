@@ -38,6 +38,8 @@ Screen::Screen(const QString& name, const QString& caption) {
     setObjectName(name);
     setWindowTitle(caption);
     setAccessibleName(caption);
+    // On the stage no window shows the caption.
+    connect(this, &Screen::windowTitleChanged, this, &Screen::setAccessibleName);
     installEventFilter(this);
 }
 

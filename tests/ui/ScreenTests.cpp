@@ -44,6 +44,7 @@ TEST_F(ScreenTest, AScreenMayUnloadItselfInItsOwnHandler) {
             settle();
             ASSERT_TRUE(search) << "its handler is still running";
             search->setWindowTitle(u"noch da"_qs);
+            EXPECT_EQ(search->accessibleName(), u"noch da"_qs) << "a screen reader has no other caption";
         });
     });
     key->click();
