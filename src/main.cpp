@@ -1,3 +1,4 @@
+#include "EndSignals.h"
 #include "LibreOfficeCalc.h"
 #include "LibreOfficeWriter.h"
 #include "Program.h"
@@ -22,6 +23,8 @@ int main(int argc, char* argv[]) {
 
     Program program(QApplication::applicationDirPath());
     QObject::connect(&program, &Program::ended, &application, &QApplication::quit, Qt::QueuedConnection);
-    program.start();
+    const EndSignals signals;
+    // From within the event loop, or a box of the start could not be ended by the desktop.
+    QMetaObject::invokeMethod(&program, &Program::start, Qt::QueuedConnection);
     return QApplication::exec();
 }
