@@ -115,7 +115,7 @@ void loadcboFJahr(ComboBox* combo) {
     withErrorTail(u"modFAuswert"_qs, u"loadcboFJahr"_qs, [combo](ErrorTail& step) {
         const qint32 lowest = grenzjahr(step, u"SELECT MIN(FangJahr) FROM Fang"_qs);
         const qint32 highest = grenzjahr(step, u"SELECT MAX(FangJahr) FROM Fang"_qs);
-        modRun::haengeJahreAn(combo, lowest, highest);
+        modRun::haengeJahreAn(combo, lowest, highest, session().AktJahr);
     });
 }
 

@@ -22,7 +22,7 @@
 
 void MitglList::Form_Load() {
     modArbeit::loadcboArbJahre(cboArbJahr);
-    cboArbJahr->setListIndex(cboArbJahr->findText(QString::number(session().AktJahr)));
+    cboArbJahr->setListIndex(cboArbJahr->findText(QString::number(session().Startjahr)));
 }
 
 void MitglList::Form_Activate() {

@@ -23,7 +23,8 @@ struct Session {
     QString AktWochentag;  ///< name of the weekday at login
     qint16 AktMonatNr = 0; ///< 1 to 12
     QString AktMonat;
-    qint16 AktJahr = 0; ///< the year on which a change of year has been settled; lent to the selectors
+    qint16 AktJahr = 0;   ///< the year on which a change of year has been settled; lent to the selectors
+    qint16 Startjahr = 0; ///< calendar year at login, whatever a selector has left in AktJahr
 
     int MsgAntwort = 0;               ///< answer of the last question: 6 yes, 7 no
     QString Modus;                    ///< "SAVE" a new record, "EDIT" the record of row AktZeile

@@ -11,7 +11,10 @@
 #include "ValueLabel.h"
 
 #include <QCheckBox>
+#include <algorithm>
 #include <array>
+#include <cstdlib>
+#include <limits>
 
 namespace modRun {
 
@@ -157,12 +160,18 @@ qint16 ErmittleMonatsNr(const QString& name) {
     return 1;
 }
 
-void haengeJahreAn(ComboBox* combo, qint32 lowest, qint32 highest) {
-    const qint32 aktJahr = session().AktJahr;
-    const auto add = [&](qint32 jahr) { combo->AddItem(QString::number(jahr)); };
-    for (qint32 jahr = lowest; jahr <= highest; ++jahr) add(jahr);
-    if (highest < aktJahr) add(aktJahr);
-    for (qint32 jahr = aktJahr; jahr < lowest; ++jahr) add(jahr);
+void haengeJahreAn(ComboBox* combo, qint32 lowest, qint32 highest, qint16 akt) {
+    using Year = std::numeric_limits<qint16>;
+    constexpr qint64 nahe = 200;
+    const auto haengeAn = [&](qint64 von, qint64 bis) {
+        for (qint64 jahr = std::max<qint64>(von, Year::min()); jahr <= std::min<qint64>(bis, Year::max());
+             ++jahr)
+            if (jahr - von < nahe || bis - jahr < nahe || std::abs(jahr - akt) < nahe)
+                combo->AddItem(QString::number(jahr));
+    };
+    haengeAn(lowest, highest);
+    if (highest < akt) haengeAn(akt, akt);
+    haengeAn(akt, lowest - qint64(1));
 }
 
 QString WochentagName(int number) {

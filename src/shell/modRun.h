@@ -78,9 +78,10 @@ QString TextAusDatum(const Field& field);
 QString ErmittleMonatsname(qint32 number);
 /// The names above, compared exactly; any other text is told in a box and gives 1.
 qint16 ErmittleMonatsNr(const QString& name);
-/// Appends the years from the lowest to the highest, AktJahr if it lies behind them, and the years from
-/// AktJahr on if it lies before them. A gap before AktJahr stays a gap.
-void haengeJahreAn(ComboBox* combo, qint32 lowest, qint32 highest);
+/// Appends the years from the lowest to the highest, `akt` if it lies behind them, and the years from `akt`
+/// on if it lies before them. A gap before `akt` stays a gap. Years beyond 16 bits are left out, and of a
+/// span of centuries, as a slip of the pen makes it, the middle.
+void haengeJahreAn(ComboBox* combo, qint32 lowest, qint32 highest, qint16 akt);
 
 /// 1 (Sunday) to 7; any other number gives the empty text.
 QString WochentagName(int number);

@@ -210,6 +210,7 @@ void SetzeDatumsVariablen() {
     const QDate date = today();
     // The week of the names begins on Sunday.
     session().AktWochentag = modRun::WochentagName(date.dayOfWeek() % 7 + 1);
+    session().Startjahr = session().AktJahr;
     session().AktTag = static_cast<qint16>(date.day());
     session().AktMonat = modRun::ErmittleMonatsname(date.month());
     session().AktJahr = static_cast<qint16>(date.year());

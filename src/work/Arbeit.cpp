@@ -25,7 +25,7 @@
 void Arbeit::Form_Load() {
     modArbeit::LeereArbEingabe();
     modArbeit::loadcboArbJahre(cboArbJahr);
-    if (cboArbJahr->ListCount() > 0) cboArbJahr->setText(QString::number(session().AktJahr));
+    if (cboArbJahr->ListCount() > 0) cboArbJahr->setText(QString::number(session().Startjahr));
     modRun::beendeVorgang();
     session().AktZeile = 0;
     // From here on a year stands for the wish to see it.

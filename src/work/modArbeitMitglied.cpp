@@ -175,7 +175,7 @@ void zeigeSaldo() {
 
 namespace {
 
-/// Lowest or highest year of the ledger, AktJahr where there is none; nothing without exactly one answer.
+/// Lowest or highest year of the ledger, this year where there is none; nothing without exactly one answer.
 std::optional<qint32> grenzjahr(ErrorTail& step, const QString& select) {
     std::optional<qint32> jahr;
     Recordset arbeit;
@@ -183,7 +183,7 @@ std::optional<qint32> grenzjahr(ErrorTail& step, const QString& select) {
     step([&] {
         if (arbeit.RecordCount() != 1) return;
         const Value value = arbeit.Collect(u"Expr1000"_qs);
-        jahr = value.isNull() ? qint32(session().AktJahr) : CLng(value);
+        jahr = value.isNull() ? qint32(session().Startjahr) : CLng(value);
     });
     step([&] { arbeit.Close(); });
     return jahr;
@@ -197,7 +197,7 @@ void loadcboArbJahre(ComboBox* combo) {
         if (!lowest) return;
         const auto highest = grenzjahr(step, u"SELECT MAX(Jahr) FROM Arbeit"_qs);
         if (!highest) return;
-        modRun::haengeJahreAn(combo, *lowest, *highest);
+        modRun::haengeJahreAn(combo, *lowest, *highest, session().Startjahr);
     });
 }
 
