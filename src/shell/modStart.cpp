@@ -175,7 +175,7 @@ bool Login(const QString& name, const QString& passwort) {
         step([&] {
             gruppe = oeffneAbfrage(
                 u"SELECT * FROM Gruppen WHERE GNr = (SELECT GNr FROM Benutzer WHERE Name = "_qs +
-                quoted(name) + u" AND Passwort = "_qs + quoted(passwort) + u")"_qs);
+                quoted(name) + u" AND Passwort = "_qs + quotedSecret(passwort) + u")"_qs);
         });
         if (step.test([&] { return gruppe.RecordCount() == 0; })) {
             MsgBox(u"Anmeldung fehlgeschlagen, bitte versuchen Sie es erneut!"_qs, vbCritical,

@@ -2,10 +2,18 @@
 
 #include "RuntimeError.h"
 
-QString quoted(const QString& text) {
-    if (text.contains(u'\'')) {
-        const QString reason = QStringLiteral("Syntaxfehler (fehlender Operator) in Abfrageausdruck '%1'.");
-        throw RuntimeError{3075, reason.arg(text)};
-    }
+namespace {
+
+/// `place` ends the error's description.
+QString quotedOr(const QString& text, const QString& place) {
+    if (text.contains(u'\''))
+        throw RuntimeError{3075,
+                           QStringLiteral("Syntaxfehler (fehlender Operator) in Abfrageausdruck") + place};
     return u'\'' + text + u'\'';
 }
+
+} // namespace
+
+QString quoted(const QString& text) { return quotedOr(text, QStringLiteral(" '%1'.").arg(text)); }
+
+QString quotedSecret(const QString& text) { return quotedOr(text, QStringLiteral(".")); }
