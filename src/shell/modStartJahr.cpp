@@ -67,8 +67,10 @@ std::optional<qint32> uebernehmeJahr(ErrorTail& step, Recordset& system, std::op
 }
 
 /// What belongs to a year is written together or, when the program is ended in the middle, not at all.
-void wechsleJahr(ErrorTail& step, Recordset& system, bool& result) {
+void wechsleJahr(ErrorTail& step, bool& result) {
     modSicherung::SichereDatenbank();
+    Recordset system;
+    step([&] { system = oeffneTabelle(u"System"_qs); });
     std::optional<Transaction> change;
     const std::optional<qint32> altesJahr = uebernehmeJahr(step, system, change);
     result = true;
@@ -87,10 +89,10 @@ bool KontrolliereSystemJahr() {
         qint16 fangjahr = 0;
         step([&] { system = oeffneTabelle(u"System"_qs); });
         step([&] { fangjahr = CInt(system.Collect(u"FJahr"_qs)); });
-        if (fangjahr != session().AktJahr && frageNachSystemjahr() == vbYes)
-            return wechsleJahr(step, system, result);
-        result = fangjahr == session().AktJahr;
+        // Closed before the question: who thinks about it must not keep others from saving.
         step([&] { system.Close(); });
+        result = fangjahr == session().AktJahr;
+        if (!result && frageNachSystemjahr() == vbYes) wechsleJahr(step, result);
     });
     return result;
 }
