@@ -29,17 +29,26 @@ void openHandbook(const QWidget* focused, const QKeyEvent& key) {
 }
 
 } // namespace
+/// The last box of the program. After the end a box ends the routine that shows it.
+void tellMissingCopy() {
+    try {
+        MsgBox(modSicherung::Fehlschlag(), vbExclamation);
+    } catch (const ProgramEnded&) {
+        // The rest of the end follows.
+    }
+}
+
 
 Program::Program(const QString& folder) {
     running = this;
     beginSession(folder);
     setEventFailure([this](const RuntimeError& error) { fail(error); });
     QCoreApplication::instance()->installEventFilter(this);
-    connect(qGuiApp, &QGuiApplication::commitDataRequest, this, &Program::finish);
+    connect(qGuiApp, &QGuiApplication::commitDataRequest, this, &Program::finishUnseen);
 }
 
 bool Program::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == QCoreApplication::instance() && event->type() == QEvent::Quit) finish();
+    if (watched == QCoreApplication::instance() && event->type() == QEvent::Quit) finishUnseen();
     if (asksForHandbook(watched, event)) {
         openHandbook(static_cast<QWidget*>(watched), *static_cast<QKeyEvent*>(event));
         return true;
@@ -64,6 +73,14 @@ void Program::start() {
 
 void Program::finish() {
     if (!m_running) return;
+    if (!m_running) return;
+    letGo();
+    // A start that came to nothing has told its reason, and nothing was written.
+    if (!modSicherung::SichereDatenbank() && session().Angemeldet) tellMissingCopy();
+    Q_EMIT ended();
+}
+
+void Program::finishUnseen() {
     letGo();
     modSicherung::SichereDatenbank();
     Q_EMIT ended();

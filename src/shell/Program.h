@@ -19,8 +19,10 @@ public:
     void start();
     bool isRunning() const { return m_running; }
     /// Ends the program: every screen goes, the database file is let go and copied into the folder for that.
-    /// Safe from within any handler.
+    /// Safe from within any handler. A box says so if the copy could not be made.
     void finish();
+    /// As above without the box, where nobody is left to read it: the desktop ends the session.
+    void finishUnseen();
 
 Q_SIGNALS:
     void ended();

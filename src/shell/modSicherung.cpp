@@ -15,12 +15,20 @@ QString ordner() { return programFolder() + u"/Sicherung"_qs; }
 
 } // namespace
 
-void SichereDatenbank() {
+bool SichereDatenbank() {
     try {
         keepSafetyCopy(datei(), modTools::passwort(), ordner(), now());
+        return true;
     } catch (const RuntimeError& error) {
         qWarning("%s", qUtf8Printable(error.description));
+        return false;
     }
+}
+
+QString Fehlschlag() {
+    return u"ACHTUNG: Die Sicherungskopie der Datenbank konnte nicht angelegt werden !\n\r"_qs
+           u"Bitte prüfen Sie den Ordner - Sicherung - und den freien Speicherplatz. Eine beschädigte Datenbank "_qs
+           u"meldet Uferwart beim nächsten Start."_qs;
 }
 
 bool DatenbankIstHeil() {

@@ -109,6 +109,7 @@ void continueAfterLogin() {
 }
 
 } // namespace
+    session().Angemeldet = true;
 
 void StarteUferwart() {
     try {

@@ -66,9 +66,17 @@ std::optional<qint32> uebernehmeJahr(ErrorTail& step, Recordset& system, std::op
     return altesJahr;
 }
 
+/// False if the user would rather not go on without a copy of the old year.
+bool istGesichert() {
+    if (modSicherung::SichereDatenbank()) return true;
+    session().MsgAntwort = MsgBox(modSicherung::Fehlschlag() +
+                                      u"\n\rSoll das neue Jahr trotzdem ohne Sicherungskopie beginnen ?"_qs,
+                                  vbYesNo);
+    return session().MsgAntwort == vbYes;
+}
+
 /// What belongs to a year is written together or, when the program is ended in the middle, not at all.
 void wechsleJahr(ErrorTail& step, bool& result) {
-    modSicherung::SichereDatenbank();
     Recordset system;
     step([&] { system = oeffneTabelle(u"System"_qs); });
     std::optional<Transaction> change;
@@ -92,7 +100,7 @@ bool KontrolliereSystemJahr() {
         // Closed before the question: who thinks about it must not keep others from saving.
         step([&] { system.Close(); });
         result = fangjahr == session().AktJahr;
-        if (!result && frageNachSystemjahr() == vbYes) wechsleJahr(step, result);
+        if (!result && frageNachSystemjahr() == vbYes && istGesichert()) wechsleJahr(step, result);
     });
     return result;
 }

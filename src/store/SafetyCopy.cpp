@@ -113,7 +113,7 @@ void removeOldest(const CopyNames& names) {
 
 void keepSafetyCopy(const QString& file, const QString& password, const QString& folder,
                     const QDateTime& time) {
-    if (!QDir(folder).exists()) return;
+    if (!QDir(folder).exists() && !QDir().mkdir(folder)) throw runtimeError(75, folder);
     const CopyNames names(file, folder, time);
     Connection original(file, password, Connection::Access::ReadOnly);
     // Keeps others from writing until the copy is made.

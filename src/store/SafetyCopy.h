@@ -10,8 +10,8 @@
 ///
 /// What could not be read back, or was cut short by a power cut, stays as "uw01.neu" until the next copy.
 ///
-/// Without the folder nothing happens. Errors as for Workspace::OpenDatabase, 3026 when the disk is full; the
-/// copies made before are then untouched.
+/// A missing folder is made. Errors as for Workspace::OpenDatabase, 75 if the folder can't be made, 3026 when
+/// the disk is full; the copies made before are then untouched.
 void keepSafetyCopy(const QString& file, const QString& password, const QString& folder,
                     const QDateTime& time);
 /// Whether the copy before failed in that way, which may be the file's own fault.

@@ -84,5 +84,5 @@ void PlayedProgram::requireRunning() const {
 }
 
 void PlayedProgram::end() {
-    if (isRunning()) m_program->finish();
+    if (isRunning()) m_program->finishUnseen();
 }
