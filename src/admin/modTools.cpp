@@ -1,15 +1,16 @@
 #include "modTools.h"
 
 #include "DBEngine.h"
+#include "Essentials.h"
 #include "FileReplacement.h"
-#include "Main.h"
 #include "MsgBox.h"
+#include "Program.h"
 #include "RuntimeError.h"
-#include "Screens.h"
 #include "Session.h"
 #include "modStart.h"
 
 #include <QApplication>
+#include <QFile>
 
 namespace modTools {
 
@@ -32,12 +33,24 @@ public:
     Hourglass& operator=(const Hourglass&) = delete;
 };
 
-void rewriteFile() {
+/// A whole file may still lack the record of `System`, without which no start comes to its end.
+void restoreParametersOf(const QString& work) {
+    try {
+        restoreParameters(work, passwort());
+    } catch (const RuntimeError&) {
+        // Left over, it would stand in the way of the next repair.
+        QFile::remove(work);
+        throw;
+    }
+}
+
+void rewriteFile(bool isRepair) {
     const Hourglass hourglass;
     const QString file = programFolder() + u"/uw01.mdb"_qs;
     const QString work = programFolder() + u"/temp/uwtmp.mdb"_qs;
     modStart::SchliesseDatenbank();
     DBEngine::CompactDatabase(file, work, connectText());
+    if (isRepair) restoreParametersOf(work);
     replaceDatabase(work, file);
 }
 
@@ -45,16 +58,16 @@ void tellFailure(const RuntimeError& error, const Words& words) {
     const QString title = u"Runtime - Error: %1"_qs.arg(error.number);
     if (error.number == cannotBeRepaired) {
         MsgBox(words.cannotBeRepaired, vbCritical, title);
-        unload<Main>();
-        return;
+        // A file that can't be repaired can't be copied either, which need not be told as well.
+        return Program::current().finishUnseen();
     }
     MsgBox(words.failure, vbInformation, title);
     modStart::OeffneDatenbank();
 }
 
-void rewriteDatabase(const Words& words) {
+void rewriteDatabase(const Words& words, bool isRepair) {
     try {
-        rewriteFile();
+        rewriteFile(isRepair);
         MsgBox(words.success, vbInformation);
         modStart::OeffneDatenbank();
     } catch (const RuntimeError& error) {
@@ -71,14 +84,16 @@ void KomprimiereDatenbank() {
     rewriteDatabase(
         {u"Komprimierung der Datenbank erfolgreich durchgeführt !"_qs,
          u"ACHTUNG: Ein Fehler trat beim Komprimieren der Datenbank auf, die Komprimierung war nicht erfolgreich !"_qs,
-         u"ACHTUNG: Datenbank konnte nicht erfolgreich komprimiert werden ! Uferwart beendet sich jetzt !"_qs});
+         u"ACHTUNG: Datenbank konnte nicht erfolgreich komprimiert werden ! Uferwart beendet sich jetzt !"_qs},
+        false);
 }
 
 void RepariereDatenbank() {
     rewriteDatabase(
         {u"Datenbank wurde erfolgreich repariert !"_qs,
          u"ACHTUNG: Ein Fehler trat beim Reparieren der Datenbank auf, die Reparatur war nicht erfolgreich !"_qs,
-         u"ACHTUNG: Datenbank konnte nicht erfolgreich repariert werden ! Uferwart beendet sich jetzt !"_qs});
+         u"ACHTUNG: Datenbank konnte nicht erfolgreich repariert werden ! Uferwart beendet sich jetzt !"_qs},
+        true);
 }
 
 } // namespace modTools

@@ -68,6 +68,9 @@ private:
     QString m_routine;
 };
 
+/// The number of an error over a damaged page. An error tail that meets it sets the session's `Beschaedigt`.
+constexpr int damagedFile = 3343;
+
 void beginErrorTail();
 
 /// Keeps a routine's count over calls of routines that count for themselves. For loops: a failure that comes

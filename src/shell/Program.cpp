@@ -1,5 +1,6 @@
 #include "Program.h"
 
+#include "ErrorTail.h"
 #include "EventGuard.h"
 #include "Main.h"
 #include "MsgBox.h"
@@ -28,7 +29,6 @@ void openHandbook(const QWidget* focused, const QKeyEvent& key) {
     if (!key.isAutoRepeat()) runEvent([&] { modHandbuch::ZeigeHandbuch(focused); });
 }
 
-} // namespace
 /// The last box of the program. After the end a box ends the routine that shows it.
 void tellMissingCopy() {
     try {
@@ -38,6 +38,7 @@ void tellMissingCopy() {
     }
 }
 
+} // namespace
 
 Program::Program(const QString& folder) {
     running = this;
@@ -73,7 +74,6 @@ void Program::start() {
 
 void Program::finish() {
     if (!m_running) return;
-    if (!m_running) return;
     letGo();
     // A start that came to nothing has told its reason, and nothing was written.
     if (!modSicherung::SichereDatenbank() && session().Angemeldet) tellMissingCopy();
@@ -81,6 +81,7 @@ void Program::finish() {
 }
 
 void Program::finishUnseen() {
+    if (!m_running) return;
     letGo();
     modSicherung::SichereDatenbank();
     Q_EMIT ended();
@@ -101,7 +102,8 @@ void Program::fail(const RuntimeError& error) {
     if (!m_running) return;
     MsgBox(u"Laufzeitfehler '%1':\r\n\r\n%2"_qs.arg(error.number).arg(error.description), vbCritical);
     // A start that fails over a damaged page would fail again each time, and never reach the menu.
-    if (modStart::DatenbankIstBeschaedigt()) runEvent([] { modStart::RepariereAufWunsch(); });
+    const bool damaged = session().Beschaedigt || error.number == damagedFile;
+    if (damaged && session().AktDatenbank.isOpen()) runEvent([] { modStart::RepariereAufWunsch(); });
     if (!m_running) return;
     letGo();
     Q_EMIT ended();

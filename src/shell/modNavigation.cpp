@@ -96,6 +96,12 @@ void InitButtnBar() {
     screen<Main>().ButtnBar->setItemSpacing(itemSpacing);
 }
 
+void LeereButtnBar() {
+    for (BarGroup* group : screen<Main>().ButtnBar->groups())
+        for (const BarItem* item : group->items()) group->removeItem(item->key());
+    session().AktBarItem = nullptr;
+}
+
 void binde(BarItem* item, Screen& target) {
     // A start-up that ended in a repair leaves the bar without items.
     if (!item) return;

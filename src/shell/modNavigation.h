@@ -10,6 +10,8 @@ namespace modNavigation {
 
 /// Builds the two groups of the bar.
 void InitButtnBar();
+/// Takes all items away: nobody is logged in.
+void LeereButtnBar();
 /// Gives the item the screen's window to keep track of; showing the screen is a separate step.
 void binde(BarItem* item, Screen& screen);
 /// Hides every screen that can be behind the bar.

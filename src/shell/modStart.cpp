@@ -38,7 +38,6 @@ namespace {
 
 constexpr int fileNotFound = 3024;
 constexpr int wrongPassword = 3031;
-constexpr int damagedFile = 3343;
 
 /// Sizes were given in twips, fifteen to a pixel.
 constexpr int twips(int count) { return count / 15; }
@@ -48,9 +47,13 @@ void tellEnd(const QString& text, const QString& title = u"Uferwart"_qs) {
     unload<Main>();
 }
 
+/// Nobody is logged in then, whatever comes of it: the frame stands open with an empty bar, and the user
+/// starts the program again.
 void askForRepair() {
+    unload<::Login>();
+    modNavigation::LeereButtnBar();
+    screen<Main>().StatusBar1->setPanelText(4, QString());
     if (!RepariereAufWunsch()) return tellEnd(u"Uferwart beendet sich jetzt !"_qs);
-    // The frame stands open with an empty bar: the user starts the program again.
     if (isLoaded<Main>()) screen<Main>().Show();
 }
 
@@ -94,7 +97,7 @@ void continueAfterLogin() {
     SetzeDatumsVariablen();
     if (!KontrolliereSystemJahr()) {
         unload<Eroef>();
-        if (DatenbankIstBeschaedigt()) return askForRepair();
+        if (session().Beschaedigt) return askForRepair();
         unload<Main>();
         unload<::Login>();
         SchliesseDatenbank();
@@ -106,10 +109,10 @@ void continueAfterLogin() {
     screen<Main>().Show();
     modNavigation::zeigeErstesFenster();
     unload<::Login>();
+    session().Angemeldet = true;
 }
 
 } // namespace
-    session().Angemeldet = true;
 
 void StarteUferwart() {
     try {
@@ -145,10 +148,6 @@ bool RepariereAufWunsch() {
     return true;
 }
 
-bool DatenbankIstBeschaedigt() {
-    return session().AktDatenbank.isOpen() && !session().AktDatenbank.isSound();
-}
-
 void SetzeFensterGroesse() {
     constexpr int firstWidth = 1000;
     screen<Main>().resize(firstWidth, twips(8625));
@@ -160,10 +159,7 @@ void Anmelden() {
     if (form.txtBenutzer->Text().isEmpty()) return form.txtBenutzer->setFocus();
     if (Login(form.txtBenutzer->Text(), form.txtPassw->Text())) return continueAfterLogin();
     // Where the users themselves are damaged nobody would get as far as the menu with the repair.
-    if (DatenbankIstBeschaedigt()) {
-        form.Hide();
-        return askForRepair();
-    }
+    if (session().Beschaedigt) return askForRepair();
     form.txtBenutzer->setText(QString());
     form.txtPassw->setText(QString());
     form.txtBenutzer->setFocus();
@@ -211,10 +207,10 @@ void SetzeDatumsVariablen() {
     const QDate date = today();
     // The week of the names begins on Sunday.
     session().AktWochentag = modRun::WochentagName(date.dayOfWeek() % 7 + 1);
-    session().Startjahr = session().AktJahr;
     session().AktTag = static_cast<qint16>(date.day());
     session().AktMonat = modRun::ErmittleMonatsname(date.month());
     session().AktJahr = static_cast<qint16>(date.year());
+    session().Startjahr = session().AktJahr;
     session().AktMonatNr = static_cast<qint16>(date.month());
 }
 

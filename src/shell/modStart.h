@@ -19,8 +19,6 @@ void OeffneDatenbank();
 void SchliesseDatenbank();
 /// Asks whether the database is to be repaired, and does so; false if the user doesn't want it.
 bool RepariereAufWunsch();
-/// True if what has failed may have failed over a damaged page: the database is open and has one.
-bool DatenbankIstBeschaedigt();
 /// First sizes of the frame and of the bar.
 void SetzeFensterGroesse();
 

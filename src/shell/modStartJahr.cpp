@@ -95,7 +95,10 @@ bool KontrolliereSystemJahr() {
     withErrorTail(u"modStart"_qs, u"KontrolliereSystemJahr"_qs, [&](ErrorTail& step) {
         Recordset system;
         qint16 fangjahr = 0;
-        step([&] { system = oeffneTabelle(u"System"_qs); });
+        step([&] {
+            system = oeffneTabelle(u"System"_qs);
+            if (system.RecordCount() == 0) session().Beschaedigt = true;
+        });
         step([&] { fangjahr = CInt(system.Collect(u"FJahr"_qs)); });
         // Closed before the question: who thinks about it must not keep others from saving.
         step([&] { system.Close(); });

@@ -82,6 +82,11 @@ void raiseCounters(Connection& file, const QHash<QString, qint64>& known) {
     }
 }
 
+void restoreParameters(const QString& path, const QString& password) {
+    Connection file(path, password, Connection::Access::ReadWrite);
+    restoreSystem(file);
+}
+
 void restoreEssentials(Connection& file) {
     restoreSystem(file);
     seedCategories(file);

@@ -10,6 +10,9 @@
 /// by the tables' names, nor one that rows still refer to.
 void raiseCounters(Connection& file, const QHash<QString, qint64>& known);
 
+/// Puts the record of the parameters back into a file that is whole but lacks it.
+void restoreParameters(const QString& path, const QString& password);
+
 /// The parameters, the two system categories, somebody who can log in, and the member's row of each contact
 /// that is a member. Nothing that is there is changed. What refers to rows that are gone stays.
 void restoreEssentials(Connection& file);
