@@ -78,7 +78,8 @@ void Connection::openFile(const QString& path, const QString& password, Access a
     m_transaction.emplace(m_database.get());
     setKey(m_database.get(), password);
     execute("PRAGMA foreign_keys = OFF");
-    execute("PRAGMA synchronous = FULL");
+    // A commit is the removal of the journal, and only EXTRA makes that last: it flushes the folder.
+    execute("PRAGMA synchronous = EXTRA");
     execute("PRAGMA cache_size = -32768");
     // What was deleted stays nowhere in the file, where a repair might find it again.
     execute("PRAGMA secure_delete = ON");

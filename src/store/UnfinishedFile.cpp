@@ -3,8 +3,6 @@
 UnfinishedFile::UnfinishedFile(const QString& path, const QString& password)
     : m_path(path)
     , m_connection(path, password, Connection::Access::Create) {
-    // Makes the entry in the folder last as well.
-    m_connection.execute("PRAGMA synchronous = EXTRA");
     m_connection.execute("BEGIN IMMEDIATE");
 }
 
