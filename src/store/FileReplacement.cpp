@@ -1,5 +1,6 @@
 #include "FileReplacement.h"
 
+#include "FileShape.h"
 #include "InterruptedFile.h"
 #include "RuntimeError.h"
 
@@ -31,12 +32,13 @@ void settle(const QString& path) {
 
 void settleFolderOf(const QString& path) { settle(QFileInfo(path).absolutePath()); }
 
-/// What a killed process has left may hold what stands nowhere else: it goes out of the way, not away.
-void putAside(const QString& journal) {
-    if (!QFile::exists(journal)) return;
-    const QString aside = journal + QStringLiteral(".alt");
+QString nameAside(const QString& journal) { return journal + QStringLiteral(".alt"); }
+
+/// The journal of a killed process may hold data that is nowhere else: it is renamed, not deleted.
+bool putAside(const QString& journal) {
+    const QString aside = nameAside(journal);
     const bool free = !QFile::exists(aside) || QFile::remove(aside);
-    if (!free || !QFile::rename(journal, aside)) throw runtimeError(accessDenied);
+    return free && QFile::rename(journal, aside);
 }
 
 /// One step, which only leads to a place on the same disk: from another one a copy beside the old file takes
@@ -57,10 +59,22 @@ std::error_code move(const QString& from, const QString& to) {
 
 } // namespace
 
-void replaceDatabase(const QString& newFile, const QString& oldFile) {
-    for (const QString& journal : journalsOf(oldFile)) putAside(journal);
+void replaceDatabase(const QString& newFile, const QString& oldPath) {
+    const QString oldFile = behindLinks(oldPath);
+    QStringList aside;
+    bool done = true;
+    for (const QString& journal : journalsOf(oldFile)) {
+        if (!QFile::exists(journal)) continue;
+        done = done && putAside(journal);
+        if (done) aside += journal;
+    }
     settleFolderOf(oldFile);
-    if (move(newFile, oldFile)) throw runtimeError(accessDenied);
+    done = done && !move(newFile, oldFile);
+    if (!done) {
+        for (const QString& journal : aside) QFile::rename(nameAside(journal), journal);
+        QFile::remove(newFile);
+        throw runtimeError(accessDenied);
+    }
     settleFolderOf(oldFile);
     settleFolderOf(newFile);
 }

@@ -4,6 +4,11 @@
 
 #include <QFileInfo>
 
+QString behindLinks(const QString& path) {
+    const QString file = QFileInfo(path).canonicalFilePath();
+    return file.isEmpty() ? path : file;
+}
+
 void requireReadableFile(const QString& path) {
     const QFileInfo file(path);
     if (!file.exists()) throw runtimeError(3024, path);

@@ -5,6 +5,9 @@
 /// The library's encrypted files consist of pages of this size.
 constexpr qint64 pageBytes = 1024;
 
+/// The file itself where the path is a link, else the path: SQLite keeps journals beside the file itself.
+QString behindLinks(const QString& path);
+
 // What can be told of a file before its password is tried: a wrong password and damage look the same from
 // within, but damage often shows from outside.
 

@@ -1,6 +1,7 @@
 #include "InterruptedFile.h"
 
 #include "DatabaseHandle.h"
+#include "FileShape.h"
 #include "RawContent.h"
 #include "RuntimeError.h"
 #include "Sqlite.h"
@@ -45,8 +46,9 @@ bool fitsOnceTakenBack(const QString& path, const QByteArray& content, const QSt
     const QTemporaryDir folder;
     const QString copy = folder.filePath(QStringLiteral("copy"));
     copyInto(copy, content);
+    const QString file = behindLinks(path);
     for (const QLatin1String ending : {rollbackEnding, logEnding})
-        if (QFile::exists(path + ending) && !QFile::copy(path + ending, copy + ending))
+        if (QFile::exists(file + ending) && !QFile::copy(file + ending, copy + ending))
             throw runtimeError(3026);
     const DatabaseHandle handle = openHandle(copy.toUtf8(), SQLITE_OPEN_READWRITE);
     return fitsFirstPage(handle.get(), password) && QFileInfo(copy).size() > 0;
@@ -55,11 +57,13 @@ bool fitsOnceTakenBack(const QString& path, const QByteArray& content, const QSt
 } // namespace
 
 QStringList journalsOf(const QString& path) {
-    return {path + rollbackEnding, path + logEnding, path + logIndexEnding};
+    const QString file = behindLinks(path);
+    return {file + rollbackEnding, file + logEnding, file + logIndexEnding};
 }
 
 bool isInterrupted(const QString& path) {
-    return QFileInfo(path + rollbackEnding).size() > 0 || QFile::exists(path + logEnding);
+    const QString file = behindLinks(path);
+    return QFileInfo(file + rollbackEnding).size() > 0 || QFile::exists(file + logEnding);
 }
 
 void requireKeyOfInterrupted(const QString& path, const QString& password) {
