@@ -3,6 +3,7 @@
 #include "Cursor.h"
 #include "FileShape.h"
 #include "InterruptedFile.h"
+#include "RawContent.h"
 #include "Salvage.h"
 #include "SelectRewriter.h"
 #include "SqlFunctions.h"
@@ -22,6 +23,9 @@ int openFlags(Connection::Access access) {
         return SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE;
     }
 }
+
+/// In an open file, whose password was right, a page that does not fit the key is damaged.
+bool isDamage(const RuntimeError& error) { return error.number == 3343 || error.number == 3031; }
 
 /// The same failures have other numbers when they keep a file from being opened.
 RuntimeError openError(const RuntimeError& error, const QString& path) {
@@ -151,6 +155,23 @@ StatementCache::Loan Connection::select(QStringView source) {
     int position = 1;
     for (const Value& literal : m_lexed.literals) loan->bind(position++, literal);
     return loan;
+}
+
+bool Connection::passesCheck() {
+    try {
+        Statement check = prepare("PRAGMA quick_check(1)");
+        return check.step() && check.text(0) == u"ok";
+    } catch (const RuntimeError& error) {
+        if (!isDamage(error)) throw;
+        return false;
+    }
+}
+
+/// The check reports a page that the disk does not give like a damaged one.
+bool Connection::isSound() {
+    if (passesCheck()) return true;
+    RawContent(handle()).forEachChunk([](const QByteArray&) { return true; });
+    return passesCheck();
 }
 
 int Connection::changes() const { return sqlite3_changes(m_database.get()); }

@@ -45,6 +45,9 @@ public:
     sqlite3* handle() const { return m_database.get(); }
     /// How many rows the last write touched.
     int changes() const;
+    /// Reads the whole file. False if a page is damaged. Errors as for a failed read: 3043 if the disk does
+    /// not give a page, 3260 if another process keeps this one from reading.
+    bool isSound();
 
     void add(Cursor* cursor) { m_cursors.push_back(cursor); }
     void remove(Cursor* cursor);
@@ -57,6 +60,7 @@ private:
     void requireTables(const QString& path);
     void leaveWriteAheadMode(const QString& path);
     void cascadeDeletions();
+    bool passesCheck();
 
     DatabaseHandle m_database;
     std::optional<StatementCache> m_cache;

@@ -11,10 +11,9 @@ bool Database::isOpen() const { return m_connection != nullptr && m_connection->
 
 bool Database::isSound() const {
     try {
-        Statement check = m_connection->prepare("PRAGMA quick_check(1)");
-        return check.step() && check.text(0) == u"ok";
+        return m_connection->isSound();
     } catch (const RuntimeError&) {
-        return false;
+        return true;
     }
 }
 

@@ -19,7 +19,8 @@ public:
     /// Ends the database and every cursor on it. What finished routines wrote is in the file.
     void Close();
     bool isOpen() const;
-    /// Reads the whole file. False if a page of it is damaged; then CompactDatabase saves what is left.
+    /// Reads the whole file. False only if a page is damaged, in which case CompactDatabase can save what is
+    /// left. True for a file that can't be read for now: another process uses it, or the disk fails.
     bool isSound() const;
 
 private:

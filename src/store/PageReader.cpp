@@ -1,11 +1,11 @@
 #include "PageReader.h"
 
 #include "FileShape.h"
+#include "RawContent.h"
 #include "RuntimeError.h"
 #include "Sqlite.h"
 
 #include <QFile>
-#include <QFileInfo>
 #include <algorithm>
 #include <limits>
 
@@ -52,12 +52,13 @@ std::optional<bool> tryStep(Statement& statement) {
 
 } // namespace
 
-PageReader::PageReader(const QString& path, const QString& password, int mostPages)
+PageReader::PageReader(const RawContent& original, const QString& password, int mostPages)
     : m_copy(m_folder.filePath(QStringLiteral("pages"))) {
     if (!m_folder.isValid()) throw runtimeError(75, m_folder.path());
-    const qint64 pages = QFileInfo(path).size() / pageBytes;
-    m_pageCount = static_cast<int>(std::min<qint64>(pages, mostPages));
-    makeCopy(path, password);
+    m_pageCount = static_cast<int>(std::min<qint64>(original.size() / pageBytes, mostPages));
+    if (m_pageCount == 0) throw runtimeError(3056);
+    growCopy(original.read(0, saltBytes), password);
+    fillCopy(original);
     execute(m_pointing.get(), "PRAGMA writable_schema = ON");
     m_reading = openWithKey(m_copy, password);
     m_begin = Statement(m_pointing.get(), "BEGIN");
@@ -65,15 +66,6 @@ PageReader::PageReader(const QString& path, const QString& password, int mostPag
     m_commit = Statement(m_pointing.get(), "COMMIT");
     m_rows = Statement(m_reading.get(), "SELECT rowid, * FROM page WHERE rowid > ?1 ORDER BY rowid");
     m_next = Statement(m_reading.get(), "SELECT rowid FROM page WHERE rowid > ?1 ORDER BY rowid LIMIT 1");
-}
-
-void PageReader::makeCopy(const QString& path, const QString& password) {
-    QFile original(path);
-    if (!original.open(QIODevice::ReadOnly)) throw runtimeError(3051, path);
-    const QByteArray salt = original.read(saltBytes);
-    if (m_pageCount == 0 || salt.size() != saltBytes) throw runtimeError(3056, path);
-    growCopy(salt, password);
-    fillCopy(original);
 }
 
 void PageReader::growCopy(const QByteArray& salt, const QString& password) {
@@ -93,15 +85,15 @@ void PageReader::growCopy(const QByteArray& salt, const QString& password) {
     grow.run();
 }
 
-void PageReader::fillCopy(QFile& original) const {
+void PageReader::fillCopy(const RawContent& original) const {
     QFile copy(m_copy);
     if (!copy.open(QIODevice::ReadWrite)) throw runtimeError(3026);
     const qint64 end = copy.size();
     for (qint64 at = pageBytes; at < end; at += pageBytes) {
-        // A page that the disk does not give is a damaged page like any other, and so is each that the copy
-        // has beyond the original: whole ones full of zeros would be taken for the rest of a row.
-        const bool isThere = at < m_pageCount * pageBytes && original.seek(at);
-        const QByteArray page = isThere ? original.read(pageBytes) : QByteArray();
+        // Pages that the copy has beyond the original count as damaged: whole ones full of zeros would be
+        // taken for the rest of a row.
+        const bool isThere = at < m_pageCount * pageBytes;
+        const QByteArray page = isThere ? original.read(at, pageBytes) : QByteArray();
         if (!copy.seek(at)) throw runtimeError(3026);
         writeAll(copy, page.leftJustified(pageBytes, 'x'));
     }

@@ -6,7 +6,7 @@
 #include <QTemporaryDir>
 #include <functional>
 
-class QFile;
+class RawContent;
 
 /// Reads the rows of a damaged file page by page. It works on a copy in which the first page, which holds the
 /// way to all the others, is one of its own with the same salt: so neither damage there nor in the tables'
@@ -16,9 +16,10 @@ public:
     /// How many of the first bytes must be whole: they are the salt that makes the key.
     static constexpr qint64 saltBytes = 16;
 
-    /// Copies at most so many pages. Error 3056 if there is not even the salt, 3026 if there is no room for
-    /// the copy, 75 if there can be no folder for it. A part of a page at the end is left out.
-    PageReader(const QString& path, const QString& password, int mostPages);
+    /// Copies at most so many pages. Error 3056 if there is not even the salt, 3043 if the disk does not give
+    /// a page, 3026 if there is no room for the copy, 75 if there can be no folder for it. A part of a page
+    /// at the end is left out.
+    PageReader(const RawContent& original, const QString& password, int mostPages);
 
     int pageCount() const { return m_pageCount; }
 
@@ -28,9 +29,8 @@ public:
     bool rowsOf(int page, const std::function<bool(const Statement&)>& take);
 
 private:
-    void makeCopy(const QString& path, const QString& password);
     void growCopy(const QByteArray& salt, const QString& password);
-    void fillCopy(QFile& original) const;
+    void fillCopy(const RawContent& original) const;
     void turnTo(int page);
     bool passOver(qint64& row);
 

@@ -3,6 +3,7 @@
 #include "Essentials.h"
 #include "PageReader.h"
 #include "PageSweep.h"
+#include "RawContent.h"
 #include "UnfinishedFile.h"
 
 #include <QFile>
@@ -12,6 +13,7 @@ namespace {
 
 /// Enough to meet pages of any kind.
 constexpr int samplePages = 64;
+constexpr int diskError = 3043;
 
 void createTables(Connection& target) {
     for (const QByteArray& statement : schemaStatements()) target.execute(statement);
@@ -20,7 +22,7 @@ void createTables(Connection& target) {
 } // namespace
 
 void salvageFile(const QString& source, const QString& target, const QString& password) {
-    PageReader pages(source, password, std::numeric_limits<int>::max());
+    PageReader pages(RawContent(source), password, std::numeric_limits<int>::max());
     UnfinishedFile file(target, password);
     if (!QFile::setPermissions(target, QFile::permissions(source))) throw runtimeError(70);
     createTables(file.connection());
@@ -33,10 +35,11 @@ void salvageFile(const QString& source, const QString& target, const QString& pa
 
 bool fitsOtherPages(const QString& path, const QString& password) {
     try {
-        PageReader pages(path, password, samplePages);
+        PageReader pages(RawContent(path), password, samplePages);
         for (int page = 2; page <= pages.pageCount(); ++page)
             if (pages.rowsOf(page, [](const Statement&) { return false; })) return true;
-    } catch (const RuntimeError&) {
+    } catch (const RuntimeError& error) {
+        if (error.number == diskError) throw;
         // Without room for the copy it can't be told.
     }
     return false;

@@ -25,9 +25,8 @@ RuntimeError constraintError(int extendedCode) {
 
 RuntimeError ioError(int extendedCode) {
     if (extendedCode == SQLITE_IOERR_NOMEM) return runtimeError(7);
-    // A file that ends inside a page was cut short, and what the disk does not give is as good as lost.
-    if (extendedCode == SQLITE_IOERR_SHORT_READ || extendedCode == SQLITE_IOERR_READ)
-        return runtimeError(3343);
+    // A file that ends inside a page was cut short. A page that the disk does not give may be read tomorrow.
+    if (extendedCode == SQLITE_IOERR_SHORT_READ) return runtimeError(3343);
     return {3043, QStringLiteral("Datenträger- oder Netzwerkfehler.")};
 }
 
