@@ -20,9 +20,9 @@ void exportTo(const QString& path, const QString& target) {
     file.execute("SELECT sqlcipher_export('floor')");
 }
 
-void compactTo(const QString& path, const QString& target) {
+void compactTo(const QString& path, const QString& target, const QString& keptIn = {}) {
     QFile::remove(target);
-    DBEngine::CompactDatabase(path, target, connectText());
+    DBEngine::CompactDatabase(path, target, connectText(), keptIn);
 }
 
 void benchCompaction(const QString& folder) {
@@ -65,7 +65,8 @@ double salvage(const QString& folder, int times) {
     const QString damaged = folder + u"/damaged.mdb"_qs;
     QFile::copy(folder + u"/uw01.mdb"_qs, damaged);
     damage(damaged);
-    const double seconds = medianSeconds(times, [&] { compactTo(damaged, folder + u"/saved.mdb"_qs); });
+    const double seconds =
+        medianSeconds(times, [&] { compactTo(damaged, folder + u"/saved.mdb"_qs, folder); });
     QFile::remove(damaged);
     return seconds;
 }

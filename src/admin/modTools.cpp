@@ -7,6 +7,7 @@
 #include "Program.h"
 #include "RuntimeError.h"
 #include "Session.h"
+#include "modSicherung.h"
 #include "modStart.h"
 
 #include <QApplication>
@@ -44,13 +45,13 @@ void restoreParametersOf(const QString& work) {
     }
 }
 
-void rewriteFile(bool isRepair) {
+void rewriteFile(const QString& keptIn) {
     const Hourglass hourglass;
     const QString file = programFolder() + u"/uw01.mdb"_qs;
     const QString work = programFolder() + u"/temp/uwtmp.mdb"_qs;
     modStart::SchliesseDatenbank();
-    DBEngine::CompactDatabase(file, work, connectText());
-    if (isRepair) restoreParametersOf(work);
+    const FileHold alone = DBEngine::CompactDatabase(file, work, connectText(), keptIn);
+    if (!keptIn.isEmpty()) restoreParametersOf(work);
     replaceDatabase(work, file);
 }
 
@@ -65,9 +66,10 @@ void tellFailure(const RuntimeError& error, const Words& words) {
     modStart::OeffneDatenbank();
 }
 
-void rewriteDatabase(const Words& words, bool isRepair) {
+/// Only with a folder in which to keep it is a damaged file salvaged.
+void rewriteDatabase(const Words& words, const QString& keptIn = {}) {
     try {
-        rewriteFile(isRepair);
+        rewriteFile(keptIn);
         MsgBox(words.success, vbInformation);
         modStart::OeffneDatenbank();
     } catch (const RuntimeError& error) {
@@ -84,8 +86,7 @@ void KomprimiereDatenbank() {
     rewriteDatabase(
         {u"Komprimierung der Datenbank erfolgreich durchgeführt !"_qs,
          u"ACHTUNG: Ein Fehler trat beim Komprimieren der Datenbank auf, die Komprimierung war nicht erfolgreich !"_qs,
-         u"ACHTUNG: Datenbank konnte nicht erfolgreich komprimiert werden ! Uferwart beendet sich jetzt !"_qs},
-        false);
+         u"ACHTUNG: Datenbank konnte nicht erfolgreich komprimiert werden ! Uferwart beendet sich jetzt !"_qs});
 }
 
 void RepariereDatenbank() {
@@ -93,7 +94,7 @@ void RepariereDatenbank() {
         {u"Datenbank wurde erfolgreich repariert !"_qs,
          u"ACHTUNG: Ein Fehler trat beim Reparieren der Datenbank auf, die Reparatur war nicht erfolgreich !"_qs,
          u"ACHTUNG: Datenbank konnte nicht erfolgreich repariert werden ! Uferwart beendet sich jetzt !"_qs},
-        true);
+        modSicherung::Ordner());
 }
 
 } // namespace modTools

@@ -11,13 +11,14 @@ namespace modSicherung {
 namespace {
 
 QString datei() { return programFolder() + u"/uw01.mdb"_qs; }
-QString ordner() { return programFolder() + u"/Sicherung"_qs; }
 
 } // namespace
 
+QString Ordner() { return programFolder() + u"/Sicherung"_qs; }
+
 bool SichereDatenbank() {
     try {
-        keepSafetyCopy(datei(), modTools::passwort(), ordner(), now());
+        keepSafetyCopy(datei(), modTools::passwort(), Ordner(), now());
         return true;
     } catch (const RuntimeError& error) {
         qWarning("%s", qUtf8Printable(error.description));
@@ -32,9 +33,9 @@ QString Fehlschlag() {
 }
 
 bool DatenbankIstHeil() {
-    if (!isCopyUnfinished(datei(), ordner())) return true;
+    if (!isCopyUnfinished(datei(), Ordner())) return true;
     if (!session().AktDatenbank.isSound()) return false;
-    forgetUnfinishedCopy(datei(), ordner());
+    forgetUnfinishedCopy(datei(), Ordner());
     return true;
 }
 

@@ -5,8 +5,10 @@
 /// Copies of the database file, beside it, for the day on which it is lost.
 namespace modSicherung {
 
-/// Copies the file into the program folder's "Sicherung" if it has changed since the last copy. False if the
-/// copy could not be made; the caller tells it.
+/// The folder of the copies: "Sicherung" in the program folder.
+QString Ordner();
+/// Copies the file into that folder, which is made if missing, if the file has changed since the last copy.
+/// Asks nothing and shows nothing. True if the copy was made or not needed, false if it could not be made.
 bool SichereDatenbank();
 /// The words for that.
 QString Fehlschlag();

@@ -139,26 +139,30 @@ void Compaction::verify() {
     if (!whole) throw runtimeError(copyFailed);
 }
 
-/// In one transaction that is alone with the file: what a second program were writing to it meanwhile would
-/// be lost with the old file.
+/// The lock on the original outlasts the transaction, until the connection ends: what another process wrote
+/// before the copy is in the original's place would be lost with the original.
 void Compaction::run() {
+    m_connection.execute("PRAGMA main.locking_mode = EXCLUSIVE");
     m_connection.execute("BEGIN EXCLUSIVE");
     m_tables = schemaObjects("type = 'table'");
     copyAll();
     m_connection.execute("COMMIT");
     verify();
-    m_connection.close();
+    m_connection.execute("DETACH copy");
     m_target.keep();
 }
 
 } // namespace
 
-void compactFile(const QString& source, const QString& target, const QString& password) {
+FileHold compactFile(const QString& source, const QString& target, const QString& password,
+                     const QString& keptIn) {
     constexpr int damaged = 3343;
     try {
-        Compaction(source, target, password).run();
+        const auto compaction = std::make_shared<Compaction>(source, target, password);
+        compaction->run();
+        return compaction;
     } catch (const RuntimeError& error) {
-        if (error.number != damaged) throw;
-        salvageFile(source, target, password);
+        if (error.number != damaged || keptIn.isEmpty()) throw;
     }
+    return salvageFile(source, target, password, keptIn);
 }

@@ -32,7 +32,8 @@ Workspace DBEngine::Workspaces(int index) {
     return {};
 }
 
-void DBEngine::CompactDatabase(const QString& source, const QString& target, const QString& password) {
+FileHold DBEngine::CompactDatabase(const QString& source, const QString& target, const QString& password,
+                                   const QString& keptIn) {
     const bool isConnect = password.startsWith(u';');
-    compactFile(source, target, isConnect ? passwordOf(password) : password);
+    return compactFile(source, target, isConnect ? passwordOf(password) : password, keptIn);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Database.h"
+#include "FileHold.h"
 
 /// The workspace: the place from which databases are opened. A value with shared state.
 class Workspace {
@@ -32,8 +33,11 @@ class DBEngine {
 public:
     /// There is one workspace, number 0.
     static Workspace Workspaces(int index);
-    /// Writes a compact, verified copy of a closed file, whole on disk before this returns; of a damaged one
-    /// with all rows that lie on whole pages. The target must not exist (3204) and its folder must (3044).
-    /// 3056 when no row of the source can be read.
-    static void CompactDatabase(const QString& source, const QString& target, const QString& password);
+    /// Writes a compact, verified copy of a closed file, whole on disk before this returns. Hold the result
+    /// until the copy is in the source's place, or what another process writes meanwhile is lost. The target
+    /// must not exist (3204) and its folder must (3044). A damaged source (3343) is salvaged only if there is
+    /// a folder in which to keep it (`keptIn`, made if missing): the copy then has all rows on whole pages;
+    /// 3056 if there are none. 3043 if the disk does not give a page.
+    static FileHold CompactDatabase(const QString& source, const QString& target, const QString& password,
+                                    const QString& keptIn = {});
 };

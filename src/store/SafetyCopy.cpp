@@ -7,14 +7,12 @@
 
 #include <QDir>
 #include <QFile>
-#include <QSaveFile>
 #include <algorithm>
 
 namespace {
 
-constexpr qsizetype chunk = 1 << 20;
 constexpr qsizetype copiesKept = 10;
-constexpr int diskFull = 3026;
+constexpr int accessDenied = 75;
 
 constexpr QStringView timeFormat = u"yyyy-MM-dd HH.mm.ss";
 
@@ -25,12 +23,12 @@ public:
         : m_folder(folder)
         , m_stem(QFileInfo(file).completeBaseName() + u' ')
         , m_ending(u'.' + QFileInfo(file).suffix())
-        , m_time(m_stem + time.toString(timeFormat)) {}
+        , m_time(time.toString(timeFormat)) {}
 
     /// The copies that are there, by their names without the ending, oldest first.
     QStringList present() const {
         QStringList names;
-        for (const QString& entry : m_folder.entryList({m_stem + u'*' + m_ending}, QDir::Files))
+        for (const QString& entry : entries(m_stem + u'*' + m_ending))
             if (const QString name = entry.chopped(m_ending.size()); isOurs(name)) names.append(name);
         const auto age = [this](const QString& name) { return std::pair(name <= newest(), name); };
         std::sort(names.begin(), names.end(),
@@ -38,24 +36,42 @@ public:
         return names;
     }
 
-    /// A name for the copy of now; two of one second are told apart.
-    QString free() const {
-        QString name = m_time;
-        for (int number = 2; QFile::exists(path(name)); ++number)
-            name = QStringLiteral("%1 (%2)").arg(m_time).arg(number);
-        return name;
+    /// A name for the copy of now; two of one second are told apart. What `label` says stands before the
+    /// time.
+    QString free(const QString& label = {}) const {
+        int number = 1;
+        const auto name = [&] { return m_stem + label + m_time + numbering(number); };
+        while (QFile::exists(path(name()))) ++number;
+        return name();
     }
 
     QString path(const QString& name) const { return m_folder.filePath(name + m_ending); }
 
+    /// What a process that was killed within QSaveFile has left of a copy.
+    void sweep(const QString& unfinished) const {
+        for (const QString& entry : entries(QFileInfo(unfinished).fileName() + QStringLiteral(".??????")))
+            QFile::remove(m_folder.filePath(entry));
+    }
+
 private:
+    static QString numbering(int number) {
+        return number < 2 ? QString() : QStringLiteral(" (%1)").arg(number);
+    }
+
+    /// Exactly a name of free(): a user who wants to keep a copy writes a word behind it.
     bool isOurs(const QString& name) const {
-        const QStringView time = QStringView(name).mid(m_stem.size(), timeFormat.size());
-        return QDateTime::fromString(time.toString(), timeFormat.toString()).isValid();
+        const QString time = name.mid(m_stem.size(), timeFormat.size());
+        const QString rest = name.mid(m_stem.size() + timeFormat.size());
+        const bool isNumber = rest == numbering(rest.mid(2, rest.size() - 3).toInt());
+        return isNumber && QDateTime::fromString(time, timeFormat.toString()).isValid();
+    }
+
+    QStringList entries(const QString& pattern) const {
+        return m_folder.entryList({pattern}, QDir::Files | QDir::CaseSensitive);
     }
 
     /// The last name that the present second can have.
-    QString newest() const { return m_time + u'~'; }
+    QString newest() const { return m_stem + m_time + u'~'; }
 
     QDir m_folder;
     QString m_stem;
@@ -67,40 +83,25 @@ QString unfinishedPath(const QString& file, const QString& folder) {
     return QDir(folder).filePath(QFileInfo(file).completeBaseName() + QStringLiteral(".neu"));
 }
 
-/// Calls `take` for one piece after the other, as long as it returns true.
-template<typename Take>
-bool forEachChunk(const RawContent& content, Take&& take) {
-    for (qint64 offset = 0; offset < content.size(); offset += chunk)
-        if (!take(content.read(offset, std::min<qint64>(chunk, content.size() - offset)))) return false;
-    return true;
+/// Makes the folder if it is missing, and takes away what killed processes left there. Gives the path at
+/// which a copy grows.
+QString prepareFolder(const QString& file, const QString& folder, const CopyNames& names) {
+    if (!QDir(folder).exists() && !QDir().mkdir(folder)) throw runtimeError(accessDenied, folder);
+    const QString unfinished = unfinishedPath(file, folder);
+    names.sweep(unfinished);
+    return unfinished;
 }
 
 bool equals(const RawContent& content, const QString& path) {
     QFile copy(path);
     if (copy.size() != content.size() || !copy.open(QIODevice::ReadOnly)) return false;
-    return forEachChunk(content, [&](const QByteArray& bytes) { return copy.read(bytes.size()) == bytes; });
-}
-
-void writeOut(const RawContent& content, const QString& path) {
-    QSaveFile copy(path);
-    const bool whole = copy.open(QIODevice::WriteOnly) && forEachChunk(content, [&](const QByteArray& bytes) {
-                           return copy.write(bytes) == bytes.size();
-                       });
-    if (!whole || !copy.commit()) throw runtimeError(diskFull);
+    return content.forEachChunk([&](const QByteArray& bytes) { return copy.read(bytes.size()) == bytes; });
 }
 
 /// Reads every page of a copy, each of which carries a check sum of its own.
 void requireSound(const QString& path, const QString& password) {
     Connection copy(path, password, Connection::Access::ReadOnly);
-    Statement check = copy.prepare("PRAGMA quick_check");
-    if (!check.step() || check.text(0) != u"ok") throw runtimeError(3343, path);
-}
-
-void makeCopy(const RawContent& content, const QString& password, const CopyNames& names,
-              const QString& unfinished) {
-    writeOut(content, unfinished);
-    requireSound(unfinished, password);
-    replaceDatabase(unfinished, names.path(names.free()));
+    if (!copy.isSound()) throw runtimeError(3343, path);
 }
 
 void removeOldest(const CopyNames& names) {
@@ -113,8 +114,8 @@ void removeOldest(const CopyNames& names) {
 
 void keepSafetyCopy(const QString& file, const QString& password, const QString& folder,
                     const QDateTime& time) {
-    if (!QDir(folder).exists() && !QDir().mkdir(folder)) throw runtimeError(75, folder);
     const CopyNames names(file, folder, time);
+    const QString unfinished = prepareFolder(file, folder, names);
     Connection original(file, password, Connection::Access::ReadOnly);
     // Keeps others from writing until the copy is made.
     original.execute("BEGIN");
@@ -123,8 +124,18 @@ void keepSafetyCopy(const QString& file, const QString& password, const QString&
     if (const QStringList present = names.present();
         !present.isEmpty() && equals(content, names.path(present.last())))
         return;
-    makeCopy(content, password, names, unfinishedPath(file, folder));
+    content.copyTo(unfinished, QFile::permissions(file));
+    requireSound(unfinished, password);
+    replaceDatabase(unfinished, names.path(names.free()));
     removeOldest(names);
+}
+
+void keepDamagedFile(const RawContent& content, const QString& file, const QString& folder,
+                     const QDateTime& time) {
+    const CopyNames names(file, folder, time);
+    const QString unfinished = prepareFolder(file, folder, names);
+    content.copyTo(unfinished, QFile::permissions(file));
+    replaceDatabase(unfinished, names.path(names.free(QStringLiteral("vor Reparatur "))));
 }
 
 bool isCopyUnfinished(const QString& file, const QString& folder) {

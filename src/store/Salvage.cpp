@@ -1,9 +1,11 @@
 #include "Salvage.h"
 
+#include "Clock.h"
 #include "Essentials.h"
 #include "PageReader.h"
 #include "PageSweep.h"
 #include "RawContent.h"
+#include "SafetyCopy.h"
 #include "UnfinishedFile.h"
 
 #include <QFile>
@@ -21,8 +23,11 @@ void createTables(Connection& target) {
 
 } // namespace
 
-void salvageFile(const QString& source, const QString& target, const QString& password) {
-    PageReader pages(RawContent(source), password, std::numeric_limits<int>::max());
+FileHold salvageFile(const QString& source, const QString& target, const QString& password,
+                     const QString& keptIn) {
+    const auto content = std::make_shared<RawContent>(source);
+    content->lock();
+    PageReader pages(*content, password, std::numeric_limits<int>::max());
     UnfinishedFile file(target, password);
     if (!QFile::setPermissions(target, QFile::permissions(source))) throw runtimeError(70);
     createTables(file.connection());
@@ -30,7 +35,9 @@ void salvageFile(const QString& source, const QString& target, const QString& pa
     if (!sweep.run()) throw runtimeError(3056, source);
     raiseCounters(file.connection(), sweep.counters());
     restoreEssentials(file.connection());
+    keepDamagedFile(*content, source, keptIn, now());
     file.finish();
+    return content;
 }
 
 bool fitsOtherPages(const QString& path, const QString& password) {

@@ -142,7 +142,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size) {
     const int opened = read(room.path(), sound, rows);
     require(std::ranges::count(promised, opened) == 1, "a file that does not open has a promised error");
     sound = sound && isWhole(room.path());
-    if (errorOf([&] { DBEngine::CompactDatabase(room.path(), room.copy(), key()); }) != 0) {
+    if (errorOf([&] { DBEngine::CompactDatabase(room.path(), room.copy(), key(), room.folder.path()); }) !=
+        0) {
         require(!QFile::exists(room.copy()), "no half-written copy stays");
         return 0;
     }

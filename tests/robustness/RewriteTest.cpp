@@ -55,6 +55,8 @@ protected:
     QString path() const { return m_folder.filePath(u"uw01.mdb"_qs); }
     QString work() const { return m_folder.filePath(u"temp/uwtmp.mdb"_qs); }
 
+    QString kept() const { return m_folder.filePath(u"Sicherung"_qs); }
+
     void damage(qint64 page) const {
         QFile file(path());
         ASSERT_TRUE(file.open(QIODevice::ReadWrite) && file.seek((page - 1) * 1024 + 500));
@@ -63,7 +65,7 @@ protected:
 
     int rewrite(const std::function<void()>& between) const {
         try {
-            DBEngine::CompactDatabase(path(), work(), rawKey());
+            const FileHold alone = DBEngine::CompactDatabase(path(), work(), rawKey(), kept());
             between();
             replaceDatabase(work(), path());
         } catch (const RuntimeError& error) {
@@ -95,6 +97,7 @@ protected:
     }
 
     void restore() const {
+        QDir(kept()).removeRecursively();
         QFile file(path());
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(m_old);

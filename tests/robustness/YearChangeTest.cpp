@@ -41,6 +41,10 @@ protected:
                                  "SELECT i, 2004, 38000 + i, i % 40, 'Ufer' FROM n"})
             file.execute(numbers + rows);
         file.execute("UPDATE System SET PflichtStd = 20");
+        // A safety copy would need the program's own password, and time for its key: this keeps it from being
+        // made.
+        QFile inTheWay(m_folder.filePath(u"Sicherung"_qs));
+        EXPECT_TRUE(inTheWay.open(QIODevice::WriteOnly));
     }
 
     QString path() const { return m_folder.filePath(u"uw01.mdb"_qs); }

@@ -55,7 +55,8 @@ protected:
 
     int repair() const {
         QFile::remove(target());
-        return errorOf([&] { DBEngine::CompactDatabase(path(), target(), m_password); });
+        return errorOf(
+            [&] { DBEngine::CompactDatabase(path(), target(), m_password, file(u"Sicherung"_qs)); });
     }
 
     static std::set<QString> content(Connection& connection) {
