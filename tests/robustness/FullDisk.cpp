@@ -18,6 +18,7 @@ int writesLeft = 0;
 bool commitsFail = false;
 bool isCommitting = false;
 bool isReadOnly = false;
+qint64 brokenPlace = -1;
 
 bool isJournal(int file) {
     std::array<char, PATH_MAX> name{};
@@ -36,6 +37,13 @@ ssize_t writeWhileThereIsRoom(int file, const void* bytes, size_t size, off_t pl
     const bool hasRoom = commitsFail ? !isFirstOfCommit(file) : --writesLeft > 0;
     if (hasRoom) return ::pwrite(file, bytes, size, place);
     errno = ENOSPC;
+    return -1;
+}
+
+ssize_t readWhatIsWhole(int file, void* bytes, size_t size, off_t place) {
+    const bool isWhole = brokenPlace < place || brokenPlace >= place + static_cast<qint64>(size);
+    if (isWhole) return ::pread(file, bytes, size, place);
+    errno = EIO;
     return -1;
 }
 
@@ -67,6 +75,11 @@ void fillDiskAtCommits() {
 }
 
 void emptyDisk() { fillDiskAtWrite(std::numeric_limits<int>::max()); }
+
+void failReadsAt(qint64 place) {
+    brokenPlace = place;
+    for (const char* call : {"pread", "pread64"}) replaceCall(call, &readWhatIsWhole);
+}
 
 void forbidWriting(bool forbidden) {
     isReadOnly = forbidden;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QtGlobal>
+
 // What may be wrong with the disk, as the database library sees it.
 
 /// From here on the disk is full at the `place`th write, counted from 1, and stays so.
@@ -8,5 +10,7 @@ void fillDiskAtWrite(int place);
 void fillDiskAtCommits();
 /// There is room again.
 void emptyDisk();
+/// From here on reads of the byte at this place of any file fail; at -1 none.
+void failReadsAt(qint64 place);
 /// Whether files that are opened from here on may not be written to. The tests' user may write everywhere.
 void forbidWriting(bool forbidden);

@@ -1,5 +1,6 @@
 #include "Connection.h"
 #include "DBEngine.h"
+#include "ErrorOf.h"
 #include "FileReplacement.h"
 #include "FullDisk.h"
 #include "KilledRuns.h"
@@ -161,6 +162,35 @@ TEST_F(RewriteTest, AFullDiskLeavesTheOldFile) {
     damage(10);
     learn();
     fillDiskEverywhere();
+}
+
+TEST_F(RewriteTest, AReadErrorLeavesTheFileAsItIs) {
+    Database open = DBEngine::Workspaces(0).OpenDatabase(path(), false, false, u";pwd="_qs + rawKey());
+    failReadsAt(20 * 1024);
+    EXPECT_TRUE(open.isSound()) << "what can't be read is not damaged";
+    open.Close();
+    for (const bool isDamaged : {false, true}) {
+        if (isDamaged) damage(10);
+        m_old = bytesOf(path());
+        EXPECT_EQ(rewrite([] {}), 3043);
+        EXPECT_TRUE(bytesOf(path()) == m_old && !QFile::exists(work()));
+    }
+    failReadsAt(-1);
+}
+
+TEST_F(RewriteTest, NobodyWritesBetweenTheCopyAndTheExchange) {
+    const auto write = [&] {
+        return errorOf([&] {
+                   Connection(path(), rawKey(), Connection::Access::ReadWrite)
+                       .execute("UPDATE System SET FJahr = FJahr + 1");
+               }) == 0;
+    };
+    for (const bool isDamaged : {false, true}) {
+        if (isDamaged) damage(10);
+        ASSERT_EQ(inOwnProcess(write), End::Done);
+        EXPECT_EQ(rewrite([&] { EXPECT_EQ(inOwnProcess(write), End::Failed); }), 0);
+    }
+    EXPECT_EQ(inOwnProcess(write), End::Done);
 }
 
 TEST_F(RewriteTest, WhatAKilledProcessLeftBesideTheOldFileIsNotTakenForTheNewOnes) {

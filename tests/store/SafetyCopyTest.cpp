@@ -6,10 +6,7 @@
 
 class SafetyCopyTest : public StoreTest {
 protected:
-    SafetyCopyTest() {
-        database.Close();
-        QDir().mkdir(folder());
-    }
+    SafetyCopyTest() { database.Close(); }
 
     QString folder() const { return file(u"Sicherung"_qs); }
     QStringList copies() const { return QDir(folder()).entryList({u"*.mdb"_qs}, QDir::Files, QDir::Name); }
@@ -28,13 +25,21 @@ protected:
 };
 
 TEST_F(SafetyCopyTest, TheTenNewestStayWhateverTheClockSaidInBetween) {
+    ASSERT_TRUE(QDir().mkdir(folder()));
+    constexpr QFileDevice::Permissions ownerOnly(QFile::ReadOwner | QFile::WriteOwner);
+    ASSERT_TRUE(QFile::setPermissions(path(), ownerOnly | QFile::ReadUser | QFile::WriteUser));
+    // What a killed process left, and a copy that the user keeps.
+    for (const QString& name : {u"uw01.neu.AbCdEf"_qs, u"uw01 2026-05-01 12.00.00 AUFHEBEN.mdb"_qs})
+        ASSERT_TRUE(QFile(folder() + u'/' + name).open(QIODevice::WriteOnly));
     for (int day = 1; day <= 12; ++day) {
         change();
         keep(day == 6 ? 31 : day);
     }
-    QStringList expected;
+    QStringList expected{u"uw01 2026-05-01 12.00.00 AUFHEBEN.mdb"_qs};
     for (int day : {2, 3, 4, 5, 7, 8, 9, 10, 11, 12}) expected += name(day);
     EXPECT_EQ(copies(), expected);
+    EXPECT_EQ(QDir(folder()).count(), copies().size() + 2u) << "with . and ..";
+    EXPECT_EQ(QFile::permissions(folder() + u'/' + name(12)), QFile::permissions(path()));
     keep(13);
     EXPECT_EQ(copies(), expected) << "nothing has changed";
 }
