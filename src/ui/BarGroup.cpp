@@ -1,6 +1,6 @@
+#include "Heading.h"
 #include "NavigationBar.h"
 
-#include <QLabel>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -14,9 +14,7 @@ BarGroup::BarGroup(const QString& caption, QWidget* parent)
     , m_caption(caption)
     , m_column(new QVBoxLayout(this)) {
     setAccessibleName(caption);
-    auto* heading = new QLabel(caption, this);
-    heading->setObjectName(u"groupHeading"_qs);
-    heading->setTextFormat(Qt::PlainText);
+    auto* heading = new HeadingText(caption, this);
     QFont bold = heading->font();
     bold.setBold(true);
     heading->setFont(bold);

@@ -1,11 +1,7 @@
 #include "HouseStyle.h"
 
-#include "Heading.h"
 #include "HousePaint.h"
-#include "NavigationBar.h"
-#include "StatusBar.h"
 #include "Theme.h"
-#include "Toolbar.h"
 
 #include <QAbstractScrollArea>
 #include <QLabel>
@@ -101,15 +97,6 @@ void drawProgressLabel(const QStyleOptionProgressBar* bar, QPainter* painter) {
     painter->restore();
 }
 
-void drawGround(const QStyleOption* option, QPainter* painter, const QWidget* widget) {
-    if (qobject_cast<const NavigationBar*>(widget))
-        HousePaint::bar(option->rect, Theme::barGround(), Qt::RightEdge, painter);
-    else if (qobject_cast<const Toolbar*>(widget))
-        HousePaint::bar(option->rect, Theme::toolbarGround(), Qt::BottomEdge, painter);
-    else if (qobject_cast<const StatusBar*>(widget))
-        HousePaint::bar(option->rect, Theme::toolbarGround(), Qt::TopEdge, painter);
-}
-
 QString messagePicture(QStyle::StandardPixmap which) {
     switch (which) {
     case QStyle::SP_MessageBoxInformation:
@@ -128,14 +115,6 @@ QString messagePicture(QStyle::StandardPixmap which) {
 HouseStyle::HouseStyle()
     : QProxyStyle(QStyleFactory::create(u"Fusion"_qs)) {}
 
-void HouseStyle::polish(QWidget* widget) {
-    QProxyStyle::polish(widget);
-    if (!qobject_cast<Heading*>(widget) && widget->objectName() != u"groupHeading") return;
-    QPalette inks = widget->palette();
-    inks.setColor(QPalette::WindowText, Theme::headingInk());
-    widget->setPalette(inks);
-}
-
 QIcon HouseStyle::standardIcon(StandardPixmap which, const QStyleOption* option,
                                const QWidget* widget) const {
     const QString picture = messagePicture(which);
@@ -152,8 +131,6 @@ void HouseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
     }
     case PE_FrameLineEdit:
         return;
-    case PE_Widget:
-        return drawGround(option, painter, widget);
     case PE_Frame:
         if (qobject_cast<const QAbstractScrollArea*>(widget)) return HousePaint::fieldBorder(option, painter);
         if (qobject_cast<const QLabel*>(widget)) return HousePaint::sunkenPanel(option, painter);

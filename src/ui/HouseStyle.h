@@ -12,8 +12,6 @@ class HouseStyle : public QProxyStyle {
 public:
     HouseStyle();
 
-    using QProxyStyle::polish;
-    void polish(QWidget* widget) override;
     QIcon standardIcon(StandardPixmap which, const QStyleOption* option = nullptr,
                        const QWidget* widget = nullptr) const override;
 

@@ -1,5 +1,9 @@
 #include "NavigationBar.h"
 
+#include "HousePaint.h"
+#include "Theme.h"
+
+#include <QPainter>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QVBoxLayout>
@@ -18,7 +22,6 @@ NavigationBar::NavigationBar(const QString& name, QWidget* parent)
     , m_column(new QVBoxLayout(m_face)) {
     setObjectName(name);
     setAccessibleName(tr("Navigation"));
-    setAttribute(Qt::WA_StyledBackground);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
     m_face->setObjectName(u"barFace"_qs);
     m_column->setContentsMargins(margin, margin, margin, margin);
@@ -116,3 +119,8 @@ QSize NavigationBar::sizeHint() const {
 }
 
 QSize NavigationBar::minimumSizeHint() const { return {sizeHint().width(), leastHeight}; }
+
+void NavigationBar::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    HousePaint::bar(rect(), Theme::barGround(), Qt::RightEdge, &painter);
+}

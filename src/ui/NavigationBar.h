@@ -92,6 +92,9 @@ public:
 Q_SIGNALS:
     void itemClicked(const QString& key);
 
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
 private:
     QVector<BarItem*> allItems() const;
     BarItem* firstItem() const;

@@ -1,9 +1,12 @@
 #include "StatusBar.h"
 
 #include "Clock.h"
+#include "HousePaint.h"
+#include "Theme.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPainter>
 #include <QTimer>
 
 namespace {
@@ -15,7 +18,6 @@ StatusBar::StatusBar(const QString& name, QWidget* parent)
     , m_timer(new QTimer(this)) {
     setObjectName(name);
     setAccessibleName(tr("Statusleiste"));
-    setAttribute(Qt::WA_StyledBackground);
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(8, 4, 8, 4);
     row->setSpacing(8);
@@ -47,4 +49,9 @@ void StatusBar::showTime() {
         if (panel.style == Style::Date) panel.label->setText(moment.toString(u"dd.MM.yyyy"_qs));
         if (panel.style == Style::Time) panel.label->setText(moment.toString(u"hh:mm"_qs));
     }
+}
+
+void StatusBar::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    HousePaint::bar(rect(), Theme::toolbarGround(), Qt::TopEdge, &painter);
 }

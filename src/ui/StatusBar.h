@@ -22,6 +22,9 @@ public:
     QString panelText(int number) const;
     void setPanelText(int number, const QString& text);
 
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
 private:
     struct Panel {
         Style style;

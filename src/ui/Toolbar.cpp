@@ -1,5 +1,6 @@
 #include "Toolbar.h"
 
+#include "HousePaint.h"
 #include "Theme.h"
 
 #include <QHBoxLayout>
@@ -33,7 +34,6 @@ Toolbar::Toolbar(QWidget* parent)
     : QWidget(parent)
     , m_row(new QHBoxLayout(this)) {
     setObjectName(u"Toolbar1"_qs);
-    setAttribute(Qt::WA_StyledBackground);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     m_row->setContentsMargins(margin, gap, margin, gap);
     m_row->setSpacing(gap);
@@ -84,4 +84,9 @@ QToolButton* Toolbar::key(const QString& key) const {
 
 void Toolbar::setKeyEnabled(const QString& key, bool on) {
     if (QToolButton* button = this->key(key)) button->setEnabled(on);
+}
+
+void Toolbar::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    HousePaint::bar(rect(), Theme::toolbarGround(), Qt::BottomEdge, &painter);
 }

@@ -26,6 +26,9 @@ public:
 Q_SIGNALS:
     void ButtonClick(const QString& key);
 
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
 private:
     bool hasShortcut(const QKeySequence& shortcut) const;
     static void setCaption(QToolButton* key, const QString& caption);
