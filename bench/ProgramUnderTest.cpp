@@ -4,7 +4,7 @@
 #include "Measure.h"
 #include "Screens.h"
 #include "TextBox.h"
-#include "Theme.h"
+#include "ThemeSetup.h"
 
 #include <QDir>
 #include <QFile>

@@ -3,7 +3,7 @@
 #include "LibreOfficeWriter.h"
 #include "Program.h"
 #include "QtMessageBoxes.h"
-#include "Theme.h"
+#include "ThemeSetup.h"
 
 #include <QApplication>
 

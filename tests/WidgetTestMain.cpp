@@ -1,6 +1,6 @@
 // The beginning of every test program that shows widgets.
 
-#include "Theme.h"
+#include "ThemeSetup.h"
 
 #include <QApplication>
 #include <gtest/gtest.h>

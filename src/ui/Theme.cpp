@@ -1,33 +1,15 @@
 #include "Theme.h"
 
-#include "HouseStyle.h"
 #include "ThemeIcon.h"
 
-#include <QApplication>
-#include <QDir>
-#include <QFontDatabase>
 #include <QIcon>
-#include <QLibraryInfo>
-#include <QLocale>
 #include <QPalette>
-#include <QToolTip>
-#include <QTranslator>
-
-// The pictures lie in a static library, which the linker leaves out unless somebody asks for them by name;
-// the asking must not stand in a namespace.
-static void loadPictures() { Q_INIT_RESOURCE(assets); }
 
 namespace {
 
-Theme::Mode modeInForce = Theme::Mode::Light;
+Theme::Mode currentMode = Theme::Mode::Light;
 
-constexpr double bodyPoints = 9.75;
-/// Letters of a name that is looked for in a list belong together so long; Qt's 400 ms are for quick hands.
-constexpr int slowestTypingMilliseconds = 2000;
-
-bool dark() { return modeInForce == Theme::Mode::Dark; }
-
-QColor either(QRgb light, QRgb onDark) { return QColor(dark() ? onDark : light); }
+QColor either(QRgb light, QRgb onDark) { return QColor(currentMode == Theme::Mode::Dark ? onDark : light); }
 
 void setDisabled(QPalette& palette) {
     const QColor pale = either(0xff7d8694, 0xff7f8896);
@@ -39,7 +21,15 @@ void setDisabled(QPalette& palette) {
     palette.setColor(QPalette::Disabled, QPalette::HighlightedText, pale);
 }
 
-QPalette paletteInForce() {
+} // namespace
+
+namespace Theme {
+
+Mode mode() { return currentMode; }
+
+void setMode(Mode mode) { currentMode = mode; }
+
+QPalette palette() {
     QPalette palette;
     const QColor ink = either(0xff1b2230, 0xffe7ebf3);
     const QColor window = either(0xfff3f5f8, 0xff20242c);
@@ -66,55 +56,6 @@ QPalette paletteInForce() {
     setDisabled(palette);
     return palette;
 }
-
-QFont bodyFont() {
-    QFont::insertSubstitutions(u"MS Sans Serif"_qs, {u"Liberation Sans"_qs, u"Arial"_qs});
-    QFont::insertSubstitution(u"Comic Sans MS"_qs, u"Comic Neue"_qs);
-    QFont font(u"MS Sans Serif"_qs);
-    font.setPointSizeF(bodyPoints);
-    font.setStyleHint(QFont::SansSerif);
-    return font;
-}
-
-void loadGermanWords(QApplication& application) {
-    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
-    const QString name = u"qtbase_de"_qs;
-    if (application.findChild<QTranslator*>(name)) return;
-    auto* translator = new QTranslator(&application);
-    translator->setObjectName(name);
-    if (translator->load(name, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QCoreApplication::installTranslator(translator);
-}
-
-} // namespace
-
-namespace Theme {
-
-void loadFonts(const QString& folder) {
-    for (const QFileInfo& file : QDir(folder).entryInfoList({u"*.ttf"_qs, u"*.otf"_qs}, QDir::Files))
-        QFontDatabase::addApplicationFont(file.filePath());
-}
-
-void apply(QApplication& application, Mode mode) {
-    loadPictures();
-    modeInForce = mode;
-    loadGermanWords(application);
-    QApplication::setStyle(new HouseStyle);
-    QApplication::setPalette(paletteInForce());
-    QToolTip::setPalette(paletteInForce());
-    QApplication::setFont(bodyFont());
-    QApplication::setWindowIcon(icon(u"uferwart"_qs));
-    QApplication::setKeyboardInputInterval(slowestTypingMilliseconds);
-}
-
-Mode desktopMode(const QApplication& /*application*/) {
-    const QPalette palette = QApplication::palette();
-    const bool darkWindow =
-        palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
-    return darkWindow ? Mode::Dark : Mode::Light;
-}
-
-Mode mode() { return modeInForce; }
 
 QColor blue() { return {172, 199, 247}; }
 

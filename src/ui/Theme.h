@@ -2,8 +2,8 @@
 
 #include <QColor>
 
-class QApplication;
 class QIcon;
+class QPalette;
 class QString;
 
 /// The program's one look: the blue of the overview's child tables (172, 199, 247) and its darker relatives
@@ -13,15 +13,11 @@ namespace Theme {
 
 enum class Mode { Light, Dark };
 
-/// Makes the fonts in a folder known to the program, whether or not the machine has them; a missing folder is
-/// no error. To be called before the first apply().
-void loadFonts(const QString& folder);
-/// Style, palette and fonts for the whole program; also loads the toolkit's German words and
-/// makes German the locale of dates and numbers. May be called again to change the mode.
-void apply(QApplication& application, Mode mode);
-/// Dark if the desktop asks for it. To be asked before the first apply().
-Mode desktopMode(const QApplication& application);
 Mode mode();
+/// For apply(), which also brings the new colours to style and palette.
+void setMode(Mode mode);
+
+QPalette palette();
 
 QColor blue();     ///< (172, 199, 247)
 QColor darkBlue(); ///< a ground for white text in both modes; bar and headings

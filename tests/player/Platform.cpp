@@ -1,5 +1,7 @@
 #include "Platform.h"
 
+#include "ThemeSetup.h"
+
 #include <QApplication>
 #include <QHashSeed>
 

@@ -1,4 +1,4 @@
-#include "Theme.h"
+#include "ThemeSetup.h"
 
 #include <QApplication>
 #include <QDir>

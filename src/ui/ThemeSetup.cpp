@@ -1,0 +1,72 @@
+#include "ThemeSetup.h"
+
+#include "HouseStyle.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFontDatabase>
+#include <QIcon>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QPalette>
+#include <QToolTip>
+#include <QTranslator>
+
+// The pictures lie in a static library, which the linker leaves out unless somebody asks for them by name;
+// the asking must not stand in a namespace.
+static void loadPictures() { Q_INIT_RESOURCE(assets); }
+
+namespace {
+
+constexpr double bodyPoints = 9.75;
+/// Letters of a name that is looked for in a list belong together so long; Qt's 400 ms are for quick hands.
+constexpr int slowestTypingMilliseconds = 2000;
+
+QFont bodyFont() {
+    QFont::insertSubstitutions(u"MS Sans Serif"_qs, {u"Liberation Sans"_qs, u"Arial"_qs});
+    QFont::insertSubstitution(u"Comic Sans MS"_qs, u"Comic Neue"_qs);
+    QFont font(u"MS Sans Serif"_qs);
+    font.setPointSizeF(bodyPoints);
+    font.setStyleHint(QFont::SansSerif);
+    return font;
+}
+
+void loadGermanWords(QApplication& application) {
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    const QString name = u"qtbase_de"_qs;
+    if (application.findChild<QTranslator*>(name)) return;
+    auto* translator = new QTranslator(&application);
+    translator->setObjectName(name);
+    if (translator->load(name, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(translator);
+}
+
+} // namespace
+
+namespace Theme {
+
+void loadFonts(const QString& folder) {
+    for (const QFileInfo& file : QDir(folder).entryInfoList({u"*.ttf"_qs, u"*.otf"_qs}, QDir::Files))
+        QFontDatabase::addApplicationFont(file.filePath());
+}
+
+void apply(QApplication& application, Mode mode) {
+    loadPictures();
+    setMode(mode);
+    loadGermanWords(application);
+    QApplication::setStyle(new HouseStyle);
+    QApplication::setPalette(palette());
+    QToolTip::setPalette(palette());
+    QApplication::setFont(bodyFont());
+    QApplication::setWindowIcon(icon(u"uferwart"_qs));
+    QApplication::setKeyboardInputInterval(slowestTypingMilliseconds);
+}
+
+Mode desktopMode(const QApplication& /*application*/) {
+    const QPalette palette = QApplication::palette();
+    const bool darkWindow =
+        palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
+    return darkWindow ? Mode::Dark : Mode::Light;
+}
+
+} // namespace Theme
