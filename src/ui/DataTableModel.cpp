@@ -22,7 +22,7 @@ struct DataTableModel::Table {
         , owner(ownerRow) {}
 
     DataTableRows rows;
-    DataTableTexts texts; ///< its own, so that a category opened again starts afresh
+    TextPool texts; ///< its own, so that a category opened again starts afresh
     int owner;
     int published = 0;     ///< so many rows does the view know
     int firstChanged = -1; ///< changed cells that the view has not been told of stand in these rows

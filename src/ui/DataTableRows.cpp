@@ -21,7 +21,7 @@ QString shown(const Value& value) {
 
 } // namespace
 
-DataTableRows::Wanted::Wanted(const QString& text, const DataTableTexts& texts)
+DataTableRows::Wanted::Wanted(const QString& text, const TextPool& texts)
     : m_texts(texts)
     , m_text(text)
     , m_pooled(texts.find(text)) {
@@ -30,11 +30,11 @@ DataTableRows::Wanted::Wanted(const QString& text, const DataTableTexts& texts)
     if (whole && CStr(number) == text) m_number = number;
 }
 
-void DataTableRows::append(std::span<const Value> cells, DataTableTexts& texts) {
+void DataTableRows::append(std::span<const Value> cells, TextPool& texts) {
     m_rows.push_back(packed(cells, texts));
 }
 
-void DataTableRows::insert(int row, std::span<const Value> cells, DataTableTexts& texts) {
+void DataTableRows::insert(int row, std::span<const Value> cells, TextPool& texts) {
     if (row < 0 || row > rowCount()) throw runtimeError(9);
     m_rows.insert(m_rows.begin() + row, packed(cells, texts));
 }
@@ -63,16 +63,16 @@ void DataTableRows::clear() {
     m_blocks.clear();
 }
 
-Value DataTableRows::value(int row, int column, const DataTableTexts& texts) const {
+Value DataTableRows::value(int row, int column, const TextPool& texts) const {
     const quint64* cells = rowWith(row, column);
     return unpackedValue(kind(cells, column), cells[column], texts);
 }
 
-QString DataTableRows::text(int row, int column, const DataTableTexts& texts) const {
+QString DataTableRows::text(int row, int column, const TextPool& texts) const {
     return shown(value(row, column, texts));
 }
 
-void DataTableRows::set(int row, int column, const Value& value, DataTableTexts& texts) {
+void DataTableRows::set(int row, int column, const Value& value, TextPool& texts) {
     rowWith(row, column);
     put(m_rows[static_cast<std::size_t>(row)], column, value, texts);
 }
@@ -88,7 +88,7 @@ std::size_t DataTableRows::memoryInUse() const {
     return m_rows.capacity() * sizeof(Row) + m_blocks.memoryInUse();
 }
 
-DataTableRows::Row DataTableRows::packed(std::span<const Value> cells, DataTableTexts& texts) {
+DataTableRows::Row DataTableRows::packed(std::span<const Value> cells, TextPool& texts) {
     static const Value null;
     const Row row = m_blocks.take();
     for (std::size_t column = 0; column < m_columns; ++column) {
@@ -97,7 +97,7 @@ DataTableRows::Row DataTableRows::packed(std::span<const Value> cells, DataTable
     return row;
 }
 
-void DataTableRows::put(quint64* row, int column, const Value& value, DataTableTexts& texts) const {
+void DataTableRows::put(quint64* row, int column, const Value& value, TextPool& texts) const {
     row[column] = packedValue(value, texts);
     reinterpret_cast<quint8*>(row + m_columns)[column] = static_cast<quint8>(value.kind());
 }

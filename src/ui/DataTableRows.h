@@ -1,7 +1,7 @@
 #pragma once
 
 #include "DataTableBlocks.h"
-#include "DataTableTexts.h"
+#include "TextPool.h"
 #include "Value.h"
 
 #include <span>
@@ -14,11 +14,11 @@ public:
     /// A text to look for, prepared once: cells with texts and whole numbers are then compared as numbers.
     class Wanted {
     public:
-        Wanted(const QString& text, const DataTableTexts& texts);
+        Wanted(const QString& text, const TextPool& texts);
 
     private:
         friend class DataTableRows;
-        const DataTableTexts& m_texts;
+        const TextPool& m_texts;
         QString m_text;
         std::optional<quint32> m_pooled;
         std::optional<qint32> m_number;
@@ -32,17 +32,17 @@ public:
     int columnCount() const { return static_cast<int>(m_columns); }
 
     /// Missing cells become Null; what is beyond the columns is dropped.
-    void append(std::span<const Value> cells, DataTableTexts& texts);
-    void insert(int row, std::span<const Value> cells, DataTableTexts& texts);
+    void append(std::span<const Value> cells, TextPool& texts);
+    void insert(int row, std::span<const Value> cells, TextPool& texts);
     void remove(int row);
     /// Removes these rows, which must be sorted, in one pass.
     void remove(const std::vector<int>& rows);
     void clear();
 
-    Value value(int row, int column, const DataTableTexts& texts) const;
+    Value value(int row, int column, const TextPool& texts) const;
     /// The cell as it stands on the screen.
-    QString text(int row, int column, const DataTableTexts& texts) const;
-    void set(int row, int column, const Value& value, DataTableTexts& texts);
+    QString text(int row, int column, const TextPool& texts) const;
+    void set(int row, int column, const Value& value, TextPool& texts);
 
     /// The first row from `first` on whose cell has the text, or -1.
     int find(int column, int first, const Wanted& wanted) const;
@@ -54,8 +54,8 @@ private:
     using Row = quint64*;
 
     std::size_t words() const { return m_columns + (m_columns + 7) / sizeof(quint64); }
-    Row packed(std::span<const Value> cells, DataTableTexts& texts);
-    void put(quint64* row, int column, const Value& value, DataTableTexts& texts) const;
+    Row packed(std::span<const Value> cells, TextPool& texts);
+    void put(quint64* row, int column, const Value& value, TextPool& texts) const;
     Value::Kind kind(const quint64* row, int column) const;
     bool matches(const quint64* row, int column, const Wanted& wanted) const;
     const quint64* rowWith(int row, int column) const;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "DataTableTexts.h"
+#include "TextPool.h"
 #include "Value.h"
 
 #include <QStringList>
@@ -42,6 +42,6 @@ private:
     std::vector<std::optional<double>> m_sums;
     std::vector<Value::Kind> m_kinds;
     std::vector<quint64> m_bits; ///< number, days, or number of the text
-    DataTableTexts m_texts;
+    TextPool m_texts;
     int m_rowCount = 0;
 };

@@ -1,10 +1,10 @@
 #include "PackedValue.h"
 
-#include "DataTableTexts.h"
+#include "TextPool.h"
 
 #include <bit>
 
-quint64 packedValue(const Value& value, DataTableTexts& texts) {
+quint64 packedValue(const Value& value, TextPool& texts) {
     switch (value.kind()) {
     case Value::Kind::Null:
         break;
@@ -22,7 +22,7 @@ quint64 packedValue(const Value& value, DataTableTexts& texts) {
     return 0;
 }
 
-Value unpackedValue(Value::Kind kind, quint64 word, const DataTableTexts& texts) {
+Value unpackedValue(Value::Kind kind, quint64 word, const TextPool& texts) {
     switch (kind) {
     case Value::Kind::Null:
         break;

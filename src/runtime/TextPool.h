@@ -4,9 +4,9 @@
 #include <optional>
 #include <vector>
 
-/// The texts of one grid, each held once: the names of fish, waters and months repeat on thousands of rows.
-/// A text stays until clear(), also when no cell shows it any more.
-class DataTableTexts {
+/// The texts of a grid or a report, each held once: the names of fish, waters and months repeat on thousands
+/// of rows. A text stays until clear(), also when no cell holds it any more.
+class TextPool {
 public:
     /// The number of this text, which is added if it is new.
     quint32 numberOf(const QString& text);
