@@ -62,6 +62,7 @@ BenchDesk::BenchDesk(int& argc, char** argv, MessageBoxes& boxes)
     Theme::apply(m_application, Theme::Mode::Light);
     setClock(&m_clock);
     setMessageBoxes(&boxes);
+    setPrintDialogs(&m_printing);
 }
 
 QString BenchDesk::club(ClubSize size) {

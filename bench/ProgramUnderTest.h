@@ -3,6 +3,7 @@
 #include "Clock.h"
 #include "ClubFile.h"
 #include "MsgBox.h"
+#include "QtPrintDialogs.h"
 
 #include <QApplication>
 #include <QString>
@@ -43,6 +44,7 @@ private:
 
     QApplication m_application;
     FixedClock m_clock;
+    QtPrintDialogs m_printing;
     QString m_clubs;
     ClubSize m_size;
     QTemporaryDir m_copies;

@@ -155,7 +155,7 @@ private:
 };
 
 void showPreview() {
-    Berichte::rpt_Fangliste().Show();
+    screen<Vorschau>().zeige(Berichte::rpt_Fangliste().document());
     QApplication::processEvents();
 }
 

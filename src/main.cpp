@@ -3,6 +3,7 @@
 #include "LibreOfficeWriter.h"
 #include "Program.h"
 #include "QtMessageBoxes.h"
+#include "QtPrintDialogs.h"
 #include "ThemeSetup.h"
 
 #include <QApplication>
@@ -16,6 +17,8 @@ int main(int argc, char* argv[]) {
     Theme::apply(application, Theme::desktopMode(application));
     QtMessageBoxes boxes;
     setMessageBoxes(&boxes);
+    QtPrintDialogs printing;
+    setPrintDialogs(&printing);
     LibreOfficeCalc calc;
     setSpreadsheetProgram(&calc);
     LibreOfficeWriter writer;

@@ -4,12 +4,13 @@
 #include "Hourglass.h"
 #include "Info.h"
 #include "MsgBox.h"
-#include "PrinterList.h"
+#include "PrintDialogs.h"
 #include "Report.h"
 #include "Screens.h"
 #include "Session.h"
 #include "Stage.h"
 #include "StagedRows.h"
+#include "Vorschau.h"
 #include "modNavigation.h"
 #include "modTools.h"
 
@@ -38,17 +39,20 @@ void setzeAnschrift(ErrorTail& step, Report& report) {
 
 void gibAus(ErrorTail& step, Hourglass& hourglass, Report& report, const QString& wort) {
     if (wort == u"drucken"_qs) {
-        step([&] { report.PrintReport(); });
+        step([&] { printAfterDialog(*report.document()); });
     } else if (wort == u"vorschau"_qs) {
         hourglass.end();
-        step([&] { modNavigation::binde(session().AktBarItem, report.window()); });
-        step([&] { report.Show(); });
+        step([&] { modNavigation::binde(session().AktBarItem, screen<Vorschau>()); });
+        step([&] {
+            const auto document = report.document();
+            screen<Vorschau>().zeige(document);
+        });
     }
 }
 
 void stelleDar(ErrorTail& step, const Druckauftrag& auftrag, ADODB::Recordset& rows, const QString& wort,
                Hourglass& hourglass) {
-    if (step.test([] { return printerCount() <= 0; })) {
+    if (step.test([] { return printDialogs().printerCount() <= 0; })) {
         hourglass.leave();
         MsgBox(u"ACHTUNG: Kein Drucker installiert, Vorgang wird abgebrochen !"_qs, vbInformation);
         return;

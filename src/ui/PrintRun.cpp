@@ -1,7 +1,7 @@
 #include "PrintRun.h"
 
 #include "Clock.h"
-#include "PrintDialog.h"
+#include "ReportDocument.h"
 #include "ReportPainter.h"
 #include "ReportPaper.h"
 #include "RuntimeError.h"
@@ -10,6 +10,7 @@
 #include <QFileInfo>
 #include <QPainter>
 #include <QPdfWriter>
+#include <QPrinter>
 #include <QSaveFile>
 #include <numeric>
 

@@ -1,9 +1,19 @@
 #pragma once
 
 #include <QString>
+#include <QVector>
+#include <memory>
 
+class QPrinter;
 class ReportDocument;
-struct PrintTarget;
+
+/// Where a report is to be printed: a PDF file, or a printer where no file is named.
+struct PrintTarget {
+    QString pdfFile;
+    std::shared_ptr<QPrinter> printer;
+    QVector<int> pages; ///< from 0, in the order of printing; empty for all
+    int copies = 1;     ///< runs over the pages; for a printer that can't count copies itself
+};
 
 /// Prints a report, dated today. Error 482 if the printer refuses. A PDF file is written as a whole or not at
 /// all: error 76 if its folder is missing, 75 if it may not be written there, 61 if the disk is full.

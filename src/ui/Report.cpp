@@ -1,11 +1,7 @@
 #include "Report.h"
 
-#include "PrintDialog.h"
-#include "PrintRun.h"
 #include "ReportDocument.h"
 #include "RuntimeError.h"
-#include "Screens.h"
-#include "Vorschau.h"
 
 Report::Report(const QString& caption)
     : m_caption(caption)
@@ -29,18 +25,4 @@ void Report::bind(ReportRowSource& source) { m_rows = std::make_shared<ReportRow
 
 std::shared_ptr<const ReportDocument> Report::document() const {
     return std::make_shared<ReportDocument>(m_caption, m_sections, m_rows);
-}
-
-Screen& Report::window() const { return screen<Vorschau>(); }
-
-void Report::Show() const {
-    const auto shown = document();
-    screen<Vorschau>().zeige(shown);
-}
-
-bool Report::PrintReport() const {
-    const auto printed = document();
-    const auto target = choosePrintTarget(m_caption, printed->pageCount());
-    if (target) printReport(*printed, *target);
-    return target.has_value();
 }

@@ -7,7 +7,6 @@
 #include <memory>
 
 class ReportDocument;
-class Screen;
 
 /// A report: five sections with named controls, described once, then filled for each run. Labels and data
 /// fields keep what was last set. A preview that is open keeps what it was opened with.
@@ -32,14 +31,6 @@ public:
     /// What there is to print or to preview at this moment, on its own from here on. Error 3265 if a
     /// DataField is none of the data, 13 if one that is to be added up has no numbers.
     std::shared_ptr<const ReportDocument> document() const;
-
-    /// The window of the preview, made if there is none yet; it shows this report only after Show().
-    Screen& window() const;
-    /// Opens the preview with the report and brings it to the front; not modal.
-    void Show() const;
-    /// Asks with the print dialog, set to all pages, and prints. False if the user has called it off.
-    /// Errors as printReport() tells.
-    bool PrintReport() const;
 
 private:
     QString m_caption;

@@ -5,9 +5,7 @@
 #include "Heading.h"
 #include "Hourglass.h"
 #include "MsgBox.h"
-#include "PrintDialog.h"
-#include "PrintRun.h"
-#include "PrintSaveDialog.h"
+#include "PrintDialogs.h"
 #include "ReportDocument.h"
 #include "ReportPageView.h"
 #include "Screens.h"
@@ -194,7 +192,8 @@ void Vorschau::zoom(int step) {
 void Vorschau::drucke() {
     const QPointer<Vorschau> alive(this);
     const auto printed = m_document;
-    const auto target = choosePrintTarget(printed->caption(), printed->pageCount(), pageView->page());
+    const auto target =
+        printDialogs().choosePrintTarget(printed->caption(), printed->pageCount(), pageView->page());
     if (!target || !Screens::isAlive(alive)) return;
     try {
         const Hourglass hourglass(*this);
@@ -207,7 +206,7 @@ void Vorschau::drucke() {
 void Vorschau::speicherPdf() {
     const QPointer<Vorschau> alive(this);
     const auto saved = m_document;
-    const QString file = choosePdfFile(pdfNameFor(saved->caption()));
+    const QString file = printDialogs().choosePdfFile(pdfNameFor(saved->caption()));
     if (file.isEmpty() || !Screens::isAlive(alive)) return;
     try {
         const Hourglass hourglass(*this);

@@ -23,7 +23,7 @@ public:
     void Form_QueryUnload() override;
     bool Form_KeyDown(int key, Qt::KeyboardModifiers modifiers) override;
 
-    /// Shows the first page and comes to the front.
+    /// Shows the first page and comes to the front; not modal.
     void zeige(std::shared_ptr<const ReportDocument> document);
     /// What is shown; null before the first zeige().
     const std::shared_ptr<const ReportDocument>& document() const { return m_document; }

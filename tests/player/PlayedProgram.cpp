@@ -16,10 +16,12 @@ PlayedProgram::PlayedProgram(QString folder, QString pictures)
     , m_made(QFileInfo::exists(m_folder + u"/uw01.mdb"_qs)) {
     setClock(&m_clock);
     setMessageBoxes(&m_boxes);
+    setPrintDialogs(&m_dialogs);
 }
 
 PlayedProgram::~PlayedProgram() {
     m_program.reset();
+    setPrintDialogs(nullptr);
     setMessageBoxes(nullptr);
     setClock(nullptr);
 }

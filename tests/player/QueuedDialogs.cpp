@@ -1,21 +1,11 @@
 #include "QueuedDialogs.h"
 
-QueuedDialogs::QueuedDialogs() {
-    setPrintDialog(this);
-    setPrintSaveDialog(this);
-    setPrinterList(this);
+QString QueuedDialogs::choosePdfFile(const QString&) {
+    return m_files.isEmpty() ? QString() : m_files.takeFirst();
 }
 
-QueuedDialogs::~QueuedDialogs() {
-    setPrintDialog(nullptr);
-    setPrintSaveDialog(nullptr);
-    setPrinterList(nullptr);
-}
-
-QString QueuedDialogs::choose(const QString&) { return m_files.isEmpty() ? QString() : m_files.takeFirst(); }
-
-std::optional<PrintTarget> QueuedDialogs::choose(const QString& caption, int, int) {
-    const QString file = choose(caption);
+std::optional<PrintTarget> QueuedDialogs::choosePrintTarget(const QString& caption, int, int) {
+    const QString file = choosePdfFile(caption);
     if (file.isEmpty()) return std::nullopt;
     PrintTarget target;
     target.pdfFile = file;

@@ -1,5 +1,4 @@
 #include "ErrorOf.h"
-#include "PrintDialog.h"
 #include "PrintRun.h"
 #include "ReportPainter.h"
 #include "ReportPaper.h"

@@ -1,8 +1,6 @@
 #include "ComboBox.h"
 #include "MsgBox.h"
-#include "PrintDialog.h"
-#include "PrintSaveDialog.h"
-#include "PrinterList.h"
+#include "QtPrintDialogs.h"
 #include "RecordingScreen.h"
 #include "ReportDocument.h"
 #include "ReportPageView.h"
@@ -31,19 +29,20 @@ public:
     QStringList texts;
 };
 
-class Dialogs : public PrintDialog, public PrintSaveDialog {
+class Dialogs : public PrintDialogs {
 public:
-    std::optional<PrintTarget> choose(const QString&, int pages, int page) override {
+    std::optional<PrintTarget> choosePrintTarget(const QString&, int pages, int page) override {
         asked = QString::number(pages) + u'/' + QString::number(page);
         if (whileOpen) whileOpen();
         if (file.isEmpty()) return std::nullopt;
         return PrintTarget{file, nullptr, {}, 1};
     }
-    QString choose(const QString& proposal) override {
+    QString choosePdfFile(const QString& proposal) override {
         asked = proposal;
         if (whileOpen) whileOpen();
         return file;
     }
+    int printerCount() const override { return 1; }
 
     QString asked;
     QString file;
@@ -54,8 +53,7 @@ class ReportPreviewTest : public ::testing::Test {
 protected:
     ReportPreviewTest() {
         setMessageBoxes(&boxes);
-        setPrintDialog(&dialogs);
-        setPrintSaveDialog(&dialogs);
+        setPrintDialogs(&dialogs);
         stage.resize(900, 600);
         stage.show();
         stage.setActive(true);
@@ -65,8 +63,7 @@ protected:
     ~ReportPreviewTest() override {
         Screens::removeAll();
         settle();
-        setPrintSaveDialog(nullptr);
-        setPrintDialog(nullptr);
+        setPrintDialogs(nullptr);
         setMessageBoxes(nullptr);
     }
 
@@ -76,7 +73,7 @@ protected:
     }
     void open(int rows) {
         report.bindRows(rows);
-        report.Show();
+        preview().zeige(report.document());
     }
     static Vorschau& preview() { return screen<Vorschau>(); }
     static void press(const QString& key) { preview().Toolbar1->key(key)->click(); }
@@ -104,7 +101,7 @@ TEST_F(ReportPreviewTest, ItMayBeClosedFromBehindOpenedAnewAndOutliveItsReport) 
     {
         SampleReport shortLived;
         shortLived.bindRows(25);
-        shortLived.Show();
+        preview().zeige(shortLived.document());
     }
     press(u"tbWeiter"_qs);
     preview().grab();
@@ -167,7 +164,7 @@ TEST_F(ReportPreviewTest, PrintingAndSavingAskFirstAndTellWhatFailed) {
     dialogs.file = folder.filePath(u"a.pdf"_qs);
     press(u"tbPdf"_qs);
     EXPECT_TRUE(QFile::exists(dialogs.file));
-    EXPECT_TRUE(report.PrintReport());
+    EXPECT_TRUE(printAfterDialog(*report.document()));
     EXPECT_TRUE(boxes.texts.isEmpty());
 
     dialogs.file = folder.filePath(u"fehlt/a.pdf"_qs);
@@ -193,6 +190,6 @@ TEST_F(ReportPreviewTest, TheProgramMayEndWhileADialogIsOpen) {
     EXPECT_FALSE(QFile::exists(dialogs.file));
 }
 
-TEST(PrinterListTest, ThePdfFileCountsAsAPrinter) { EXPECT_GE(printerCount(), 1); }
+TEST(QtPrintDialogsTest, ThePdfFileCountsAsAPrinter) { EXPECT_GE(QtPrintDialogs().printerCount(), 1); }
 
 } // namespace

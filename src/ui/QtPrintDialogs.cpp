@@ -1,12 +1,16 @@
-#include "PrintQtDialog.h"
+#include "QtPrintDialogs.h"
 
 #include "KeyGuard.h"
-#include "PrintSaveDialog.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QFileDialog>
 #include <QLineEdit>
 #include <QPageRanges>
 #include <QPrintDialog>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QStandardPaths>
 #include <algorithm>
 #include <numeric>
 
@@ -44,7 +48,7 @@ QVector<int> wantedPages(const QPrinter& printer, int pages, int page) {
 
 } // namespace
 
-std::optional<PrintTarget> PrintQtDialog::choose(const QString& caption, int pages, int page) {
+std::optional<PrintTarget> QtPrintDialogs::choosePrintTarget(const QString& caption, int pages, int page) {
     PrintTarget target;
     target.printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
     preset(*target.printer, caption);
@@ -64,4 +68,20 @@ std::optional<PrintTarget> PrintQtDialog::choose(const QString& caption, int pag
     else if (!target.printer->supportsMultipleCopies())
         target.copies = target.printer->copyCount();
     return target;
+}
+
+QString QtPrintDialogs::choosePdfFile(const QString& proposal) {
+    const QDir folder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    QFileDialog dialog(QApplication::activeWindow(), u"Als PDF speichern"_qs, folder.path(),
+                       u"PDF-Dateien (*.pdf)"_qs);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(u"pdf"_qs);
+    dialog.selectFile(proposal);
+    const KeyGuard guard(&dialog);
+    if (dialog.exec() != QDialog::Accepted) return {};
+    return dialog.selectedFiles().value(0);
+}
+
+int QtPrintDialogs::printerCount() const {
+    return static_cast<int>(QPrinterInfo::availablePrinterNames().size()) + 1;
 }

@@ -1,0 +1,25 @@
+#include "PrintDialogs.h"
+
+#include "ReportDocument.h"
+
+namespace {
+PrintDialogs* current = nullptr;
+}
+
+void setPrintDialogs(PrintDialogs* dialogs) { current = dialogs; }
+
+PrintDialogs& printDialogs() {
+    Q_ASSERT_X(current, "printDialogs", "setPrintDialogs() has not been called");
+    return *current;
+}
+
+bool printAfterDialog(const ReportDocument& document) {
+    const auto target = printDialogs().choosePrintTarget(document.caption(), document.pageCount(), 0);
+    if (target) printReport(document, *target);
+    return target.has_value();
+}
+
+QString pdfNameFor(QString caption) {
+    for (const QChar character : u"\\/:*?\"<>|"_qs) caption.remove(character);
+    return caption.simplified() + u".pdf"_qs;
+}
