@@ -4,6 +4,7 @@
 #include "Fangauswertung.h"
 #include "Screens.h"
 #include "SeqData.h"
+#include "Session.h"
 #include "modFAuswert.h"
 #include "modRun.h"
 
@@ -34,7 +35,7 @@ void schreibeZeile(CsvDatei& datei, const DataTable& grid, int row) {
 }
 
 void schreibeDatei(const DataTable& grid) {
-    CsvDatei datei(SeqData::path(u"FANG.csv"_qs));
+    CsvDatei datei(SeqData::path(programFolder(), u"FANG.csv"_qs));
     for (const QString& head :
          {u"FangNr"_qs, u"Fischart"_qs, u"Gewässer"_qs, u"Fangdatum(jjjj.m)"_qs, u"Anzahl"_qs, u"Gewicht"_qs})
         datei.writeHead(head);
@@ -54,7 +55,7 @@ void ErzeugeFangDatei() {
 }
 
 void StarteExcelFang() {
-    zeigeInExcel(SeqData::path(u"Fang.csv"_qs),
+    zeigeInExcel(SeqData::path(programFolder(), u"Fang.csv"_qs),
                  {u"A:A"_qs, u"B:B"_qs, u"C:C"_qs, u"D:D"_qs, u"E:E"_qs, u"F:F"_qs});
 }
 

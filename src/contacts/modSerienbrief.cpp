@@ -12,6 +12,9 @@
 #include "WordProcessor.h"
 #include "modKontakt.h"
 
+#include <QDir>
+#include <QFileInfo>
+
 namespace modSerienbrief {
 
 namespace {
@@ -87,7 +90,7 @@ void schreibeKategorie(CsvDatei& datei, DataTable& uebersicht, int zeile) {
 }
 
 void schreibeDatei(DataTable& uebersicht) {
-    CsvDatei datei(SeqData::path(u"SERI.txt"_qs));
+    CsvDatei datei(SeqData::path(programFolder(), u"SERI.txt"_qs));
     schreibeKopf(datei);
     uebersicht.enter({}); // a press may have left a child table current
     for (int zeile = 0; zeile < uebersicht.rowCount(); ++zeile)
@@ -108,7 +111,7 @@ std::unique_ptr<WordProcessor> erreicheWord() {
 }
 
 MailMergeSource datenquelle() {
-    return {.name = SeqData::path(u"SERI.txt"_qs),
+    return {.name = SeqData::path(programFolder(), u"SERI.txt"_qs),
             .confirmConversions = false,
             .readOnly = false,
             .linkToSource = true,
@@ -143,15 +146,32 @@ void schreibeAnschrift(WordProcessor& word) {
     word.insertField(u"Ort"_qs);
 }
 
+/// False after the box that tells why the letter could not be stored.
+bool vollende(WordProcessor& word, const QString& datendatei) {
+    QString hinweis;
+    try {
+        hinweis = word.complete();
+    } catch (const RuntimeError& error) {
+        MsgBox(u"Der Serienbrief konnte nicht im Ordner der Datendatei angelegt werden:\r\n"_qs +
+                   QDir::toNativeSeparators(QFileInfo(datendatei).dir().path()) + u"\r\n"_qs +
+                   error.description,
+               vbCritical);
+        return false;
+    }
+    if (!hinweis.isEmpty()) MsgBox(hinweis, vbExclamation);
+    return true;
+}
+
 void beginneBrief(WordProcessor& word) {
     constexpr int formLetters = 0;
+    const MailMergeSource quelle = datenquelle();
     word.setVisible(true);
     word.addDocument();
     word.setMainDocumentType(formLetters);
-    word.openDataSource(datenquelle());
+    word.openDataSource(quelle);
     word.editMainDocument();
     schreibeAnschrift(word);
-    word.release();
+    if (vollende(word, quelle.name)) word.release();
 }
 
 } // namespace

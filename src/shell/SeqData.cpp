@@ -1,13 +1,11 @@
 #include "SeqData.h"
 
-#include "Session.h"
-
 #include <QDir>
 
 namespace SeqData {
 
-QString path(const QString& name) {
-    const QDir folder(programFolder() + u"/SeqData"_qs);
+QString path(const QString& programFolder, const QString& name) {
+    const QDir folder(programFolder + u"/SeqData"_qs);
     // In a fixed order: of two files that differ in capitals only, each spelling must mean the same one.
     for (const QString& entry : folder.entryList(QDir::Files | QDir::Hidden, QDir::Name))
         if (entry.compare(name, Qt::CaseInsensitive) == 0) return folder.filePath(entry);

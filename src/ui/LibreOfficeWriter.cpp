@@ -1,7 +1,6 @@
 #include "LibreOfficeWriter.h"
 
 #include "LibreOfficeWriterLetter.h"
-#include "MsgBox.h"
 #include "RuntimeError.h"
 
 #include <QDir>
@@ -54,19 +53,12 @@ bool lacksWriter(const QString& program) {
     return parts.exists(u"libfilelo.so"_qs) && !parts.exists(u"libswlo.so"_qs);
 }
 
-void tellLackOfDatabasePart(const QString& letter) {
-    MsgBox(u"Ihrem LibreOffice fehlt der Datenbankteil (Base). Ohne ihn kann der Serienbrief zwar "_qs
+QString lackOfDatabasePart(const QString& letter) {
+    return u"Ihrem LibreOffice fehlt der Datenbankteil (Base). Ohne ihn kann der Serienbrief zwar "_qs
            u"bearbeitet, aber nicht mit den Daten zusammengeführt werden.\r\n"_qs
            u"Bitte installieren Sie LibreOffice Base (unter Debian und Ubuntu das Paket libreoffice-base) "_qs
            u"und öffnen Sie danach den Serienbrief noch einmal:\r\n"_qs +
-               QDir::toNativeSeparators(letter),
-           vbExclamation);
-}
-
-void tellFailure(const QString& folder, const RuntimeError& error) {
-    MsgBox(u"Der Serienbrief konnte nicht im Ordner der Datendatei angelegt werden:\r\n"_qs +
-               QDir::toNativeSeparators(folder) + u"\r\n"_qs + error.description,
-           vbCritical);
+           QDir::toNativeSeparators(letter);
 }
 
 class Writer final : public WordProcessor {
@@ -87,27 +79,18 @@ public:
     void typeParagraph() override { m_letter.typeParagraph(); }
     void insertField(const QString& name) override { m_letter.insertField(name); }
 
+    QString complete() override {
+        m_file = storedLetter(QFileInfo(m_dataFile).dir(), m_letter.package(m_dataFile));
+        return lacksDatabasePart(m_program) ? lackOfDatabasePart(m_file) : QString();
+    }
     void release() override {
-        const QString letter = store();
-        if (letter.isEmpty()) return;
-        if (lacksDatabasePart(m_program)) tellLackOfDatabasePart(letter);
-        if (!QProcess::startDetached(m_program, {letter})) throw runtimeError(cannotBeReached);
+        if (!QProcess::startDetached(m_program, {m_file})) throw runtimeError(cannotBeReached);
     }
 
 private:
-    /// Empty after the box that tells why not.
-    QString store() const {
-        const QDir folder = QFileInfo(m_dataFile).dir();
-        try {
-            return storedLetter(folder, m_letter.package(m_dataFile));
-        } catch (const RuntimeError& error) {
-            tellFailure(folder.path(), error);
-            return {};
-        }
-    }
-
     QString m_program;
     QString m_dataFile;
+    QString m_file;
     LibreOfficeWriterLetter m_letter;
 };
 

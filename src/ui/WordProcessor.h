@@ -34,6 +34,9 @@ public:
     virtual void typeText(const QString& text) = 0;
     virtual void typeParagraph() = 0;
     virtual void insertField(const QString& name) = 0;
+    /// Makes the document ready to be shown. Returns what the user must know before that, empty for nothing.
+    /// Error if the document can't be stored.
+    virtual QString complete() { return {}; }
     /// The last step: the document is the user's from here on.
     virtual void release() = 0;
 };

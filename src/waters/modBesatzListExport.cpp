@@ -4,6 +4,7 @@
 #include "ExcelAusgabe.h"
 #include "Screens.h"
 #include "SeqData.h"
+#include "Session.h"
 #include "modBesatzList.h"
 
 // The stocking plan as a file for the spreadsheet.
@@ -20,7 +21,7 @@ void schreibeZeile(CsvDatei& datei, const DataTable& grid, int row) {
 }
 
 void schreibeDatei(const DataTable& grid) {
-    CsvDatei datei(SeqData::path(u"BPLAN.csv"_qs));
+    CsvDatei datei(SeqData::path(programFolder(), u"BPLAN.csv"_qs));
     for (const QString& head :
          {u"Besatz.- Nr"_qs, u"Fischart"_qs, u"Gewässer"_qs, u"Zeitpunkt"_qs, u"Menge i. KG"_qs})
         datei.writeHead(head);
@@ -40,7 +41,8 @@ void ErzeugeBPlanDatei() {
 }
 
 void StarteExcelBPlan() {
-    zeigeInExcel(SeqData::path(u"BPLAN.csv"_qs), {u"A:A"_qs, u"B:B"_qs, u"C:C"_qs, u"D:D"_qs, u"E:E"_qs});
+    zeigeInExcel(SeqData::path(programFolder(), u"BPLAN.csv"_qs),
+                 {u"A:A"_qs, u"B:B"_qs, u"C:C"_qs, u"D:D"_qs, u"E:E"_qs});
 }
 
 } // namespace modBesatzList
