@@ -20,9 +20,9 @@ int main(int argc, char* argv[]) {
     QtPrintDialogs printing;
     setPrintDialogs(&printing);
     LibreOfficeCalc calc;
-    setSpreadsheetProgram(&calc);
+    setOfficeProgram<Spreadsheet>(&calc);
     LibreOfficeWriter writer;
-    setWordProcessorProgram(&writer);
+    setOfficeProgram<WordProcessor>(&writer);
 
     Program program(QApplication::applicationDirPath());
     QObject::connect(&program, &Program::ended, &application, &QApplication::quit, Qt::QueuedConnection);

@@ -5,7 +5,6 @@
 #include "DataTable.h"
 #include "KontaktUebers.h"
 #include "MsgBox.h"
-#include "OfficeProgram.h"
 #include "Screens.h"
 #include "SeqData.h"
 #include "Session.h"
@@ -103,7 +102,7 @@ void meldeKeinWord() { MsgBox(u"Es ist kein Word verfügbar !"_qs, vbInformation
 /// Null after the box that says there is none.
 std::unique_ptr<WordProcessor> erreicheWord() {
     try {
-        return runningOrNew(wordProcessorProgram());
+        return runningOrNew<WordProcessor>();
     } catch (const RuntimeError&) {
         meldeKeinWord();
         return nullptr;

@@ -2,7 +2,6 @@
 
 #include "DataTable.h"
 #include "MsgBox.h"
-#include "OfficeProgram.h"
 #include "RuntimeError.h"
 #include "Session.h"
 #include "Spreadsheet.h"
@@ -36,7 +35,7 @@ void schreibeFuerExcel(const std::function<void()>& schreibe, const QString& feh
 
 void zeigeInExcel(const QString& path, std::initializer_list<QString> columns) {
     try {
-        const std::unique_ptr<Spreadsheet> excel = runningOrNew(spreadsheetProgram());
+        const auto excel = runningOrNew<Spreadsheet>();
         excel->setVisible(true);
         excel->openWorkbook(path);
         for (const QString& column : columns) excel->autoFitColumns(column);

@@ -7,8 +7,6 @@
 
 namespace {
 
-constexpr int cannotBeReached = 429;
-
 class Calc final : public Spreadsheet {
 public:
     explicit Calc(QString program)
@@ -21,7 +19,7 @@ public:
 
     void openWorkbook(const QString& fileName) override {
         if (!QProcess::startDetached(m_program, LibreOfficeCalc::arguments(fileName)))
-            throw runtimeError(cannotBeReached);
+            throw runtimeError(LibreOfficeCalc::cannotBeReached);
     }
 
 private:
@@ -30,11 +28,13 @@ private:
 
 } // namespace
 
-std::unique_ptr<Spreadsheet> LibreOfficeCalc::running() { throw runtimeError(cannotBeReached); }
+std::unique_ptr<Spreadsheet> LibreOfficeCalc::running() {
+    throw runtimeError(LibreOfficeCalc::cannotBeReached);
+}
 
 std::unique_ptr<Spreadsheet> LibreOfficeCalc::start() {
     const QString program = QStandardPaths::findExecutable(u"soffice"_qs);
-    if (program.isEmpty()) throw runtimeError(cannotBeReached);
+    if (program.isEmpty()) throw runtimeError(LibreOfficeCalc::cannotBeReached);
     return std::make_unique<Calc>(program);
 }
 

@@ -4,7 +4,7 @@
 
 /// LibreOffice as the spreadsheet, where its `soffice` is on the PATH. It is started for each workbook and
 /// not waited for; if it runs already, it takes the workbook over by itself.
-class LibreOfficeCalc final : public SpreadsheetProgram {
+class LibreOfficeCalc final : public OfficeProgram<Spreadsheet> {
 public:
     /// It offers no object of a running program: always error 429.
     std::unique_ptr<Spreadsheet> running() override;

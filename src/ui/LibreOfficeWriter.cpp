@@ -13,7 +13,6 @@ namespace {
 
 constexpr int diskFull = 61;
 constexpr int accessDenied = 70;
-constexpr int cannotBeReached = 429;
 
 bool holds(const QString& path, const QByteArray& content) {
     QFile file(path);
@@ -84,7 +83,8 @@ public:
         return lacksDatabasePart(m_program) ? lackOfDatabasePart(m_file) : QString();
     }
     void release() override {
-        if (!QProcess::startDetached(m_program, {m_file})) throw runtimeError(cannotBeReached);
+        if (!QProcess::startDetached(m_program, {m_file}))
+            throw runtimeError(LibreOfficeWriter::cannotBeReached);
     }
 
 private:
@@ -96,10 +96,12 @@ private:
 
 } // namespace
 
-std::unique_ptr<WordProcessor> LibreOfficeWriter::running() { throw runtimeError(cannotBeReached); }
+std::unique_ptr<WordProcessor> LibreOfficeWriter::running() {
+    throw runtimeError(LibreOfficeWriter::cannotBeReached);
+}
 
 std::unique_ptr<WordProcessor> LibreOfficeWriter::start() {
     const QString program = QStandardPaths::findExecutable(u"soffice"_qs);
-    if (program.isEmpty() || lacksWriter(program)) throw runtimeError(cannotBeReached);
+    if (program.isEmpty() || lacksWriter(program)) throw runtimeError(LibreOfficeWriter::cannotBeReached);
     return std::make_unique<Writer>(program);
 }

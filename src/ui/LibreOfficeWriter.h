@@ -12,7 +12,7 @@
 ///
 /// complete() tells of an office without the part that reads the data, and fails where the file can't be
 /// written.
-class LibreOfficeWriter final : public WordProcessorProgram {
+class LibreOfficeWriter final : public OfficeProgram<WordProcessor> {
 public:
     /// It offers no object of a running program: always error 429.
     std::unique_ptr<WordProcessor> running() override;

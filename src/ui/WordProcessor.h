@@ -1,7 +1,8 @@
 #pragma once
 
+#include "OfficeProgram.h"
+
 #include <QString>
-#include <memory>
 
 /// Where a mail merge takes its records from, with all that the opening of a data source can be told.
 struct MailMergeSource {
@@ -40,18 +41,3 @@ public:
     /// The last step: the document is the user's from here on.
     virtual void release() = 0;
 };
-
-/// The way to the machine's word processor.
-class WordProcessorProgram {
-public:
-    virtual ~WordProcessorProgram() = default;
-    /// The one that is running; error 429 if none is.
-    virtual std::unique_ptr<WordProcessor> running() = 0;
-    /// A new one; error 429 if there is none on the machine.
-    virtual std::unique_ptr<WordProcessor> start() = 0;
-};
-
-/// Puts an implementation in force; it must outlive its use.
-void setWordProcessorProgram(WordProcessorProgram* program);
-/// Without an implementation in force there is no word processor: both ways to one are error 429.
-WordProcessorProgram& wordProcessorProgram();

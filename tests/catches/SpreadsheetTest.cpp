@@ -17,7 +17,7 @@
 namespace {
 
 /// A spreadsheet that only writes down what it is asked for.
-class RecordingProgram final : public SpreadsheetProgram {
+class RecordingProgram final : public OfficeProgram<Spreadsheet> {
 public:
     QStringList steps;
     int errorOfRunning = 429;
@@ -62,11 +62,11 @@ protected:
     StarteExcelFang() {
         QDir(folder.path()).mkdir(u"SeqData"_qs);
         beginSession(folder.path());
-        setSpreadsheetProgram(&program);
+        setOfficeProgram<Spreadsheet>(&program);
         setMessageBoxes(&boxes);
     }
     ~StarteExcelFang() override {
-        setSpreadsheetProgram(nullptr);
+        setOfficeProgram<Spreadsheet>(nullptr);
         setMessageBoxes(nullptr);
     }
 

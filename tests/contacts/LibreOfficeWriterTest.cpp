@@ -22,12 +22,12 @@ protected:
         office.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
         office.close();
         useRecordingOffice();
-        setWordProcessorProgram(&writer);
+        setOfficeProgram<WordProcessor>(&writer);
         modSerienbrief::ErzeugeSeriendatei();
         boxes.texts.clear();
     }
     ~LibreOfficeLetter() override {
-        setWordProcessorProgram(nullptr);
+        setOfficeProgram<WordProcessor>(nullptr);
         qputenv("PATH", path);
     }
 

@@ -9,7 +9,7 @@
 namespace {
 
 /// A word processor that only writes down what it is asked for.
-class RecordingProgram final : public WordProcessorProgram {
+class RecordingProgram final : public OfficeProgram<WordProcessor> {
 public:
     QStringList steps;
     MailMergeSource source;
@@ -58,8 +58,8 @@ const QString noWord = u"64 Uferwart: Es ist kein Word verfügbar !"_qs;
 
 class WordSerienbrief : public ::testing::Test {
 protected:
-    WordSerienbrief() { setWordProcessorProgram(&program); }
-    ~WordSerienbrief() override { setWordProcessorProgram(nullptr); }
+    WordSerienbrief() { setOfficeProgram<WordProcessor>(&program); }
+    ~WordSerienbrief() override { setOfficeProgram<WordProcessor>(nullptr); }
 
     QStringList stepsOfLetter() {
         program.steps.clear();
