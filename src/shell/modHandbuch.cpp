@@ -1,7 +1,6 @@
 #include "modHandbuch.h"
 
 #include "Handbuch.h"
-#include "Main.h"
 #include "Screens.h"
 #include "Session.h"
 #include "Stage.h"
@@ -51,8 +50,9 @@ const Screen* lastShown() {
 const Screen* screenInFront(const QWidget* focused) {
     const Screen* screen = screenAround(focused);
     if (!screen) screen = lastShown();
-    const bool isFrame = qobject_cast<const Main*>(screen);
-    return isFrame && Stage::current()->front() ? Stage::current()->front() : screen;
+    const Stage* stage = Stage::current();
+    const bool isFrame = screen && stage && screen->isAncestorOf(stage);
+    return isFrame && stage->front() ? stage->front() : screen;
 }
 
 /// Without any screen the start has failed, and its box stands alone.
