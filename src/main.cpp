@@ -1,3 +1,4 @@
+#include "Clock.h"
 #include "EndSignals.h"
 #include "LibreOfficeCalc.h"
 #include "LibreOfficeWriter.h"
@@ -8,6 +9,29 @@
 
 #include <QApplication>
 
+namespace {
+
+/// The real clock, boxes, print dialogs and office programs.
+class Surroundings {
+public:
+    Surroundings() {
+        setClock(&m_clock);
+        setMessageBoxes(&m_boxes);
+        setPrintDialogs(&m_printing);
+        setOfficeProgram<Spreadsheet>(&m_calc);
+        setOfficeProgram<WordProcessor>(&m_writer);
+    }
+
+private:
+    SystemClock m_clock;
+    QtMessageBoxes m_boxes;
+    QtPrintDialogs m_printing;
+    LibreOfficeCalc m_calc;
+    LibreOfficeWriter m_writer;
+};
+
+} // namespace
+
 int main(int argc, char* argv[]) {
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
@@ -15,14 +39,7 @@ int main(int argc, char* argv[]) {
     QApplication::setDesktopFileName(u"uferwart"_qs);
     Theme::loadFonts(QApplication::applicationDirPath() + u"/fonts"_qs);
     Theme::apply(application, Theme::desktopMode(application));
-    QtMessageBoxes boxes;
-    setMessageBoxes(&boxes);
-    QtPrintDialogs printing;
-    setPrintDialogs(&printing);
-    LibreOfficeCalc calc;
-    setOfficeProgram<Spreadsheet>(&calc);
-    LibreOfficeWriter writer;
-    setOfficeProgram<WordProcessor>(&writer);
+    static Surroundings surroundings; // static, as the libraries keep pointers into it
 
     Program program(QApplication::applicationDirPath());
     QObject::connect(&program, &Program::ended, &application, &QApplication::quit, Qt::QueuedConnection);

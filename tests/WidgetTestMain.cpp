@@ -1,5 +1,6 @@
 // The beginning of every test program that shows widgets.
 
+#include "FixedClock.h"
 #include "ThemeSetup.h"
 
 #include <QApplication>
@@ -12,5 +13,6 @@ int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     Theme::apply(application, Theme::Mode::Light);
+    const FixedClock clock;
     return RUN_ALL_TESTS();
 }

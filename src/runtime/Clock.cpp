@@ -1,16 +1,14 @@
 #include "Clock.h"
 
-namespace {
+#include <utility>
 
-const Clock& systemClock() {
-    static const SystemClock clock;
-    return clock;
+namespace {
+const Clock* current = nullptr;
 }
 
-const Clock* clockInForce = nullptr;
+const Clock* setClock(const Clock* clock) { return std::exchange(current, clock); }
 
-} // namespace
-
-void setClock(const Clock* clock) { clockInForce = clock; }
-
-QDateTime now() { return (clockInForce ? *clockInForce : systemClock()).now(); }
+QDateTime now() {
+    Q_ASSERT_X(current, "now", "setClock() has not been called");
+    return current->now();
+}

@@ -2,8 +2,8 @@
 
 #include <QDateTime>
 
-/// The only source of today's date and the time. One at a time is in force for the whole program; the
-/// start-up puts the real one there, tests a fixed one.
+/// The only source of today's date and the time, one for the whole program: the real one in main(), a fixed
+/// one in tests.
 class Clock {
 public:
     virtual ~Clock() = default;
@@ -15,7 +15,7 @@ public:
     QDateTime now() const override { return QDateTime::currentDateTime(); }
 };
 
-/// Puts a clock in force; it must outlive its use. Null puts the system's clock back.
-void setClock(const Clock* clock);
+/// Sets the clock, to be done before now() and today(); it must outlive its use. Returns the one before.
+const Clock* setClock(const Clock* clock);
 QDateTime now();
 inline QDate today() { return now().date(); }

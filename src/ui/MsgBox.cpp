@@ -1,18 +1,16 @@
 #include "MsgBox.h"
 
 #include "EventGuard.h"
-#include "QtMessageBoxes.h"
 
 namespace {
-MessageBoxes* boxesInForce = nullptr;
+MessageBoxes* current = nullptr;
 }
 
-void setMessageBoxes(MessageBoxes* boxes) { boxesInForce = boxes; }
+void setMessageBoxes(MessageBoxes* boxes) { current = boxes; }
 
 MsgBoxResult MsgBox(const QString& text, int style, const QString& title) {
-    QtMessageBoxes windows;
-    MessageBoxes& boxes = boxesInForce ? *boxesInForce : windows;
-    const MsgBoxResult answer = boxes.show(text, style, title);
+    Q_ASSERT_X(current, "MsgBox", "setMessageBoxes() has not been called");
+    const MsgBoxResult answer = current->show(text, style, title);
     // Nobody has given it: the program was ended over the box.
     if (eventsEnded()) throw ProgramEnded{};
     return answer;

@@ -15,7 +15,7 @@ public:
     virtual MsgBoxResult show(const QString& text, int style, const QString& title) = 0;
 };
 
-/// Puts an implementation in force; it must outlive its use. With null, boxes are windows.
+/// Sets the implementation; it must outlive its use. To be called before MsgBox().
 void setMessageBoxes(MessageBoxes* boxes);
 
 /// The one way to a box.

@@ -1,5 +1,6 @@
 #include "Connection.h"
 #include "DBEngine.h"
+#include "FixedClock.h"
 #include "Fuzz.h"
 #include "NewDatabase.h"
 
@@ -52,6 +53,7 @@ struct Room {
     QTemporaryDir folder{(QDir(u"/dev/shm"_qs).exists() ? u"/dev/shm"_qs : QDir::tempPath()) +
                          u"/fuzz-XXXXXX"_qs};
     QByteArray whole;
+    FixedClock clock;
 };
 
 int forbidForeignFiles(void*, int action, const char* name, const char*, const char*, const char*) {

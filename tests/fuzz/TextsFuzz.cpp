@@ -2,6 +2,7 @@
 #include "Conversions.h"
 #include "DateLiteral.h"
 #include "DateText.h"
+#include "FixedClock.h"
 #include "Format.h"
 #include "Fuzz.h"
 #include "LikePattern.h"
@@ -110,6 +111,7 @@ void checkCodePage(const QByteArray& bytes, const QString& text) {
 
 /// Three lines are three texts; the first bytes are a number as well.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size) {
+    static const FixedClock clock;
     const QByteArray input(reinterpret_cast<const char*>(bytes), static_cast<qsizetype>(size));
     double number = 0;
     if (size >= sizeof number) std::memcpy(&number, bytes, sizeof number);

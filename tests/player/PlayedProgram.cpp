@@ -14,7 +14,6 @@ PlayedProgram::PlayedProgram(QString folder, QString pictures)
     : m_folder(std::move(folder))
     , m_pictures(std::move(pictures))
     , m_made(QFileInfo::exists(m_folder + u"/uw01.mdb"_qs)) {
-    setClock(&m_clock);
     setMessageBoxes(&m_boxes);
     setPrintDialogs(&m_dialogs);
 }
@@ -23,7 +22,6 @@ PlayedProgram::~PlayedProgram() {
     m_program.reset();
     setPrintDialogs(nullptr);
     setMessageBoxes(nullptr);
-    setClock(nullptr);
 }
 
 void PlayedProgram::requireNoFolder() const {

@@ -2,6 +2,7 @@
 #include "DBEngine.h"
 #include "ErrorOf.h"
 #include "FileReplacement.h"
+#include "FixedClock.h"
 #include "FullDisk.h"
 #include "KilledRuns.h"
 #include "NewDatabase.h"
@@ -39,6 +40,7 @@ QString testFolder() {
 /// A file that is rewritten through the work file in processes that may not live to see its end.
 class RewriteTest : public ::testing::Test {
     QTemporaryDir m_folder = QTemporaryDir(testFolder());
+    FixedClock m_clock;
 
 protected:
     RewriteTest() {

@@ -1,4 +1,5 @@
 #include "Connection.h"
+#include "FixedClock.h"
 #include "FullDisk.h"
 #include "KilledRuns.h"
 #include "MsgBox.h"
@@ -28,6 +29,7 @@ public:
 /// A club of some members on disk, and processes that change its year.
 class YearChangeTest : public ::testing::Test {
     QTemporaryDir m_folder;
+    FixedClock m_clock;
 
 protected:
     YearChangeTest() {

@@ -1,5 +1,5 @@
-#include "Clock.h"
 #include "Conversions.h"
+#include "FixedClock.h"
 #include "Login.h"
 #include "OpenFolder.h"
 #include "Program.h"
@@ -19,11 +19,6 @@ namespace {
 
 constexpr int oldYear = 2025;
 
-class NextYear final : public Clock {
-public:
-    QDateTime now() const override { return QDate(oldYear + 1, 1, 1).startOfDay(); }
-};
-
 /// A folder with one member who has paid and worked, in last year's state.
 class QuitTest : public ::testing::Test {
 protected:
@@ -31,14 +26,11 @@ protected:
         makeProgramFolder(m_folder.path(), oldYear, false);
         add(u"Kontakt"_qs, {{u"KategoNr"_qs, 1}, {u"Nachname"_qs, u"Aal"_qs}});
         add(u"Mitglied"_qs, {{u"knr"_qs, 1}, {u"Bezahlt"_qs, true}, {u"Befreit"_qs, false}});
-        setClock(&m_clock);
+        m_clock.setDay(QDate(oldYear + 1, 1, 1));
         setMessageBoxes(&m_boxes);
     }
 
-    ~QuitTest() override {
-        setMessageBoxes(nullptr);
-        setClock(nullptr);
-    }
+    ~QuitTest() override { setMessageBoxes(nullptr); }
 
     void add(const QString& table, const std::vector<std::pair<QString, Value>>& fields) {
         Database file = openFolder(m_folder.path());
@@ -82,7 +74,7 @@ protected:
     }
 
     QTemporaryDir m_folder;
-    NextYear m_clock;
+    FixedClock m_clock;
     QtMessageBoxes m_boxes;
 };
 

@@ -3,6 +3,7 @@
 #include "Connection.h"
 #include "DBEngine.h"
 #include "ErrorOf.h"
+#include "FixedClock.h"
 #include "NewDatabase.h"
 
 #include <QTemporaryDir>
@@ -11,6 +12,7 @@
 /// A new database file in a folder of its own, opened, with a small club in it.
 class StoreTest : public ::testing::Test {
     QTemporaryDir m_folder; // outlives what is open in it
+    FixedClock m_clock;
 
 protected:
     StoreTest();

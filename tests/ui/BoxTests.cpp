@@ -1,5 +1,5 @@
-#include "MsgBox.h"
 #include "ProgressBar.h"
+#include "QtMessageBoxes.h"
 #include "Toolbar.h"
 
 #include <QApplication>
@@ -35,7 +35,7 @@ Seen answer(const QString& text, int style, int place, MsgBoxResult& result) {
         EXPECT_TRUE(qobject_cast<QPushButton*>(box->buttons().first())->isDefault());
         box->buttons().at(place)->click();
     });
-    result = MsgBox(text, style, u"Titel"_qs);
+    result = QtMessageBoxes().show(text, style, u"Titel"_qs);
     return seen;
 }
 
@@ -46,7 +46,7 @@ void hold(Qt::Key key) {
 
 bool isOpen() { return boxInFront() && boxInFront()->isVisible(); }
 
-TEST(MsgBoxTest, BoxesAreGermanPlainAndBreakTheirLinesOnce) {
+TEST(QtMessageBoxesTest, BoxesAreGermanPlainAndBreakTheirLinesOnce) {
     MsgBoxResult result = vbNo;
     Seen seen = answer(u"eins\n\rzwei\r\ndrei <b>\n\n\rvier"_qs, vbCritical, 0, result);
     EXPECT_EQ(seen.text, u"eins\nzwei\ndrei <b>\n\nvier"_qs);
@@ -66,7 +66,7 @@ TEST(MsgBoxTest, BoxesAreGermanPlainAndBreakTheirLinesOnce) {
     EXPECT_EQ(result, vbOK);
 }
 
-TEST(MsgBoxTest, AKeyCountsOnlyWhenPressedSomeTimeAfterTheBoxCameUp) {
+TEST(QtMessageBoxesTest, AKeyCountsOnlyWhenPressedSomeTimeAfterTheBoxCameUp) {
     constexpr int firstMoments = 310;
     QStringList log;
     const auto note = [&log](const QString& when) {
@@ -84,7 +84,7 @@ TEST(MsgBoxTest, AKeyCountsOnlyWhenPressedSomeTimeAfterTheBoxCameUp) {
         QTest::keyClick(boxInFront()->defaultButton(), Qt::Key_Escape);
         note(u"pressed"_qs);
     });
-    EXPECT_EQ(MsgBox(u"?"_qs, vbYesNo), vbNo);
+    EXPECT_EQ(QtMessageBoxes().show(u"?"_qs, vbYesNo, u"Titel"_qs), vbNo);
     EXPECT_EQ(log.join(u' '), u"atOnce:open held:open pressed:gone"_qs);
 }
 

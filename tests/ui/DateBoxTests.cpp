@@ -14,7 +14,6 @@ namespace {
 class DateBoxTest : public testing::Test {
 protected:
     DateBoxTest() {
-        setClock(&m_clock);
         box.setDate(Date::fromQDate({2026, 2, 14}));
         beside.move(0, 60);
         window.show();
@@ -22,7 +21,6 @@ protected:
         EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
         box.setFocus();
     }
-    ~DateBoxTest() override { setClock(nullptr); }
 
     void type(const QString& text) {
         box.lineEdit()->selectAll();

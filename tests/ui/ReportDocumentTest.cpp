@@ -10,9 +10,6 @@ namespace {
 
 class ReportDocumentTest : public ::testing::Test {
 protected:
-    ReportDocumentTest() { setClock(&clock); }
-    ~ReportDocumentTest() override { setClock(nullptr); }
-
     QStringList text() const { return reportAsText(*report.document()); }
 
     FixedClock clock;
