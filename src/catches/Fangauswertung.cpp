@@ -5,8 +5,8 @@
 #include "Drucklauf.h"
 #include "ExcelAusgabe.h"
 #include "Fangbuch.h"
-#include "Main.h"
 #include "MsgBox.h"
+#include "Rahmen.h"
 #include "Screens.h"
 #include "Session.h"
 #include "Toolbar.h"
@@ -86,7 +86,7 @@ void Fangauswertung::tblFAusw_OnGridCellDown(int row) {
 
 void Fangauswertung::tblFAusw_OnGridCellMenu() {
     const Session& s = session();
-    if (s.AktZeile >= 0 && tblFAusw->rowCount() >= 1 && s.KontextZeileOK) screen<Main>().loadKontMenu_FAusw();
+    if (s.AktZeile >= 0 && tblFAusw->rowCount() >= 1 && s.KontextZeileOK) rahmen()->loadKontMenu_FAusw();
 }
 
 void Fangauswertung::tblFAusw_OnGridCellOpen(int row) {

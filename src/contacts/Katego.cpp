@@ -5,6 +5,7 @@
 #include "Heading.h"
 #include "KontaktUebers.h"
 #include "MsgBox.h"
+#include "Rahmen.h"
 #include "Screens.h"
 #include "Session.h"
 #include "TextBox.h"
@@ -12,7 +13,6 @@
 #include "ValueLabel.h"
 #include "modFangbuch.h"
 #include "modKatego.h"
-#include "modNavigation.h"
 #include "modRun.h"
 
 #include <QGridLayout>
@@ -113,7 +113,7 @@ void Katego::Loeschen() {
 void Katego::Schliessen() {
     modKatego::KategoAnzeigeLoeschen();
     Hide();
-    modNavigation::binde(session().AktBarItem, screen<KontaktUebers>());
+    rahmen()->binde(screen<KontaktUebers>());
     screen<KontaktUebers>().Show();
 }
 

@@ -6,15 +6,14 @@
 #include "Heading.h"
 #include "Katego.h"
 #include "Kontakt.h"
-#include "MitglList.h"
 #include "MsgBox.h"
+#include "Rahmen.h"
 #include "Screens.h"
 #include "Session.h"
 #include "SuchKont.h"
 #include "Toolbar.h"
 #include "Uebersicht.h"
 #include "modKontakt.h"
-#include "modNavigation.h"
 #include "modRun.h"
 #include "modSerienbrief.h"
 
@@ -85,13 +84,12 @@ void KontaktUebers::NeuerKontakt() {
 }
 
 void KontaktUebers::BearbeiteKategorien() {
-    modNavigation::binde(session().AktBarItem, screen<Katego>());
+    rahmen()->binde(screen<Katego>());
     screen<Katego>().Show();
 }
 
 void KontaktUebers::ZeigeMitglieder() {
-    modNavigation::binde(session().AktBarItem, screen<MitglList>());
-    screen<MitglList>().Show();
+    rahmen()->zeigeMitgliederliste();
 }
 
 void KontaktUebers::Suchen() {

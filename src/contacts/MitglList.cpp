@@ -3,8 +3,8 @@
 #include "ComboBox.h"
 #include "DataTable.h"
 #include "Drucklauf.h"
-#include "Main.h"
 #include "MsgBox.h"
+#include "Rahmen.h"
 #include "Screens.h"
 #include "Session.h"
 #include "Toolbar.h"
@@ -12,7 +12,6 @@
 #include "modArbeit.h"
 #include "modKontakt.h"
 #include "modMitglList.h"
-#include "modNavigation.h"
 #include "modRun.h"
 
 #include <QCheckBox>
@@ -63,7 +62,7 @@ void MitglList::tbEsc_Click() {
     modMitglList::LeereMListAnzeige();
     session().SuchAufrufer = 0;
     Hide();
-    modNavigation::zeigeBereich(u"Kontakte"_qs);
+    rahmen()->zeigeBereich(u"Kontakte"_qs);
 }
 
 void MitglList::drucke(const QString& wort) {
@@ -79,7 +78,7 @@ void MitglList::tblMList_OnGridCellDown(int row) {
 
 void MitglList::tblMList_OnGridCellMenu() {
     const Session& s = session();
-    if (s.AktZeile >= 0 && tblMList->rowCount() >= 1 && s.KontextZeileOK) screen<Main>().loadKontMenu_Mitgl();
+    if (s.AktZeile >= 0 && tblMList->rowCount() >= 1 && s.KontextZeileOK) rahmen()->loadKontMenu_Mitgl();
 }
 
 void MitglList::tblMList_OnGridCellOpen(int row) {

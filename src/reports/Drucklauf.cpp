@@ -5,13 +5,13 @@
 #include "Info.h"
 #include "MsgBox.h"
 #include "PrintDialogs.h"
+#include "Rahmen.h"
 #include "Report.h"
 #include "Screens.h"
 #include "Session.h"
 #include "Stage.h"
 #include "StagedRows.h"
 #include "Vorschau.h"
-#include "modNavigation.h"
 #include "modTools.h"
 
 #include <QLabel>
@@ -42,7 +42,7 @@ void gibAus(ErrorTail& step, Hourglass& hourglass, Report& report, const QString
         step([&] { printAfterDialog(*report.document()); });
     } else if (wort == u"vorschau"_qs) {
         hourglass.end();
-        step([&] { modNavigation::binde(session().AktBarItem, screen<Vorschau>()); });
+        step([&] { rahmen()->binde(screen<Vorschau>()); });
         step([&] {
             const auto document = report.document();
             screen<Vorschau>().zeige(document);

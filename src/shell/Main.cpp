@@ -1,6 +1,7 @@
 #include "Main.h"
 
 #include "Info.h"
+#include "MitglList.h"
 #include "NavigationBar.h"
 #include "Program.h"
 #include "Screens.h"
@@ -49,6 +50,7 @@ QMenu* popup(QWidget* parent, const char* name, const QString& caption) {
 Main::Main()
     : Screen(u"Main"_qs, u"Uferwart"_qs) {
     standAlone();
+    setRahmen(this);
     menuBar = new QMenuBar(this);
     ButtnBar = new NavigationBar(u"ButtnBar"_qs, this);
     stage = new Stage(this);
@@ -68,7 +70,11 @@ Main::Main()
     column->addWidget(StatusBar1);
 
     connect(stage, &Stage::frontChanged, this, &Main::keepMenuLetters);
-    on(ButtnBar, &NavigationBar::itemClicked, [this](const QString& key) { ButtnBar_ItemClick(key); });
+    on(ButtnBar, &NavigationBar::itemClicked, [this](const QString& key) { zeigeBereich(key); });
+}
+
+Main::~Main() {
+    if (rahmen() == this) setRahmen(nullptr);
 }
 
 void Main::buildMenus() {
@@ -129,10 +135,19 @@ void Main::hideEvent(QHideEvent* event) {
     if (!event->spontaneous()) stage->setActive(false);
 }
 
-void Main::ButtnBar_ItemClick(const QString& key) { modNavigation::zeigeBereich(key); }
+void Main::zeigeBereich(const QString& key) { modNavigation::zeigeBereich(key); }
+
+void Main::binde(Screen& screen) { modNavigation::binde(session().AktBarItem, screen); }
+
+void Main::zeigeMitgliederliste() {
+    binde(screen<MitglList>());
+    screen<MitglList>().Show();
+}
+
+void Main::beende() { unload<Main>(); }
 
 void Main::mnuInfo_Click() {
-    modNavigation::binde(session().AktBarItem, screen<Info>());
+    binde(screen<Info>());
     screen<Info>().ShowAbove(this);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Rahmen.h"
 #include "Screen.h"
 
 class NavigationBar;
@@ -11,19 +12,23 @@ class StatusBar;
 
 /// The frame: menus, navigation bar, the stage with the other screens, status bar. Its load is the start-up
 /// of the program, its unload the end.
-class Main : public Screen {
+class Main : public Screen, public Rahmen {
     Q_OBJECT
 
 public:
     Main();
+    ~Main() override;
 
     void Form_Load() override;
     void Form_Unload() override;
     void Form_QueryUnload() override;
 
-    /// Pop up a context menu at the mouse, its items enabled by the rights of the moment.
-    void loadKontMenu_Mitgl();
-    void loadKontMenu_FAusw();
+    void zeigeBereich(const QString& key) override;
+    void binde(Screen& screen) override;
+    void zeigeMitgliederliste() override;
+    void loadKontMenu_Mitgl() override;
+    void loadKontMenu_FAusw() override;
+    void beende() override;
 
     QMenuBar* menuBar;
     NavigationBar* ButtnBar;
@@ -52,6 +57,5 @@ private:
     void buildMenus();
     void buildPanels();
     void keepMenuLetters(const Screen* front);
-    void ButtnBar_ItemClick(const QString& key);
     void mnuInfo_Click();
 };

@@ -6,8 +6,8 @@
 #include "DateBox.h"
 #include "Drucklauf.h"
 #include "Format.h"
-#include "MitglList.h"
 #include "MsgBox.h"
+#include "Rahmen.h"
 #include "RuntimeError.h"
 #include "Screens.h"
 #include "Session.h"
@@ -15,7 +15,6 @@
 #include "ValueLabel.h"
 #include "modArbeit.h"
 #include "modKontakt.h"
-#include "modNavigation.h"
 #include "modRun.h"
 
 #include <QPushButton>
@@ -87,8 +86,7 @@ void Arbeit::cmdSuch_Click() {
 
 void Arbeit::cmdMList_Click() {
     Hide();
-    modNavigation::binde(session().AktBarItem, screen<MitglList>());
-    screen<MitglList>().Show();
+    rahmen()->zeigeMitgliederliste();
 }
 
 namespace {

@@ -7,6 +7,7 @@
 #include "Format.h"
 #include "MitglList.h"
 #include "MsgBox.h"
+#include "Rahmen.h"
 #include "Recordset.h"
 #include "Screens.h"
 #include "Session.h"
@@ -14,7 +15,6 @@
 #include "System.h"
 #include "ValueLabel.h"
 #include "modArbeit.h"
-#include "modNavigation.h"
 #include "modRun.h"
 #include "modSystem.h"
 
@@ -110,7 +110,7 @@ void mnuArbContr_Click() {
         Arbeit& form = screen<Arbeit>();
         form.cmdMList->setEnabled(true);
         form.erwarteMitglied();
-        modNavigation::zeigeBereich(u"Arbeit"_qs);
+        rahmen()->zeigeBereich(u"Arbeit"_qs);
         form.pvDate->setFocus();
     });
 }
