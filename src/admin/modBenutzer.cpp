@@ -4,6 +4,7 @@
 #include "ComboBox.h"
 #include "Conversions.h"
 #include "DataTable.h"
+#include "Datenbank.h"
 #include "Datensatz.h"
 #include "ErrorTail.h"
 #include "MsgBox.h"

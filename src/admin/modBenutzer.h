@@ -14,6 +14,10 @@ namespace modBenutzer {
 /// The grid row of the group on which the cursor stands: number, name and the ten rights.
 std::vector<Value> gruppenZeile(const Recordset& gruppe);
 
+/// Fill the grids at the start: users with a group, and groups with their rights.
+void loadTblBenutzer();
+void loadTblZugriff();
+
 /// A new user from the form; a group that there is not ends it, told by a box.
 void SpeicherBenutzer();
 /// Changes the opened user and its grid row.

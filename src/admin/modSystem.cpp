@@ -2,6 +2,7 @@
 
 #include "Conversions.h"
 #include "DataTable.h"
+#include "Datenbank.h"
 #include "ErrorTail.h"
 #include "Format.h"
 #include "Info.h"

@@ -3,6 +3,7 @@
 #include "ComboBox.h"
 #include "Conversions.h"
 #include "DataTable.h"
+#include "Datenbank.h"
 #include "ErrorTail.h"
 #include "Fangauswertung.h"
 #include "Fangbuch.h"

@@ -2,6 +2,7 @@
 #include "ComboBox.h"
 #include "Conversions.h"
 #include "DataTable.h"
+#include "Datenbank.h"
 #include "ErrorTail.h"
 #include "Fangbuch.h"
 #include "MsgBox.h"

@@ -88,9 +88,7 @@ void KontaktUebers::BearbeiteKategorien() {
     screen<Katego>().Show();
 }
 
-void KontaktUebers::ZeigeMitglieder() {
-    rahmen()->zeigeMitgliederliste();
-}
+void KontaktUebers::ZeigeMitglieder() { rahmen()->zeigeMitgliederliste(); }
 
 void KontaktUebers::Suchen() {
     modKontakt::SuchAnzeigeLoeschen();

@@ -2,19 +2,18 @@
 
 #include "Conversions.h"
 #include "DataTable.h"
+#include "Datenbank.h"
 #include "Datensatz.h"
 #include "ErrorTail.h"
 #include "Katego.h"
 #include "MsgBox.h"
 #include "Recordset.h"
 #include "Screens.h"
-#include "Session.h"
 #include "TextBox.h"
 #include "Uebersicht.h"
 #include "ValueLabel.h"
 
 #include "modRun.h"
-#include "modStart.h"
 
 namespace modKatego {
 
@@ -40,11 +39,11 @@ bool istSystemkategorie(const QString& name) {
 }
 
 void loadTblKatego() {
-    modStart::fuelleGrid(u"loadTblKatego"_qs, screen<Katego>().tblKatego, u"SELECT * FROM Katego"_qs,
-                         [](const Recordset& katego) {
-                             const QString name = modRun::textOderLeer(katego.Fields(u"kategorie"_qs));
-                             return std::vector<Value>{katego.Collect(u"kategonr"_qs), alsZeile(name)};
-                         });
+    ::fuelleGrid(u"loadTblKatego"_qs, screen<Katego>().tblKatego, u"SELECT * FROM Katego"_qs,
+                 [](const Recordset& katego) {
+                     const QString name = modRun::textOderLeer(katego.Fields(u"kategorie"_qs));
+                     return std::vector<Value>{katego.Collect(u"kategonr"_qs), alsZeile(name)};
+                 });
 }
 
 void loadKatego(int row, int /*column*/) {

@@ -1,6 +1,6 @@
+#include "Datenbank.h"
 #include "ErrorTail.h"
 #include "Recordset.h"
-#include "Session.h"
 #include "modKontakt.h"
 
 // The annual fee at the change of the year.

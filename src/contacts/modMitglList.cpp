@@ -3,6 +3,7 @@
 #include "ComboBox.h"
 #include "Conversions.h"
 #include "DataTable.h"
+#include "Datenbank.h"
 #include "ErrorTail.h"
 #include "Format.h"
 #include "Hourglass.h"

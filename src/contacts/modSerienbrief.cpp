@@ -3,6 +3,7 @@
 #include "Conversions.h"
 #include "CsvDatei.h"
 #include "DataTable.h"
+#include "Datenbank.h"
 #include "KontaktUebers.h"
 #include "MsgBox.h"
 #include "Screens.h"

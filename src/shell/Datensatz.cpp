@@ -1,7 +1,7 @@
 #include "Datensatz.h"
 
+#include "Datenbank.h"
 #include "ErrorTail.h"
-#include "Session.h"
 
 namespace Datensatz {
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Datenbank.h"
 #include "RuntimeError.h"
 
 #include <QString>

@@ -24,11 +24,3 @@ void beginSession(const QString& folder) {
     state().values = Session{};
     state().folder = folder;
 }
-
-Recordset oeffneAbfrage(const QString& select) {
-    return session().AktDatenbank.OpenRecordset(select, dbOpenDynaset);
-}
-
-Recordset oeffneTabelle(const QString& name) {
-    return session().AktDatenbank.OpenRecordset(name, dbOpenTable);
-}

@@ -67,9 +67,6 @@ Session& session();
 
 /// The folder that holds the program, its database file and the folders beside it.
 const QString& programFolder();
-/// The result of a SELECT on the open database, and one of its tables. Errors as for Database::OpenRecordset.
-Recordset oeffneAbfrage(const QString& select);
-Recordset oeffneTabelle(const QString& name);
 
 /// Begins a new session over a program folder; every value is back at its start.
 void beginSession(const QString& folder);

@@ -1,9 +1,9 @@
 #include "Zugriff.h"
 
+#include "Datenbank.h"
 #include "ErrorTail.h"
 #include "Main.h"
 #include "Screens.h"
-#include "Session.h"
 #include "SqlText.h"
 #include "StatusBar.h"
 

@@ -2,6 +2,7 @@
 
 #include "Clock.h"
 #include "DataTable.h"
+#include "Datenbank.h"
 #include "Eroef.h"
 #include "ErrorTail.h"
 #include "Fangbuch.h"
@@ -18,6 +19,7 @@
 #include "TextBox.h"
 #include "Toolbar.h"
 #include "modBasis.h"
+#include "modBenutzer.h"
 #include "modBesatzList.h"
 #include "modFangbuch.h"
 #include "modKatego.h"
@@ -218,27 +220,14 @@ void LadeStammdaten() {
     session().TabelleLaedt = true;
     modBasis::loadTblFBasis();
     modBasis::loadTblGBasis();
-    loadTblBenutzer();
-    loadTblZugriff();
+    modBenutzer::loadTblBenutzer();
+    modBenutzer::loadTblZugriff();
     modKontakt::FuelleKontaktUebersicht();
     modSystem::loadTblSystem();
     modBesatzList::loadTblBList();
     modKatego::loadTblKatego();
     modFangbuch::loadTblFList(screen<Eroef>().pb);
     session().TabelleLaedt = false;
-}
-
-void fuelleGrid(const QString& routine, DataTable* grid, const QString& select,
-                const std::function<std::vector<Value>(const Recordset&)>& zeile) {
-    withErrorTail(u"modStart"_qs, routine, [&](ErrorTail& step) {
-        Recordset satz;
-        step([&] { satz = oeffneAbfrage(select); });
-        if (step.test([&] { return satz.RecordCount() != 0; })) {
-            step([&] { satz.MoveFirst(); });
-            step.forEachRow(satz, [&] { step([&] { grid->appendRow(zeile(satz)); }); });
-        }
-        step([&] { satz.Close(); });
-    });
 }
 
 void ZeigeFangjahr() { screen<Main>().StatusBar1->setPanelText(8, QString::number(session().AktJahr)); }

@@ -3,10 +3,6 @@
 #include "Recordset.h"
 
 #include <QString>
-#include <functional>
-#include <vector>
-
-class DataTable;
 
 /// The start of the program, from the loading of the frame to the catch book in front.
 namespace modStart {
@@ -35,12 +31,6 @@ void SetzeDatumsVariablen();
 bool KontrolliereSystemJahr();
 /// Fills all grids of all screens, once.
 void LadeStammdaten();
-/// A grid row from each record that the statement finds; `routine` stands in the error box.
-void fuelleGrid(const QString& routine, DataTable* grid, const QString& select,
-                const std::function<std::vector<Value>(const Recordset&)>& zeile);
-/// Users with a group, and groups with their rights.
-void loadTblBenutzer();
-void loadTblZugriff();
 /// Writes the year into the status bar.
 void ZeigeFangjahr();
 

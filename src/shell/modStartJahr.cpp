@@ -1,4 +1,5 @@
 #include "Conversions.h"
+#include "Datenbank.h"
 #include "ErrorTail.h"
 #include "MsgBox.h"
 #include "Session.h"

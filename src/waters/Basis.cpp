@@ -4,7 +4,6 @@
 #include "Face.h"
 #include "Heading.h"
 #include "MemoBox.h"
-#include "Session.h"
 #include "TextBox.h"
 #include "Toolbar.h"
 #include "ValueLabel.h"

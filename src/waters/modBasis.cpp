@@ -3,6 +3,7 @@
 #include "Basis.h"
 #include "Conversions.h"
 #include "DataTable.h"
+#include "Datenbank.h"
 #include "Datensatz.h"
 #include "ErrorTail.h"
 #include "Fangbuch.h"
@@ -14,7 +15,6 @@
 #include "TextBox.h"
 #include "ValueLabel.h"
 #include "modRun.h"
-#include "modStart.h"
 
 #include <QTabWidget>
 
@@ -85,8 +85,7 @@ std::vector<Value> alsZeile(const Recordset& satz, const Art& art) {
 }
 
 void fuelleGrid(const QString& routine, const Art& art, const QString& select) {
-    modStart::fuelleGrid(routine, art.grid, select,
-                         [&](const Recordset& satz) { return alsZeile(satz, art); });
+    ::fuelleGrid(routine, art.grid, select, [&](const Recordset& satz) { return alsZeile(satz, art); });
 }
 
 /// The two fields of the form, in the order in which they are written.

@@ -3,6 +3,7 @@
 #include "Conversions.h"
 #include "DataTable.h"
 #include "DateBox.h"
+#include "Datenbank.h"
 #include "ErrorTail.h"
 #include "Format.h"
 #include "MitglList.h"

@@ -1,4 +1,5 @@
 #include "Conversions.h"
+#include "Datenbank.h"
 #include "ErrorTail.h"
 #include "Format.h"
 #include "MsgBox.h"

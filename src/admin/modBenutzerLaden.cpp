@@ -1,9 +1,9 @@
 #include "Benutzer.h"
+#include "Datenbank.h"
 #include "Screens.h"
 #include "modBenutzer.h"
-#include "modStart.h"
 
-namespace modStart {
+namespace modBenutzer {
 
 void loadTblBenutzer() {
     fuelleGrid(u"loadTblBenutzer"_qs, screen<Benutzer>().tblBenutzer,
@@ -20,4 +20,4 @@ void loadTblZugriff() {
                &modBenutzer::gruppenZeile);
 }
 
-} // namespace modStart
+} // namespace modBenutzer
