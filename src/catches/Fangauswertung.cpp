@@ -5,12 +5,14 @@
 #include "Drucklauf.h"
 #include "ExcelAusgabe.h"
 #include "Fangbuch.h"
+#include "Jahre.h"
 #include "MsgBox.h"
 #include "Rahmen.h"
 #include "Screens.h"
 #include "Session.h"
 #include "Toolbar.h"
 #include "ValueLabel.h"
+#include "modBasis.h"
 #include "modFAuswert.h"
 #include "modFangbuch.h"
 #include "modRun.h"
@@ -20,9 +22,9 @@
 // The face of the screen is built in FangauswertungFace.cpp; here is what it does.
 
 void Fangauswertung::Form_Load() {
-    modFangbuch::loadcboFArt(cboFArt);
-    modFangbuch::loadcboGName(cboGName);
-    modFangbuch::loadcboFJahr(cboFJahr);
+    modBasis::loadcboFArt(cboFArt);
+    modBasis::loadcboGName(cboGName);
+    loadcboFJahr(cboFJahr);
     cboFJahr->setText(QString::number(session().AktJahr));
     cboFMonat->setText(session().AktMonat);
 }
@@ -33,8 +35,8 @@ void Fangauswertung::Form_Activate() {
         session().NachReport = false;
         return;
     }
-    modFangbuch::loadcboFArt(cboFArt);
-    modFangbuch::loadcboGName(cboGName);
+    modBasis::loadcboFArt(cboFArt);
+    modBasis::loadcboGName(cboGName);
 }
 
 void Fangauswertung::Toolbar1_ButtonClick(const QString& key) {

@@ -1,9 +1,11 @@
 #include "Fangbuch.h"
 
+#include "Basis.h"
 #include "Clock.h"
 #include "ComboBox.h"
 #include "Conversions.h"
 #include "DataTable.h"
+#include "Jahre.h"
 #include "MemoBox.h"
 #include "MsgBox.h"
 #include "RuntimeError.h"
@@ -13,6 +15,7 @@
 #include "TextBox.h"
 #include "Toolbar.h"
 #include "ValueLabel.h"
+#include "modBasis.h"
 #include "modFangbuch.h"
 #include "modRun.h"
 
@@ -20,12 +23,25 @@
 
 void Fangbuch::Form_Load() {
     modFangbuch::InitFangbuch();
-    modFangbuch::loadcboFArt(cboFArt);
-    modFangbuch::loadcboGName(cboGName);
-    modFangbuch::loadcboFJahr(cboFJahr);
+    beobachteBasisdaten();
+    modBasis::loadcboFArt(cboFArt);
+    modBasis::loadcboGName(cboGName);
+    loadcboFJahr(cboFJahr);
     cboFJahr->setText(QString::number(session().AktJahr));
     cboSelMonat->setText(session().AktMonat);
     zeigeAnzahlen();
+}
+
+/// The grid shows the names of fish and waters, which may change on another screen.
+void Fangbuch::beobachteBasisdaten() {
+    const auto gleicheAb = [this](int column) {
+        return [grid = QPointer(tblFList), column](const Basis::Verweis& verweis) {
+            if (grid)
+                modRun::GridVerweiseAbgleichen(grid, column, verweis.name, verweis.modus, verweis.alterName);
+        };
+    };
+    screen<Basis>().fischGeaendert = gleicheAb(1);
+    screen<Basis>().gewaesserGeaendert = gleicheAb(2);
 }
 
 void Fangbuch::Form_Activate() {
@@ -33,8 +49,8 @@ void Fangbuch::Form_Activate() {
     // A catch that has just been opened from the evaluation must not lose what it shows.
     if (session().Modus != u"SAVE"_qs) return;
     zeigeAnzahlen();
-    modFangbuch::loadcboFArt(cboFArt);
-    modFangbuch::loadcboGName(cboGName);
+    modBasis::loadcboFArt(cboFArt);
+    modBasis::loadcboGName(cboGName);
     cboFArt->setFocus();
 }
 

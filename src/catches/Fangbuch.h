@@ -63,6 +63,7 @@ private:
     void buildTable();
     void connectEvents();
 
+    void beobachteBasisdaten();
     void zeigeAnzahlen();
     void Speichern();
     void Loeschen();

@@ -8,12 +8,14 @@
 #include "ErrorTail.h"
 #include "Fangbuch.h"
 #include "MemoBox.h"
+#include "Namen.h"
 #include "Recordset.h"
 #include "Screens.h"
 #include "Session.h"
 #include "TextBox.h"
 #include "ValueLabel.h"
 #include "Zugriff.h"
+#include "modBasis.h"
 #include "modRun.h"
 
 namespace modFangbuch {
@@ -23,7 +25,7 @@ namespace {
 const QString modul = u"modFangbuch"_qs;
 
 /// The seven fields of the form, in the order in which they are written.
-void schreibeFelder(ErrorTail& step, Recordset& fang, const Fangbuch& form, const Nummern& nummern) {
+void schreibeFelder(ErrorTail& step, Recordset& fang, const Fangbuch& form, const ArtUndGewaesser& nummern) {
     step([&] { fang.Collect(u"FangJahr"_qs, CLng(form.cboFJahr->Text())); });
     step([&] { fang.Collect(u"FangMonat"_qs, CLng(form.txtMonNr->Text())); });
     step([&] { fang.Collect(u"FischNr"_qs, nummern.fisch); });
@@ -66,7 +68,7 @@ void InitFangbuch() {
 void SpeicherFang() {
     withErrorTail(modul, u"SpeicherFang"_qs, [](ErrorTail& step) {
         const Fangbuch& form = screen<Fangbuch>();
-        const auto nummern = ermittleNummern(form.cboFArt, form.cboGName);
+        const auto nummern = ermittleNummern(form.cboFArt->Text(), form.cboGName->Text());
         if (!nummern) return;
         std::vector<Value> zeile;
         const auto felder = [&](Recordset& fang) { schreibeFelder(step, fang, form, *nummern); };
@@ -82,7 +84,7 @@ void SpeicherFang() {
 void UpdateFang(int row) {
     withErrorTail(modul, u"UpdateFang"_qs, [row](ErrorTail& step) {
         const Fangbuch& form = screen<Fangbuch>();
-        const auto nummern = ermittleNummern(form.cboFArt, form.cboGName);
+        const auto nummern = ermittleNummern(form.cboFArt->Text(), form.cboGName->Text());
         if (!nummern) return;
         const auto felder = [&](Recordset& fang) { schreibeFelder(step, fang, form, *nummern); };
         if (Datensatz::aendere(step, u"Fang"_qs, form.lblFNr->Caption(), felder)) {
@@ -139,8 +141,8 @@ void loadFang(DataTable* grid, int row) {
     withErrorTail(modul, u"loadFang"_qs, [grid, row](ErrorTail& step) {
         Fangbuch& form = screen<Fangbuch>();
         // Opened from the evaluation, the catch book comes up in EDIT, and its activation fills no lists.
-        step([&] { loadcboFArt(form.cboFArt); });
-        step([&] { loadcboGName(form.cboGName); });
+        step([&] { modBasis::loadcboFArt(form.cboFArt); });
+        step([&] { modBasis::loadcboGName(form.cboGName); });
         Recordset fang;
         step([&] {
             fang = oeffneAbfrage(

@@ -10,7 +10,6 @@ class ProgressBar;
 /// The record routines of the catch book.
 namespace modFangbuch {
 
-/// The stocking plan uses it too.
 void InitFangbuch();
 
 /// The entry form as a new record.
@@ -32,25 +31,4 @@ QString Ermittle_DSAnzahl();
 
 /// The entries of AktMonatNr of AktJahr into the catch book's grid.
 void loadTblFList(ProgressBar* pb);
-/// Appends a year list. It is not emptied first; a gap between the highest stored year and AktJahr stays a
-/// gap, and years before the stored ones stand behind them.
-void loadcboFJahr(ComboBox* combo);
-/// From the grids of the base data, not from the file.
-void loadcboFArt(ComboBox* combo);
-void loadcboGName(ComboBox* combo);
-
-/// 0 or the empty text if there is none; the first of several.
-qint32 ErmittleFischNr(const QString& name);
-QString ErmittleFischname(qint32 number);
-qint32 ErmittleGewaesserNr(const QString& name);
-QString ErmittleGewaessername(qint32 number);
-
-/// The numbers behind the two combo boxes.
-struct Nummern {
-    qint32 fisch;
-    qint32 gewaesser;
-};
-/// Nothing, after a box, if the file does not know one of the names.
-std::optional<Nummern> ermittleNummern(const ComboBox* art, const ComboBox* gewaesser);
-
 } // namespace modFangbuch

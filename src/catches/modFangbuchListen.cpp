@@ -10,7 +10,6 @@
 #include "Recordset.h"
 #include "Screens.h"
 #include "Session.h"
-#include "SqlText.h"
 #include "modFangbuch.h"
 #include "modRun.h"
 
@@ -73,83 +72,6 @@ void loadTblFList(ProgressBar* pb) {
         step([&] { liste.Close(); });
         step([&] { anzahl.Close(); });
     });
-}
-
-namespace {
-
-/// Lowest or highest year in the catch book; AktJahr where there is none.
-qint32 grenzjahr(ErrorTail& step, const QString& select) {
-    qint32 jahr = session().AktJahr;
-    Recordset fang;
-    step([&] { fang = oeffneAbfrage(select); });
-    step([&] {
-        const Value value = fang.RecordCount() == 0 ? Value() : fang.Collect(u"Expr1000"_qs);
-        if (!value.isNull() && CLng(value) != 0) jahr = CLng(value);
-    });
-    step([&] { fang.Close(); });
-    return jahr;
-}
-
-void fuelleAusGrid(ComboBox* combo, const DataTable* grid) {
-    combo->Clear();
-    for (int row = 0; row < grid->rowCount(); ++row) combo->AddItem(grid->cellText(row, 1));
-}
-
-/// One field of the first row of a query; 0 or the empty text if there is no row.
-template<typename Result>
-Result schlageNach(const QString& routine, const QString& field, Result (*convert)(const Value&),
-                   const std::function<QString()>& select) {
-    Result result{};
-    withErrorTail(u"modFangbuch"_qs, routine, [&](ErrorTail& step) {
-        Recordset satz;
-        step([&] { satz = oeffneAbfrage(select()); });
-        if (step.test([&] { return satz.RecordCount() == 1; }))
-            step([&] { result = convert(satz.Collect(field)); });
-        step([&] { satz.Close(); });
-    });
-    return result;
-}
-
-} // namespace
-
-void loadcboFJahr(ComboBox* combo) {
-    withErrorTail(u"modFAuswert"_qs, u"loadcboFJahr"_qs, [combo](ErrorTail& step) {
-        const qint32 lowest = grenzjahr(step, u"SELECT MIN(FangJahr) FROM Fang"_qs);
-        const qint32 highest = grenzjahr(step, u"SELECT MAX(FangJahr) FROM Fang"_qs);
-        modRun::haengeJahreAn(combo, lowest, highest, session().AktJahr);
-    });
-}
-
-void loadcboFArt(ComboBox* combo) { fuelleAusGrid(combo, screen<Basis>().tblFBasis); }
-void loadcboGName(ComboBox* combo) { fuelleAusGrid(combo, screen<Basis>().tblGBasis); }
-
-qint32 ErmittleFischNr(const QString& name) {
-    return schlageNach(u"ErmittleFischNr"_qs, u"FNr"_qs, &CLng,
-                       [&] { return u"SELECT FNr FROM Fisch WHERE FName = "_qs + quoted(name); });
-}
-
-QString ErmittleFischname(qint32 number) {
-    return schlageNach(u"ErmittleFischname"_qs, u"FName"_qs, &CStr,
-                       [&] { return u"SELECT FName FROM Fisch WHERE FNr = "_qs + QString::number(number); });
-}
-
-qint32 ErmittleGewaesserNr(const QString& name) {
-    return schlageNach(u"ErmittleGewaesserNr"_qs, u"GNr"_qs, &CLng,
-                       [&] { return u"SELECT GNr FROM Gewaesser WHERE GName = "_qs + quoted(name); });
-}
-
-QString ErmittleGewaessername(qint32 number) {
-    return schlageNach(u"ErmittleGewaessername"_qs, u"GName"_qs, &CStr, [&] {
-        return u"SELECT GName FROM Gewaesser WHERE GNr = "_qs + QString::number(number);
-    });
-}
-
-std::optional<Nummern> ermittleNummern(const ComboBox* art, const ComboBox* gewaesser) {
-    const auto fisch = modRun::ermittleNummer(&ErmittleFischNr, art->Text());
-    if (!fisch) return std::nullopt;
-    const auto dort = modRun::ermittleNummer(&ErmittleGewaesserNr, gewaesser->Text());
-    if (!dort) return std::nullopt;
-    return Nummern{*fisch, *dort};
 }
 
 } // namespace modFangbuch

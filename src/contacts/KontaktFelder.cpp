@@ -4,6 +4,7 @@
 #include "Conversions.h"
 #include "Kontakt.h"
 #include "MemoBox.h"
+#include "Namen.h"
 #include "TextBox.h"
 #include "ValueLabel.h"
 #include "modKatego.h"
@@ -80,9 +81,7 @@ void schreibeMitglied(ErrorTail& step, Recordset& mitglied, const Kontakt& form)
 void zeigeKontakt(ErrorTail& step, const Recordset& kontakt, Kontakt& form) {
     step([&] { form.lblKNr->setCaption(CStr(kontakt.Collect(u"knr"_qs))); });
     // Choosing the category opens or closes the fields of a member.
-    step([&] {
-        form.cboKatego->setText(modKontakt::ErmittleKategoName(CLng(kontakt.Collect(u"kategonr"_qs))));
-    });
+    step([&] { form.cboKatego->setText(ErmittleKategoName(CLng(kontakt.Collect(u"kategonr"_qs)))); });
     zeigeTexte(step, kontakt, form, person);
     step([&] { form.txtGebDat->setText(modRun::TextAusDatum(kontakt.Fields(u"GebDatum"_qs))); });
     step([&] { form.chkEinzug->setChecked(modRun::CheckBoxAusWert(kontakt.Fields(u"Bankeinzug"_qs)) != 0); });

@@ -1,5 +1,6 @@
 #include "KontaktUebers.h"
 
+#include "ComboBox.h"
 #include "Conversions.h"
 #include "DataTable.h"
 #include "Face.h"
@@ -20,6 +21,28 @@
 #include <QBoxLayout>
 #include <QLabel>
 #include <algorithm>
+
+namespace {
+
+void bieteAlleKategorien(ComboBox* combo) {
+    modKontakt::FuelleKategoCombo(combo);
+    combo->InsertItem(0, u"Alle"_qs);
+}
+
+void oeffneTreffer(SuchKont& suche, int row, int column) {
+    if (!modKontakt::KontaktZugriff_Erlaubt()) {
+        modRun::MeldeKeinZugriff();
+        return;
+    }
+    Session& s = session();
+    s.Modus = u"EDIT"_qs;
+    s.AktZeile = row;
+    s.AusSuche = true;
+    modKontakt::loadKontakt(suche.tblSuch, row, column);
+    s.AusSuche = false;
+}
+
+} // namespace
 
 KontaktUebers::KontaktUebers()
     : Screen(u"KontaktUebers"_qs, u"Kontakt - Übersicht"_qs) {
@@ -63,6 +86,7 @@ void KontaktUebers::buildToolbar() {
 }
 
 void KontaktUebers::Form_Load() {
+    SuchKont::registriere(0, {&bieteAlleKategorien, true, &oeffneTreffer});
     modRun::beendeVorgang();
     session().AktZeile = 0;
 }

@@ -3,6 +3,7 @@
 #include "ComboBox.h"
 #include "DataTable.h"
 #include "Drucklauf.h"
+#include "Jahre.h"
 #include "MsgBox.h"
 #include "Rahmen.h"
 #include "Screens.h"
@@ -20,7 +21,7 @@
 // The face of the screen is built in MitglListFace.cpp; here is what it does.
 
 void MitglList::Form_Load() {
-    modArbeit::loadcboArbJahre(cboArbJahr);
+    loadcboArbJahre(cboArbJahr);
     cboArbJahr->setListIndex(cboArbJahr->findText(QString::number(session().Startjahr)));
 }
 

@@ -3,23 +3,30 @@
 #include "ComboBox.h"
 #include "DataTable.h"
 #include "Face.h"
+#include "Namen.h"
 #include "Session.h"
 #include "TextBox.h"
 #include "Theme.h"
 #include "ValueLabel.h"
-#include "modArbeit.h"
 #include "modKontakt.h"
 #include "modRun.h"
 
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <map>
 
 namespace {
 
-// Who opened the search.
-constexpr qint16 kontaktUebersicht = 0;
-constexpr qint16 arbeitscontrolling = 1;
+std::map<qint16, Suchweg>& wege() {
+    static std::map<qint16, Suchweg> byCaller;
+    return byCaller;
+}
+
+const Suchweg* weg() {
+    const auto found = wege().find(session().SuchAufrufer);
+    return found == wege().end() ? nullptr : &found->second;
+}
 
 } // namespace
 
@@ -73,21 +80,12 @@ void SuchKont::build() {
     lblGefDS->setAccessibleName(u"Gefunden"_qs);
 }
 
+void SuchKont::registriere(qint16 aufrufer, const Suchweg& weg) { wege()[aufrufer] = weg; }
+
 void SuchKont::Form_Load() {
-    switch (session().SuchAufrufer) {
-    case kontaktUebersicht:
-        modKontakt::FuelleKategoCombo(cboKatego);
-        cboKatego->InsertItem(0, u"Alle"_qs);
-        cboKatego->setListIndex(0);
-        break;
-    case arbeitscontrolling:
-        cboKatego->AddItem(u"Mitglieder (aktiv)"_qs);
-        cboKatego->AddItem(u"Mitglieder (passiv)"_qs);
-        cboKatego->setListIndex(0);
-        break;
-    default:
-        break;
-    }
+    if (!weg()) return;
+    weg()->fuelleKategorien(cboKatego);
+    cboKatego->setListIndex(0);
 }
 
 void SuchKont::Form_Paint() {
@@ -108,8 +106,8 @@ bool SuchKont::Form_KeyDown(int key, Qt::KeyboardModifiers) {
 void SuchKont::cmdSuch_Click() {
     if (txtSuch->Text().isEmpty() || cboKatego->Text().isEmpty()) return modRun::MeldeEingabeFehler();
     // The club may have a category of its own by this name.
-    const bool alle = session().SuchAufrufer == kontaktUebersicht && cboKatego->ListIndex() == 0;
-    const qint32 kategonr = alle ? 0 : modKontakt::ErmittleKategoNr(cboKatego->Text());
+    const bool alle = weg() && weg()->ersterIstAlle && cboKatego->ListIndex() == 0;
+    const qint32 kategonr = alle ? 0 : ErmittleKategoNr(cboKatego->Text());
     modKontakt::SucheKontakt(txtSuch->Text(), kategonr);
     if (tblSuch->rowCount() > 0) {
         lblGefDS->setCaption(QString::number(tblSuch->rowCount()));
@@ -123,23 +121,5 @@ void SuchKont::cmdSuch_Click() {
 }
 
 void SuchKont::tblSuch_OnGridCellOpen(int row, int column) {
-    if (row < 0) return;
-    if (session().SuchAufrufer == kontaktUebersicht) oeffneKontakt(row, column);
-    if (session().SuchAufrufer == arbeitscontrolling) {
-        Hide();
-        modArbeit::UebernehmeKontakt(row);
-    }
-}
-
-void SuchKont::oeffneKontakt(int row, int column) {
-    Session& s = session();
-    if (!modKontakt::KontaktZugriff_Erlaubt()) {
-        modRun::MeldeKeinZugriff();
-        return;
-    }
-    s.Modus = u"EDIT"_qs;
-    s.AktZeile = row;
-    s.AusSuche = true;
-    modKontakt::loadKontakt(tblSuch, row, column);
-    s.AusSuche = false;
+    if (row >= 0 && weg()) weg()->treffer(*this, row, column);
 }

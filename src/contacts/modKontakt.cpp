@@ -11,7 +11,6 @@
 #include "MemoBox.h"
 #include "Recordset.h"
 #include "Screens.h"
-#include "SqlText.h"
 #include "TextBox.h"
 #include "Toolbar.h"
 #include "ValueLabel.h"
@@ -23,7 +22,6 @@
 #include <QRadioButton>
 #include <QScopeGuard>
 #include <QTabWidget>
-#include <functional>
 
 // The mask of a contact and the lookups around it. What writes stands in modKontaktSpeichern.cpp.
 
@@ -33,34 +31,9 @@ namespace {
 
 const QString modul = u"modKontakt"_qs;
 
-/// A value of the first row of a query; what is given otherwise where there is none.
-Value erster(const QString& routine, const QString& feld, const Value& sonst,
-             const std::function<QString()>& select) {
-    Value value = sonst;
-    withErrorTail(modul, routine, [&](ErrorTail& step) {
-        Recordset katego;
-        step([&] { katego = oeffneAbfrage(select()); });
-        if (step.test([&] { return katego.RecordCount() == 1; })) step([&] { value = katego.Collect(feld); });
-        step([&] { katego.Close(); });
-    });
-    return value;
-}
-
 } // namespace
 
 bool KontaktZugriff_Erlaubt() { return zugriffErlaubt(modul, u"KontaktZugriff_Erlaubt"_qs, u"Kontakt"_qs); }
-
-qint32 ErmittleKategoNr(const QString& name) {
-    return CLng(erster(u"ErmittleKategoNr"_qs, u"kategonr"_qs, 0,
-                       [&] { return u"SELECT KategoNr FROM Katego WHERE Kategorie = "_qs + quoted(name); }));
-}
-
-QString ErmittleKategoName(qint32 number) {
-    const Value name = erster(u"ErmittleKategoName"_qs, u"kategorie"_qs, QString(), [&] {
-        return u"SELECT Kategorie FROM Katego WHERE KategoNr = "_qs + QString::number(number);
-    });
-    return name.isNull() ? QString() : CStr(name);
-}
 
 void FuelleKategoCombo(ComboBox* combo) {
     const DataTable* grid = screen<Katego>().tblKatego;

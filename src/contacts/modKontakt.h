@@ -11,10 +11,6 @@ namespace modKontakt {
 /// True if the user who is logged in may use this part.
 bool KontaktZugriff_Erlaubt();
 
-/// The number of the first category of this name; 0 if there is none.
-qint32 ErmittleKategoNr(const QString& name);
-/// The name of the category of this number; empty if there is none.
-QString ErmittleKategoName(qint32 number);
 /// Fills a list with the categories that stand in the grid of their screen, unless it has as many already.
 void FuelleKategoCombo(ComboBox* combo);
 

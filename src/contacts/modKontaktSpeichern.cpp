@@ -6,6 +6,7 @@
 #include "Kontakt.h"
 #include "KontaktFelder.h"
 #include "KontaktUebers.h"
+#include "Namen.h"
 #include "Recordset.h"
 #include "Screens.h"
 #include "Session.h"
@@ -85,7 +86,7 @@ Datensatz::Danach liesZeile(ErrorTail& step, std::vector<Value>& zeile) {
 void SpeicherKontakt() {
     withErrorTail(modul, u"SpeicherKontakt"_qs, [](ErrorTail& step) {
         const Kontakt& form = screen<Kontakt>();
-        const auto kategonr = modRun::ermittleNummer(&ErmittleKategoNr, form.cboKatego->Text());
+        const auto kategonr = ermittleNummer(&ErmittleKategoNr, form.cboKatego->Text());
         if (!kategonr) return;
         std::vector<Value> zeile;
         const auto danach = [&](Recordset& kontakt) {
@@ -203,7 +204,7 @@ bool aendere(ErrorTail& step, qint32 knr, Umzug& umzug, const Kontakt& form,
 void UpdateKontakt(int row) {
     withErrorTail(modul, u"UpdateKontakt"_qs, [row](ErrorTail& step) {
         const Kontakt& form = screen<Kontakt>();
-        const auto neueNr = modRun::ermittleNummer(&ErmittleKategoNr, form.cboKatego->Text());
+        const auto neueNr = ermittleNummer(&ErmittleKategoNr, form.cboKatego->Text());
         if (!neueNr) return;
         Umzug umzug{*neueNr};
         const qint32 knr = nummerDerMaske(step, form);
@@ -233,7 +234,7 @@ void ziehtUm(qint32 knr, const Umzug& umzug, const Kontakt& form) {
 void UpdateSQLKontakt() {
     withErrorTail(modul, u"UpdateSQLKontakt"_qs, [](ErrorTail& step) {
         const Kontakt& form = screen<Kontakt>();
-        const auto neueNr = modRun::ermittleNummer(&ErmittleKategoNr, form.cboKatego->Text());
+        const auto neueNr = ermittleNummer(&ErmittleKategoNr, form.cboKatego->Text());
         if (!neueNr) return;
         Umzug umzug{*neueNr};
         const qint32 knr = nummerDerMaske(step, form);

@@ -2,6 +2,7 @@
 #include "DataTable.h"
 #include "Datenbank.h"
 #include "ErrorTail.h"
+#include "Namen.h"
 #include "Recordset.h"
 #include "Screens.h"
 #include "SqlText.h"

@@ -9,10 +9,12 @@
 #include "Hourglass.h"
 #include "MitglList.h"
 #include "MsgBox.h"
+#include "Namen.h"
 #include "ProgressBar.h"
 #include "Recordset.h"
 #include "Screens.h"
 #include "Session.h"
+#include "Stunden.h"
 #include "System.h"
 #include "TextBox.h"
 #include "ValueLabel.h"
@@ -76,9 +78,9 @@ void rechneStunden(ErrorTail& step, const Lauf& lauf, Zeile& zeile) {
     step([&] {
         const qint32 knr = CLng(zeile[0]);
         const KeptErrorCount kept;
-        zeile[9] = zweiStellen(modArbeit::ErmittleStunden(knr, lauf.jahr));
+        zeile[9] = zweiStellen(ErmittleStunden(knr, lauf.jahr));
     });
-    step([&] { zeile[10] = zweiStellen(modArbeit::BerechneSaldo(CDbl(zeile[9]), CDbl(zeile[8]))); });
+    step([&] { zeile[10] = zweiStellen(BerechneSaldo(CDbl(zeile[9]), CDbl(zeile[8]))); });
 }
 
 /// Compares what the row shows. Exactly the hours owed belong to both answers.
@@ -158,7 +160,7 @@ QString ErstelleFilter(const QString& sql) {
     const auto& ticked = session().MListFilter;
     const QString status = form.optAktiv->isChecked() ? u"Mitglieder (aktiv)"_qs : u"Mitglieder (passiv)"_qs;
     const KeptErrorCount kept;
-    const qint32 kategoNr = modKontakt::ErmittleKategoNr(status);
+    const qint32 kategoNr = ErmittleKategoNr(status);
     QString filter = sql;
     if (ticked[0])
         filter += vergleich(u"k.GebDatum"_qs, {form.cboOptGeb01, form.txtGeb01}) +

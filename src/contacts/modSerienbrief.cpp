@@ -6,6 +6,7 @@
 #include "Datenbank.h"
 #include "KontaktUebers.h"
 #include "MsgBox.h"
+#include "Namen.h"
 #include "Screens.h"
 #include "SeqData.h"
 #include "Session.h"
@@ -45,7 +46,7 @@ QString leermeldung(qint32 kategorie) {
         return u"ACHTUNG: Kategorie - Mitglieder (aktiv) - enthält noch keine Mitgliederdaten !"_qs;
     if (kategorie == passiv)
         return u"ACHTUNG: Kategorie - Mitglieder (passiv) - enthält noch keine Mitgliederdaten !"_qs;
-    return u"ACHTUNG: Kontakt - Kategorie - "_qs + modKontakt::ErmittleKategoName(kategorie) +
+    return u"ACHTUNG: Kontakt - Kategorie - "_qs + ErmittleKategoName(kategorie) +
            u" - enthält noch keine Kontaktdaten !"_qs;
 }
 

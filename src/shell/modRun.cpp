@@ -100,13 +100,6 @@ void leseZellen(ErrorTail& step, const std::vector<Field>& felder, std::span<Val
     for (std::size_t i = 0; i < felder.size(); ++i) step([&] { zeile[i] = felder[i].Value(); });
 }
 
-std::optional<qint32> ermittleNummer(qint32 (*ermittle)(const QString&), const QString& name) {
-    const qint32 nummer = ermittle(name);
-    if (nummer != 0 || session().FehlerZaehler != 0) return nummer;
-    MeldeEingabeFehler();
-    return std::nullopt;
-}
-
 void MeldeNichtVorhanden() {
     MsgBox(u"FEHLER: Datensatz nicht vorhanden o. nicht vorhanden !"_qs, vbCritical);
 }

@@ -3,7 +3,6 @@
 #include "Recordset.h"
 
 #include <QString>
-#include <optional>
 #include <span>
 #include <vector>
 
@@ -51,11 +50,6 @@ bool finde(ErrorTail& step, Recordset& satz, const Value& nummer);
 
 /// The fields of the current row. A cell that cannot be read costs that cell, not the row.
 void leseZellen(ErrorTail& step, const std::vector<Field>& felder, std::span<Value> zeile);
-
-/// The number behind a name in a combo box, from a lookup that answers 0 if its table does not know the name.
-/// Nothing, after a box, in that case: 0 is nobody's number. A lookup that failed has shown its own boxes;
-/// its 0 is passed on.
-std::optional<qint32> ermittleNummer(qint32 (*ermittle)(const QString&), const QString& name);
 
 void MeldeNichtVorhanden();
 void MeldeNichtsGefunden();

@@ -115,9 +115,9 @@ Q_SIGNALS:
     /// one of them has called setOpen; the keys Right, Left, + and - do the same through the same event. On
     /// the text of a category the column is the caption column.
     void OnGridCellDown(int row, int column);
-    /// Double click, or Enter pressed on a row (not held down from elsewhere); Enter on a category is a press on its row header. The first press of
-    /// a double click comes as OnGridCellDown before. Not on the row header of a category, where the second
-    /// press would only undo the first.
+    /// Double click, or Enter pressed on a row (not held down from elsewhere); Enter on a category is a press
+    /// on its row header. The first press of a double click comes as OnGridCellDown before. Not on the row
+    /// header of a category, where the second press would only undo the first.
     void OnGridCellOpen(int row, int column);
     /// Right mouse button, or the menu key; OnGridCellDown comes before.
     void OnGridCellMenu();

@@ -2,6 +2,8 @@
 
 #include "Screen.h"
 
+#include <functional>
+
 class DataTable;
 class Heading;
 class MemoBox;
@@ -23,6 +25,16 @@ public:
     void Form_Paint() override;
     void Form_Activate() override;
     void Form_Deactivate() override;
+
+    /// Told when a name in the file has become another ("UPDATE") or is gone ("LOESCHEN"), so that a list
+    /// which shows it is kept in step.
+    struct Verweis {
+        QString name;
+        QString modus;
+        QString alterName;
+    };
+    std::function<void(const Verweis&)> fischGeaendert;
+    std::function<void(const Verweis&)> gewaesserGeaendert;
 
     Heading* Ueberschrift;
     Toolbar* Toolbar1;

@@ -6,19 +6,21 @@
 #include "DataTable.h"
 #include "Drucklauf.h"
 #include "ExcelAusgabe.h"
+#include "Jahre.h"
 #include "MsgBox.h"
 #include "Session.h"
 #include "ValueLabel.h"
+#include "modBasis.h"
 #include "modBesatzList.h"
-#include "modFangbuch.h"
 #include "modRun.h"
 
 // The face of the screen is built in BesatzungFace.cpp; here is what it does.
 
 void Besatzung::Form_Load() {
-    modFangbuch::InitFangbuch();
-    modFangbuch::loadcboFArt(cboFArt);
-    modFangbuch::loadcboGName(cboGName);
+    modRun::beendeVorgang();
+    session().AktZeile = 0;
+    modBasis::loadcboFArt(cboFArt);
+    modBasis::loadcboGName(cboGName);
 }
 
 void Besatzung::Form_Activate() {
@@ -29,9 +31,9 @@ void Besatzung::Form_Activate() {
     }
     modRun::nimmOffenenWiederAuf(*this);
     if (session().Modus != u"SAVE"_qs) return;
-    modFangbuch::loadcboFArt(cboFArt);
-    modFangbuch::loadcboGName(cboGName);
-    modFangbuch::loadcboFJahr(cboBJahr);
+    modBasis::loadcboFArt(cboFArt);
+    modBasis::loadcboGName(cboGName);
+    loadcboFJahr(cboBJahr);
     waehleJahr(QString::number(session().AktJahr));
     zeigeAnzahl();
 }

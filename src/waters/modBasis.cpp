@@ -1,12 +1,12 @@
 #include "modBasis.h"
 
 #include "Basis.h"
+#include "ComboBox.h"
 #include "Conversions.h"
 #include "DataTable.h"
 #include "Datenbank.h"
 #include "Datensatz.h"
 #include "ErrorTail.h"
-#include "Fangbuch.h"
 #include "MemoBox.h"
 #include "MsgBox.h"
 #include "Recordset.h"
@@ -32,22 +32,17 @@ struct Art {
     MemoBox* txtNotiz;
     DataTable* grid;
     ValueLabel* lblAnzahl;
-    int spalteImFangbuch;  ///< where the catch book's grid shows the name
+    const std::function<void(const Basis::Verweis&)>& geaendert;
     QString nichtGefunden; ///< said when opening finds no record
 };
 
 Art fisch() {
     const Basis& form = screen<Basis>();
-    return {u"Fisch"_qs,
-            u"FNr"_qs,
-            u"FName"_qs,
-            form.lblFNr,
-            form.txtFArt,
-            form.txtFNotiz,
-            form.tblFBasis,
-            form.lblFAnzahl,
-            1,
-            u"FEHLER: Datensatz nicht vorhanden o. nicht gefunden !"_qs};
+    return {u"Fisch"_qs,         u"FNr"_qs,
+            u"FName"_qs,         form.lblFNr,
+            form.txtFArt,        form.txtFNotiz,
+            form.tblFBasis,      form.lblFAnzahl,
+            form.fischGeaendert, u"FEHLER: Datensatz nicht vorhanden o. nicht gefunden !"_qs};
 }
 
 Art gewaesser() {
@@ -60,7 +55,7 @@ Art gewaesser() {
             form.txtGNotiz,
             form.tblGBasis,
             form.lblGAnzahl,
-            2,
+            form.gewaesserGeaendert,
             u"Fehler: Datensatz nicht vorhanden o. nicht gefunden !"_qs};
 }
 
@@ -76,6 +71,10 @@ void leere(const Art& art) {
     art.lblNr->setCaption(QString());
     art.txtName->setText(QString());
     art.txtNotiz->setText(QString());
+}
+
+void melde(const Art& art, const Basis::Verweis& verweis) {
+    if (art.geaendert) art.geaendert(verweis);
 }
 
 void zeigeAnzahl(const Art& art) { art.lblAnzahl->setCaption(QString::number(art.grid->rowCount())); }
@@ -115,10 +114,7 @@ void aendere(const QString& routine, const Art& art, int row) {
         if (Datensatz::aendere(step, art.tabelle, art.lblNr->Caption(), felder(step, art), {},
                                &meldeNichtGefunden)) {
             step([&] { art.grid->setCell(modRun::zeileVon(art.grid, art.lblNr, row), 1, name); });
-            step([&] {
-                modRun::GridVerweiseAbgleichen(screen<Fangbuch>().tblFList, art.spalteImFangbuch, name,
-                                               u"UPDATE"_qs, alterName);
-            });
+            step([&] { melde(art, {name, u"UPDATE"_qs, alterName}); });
         }
         BasisAnzeigeLoeschen();
     });
@@ -133,10 +129,7 @@ void loesche(const QString& routine, const Art& art, int row) {
         if (Datensatz::loesche(step, art.tabelle, art.lblNr->Caption(), {}, &meldeNichtGeloescht)) {
             step([&] { art.grid->removeRow(modRun::zeileVon(art.grid, art.lblNr, row)); });
             zeigeAnzahl(art);
-            step([&] {
-                modRun::GridVerweiseAbgleichen(screen<Fangbuch>().tblFList, art.spalteImFangbuch,
-                                               art.txtName->Text(), u"LOESCHEN"_qs, QString());
-            });
+            step([&] { melde(art, {art.txtName->Text(), u"LOESCHEN"_qs, QString()}); });
         }
         BasisAnzeigeLoeschen();
     });
@@ -215,6 +208,18 @@ void BasisAlleAnzeigenLoeschen() {
 
 void loadTblFBasis() { fuelleGrid(u"loadTblFBasis"_qs, fisch(), u"SELECT * FROM Fisch"_qs); }
 void loadTblGBasis() { fuelleGrid(u"loadTblGBasis"_qs, gewaesser(), u"SELECT GNr, GName FROM Gewaesser"_qs); }
+
+namespace {
+
+void fuelleAusGrid(ComboBox* combo, const DataTable* grid) {
+    combo->Clear();
+    for (int row = 0; row < grid->rowCount(); ++row) combo->AddItem(grid->cellText(row, 1));
+}
+
+} // namespace
+
+void loadcboFArt(ComboBox* combo) { fuelleAusGrid(combo, screen<Basis>().tblFBasis); }
+void loadcboGName(ComboBox* combo) { fuelleAusGrid(combo, screen<Basis>().tblGBasis); }
 
 bool FischEingabeVollstaendig() { return vollstaendig(fisch()); }
 bool GewaesserEingabeVollstaendig() { return vollstaendig(gewaesser()); }

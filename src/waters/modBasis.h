@@ -2,6 +2,8 @@
 
 #include <QString>
 
+class ComboBox;
+
 /// The base data: kinds of fish and waters. The two are kept alike; each routine has its twin.
 namespace modBasis {
 
@@ -14,6 +16,10 @@ void BasisAlleAnzeigenLoeschen();
 /// Fill the grids, once, at the start.
 void loadTblFBasis();
 void loadTblGBasis();
+
+/// Fill a list with the names of all kinds of fish, or of all waters, as the grids show them.
+void loadcboFArt(ComboBox* combo);
+void loadcboGName(ComboBox* combo);
 
 /// True if the name is filled; else a box says so.
 bool FischEingabeVollstaendig();

@@ -9,12 +9,12 @@
 #include "ErrorTail.h"
 #include "Format.h"
 #include "MsgBox.h"
+#include "Namen.h"
 #include "Recordset.h"
 #include "Screens.h"
 #include "Session.h"
 #include "TextBox.h"
 #include "ValueLabel.h"
-#include "modFangbuch.h"
 #include "modRun.h"
 
 #include <array>
@@ -39,14 +39,13 @@ void fuelleZeile(ErrorTail& step, std::vector<Value>& zeile) {
         const KeptErrorCount kept;
         return ermittle(CLng(number));
     };
-    step([&] { zeile[1] = name(zeile[1], &modFangbuch::ErmittleFischname); });
-    step([&] { zeile[2] = name(zeile[2], &modFangbuch::ErmittleGewaessername); });
+    step([&] { zeile[1] = name(zeile[1], &ErmittleFischname); });
+    step([&] { zeile[2] = name(zeile[2], &ErmittleGewaessername); });
     step([&] { zeile[4] = alsGewicht(zeile[4]); });
 }
 
 /// The five fields of the form, in the order in which they are written.
-void schreibeFelder(ErrorTail& step, Recordset& plan, const Besatzung& form,
-                    const modFangbuch::Nummern& nummern) {
+void schreibeFelder(ErrorTail& step, Recordset& plan, const Besatzung& form, const ArtUndGewaesser& nummern) {
     step([&] { plan.Collect(u"BJahr"_qs, CLng(form.cboBJahr->Text())); });
     step([&] { plan.Collect(u"FNr"_qs, nummern.fisch); });
     step([&] { plan.Collect(u"GNr"_qs, nummern.gewaesser); });
@@ -96,7 +95,7 @@ void loadTblBList() {
 void SpeicherEintrag() {
     withErrorTail(modul, u"SpeicherEintrag"_qs, [](ErrorTail& step) {
         const Besatzung& form = screen<Besatzung>();
-        const auto nummern = modFangbuch::ermittleNummern(form.cboFArt, form.cboGName);
+        const auto nummern = ermittleNummern(form.cboFArt->Text(), form.cboGName->Text());
         if (!nummern) return;
         std::vector<Value> zeile;
         const auto felder = [&](Recordset& plan) { schreibeFelder(step, plan, form, *nummern); };
@@ -114,7 +113,7 @@ void SpeicherEintrag() {
 void UpdateEintrag(int row) {
     withErrorTail(modul, u"UpdateEintrag"_qs, [row](ErrorTail& step) {
         const Besatzung& form = screen<Besatzung>();
-        const auto nummern = modFangbuch::ermittleNummern(form.cboFArt, form.cboGName);
+        const auto nummern = ermittleNummern(form.cboFArt->Text(), form.cboGName->Text());
         if (!nummern) return;
         const auto felder = [&](Recordset& plan) { schreibeFelder(step, plan, form, *nummern); };
         if (Datensatz::aendere(step, u"Besatzung"_qs, form.lblBNr->Caption(), felder)) {

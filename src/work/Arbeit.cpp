@@ -6,11 +6,13 @@
 #include "DateBox.h"
 #include "Drucklauf.h"
 #include "Format.h"
+#include "Jahre.h"
 #include "MsgBox.h"
 #include "Rahmen.h"
 #include "RuntimeError.h"
 #include "Screens.h"
 #include "Session.h"
+#include "Stunden.h"
 #include "SuchKont.h"
 #include "ValueLabel.h"
 #include "modArbeit.h"
@@ -21,9 +23,24 @@
 
 // The face of the screen is built in ArbeitFace.cpp; here is what it does.
 
+namespace {
+
+void bieteMitglieder(ComboBox* combo) {
+    combo->AddItem(u"Mitglieder (aktiv)"_qs);
+    combo->AddItem(u"Mitglieder (passiv)"_qs);
+}
+
+void uebernehmeTreffer(SuchKont& suche, int row, int /*column*/) {
+    suche.Hide();
+    modArbeit::UebernehmeKontakt(row);
+}
+
+} // namespace
+
 void Arbeit::Form_Load() {
+    SuchKont::registriere(1, {&bieteMitglieder, false, &uebernehmeTreffer});
     modArbeit::LeereArbEingabe();
-    modArbeit::loadcboArbJahre(cboArbJahr);
+    loadcboArbJahre(cboArbJahr);
     if (cboArbJahr->ListCount() > 0) cboArbJahr->setText(QString::number(session().Startjahr));
     modRun::beendeVorgang();
     session().AktZeile = 0;
@@ -110,7 +127,7 @@ void Arbeit::cboArbJahr_Click() {
     };
     try {
         soweitMitglied(lade);
-        soweitMitglied([&] { lblGesStd->setCaption(Format(lade(), modArbeit::stundenMuster())); });
+        soweitMitglied([&] { lblGesStd->setCaption(Format(lade(), stundenMuster())); });
         soweitMitglied([] { modArbeit::zeigePflichtStd(); });
         soweitMitglied([] { modArbeit::zeigeSaldo(); });
     } catch (const RuntimeError&) {

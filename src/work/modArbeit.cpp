@@ -13,6 +13,7 @@
 #include "MemoBox.h"
 #include "Recordset.h"
 #include "Screens.h"
+#include "Stunden.h"
 #include "TextBox.h"
 #include "ValueLabel.h"
 #include "Zugriff.h"

@@ -10,18 +10,10 @@ namespace modArbeit {
 /// True if the user who is logged in may use this part.
 bool ArbeitsZugriff_Erlaubt();
 
-/// The hours a member has worked in a year; 0 without bookings.
-double ErmittleStunden(qint32 knr, qint32 jahr);
-/// Hours worked less hours owed, rounded to two decimals as they are shown.
-double BerechneSaldo(double gearbeitet, double pflicht);
-
 /// Writes a row with last year's balance for every member who is not exempt, into the current year.
 void UebernehmeStunden(qint32 altesJahr);
 /// Removes the bookings of the first of January of a year that the clock has left backwards.
 void Ueberpruefe_auf_Uebertrag(qint32 altesJahr);
-
-/// Fills a combo with the years that have bookings and the current one.
-void loadcboArbJahre(ComboBox* combo);
 
 /// Takes the member of a row of the contact search into the ledger.
 void UebernehmeKontakt(int row);
@@ -46,8 +38,6 @@ void LeereArbAnzeige();
 /// True if there are hours, a member and a date that can be read; else a box says so.
 bool PruefeArbEingabe();
 
-/// Hours are shown in this pattern, and what is shown is what the balance is made of.
-QString stundenMuster();
 /// The hours owed, from the parameters' grid.
 void zeigePflichtStd();
 /// The balance of the two sums as they stand on the screen.

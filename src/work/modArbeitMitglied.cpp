@@ -12,6 +12,7 @@
 #include "Recordset.h"
 #include "Screens.h"
 #include "Session.h"
+#include "Stunden.h"
 #include "SuchKont.h"
 #include "System.h"
 #include "ValueLabel.h"
@@ -138,29 +139,6 @@ double loadTblArbeit(qint32 knr, qint32 jahr) {
     return ErmittleStunden(knr, jahr);
 }
 
-double ErmittleStunden(qint32 knr, qint32 jahr) {
-    double stunden = 0;
-    withErrorTail(modul, u"ErmittleStunden"_qs, [&](ErrorTail& step) {
-        Recordset summe;
-        step([&] {
-            summe = oeffneAbfrage(u"SELECT SUM(ArbStd) FROM Arbeit WHERE KNr = "_qs + QString::number(knr) +
-                                  u" AND Jahr = "_qs + QString::number(jahr));
-        });
-        step([&] {
-            const Value value = summe.RecordCount() == 1 ? summe.Collect(u"Expr1000"_qs) : Value();
-            if (!value.isNull()) stunden = CDbl(value);
-        });
-        step([&] { summe.Close(); });
-    });
-    return stunden;
-}
-
-double BerechneSaldo(double gearbeitet, double pflicht) {
-    return CDbl(Format(gearbeitet - pflicht, stundenMuster()));
-}
-
-QString stundenMuster() { return u"###0.00"_qs; }
-
 void zeigePflichtStd() {
     const DataTable* parameter = screen<System>().tblSystem;
     int start = 0;
@@ -172,34 +150,6 @@ void zeigeSaldo() {
     const Arbeit& form = screen<Arbeit>();
     const double saldo = BerechneSaldo(CDbl(form.lblGesStd->Caption()), CDbl(form.lblPflStd->Caption()));
     form.lblErgStd->setCaption(Format(saldo, stundenMuster()));
-}
-
-namespace {
-
-/// Lowest or highest year of the ledger, this year where there is none; nothing without exactly one answer.
-std::optional<qint32> grenzjahr(ErrorTail& step, const QString& select) {
-    std::optional<qint32> jahr;
-    Recordset arbeit;
-    step([&] { arbeit = oeffneAbfrage(select); });
-    step([&] {
-        if (arbeit.RecordCount() != 1) return;
-        const Value value = arbeit.Collect(u"Expr1000"_qs);
-        jahr = value.isNull() ? qint32(session().Startjahr) : CLng(value);
-    });
-    step([&] { arbeit.Close(); });
-    return jahr;
-}
-
-} // namespace
-
-void loadcboArbJahre(ComboBox* combo) {
-    withErrorTail(modul, u"loadcboArbJahre"_qs, [combo](ErrorTail& step) {
-        const auto lowest = grenzjahr(step, u"SELECT MIN(Jahr) FROM Arbeit"_qs);
-        if (!lowest) return;
-        const auto highest = grenzjahr(step, u"SELECT MAX(Jahr) FROM Arbeit"_qs);
-        if (!highest) return;
-        modRun::haengeJahreAn(combo, *lowest, *highest, session().Startjahr);
-    });
 }
 
 } // namespace modArbeit

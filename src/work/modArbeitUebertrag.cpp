@@ -5,6 +5,7 @@
 #include "MsgBox.h"
 #include "Recordset.h"
 #include "Session.h"
+#include "Stunden.h"
 #include "modArbeit.h"
 
 #include <optional>

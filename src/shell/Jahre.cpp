@@ -1,0 +1,51 @@
+#include "Jahre.h"
+
+#include "Conversions.h"
+#include "Datenbank.h"
+#include "ErrorTail.h"
+#include "Session.h"
+#include "modRun.h"
+
+#include <optional>
+
+namespace {
+
+/// The lowest or highest year that a query finds, `sonst` where it finds none; nothing if it failed.
+std::optional<qint32> grenzjahr(ErrorTail& step, const QString& select, qint32 sonst) {
+    std::optional<qint32> jahr;
+    Recordset satz;
+    step([&] { satz = oeffneAbfrage(select); });
+    step([&] {
+        if (satz.RecordCount() != 1) return;
+        const Value value = satz.Collect(u"Expr1000"_qs);
+        jahr = value.isNull() ? sonst : CLng(value);
+    });
+    step([&] { satz.Close(); });
+    return jahr;
+}
+
+} // namespace
+
+void loadcboFJahr(ComboBox* combo) {
+    withErrorTail(u"modFAuswert"_qs, u"loadcboFJahr"_qs, [combo](ErrorTail& step) {
+        const qint32 aktJahr = session().AktJahr;
+        const auto grenze = [&](const QString& select) {
+            const qint32 jahr = grenzjahr(step, select, aktJahr).value_or(aktJahr);
+            return jahr == 0 ? aktJahr : jahr;
+        };
+        const qint32 lowest = grenze(u"SELECT MIN(FangJahr) FROM Fang"_qs);
+        const qint32 highest = grenze(u"SELECT MAX(FangJahr) FROM Fang"_qs);
+        modRun::haengeJahreAn(combo, lowest, highest, aktJahr);
+    });
+}
+
+void loadcboArbJahre(ComboBox* combo) {
+    withErrorTail(u"modArbeit"_qs, u"loadcboArbJahre"_qs, [combo](ErrorTail& step) {
+        const qint32 diesesJahr = session().Startjahr;
+        const auto lowest = grenzjahr(step, u"SELECT MIN(Jahr) FROM Arbeit"_qs, diesesJahr);
+        if (!lowest) return;
+        const auto highest = grenzjahr(step, u"SELECT MAX(Jahr) FROM Arbeit"_qs, diesesJahr);
+        if (!highest) return;
+        modRun::haengeJahreAn(combo, *lowest, *highest, diesesJahr);
+    });
+}
