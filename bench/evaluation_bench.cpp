@@ -1,6 +1,5 @@
 // The evaluation: an unfiltered query, its file for the spreadsheet, and the way of its rows onto paper.
 
-#include "Ado.h"
 #include "Berichte.h"
 #include "DataTable.h"
 #include "Fangauswertung.h"
@@ -12,7 +11,6 @@
 #include "ReportDocument.h"
 #include "Screens.h"
 #include "Session.h"
-#include "StagedRows.h"
 #include "Vorschau.h"
 #include "modFAuswert.h"
 

@@ -15,7 +15,7 @@ namespace modFAuswert {
 
 namespace {
 
-void schreibeZeile(ErrorTail& step, ADODB::Recordset& zeile, const DataTable& grid, int row) {
+void schreibeZeile(ErrorTail& step, Recordset& zeile, const DataTable& grid, int row) {
     const auto number = [&](int column) { return Value(CLng(grid.cell(row, column))); };
     step([&] { zeile.Collect(u"FangNr"_qs, number(0)); });
     step([&] { zeile.Collect(u"Name"_qs, grid.cellText(row, 1)); });
@@ -59,9 +59,7 @@ void DruckeFangListe(const QString& wort) {
     const DataTable& grid = *form.tblFAusw;
     drucke({u"modFAuswert"_qs, u"DruckeFangListe"_qs, form, grid, u"Druck_Fangliste"_qs,
             &Berichte::rpt_Fangliste,
-            [&grid](ErrorTail& step, ADODB::Recordset& zeile, int row) {
-                schreibeZeile(step, zeile, grid, row);
-            },
+            [&grid](ErrorTail& step, Recordset& zeile, int row) { schreibeZeile(step, zeile, grid, row); },
             &richteEin},
            wort);
 }

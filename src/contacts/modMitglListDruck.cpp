@@ -28,7 +28,7 @@ Druckauftrag auftrag(const QString& routine, const QString& tabelle, Report& (*r
                      const std::vector<Spalte>& spalten) {
     MitglList& form = screen<MitglList>();
     const DataTable& grid = *form.tblMList;
-    const auto schreibe = [&grid, spalten](ErrorTail& step, ADODB::Recordset& zeile, int row) {
+    const auto schreibe = [&grid, spalten](ErrorTail& step, Recordset& zeile, int row) {
         step([&] { zeile.Collect(u"KontaktNr"_qs, CLng(grid.cell(row, 0))); });
         for (const auto& [column, field, numeric] : spalten)
             step([&, c = column, &f = field, n = numeric] {

@@ -1,8 +1,8 @@
 #include "Drucklauf.h"
 
+#include "DBEngine.h"
 #include "DataTable.h"
 #include "Hourglass.h"
-#include "Info.h"
 #include "MsgBox.h"
 #include "PrintDialogs.h"
 #include "Rahmen.h"
@@ -10,31 +10,54 @@
 #include "Screens.h"
 #include "Session.h"
 #include "Stage.h"
-#include "StagedRows.h"
 #include "Vorschau.h"
 #include "modTools.h"
 
-#include <QLabel>
-
 namespace {
 
-void oeffne(ErrorTail& step, ADODB::Connection& connection) {
-    step([&] { connection.setProvider(u"Microsoft.Jet.OLEDB.4.0"_qs); });
-    step([&] { connection.setProperty(u"Data Source"_qs, programFolder() + u"/uw01.mdb"_qs); });
-    step([&] { connection.setProperty(u"Jet OLEDB:Database Password"_qs, modTools::passwort()); });
-    step([&] { connection.Open(); });
+/// The rows of a staging table as a report takes them over.
+class StagedRows final : public ReportRowSource {
+public:
+    explicit StagedRows(Recordset& rows)
+        : m_rows(rows)
+        , m_fields(rows.Fields()) {}
+
+    QStringList fields() const override { return m_rows.FieldNames(); }
+
+    bool next(std::vector<Value>& row) override {
+        if (m_begun)
+            m_rows.MoveNext();
+        else
+            m_rows.MoveFirst();
+        m_begun = true;
+        if (m_rows.Eof()) return false;
+        for (std::size_t i = 0; i < m_fields.size(); ++i) row[i] = m_fields[i].Value();
+        return true;
+    }
+
+private:
+    Recordset& m_rows;
+    std::vector<Field> m_fields;
+    bool m_begun = false;
+};
+
+/// A second connection on the file of the program, so that staging is an action of its own.
+Database zweiteVerbindung() {
+    return DBEngine::Workspaces(0).OpenDatabase(programFolder() + u"/uw01.mdb"_qs, false, false,
+                                                modTools::connectText());
 }
 
-void leere(ErrorTail& step, ADODB::Recordset& rows) {
+void leere(ErrorTail& step, Recordset& rows) {
     if (!step.test([&] { return !rows.Bof(); })) return;
     step([&] { rows.MoveFirst(); });
     step.forEachRow(rows, [&] { step([&] { rows.Delete(); }); });
 }
 
 void setzeAnschrift(ErrorTail& step, Report& report) {
-    const Info& info = screen<Info>();
-    for (const QLabel* label : {info.lblVerein, info.lblStrasse, info.lblPLZ, info.lblOrt, info.lblTelefon})
-        step([&] { report.control(u"Section2"_qs, label->objectName()).setCaption(label->text()); });
+    auto line = session().Anschrift.begin();
+    for (const QString& label :
+         {u"lblVerein"_qs, u"lblStrasse"_qs, u"lblPLZ"_qs, u"lblOrt"_qs, u"lblTelefon"_qs})
+        step([&] { report.control(u"Section2"_qs, label).setCaption(*line++); });
 }
 
 void gibAus(ErrorTail& step, Hourglass& hourglass, Report& report, const QString& wort) {
@@ -50,7 +73,7 @@ void gibAus(ErrorTail& step, Hourglass& hourglass, Report& report, const QString
     }
 }
 
-void stelleDar(ErrorTail& step, const Druckauftrag& auftrag, ADODB::Recordset& rows, const QString& wort,
+void stelleDar(ErrorTail& step, const Druckauftrag& auftrag, Recordset& rows, const QString& wort,
                Hourglass& hourglass) {
     if (step.test([] { return printDialogs().printerCount() <= 0; })) {
         hourglass.leave();
@@ -72,13 +95,10 @@ void stelleDar(ErrorTail& step, const Druckauftrag& auftrag, ADODB::Recordset& r
 void drucke(const Druckauftrag& auftrag, const QString& wort) {
     withErrorTail(auftrag.modul, auftrag.routine, [&](ErrorTail& step) {
         Hourglass hourglass(auftrag.aufrufer);
-        ADODB::Connection connection;
-        ADODB::Recordset rows;
-        oeffne(step, connection);
-        step([&] {
-            rows.Open(auftrag.tabelle, connection, ADODB::adOpenDynamic, ADODB::adLockOptimistic,
-                      ADODB::adCmdTable);
-        });
+        Database connection;
+        Recordset rows;
+        step([&] { connection = zweiteVerbindung(); });
+        step([&] { rows = connection.OpenRecordset(auftrag.tabelle, dbOpenTable); });
         leere(step, rows);
         if (auftrag.grid.rowCount() == 0) {
             hourglass.end();

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Ado.h"
 #include "ErrorTail.h"
+#include "Recordset.h"
 
 #include <functional>
 
@@ -18,7 +18,7 @@ struct Druckauftrag {
     QString tabelle;       ///< the staging table
     Report& (*report)();
     /// Writes the fields of a grid row into a new staging row.
-    std::function<void(ErrorTail&, ADODB::Recordset&, int row)> schreibeZeile;
+    std::function<void(ErrorTail&, Recordset&, int row)> schreibeZeile;
     /// Sets the report's own labels and binds its controls.
     std::function<void(ErrorTail&, Report&)> richteEin;
 };

@@ -1,6 +1,5 @@
 #include "Berichte.h"
 #include "Briefkopf.h"
-#include "Session.h"
 
 namespace {
 
@@ -31,10 +30,6 @@ namespace Berichte {
 
 QString titelArbListe() { return u"Arbeitsliste [Einzelaufstellung] für Jahr"_qs; }
 
-Report& rpt_ArbListe() {
-    auto& report = session().Berichte[u"rpt_ArbListe"_qs];
-    if (!report) report = makeArbListe();
-    return *report;
-}
+Report& rpt_ArbListe() { return bericht(u"rpt_ArbListe"_qs, &makeArbListe); }
 
 } // namespace Berichte

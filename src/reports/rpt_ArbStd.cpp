@@ -1,6 +1,5 @@
 #include "Berichte.h"
 #include "Briefkopf.h"
-#include "Session.h"
 
 namespace {
 
@@ -26,10 +25,6 @@ std::shared_ptr<Report> makeArbStd() {
 
 namespace Berichte {
 
-Report& rpt_ArbStd() {
-    auto& report = session().Berichte[u"rpt_ArbStd"_qs];
-    if (!report) report = makeArbStd();
-    return *report;
-}
+Report& rpt_ArbStd() { return bericht(u"rpt_ArbStd"_qs, &makeArbStd); }
 
 } // namespace Berichte

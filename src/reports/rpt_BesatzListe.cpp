@@ -1,6 +1,5 @@
 #include "Berichte.h"
 #include "Briefkopf.h"
-#include "Session.h"
 
 namespace {
 
@@ -22,10 +21,6 @@ std::shared_ptr<Report> makeBesatzListe() {
 
 namespace Berichte {
 
-Report& rpt_BesatzListe() {
-    auto& report = session().Berichte[u"rpt_BesatzListe"_qs];
-    if (!report) report = makeBesatzListe();
-    return *report;
-}
+Report& rpt_BesatzListe() { return bericht(u"rpt_BesatzListe"_qs, &makeBesatzListe); }
 
 } // namespace Berichte

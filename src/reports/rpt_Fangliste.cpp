@@ -1,6 +1,5 @@
 #include "Berichte.h"
 #include "Briefkopf.h"
-#include "Session.h"
 
 namespace {
 
@@ -33,10 +32,6 @@ std::shared_ptr<Report> makeFangliste() {
 
 namespace Berichte {
 
-Report& rpt_Fangliste() {
-    auto& report = session().Berichte[u"rpt_Fangliste"_qs];
-    if (!report) report = makeFangliste();
-    return *report;
-}
+Report& rpt_Fangliste() { return bericht(u"rpt_Fangliste"_qs, &makeFangliste); }
 
 } // namespace Berichte

@@ -1,6 +1,5 @@
 #include "Berichte.h"
 #include "Briefkopf.h"
-#include "Session.h"
 
 namespace {
 
@@ -30,10 +29,6 @@ std::shared_ptr<Report> makeMitglList() {
 
 namespace Berichte {
 
-Report& rpt_MitglList() {
-    auto& report = session().Berichte[u"rpt_MitglList"_qs];
-    if (!report) report = makeMitglList();
-    return *report;
-}
+Report& rpt_MitglList() { return bericht(u"rpt_MitglList"_qs, &makeMitglList); }
 
 } // namespace Berichte

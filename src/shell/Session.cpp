@@ -1,7 +1,5 @@
 #include "Session.h"
 
-#include "Report.h"
-
 namespace {
 
 struct State {

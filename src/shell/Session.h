@@ -6,11 +6,8 @@
 #include <QPointer>
 #include <QString>
 #include <array>
-#include <map>
-#include <memory>
 #include <vector>
 
-class Report;
 class Screen;
 
 /// What all routines share while the program runs: plain values that any routine may read and write. Safe
@@ -55,9 +52,6 @@ struct Session {
     /// The filters of the member list that are ticked: birthday, entry, sex, fee, status, exemption, left
     /// members, youth group, hours worked.
     std::array<bool, 9> MListFilter{};
-
-    /// Reports that have been used, by name.
-    std::map<QString, std::shared_ptr<Report>> Berichte;
 
     BarGroup* GruppeSystem = nullptr;
     BarGroup* GruppeOrganisation = nullptr;

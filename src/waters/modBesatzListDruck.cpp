@@ -18,7 +18,7 @@ namespace {
 /// Of the staging table, in the order of the grid's columns and of the report's texts.
 const std::array felder = {u"BNr"_qs, u"FName"_qs, u"GName"_qs, u"Zeit"_qs, u"Menge"_qs};
 
-void schreibeZeile(ErrorTail& step, ADODB::Recordset& zeile, const DataTable& grid, int row) {
+void schreibeZeile(ErrorTail& step, Recordset& zeile, const DataTable& grid, int row) {
     int column = 0;
     for (const QString& feld : felder) step([&] { zeile.Collect(feld, grid.cellText(row, column++)); });
 }
@@ -41,9 +41,7 @@ void DruckeBPlanListe(const QString& wort) {
     const DataTable& grid = *form.tblBList;
     drucke({u"modBesatzung"_qs, u"DruckeBPlanListe"_qs, form, grid, u"Druck_Besatzliste"_qs,
             &Berichte::rpt_BesatzListe,
-            [&grid](ErrorTail& step, ADODB::Recordset& zeile, int row) {
-                schreibeZeile(step, zeile, grid, row);
-            },
+            [&grid](ErrorTail& step, Recordset& zeile, int row) { schreibeZeile(step, zeile, grid, row); },
             &richteEin},
            wort);
 }

@@ -21,7 +21,7 @@ Value stundenWieGezeigt(const DataTable& grid, int row) {
     return text.isEmpty() ? Value() : Value(CDbl(text));
 }
 
-void schreibeZeile(ErrorTail& step, ADODB::Recordset& zeile, const DataTable& grid, int row) {
+void schreibeZeile(ErrorTail& step, Recordset& zeile, const DataTable& grid, int row) {
     step([&] { zeile.Collect(u"ArbNr"_qs, CLng(grid.cell(row, 0))); });
     step([&] { zeile.Collect(u"GelStd"_qs, stundenWieGezeigt(grid, row)); });
     step([&] { zeile.Collect(u"Datum"_qs, grid.cell(row, 3)); });
@@ -54,9 +54,7 @@ void DruckeArbListe(const QString& wort) {
     Arbeit& form = screen<Arbeit>();
     const DataTable& grid = *form.tblArbStd;
     drucke({u"modArbeit"_qs, u"DruckeArbListe"_qs, form, grid, u"Druck_ArbListe"_qs, &Berichte::rpt_ArbListe,
-            [&grid](ErrorTail& step, ADODB::Recordset& zeile, int row) {
-                schreibeZeile(step, zeile, grid, row);
-            },
+            [&grid](ErrorTail& step, Recordset& zeile, int row) { schreibeZeile(step, zeile, grid, row); },
             &richteEin},
            wort);
 }

@@ -1,20 +1,14 @@
-#include "Ado.h"
 #include "StoreFixture.h"
 
 /// The program's connection and the one that stages a report, on one file.
-class AdoTest : public StoreTest {
+class SecondConnectionTest : public StoreTest {
 protected:
-    AdoTest() {
-        staging.setProvider(u"Microsoft.Jet.OLEDB.4.0"_qs);
-        staging.setProperty(u"Data Source"_qs, path());
-        staging.setProperty(u"Jet OLEDB:Database Password"_qs, password());
-        staging.Open();
+    SecondConnectionTest() {
+        staging = DBEngine::Workspaces(0).OpenDatabase(path(), false, false, u";pwd="_qs + password());
     }
 
-    ADODB::Recordset stage(qint32 number) const {
-        ADODB::Recordset rows;
-        rows.Open(u"Druck_ArbListe"_qs, staging, ADODB::adOpenDynamic, ADODB::adLockOptimistic,
-                  ADODB::adCmdTable);
+    Recordset stage(qint32 number) {
+        Recordset rows = staging.OpenRecordset(u"Druck_ArbListe"_qs, dbOpenTable);
         rows.AddNew();
         rows.Collect(u"ArbNr"_qs, number);
         rows.Update();
@@ -23,13 +17,13 @@ protected:
 
     QString staged() const { return rowsInFile(u"SELECT ArbNr FROM Druck_ArbListe"_qs); }
 
-    ADODB::Connection staging;
+    Database staging;
 };
 
-TEST_F(AdoTest, ReachesTheFileAtTheCloseWhileTheProgramKeepsAShortResultOpen) {
+TEST_F(SecondConnectionTest, ReachesTheFileAtTheCloseWhileTheProgramKeepsAShortResultOpen) {
     Recordset member = query(u"SELECT * FROM Kontakt WHERE KNr = 1"_qs);
     Recordset count = query(u"SELECT COUNT(KNr) FROM Kontakt"_qs);
-    ADODB::Recordset rows = stage(5);
+    Recordset rows = stage(5);
     EXPECT_EQ(staged(), u"");
     rows.Close();
     EXPECT_EQ(staged(), u"5");
@@ -43,9 +37,9 @@ TEST_F(AdoTest, ReachesTheFileAtTheCloseWhileTheProgramKeepsAShortResultOpen) {
     EXPECT_EQ(staged(), u"");
 }
 
-TEST_F(AdoTest, ReportsAndTakesBackWhatTheProgramsOwnLocksKeepOut) {
+TEST_F(SecondConnectionTest, ReportsAndTakesBackWhatTheProgramsOwnLocksKeepOut) {
     Recordset walking = query(u"SELECT * FROM Kontakt"_qs);
-    ADODB::Recordset rows = stage(5);
+    Recordset rows = stage(5);
     EXPECT_EQ(errorOf([&] { rows.Close(); }), 3260) << "a walk still reads the file";
     walking.Close();
     EXPECT_EQ(staged(), u"");
