@@ -1,7 +1,7 @@
 #include "ExpressionRewriter.h"
 
 #include "SelectRewriter.h"
-#include "SqlFunctions.h"
+#include "SqlNames.h"
 
 #include <array>
 

@@ -1,8 +1,8 @@
 #include "Lexer.h"
 
-#include "DateLiteral.h"
 #include "DialectError.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -17,6 +17,13 @@ constexpr char16_t dateMark = 4;
 bool isBlank(char16_t c) { return c == u' ' || c == u'\t' || c == u'\r' || c == u'\n' || c == u'\u00a0'; }
 
 bool isDigit(char16_t c) { return c >= u'0' && c <= u'9'; }
+
+std::optional<int> readNumber(QStringView text) {
+    constexpr qsizetype mostDigits = 4;
+    const bool digitsOnly = std::ranges::all_of(text, [](QChar c) { return isDigit(c.unicode()); });
+    if (text.isEmpty() || text.size() > mostDigits || !digitsOnly) return std::nullopt;
+    return text.toInt();
+}
 
 bool isNameStart(char16_t c) {
     if ((c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z') || c == u'_') return true;
@@ -185,3 +192,13 @@ private:
 } // namespace
 
 void lexStatement(QStringView source, LexedStatement& statement) { Lexer(source, statement).run(); }
+
+std::optional<Date> readDateLiteral(QStringView text) {
+    std::vector<int> numbers;
+    for (const QStringView part : text.trimmed().split(u'/'))
+        if (const auto number = readNumber(part)) numbers.push_back(*number);
+    if (numbers.size() != 3 || text.count(u'/') != 2) return std::nullopt;
+    const QDate day(numbers[2], numbers[0], numbers[1]);
+    if (!day.isValid() || day.year() < 100) return std::nullopt;
+    return Date::fromQDate(day);
+}

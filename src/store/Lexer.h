@@ -3,6 +3,7 @@
 #include "Value.h"
 
 #include <QString>
+#include <optional>
 #include <vector>
 
 enum class TokenKind : quint8 {
@@ -47,3 +48,6 @@ struct LexedStatement {
 /// before costs no memory. Error 3075 for signs that the dialect does not know, for literals that do not end
 /// and for impossible dates.
 void lexStatement(QStringView source, LexedStatement& statement);
+
+/// The date between two number signs, written m/d/yyyy. Nothing if there is no such day.
+std::optional<Date> readDateLiteral(QStringView text);

@@ -1,7 +1,7 @@
 #include "Operand.h"
 
 #include "DialectError.h"
-#include "SqlFunctions.h"
+#include "SqlNames.h"
 
 Operand joined(const Operand& left, const Operand& right, QByteArray sql, FieldKind kind) {
     return {.sql = std::move(sql),

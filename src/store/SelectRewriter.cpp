@@ -1,7 +1,7 @@
 #include "SelectRewriter.h"
 
 #include "ExpressionRewriter.h"
-#include "SqlFunctions.h"
+#include "SqlNames.h"
 
 #include <algorithm>
 

@@ -1,6 +1,7 @@
 #include "SqlFunctions.h"
 
 #include "LikePattern.h"
+#include "SqlNames.h"
 #include "Sqlite.h"
 #include "SqliteError.h"
 #include "StoredText.h"
