@@ -1,5 +1,6 @@
 // The change of the year, hours carried over.
 
+#include "Datenbank.h"
 #include "Measure.h"
 #include "ProgramUnderTest.h"
 #include "RawFile.h"
@@ -79,10 +80,10 @@ double rawSeconds(const QString& path) {
 
 double ownSeconds(const QString& folder) {
     beginSession(folder);
-    modStart::OeffneDatenbank();
+    OeffneDatenbank();
     modStart::SetzeDatumsVariablen();
     const double seconds = secondsOf([] { modStart::KontrolliereSystemJahr(); });
-    modStart::SchliesseDatenbank();
+    SchliesseDatenbank();
     return seconds;
 }
 

@@ -22,6 +22,7 @@ namespace {
 const QString twoDecimals = u"###0.00"_qs;
 const QString labelJahresbeitrag = u"Jahresbeitrag"_qs;
 const QString labelFangjahr = u"akt. Fangjahr"_qs;
+const QString labelPflichtStd = u"Pflicht-Std. (Arbeit)"_qs;
 
 /// A line of the address: its field and its box.
 struct AddressLine {
@@ -56,6 +57,16 @@ void showParameter(const Parameter& which) {
     if (!text.isEmpty() && grid->find(0, row, which.label) >= 0) grid->setCell(row, 1, text);
 }
 
+/// What other screens need of the list, as it shows it.
+void merkeParameter(const DataTable& grid) {
+    const auto wert = [&](const QString& label) {
+        int row = 0;
+        return grid.find(0, row, label) < 0 ? Value() : grid.cell(row, 1);
+    };
+    session().FJahr = wert(labelFangjahr);
+    session().PflichtStd = wert(labelPflichtStd);
+}
+
 /// First for Info, then for the boxes.
 void showAddress(ErrorTail& step, const Recordset& parameter) {
     const auto text = [&](const AddressLine& line) { return CStr(parameter.Fields(line.field).Value()); };
@@ -70,8 +81,6 @@ void showAddress(ErrorTail& step, const Recordset& parameter) {
 
 } // namespace
 
-QString labelPflichtStd() { return u"Pflicht-Std. (Arbeit)"_qs; }
-
 void loadTblSystem() {
     withErrorTail(u"modStart"_qs, u"loadTblSystem"_qs, [](ErrorTail& step) {
         Recordset parameter;
@@ -82,7 +91,8 @@ void loadTblSystem() {
             const auto value = [&](const QString& field) { return parameter.Fields(field).Value(); };
             step([&] { grid->appendRow({labelJahresbeitrag, Format(value(u"JBeitrag"_qs), twoDecimals)}); });
             step([&] { grid->appendRow({labelFangjahr, value(u"FJahr"_qs)}); });
-            step([&] { grid->appendRow({labelPflichtStd(), Format(value(u"PflichtStd"_qs), twoDecimals)}); });
+            step([&] { grid->appendRow({labelPflichtStd, Format(value(u"PflichtStd"_qs), twoDecimals)}); });
+            merkeParameter(*grid);
             showAddress(step, parameter);
         });
         step([&] { parameter.Close(); });
@@ -93,13 +103,14 @@ void UpdateParameter() {
     const System& form = screen<System>();
     const Parameter changed[] = {{u"FJahr"_qs, form.txtFJahr, labelFangjahr},
                                  {u"JBeitrag"_qs, form.txtJB, labelJahresbeitrag},
-                                 {u"PflichtStd"_qs, form.txtArbStd, labelPflichtStd()}};
+                                 {u"PflichtStd"_qs, form.txtArbStd, labelPflichtStd}};
     Recordset parameter = oeffneTabelle(u"System"_qs);
     parameter.Edit();
     for (const Parameter& which : changed) writeParameter(parameter, which);
     parameter.Update();
     parameter.Close();
     for (const Parameter& which : changed) showParameter(which);
+    merkeParameter(*form.tblSystem);
     LeereParameter();
 }
 

@@ -1,12 +1,7 @@
 #pragma once
 
-#include <QString>
-
 /// The one row of the club's parameters.
 namespace modSystem {
-
-/// The label of the hours owed in the grid, by which other routines find their row.
-QString labelPflichtStd();
 
 /// Reads the row into the grid, the address boxes and the labels of Info.
 void loadTblSystem();

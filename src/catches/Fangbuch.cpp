@@ -11,7 +11,6 @@
 #include "RuntimeError.h"
 #include "Screens.h"
 #include "Session.h"
-#include "System.h"
 #include "TextBox.h"
 #include "Toolbar.h"
 #include "ValueLabel.h"
@@ -112,7 +111,7 @@ namespace {
 /// A year that was mistyped into the parameters must not end the program at each pick of a month.
 qint16 fangjahrDerParameter(qint16 otherwise) {
     try {
-        return CInt(screen<System>().tblSystem->cellText(1, 1));
+        return CInt(session().FJahr);
     } catch (const RuntimeError&) {
         return otherwise;
     }

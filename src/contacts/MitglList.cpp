@@ -10,7 +10,6 @@
 #include "Session.h"
 #include "Toolbar.h"
 #include "ValueLabel.h"
-#include "modArbeit.h"
 #include "modKontakt.h"
 #include "modMitglList.h"
 #include "modRun.h"

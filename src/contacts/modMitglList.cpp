@@ -15,13 +15,10 @@
 #include "Screens.h"
 #include "Session.h"
 #include "Stunden.h"
-#include "System.h"
 #include "TextBox.h"
 #include "ValueLabel.h"
-#include "modArbeit.h"
 #include "modKontakt.h"
 #include "modRun.h"
-#include "modSystem.h"
 
 #include <QCheckBox>
 #include <QRadioButton>
@@ -39,13 +36,6 @@ QString zweiStellen(const Value& number) { return Format(number, u"###0.00"_qs);
 Recordset oeffne(const QString& what) {
     const QString sql = u"SELECT "_qs + what + u" FROM Kontakt k, Mitglied m WHERE k.KNr = m.KNr"_qs;
     return oeffneAbfrage(ErstelleFilter(sql));
-}
-
-/// What the parameters' grid says at this moment.
-Value pflichtStunden() {
-    const DataTable& grid = *screen<System>().tblSystem;
-    int row = 0;
-    return grid.cell(grid.find(0, row, modSystem::labelPflichtStd()), 1);
 }
 
 /// What is the same for all rows of a run.
@@ -86,7 +76,7 @@ void rechneStunden(ErrorTail& step, const Lauf& lauf, Zeile& zeile) {
 /// Compares what the row shows. Exactly the hours owed belong to both answers.
 bool gehoertDazu(const Lauf& lauf, const Zeile& zeile) {
     if (!lauf.vergleicht) return true;
-    const double pflicht = CDbl(pflichtStunden());
+    const double pflicht = CDbl(session().PflichtStd);
     const double stunden = CDbl(zeile[9]);
     return lauf.geleistet ? pflicht <= stunden : stunden <= pflicht;
 }
@@ -133,7 +123,7 @@ void LadeAuswahl() {
         form.pb->setMax(gefunden);
         Lauf lauf{form};
         step([&] { lauf.jahr = CLng(form.cboArbJahr->Text()); });
-        step([&] { lauf.pfl = zweiStellen(pflichtStunden()); });
+        step([&] { lauf.pfl = zweiStellen(session().PflichtStd); });
         fuelleListe(step, liste, lauf);
         form.lblGefDS->setCaption(QString::number(form.tblMList->rowCount()));
         for (Recordset* offen : {&liste, &anzahl}) step([&] { offen->Close(); });

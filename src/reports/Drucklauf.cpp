@@ -2,6 +2,7 @@
 
 #include "DBEngine.h"
 #include "DataTable.h"
+#include "Datenbank.h"
 #include "Hourglass.h"
 #include "MsgBox.h"
 #include "PrintDialogs.h"
@@ -11,7 +12,6 @@
 #include "Session.h"
 #include "Stage.h"
 #include "Vorschau.h"
-#include "modTools.h"
 
 namespace {
 
@@ -43,8 +43,7 @@ private:
 
 /// A second connection on the file of the program, so that staging is an action of its own.
 Database zweiteVerbindung() {
-    return DBEngine::Workspaces(0).OpenDatabase(programFolder() + u"/uw01.mdb"_qs, false, false,
-                                                modTools::connectText());
+    return DBEngine::Workspaces(0).OpenDatabase(datenbankDatei(), false, false, datenbankVerbindung());
 }
 
 void leere(ErrorTail& step, Recordset& rows) {

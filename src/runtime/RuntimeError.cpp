@@ -62,6 +62,7 @@ constexpr auto descriptions = std::to_array<Description>({
     {3265, u"Element '%1' in dieser Auflistung nicht gefunden."},
     {3343, u"Unbekanntes Datenbankformat '%1'."},
     {3354, u"Höchstens ein Datensatz kann von dieser Unterabfrage zurückgegeben werden."},
+    {3360, u"Abfrage ist zu komplex."},
     {3464, u"Datentypen in Kriterienausdruck unverträglich."},
 });
 

@@ -4,6 +4,22 @@
 #include "ErrorTail.h"
 #include "Session.h"
 
+QString datenbankDatei() { return programFolder() + u"/uw01.mdb"_qs; }
+QString sicherungsOrdner() { return programFolder() + u"/Sicherung"_qs; }
+QString datenbankPasswort() { return u"qx-1987-nkr"_qs; }
+QString datenbankVerbindung() { return u";pwd="_qs + datenbankPasswort(); }
+
+void OeffneDatenbank() {
+    session().AktWorkspace = DBEngine::Workspaces(0);
+    session().AktDatenbank =
+        session().AktWorkspace.OpenDatabase(datenbankDatei(), false, false, datenbankVerbindung());
+}
+
+void SchliesseDatenbank() {
+    // The repair offered by a failed start comes here without an open database.
+    if (session().AktDatenbank.isOpen()) session().AktDatenbank.Close();
+}
+
 Recordset oeffneAbfrage(const QString& select) {
     return session().AktDatenbank.OpenRecordset(select, dbOpenDynaset);
 }

@@ -8,7 +8,18 @@
 
 class DataTable;
 
-// The open database, as the routines of all screens use it.
+// The database of the program folder, as the routines of all screens use it.
+
+/// The database file, the folder of its safety copies, and the file's password as such and as a connect text.
+QString datenbankDatei();
+QString sicherungsOrdner();
+QString datenbankPasswort();
+QString datenbankVerbindung();
+
+/// Opens the database file. Has no error box of its own: errors go to the caller.
+void OeffneDatenbank();
+/// Closes it, if it is open.
+void SchliesseDatenbank();
 
 /// The result of a SELECT on the open database, and one of its tables. Errors as for Database::OpenRecordset.
 Recordset oeffneAbfrage(const QString& select);

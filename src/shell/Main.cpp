@@ -144,7 +144,7 @@ void Main::zeigeMitgliederliste() {
     screen<MitglList>().Show();
 }
 
-void Main::beende() { unload<Main>(); }
+void Main::beendeStill() { Program::current().finishUnseen(); }
 
 void Main::mnuInfo_Click() {
     binde(screen<Info>());

@@ -28,7 +28,7 @@ public:
     void zeigeMitgliederliste() override;
     void loadKontMenu_Mitgl() override;
     void loadKontMenu_FAusw() override;
-    void beende() override;
+    void beendeStill() override;
 
     QMenuBar* menuBar;
     NavigationBar* ButtnBar;

@@ -18,8 +18,8 @@ public:
     /// Pop up a context menu at the mouse, its items enabled by the rights of the moment.
     virtual void loadKontMenu_Mitgl() = 0;
     virtual void loadKontMenu_FAusw() = 0;
-    /// Ends the program.
-    virtual void beende() = 0;
+    /// Ends the program without a word about a safety copy that could not be made.
+    virtual void beendeStill() = 0;
 };
 
 /// The frame of the running program; null before it is made and after its end.

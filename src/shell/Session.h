@@ -39,10 +39,14 @@ struct Session {
     bool NurZaehlen = false;          ///< the overview is being filled: categories are counted, not listed
     QPointer<BarItem> AktBarItem;     ///< navigation item last made current
 
+    QString Benutzer;         ///< name of the user who is logged in; the status bar shows it
     bool Angemeldet = false;  ///< the start-up has come to its end: the data is loaded and can be seen
     bool Beschaedigt = false; ///< a statement has met a damaged page, or the record of `System` is missing
     bool Beendet = false;     ///< the program has ended; routines still on the stack tell nobody any more
 
+    /// The year and the hours of the parameters as their list shows them.
+    Value FJahr;
+    Value PflichtStd;
     /// The club's name, street, postal code, town and telephone as last saved: what Info and the reports
     /// show.
     std::array<QString, 5> Anschrift;

@@ -1,16 +1,16 @@
 #include "modEnde.h"
 
+#include "Datenbank.h"
 #include "Katego.h"
 #include "Kontakt.h"
 #include "Main.h"
 #include "Screens.h"
 #include "SuchKont.h"
-#include "modStart.h"
 
 namespace modEnde {
 
 void mnuBeenden_Click() {
-    modStart::SchliesseDatenbank();
+    SchliesseDatenbank();
     unload<Kontakt>();
     unload<Katego>();
     unload<SuchKont>();

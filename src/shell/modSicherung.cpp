@@ -1,24 +1,16 @@
 #include "modSicherung.h"
 
 #include "Clock.h"
+#include "Datenbank.h"
 #include "RuntimeError.h"
-#include "SafetyCopy.h"
 #include "Session.h"
-#include "modTools.h"
+#include "Upkeep.h"
 
 namespace modSicherung {
 
-namespace {
-
-QString datei() { return programFolder() + u"/uw01.mdb"_qs; }
-
-} // namespace
-
-QString Ordner() { return programFolder() + u"/Sicherung"_qs; }
-
 bool SichereDatenbank() {
     try {
-        keepSafetyCopy(datei(), modTools::passwort(), Ordner(), now());
+        Upkeep::keepSafetyCopy(datenbankDatei(), datenbankPasswort(), sicherungsOrdner(), now());
         return true;
     } catch (const RuntimeError& error) {
         qWarning("%s", qUtf8Printable(error.description));
@@ -33,9 +25,9 @@ QString Fehlschlag() {
 }
 
 bool DatenbankIstHeil() {
-    if (!isCopyUnfinished(datei(), Ordner())) return true;
+    if (!Upkeep::isCopyUnfinished(datenbankDatei(), sicherungsOrdner())) return true;
     if (!session().AktDatenbank.isSound()) return false;
-    forgetUnfinishedCopy(datei(), Ordner());
+    Upkeep::forgetUnfinishedCopy(datenbankDatei(), sicherungsOrdner());
     return true;
 }
 

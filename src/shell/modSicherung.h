@@ -5,8 +5,6 @@
 /// Copies of the database file, beside it, for the day on which it is lost.
 namespace modSicherung {
 
-/// The folder of the copies: "Sicherung" in the program folder.
-QString Ordner();
 /// Copies the file into that folder, which is made if missing, if the file has changed since the last copy.
 /// Asks nothing and shows nothing. True if the copy was made or not needed, false if it could not be made.
 bool SichereDatenbank();

@@ -38,6 +38,11 @@ namespace modStart {
 
 namespace {
 
+void setzeBenutzer(const QString& name) {
+    session().Benutzer = name;
+    screen<Main>().StatusBar1->setPanelText(4, name);
+}
+
 constexpr int fileNotFound = 3024;
 constexpr int wrongPassword = 3031;
 
@@ -54,7 +59,7 @@ void tellEnd(const QString& text, const QString& title = u"Uferwart"_qs) {
 void askForRepair() {
     unload<::Login>();
     modNavigation::LeereButtnBar();
-    screen<Main>().StatusBar1->setPanelText(4, QString());
+    setzeBenutzer(QString());
     if (!RepariereAufWunsch()) return tellEnd(u"Uferwart beendet sich jetzt !"_qs);
     if (isLoaded<Main>()) screen<Main>().Show();
 }
@@ -129,17 +134,6 @@ void StarteUferwart() {
     }
 }
 
-void OeffneDatenbank() {
-    session().AktWorkspace = DBEngine::Workspaces(0);
-    session().AktDatenbank = session().AktWorkspace.OpenDatabase(programFolder() + u"/uw01.mdb"_qs, false,
-                                                                 false, modTools::connectText());
-}
-
-void SchliesseDatenbank() {
-    // The repair offered by a failed start comes here without an open database.
-    if (session().AktDatenbank.isOpen()) session().AktDatenbank.Close();
-}
-
 bool RepariereAufWunsch() {
     session().MsgAntwort =
         MsgBox(u"ACHTUNG: Datenbank konnte nicht geöffnet werden. Soll Uferwart versuchen die "_qs +
@@ -181,7 +175,7 @@ bool Login(const QString& name, const QString& passwort) {
                    u"UFERWART"_qs);
             valid = false;
         } else {
-            screen<Main>().StatusBar1->setPanelText(4, name);
+            setzeBenutzer(name);
             step([&] { WendeRechteAn(gruppe); });
             valid = true;
         }

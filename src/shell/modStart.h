@@ -10,9 +10,6 @@ namespace modStart {
 /// The load of the frame: opens the database, builds the bar and shows the login, or tells why not.
 void StarteUferwart();
 
-/// Opens the database file of the program folder. Has no error box of its own: errors go to the caller.
-void OeffneDatenbank();
-void SchliesseDatenbank();
 /// Asks whether the database is to be repaired, and does so; false if the user doesn't want it.
 bool RepariereAufWunsch();
 /// First sizes of the frame and of the bar.

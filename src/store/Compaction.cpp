@@ -1,6 +1,7 @@
 #include "Compaction.h"
 
 #include "Connection.h"
+#include "Essentials.h"
 #include "Salvage.h"
 #include "UnfinishedPath.h"
 
@@ -152,14 +153,26 @@ void Compaction::run() {
     m_target.keep();
 }
 
+/// A whole file may still lack the record of `System`, without which no start comes to its end.
+void restoreParametersOf(const QString& target, const QString& password) {
+    try {
+        restoreParameters(target, password);
+    } catch (const RuntimeError&) {
+        // Left over, it would stand in the way of the next repair.
+        QFile::remove(target);
+        throw;
+    }
+}
+
 } // namespace
 
-FileHold compactFile(const QString& source, const QString& target, const QString& password,
-                     const QString& keptIn) {
+std::shared_ptr<const void> compactFile(const QString& source, const QString& target, const QString& password,
+                                        const QString& keptIn) {
     constexpr int damaged = 3343;
     try {
         const auto compaction = std::make_shared<Compaction>(source, target, password);
         compaction->run();
+        if (!keptIn.isEmpty()) restoreParametersOf(target, password);
         return compaction;
     } catch (const RuntimeError& error) {
         if (error.number != damaged || keptIn.isEmpty()) throw;

@@ -1,7 +1,8 @@
 #pragma once
 
 #include "Database.h"
-#include "FileHold.h"
+
+#include <memory>
 
 /// The workspace: the place from which databases are opened. A value with shared state.
 class Workspace {
@@ -28,6 +29,9 @@ private:
     std::shared_ptr<std::weak_ptr<Connection>> m_opened;
 };
 
+/// Keeps other processes from a database file until it is destroyed.
+using FileHold = std::shared_ptr<const void>;
+
 /// The store's entry point.
 class DBEngine {
 public:
@@ -36,8 +40,9 @@ public:
     /// Writes a compact, verified copy of a closed file, whole on disk before this returns. Hold the result
     /// until the copy is in the source's place, or what another process writes meanwhile is lost. The target
     /// must not exist (3204) and its folder must (3044). A damaged source (3343) is salvaged only if there is
-    /// a folder in which to keep it (`keptIn`, made if missing): the copy then has all rows on whole pages;
-    /// 3056 if there are none. 3043 if the disk does not give a page.
+    /// a folder in which to keep it (`keptIn`, made if missing): the copy then has all rows on whole pages,
+    /// and the record of the parameters if there was none; 3056 if there are no rows. 3043 if the disk does
+    /// not give a page.
     static FileHold CompactDatabase(const QString& source, const QString& target, const QString& password,
                                     const QString& keptIn = {});
 };

@@ -63,6 +63,6 @@ RuntimeError tooManyColumns() {
     return {3306, QStringLiteral("Eine Unterabfrage, die als Wert verwendet wird, darf nur ein Feld haben.")};
 }
 
-RuntimeError tooComplex() { return {3360, QStringLiteral("Abfrage ist zu komplex.")}; }
+RuntimeError tooComplex() { return runtimeError(3360); }
 
 RuntimeError unlikeKinds() { return runtimeError(3464); }

@@ -135,3 +135,18 @@ bool PageReader::rowsOf(int page, const std::function<bool(const Statement&)>& t
     } while (passOver(last));
     return false;
 }
+
+bool fitsOtherPages(const QString& path, const QString& password) {
+    // Enough to meet pages of any kind.
+    constexpr int samplePages = 64;
+    constexpr int diskError = 3043;
+    try {
+        PageReader pages(RawContent(path), password, samplePages);
+        for (int page = 2; page <= pages.pageCount(); ++page)
+            if (pages.rowsOf(page, [](const Statement&) { return false; })) return true;
+    } catch (const RuntimeError& error) {
+        if (error.number == diskError) throw;
+        // Without room for the copy it can't be told.
+    }
+    return false;
+}

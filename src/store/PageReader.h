@@ -42,3 +42,7 @@ private:
     Statement m_begin, m_point, m_commit;
     Statement m_rows, m_next;
 };
+
+/// Whether the password opens any page but the first, that is: whether a first page that it does not open is
+/// damaged. Error 3043 if the disk does not give a page.
+bool fitsOtherPages(const QString& path, const QString& password);

@@ -13,18 +13,14 @@
 
 namespace {
 
-/// Enough to meet pages of any kind.
-constexpr int samplePages = 64;
-constexpr int diskError = 3043;
-
 void createTables(Connection& target) {
     for (const QByteArray& statement : schemaStatements()) target.execute(statement);
 }
 
 } // namespace
 
-FileHold salvageFile(const QString& source, const QString& target, const QString& password,
-                     const QString& keptIn) {
+std::shared_ptr<const void> salvageFile(const QString& source, const QString& target, const QString& password,
+                                        const QString& keptIn) {
     const auto content = std::make_shared<RawContent>(source);
     content->lock();
     PageReader pages(*content, password, std::numeric_limits<int>::max());
@@ -38,16 +34,4 @@ FileHold salvageFile(const QString& source, const QString& target, const QString
     keepDamagedFile(*content, source, keptIn, now());
     file.finish();
     return content;
-}
-
-bool fitsOtherPages(const QString& path, const QString& password) {
-    try {
-        PageReader pages(RawContent(path), password, samplePages);
-        for (int page = 2; page <= pages.pageCount(); ++page)
-            if (pages.rowsOf(page, [](const Statement&) { return false; })) return true;
-    } catch (const RuntimeError& error) {
-        if (error.number == diskError) throw;
-        // Without room for the copy it can't be told.
-    }
-    return false;
 }

@@ -1,6 +1,5 @@
 #include "SqliteError.h"
 
-#include "DialectError.h"
 #include "Sqlite.h"
 
 #include <optional>
@@ -60,7 +59,7 @@ RuntimeError prepareError(sqlite3* database) {
     if (message.startsWith(u"no such table"))
         return runtimeError(3078, message.section(QStringLiteral(": "), 1));
     if (message.startsWith(u"no such column")) return runtimeError(3061, QStringLiteral("1"));
-    return tooComplex();
+    return runtimeError(3360);
 }
 
 RuntimeError sqliteError(int extendedCode) {

@@ -14,11 +14,9 @@
 #include "Session.h"
 #include "Stunden.h"
 #include "SuchKont.h"
-#include "System.h"
 #include "ValueLabel.h"
 #include "modArbeit.h"
 #include "modRun.h"
-#include "modSystem.h"
 
 #include <QPushButton>
 #include <array>
@@ -140,10 +138,7 @@ double loadTblArbeit(qint32 knr, qint32 jahr) {
 }
 
 void zeigePflichtStd() {
-    const DataTable* parameter = screen<System>().tblSystem;
-    int start = 0;
-    const int row = parameter->find(0, start, modSystem::labelPflichtStd());
-    screen<Arbeit>().lblPflStd->setCaption(Format(parameter->cell(row, 1), stundenMuster()));
+    screen<Arbeit>().lblPflStd->setCaption(Format(session().PflichtStd, stundenMuster()));
 }
 
 void zeigeSaldo() {
