@@ -11,6 +11,7 @@
 #include "Screens.h"
 #include "Session.h"
 #include "SqlFunctions.h"
+#include "SqlNames.h"
 #include "SuchKont.h"
 #include "modKontakt.h"
 
@@ -107,7 +108,7 @@ int main(int argc, char* argv[]) {
     NoBoxes boxes;
     BenchDesk desk(argc, argv, boxes);
     RawFile file(desk.club() + u"/uw01.mdb"_qs);
-    registerSqlFunctions(file.handle());
+    engine::registerSqlFunctions(file.handle());
     Program program(desk.club());
     program.start();
     logIn();

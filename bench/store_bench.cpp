@@ -88,9 +88,9 @@ double storeWalk(Database& database, int entries) {
     return medianSeconds(runs, [&] {
         qint64 sum = 0;
         Recordset all = database.OpenRecordset(u"SELECT FangNr, Anzahl, Notiz FROM Fang"_qs, dbOpenDynaset);
-        const Field number = all.Fields(u"FangNr"_qs);
-        const Field count = all.Fields(u"Anzahl"_qs);
-        const Field note = all.Fields(u"Notiz"_qs);
+        const Recordset::Field number = all.Fields(u"FangNr"_qs);
+        const Recordset::Field count = all.Fields(u"Anzahl"_qs);
+        const Recordset::Field note = all.Fields(u"Notiz"_qs);
         for (; !all.Eof(); all.MoveNext())
             sum += number.Value().number() + count.Value().number() + note.Value().text().size();
         if (sum < entries) std::abort();
@@ -106,7 +106,7 @@ int main(int argc, char* argv[]) {
     const QString path = desk.club() + u"/uw01.mdb"_qs;
     const int catches = desk.size().catches();
     RawFile file(path);
-    registerSqlFunctions(file.handle());
+    engine::registerSqlFunctions(file.handle());
     Database database = DBEngine::Workspaces(0).OpenDatabase(path, false, false, u";pwd=qx-1987-nkr"_qs);
     const auto names = speciesNames();
     printRow("20,000 lookups among 30 names", {storeLookups(database, names), rawLookups(file, names)},

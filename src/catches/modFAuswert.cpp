@@ -54,7 +54,7 @@ void zeigeSumme(ErrorTail& step, Recordset& summe, ValueLabel* label, const QStr
 void fuelleListe(ErrorTail& step, Recordset& liste, Fangauswertung& form) {
     qint64 count = 0;
     std::array<Value, 7> zeile;
-    std::vector<Field> felder;
+    std::vector<Recordset::Field> felder;
     form.pb->show();
     step([&] { liste.MoveFirst(); });
     step([&] { felder = liste.Fields(); });

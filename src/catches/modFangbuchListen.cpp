@@ -25,7 +25,7 @@ namespace {
 void fuelleListe(ErrorTail& step, Recordset& liste, DataTable* grid, ProgressBar* pb) {
     qint64 count = 0;
     std::array<Value, 6> zeile;
-    std::vector<Field> felder;
+    std::vector<Recordset::Field> felder;
     step([&] { liste.MoveFirst(); });
     step([&] { felder = liste.Fields(); });
     step.forEachRow(liste, [&] {

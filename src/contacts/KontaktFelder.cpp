@@ -53,7 +53,7 @@ void zeigeTexte(ErrorTail& step, const Recordset& satz, const Kontakt& form,
 }
 
 /// Of a pair of options exactly one is chosen.
-void waehle(const Field& feld, QRadioButton* ja, QRadioButton* nein) {
+void waehle(const Recordset::Field& feld, QRadioButton* ja, QRadioButton* nein) {
     (feld.Value() == Value(true) ? ja : nein)->setChecked(true);
 }
 

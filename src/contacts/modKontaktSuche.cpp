@@ -28,9 +28,9 @@ QString sucheNach(const QString& word, qint32 kategonr) {
 }
 
 void zeigeTreffer(ErrorTail& step, Recordset& kontakte, DataTable* grid) {
-    const Field knr = kontakte.Fields(u"knr"_qs), kategonr = kontakte.Fields(u"kategonr"_qs),
-                firma = kontakte.Fields(u"Firma"_qs), nachname = kontakte.Fields(u"Nachname"_qs),
-                vorname = kontakte.Fields(u"Vorname"_qs);
+    const Recordset::Field knr = kontakte.Fields(u"knr"_qs), kategonr = kontakte.Fields(u"kategonr"_qs),
+                           firma = kontakte.Fields(u"Firma"_qs), nachname = kontakte.Fields(u"Nachname"_qs),
+                           vorname = kontakte.Fields(u"Vorname"_qs);
     step([&] { grid->clearRows(); });
     step([&] { kontakte.MoveFirst(); });
     step.forEachRow(kontakte, [&] {

@@ -27,7 +27,7 @@ QString tagUndMonatGetauscht(QString datum) {
 }
 
 /// A day outside the calendar, as a damaged file may hold it, costs its cell and not the list.
-Value geburtstag(const Field& feld) {
+Value geburtstag(const Recordset::Field& feld) {
     try {
         const Value value = feld.Value();
         return value.isNull() ? QString() : tagUndMonatGetauscht(CStr(value));

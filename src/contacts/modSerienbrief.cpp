@@ -67,7 +67,7 @@ void schreibeKopf(CsvDatei& datei) {
 
 /// The query gives the fields in the file's order; only members have a day of joining.
 void schreibeKontakte(CsvDatei& datei, Recordset& kontakte, bool mitglieder) {
-    const std::vector<Field> felder = kontakte.Fields();
+    const std::vector<Recordset::Field> felder = kontakte.Fields();
     for (; !kontakte.Eof(); kontakte.MoveNext()) {
         for (std::size_t i = 0; i < felder.size(); ++i) {
             if (i == placeOfEintritt && !mitglieder) datei.writeText({});

@@ -37,7 +37,7 @@ public:
 
 private:
     Recordset& m_rows;
-    std::vector<Field> m_fields;
+    std::vector<Recordset::Field> m_fields;
     bool m_begun = false;
 };
 

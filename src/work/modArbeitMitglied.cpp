@@ -124,7 +124,7 @@ double loadTblArbeit(qint32 knr, qint32 jahr) {
                                   QString::number(knr) + u" AND Jahr = "_qs + QString::number(jahr));
         });
         step([&] { grid->clearRows(); });
-        std::vector<Field> felder;
+        std::vector<Recordset::Field> felder;
         step([&] { felder = liste.Fields(); });
         step.forEachRow(liste, [&] {
             std::array<Value, 4> zeile;

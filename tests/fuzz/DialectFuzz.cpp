@@ -17,7 +17,8 @@ public:
     Club() {
         const QString path = m_folder.filePath(u"uw01.mdb"_qs);
         createDatabase(path, m_key, 2005);
-        m_connection = std::make_shared<Connection>(path, m_key, Connection::Access::ReadWrite);
+        m_connection =
+            std::make_shared<cursors::Connection>(path, m_key, cursors::Connection::Access::ReadWrite);
         for (const char* rows :
              {"INSERT INTO Fisch VALUES (1, 'Hecht', NULL), (2, 'Äsche', 'selten')",
               "INSERT INTO Gewaesser VALUES (1, 'Waldsee', NULL), (2, 'Mühlbach', '')",
@@ -34,9 +35,9 @@ public:
         m_steps = 0;
         QStringList found;
         Recordset rows = Database(m_connection).OpenRecordset(select, dbOpenDynaset);
-        const std::vector<Field> fields = rows.Fields();
+        const std::vector<Recordset::Field> fields = rows.Fields();
         for (; !rows.Eof() && found.size() < mostRows; rows.MoveNext())
-            for (const Field& field : fields)
+            for (const Recordset::Field& field : fields)
                 found += QString::number(static_cast<int>(field.Value().kind()));
         return found;
     }
@@ -51,7 +52,7 @@ private:
 
     QTemporaryDir m_folder;
     QString m_key = u"x'"_qs + QString(64, u'7') + u'\'';
-    std::shared_ptr<Connection> m_connection;
+    std::shared_ptr<cursors::Connection> m_connection;
     int m_steps = 0;
 };
 
@@ -64,9 +65,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size) {
     const QString select =
         QString::fromUtf8(reinterpret_cast<const char*>(bytes), static_cast<qsizetype>(size));
     const int refused = errorOf([&] {
-        LexedStatement statement;
-        lexStatement(select, statement);
-        rewriteSelect(select, statement);
+        dialect::LexedStatement statement;
+        dialect::lexStatement(select, statement);
+        dialect::rewriteSelect(select, statement);
     });
     QStringList first, second;
     const int number = errorOf([&] { first = club.rows(select); });

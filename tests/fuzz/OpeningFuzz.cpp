@@ -31,7 +31,7 @@ struct Room {
     Room() {
         qputenv("TMPDIR", folder.path().toUtf8());
         createDatabase(path(), key(), 2005);
-        Connection file(path(), key(), Connection::Access::ReadWrite);
+        cursors::Connection file(path(), key(), cursors::Connection::Access::ReadWrite);
         for (const char* rows : {"INSERT INTO Fisch VALUES (1, 'Hecht', NULL), (2, 'Äsche', 'selten')",
                                  "INSERT INTO Gewaesser VALUES (1, 'Waldsee', hex(zeroblob(1500)))",
                                  "INSERT INTO Fang SELECT NULL, 2005, 5, FNr, 1, 'Notiz', 3, 1.5 FROM Fisch",
@@ -114,15 +114,15 @@ int read(const QString& path, bool& sound, int& rows) {
         sound = errorOf([&] {
                     Recordset all = database.OpenRecordset(table.name.toString(), dbOpenTable);
                     for (; !all.Eof(); all.MoveNext(), ++rows)
-                        for (const Field& field : all.Fields()) field.Value();
+                        for (const Recordset::Field& field : all.Fields()) field.Value();
                 }) == 0 &&
                 sound;
     return errorOf([&] { database.Close(); });
 }
 
 bool isWhole(const QString& path) {
-    Connection file(path, key(), Connection::Access::ReadOnly);
-    Statement check = file.prepare("PRAGMA integrity_check");
+    cursors::Connection file(path, key(), cursors::Connection::Access::ReadOnly);
+    engine::Statement check = file.prepare("PRAGMA integrity_check");
     return check.step() && check.text(0) == u"ok";
 }
 

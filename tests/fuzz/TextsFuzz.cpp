@@ -72,8 +72,8 @@ void checkDate(const QString& text) {
     const auto date = dateFromText(text);
     require(date.has_value() == IsDate(text), "IsDate tells what is read");
     require(date.has_value() == (errorOf([&] { CDate(text); }) == 0), "CDate takes what IsDate tells");
-    if (const auto literal = readDateLiteral(text)) {
-        const auto again = readDateLiteral(Format(*literal, u"m\\/d\\/yyyy"_qs));
+    if (const auto literal = dialect::readDateLiteral(text)) {
+        const auto again = dialect::readDateLiteral(Format(*literal, u"m\\/d\\/yyyy"_qs));
         require(again && again->toQDate() == literal->toQDate(), "a date of a statement is written back");
     }
     if (!date) return;

@@ -39,15 +39,15 @@ QStringList readActions() {
 
 /// All rows of all tables but those for printing, whose contents nobody waits for, and the counters.
 QByteArray digestOf(const QString& path) {
-    Connection file(path, password(), Connection::Access::ReadWrite);
-    Statement check = file.prepare("PRAGMA integrity_check");
+    cursors::Connection file(path, password(), cursors::Connection::Access::ReadWrite);
+    engine::Statement check = file.prepare("PRAGMA integrity_check");
     EXPECT_TRUE(check.step() && check.text(0) == u"ok") << path.toStdString();
     QByteArrayList tables{"sqlite_sequence"};
     for (const TableSpec& table : schemaTables())
         if (!table.name.startsWith(u"Druck_")) tables += quotedName(table.name);
     QCryptographicHash digest(QCryptographicHash::Sha1);
     for (const QByteArray& table : tables) {
-        Statement rows = file.prepare("SELECT * FROM " + table + " ORDER BY rowid");
+        engine::Statement rows = file.prepare("SELECT * FROM " + table + " ORDER BY rowid");
         for (digest.addData(table); rows.step(); digest.addData("\n"))
             for (int i = 0; i < rows.columnCount(); ++i) digest.addData(rows.text(i).toUtf8() + '|');
     }

@@ -70,8 +70,8 @@ void dieAtFileCall(int place, Death death) {
 
 QString rawKey() { return u"x'"_qs + QString(64, u'7') + u'\''; }
 
-QString answer(Connection& file, const QByteArray& select) {
-    Statement statement = file.prepare(select);
+QString answer(cursors::Connection& file, const QByteArray& select) {
+    engine::Statement statement = file.prepare(select);
     statement.step();
     return statement.text(0);
 }

@@ -3,12 +3,14 @@
 #include <QString>
 #include <functional>
 
+namespace cursors {
 class Connection;
+}
 
 /// The bytes of a key themselves: deriving them from a password would be most of the time of these tests.
 QString rawKey();
 /// The first cell that a statement gives.
-QString answer(Connection& file, const QByteArray& select);
+QString answer(cursors::Connection& file, const QByteArray& select);
 
 enum class End { Done, Failed, Killed };
 

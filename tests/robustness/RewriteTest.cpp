@@ -23,7 +23,7 @@ QByteArray bytesOf(const QString& path) {
 
 /// All rows that the tests put in, as a new opening finds them.
 QString contentOf(const QString& path) {
-    Connection file(path, rawKey(), Connection::Access::ReadWrite);
+    cursors::Connection file(path, rawKey(), cursors::Connection::Access::ReadWrite);
     EXPECT_EQ(answer(file, "PRAGMA integrity_check"), u"ok");
     return answer(file, "SELECT group_concat(FangNr || ' ' || Notiz || ' ' || Gewicht) FROM Fang") + u'\n' +
            answer(file, "SELECT group_concat(KNr || ' ' || Nachname) FROM Kontakt");
@@ -46,7 +46,7 @@ protected:
     RewriteTest() {
         QDir(m_folder.path()).mkdir(u"temp"_qs);
         createDatabase(path(), rawKey(), 2005);
-        Connection file(path(), rawKey(), Connection::Access::ReadWrite);
+        cursors::Connection file(path(), rawKey(), cursors::Connection::Access::ReadWrite);
         const QByteArray numbers =
             "WITH RECURSIVE n(i) AS (VALUES (1) UNION SELECT i + 1 FROM n WHERE i < 200) ";
         file.execute(numbers + "INSERT INTO Fang(FangJahr, FangMonat, FischNr, GNr, Notiz, Anzahl, Gewicht) "
@@ -183,7 +183,7 @@ TEST_F(RewriteTest, AReadErrorLeavesTheFileAsItIs) {
 TEST_F(RewriteTest, NobodyWritesBetweenTheCopyAndTheExchange) {
     const auto write = [&] {
         return errorOf([&] {
-                   Connection(path(), rawKey(), Connection::Access::ReadWrite)
+                   cursors::Connection(path(), rawKey(), cursors::Connection::Access::ReadWrite)
                        .execute("UPDATE System SET FJahr = FJahr + 1");
                }) == 0;
     };
@@ -200,7 +200,7 @@ TEST_F(RewriteTest, WhatAKilledProcessLeftBesideTheOldFileIsNotTakenForTheNewOne
     const QString journal = path() + u"-journal"_qs;
     // A write that was killed before its end leaves the way back.
     const auto write = [&] {
-        Connection file(path(), rawKey(), Connection::Access::ReadWrite);
+        cursors::Connection file(path(), rawKey(), cursors::Connection::Access::ReadWrite);
         file.execute("PRAGMA cache_size = 1");
         file.execute("BEGIN");
         file.execute("UPDATE Fang SET Notiz = 'halb'");

@@ -34,7 +34,7 @@ class YearChangeTest : public ::testing::Test {
 protected:
     YearChangeTest() {
         createDatabase(path(), rawKey(), oldYear);
-        Connection file(path(), rawKey(), Connection::Access::ReadWrite);
+        cursors::Connection file(path(), rawKey(), cursors::Connection::Access::ReadWrite);
         const QByteArray numbers =
             "WITH RECURSIVE n(i) AS (VALUES (1) UNION SELECT i + 1 FROM n WHERE i < 300) ";
         for (const char* rows : {"INSERT INTO Kontakt(KategoNr, Nachname) SELECT 1, 'Name ' || i FROM n",
@@ -54,7 +54,7 @@ protected:
 
     /// All that a year change can touch, as a new opening finds it.
     QString content() const {
-        Connection file(path(), rawKey(), Connection::Access::ReadWrite);
+        cursors::Connection file(path(), rawKey(), cursors::Connection::Access::ReadWrite);
         EXPECT_EQ(answer(file, "PRAGMA integrity_check"), u"ok");
         return answer(file, "SELECT FJahr FROM System") + u'\n' +
                answer(file, "SELECT group_concat(KNr || ' ' || Bezahlt) FROM Mitglied") + u'\n' +

@@ -34,8 +34,8 @@ StoreTest::StoreTest() {
     connection->execute("COMMIT");
 }
 
-std::shared_ptr<Connection> StoreTest::connectTo(const QString& file) const {
-    return std::make_shared<Connection>(file, password(), Connection::Access::ReadWrite);
+std::shared_ptr<cursors::Connection> StoreTest::connectTo(const QString& file) const {
+    return std::make_shared<cursors::Connection>(file, password(), cursors::Connection::Access::ReadWrite);
 }
 
 Recordset StoreTest::seek(QStringView name, qint32 key) {
@@ -65,14 +65,14 @@ QString shown(const Value& value) {
     return {};
 }
 
-QString StoreTest::rowsOf(Connection& connection, const QString& select) {
-    StatementCache::Loan statement = connection.select(select);
-    const SelectPlan& plan = statement.plan();
+QString StoreTest::rowsOf(cursors::Connection& connection, const QString& select) {
+    cursors::StatementCache::Loan statement = connection.select(select);
+    const dialect::SelectPlan& plan = statement.plan();
     QStringList lines;
     while (statement->step()) {
         QStringList cells;
         int index = plan.firstColumn();
-        for (const ResultColumn& column : plan.columns)
+        for (const dialect::ResultColumn& column : plan.columns)
             cells += shown(statement->column(index++, column.kind));
         lines += cells.join(u'|');
     }

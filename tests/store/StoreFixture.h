@@ -22,7 +22,7 @@ protected:
     QString file(const QString& name) const { return m_folder.filePath(name); }
     QString path() const { return file(QStringLiteral("uw01.mdb")); }
 
-    std::shared_ptr<Connection> connectTo(const QString& file) const;
+    std::shared_ptr<cursors::Connection> connectTo(const QString& file) const;
     Recordset table(QStringView name) { return database.OpenRecordset(name.toString(), dbOpenTable); }
     Recordset query(const QString& select) { return database.OpenRecordset(select, dbOpenDynaset); }
     /// A table cursor on the row with this key.
@@ -34,9 +34,9 @@ protected:
     /// Runs a statement of the database engine itself.
     void execute(const QByteArray& sql) const;
 
-    static QString rowsOf(Connection& connection, const QString& select);
+    static QString rowsOf(cursors::Connection& connection, const QString& select);
 
-    std::shared_ptr<Connection> connection;
+    std::shared_ptr<cursors::Connection> connection;
     Database database;
 };
 

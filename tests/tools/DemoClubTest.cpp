@@ -12,8 +12,9 @@ public:
     DemoFolder() { makeProgramFolder(m_place.path(), 2026, true); }
 
     QString answer(const QByteArray& select) const {
-        Connection file(m_place.filePath(u"uw01.mdb"_qs), u"qx-1987-nkr"_qs, Connection::Access::ReadOnly);
-        Statement statement = file.prepare(select);
+        cursors::Connection file(m_place.filePath(u"uw01.mdb"_qs), u"qx-1987-nkr"_qs,
+                                 cursors::Connection::Access::ReadOnly);
+        engine::Statement statement = file.prepare(select);
         statement.step();
         return statement.text(0);
     }

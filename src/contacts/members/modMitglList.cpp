@@ -53,7 +53,7 @@ void meldeNichts(MitglList& form) {
     MsgBox(u"Keine passenden Einträge gefunden !"_qs, vbInformation);
 }
 
-void lesePerson(ErrorTail& step, const std::vector<Field>& felder, Zeile& zeile) {
+void lesePerson(ErrorTail& step, const std::vector<Recordset::Field>& felder, Zeile& zeile) {
     modRun::leseZellen(step, felder, zeile);
     constexpr std::size_t geburtstag = 7;
     if (zeile[geburtstag] == Value(Date{})) zeile[geburtstag] = QString();
@@ -83,7 +83,7 @@ bool gehoertDazu(const Lauf& lauf, const Zeile& zeile) {
 
 void fuelleListe(ErrorTail& step, Recordset& liste, const Lauf& lauf) {
     MitglList& form = lauf.form;
-    std::vector<Field> felder;
+    std::vector<Recordset::Field> felder;
     qint64 gelesen = 0;
     if (form.chkArbAnz->isChecked()) form.setHourView(true);
     if (!lauf.vergleicht) {

@@ -96,7 +96,7 @@ bool finde(ErrorTail& step, Recordset& satz, const Value& nummer) {
     return step([&] { satz.Seek(u"="_qs, nummer); }) && !satz.NoMatch();
 }
 
-void leseZellen(ErrorTail& step, const std::vector<Field>& felder, std::span<Value> zeile) {
+void leseZellen(ErrorTail& step, const std::vector<Recordset::Field>& felder, std::span<Value> zeile) {
     for (std::size_t i = 0; i < felder.size(); ++i) step([&] { zeile[i] = felder[i].Value(); });
 }
 
@@ -120,11 +120,11 @@ void MeldeKeinZugriff() {
 
 bool WertAusCheckBox(const QCheckBox* box) { return box->isChecked(); }
 
-int CheckBoxAusWert(const Field& field) { return field.Value() == Value(true) ? 1 : 0; }
+int CheckBoxAusWert(const Recordset::Field& field) { return field.Value() == Value(true) ? 1 : 0; }
 
 bool WertAusOption(const QAbstractButton* option) { return option->isChecked(); }
 
-QString textOderLeer(const Field& field) {
+QString textOderLeer(const Recordset::Field& field) {
     const Value value = field.Value();
     return value.isNull() ? QString() : CStr(value);
 }
@@ -134,7 +134,7 @@ Date DatumAusText(const TextBox* box) {
     return CDate(IsDate(text) ? text : Value(u"00:00:0000"_qs));
 }
 
-QString TextAusDatum(const Field& field) {
+QString TextAusDatum(const Recordset::Field& field) {
     const Value value = field.Value();
     return value.isNull() || CDate(value).isEmpty() ? QString() : CStr(value);
 }

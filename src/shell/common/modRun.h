@@ -49,7 +49,7 @@ int zeileVon(const DataTable* grid, const ValueLabel* nummer, int row);
 bool finde(ErrorTail& step, Recordset& satz, const Value& nummer);
 
 /// The fields of the current row. A cell that cannot be read costs that cell, not the row.
-void leseZellen(ErrorTail& step, const std::vector<Field>& felder, std::span<Value> zeile);
+void leseZellen(ErrorTail& step, const std::vector<Recordset::Field>& felder, std::span<Value> zeile);
 
 void MeldeNichtVorhanden();
 void MeldeNichtsGefunden();
@@ -58,15 +58,15 @@ void MeldeAbgebrochen();
 void MeldeKeinZugriff();
 
 bool WertAusCheckBox(const QCheckBox* box);
-int CheckBoxAusWert(const Field& field);
+int CheckBoxAusWert(const Recordset::Field& field);
 bool WertAusOption(const QAbstractButton* option);
 
 /// The text of a field; empty where the record holds nothing there.
-QString textOderLeer(const Field& field);
+QString textOderLeer(const Recordset::Field& field);
 /// The text of the box as a date, or the empty date if it is none.
 Date DatumAusText(const TextBox* box);
 /// The date as text, or the empty text if it is the empty date or none at all.
-QString TextAusDatum(const Field& field);
+QString TextAusDatum(const Recordset::Field& field);
 
 /// 1 to 12; any other number is told in a box and gives "Januar".
 QString ErmittleMonatsname(qint32 number);

@@ -7,22 +7,12 @@
 #include "RawContent.h"
 #include "SelectRewriter.h"
 #include "SqlFunctions.h"
-#include "Sqlite.h"
 
 #include <utility>
 
-namespace {
+namespace cursors {
 
-int openFlags(Connection::Access access) {
-    switch (access) {
-    case Connection::Access::ReadOnly:
-        return SQLITE_OPEN_READONLY;
-    case Connection::Access::ReadWrite:
-        return SQLITE_OPEN_READWRITE;
-    default:
-        return SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE;
-    }
-}
+namespace {
 
 /// In an open file, whose password was right, a page that does not fit the key is damaged.
 bool isDamage(const RuntimeError& error) { return error.number == 3343 || error.number == 3031; }
@@ -60,34 +50,34 @@ Connection::Connection(const QString& path, const QString& password, Access acce
 
 /// Whatever can be said against the file is said before anything might change it.
 void Connection::openExisting(const QString& path, const QString& password, Access access) {
-    requireReadableFile(path);
-    requireContent(path);
+    engine::requireReadableFile(path);
+    engine::requireContent(path);
     orDamaged(path, password, [&] {
-        if (isInterrupted(path))
-            requireKeyOfInterrupted(path, password);
+        if (engine::isInterrupted(path))
+            engine::requireKeyOfInterrupted(path, password);
         else
-            requireWholePages(path);
+            engine::requireWholePages(path);
         openFile(path, password, access);
         readFirstPage(path);
     });
-    requireWholePages(path);
+    engine::requireWholePages(path);
     requireTables(path);
     if (access == Access::ReadWrite) leaveWriteAheadMode(path);
     cascadeDeletions();
 }
 
 void Connection::openFile(const QString& path, const QString& password, Access access) {
-    m_database = openHandle(path.toUtf8(), openFlags(access));
+    m_database = engine::openFile(path, access);
     m_cache.emplace(m_database.get());
     m_transaction.emplace(m_database.get());
-    setKey(m_database.get(), password);
+    engine::setKey(m_database.get(), password);
     execute("PRAGMA foreign_keys = OFF");
     // A commit is the removal of the journal, and only EXTRA makes that last: it flushes the folder.
     execute("PRAGMA synchronous = EXTRA");
     execute("PRAGMA cache_size = -32768");
     // What was deleted stays nowhere in the file, where a repair might find it again.
     execute("PRAGMA secure_delete = ON");
-    registerSqlFunctions(m_database.get());
+    engine::registerSqlFunctions(m_database.get());
 }
 
 /// A first page that the password does not open is damaged if it opens others.
@@ -96,7 +86,7 @@ void Connection::orDamaged(const QString& path, const QString& password, const s
         open();
     } catch (const RuntimeError& error) {
         m_database.reset();
-        if (error.number == 3031 && fitsOtherPages(path, password)) throw runtimeError(3343, path);
+        if (error.number == 3031 && engine::fitsOtherPages(path, password)) throw runtimeError(3343, path);
         throw;
     }
 }
@@ -104,12 +94,12 @@ void Connection::orDamaged(const QString& path, const QString& password, const s
 /// Takes back what a killed process left half-written, and shows whether the password is right.
 void Connection::readFirstPage(const QString& path) {
     prepare("SELECT COUNT(*) FROM sqlite_master").step();
-    Statement pages = prepare("PRAGMA page_count");
-    if (pages.step()) requirePages(path, pages.integer(0));
+    engine::Statement pages = prepare("PRAGMA page_count");
+    if (pages.step()) engine::requirePages(path, pages.integer(0));
 }
 
 void Connection::requireTables(const QString& path) {
-    Statement named = prepare("SELECT 1 FROM sqlite_master WHERE type = 'table' AND name = ?1");
+    engine::Statement named = prepare("SELECT 1 FROM sqlite_master WHERE type = 'table' AND name = ?1");
     for (const TableSpec& table : schemaTables()) {
         named.bind(1, table.name.toString());
         if (!named.step()) throw runtimeError(3343, path);
@@ -120,7 +110,7 @@ void Connection::requireTables(const QString& path) {
 /// A file that another tool has switched to a write-ahead log would have its newest rows beside it.
 void Connection::leaveWriteAheadMode(const QString& path) {
     const auto answer = [this](const QByteArray& pragma) {
-        Statement statement = prepare(pragma);
+        engine::Statement statement = prepare(pragma);
         return statement.step() ? statement.text(0) : QString();
     };
     if (answer("PRAGMA journal_mode") != u"wal") return;
@@ -149,9 +139,9 @@ void Connection::close() {
 }
 
 StatementCache::Loan Connection::select(QStringView source) {
-    lexStatement(source, m_lexed);
+    dialect::lexStatement(source, m_lexed);
     StatementCache::Loan loan = m_cache->take(m_lexed.key);
-    if (!loan) loan = m_cache->add(m_lexed.key, rewriteSelect(source, m_lexed));
+    if (!loan) loan = m_cache->add(m_lexed.key, dialect::rewriteSelect(source, m_lexed));
     int position = 1;
     for (const Value& literal : m_lexed.literals) loan->bind(position++, literal);
     return loan;
@@ -159,7 +149,7 @@ StatementCache::Loan Connection::select(QStringView source) {
 
 bool Connection::passesCheck() {
     try {
-        Statement check = prepare("PRAGMA quick_check(1)");
+        engine::Statement check = prepare("PRAGMA quick_check(1)");
         return check.step() && check.text(0) == u"ok";
     } catch (const RuntimeError& error) {
         if (!isDamage(error)) throw;
@@ -170,11 +160,11 @@ bool Connection::passesCheck() {
 /// The check reports a page that the disk does not give like a damaged one.
 bool Connection::isSound() {
     if (passesCheck()) return true;
-    RawContent(handle()).forEachChunk([](const QByteArray&) { return true; });
+    engine::RawContent(handle()).forEachChunk([](const QByteArray&) { return true; });
     return passesCheck();
 }
 
-int Connection::changes() const { return sqlite3_changes(m_database.get()); }
+int Connection::changes() const { return engine::changedRows(m_database.get()); }
 
 void Connection::remove(Cursor* cursor) { std::erase(m_cursors, cursor); }
 
@@ -185,3 +175,5 @@ QString passwordOf(const QString& connect) {
         if (part.startsWith(name, Qt::CaseInsensitive)) return part.sliced(name.size());
     return {};
 }
+
+} // namespace cursors

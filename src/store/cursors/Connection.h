@@ -11,13 +11,16 @@
 #include <optional>
 #include <vector>
 
-class Cursor;
 struct sqlite3;
+
+namespace cursors {
+
+class Cursor;
 
 /// An open database file.
 class Connection {
 public:
-    enum class Access : quint8 { ReadWrite, ReadOnly, Create };
+    using Access = engine::Access;
 
     /// Opens a file, which this alone never changes, but for taking back what a killed process left
     /// half-written, and for a write-ahead log of another tool, which goes into the file. If it fails, the
@@ -39,7 +42,7 @@ public:
     /// A statement of the store's own.
     StatementCache::Loan statement(const QByteArray& sql) { return m_cache->take(sql); }
     /// As above, but not kept: for what runs once.
-    Statement prepare(const QByteArray& sql) { return Statement(m_database.get(), sql); }
+    engine::Statement prepare(const QByteArray& sql) { return engine::Statement(m_database.get(), sql); }
     void execute(const QByteArray& sql) { prepare(sql).run(); }
     WriteTransaction& transaction() { return *m_transaction; }
     sqlite3* handle() const { return m_database.get(); }
@@ -62,12 +65,14 @@ private:
     void cascadeDeletions();
     bool passesCheck();
 
-    DatabaseHandle m_database;
+    engine::DatabaseHandle m_database;
     std::optional<StatementCache> m_cache;
     std::optional<WriteTransaction> m_transaction;
     std::vector<Cursor*> m_cursors;
-    LexedStatement m_lexed; ///< kept for its buffers
+    dialect::LexedStatement m_lexed; ///< kept for its buffers
 };
 
 /// The password in a connect text such as ";pwd=...".
 QString passwordOf(const QString& connect);
+
+} // namespace cursors

@@ -7,6 +7,8 @@
 #include <cmath>
 #include <limits>
 
+namespace cursors {
+
 namespace {
 
 Value storableNumber(double number) {
@@ -69,3 +71,5 @@ Value CopyBuffer::initial(int field) const {
     const bool isTruth = m_table->fields[static_cast<size_t>(field)].kind == FieldKind::Boolean;
     return isTruth ? Value(false) : Value();
 }
+
+} // namespace cursors

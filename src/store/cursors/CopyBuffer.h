@@ -6,6 +6,8 @@
 #include <optional>
 #include <vector>
 
+namespace cursors {
+
 /// The fields of a row that is being added or changed, before they are written.
 class CopyBuffer {
 public:
@@ -32,3 +34,5 @@ private:
     const TableSpec* m_table = nullptr;
     std::vector<std::optional<Value>> m_values;
 };
+
+} // namespace cursors

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+namespace cursors {
+
 namespace {
 
 RuntimeError notSupported() {
@@ -138,3 +140,5 @@ void Cursor::remove() {
     moveTo(Place::Deleted);
     afterRemove();
 }
+
+} // namespace cursors

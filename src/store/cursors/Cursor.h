@@ -8,6 +8,8 @@
 #include <memory>
 #include <optional>
 
+namespace cursors {
+
 /// What the two kinds of cursors have in common: a place, a copy buffer, and their part in the user action's
 /// transaction. Values of the current row that this cursor has written itself stand over the stored ones.
 class Cursor {
@@ -86,3 +88,5 @@ private:
     CopyBuffer m_written; ///< on the current row
     std::optional<RowWriter> m_writer;
 };
+
+} // namespace cursors

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+namespace cursors {
+
 QueryCursor::QueryCursor(std::shared_ptr<Connection> connection, QStringView select)
     : Cursor(std::move(connection))
     , m_rows(this->connection().select(select)) {
@@ -18,7 +20,7 @@ int QueryCursor::columnIndex(const QString& name) const {
 
 QStringList QueryCursor::columnNames() const {
     QStringList names;
-    for (const ResultColumn& column : m_rows.plan().columns) names.append(column.name);
+    for (const dialect::ResultColumn& column : m_rows.plan().columns) names.append(column.name);
     return names;
 }
 
@@ -27,12 +29,12 @@ int QueryCursor::fieldOfColumn(int column) const {
 }
 
 Value QueryCursor::streamedValue(int column) const {
-    const SelectPlan& plan = m_rows.plan();
+    const dialect::SelectPlan& plan = m_rows.plan();
     return m_rows->column(column + plan.firstColumn(), plan.columns[static_cast<size_t>(column)].kind);
 }
 
 void QueryCursor::hold() {
-    const SelectPlan& plan = m_rows.plan();
+    const dialect::SelectPlan& plan = m_rows.plan();
     HeldRow held{.number = plan.editable != nullptr ? m_rows->integer(0) : 0, .values = {}};
     held.values.reserve(plan.columns.size());
     for (int column = 0; column < static_cast<int>(plan.columns.size()); ++column) {
@@ -156,3 +158,5 @@ void QueryCursor::afterRemove() {
     --m_reached;
     --m_position;
 }
+
+} // namespace cursors

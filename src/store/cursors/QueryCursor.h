@@ -4,6 +4,8 @@
 
 #include <variant>
 
+namespace cursors {
+
 /// A cursor over the result of a SELECT. Rows stream from the running statement. Only the first and the last
 /// one are kept while they are current: a result of one row is then read to its end as soon as it is opened,
 /// and keeps no other process from writing while a screen shows it.
@@ -52,3 +54,5 @@ private:
     qint32 m_position = -1;
     bool m_complete = false; ///< m_reached is the number of all rows
 };
+
+} // namespace cursors

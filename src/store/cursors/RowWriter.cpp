@@ -2,6 +2,8 @@
 
 #include "Connection.h"
 
+namespace cursors {
+
 namespace {
 
 RuntimeError nullKey() {
@@ -65,3 +67,5 @@ void RowWriter::remove(qint64 row) {
 void RowWriter::requireOneRow() const {
     if (m_connection.changes() != 1) throw runtimeError(3167);
 }
+
+} // namespace cursors

@@ -3,6 +3,8 @@
 #include "CopyBuffer.h"
 #include "StatementCache.h"
 
+namespace cursors {
+
 class Connection;
 
 /// Writes the rows of one table for one cursor.
@@ -30,3 +32,5 @@ private:
     std::vector<int> m_updated; ///< the fields that m_update writes
     StatementCache::Loan m_remove;
 };
+
+} // namespace cursors

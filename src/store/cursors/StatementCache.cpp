@@ -2,6 +2,8 @@
 
 #include <utility>
 
+namespace cursors {
+
 StatementCache::Loan& StatementCache::Loan::operator=(Loan&& other) noexcept {
     if (this == &other) return *this;
     giveBack();
@@ -13,7 +15,7 @@ StatementCache::Loan& StatementCache::Loan::operator=(Loan&& other) noexcept {
 
 void StatementCache::Loan::giveBack() noexcept {
     if (!m_statement) return;
-    Statement statement = std::exchange(m_statement, Statement());
+    engine::Statement statement = std::exchange(m_statement, engine::Statement());
     const std::shared_ptr<Entry> home = std::exchange(m_home, nullptr);
     constexpr size_t mostIdle = 2;
     if (home == nullptr || home->idle.size() >= mostIdle) return;
@@ -29,7 +31,7 @@ StatementCache::Loan StatementCache::take(const QString& key) {
     return lend(m_entries.front());
 }
 
-StatementCache::Loan StatementCache::add(const QString& key, SelectPlan plan) {
+StatementCache::Loan StatementCache::add(const QString& key, dialect::SelectPlan plan) {
     return lend(remember(key, std::move(plan)));
 }
 
@@ -38,7 +40,7 @@ StatementCache::Loan StatementCache::take(const QByteArray& sql) {
     const QString key = u'\5' + QString::fromUtf8(sql);
     Loan known = take(key);
     if (known) return known;
-    return lend(remember(key, SelectPlan{.sql = sql, .columns = {}}));
+    return lend(remember(key, dialect::SelectPlan{.sql = sql, .columns = {}}));
 }
 
 void StatementCache::clear() {
@@ -49,7 +51,7 @@ void StatementCache::clear() {
 StatementCache::Loan StatementCache::lend(const std::shared_ptr<Entry>& entry) {
     Loan loan;
     if (entry->idle.empty()) {
-        loan.m_statement = Statement(m_database, entry->plan->sql);
+        loan.m_statement = engine::Statement(m_database, entry->plan->sql);
     } else {
         loan.m_statement = std::move(entry->idle.back());
         entry->idle.pop_back();
@@ -59,11 +61,12 @@ StatementCache::Loan StatementCache::lend(const std::shared_ptr<Entry>& entry) {
     return loan;
 }
 
-std::shared_ptr<StatementCache::Entry> StatementCache::remember(const QString& key, SelectPlan plan) {
+std::shared_ptr<StatementCache::Entry> StatementCache::remember(const QString& key,
+                                                                dialect::SelectPlan plan) {
     constexpr qsizetype mostEntries = 128;
     auto entry = std::make_shared<Entry>();
     entry->key = QString(key.constData(), key.size());
-    entry->plan = std::make_shared<const SelectPlan>(std::move(plan));
+    entry->plan = std::make_shared<const dialect::SelectPlan>(std::move(plan));
     m_entries.push_front(entry);
     m_places.insert(entry->key, m_entries.begin());
     if (m_places.size() > mostEntries) {
@@ -72,3 +75,5 @@ std::shared_ptr<StatementCache::Entry> StatementCache::remember(const QString& k
     }
     return entry;
 }
+
+} // namespace cursors

@@ -4,6 +4,8 @@
 
 #include <limits>
 
+namespace cursors {
+
 namespace {
 
 QByteArray rowsSql(const TableSpec& table) {
@@ -104,3 +106,5 @@ void TableCursor::seek(const QString& comparison, const Value& key) {
         m_rows->reset();
     }
 }
+
+} // namespace cursors

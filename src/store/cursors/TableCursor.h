@@ -2,6 +2,8 @@
 
 #include "Cursor.h"
 
+namespace cursors {
+
 /// A cursor over all rows of a table in the order of their keys.
 class TableCursor final : public Cursor {
 public:
@@ -35,3 +37,5 @@ private:
     bool m_indexed = false;
     bool m_noMatch = false;
 };
+
+} // namespace cursors

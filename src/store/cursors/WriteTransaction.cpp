@@ -1,9 +1,11 @@
 #include "WriteTransaction.h"
 
-#include "Sqlite.h"
+#include "DatabaseHandle.h"
 #include "Statement.h"
 
 #include <utility>
+
+namespace cursors {
 
 namespace {
 
@@ -77,6 +79,8 @@ void WriteTransaction::requireIntact() const {
     if (m_lost) throw *m_lost;
 }
 
-void WriteTransaction::execute(const QByteArray& sql) { Statement(m_database, sql).run(); }
+void WriteTransaction::execute(const QByteArray& sql) { engine::Statement(m_database, sql).run(); }
 
-bool WriteTransaction::isOpen() const { return sqlite3_get_autocommit(m_database) == 0; }
+bool WriteTransaction::isOpen() const { return engine::isInTransaction(m_database); }
+
+} // namespace cursors

@@ -7,6 +7,8 @@
 
 struct sqlite3;
 
+namespace cursors {
+
 /// One user action's writes. Begins with the first write of a cursor and reaches the disk when the last
 /// cursor that has written is closed, so an action is either wholly in the file or not at all.
 class WriteTransaction {
@@ -48,3 +50,5 @@ private:
     bool m_isUndone = false;
     std::optional<RuntimeError> m_lost;
 };
+
+} // namespace cursors

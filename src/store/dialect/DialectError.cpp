@@ -1,5 +1,7 @@
 #include "DialectError.h"
 
+namespace dialect {
+
 namespace {
 
 QString wording(SyntaxFault fault) {
@@ -66,3 +68,5 @@ RuntimeError tooManyColumns() {
 RuntimeError tooComplex() { return runtimeError(3360); }
 
 RuntimeError unlikeKinds() { return runtimeError(3464); }
+
+} // namespace dialect

@@ -4,6 +4,8 @@
 
 #include <QStringView>
 
+namespace dialect {
+
 enum class SyntaxFault : quint8 { General, Operator, Comma, Text, Date, NoSelect, From, Nesting };
 
 /// Error 3075 with its reason and the place at fault, a long one cut off.
@@ -18,3 +20,5 @@ RuntimeError tooManyFields();                            ///< 3190, of a result
 RuntimeError tooManyColumns();                           ///< 3306, of a sub-select
 RuntimeError tooComplex();                               ///< 3360
 RuntimeError unlikeKinds();                              ///< 3464
+
+} // namespace dialect

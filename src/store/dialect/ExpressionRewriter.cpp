@@ -5,6 +5,8 @@
 
 #include <array>
 
+namespace dialect {
+
 namespace {
 
 struct ComparisonSign {
@@ -164,3 +166,5 @@ Operand ExpressionRewriter::readAggregateArgument() {
     m_reader.expect(TokenKind::Close, SyntaxFault::Operator);
     return argument;
 }
+
+} // namespace dialect

@@ -4,6 +4,8 @@
 #include "Scope.h"
 #include "TokenReader.h"
 
+namespace dialect {
+
 /// Reads one expression of the dialect and writes it as the database engine understands it.
 ///
 /// From the weakest to the strongest binding: OR; AND; comparison, LIKE; sign. It holds what the routines'
@@ -42,3 +44,5 @@ private:
     const Scope& m_scope;
     Aggregates m_aggregates;
 };
+
+} // namespace dialect

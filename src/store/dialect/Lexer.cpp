@@ -6,6 +6,8 @@
 #include <cmath>
 #include <limits>
 
+namespace dialect {
+
 namespace {
 
 // Marks of the literals' kinds in the key. A statement cannot hold them: control characters are refused.
@@ -202,3 +204,5 @@ std::optional<Date> readDateLiteral(QStringView text) {
     if (!day.isValid() || day.year() < 100) return std::nullopt;
     return Date::fromQDate(day);
 }
+
+} // namespace dialect

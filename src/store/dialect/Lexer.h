@@ -6,6 +6,8 @@
 #include <optional>
 #include <vector>
 
+namespace dialect {
+
 enum class TokenKind : quint8 {
     End,
     Name,
@@ -51,3 +53,5 @@ void lexStatement(QStringView source, LexedStatement& statement);
 
 /// The date between two number signs, written m/d/yyyy. Nothing if there is no such day.
 std::optional<Date> readDateLiteral(QStringView text);
+
+} // namespace dialect

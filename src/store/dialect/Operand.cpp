@@ -3,6 +3,8 @@
 #include "DialectError.h"
 #include "SqlNames.h"
 
+namespace dialect {
+
 Operand joined(const Operand& left, const Operand& right, QByteArray sql, FieldKind kind) {
     return {.sql = std::move(sql),
             .kind = kind,
@@ -30,3 +32,5 @@ Operand compared(const Operand& left, const QByteArray& sign, const Operand& rig
     };
     return joined(left, right, '(' + side(left) + ' ' + sign + ' ' + side(right) + ')', FieldKind::Boolean);
 }
+
+} // namespace dialect

@@ -4,6 +4,8 @@
 
 #include <QByteArray>
 
+namespace dialect {
+
 /// A rewritten expression and what is known of it.
 struct Operand {
     QByteArray sql;
@@ -28,3 +30,5 @@ void requireComparable(const Operand& left, const Operand& right);
 QByteArray collated(const Operand& operand);
 /// Truth as a number: True counts as -1 wherever a number is wanted, though the file holds 1.
 QByteArray asNumber(const Operand& operand);
+
+} // namespace dialect

@@ -2,6 +2,8 @@
 
 #include "DialectError.h"
 
+namespace dialect {
+
 FieldReference fieldOf(const Source& source, int field) {
     const FieldSpec& found = source.table->fields[static_cast<size_t>(field)];
     return {source.alias + '.' + quotedName(found.name), &found};
@@ -37,3 +39,5 @@ FieldReference Scope::resolve(const QString& sourceName, const QString& fieldNam
     if (m_outer == nullptr) throw unknownField();
     return m_outer->resolve(sourceName, fieldName);
 }
+
+} // namespace dialect

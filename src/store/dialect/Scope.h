@@ -6,6 +6,8 @@
 #include <QString>
 #include <vector>
 
+namespace dialect {
+
 /// A table in a FROM clause under the name that the statement calls it by.
 struct Source {
     const TableSpec* table;
@@ -40,3 +42,5 @@ private:
 };
 
 FieldReference fieldOf(const Source& source, int field);
+
+} // namespace dialect

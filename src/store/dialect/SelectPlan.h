@@ -6,6 +6,8 @@
 #include <QString>
 #include <vector>
 
+namespace dialect {
+
 struct ResultColumn {
     QString name;
     FieldKind kind = FieldKind::Untyped;
@@ -24,3 +26,5 @@ struct SelectPlan {
 
     int firstColumn() const { return editable != nullptr ? 1 : 0; }
 };
+
+} // namespace dialect

@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+namespace dialect {
+
 namespace {
 
 using Aggregates = ExpressionRewriter::Aggregates;
@@ -206,3 +208,5 @@ Operand readValueSelect(TokenReader& reader, const Scope& outer) {
     select.read();
     return select.value();
 }
+
+} // namespace dialect

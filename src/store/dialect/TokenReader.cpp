@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+namespace dialect {
+
 namespace {
 
 constexpr auto languageWords = std::to_array<QStringView>({
@@ -91,3 +93,5 @@ TokenReader::Level::Level(TokenReader& reader)
     if (reader.m_depth >= deepest) reader.fail(SyntaxFault::Nesting);
     ++reader.m_depth;
 }
+
+} // namespace dialect

@@ -3,6 +3,8 @@
 #include "DialectError.h"
 #include "Lexer.h"
 
+namespace dialect {
+
 /// Walks over the tokens of one statement.
 class TokenReader {
 public:
@@ -62,3 +64,5 @@ private:
     int m_depth = 0;
     int m_aliases = 0;
 };
+
+} // namespace dialect

@@ -4,6 +4,8 @@
 #include "SqliteError.h"
 #include "Statement.h"
 
+namespace engine {
+
 namespace {
 
 constexpr int busyMilliseconds = 1500;
@@ -24,6 +26,11 @@ DatabaseHandle openHandle(const QByteArray& name, int flags) {
     return handle;
 }
 
+DatabaseHandle openFile(const QString& path, Access access) {
+    const int readWrite = SQLITE_OPEN_READWRITE | (access == Access::Create ? SQLITE_OPEN_CREATE : 0);
+    return openHandle(path.toUtf8(), access == Access::ReadOnly ? SQLITE_OPEN_READONLY : readWrite);
+}
+
 void setKey(sqlite3* database, const QString& password) {
     // The library takes no empty key.
     if (password.isEmpty()) throw runtimeError(3031);
@@ -38,3 +45,9 @@ void setKey(sqlite3* database, const QString& password) {
     // SQLCipher 4 writes each page that it can't read to the terminal.
     Statement(database, "PRAGMA cipher_log_level = NONE").run();
 }
+
+int changedRows(sqlite3* database) { return sqlite3_changes(database); }
+
+bool isInTransaction(sqlite3* database) { return sqlite3_get_autocommit(database) == 0; }
+
+} // namespace engine

@@ -4,6 +4,8 @@
 
 #include <QFileInfo>
 
+namespace engine {
+
 QString behindLinks(const QString& path) {
     const QString file = QFileInfo(path).canonicalFilePath();
     return file.isEmpty() ? path : file;
@@ -27,3 +29,5 @@ void requireWholePages(const QString& path) {
 void requirePages(const QString& path, qint64 pages) {
     if (QFileInfo(path).size() < pages * pageBytes) throw runtimeError(3343, path);
 }
+
+} // namespace engine

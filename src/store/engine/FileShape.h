@@ -2,6 +2,8 @@
 
 #include <QString>
 
+namespace engine {
+
 /// The library's encrypted files consist of pages of this size.
 constexpr qint64 pageBytes = 1024;
 
@@ -19,3 +21,5 @@ void requireContent(const QString& path);
 void requireWholePages(const QString& path);
 /// Error 3343 if the file is shorter than its first page says.
 void requirePages(const QString& path, qint64 pages);
+
+} // namespace engine

@@ -12,6 +12,8 @@
 #include <QTemporaryDir>
 #include <QUrl>
 
+namespace engine {
+
 namespace {
 
 constexpr QLatin1String rollbackEnding("-journal");
@@ -73,3 +75,5 @@ void requireKeyOfInterrupted(const QString& path, const QString& password) {
     const QByteArray bytes = content.read(0, static_cast<qsizetype>(content.size()));
     if (!fitsOnceTakenBack(path, bytes, password)) throw runtimeError(3031);
 }
+
+} // namespace engine

@@ -2,6 +2,8 @@
 
 #include <QStringList>
 
+namespace engine {
+
 // A file that a killed process was writing to. The library takes its half-written work back, from the journal
 // beside it, before it looks at the password.
 
@@ -12,3 +14,5 @@ QStringList journalsOf(const QString& path);
 bool isInterrupted(const QString& path);
 /// Error 3031 if the password does not open the file. Changes neither the file nor its journal.
 void requireKeyOfInterrupted(const QString& path, const QString& password);
+
+} // namespace engine

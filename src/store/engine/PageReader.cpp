@@ -9,6 +9,8 @@
 #include <algorithm>
 #include <limits>
 
+namespace engine {
+
 namespace {
 
 /// More than any table has.
@@ -150,3 +152,5 @@ bool fitsOtherPages(const QString& path, const QString& password) {
     }
     return false;
 }
+
+} // namespace engine

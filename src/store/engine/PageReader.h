@@ -6,6 +6,8 @@
 #include <QTemporaryDir>
 #include <functional>
 
+namespace engine {
+
 class RawContent;
 
 /// Reads the rows of a damaged file page by page. It works on a copy in which the first page, which holds the
@@ -46,3 +48,5 @@ private:
 /// Whether the password opens any page but the first, that is: whether a first page that it does not open is
 /// damaged. Error 3043 if the disk does not give a page.
 bool fitsOtherPages(const QString& path, const QString& password);
+
+} // namespace engine

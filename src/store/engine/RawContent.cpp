@@ -7,6 +7,8 @@
 #include <QSaveFile>
 #include <algorithm>
 
+namespace engine {
+
 namespace {
 
 constexpr qint64 chunk = 1 << 20;
@@ -68,3 +70,5 @@ void RawContent::copyTo(const QString& path, QFileDevice::Permissions permission
     whole = whole && forEachChunk([&](const QByteArray& bytes) { return copy.write(bytes) == bytes.size(); });
     if (!whole || !copy.commit()) throw runtimeError(3026);
 }
+
+} // namespace engine

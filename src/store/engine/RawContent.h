@@ -8,6 +8,8 @@
 
 struct sqlite3_file;
 
+namespace engine {
+
 /// The bytes of a database file as they are on the disk, read through SQLite: closing a file of our own would
 /// drop the locks of this process on it.
 class RawContent {
@@ -37,3 +39,5 @@ private:
     sqlite3_file* m_file = nullptr;
     qint64 m_size = 0;
 };
+
+} // namespace engine

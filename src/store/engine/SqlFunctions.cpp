@@ -10,6 +10,8 @@
 #include <memory>
 #include <new>
 
+namespace engine {
+
 // Exceptions must not cross the library's C code.
 
 namespace {
@@ -87,3 +89,5 @@ void registerSqlFunctions(sqlite3* database) {
     check(database, sqlite3_create_function(database, sqlname::singleValue, 1, pure, nullptr, nullptr,
                                             takeSingle, giveSingle));
 }
+
+} // namespace engine

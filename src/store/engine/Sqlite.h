@@ -5,3 +5,5 @@
 #define SQLITE_HAS_CODEC 1
 #endif
 #include <sqlite3.h>
+
+namespace engine {} // namespace engine

@@ -4,6 +4,8 @@
 
 #include <optional>
 
+namespace engine {
+
 namespace {
 
 constexpr QByteArrayView markPrefix("uw-error ");
@@ -101,3 +103,5 @@ RuntimeError sqliteError(sqlite3* database) {
 }
 
 QByteArray errorMark(int number) { return markPrefix.toByteArray() + QByteArray::number(number); }
+
+} // namespace engine

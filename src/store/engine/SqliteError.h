@@ -6,6 +6,8 @@
 
 struct sqlite3;
 
+namespace engine {
+
 /// The last failure on a connection as the error that the user sees. The one place where the library's codes
 /// are given their numbers.
 RuntimeError sqliteError(sqlite3* database);
@@ -17,3 +19,5 @@ RuntimeError prepareError(sqlite3* database);
 
 /// How a function of ours that runs inside a statement reports an error of its own: this text as its message.
 QByteArray errorMark(int number);
+
+} // namespace engine

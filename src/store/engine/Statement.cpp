@@ -6,6 +6,8 @@
 
 #include <limits>
 
+namespace engine {
+
 namespace {
 
 QString textOf(sqlite3_value* stored) {
@@ -146,3 +148,5 @@ Statement::Stored Statement::stored(int index) const {
         return Stored::Other;
     }
 }
+
+} // namespace engine

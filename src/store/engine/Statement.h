@@ -9,6 +9,8 @@
 struct sqlite3;
 struct sqlite3_stmt;
 
+namespace engine {
+
 /// A prepared statement. Failures are RuntimeErrors; a failed statement is reset, so that it can run again.
 class Statement {
 public:
@@ -48,3 +50,5 @@ private:
 
     std::unique_ptr<sqlite3_stmt, Finalizer> m_statement;
 };
+
+} // namespace engine

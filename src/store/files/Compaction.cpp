@@ -38,14 +38,14 @@ private:
     void verify();
 
     UnfinishedPath m_target;
-    Connection m_connection;
+    cursors::Connection m_connection;
     QList<SchemaObject> m_tables;
     QHash<QString, qint64> m_counts; ///< so many rows were copied
 };
 
 Compaction::Compaction(const QString& source, const QString& target, const QString& password)
     : m_target(target)
-    , m_connection(source, password, Connection::Access::ReadWrite) {
+    , m_connection(source, password, cursors::Connection::Access::ReadWrite) {
     makeEmptyCopy(source);
     attachCopy(password);
 }
@@ -58,7 +58,7 @@ void Compaction::makeEmptyCopy(const QString& source) const {
 }
 
 void Compaction::attachCopy(const QString& password) {
-    Statement attach = m_connection.prepare("ATTACH ?1 AS copy KEY ?2");
+    engine::Statement attach = m_connection.prepare("ATTACH ?1 AS copy KEY ?2");
     attach.bind(1, m_target.path());
     attach.bind(2, password);
     attach.run();
@@ -72,7 +72,7 @@ void Compaction::attachCopy(const QString& password) {
 
 QList<Compaction::SchemaObject> Compaction::schemaObjects(const QByteArray& condition) {
     QList<SchemaObject> objects;
-    Statement found =
+    engine::Statement found =
         m_connection.prepare("SELECT name, sql FROM main.sqlite_master WHERE sql IS NOT NULL AND " +
                              condition + " AND name NOT LIKE 'sqlite\\_%' ESCAPE '\\' ORDER BY rowid");
     while (found.step()) objects.push_back({found.text(0), found.text(1).toUtf8()});
@@ -92,7 +92,7 @@ void Compaction::create(const SchemaObject& object) {
 qint64 Compaction::copyRows(const QString& table) {
     m_connection.execute("INSERT INTO copy." + quotedName(table) + " SELECT * FROM main." +
                          quotedName(table));
-    Statement rows = m_connection.prepare("SELECT changes()");
+    engine::Statement rows = m_connection.prepare("SELECT changes()");
     rows.step();
     return rows.integer(0);
 }
@@ -106,7 +106,7 @@ void Compaction::copyCounters() {
 /// Numbers of the file itself by which other tools know it.
 void Compaction::copyMarks() {
     for (const QByteArray mark : {"user_version", "application_id"}) {
-        Statement value = m_connection.prepare("PRAGMA main." + mark);
+        engine::Statement value = m_connection.prepare("PRAGMA main." + mark);
         if (!value.step()) continue;
         const QByteArray number = QByteArray::number(value.integer(0));
         m_connection.execute("PRAGMA copy." + mark + " = " + number);
@@ -124,7 +124,7 @@ void Compaction::copyAll() {
 }
 
 bool Compaction::hasRows(const QString& table, qint64 count) {
-    Statement found = m_connection.prepare("SELECT COUNT(*) FROM copy." + quotedName(table));
+    engine::Statement found = m_connection.prepare("SELECT COUNT(*) FROM copy." + quotedName(table));
     return found.step() && found.integer(0) == count;
 }
 
@@ -132,7 +132,7 @@ void Compaction::verify() {
     // Forgets what was written, so that it is read from the disk again.
     m_connection.execute("PRAGMA shrink_memory");
     // Whether the indexes know every row need not be asked: they were just made from the rows.
-    Statement check = m_connection.prepare("PRAGMA copy.quick_check");
+    engine::Statement check = m_connection.prepare("PRAGMA copy.quick_check");
     bool whole = check.step() && check.text(0) == u"ok";
     for (auto table = m_counts.cbegin(); table != m_counts.cend(); ++table)
         whole = whole && hasRows(table.key(), table.value());

@@ -25,23 +25,23 @@ constexpr auto references = std::to_array<Reference>({
     {"Benutzer", "GNr", "Gruppen"},
 });
 
-qint64 single(Connection& file, const QByteArray& sql) {
-    Statement statement = file.prepare(sql);
+qint64 single(cursors::Connection& file, const QByteArray& sql) {
+    engine::Statement statement = file.prepare(sql);
     return statement.step() ? statement.integer(0) : 0;
 }
 
-void raiseCounter(Connection& file, const QString& table, qint64 number) {
-    Statement add = file.prepare("INSERT INTO sqlite_sequence SELECT ?1, 0 WHERE NOT EXISTS "
-                                 "(SELECT 1 FROM sqlite_sequence WHERE name = ?1)");
+void raiseCounter(cursors::Connection& file, const QString& table, qint64 number) {
+    engine::Statement add = file.prepare("INSERT INTO sqlite_sequence SELECT ?1, 0 WHERE NOT EXISTS "
+                                         "(SELECT 1 FROM sqlite_sequence WHERE name = ?1)");
     add.bind(1, table);
     add.run();
-    Statement raise = file.prepare("UPDATE sqlite_sequence SET seq = max(seq, ?2) WHERE name = ?1");
+    engine::Statement raise = file.prepare("UPDATE sqlite_sequence SET seq = max(seq, ?2) WHERE name = ?1");
     raise.bind(1, table);
     raise.bind(2, number);
     raise.run();
 }
 
-void restoreSystem(Connection& file) {
+void restoreSystem(cursors::Connection& file) {
     if (single(file, "SELECT COUNT(*) FROM \"System\"") > 0) return;
     // Catches and hours are entered in the current fishing year; one beyond the calendar's is a slip of the
     // pen.
@@ -52,26 +52,26 @@ void restoreSystem(Connection& file) {
 }
 
 /// Nobody else could let the others in again.
-bool canAnybodyManageUsers(Connection& file) {
+bool canAnybodyManageUsers(cursors::Connection& file) {
     return single(file, "SELECT COUNT(*) FROM \"Benutzer\" JOIN \"Gruppen\" USING (\"GNr\") "
                         "WHERE \"Benutzerverwaltung\"") > 0;
 }
 
 /// With the groups back as delivered the users of the first one come in with their own passwords.
-void restoreLogin(Connection& file) {
+void restoreLogin(cursors::Connection& file) {
     if (canAnybodyManageUsers(file)) return;
     if (single(file, "SELECT COUNT(*) FROM \"Gruppen\" WHERE \"Benutzerverwaltung\"") == 0) seedGroup(file);
     if (!canAnybodyManageUsers(file)) seedUser(file);
 }
 
-void restoreMembers(Connection& file) {
+void restoreMembers(cursors::Connection& file) {
     file.execute("INSERT INTO \"Mitglied\" SELECT \"KNr\", 0, 0, 0, 0.0, 0.0, 0 FROM \"Kontakt\" WHERE "
                  "\"KategoNr\" IN (1, 2) AND \"KNr\" NOT IN (SELECT \"KNr\" FROM \"Mitglied\")");
 }
 
 } // namespace
 
-void raiseCounters(Connection& file, const QHash<QString, qint64>& known) {
+void raiseCounters(cursors::Connection& file, const QHash<QString, qint64>& known) {
     for (auto counter = known.begin(); counter != known.end(); ++counter)
         if (const TableSpec* table = findTable(counter.key()); table && table->keyed)
             raiseCounter(file, table->name.toString(), counter.value());
@@ -83,11 +83,11 @@ void raiseCounters(Connection& file, const QHash<QString, qint64>& known) {
 }
 
 void restoreParameters(const QString& path, const QString& password) {
-    Connection file(path, password, Connection::Access::ReadWrite);
+    cursors::Connection file(path, password, cursors::Connection::Access::ReadWrite);
     restoreSystem(file);
 }
 
-void restoreEssentials(Connection& file) {
+void restoreEssentials(cursors::Connection& file) {
     restoreSystem(file);
     seedCategories(file);
     restoreLogin(file);

@@ -60,10 +60,10 @@ std::error_code move(const QString& from, const QString& to) {
 } // namespace
 
 void replaceDatabase(const QString& newFile, const QString& oldPath) {
-    const QString oldFile = behindLinks(oldPath);
+    const QString oldFile = engine::behindLinks(oldPath);
     QStringList aside;
     bool done = true;
-    for (const QString& journal : journalsOf(oldFile)) {
+    for (const QString& journal : engine::journalsOf(oldFile)) {
         if (!QFile::exists(journal)) continue;
         done = done && putAside(journal);
         if (done) aside += journal;

@@ -2,23 +2,23 @@
 
 #include "UnfinishedFile.h"
 
-void seedSystem(Connection& file, int year) {
-    Statement system = file.prepare("INSERT INTO \"System\" VALUES (?1, 0, 0, '', '', '', '', '')");
+void seedSystem(cursors::Connection& file, int year) {
+    engine::Statement system = file.prepare("INSERT INTO \"System\" VALUES (?1, 0, 0, '', '', '', '', '')");
     system.bind(1, static_cast<qint64>(year));
     system.run();
 }
 
-void seedCategories(Connection& file) {
+void seedCategories(cursors::Connection& file) {
     file.execute("INSERT OR IGNORE INTO \"Katego\" VALUES (1, 'Mitglieder (aktiv)'), "
                  "(2, 'Mitglieder (passiv)')");
 }
 
-void seedGroup(Connection& file) {
+void seedGroup(cursors::Connection& file) {
     file.execute(
         "INSERT OR IGNORE INTO \"Gruppen\" VALUES (1, 'Administratoren', 1, 1, 1, 1, 1, 1, 1, 1, 1, 1)");
 }
 
-void seedUser(Connection& file) {
+void seedUser(cursors::Connection& file) {
     const QByteArray group = "(SELECT MIN(\"GNr\") FROM \"Gruppen\" WHERE \"Benutzerverwaltung\")";
     // Two of one name and password would keep each other out.
     file.execute("UPDATE \"Benutzer\" SET \"GNr\" = " + group +

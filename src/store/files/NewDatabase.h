@@ -2,7 +2,9 @@
 
 #include <QString>
 
+namespace cursors {
 class Connection;
+}
 
 /// Makes the file that is delivered with the program: all tables, the two system categories, the group
 /// "Administratoren" with all rights, the user "Admin" with the empty password in it, and the one row of
@@ -12,8 +14,8 @@ void createDatabase(const QString& path, const QString& password, int year);
 // The same rows one by one, for a file that has lost them. Categories and group are left alone if they are
 // there.
 
-void seedSystem(Connection& file, int year);
-void seedCategories(Connection& file);
-void seedGroup(Connection& file);
+void seedSystem(cursors::Connection& file, int year);
+void seedCategories(cursors::Connection& file);
+void seedGroup(cursors::Connection& file);
 /// In the first group that may manage the users.
-void seedUser(Connection& file);
+void seedUser(cursors::Connection& file);

@@ -27,7 +27,7 @@ void PageSweep::sweep(int page) {
 /// One row is mostly enough; the next ones are asked when it has too little in it to tell.
 PageSweep::Candidates PageSweep::candidates(int page) {
     Candidates tables;
-    m_pages.rowsOf(page, [&](const Statement& row) {
+    m_pages.rowsOf(page, [&](const engine::Statement& row) {
         Candidates ofRow = tablesOfRow(row);
         if (tables.empty() || ofRow.size() < tables.size()) tables = std::move(ofRow);
         return tables.size() != 1;
@@ -39,10 +39,10 @@ PageSweep::Candidates PageSweep::candidates(int page) {
 /// nothing new: what is cut off from it shows at its own page.
 bool PageSweep::save(int page, const TableSpec& table) {
     if (isForPrinting(table)) return true;
-    return m_pages.rowsOf(page, [&](const Statement& row) { return note(table, row); });
+    return m_pages.rowsOf(page, [&](const engine::Statement& row) { return note(table, row); });
 }
 
-bool PageSweep::note(const TableSpec& table, const Statement& row) {
+bool PageSweep::note(const TableSpec& table, const engine::Statement& row) {
     if (&table == &catalogueTable())
         m_beginnings[row.text(2)] = row.integer(4);
     else if (&table == &countersTable())
@@ -74,14 +74,14 @@ void PageSweep::saveKnownBeginnings() {
 /// Null if the rows are saved already.
 const TableSpec* PageSweep::choose(const LikePage& like) {
     const TableSpec* chosen = nullptr;
-    m_pages.rowsOf(like.page, [&](const Statement& row) {
+    m_pages.rowsOf(like.page, [&](const engine::Statement& row) {
         chosen = chooseByRow(like.tables, row);
         return false;
     });
     return chosen;
 }
 
-const TableSpec* PageSweep::chooseByRow(const Candidates& tables, const Statement& row) {
+const TableSpec* PageSweep::chooseByRow(const Candidates& tables, const engine::Statement& row) {
     const auto has = [&](const TableSpec* table) { return m_saved.holds(*table, row); };
     if (std::ranges::any_of(tables, has)) return nullptr;
     const auto lacks = [&](const TableSpec* table) {

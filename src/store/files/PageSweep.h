@@ -12,7 +12,7 @@
 /// order in the file, where tables begin in the order of the schema.
 class PageSweep {
 public:
-    PageSweep(PageReader& pages, Connection& target)
+    PageSweep(engine::PageReader& pages, cursors::Connection& target)
         : m_pages(pages)
         , m_saved(target) {}
 
@@ -31,13 +31,13 @@ private:
     void sweep(int page);
     Candidates candidates(int page);
     bool save(int page, const TableSpec& table);
-    bool note(const TableSpec& table, const Statement& row);
+    bool note(const TableSpec& table, const engine::Statement& row);
     void saveLikePages();
     void saveKnownBeginnings();
     const TableSpec* choose(const LikePage& like);
-    const TableSpec* chooseByRow(const Candidates& tables, const Statement& row);
+    const TableSpec* chooseByRow(const Candidates& tables, const engine::Statement& row);
 
-    PageReader& m_pages;
+    engine::PageReader& m_pages;
     SavedRows m_saved;
     QHash<QString, qint64> m_beginnings;
     QHash<QString, qint64> m_counters;

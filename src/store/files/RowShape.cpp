@@ -4,7 +4,7 @@
 
 namespace {
 
-using Stored = Statement::Stored;
+using Stored = engine::Statement::Stored;
 
 constexpr auto catalogueFields = std::to_array<FieldSpec>({
     {u"type", FieldKind::Text},
@@ -20,7 +20,7 @@ constexpr auto counterFields = std::to_array<FieldSpec>({
 constexpr TableSpec catalogue{u"sqlite_master", catalogueFields, false};
 constexpr TableSpec counters{u"sqlite_sequence", counterFields, false};
 
-int fieldsOf(const Statement& row) {
+int fieldsOf(const engine::Statement& row) {
     int count = 0;
     while (count + 1 < row.columnCount() && row.stored(count + 1) != Stored::Other) ++count;
     return count;
@@ -29,7 +29,7 @@ int fieldsOf(const Statement& row) {
 Stored expected(FieldKind kind) { return kind == FieldKind::Text ? Stored::Text : Stored::Number; }
 
 /// How many fields hold what they should; -1 if the row can't be one of this table.
-int likeness(const Statement& row, int fields, const TableSpec& table) {
+int likeness(const engine::Statement& row, int fields, const TableSpec& table) {
     // The key of a table is the row's own number and stands nowhere else.
     const bool hasKeyElsewhere = row.stored(1) == Stored::Null;
     if (fields != static_cast<int>(table.fields.size()) || hasKeyElsewhere != table.keyed) return -1;
@@ -44,7 +44,7 @@ int likeness(const Statement& row, int fields, const TableSpec& table) {
 const TableSpec& catalogueTable() { return catalogue; }
 const TableSpec& countersTable() { return counters; }
 
-std::vector<const TableSpec*> tablesOfRow(const Statement& row) {
+std::vector<const TableSpec*> tablesOfRow(const engine::Statement& row) {
     const int fields = fieldsOf(row);
     std::vector<const TableSpec*> best;
     int most = 0;

@@ -14,4 +14,4 @@ const TableSpec& countersTable();
 
 /// The tables whose rows look most like this one, in the order of the schema; those two lists included. A row
 /// as PageReader shows it.
-std::vector<const TableSpec*> tablesOfRow(const Statement& row);
+std::vector<const TableSpec*> tablesOfRow(const engine::Statement& row);

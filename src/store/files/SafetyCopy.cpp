@@ -92,7 +92,7 @@ QString prepareFolder(const QString& file, const QString& folder, const CopyName
     return unfinished;
 }
 
-bool equals(const RawContent& content, const QString& path) {
+bool equals(const engine::RawContent& content, const QString& path) {
     QFile copy(path);
     if (copy.size() != content.size() || !copy.open(QIODevice::ReadOnly)) return false;
     return content.forEachChunk([&](const QByteArray& bytes) { return copy.read(bytes.size()) == bytes; });
@@ -100,7 +100,7 @@ bool equals(const RawContent& content, const QString& path) {
 
 /// Reads every page of a copy, each of which carries a check sum of its own.
 void requireSound(const QString& path, const QString& password) {
-    Connection copy(path, password, Connection::Access::ReadOnly);
+    cursors::Connection copy(path, password, cursors::Connection::Access::ReadOnly);
     if (!copy.isSound()) throw runtimeError(3343, path);
 }
 
@@ -116,11 +116,11 @@ void keepSafetyCopy(const QString& file, const QString& password, const QString&
                     const QDateTime& time) {
     const CopyNames names(file, folder, time);
     const QString unfinished = prepareFolder(file, folder, names);
-    Connection original(file, password, Connection::Access::ReadOnly);
+    cursors::Connection original(file, password, cursors::Connection::Access::ReadOnly);
     // Keeps others from writing until the copy is made.
     original.execute("BEGIN");
     original.prepare("SELECT COUNT(*) FROM sqlite_master").step();
-    const RawContent content(original.handle());
+    const engine::RawContent content(original.handle());
     if (const QStringList present = names.present();
         !present.isEmpty() && equals(content, names.path(present.last())))
         return;
@@ -130,7 +130,7 @@ void keepSafetyCopy(const QString& file, const QString& password, const QString&
     removeOldest(names);
 }
 
-void keepDamagedFile(const RawContent& content, const QString& file, const QString& folder,
+void keepDamagedFile(const engine::RawContent& content, const QString& file, const QString& folder,
                      const QDateTime& time) {
     const CopyNames names(file, folder, time);
     const QString unfinished = prepareFolder(file, folder, names);

@@ -3,7 +3,9 @@
 #include <QDateTime>
 #include <QString>
 
+namespace engine {
 class RawContent;
+}
 
 /// Keeps copies of a database file in a folder, which is made if missing: makes one, named by `time`, unless
 /// the newest that is there already equals the file byte by byte. A copy gets its name when it is whole and
@@ -19,7 +21,7 @@ void keepSafetyCopy(const QString& file, const QString& password, const QString&
                     const QDateTime& time);
 /// Copies a damaged file into that folder, which is made if missing, as "uw01 vor Reparatur 2026-03-14
 /// 18.05.12.mdb". No later copy takes its place. Errors as above, 3043 if the disk does not give a page.
-void keepDamagedFile(const RawContent& content, const QString& file, const QString& folder,
+void keepDamagedFile(const engine::RawContent& content, const QString& file, const QString& folder,
                      const QDateTime& time);
 /// Whether the copy before failed in that way, which may be the file's own fault.
 bool isCopyUnfinished(const QString& file, const QString& folder);

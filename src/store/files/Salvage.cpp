@@ -13,7 +13,7 @@
 
 namespace {
 
-void createTables(Connection& target) {
+void createTables(cursors::Connection& target) {
     for (const QByteArray& statement : schemaStatements()) target.execute(statement);
 }
 
@@ -21,9 +21,9 @@ void createTables(Connection& target) {
 
 std::shared_ptr<const void> salvageFile(const QString& source, const QString& target, const QString& password,
                                         const QString& keptIn) {
-    const auto content = std::make_shared<RawContent>(source);
+    const auto content = std::make_shared<engine::RawContent>(source);
     content->lock();
-    PageReader pages(*content, password, std::numeric_limits<int>::max());
+    engine::PageReader pages(*content, password, std::numeric_limits<int>::max());
     UnfinishedFile file(target, password);
     if (!QFile::setPermissions(target, QFile::permissions(source))) throw runtimeError(70);
     createTables(file.connection());

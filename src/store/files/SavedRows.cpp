@@ -28,14 +28,14 @@ QByteArray sameSql(const TableSpec& table) {
     return sql;
 }
 
-void bindRow(Statement& statement, const TableSpec& table, const Statement& row) {
+void bindRow(engine::Statement& statement, const TableSpec& table, const engine::Statement& row) {
     statement.bindColumn(1, row, 0);
     int position = 1;
     for (size_t i = firstField(table); i < table.fields.size(); ++i)
         statement.bindColumn(++position, row, static_cast<int>(i) + 1);
 }
 
-bool finds(Statement& statement) {
+bool finds(engine::Statement& statement) {
     const bool found = statement.step();
     statement.reset();
     return found;
@@ -51,22 +51,22 @@ SavedRows::Statements& SavedRows::of(const TableSpec& table) {
     return place->second;
 }
 
-bool SavedRows::add(const TableSpec& table, const Statement& row) {
-    Statement& insert = of(table).insert;
+bool SavedRows::add(const TableSpec& table, const engine::Statement& row) {
+    engine::Statement& insert = of(table).insert;
     bindRow(insert, table, row);
     insert.run();
     m_count += m_target.changes();
     return m_target.changes() > 0;
 }
 
-bool SavedRows::holds(const TableSpec& table, const Statement& row) {
-    Statement& same = of(table).same;
+bool SavedRows::holds(const TableSpec& table, const engine::Statement& row) {
+    engine::Statement& same = of(table).same;
     bindRow(same, table, row);
     return finds(same);
 }
 
-bool SavedRows::hasNumber(const TableSpec& table, const Statement& row) {
-    Statement& number = of(table).number;
+bool SavedRows::hasNumber(const TableSpec& table, const engine::Statement& row) {
+    engine::Statement& number = of(table).number;
     number.bindColumn(1, row, 0);
     return finds(number);
 }

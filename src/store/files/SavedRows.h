@@ -7,23 +7,23 @@
 /// The tables of the new file while rows are saved into them. A row comes as PageReader shows it.
 class SavedRows {
 public:
-    explicit SavedRows(Connection& target)
+    explicit SavedRows(cursors::Connection& target)
         : m_target(target) {}
 
     /// False if there is a row of that number already.
-    bool add(const TableSpec& table, const Statement& row);
+    bool add(const TableSpec& table, const engine::Statement& row);
     /// Whether the table has this very row.
-    bool holds(const TableSpec& table, const Statement& row);
-    bool hasNumber(const TableSpec& table, const Statement& row);
+    bool holds(const TableSpec& table, const engine::Statement& row);
+    bool hasNumber(const TableSpec& table, const engine::Statement& row);
     bool isEmpty() const { return m_count == 0; }
 
 private:
     struct Statements {
-        Statement insert, same, number;
+        engine::Statement insert, same, number;
     };
     Statements& of(const TableSpec& table);
 
-    Connection& m_target;
+    cursors::Connection& m_target;
     std::map<const TableSpec*, Statements> m_statements;
     qint64 m_count = 0;
 };

@@ -9,12 +9,12 @@ public:
     /// Errors as for UnfinishedPath.
     UnfinishedFile(const QString& path, const QString& password);
 
-    Connection& connection() { return m_connection; }
+    cursors::Connection& connection() { return m_connection; }
     /// Writes everything to the disk, the folder's entry included, and lets go of the file, which stays.
     /// Error 3343 if it can't be read there.
     void finish();
 
 private:
     UnfinishedPath m_path;
-    Connection m_connection;
+    cursors::Connection m_connection;
 };

@@ -18,5 +18,5 @@ UnfinishedPath::UnfinishedPath(const QString& path)
 UnfinishedPath::~UnfinishedPath() {
     if (m_kept) return;
     QFile::remove(m_path);
-    for (const QString& journal : journalsOf(m_path)) QFile::remove(journal);
+    for (const QString& journal : engine::journalsOf(m_path)) QFile::remove(journal);
 }

@@ -4,18 +4,19 @@
 #include "Connection.h"
 
 Workspace::Workspace()
-    : m_opened(std::make_shared<std::weak_ptr<Connection>>()) {}
+    : m_opened(std::make_shared<std::weak_ptr<cursors::Connection>>()) {}
 
 Database Workspace::OpenDatabase(const QString& path, bool, bool readOnly, const QString& connect) {
-    const auto access = readOnly ? Connection::Access::ReadOnly : Connection::Access::ReadWrite;
-    const auto connection = std::make_shared<Connection>(path, passwordOf(connect), access);
+    const auto access =
+        readOnly ? cursors::Connection::Access::ReadOnly : cursors::Connection::Access::ReadWrite;
+    const auto connection = std::make_shared<cursors::Connection>(path, cursors::passwordOf(connect), access);
     *m_opened = connection;
     return Database(connection);
 }
 
 /// The connection lives as long as a database or a cursor of it does, so a reference to it is good for a
 /// call.
-Connection& Workspace::opened() const {
+cursors::Connection& Workspace::opened() const {
     const auto connection = m_opened->lock();
     if (connection == nullptr || !connection->isOpen()) throw runtimeError(91);
     return *connection;
@@ -35,5 +36,5 @@ Workspace DBEngine::Workspaces(int index) {
 FileHold DBEngine::CompactDatabase(const QString& source, const QString& target, const QString& password,
                                    const QString& keptIn) {
     const bool isConnect = password.startsWith(u';');
-    return compactFile(source, target, isConnect ? passwordOf(password) : password, keptIn);
+    return compactFile(source, target, isConnect ? cursors::passwordOf(password) : password, keptIn);
 }

@@ -25,8 +25,8 @@ public:
     void Rollback();
 
 private:
-    Connection& opened() const;
-    std::shared_ptr<std::weak_ptr<Connection>> m_opened;
+    cursors::Connection& opened() const;
+    std::shared_ptr<std::weak_ptr<cursors::Connection>> m_opened;
 };
 
 /// Keeps other processes from a database file until it is destroyed.

@@ -4,7 +4,7 @@
 #include "QueryCursor.h"
 #include "TableCursor.h"
 
-Database::Database(std::shared_ptr<Connection> connection)
+Database::Database(std::shared_ptr<cursors::Connection> connection)
     : m_connection(std::move(connection)) {}
 
 bool Database::isOpen() const { return m_connection != nullptr && m_connection->isOpen(); }
@@ -19,10 +19,11 @@ bool Database::isSound() const {
 
 Recordset Database::OpenRecordset(const QString& nameOrSelect, RecordsetType type) {
     if (!isOpen()) throw runtimeError(91);
-    if (type == dbOpenDynaset) return Recordset(std::make_shared<QueryCursor>(m_connection, nameOrSelect));
+    if (type == dbOpenDynaset)
+        return Recordset(std::make_shared<cursors::QueryCursor>(m_connection, nameOrSelect));
     const TableSpec* table = findTable(nameOrSelect);
     if (table == nullptr) throw runtimeError(3078, nameOrSelect);
-    return Recordset(std::make_shared<TableCursor>(m_connection, *table));
+    return Recordset(std::make_shared<cursors::TableCursor>(m_connection, *table));
 }
 
 void Database::Close() {

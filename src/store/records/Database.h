@@ -4,13 +4,15 @@
 
 #include <memory>
 
+namespace cursors {
 class Connection;
+}
 
 /// An open database file. A value with shared state; using an empty or closed one is error 91.
 class Database {
 public:
     Database() = default;
-    explicit Database(std::shared_ptr<Connection> connection);
+    explicit Database(std::shared_ptr<cursors::Connection> connection);
 
     /// Opens a table (dbOpenTable, by its name; 3078 if there is none) or the result of one SELECT
     /// (dbOpenDynaset; 3075 for what is no well-formed SELECT, 3061 for an unknown field, 3078 for an unknown
@@ -24,5 +26,5 @@ public:
     bool isSound() const;
 
 private:
-    std::shared_ptr<Connection> m_connection;
+    std::shared_ptr<cursors::Connection> m_connection;
 };

@@ -2,15 +2,15 @@
 
 #include "Cursor.h"
 
-Value Field::Value() const {
+Value Recordset::Field::Value() const {
     if (!m_cursor->isOpen()) throw runtimeError(91);
     return m_cursor->value(m_column);
 }
 
-Recordset::Recordset(std::shared_ptr<Cursor> cursor)
+Recordset::Recordset(std::shared_ptr<cursors::Cursor> cursor)
     : m_cursor(std::move(cursor)) {}
 
-Cursor& Recordset::cursor() const {
+cursors::Cursor& Recordset::cursor() const {
     if (m_cursor == nullptr || !m_cursor->isOpen()) throw runtimeError(91);
     return *m_cursor;
 }
@@ -35,16 +35,16 @@ qint32 Recordset::RecordCount() const { return cursor().recordCount(); }
 
 qint32 Recordset::AbsolutePosition() const { return cursor().absolutePosition(); }
 
-Field Recordset::Fields(const QString& name) const {
+Recordset::Field Recordset::Fields(const QString& name) const {
     const int column = cursor().columnIndex(name);
     return {m_cursor, column};
 }
 
-std::vector<Field> Recordset::Fields() const {
-    std::vector<Field> fields;
+std::vector<Recordset::Field> Recordset::Fields() const {
+    std::vector<Recordset::Field> fields;
     const int count = static_cast<int>(cursor().columnNames().size());
     fields.reserve(static_cast<size_t>(count));
-    for (int column = 0; column < count; ++column) fields.push_back(Field(m_cursor, column));
+    for (int column = 0; column < count; ++column) fields.push_back(Recordset::Field(m_cursor, column));
     return fields;
 }
 

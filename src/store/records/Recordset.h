@@ -8,31 +8,33 @@
 
 enum RecordsetType { dbOpenTable = 1, dbOpenDynaset = 2 };
 
+namespace cursors {
 class Cursor;
-
-/// One field of a cursor. Reads the row that is current at the moment of asking, so it can be fetched once
-/// before a loop.
-class Field {
-public:
-    /// Error 3021 without a current row, 91 when the cursor has been closed.
-    ::Value Value() const;
-
-private:
-    friend class Recordset;
-    Field(std::shared_ptr<Cursor> cursor, int column)
-        : m_cursor(std::move(cursor))
-        , m_column(column) {}
-    std::shared_ptr<Cursor> m_cursor;
-    int m_column;
-};
+}
 
 /// A cursor over a table or over the result of a SELECT. A value with shared state: copies speak of the same
 /// cursor, the last one closes it. Any use of an empty or closed one is error 91; reading without a current
 /// row is 3021; an unknown field name is 3265. Names compare without regard to case.
 class Recordset {
 public:
+    /// One field of a cursor. Reads the row that is current at the moment of asking, so it can be fetched
+    /// once before a loop.
+    class Field {
+    public:
+        /// Error 3021 without a current row, 91 when the cursor has been closed.
+        ::Value Value() const;
+
+    private:
+        friend class Recordset;
+        Field(std::shared_ptr<cursors::Cursor> cursor, int column)
+            : m_cursor(std::move(cursor))
+            , m_column(column) {}
+        std::shared_ptr<cursors::Cursor> m_cursor;
+        int m_column;
+    };
+
     Recordset() = default;
-    explicit Recordset(std::shared_ptr<Cursor> cursor);
+    explicit Recordset(std::shared_ptr<cursors::Cursor> cursor);
 
     /// Orders a table cursor by an index. "PrimaryKey" is the only one there is; others are error 3015.
     void Index(const QString& name);
@@ -74,6 +76,6 @@ public:
     void Abandon();
 
 private:
-    Cursor& cursor() const;
-    std::shared_ptr<Cursor> m_cursor;
+    cursors::Cursor& cursor() const;
+    std::shared_ptr<cursors::Cursor> m_cursor;
 };

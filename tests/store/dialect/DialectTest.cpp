@@ -213,7 +213,7 @@ TEST_F(DialectTest, BoundsColumnsAndTables) {
 TEST_F(DialectTest, NamesWhatHasNoName) {
     const auto names = [this](QStringView select) {
         QStringList found;
-        for (const ResultColumn& column : connection->select(select.toString()).plan().columns)
+        for (const dialect::ResultColumn& column : connection->select(select.toString()).plan().columns)
             found += column.name;
         return found.join(u' ');
     };

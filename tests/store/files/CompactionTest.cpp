@@ -36,13 +36,13 @@ TEST_F(CompactionTest, CopiesEverythingIntoASmallerFile) {
         if (table.name == u"Fang") continue;
         EXPECT_EQ(rowsOf(*copy, all), rowsInFile(all)) << table.name.toString().toStdString();
     }
-    Statement raw =
+    engine::Statement raw =
         copy->prepare("SELECT Anzahl || Gewicht || (SELECT Was FROM Eigenes) FROM Fang WHERE FangNr = 1");
     ASSERT_TRUE(raw.step());
     EXPECT_EQ(raw.text(0), u"7000000000vieleins");
 
     for (const auto& [mark, value] : {std::pair("PRAGMA user_version", 7), {"PRAGMA application_id", -5}}) {
-        Statement kept = copy->prepare(mark);
+        engine::Statement kept = copy->prepare(mark);
         EXPECT_TRUE(kept.step());
         EXPECT_EQ(kept.integer(0), value) << mark;
     }

@@ -15,7 +15,7 @@ protected:
 
     /// The day of May 2026 at whose noon the copy is made.
     void keep(int day) const {
-        keepSafetyCopy(path(), passwordOf(connect()), folder(),
+        keepSafetyCopy(path(), cursors::passwordOf(connect()), folder(),
                        QDate(2026, 5, day).startOfDay().addSecs(43200));
     }
 

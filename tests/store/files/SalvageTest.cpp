@@ -49,7 +49,7 @@ protected:
     }
 
     std::set<QString> contentOf(const QString& path) const {
-        Connection file(path, m_password, Connection::Access::ReadWrite);
+        cursors::Connection file(path, m_password, cursors::Connection::Access::ReadWrite);
         return content(file);
     }
 
@@ -59,7 +59,7 @@ protected:
             [&] { DBEngine::CompactDatabase(path(), target(), m_password, file(u"Sicherung"_qs)); });
     }
 
-    static std::set<QString> content(Connection& connection) {
+    static std::set<QString> content(cursors::Connection& connection) {
         std::set<QString> found;
         for (const TableSpec& table : schemaTables()) {
             if (table.name.startsWith(u"Druck_")) continue;

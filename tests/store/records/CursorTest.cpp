@@ -192,7 +192,7 @@ TEST_F(CursorTest, GoesOnAmongTheRestAfterItDeletedItsFirstRows) {
 
 TEST_F(CursorTest, IsOverOnceClosed) {
     Recordset fish = table(u"Fisch");
-    const Field name = fish.Fields(u"FName"_qs);
+    const Recordset::Field name = fish.Fields(u"FName"_qs);
     fish.Close();
     EXPECT_EQ(errorOf([&] { name.Value(); }), 91);
     EXPECT_EQ(errorOf([&] { fish.Close(); }), 91);
