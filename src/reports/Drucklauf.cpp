@@ -46,10 +46,24 @@ Database zweiteVerbindung() {
     return DBEngine::Workspaces(0).OpenDatabase(datenbankDatei(), false, false, datenbankVerbindung());
 }
 
-void leere(ErrorTail& step, Recordset& rows) {
-    if (!step.test([&] { return !rows.Bof(); })) return;
+/// True if none of the last run's rows is left.
+bool leere(ErrorTail& step, Recordset& rows) {
+    bool geleert = true;
+    if (!step.test([&] { return !rows.Bof(); })) return geleert;
     step([&] { rows.MoveFirst(); });
-    step.forEachRow(rows, [&] { step([&] { rows.Delete(); }); });
+    step.forEachRow(rows, [&] { geleert = step([&] { rows.Delete(); }) && geleert; });
+    return geleert;
+}
+
+/// True if the table holds all rows of the grid. A field that can't be set costs that field.
+bool fuelle(ErrorTail& step, const Druckauftrag& auftrag, Recordset& rows) {
+    bool gefuellt = true;
+    for (int row = 0; row < auftrag.grid.rowCount(); ++row) {
+        step([&] { rows.AddNew(); });
+        auftrag.schreibeZeile(step, rows, row);
+        gefuellt = step([&] { rows.Update(); }) && gefuellt;
+    }
+    return gefuellt;
 }
 
 void setzeAnschrift(ErrorTail& step, Report& report) {
@@ -98,7 +112,7 @@ void drucke(const Druckauftrag& auftrag, const QString& wort) {
         Recordset rows;
         step([&] { connection = zweiteVerbindung(); });
         step([&] { rows = connection.OpenRecordset(auftrag.tabelle, dbOpenTable); });
-        leere(step, rows);
+        const bool geleert = leere(step, rows);
         if (auftrag.grid.rowCount() == 0) {
             hourglass.end();
             step([&] { rows.Close(); });
@@ -106,12 +120,8 @@ void drucke(const Druckauftrag& auftrag, const QString& wort) {
             MsgBox(u"Keine Daten zum Drucken vorhanden, Vorgang wird abgebrochen !"_qs, vbInformation);
             return;
         }
-        for (int row = 0; row < auftrag.grid.rowCount(); ++row) {
-            step([&] { rows.AddNew(); });
-            auftrag.schreibeZeile(step, rows, row);
-            step([&] { rows.Update(); });
-        }
-        stelleDar(step, auftrag, rows, wort, hourglass);
+        // A refused write brings the last run's rows back, which may be another member's.
+        if (fuelle(step, auftrag, rows) && geleert) stelleDar(step, auftrag, rows, wort, hourglass);
         step([&] { rows.Close(); });
         step([&] { connection.Close(); });
     });
