@@ -103,8 +103,10 @@ void Program::letGo() {
 void Program::fail(const RuntimeError& error) {
     if (!m_running) return;
     MsgBox(u"Laufzeitfehler '%1':\r\n\r\n%2"_qs.arg(error.number).arg(error.description), vbCritical);
-    // A start that fails over a damaged page would fail again each time, and never reach the menu.
-    const bool damaged = session().Beschaedigt || error.number == damagedFile;
+    // A start that fails over a damaged page would fail again each time, and never reach the menu. What was
+    // met after it may have been repaired from there, and has nothing to do with another error.
+    const bool atStart = session().Beschaedigt && !session().Angemeldet;
+    const bool damaged = atStart || error.number == damagedFile;
     if (damaged && session().AktDatenbank.isOpen()) runEvent([] { modStart::RepariereAufWunsch(); });
     if (!m_running) return;
     letGo();
