@@ -15,11 +15,19 @@ ReportLayout::ReportLayout(int rows, const ReportHeights& heights)
     , m_rows(rows)
     , m_rowsOnFirst(rowsIn(roomOn(0), heights.detail))
     , m_rowsOnOthers(rowsIn(roomOn(1), heights.detail))
-    , m_pagesWithRows(1 + pagesFor(std::max(0, rows - m_rowsOnFirst), m_rowsOnOthers))
-    , m_pageCount(m_pagesWithRows) {
-    const int last = m_pagesWithRows - 1;
-    const int used = (rows - firstRowOn(last)) * heights.detail;
-    if (used + heights.reportFooter > roomOn(last)) ++m_pageCount;
+    , m_pageCount(1 + pagesFor(std::max(0, rows - m_rowsOnFirst), m_rowsOnOthers)) {
+    const int last = m_pageCount - 1;
+    const int rowsOnLast = rows - firstRowOn(last);
+    if (rowsOnLast * heights.detail + heights.reportFooter <= roomOn(last)) return;
+    m_rowsTakenAlong = rowsBesideFooter(rowsOnLast);
+    ++m_pageCount;
+}
+
+// The page that they leave keeps a row.
+int ReportLayout::rowsBesideFooter(int rowsBefore) const {
+    constexpr int wanted = 3;
+    const int fitting = (roomOn(1) - m_heights.reportFooter) / std::max(1, m_heights.detail);
+    return std::max(0, std::min({wanted, rowsBefore - 1, fitting}));
 }
 
 int ReportLayout::roomOn(int page) const {
@@ -28,7 +36,9 @@ int ReportLayout::roomOn(int page) const {
 }
 
 int ReportLayout::firstRowOn(int page) const {
-    return page == 0 ? 0 : std::min(m_rows, m_rowsOnFirst + (page - 1) * m_rowsOnOthers);
+    if (page == 0) return 0;
+    const int natural = std::min(m_rows, m_rowsOnFirst + (page - 1) * m_rowsOnOthers);
+    return page == m_pageCount - 1 ? std::min(natural, m_rows - m_rowsTakenAlong) : natural;
 }
 
 ReportPage ReportLayout::page(int number) const {

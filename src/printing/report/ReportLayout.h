@@ -24,7 +24,8 @@ struct ReportPage {
 };
 
 /// Which rows stand on which page: arithmetic only, the same for ten rows as for a hundred thousand. A report
-/// without rows has one page.
+/// without rows has one page. A report footer that needs a page of its own takes the last rows along, so that
+/// no page has an empty table.
 class ReportLayout {
 public:
     ReportLayout(int rows, const ReportHeights& heights);
@@ -36,11 +37,12 @@ public:
 private:
     int roomOn(int page) const;
     int firstRowOn(int page) const;
+    int rowsBesideFooter(int rowsBefore) const;
 
     ReportHeights m_heights;
     int m_rows;
     int m_rowsOnFirst; ///< at least one, so that every row finds its page
     int m_rowsOnOthers;
-    int m_pagesWithRows;
     int m_pageCount;
+    int m_rowsTakenAlong = 0; ///< by a report footer on a page of its own
 };

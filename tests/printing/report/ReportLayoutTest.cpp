@@ -8,7 +8,7 @@ namespace {
 constexpr ReportHeights heights{
     .body = 160, .reportHeader = 20, .pageHeader = 40, .detail = 10, .pageFooter = 20, .reportFooter = 30};
 
-TEST(ReportLayoutTest, RowsFillThePagesAndTheReportFooterGoesWhereItFits) {
+TEST(ReportLayoutTest, RowsFillThePagesAndTheReportFooterTakesSomeAlongToAPageOfItsOwn) {
     struct Case {
         int rows;
         int pages;
@@ -17,9 +17,9 @@ TEST(ReportLayoutTest, RowsFillThePagesAndTheReportFooterGoesWhereItFits) {
     };
     for (const Case& c :
          {Case{0, 1, 0, "no rows"}, Case{1, 1, 1, "one row"}, Case{5, 1, 5, "the footer just fits below"},
-          Case{6, 2, 0, "the footer no longer fits"}, Case{8, 2, 0, "a full page"}, Case{9, 2, 1, "one more"},
-          Case{15, 2, 7, "the footer just fits on the second page"}, Case{16, 3, 0, "not quite"},
-          Case{18, 3, 0, "two full pages"}, Case{19, 3, 1, "and one more"},
+          Case{6, 2, 3, "the footer no longer fits"}, Case{8, 2, 3, "a full page"}, Case{9, 2, 1, "one more"},
+          Case{15, 2, 7, "the footer just fits on the second page"}, Case{16, 3, 3, "not quite"},
+          Case{18, 3, 3, "two full pages"}, Case{19, 3, 1, "and one more"},
           Case{100000, 10001, 2, "very many"}}) {
         const ReportLayout layout(c.rows, heights);
         EXPECT_EQ(layout.pageCount(), c.pages) << c.why;
