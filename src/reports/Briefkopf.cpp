@@ -11,17 +11,17 @@ constexpr int addressTop = 60;
 constexpr int addressLine = 46;
 constexpr int captionBreadth = 180;
 constexpr int addressBreadth = 980;
-constexpr int codeBreadth = 120;
+constexpr int codeBreadth = 130;
+constexpr int codeSpace = 16;
+constexpr double leastCodePoints = 5; // a code is not broken
 constexpr int titleLeft = 1060;
-constexpr int longTitleHeight = 250;
-constexpr int settingTop = 110;
+constexpr int settingTop = addressTop + addressLine; // beside the street
 constexpr int settingCaption = 260;
 constexpr int headTop = 290;
 constexpr int headHeight = 66;
 
 constexpr int rowHeight = 54;
 constexpr int cellPadding = 16;
-constexpr int sideRule = 4; // what the rules below the rows leave to those at the sides
 
 constexpr int footHeight = 80;
 constexpr int summaryTop = 60;
@@ -29,9 +29,9 @@ constexpr int summaryHeading = 76;
 constexpr int summaryLine = 52;
 constexpr int summaryCaption = 430;
 constexpr int summaryValue = 330;
-constexpr int wrappedLine = 44;
 
 constexpr double bodyPoints = 9.5;
+constexpr double leastPoints = 7.5;
 
 constexpr QRgb clubBlue = 0xff1f3f77;
 constexpr QRgb paleBlue = 0xffe3ecfc;
@@ -57,26 +57,29 @@ void Briefkopf::addAddress() {
         .points(11)
         .bold()
         .ink(clubBlue);
-    addAddressLine(u"Label10"_qs, u"Name   :"_qs, u"lblVerein"_qs, 0).bold();
-    addAddressLine(u"Label11"_qs, u"Strasse :"_qs, u"lblStrasse"_qs, 1);
-    const int top = addressTop + 2 * addressLine;
-    addCaption(u"Label12"_qs, u"PLZ /Ort:"_qs, {0, top, captionBreadth, addressLine});
-    m_head.addLabel(u"lblPLZ"_qs, {}, {captionBreadth, top, codeBreadth, addressLine}).points(bodyPoints);
-    const int town = captionBreadth + codeBreadth;
-    m_head.addLabel(u"lblOrt"_qs, {}, {town, top, addressBreadth - town, addressLine}).points(bodyPoints);
-    addAddressLine(u"Label15"_qs, u"Tel         :"_qs, u"lblTelefon"_qs, 3);
+    constexpr int codeEnd = captionBreadth + codeBreadth;
+    addAddressLine(u"Label10"_qs, u"Name   :"_qs, 0);
+    addAddressValue(u"lblVerein"_qs, 0, captionBreadth, addressBreadth).bold();
+    addAddressLine(u"Label11"_qs, u"Strasse :"_qs, 1);
+    addAddressValue(u"lblStrasse"_qs, 1, captionBreadth, addressBreadth);
+    addAddressLine(u"Label12"_qs, u"PLZ /Ort:"_qs, 2);
+    addAddressValue(u"lblPLZ"_qs, 2, captionBreadth, codeEnd).growing(leastCodePoints);
+    addAddressValue(u"lblOrt"_qs, 2, codeEnd + codeSpace, addressBreadth);
+    addAddressLine(u"Label15"_qs, u"Tel         :"_qs, 3);
+    addAddressValue(u"lblTelefon"_qs, 3, captionBreadth, addressBreadth);
 }
 
 void Briefkopf::addCaption(const QString& label, const QString& caption, const QRect& place) {
     m_head.addLabel(label, caption, place).points(bodyPoints).ink(grey);
 }
 
-ReportControl& Briefkopf::addAddressLine(const QString& label, const QString& caption, const QString& value,
-                                         int line) {
-    const int top = addressTop + line * addressLine;
-    addCaption(label, caption, {0, top, captionBreadth, addressLine});
-    const QRect place(captionBreadth, top, addressBreadth - captionBreadth, addressLine);
-    return m_head.addLabel(value, {}, place).points(bodyPoints);
+void Briefkopf::addAddressLine(const QString& label, const QString& caption, int line) {
+    addCaption(label, caption, {0, addressTop + line * addressLine, captionBreadth, addressLine});
+}
+
+ReportControl& Briefkopf::addAddressValue(const QString& value, int line, int left, int right) {
+    const QRect place(left, addressTop + line * addressLine, right - left, addressLine);
+    return m_head.addLabel(value, {}, place).points(bodyPoints).growing(leastPoints);
 }
 
 void Briefkopf::addFooter() {
@@ -89,34 +92,21 @@ void Briefkopf::addFooter() {
 }
 
 ReportControl& Briefkopf::addTitle(const QString& label, const QString& title) {
-    const QRect place(titleLeft, 0, breadth - titleLeft, 90);
-    return m_head.addLabel(label, title, place).points(20).bold().ink(clubBlue);
-}
-
-void Briefkopf::addLongTitle(const QString& label, const QString& title) {
-    m_head.addLabel(label, title, {titleLeft, 0, breadth - titleLeft, longTitleHeight})
+    constexpr int spaceBelow = 8;
+    return m_head.addLabel(label, title, {titleLeft, 0, breadth - titleLeft, headTop - spaceBelow})
         .points(20)
         .bold()
         .ink(clubBlue)
         .wrapped();
 }
 
-void Briefkopf::addGrowingTitle(const QString& label, const QString& title) {
-    constexpr int spaceBelow = 8;
-    constexpr double longTitlePoints = 13.5; // five lines of it
-    m_head.addLabel(label, title, {titleLeft, 0, breadth - titleLeft, headTop - spaceBelow})
-        .points(longTitlePoints)
-        .bold()
-        .ink(clubBlue)
-        .wrapped()
-        .keepingEnd();
-}
-
 void Briefkopf::addSetting(const QString& label, const QString& caption, const QString& value) {
     const int top = settingTop + m_settings++ * addressLine;
     addCaption(label, caption, {titleLeft, top, settingCaption, addressLine});
     const int left = titleLeft + settingCaption;
-    m_head.addLabel(value, {}, {left, top, breadth - left, addressLine}).points(bodyPoints);
+    m_head.addLabel(value, {}, {left, top, breadth - left, addressLine})
+        .points(bodyPoints)
+        .growing(leastPoints);
 }
 
 void Briefkopf::setDense() {
@@ -139,7 +129,7 @@ void Briefkopf::addColumns(std::initializer_list<ReportColumn> columns) {
         const int width = breadth * passed / whole - m_cellPadding - left;
         addColumn(column, left, width);
     }
-    m_detail.addLine(u"Line1"_qs, {sideRule, m_rowHeight, breadth - 2 * sideRule, 0}).ink(faint).breadth(1);
+    m_detail.addLine(u"Line1"_qs, {0, m_rowHeight, breadth, 0}).ink(faint).breadth(1).closing(clubBlue);
     m_detail.addLine(u"Line2"_qs, {0, 0, 0, m_rowHeight}).ink(clubBlue);
     m_detail.addLine(u"Line3"_qs, {breadth, 0, 0, m_rowHeight}).ink(clubBlue);
 }
@@ -181,18 +171,7 @@ ReportControl& Briefkopf::addSummary(const QString& label, const QString& captio
     addSummaryCaption(label, caption);
     const QRect place = summaryPlace(summaryCaption, breadth - summaryCaption, summaryLine);
     endSummaryLine(summaryLine);
-    return m_summary.addLabel(value, {}, place).points(bodyPoints);
-}
-
-ReportControl& Briefkopf::addSummaryText(const QString& label, const QString& caption, const QString& value,
-                                         int lines) {
-    addSummaryCaption(label, caption);
-    const int height = lines * wrappedLine;
-    // Down to where the caption's letters stand, in the middle of their line.
-    QRect place = summaryPlace(summaryCaption, breadth - summaryCaption, height);
-    place.translate(0, (summaryLine - wrappedLine) / 2);
-    endSummaryLine(height + summaryLine - wrappedLine);
-    return m_summary.addLabel(value, {}, place).points(bodyPoints).wrapped();
+    return m_summary.addLabel(value, {}, place).points(bodyPoints).growing(bodyPoints);
 }
 
 ReportControl& Briefkopf::addNumber(const QString& label, const QString& caption, const QString& value) {

@@ -22,15 +22,10 @@ public:
     /// Letterhead (Label10 to Label13 and Label15 with their values) and page footer (Label9).
     explicit Briefkopf(Report& report);
 
-    /// The title beside the address, and below it, line by line (up to four), what the list was made for. A
-    /// long title needs smaller letters than the 20 points it gets.
+    /// The title beside the address, in up to three lines of 20 points.
     ReportControl& addTitle(const QString& label, const QString& title);
+    /// Below a title of one line, line by line (up to four), what the list was made for.
     void addSetting(const QString& label, const QString& caption, const QString& value);
-    /// A title of up to three lines, in place of addTitle; no settings stand below it.
-    void addLongTitle(const QString& label, const QString& title);
-    /// A title that each run makes longer: up to five lines in smaller letters, of which the
-    /// last words stay, in the place of title and settings.
-    void addGrowingTitle(const QString& label, const QString& title);
 
     /// Smaller letters and less air in the table, where there are many columns. To be called before them.
     void setDense();
@@ -39,12 +34,9 @@ public:
     void addColumns(std::initializer_list<ReportColumn> columns);
 
     // The report footer. Each line is a caption (a label of its own name) with its value behind it; what is
-    // returned is the value.
+    // returned is the value. A long text takes more lines.
     void addSummaryHeading(const QString& label, const QString& text);
     ReportControl& addSummary(const QString& label, const QString& caption, const QString& value);
-    /// A text of up to so many lines.
-    ReportControl& addSummaryText(const QString& label, const QString& caption, const QString& value,
-                                  int lines);
     /// A label with a number, below the sums.
     ReportControl& addNumber(const QString& label, const QString& caption, const QString& value);
     /// In the format "#.##0" unless told otherwise.
@@ -58,8 +50,8 @@ private:
     void addAddress();
     void addFooter();
     void addCaption(const QString& label, const QString& caption, const QRect& place);
-    ReportControl& addAddressLine(const QString& label, const QString& caption, const QString& value,
-                                  int line);
+    void addAddressLine(const QString& label, const QString& caption, int line);
+    ReportControl& addAddressValue(const QString& value, int line, int left, int right);
     void addColumn(const ReportColumn& column, int left, int width);
     void addSummaryCaption(const QString& label, const QString& caption);
     QRect summaryPlace(int left, int width, int height) const;

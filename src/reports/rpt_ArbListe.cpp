@@ -7,7 +7,7 @@ std::shared_ptr<Report> makeArbListe() {
     using Align = ReportControl::Align;
     auto report = std::make_shared<Report>(u"Arbeitsliste"_qs);
     Briefkopf face(*report);
-    face.addLongTitle(u"lblUebSchrift"_qs, Berichte::titelArbListe());
+    face.addTitle(u"lblUebSchrift"_qs, Berichte::titelArbListe());
     face.addColumns(
         {{u"Label1"_qs, u"Arb.-Nr:"_qs, u"Text1"_qs, 30, Align::Right},
          {u"Label2"_qs, u"Geleistete Arb.-Std:"_qs, u"Text2"_qs, 60, Align::Right, u"#.##0,00"_qs},

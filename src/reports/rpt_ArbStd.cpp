@@ -3,8 +3,6 @@
 
 namespace {
 
-constexpr int descriptionLines = 5; // for the 255 letters that the screen takes
-
 std::shared_ptr<Report> makeArbStd() {
     using Align = ReportControl::Align;
     auto report = std::make_shared<Report>(u"Arbeitsliste [ Übersicht ]"_qs);
@@ -17,7 +15,7 @@ std::shared_ptr<Report> makeArbStd() {
                      {u"Label5"_qs, u"Gel.-Std:"_qs, u"Text5"_qs, 200, Align::Right, u"#.##0,00"_qs},
                      {u"Label6"_qs, u"Soll/Haben:"_qs, u"Text6"_qs, 240, Align::Right, u"0,00"_qs}});
     face.addSummary(u"Label16"_qs, u"Anzahl der Mitglieder     :"_qs, u"lblGefDS"_qs);
-    face.addSummaryText(u"Label17"_qs, u"Listenbeschreibung:"_qs, u"lblInfo"_qs, descriptionLines);
+    face.addSummary(u"Label17"_qs, u"Listenbeschreibung:"_qs, u"lblInfo"_qs);
     return report;
 }
 

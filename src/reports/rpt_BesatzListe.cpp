@@ -7,8 +7,7 @@ std::shared_ptr<Report> makeBesatzListe() {
     using Align = ReportControl::Align;
     auto report = std::make_shared<Report>(u"Besatz - Plan"_qs);
     Briefkopf face(*report);
-    // The title grows with each run.
-    face.addGrowingTitle(u"lblUeb"_qs, u"Besatz - Plan"_qs);
+    face.addTitle(u"lblUeb"_qs, u"Besatz - Plan"_qs);
     face.addColumns({{u"Label1"_qs, u"B-Nr:"_qs, u"Text1"_qs, 15, Align::Right},
                      {u"Label2"_qs, u"Fischart:"_qs, u"Text2"_qs, 47},
                      {u"Label3"_qs, u"Gewässer:"_qs, u"Text3"_qs, 50},

@@ -3,8 +3,6 @@
 
 namespace {
 
-constexpr int descriptionLines = 5; // for the 255 letters that the screen takes
-
 std::shared_ptr<Report> makeMitglList() {
     using Align = ReportControl::Align;
     auto report = std::make_shared<Report>(u"Mitglieder - Liste"_qs);
@@ -21,7 +19,7 @@ std::shared_ptr<Report> makeMitglList() {
                      {u"Label7"_qs, u"Telefon [privat]:"_qs, u"Text7"_qs, 276},
                      {u"Label14"_qs, u"Geb.-Dat:"_qs, u"Text8"_qs, 164}});
     face.addSummary(u"Label16"_qs, u"Anzahl der Mitglieder     :"_qs, u"lblGefDS"_qs);
-    face.addSummaryText(u"Label17"_qs, u"Listenbeschreibung:"_qs, u"lblInfo"_qs, descriptionLines);
+    face.addSummary(u"Label17"_qs, u"Listenbeschreibung:"_qs, u"lblInfo"_qs);
     return report;
 }
 

@@ -32,8 +32,9 @@ ReportControl& ReportControl::wrapped() {
     return *this;
 }
 
-ReportControl& ReportControl::keepingEnd() {
-    m_keepsEnd = true;
+ReportControl& ReportControl::growing(double least) {
+    m_wrapped = true;
+    m_leastPoints = least;
     return *this;
 }
 
@@ -54,6 +55,11 @@ ReportControl& ReportControl::ink(QRgb colour) {
 
 ReportControl& ReportControl::breadth(int tenths) {
     m_breadth = tenths;
+    return *this;
+}
+
+ReportControl& ReportControl::closing(QRgb ink) {
+    m_closingInk = ink;
     return *this;
 }
 

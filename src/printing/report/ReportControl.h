@@ -5,12 +5,13 @@
 #include <QString>
 
 /// A control of a report section: a fixed label, a text bound to a field, a sum over all detail rows, a rule
-/// or a frame. Places are tenths of a millimetre from the section's top left corner; a text too wide for its
-/// place ends in an ellipsis.
+/// or a frame. Places are tenths of a millimetre from the section's top left corner. A text too wide for its
+/// place ends in an ellipsis; a number gets smaller letters.
 class ReportControl {
 public:
     enum class Kind { Label, Text, Sum, Line, Shape };
     enum class Align { Left, Centre, Right };
+    static constexpr int usualBreadth = 2;
 
     ReportControl(Kind kind, const QString& name, const QRect& place);
 
@@ -22,8 +23,9 @@ public:
     ReportControl& format(const QString& pattern);
     /// A label that breaks its text into as many lines as its place holds.
     ReportControl& wrapped();
-    /// Of a wrapped text that is too long, the end stays and the beginning is left out.
-    ReportControl& keepingEnd();
+    /// A label whose text is never cut: its letters shrink down to `least` points, then it takes more lines
+    /// than its place has, and what is below it in the section moves down.
+    ReportControl& growing(double least);
     /// A label whose text has places for the page number (%p), the number of pages (%P) and the day of
     /// printing (%d). All others keep these signs, since a user may have typed them.
     ReportControl& withPageNumbers();
@@ -33,6 +35,8 @@ public:
     ReportControl& ink(QRgb colour);
     /// A line or a shape's border: its breadth in tenths of a millimetre, 2 unless set; 0 for no border.
     ReportControl& breadth(int tenths);
+    /// A line below each row: its ink below the last row of a page, where it is of the usual breadth.
+    ReportControl& closing(QRgb ink);
 
     Kind kind() const { return m_kind; }
     const QString& name() const { return m_name; }
@@ -42,11 +46,13 @@ public:
     Align align() const { return m_align; }
     const QString& format() const { return m_format; }
     bool isWrapped() const { return m_wrapped; }
-    bool keepsEnd() const { return m_keepsEnd; }
+    bool isGrowing() const { return m_leastPoints > 0; }
+    double leastPoints() const { return m_leastPoints; }
     bool hasPageNumbers() const { return m_pageNumbers; }
     QRgb ground() const { return m_ground; } ///< transparent for none
     QRgb ink() const { return m_ink; }
     int breadth() const { return m_breadth; }
+    QRgb closingInk() const { return m_closingInk; } ///< transparent for none
 
     /// The text of a label. It stays until it is set again. Error 438 for other controls.
     void setCaption(const QString& caption);
@@ -55,6 +61,8 @@ public:
     /// controls.
     void setDataField(const QString& field);
     const QString& dataField() const { return m_dataField; }
+    void moveDown(int tenths) { m_place.translate(0, tenths); }
+    void stretch(int tenths) { m_place.setHeight(m_place.height() + tenths); }
     void setVisible(bool visible) { m_visible = visible; }
     bool isVisible() const { return m_visible; }
 
@@ -63,13 +71,14 @@ private:
     Align m_align = Align::Left;
     bool m_bold = false;
     bool m_wrapped = false;
-    bool m_keepsEnd = false;
     bool m_pageNumbers = false;
     bool m_visible = true;
     QRgb m_ground = 0;
     QRgb m_ink = 0xff000000;
-    int m_breadth = 2;
+    QRgb m_closingInk = 0;
+    int m_breadth = usualBreadth;
     double m_points = 9;
+    double m_leastPoints = 0; ///< 0 for a label that does not grow
     QRect m_place;
     QString m_name;
     QString m_format;

@@ -1,12 +1,18 @@
 #include "ReportDocument.h"
 
 #include "Format.h"
+#include "ReportGrowth.h"
 #include "ReportPaper.h"
 #include "RuntimeError.h"
 
 namespace {
 
 constexpr int noField = -1;
+
+std::array<ReportSection, 5> grown(std::array<ReportSection, 5> sections) {
+    for (ReportSection& section : sections) growToTexts(section);
+    return sections;
+}
 
 ReportHeights heightsOf(const std::array<ReportSection, 5>& sections) {
     ReportHeights heights;
@@ -24,9 +30,9 @@ ReportHeights heightsOf(const std::array<ReportSection, 5>& sections) {
 ReportDocument::ReportDocument(const QString& caption, const std::array<ReportSection, 5>& sections,
                                std::shared_ptr<const ReportRows> rows)
     : m_caption(caption)
-    , m_sections(sections)
+    , m_sections(grown(sections))
     , m_rows(std::move(rows))
-    , m_layout(m_rows->rowCount(), heightsOf(sections)) {
+    , m_layout(m_rows->rowCount(), heightsOf(m_sections)) {
     for (std::size_t band = 0; band < m_sections.size(); ++band) {
         for (const ReportControl& control : m_sections[band].controls()) resolve(control, m_fields[band]);
     }

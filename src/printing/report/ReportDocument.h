@@ -13,7 +13,8 @@
 struct ReportPlace {
     int page = 0; ///< from 0
     QDate printed;
-    int row = -1; ///< in the detail section
+    int row = -1;              ///< in the detail section
+    bool isLastOnPage = false; ///< of the rows
 };
 
 /// A report as it was when it was printed or previewed: never changes, and outlives the report that it was

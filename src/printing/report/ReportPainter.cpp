@@ -30,9 +30,10 @@ void ReportPainter::paint(QPainter& painter, int page) {
     const int rowHeight = m_document.section(ReportDocument::Detail).height();
     for (int row = 0; row < layout.rowCount; ++row) {
         place.row = layout.firstRow + row;
+        place.isLastOnPage = row == layout.rowCount - 1;
         paintBand(painter, ReportDocument::Detail, layout.detailTop + row * rowHeight, place);
     }
-    place.row = -1;
+    place = {page, m_printed};
     if (layout.hasReportFooter)
         paintBand(painter, ReportDocument::ReportFooter, layout.reportFooterTop, place);
     paintBand(painter, ReportDocument::PageFooter, layout.pageFooterTop, place);
@@ -49,18 +50,20 @@ void ReportPainter::paintBand(QPainter& painter, ReportDocument::Band band, int 
         if (!control.isVisible()) continue;
         const QRectF area = inUnits(control.place().translated(ReportPaper::left, ReportPaper::top), top);
         if (control.kind() == ReportControl::Kind::Line || control.kind() == ReportControl::Kind::Shape)
-            draw(painter, area, control);
+            draw(painter, area, control, place.isLastOnPage);
         else
             m_typesetter.set(area, m_document.text(band, own, place), control);
     }
 }
 
-void ReportPainter::draw(QPainter& painter, const QRectF& area, const ReportControl& control) {
-    const double breadth = double(control.breadth()) * ReportTypesetter::unitsPerTenth;
+void ReportPainter::draw(QPainter& painter, const QRectF& area, const ReportControl& control, bool isLast) {
+    const bool closes = isLast && qAlpha(control.closingInk()) > 0;
+    const int tenths = closes ? ReportControl::usualBreadth : control.breadth();
+    const double breadth = double(tenths) * ReportTypesetter::unitsPerTenth;
     if (control.kind() == ReportControl::Kind::Line) {
         const bool upright = area.height() > area.width();
         m_ruler.addRule(painter, area.topLeft(), upright ? area.bottomLeft() : area.topRight(), breadth,
-                        control.ink());
+                        closes ? control.closingInk() : control.ink());
         return;
     }
     m_ruler.fill(painter, area, control.ground());

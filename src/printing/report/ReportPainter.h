@@ -18,7 +18,7 @@ public:
 
 private:
     void paintBand(QPainter& painter, ReportDocument::Band band, int top, const ReportPlace& place);
-    void draw(QPainter& painter, const QRectF& area, const ReportControl& control);
+    void draw(QPainter& painter, const QRectF& area, const ReportControl& control, bool isLast);
 
     const ReportDocument& m_document;
     QDate m_printed;

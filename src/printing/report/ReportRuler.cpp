@@ -1,6 +1,7 @@
 #include "ReportRuler.h"
 
 #include <QPainter>
+#include <algorithm>
 #include <cmath>
 
 void ReportRuler::addRule(const QPainter& painter, const QPointF& from, const QPointF& to, double breadth,
@@ -34,6 +35,8 @@ void ReportRuler::fill(QPainter& painter, const QRectF& area, QRgb ground) const
 
 void ReportRuler::paint(QPainter& painter) {
     painter.setPen(Qt::NoPen);
+    std::sort(m_batches.begin(), m_batches.end(),
+              [](const Batch& one, const Batch& other) { return qGray(one.ink) > qGray(other.ink); });
     for (const Batch& batch : m_batches) {
         painter.setBrush(QColor(batch.ink));
         painter.drawRects(batch.rules);

@@ -17,7 +17,7 @@ public:
     void addRule(const QPainter& painter, const QPointF& from, const QPointF& to, double breadth, QRgb ink);
     void addFrame(const QPainter& painter, const QRectF& frame, double breadth, QRgb ink);
     void fill(QPainter& painter, const QRectF& area, QRgb ground) const;
-    /// Paints the rules, and forgets them.
+    /// Paints the rules, dark ones over light ones, and forgets them.
     void paint(QPainter& painter);
 
 private:

@@ -32,6 +32,15 @@ ReportControl& ReportSection::control(const QString& name) {
     throw runtimeError(3265, name);
 }
 
+void ReportSection::grow(std::size_t number, double points, int tenths) {
+    const int bottom = m_controls[number].place().bottom();
+    m_controls[number].points(points).stretch(tenths);
+    for (ReportControl& control : m_controls) {
+        if (control.place().top() > bottom) control.moveDown(tenths);
+    }
+    m_height += tenths;
+}
+
 ReportControl& ReportSection::add(ReportControl::Kind kind, const QString& name, const QRect& place) {
     return m_controls.emplace_back(kind, name, place);
 }

@@ -25,6 +25,8 @@ public:
     /// By name, without regard to case; error 3265 if there is none.
     ReportControl& control(const QString& name);
     const std::deque<ReportControl>& controls() const { return m_controls; }
+    /// Makes the control of this number so much higher, with letters of this size. Those below it move down.
+    void grow(std::size_t control, double points, int tenths);
 
 private:
     ReportControl& add(ReportControl::Kind kind, const QString& name, const QRect& place);

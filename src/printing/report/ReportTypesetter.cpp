@@ -1,27 +1,17 @@
 #include "ReportTypesetter.h"
 
+#include "ReportFont.h"
+
 #include <QGlyphRun>
 #include <QPainter>
 #include <QTextLayout>
-#include <cmath>
+#include <algorithm>
 
 namespace {
 
-constexpr double unitsPerPoint = 254.0 * ReportTypesetter::unitsPerTenth / 72.0;
 /// Names and months repeat, other texts don't; so what was measured is kept, but not for ever.
 constexpr int settingsKept = 8192;
 constexpr double endless = 1e6;
-
-QFont fontOf(const ReportControl& look) {
-    QFont font;
-    font.setFamilies({u"Arial"_qs, u"Liberation Sans"_qs, u"Helvetica"_qs});
-    font.setStyleHint(QFont::SansSerif);
-    font.setPixelSize(qRound(look.points() * unitsPerPoint));
-    font.setBold(look.isBold());
-    // Letters moved to whole pixels would be broader on a screen than on paper.
-    font.setHintingPreference(QFont::PreferNoHinting);
-    return font;
-}
 
 // A break or a tab in a text must not take it out of its line.
 QString onOneLine(QString text) {
@@ -32,9 +22,16 @@ QString onOneLine(QString text) {
     return text;
 }
 
+bool isDigit(QChar sign) { return sign >= u'0' && sign <= u'9'; }
+
+bool hasOnlyDigits(const QString& text) {
+    return text.size() > 1 && std::all_of(text.begin(), text.end(), &isDigit);
+}
+
+// A day, a code or a telephone number is one too, letters between its digits or not.
 bool isNumber(const QString& text) {
-    return text.size() > 1 &&
-           std::all_of(text.begin(), text.end(), [](QChar sign) { return sign >= u'0' && sign <= u'9'; });
+    const auto letters = std::count_if(text.begin(), text.end(), [](QChar sign) { return sign.isLetter(); });
+    return std::count_if(text.begin(), text.end(), &isDigit) > letters;
 }
 
 double leftEnd(const QRectF& place, double width, ReportControl::Align align) {
@@ -49,56 +46,21 @@ double leftEnd(const QRectF& place, double width, ReportControl::Align align) {
     return place.left();
 }
 
-// The text cut into lines at its own breaks and between words. The last one that there is room for takes
-// all the rest.
-QStringList linesOf(QString text, const QFont& font, double width, int most) {
-    text.replace(u"\r\n"_qs, u"\n"_qs).replace(u'\r', u'\n').replace(u'\n', QChar::LineSeparator);
-    QTextLayout layout(text, font);
-    QTextOption option;
-    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    layout.setTextOption(option);
-    QStringList lines;
-    layout.beginLayout();
-    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-        line.setLineWidth(width);
-        const bool last = lines.size() == most - 1;
-        QString part = text.mid(line.textStart(), last ? -1 : line.textLength());
-        // The blank at which it was broken would make a full line too long.
-        if (!last && part.endsWith(u' ')) part.chop(1);
-        lines.append(part);
-        if (last) break;
-    }
-    layout.endLayout();
-    return lines;
-}
-
-/// As many of the last words as fit in so many lines.
-QString endThatFits(const QString& text, const QFont& font, double width, int most) {
-    const auto fits = [&](const QString& part) {
-        return linesOf(part, font, width, most + 1).size() <= most;
-    };
-    QString end = text;
-    for (qsizetype blank = 0; !fits(end) && blank >= 0;) {
-        blank = text.indexOf(u' ', blank + 1);
-        if (blank >= 0) end = u'…' + text.mid(blank);
-    }
-    return end;
-}
-
 } // namespace
 
 ReportTypesetter::Face::Face(const QFont& wanted)
     : font(wanted)
     , metrics(wanted) {}
 
-ReportTypesetter::Face& ReportTypesetter::faceFor(const ReportControl& look) {
-    const auto key = std::pair(look.points(), look.isBold());
+ReportTypesetter::Face& ReportTypesetter::faceFor(double points, bool bold) {
+    const auto key = std::pair(points, bold);
     const auto found = m_faces.find(key);
-    return found != m_faces.end() ? found->second : m_faces.emplace(key, fontOf(look)).first->second;
+    if (found != m_faces.end()) return found->second;
+    return m_faces.emplace(key, ReportFont::font(points, bold)).first->second;
 }
 
 ReportTypesetter::Setting ReportTypesetter::setting(Face& face, const QString& text) {
-    if (isNumber(text)) return composed(face, text);
+    if (hasOnlyDigits(text)) return composed(face, text);
     const auto found = face.settings.constFind(text);
     if (found != face.settings.constEnd()) return *found;
     if (face.settings.size() >= settingsKept) face.settings.clear();
@@ -139,32 +101,40 @@ ReportTypesetter::Setting ReportTypesetter::composed(Face& face, const QString& 
     return number;
 }
 
-ReportTypesetter::Setting ReportTypesetter::fitting(Face& face, const QString& text, double width) {
+ReportTypesetter::Setting ReportTypesetter::fitting(const ReportControl& look, const QString& text,
+                                                    double width) {
+    Face& face = faceFor(look.points(), look.isBold());
     Setting whole = setting(face, text);
     if (whole.width <= width) return whole;
-    return setting(face, face.metrics.elidedText(text, Qt::ElideRight, width));
+    if (!isNumber(text)) return setting(face, face.metrics.elidedText(text, Qt::ElideRight, width));
+    constexpr double step = 0.5;
+    for (double points = look.points() - step; points > 0 && whole.width > width; points -= step)
+        whole = setting(faceFor(points, look.isBold()), text);
+    return whole;
 }
 
 void ReportTypesetter::set(const QRectF& place, const QString& text, const ReportControl& look) {
     if (text.isEmpty()) return;
-    Face& face = faceFor(look);
     if (!look.isWrapped()) {
-        setLine(face, place, onOneLine(text), look);
+        setLine(place, onOneLine(text), look);
         return;
     }
+    const Face& face = faceFor(look.points(), look.isBold());
     const double height = face.metrics.lineSpacing();
     const int most = std::max(1, static_cast<int>(place.height() / height));
+    const QStringList lines = ReportFont::lines(text, face.font, place.width(), most);
     QRectF line(place.topLeft(), QSizeF(place.width(), height));
-    const QString shown = look.keepsEnd() ? endThatFits(text, face.font, place.width(), most) : text;
-    for (const QString& part : linesOf(shown, face.font, place.width(), most)) {
-        setLine(face, line, onOneLine(part), look);
+    // Beside a caption in the middle of its line; a title begins at the top.
+    if (look.isGrowing()) line.translate(0, (place.height() - height * double(lines.size())) / 2);
+    for (const QString& part : lines) {
+        setLine(line, onOneLine(part), look);
         line.translate(0, height);
     }
 }
 
-void ReportTypesetter::setLine(Face& face, const QRectF& place, const QString& text,
-                               const ReportControl& look) {
-    const Setting fit = fitting(face, text, place.width());
+void ReportTypesetter::setLine(const QRectF& place, const QString& text, const ReportControl& look) {
+    const Setting fit = fitting(look, text, place.width());
+    const Face& face = faceFor(look.points(), look.isBold());
     const double letters = face.metrics.ascent() + face.metrics.descent();
     const QPointF start(leftEnd(place, fit.width, look.align()),
                         place.top() + (place.height() - letters) / 2 + face.metrics.ascent());

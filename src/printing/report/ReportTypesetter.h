@@ -21,8 +21,8 @@ public:
     /// Units of the painter to a tenth of a millimetre: fonts have a whole number of units.
     static constexpr int unitsPerTenth = 10;
 
-    /// Takes in a text; `place` in units. One too wide ends in an ellipsis; one in a wrapped label takes
-    /// as many lines as the place holds.
+    /// Takes in a text; `place` in units. One too wide ends in an ellipsis, a number gets smaller letters;
+    /// one in a wrapped label takes as many lines as the place holds.
     void set(const QRectF& place, const QString& text, const ReportControl& look);
     /// Paints what was taken in, and forgets it.
     void paint(QPainter& painter);
@@ -53,12 +53,12 @@ private:
         QList<QPointF> positions;
     };
 
-    Face& faceFor(const ReportControl& look);
+    Face& faceFor(double points, bool bold);
     Setting setting(Face& face, const QString& text);
     Setting measured(Face& face, const QString& text);
     Setting composed(Face& face, const QString& digits);
-    Setting fitting(Face& face, const QString& text, double width);
-    void setLine(Face& face, const QRectF& place, const QString& text, const ReportControl& look);
+    Setting fitting(const ReportControl& look, const QString& text, double width);
+    void setLine(const QRectF& place, const QString& text, const ReportControl& look);
     int numberOf(const QRawFont& font);
     Batch& batchFor(int font, QRgb ink);
 

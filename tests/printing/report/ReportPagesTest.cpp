@@ -62,16 +62,36 @@ QImage pictureOf(const QString& text, const QRect& place, Style style) {
     return pictureOf(report, 0);
 }
 
-TEST(ReportPainterTest, ATitleThatIsTooLongShowsItsEndWhereThatIsWanted) {
-    const auto painted = [](const QString& lastWord, bool keepsEnd) {
-        const QString title = u"Besatz - Plan für das Fangjahr 2025 "_qs.repeated(6) + lastWord;
-        return pictureOf(title, {0, 0, 500, 150}, [&](ReportControl& label) {
-            label.wrapped();
-            if (keepsEnd) label.keepingEnd();
-        });
+TEST(ReportPainterTest, ANumberShrinksWhereATextIsCut) {
+    const QRect place(0, 0, 100, 50);
+    for (const auto& [text, other, isCut] : {std::tuple{u"1.234.567,25"_qs, u"1.234.567,35"_qs, false},
+                                             {u"D-012345678"_qs, u"D-012345679"_qs, false},
+                                             {u"Oder-Spree-Kanal 1"_qs, u"Oder-Spree-Kanal 2"_qs, true}}) {
+        const auto asItIs = [](ReportControl&) {};
+        EXPECT_EQ(pictureOf(text, place, asItIs) == pictureOf(other, place, asItIs), isCut)
+            << qPrintable(text);
+        EXPECT_FALSE(hasInk(pictureOf(text, place, asItIs), {100, 0, 300, 100}));
+    }
+}
+
+TEST(ReportPainterTest, ALabelThatGrowsShrinksFirstThenMovesWhatIsBelow) {
+    struct Case {
+        int words;
+        int height;
     };
-    EXPECT_EQ(painted(u"2025"_qs, false), painted(u"2026"_qs, false));
-    EXPECT_NE(painted(u"2025"_qs, true), painted(u"2026"_qs, true));
+    for (const Case& c : {Case{1, 100}, Case{4, 100}, Case{8, 131}, Case{12, 161}}) {
+        Report report(u"Eins"_qs);
+        ReportSection& head = report.section(u"Section2"_qs);
+        head.setHeight(100);
+        head.addLabel(u"Name"_qs, u"Forelle "_qs.repeated(c.words).trimmed(), {0, 0, 400, 50})
+            .points(9.5)
+            .growing(7.5);
+        head.addLine(u"darunter"_qs, {0, 60, 400, 0});
+        const auto document = report.document();
+        EXPECT_EQ(document->section(ReportDocument::PageHeader).height(), c.height) << c.words;
+        EXPECT_TRUE(hasInk(pictureOf(report, 0), {0, c.height - 41, 400, 3})) << c.words;
+        EXPECT_EQ(head.height(), 100) << "the report is ready for the next text";
+    }
 }
 
 TEST(ReportPainterTest, NoTextLeavesItsPlaceWhateverItsAlignment) {
@@ -97,7 +117,7 @@ TEST(ReportPainterTest, AWrappedLabelTakesTheLinesItHasRoomFor) {
 
 TEST(ReportPainterTest, NumbersEndOnOneEdgeAndRulesAreOfOneBreadthAtAnyScale) {
     SampleReport report;
-    report.bindRows(10);
+    report.bindRows(11);
     const QImage picture = pictureOf(report, 0);
     for (const int row : {0, 9}) {
         const int top = 600 + row * 195;
