@@ -1,25 +1,14 @@
 #include "Berichte.h"
 
 #include <map>
-#include <memory>
 
 namespace Berichte {
 
-namespace {
-
-std::map<QString, std::shared_ptr<Report>>& made() {
-    static std::map<QString, std::shared_ptr<Report>> byName;
-    return byName;
+Bericht bericht(Bericht (*make)()) {
+    static std::map<Bericht (*)(), std::weak_ptr<Report>> inUse;
+    Bericht report = inUse[make].lock();
+    if (!report) inUse[make] = report = make();
+    return report;
 }
-
-} // namespace
-
-Report& bericht(const QString& name, std::shared_ptr<Report> (*make)()) {
-    std::shared_ptr<Report>& report = made()[name];
-    if (!report) report = make();
-    return *report;
-}
-
-void vergisseAlle() { made().clear(); }
 
 } // namespace Berichte

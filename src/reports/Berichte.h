@@ -4,21 +4,21 @@
 
 #include <memory>
 
-/// The five reports by name, made on first use; their labels keep what was last set for as long as the
-/// program runs.
+/// The five reports. One is made when it is asked for and no run or preview has it in use; its labels keep
+/// what was last set for as long as it is in use.
 namespace Berichte {
 
-/// The report of this name, made by the first call.
-Report& bericht(const QString& name, std::shared_ptr<Report> (*make)());
-/// Called where a program begins, so that nothing of an earlier one in the same process is left.
-void vergisseAlle();
+using Bericht = std::shared_ptr<Report>;
 
-Report& rpt_BesatzListe();
-Report& rpt_Fangliste();
-Report& rpt_MitglList();
-Report& rpt_ArbStd();
+/// The report that this makes, the same one while it is in use.
+Bericht bericht(Bericht (*make)());
 
-Report& rpt_ArbListe();
+Bericht rpt_BesatzListe();
+Bericht rpt_Fangliste();
+Bericht rpt_MitglList();
+Bericht rpt_ArbStd();
+
+Bericht rpt_ArbListe();
 /// Its title; the year stands behind it.
 QString titelArbListe();
 

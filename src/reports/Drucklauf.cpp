@@ -73,15 +73,16 @@ void setzeAnschrift(ErrorTail& step, Report& report) {
         step([&] { report.control(u"Section2"_qs, label).setCaption(*line++); });
 }
 
-void gibAus(ErrorTail& step, Hourglass& hourglass, Report& report, const QString& wort) {
+void gibAus(ErrorTail& step, Hourglass& hourglass, const std::shared_ptr<Report>& report,
+            const QString& wort) {
     if (wort == u"drucken"_qs) {
-        step([&] { printAfterDialog(*report.document()); });
+        step([&] { printAfterDialog(*report->document()); });
     } else if (wort == u"vorschau"_qs) {
         hourglass.end();
         step([&] { rahmen()->binde(screen<Vorschau>()); });
         step([&] {
-            const auto document = report.document();
-            screen<Vorschau>().zeige(document);
+            const auto document = report->document();
+            screen<Vorschau>().zeige(document, report);
         });
     }
 }
@@ -93,13 +94,13 @@ void stelleDar(ErrorTail& step, const Druckauftrag& auftrag, Recordset& rows, co
         MsgBox(u"ACHTUNG: Kein Drucker installiert, Vorgang wird abgebrochen !"_qs, vbInformation);
         return;
     }
-    Report& report = auftrag.report();
+    const std::shared_ptr<Report> report = auftrag.report();
     step([&] {
         StagedRows staged(rows);
-        report.bind(staged);
+        report->bind(staged);
     });
-    setzeAnschrift(step, report);
-    auftrag.richteEin(step, report);
+    setzeAnschrift(step, *report);
+    auftrag.richteEin(step, *report);
     gibAus(step, hourglass, report, wort);
 }
 

@@ -4,6 +4,7 @@
 #include "Recordset.h"
 
 #include <functional>
+#include <memory>
 
 class DataTable;
 class Report;
@@ -16,7 +17,7 @@ struct Druckauftrag {
     Screen& aufrufer;      ///< shows the hourglass
     const DataTable& grid; ///< whose rows are printed, in its order
     QString tabelle;       ///< the staging table
-    Report& (*report)();
+    std::shared_ptr<Report> (*report)();
     /// Writes the fields of a grid row into a new staging row.
     std::function<void(ErrorTail&, Recordset&, int row)> schreibeZeile;
     /// Sets the report's own labels and binds its controls.

@@ -3,7 +3,7 @@
 
 namespace {
 
-std::shared_ptr<Report> makeArbListe() {
+Berichte::Bericht makeArbListe() {
     using Align = ReportControl::Align;
     auto report = std::make_shared<Report>(u"Arbeitsliste"_qs);
     Briefkopf face(*report);
@@ -30,6 +30,6 @@ namespace Berichte {
 
 QString titelArbListe() { return u"Arbeitsliste [Einzelaufstellung] für Jahr"_qs; }
 
-Report& rpt_ArbListe() { return bericht(u"rpt_ArbListe"_qs, &makeArbListe); }
+Bericht rpt_ArbListe() { return bericht(&makeArbListe); }
 
 } // namespace Berichte

@@ -3,7 +3,7 @@
 
 namespace {
 
-std::shared_ptr<Report> makeArbStd() {
+Berichte::Bericht makeArbStd() {
     using Align = ReportControl::Align;
     auto report = std::make_shared<Report>(u"Arbeitsliste [ Übersicht ]"_qs);
     Briefkopf face(*report);
@@ -23,6 +23,6 @@ std::shared_ptr<Report> makeArbStd() {
 
 namespace Berichte {
 
-Report& rpt_ArbStd() { return bericht(u"rpt_ArbStd"_qs, &makeArbStd); }
+Bericht rpt_ArbStd() { return bericht(&makeArbStd); }
 
 } // namespace Berichte

@@ -3,7 +3,7 @@
 
 namespace {
 
-std::shared_ptr<Report> makeBesatzListe() {
+Berichte::Bericht makeBesatzListe() {
     using Align = ReportControl::Align;
     auto report = std::make_shared<Report>(u"Besatz - Plan"_qs);
     Briefkopf face(*report);
@@ -20,6 +20,6 @@ std::shared_ptr<Report> makeBesatzListe() {
 
 namespace Berichte {
 
-Report& rpt_BesatzListe() { return bericht(u"rpt_BesatzListe"_qs, &makeBesatzListe); }
+Bericht rpt_BesatzListe() { return bericht(&makeBesatzListe); }
 
 } // namespace Berichte

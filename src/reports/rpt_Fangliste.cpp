@@ -3,7 +3,7 @@
 
 namespace {
 
-std::shared_ptr<Report> makeFangliste() {
+Berichte::Bericht makeFangliste() {
     using Align = ReportControl::Align;
     auto report = std::make_shared<Report>(u"Fangliste"_qs);
     Briefkopf face(*report);
@@ -32,6 +32,6 @@ std::shared_ptr<Report> makeFangliste() {
 
 namespace Berichte {
 
-Report& rpt_Fangliste() { return bericht(u"rpt_Fangliste"_qs, &makeFangliste); }
+Bericht rpt_Fangliste() { return bericht(&makeFangliste); }
 
 } // namespace Berichte

@@ -3,7 +3,7 @@
 
 namespace {
 
-std::shared_ptr<Report> makeMitglList() {
+Berichte::Bericht makeMitglList() {
     using Align = ReportControl::Align;
     auto report = std::make_shared<Report>(u"Mitglieder - Liste"_qs);
     Briefkopf face(*report);
@@ -27,6 +27,6 @@ std::shared_ptr<Report> makeMitglList() {
 
 namespace Berichte {
 
-Report& rpt_MitglList() { return bericht(u"rpt_MitglList"_qs, &makeMitglList); }
+Bericht rpt_MitglList() { return bericht(&makeMitglList); }
 
 } // namespace Berichte

@@ -1,6 +1,5 @@
 #include "Program.h"
 
-#include "Berichte.h"
 #include "ErrorTail.h"
 #include "EventGuard.h"
 #include "Main.h"
@@ -44,7 +43,6 @@ void tellMissingCopy() {
 Program::Program(const QString& folder) {
     running = this;
     beginSession(folder);
-    Berichte::vergisseAlle();
     setEventFailure([this](const RuntimeError& error) { fail(error); });
     QCoreApplication::instance()->installEventFilter(this);
     connect(qGuiApp, &QGuiApplication::commitDataRequest, this, &Program::finishUnseen);

@@ -24,7 +24,7 @@ void schreibeZeile(ErrorTail& step, Recordset& zeile, const DataTable& grid, int
 }
 
 void richteEin(ErrorTail& step, Report& report) {
-    // The title is extended, run by run, and never set back.
+    // The title is extended and not replaced: a report that is in use keeps its labels.
     step([&] {
         ReportControl& titel = report.control(u"Section2"_qs, u"lblUeb"_qs);
         titel.setCaption(titel.caption() + u" für das Fangjahr "_qs + screen<Besatzung>().cboBJahr->Text());

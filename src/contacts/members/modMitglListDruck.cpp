@@ -24,7 +24,7 @@ struct Spalte {
     bool numeric = false;
 };
 
-Druckauftrag auftrag(const QString& routine, const QString& tabelle, Report& (*report)(),
+Druckauftrag auftrag(const QString& routine, const QString& tabelle, std::shared_ptr<Report> (*report)(),
                      const std::vector<Spalte>& spalten) {
     MitglList& form = screen<MitglList>();
     const DataTable& grid = *form.tblMList;

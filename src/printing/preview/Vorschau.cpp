@@ -127,8 +127,9 @@ bool Vorschau::Form_KeyDown(int key, Qt::KeyboardModifiers modifiers) {
     }
 }
 
-void Vorschau::zeige(std::shared_ptr<const ReportDocument> document) {
+void Vorschau::zeige(std::shared_ptr<const ReportDocument> document, std::shared_ptr<const Report> report) {
     m_document = std::move(document);
+    m_report = std::move(report);
     setWindowTitle(m_document->caption());
     setAccessibleName(m_document->caption());
     Ueberschrift->setText(m_document->caption());

@@ -7,6 +7,7 @@
 class ComboBox;
 class Heading;
 class QLabel;
+class Report;
 class ReportDocument;
 class ReportPageView;
 class TextBox;
@@ -23,8 +24,9 @@ public:
     void Form_QueryUnload() override;
     bool Form_KeyDown(int key, Qt::KeyboardModifiers modifiers) override;
 
-    /// Shows the first page and comes to the front; not modal.
-    void zeige(std::shared_ptr<const ReportDocument> document);
+    /// Shows the first page and comes to the front; not modal. The report that the document is of stays in
+    /// use until the preview is closed or shows another one.
+    void zeige(std::shared_ptr<const ReportDocument> document, std::shared_ptr<const Report> report = {});
     /// What is shown; null before the first zeige().
     const std::shared_ptr<const ReportDocument>& document() const { return m_document; }
 
@@ -48,4 +50,5 @@ private:
     void speicherPdf();
 
     std::shared_ptr<const ReportDocument> m_document;
+    std::shared_ptr<const Report> m_report;
 };

@@ -139,6 +139,18 @@ TEST(ReportPainterTest, NumbersEndOnOneEdgeAndRulesAreOfOneBreadthAtAnyScale) {
     }
 }
 
+TEST(ReportPainterTest, TheTableClosesBelowTheLastRowOfAPage) {
+    SampleReport report;
+    report.control(u"Section1"_qs, u"Line1"_qs).closing(qRgb(255, 0, 0));
+    report.bindRows(11);
+    const QImage page = pictureOf(report, 0);
+    const auto below = [&](int row) {
+        return page.pixel(ReportPaper::left + 1400, ReportPaper::top + 600 + row * 195);
+    };
+    EXPECT_EQ(below(9), qRgb(0, 0, 0));
+    EXPECT_EQ(below(10), qRgb(255, 0, 0));
+}
+
 TEST(PrintRunTest, ThePdfHasTheWantedPagesAndItsTextCanBeSearched) {
     QTemporaryDir folder;
     const QString all = folder.filePath(u"alle.pdf"_qs);
