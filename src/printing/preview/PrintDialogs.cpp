@@ -1,5 +1,6 @@
 #include "PrintDialogs.h"
 
+#include "Clock.h"
 #include "ReportDocument.h"
 
 namespace {
@@ -21,5 +22,5 @@ bool printAfterDialog(const ReportDocument& document) {
 
 QString pdfNameFor(QString caption) {
     for (const QChar character : u"\\/:*?\"<>|"_qs) caption.remove(character);
-    return caption.simplified() + u".pdf"_qs;
+    return u"%1 %2.pdf"_qs.arg(caption.simplified(), today().toString(Qt::ISODate));
 }

@@ -28,5 +28,5 @@ PrintDialogs& printDialogs();
 /// printReport().
 bool printAfterDialog(const ReportDocument& document);
 
-/// The caption as a file name, without the characters that some system refuses.
+/// The caption and the day as a file name, without the characters that some system refuses.
 QString pdfNameFor(QString caption);

@@ -71,15 +71,18 @@ std::optional<PrintTarget> QtPrintDialogs::choosePrintTarget(const QString& capt
 }
 
 QString QtPrintDialogs::choosePdfFile(const QString& proposal) {
-    const QDir folder(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
-    QFileDialog dialog(QApplication::activeWindow(), u"Als PDF speichern"_qs, folder.path(),
+    if (m_pdfFolder.isEmpty() || !QDir(m_pdfFolder).exists())
+        m_pdfFolder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    QFileDialog dialog(QApplication::activeWindow(), u"Als PDF speichern"_qs, m_pdfFolder,
                        u"PDF-Dateien (*.pdf)"_qs);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(u"pdf"_qs);
     dialog.selectFile(proposal);
     const KeyGuard guard(&dialog);
     if (dialog.exec() != QDialog::Accepted) return {};
-    return dialog.selectedFiles().value(0);
+    const QString file = dialog.selectedFiles().value(0);
+    m_pdfFolder = QFileInfo(file).path();
+    return file;
 }
 
 int QtPrintDialogs::printerCount() const {

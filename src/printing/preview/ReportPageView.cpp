@@ -66,6 +66,25 @@ void ReportPageView::setPage(int page) {
     Q_EMIT pageChanged(m_page);
 }
 
+void ReportPageView::moveOn(int direction) {
+    QScrollBar* bar = verticalScrollBar();
+    if (isAtEnd(direction))
+        turnPage(direction);
+    else
+        bar->setValue(bar->value() + direction * (bar->pageStep() - lineStep));
+}
+
+bool ReportPageView::isAtEnd(int direction) const {
+    const QScrollBar* bar = verticalScrollBar();
+    return bar->value() == (direction > 0 ? bar->maximum() : bar->minimum());
+}
+
+void ReportPageView::turnPage(int direction) {
+    const int before = m_page;
+    setPage(m_page + direction);
+    if (direction < 0 && m_page != before) verticalScrollBar()->setValue(verticalScrollBar()->maximum());
+}
+
 void ReportPageView::setZoom(int zoom) {
     m_zoom = zoom;
     renewScrollBars();
@@ -134,9 +153,9 @@ void ReportPageView::scrollContentsBy(int /*dx*/, int /*dy*/) { viewport()->upda
 void ReportPageView::keyPressEvent(QKeyEvent* event) {
     switch (event->key()) {
     case Qt::Key_PageDown:
-        return setPage(m_page + 1);
+        return moveOn(1);
     case Qt::Key_PageUp:
-        return setPage(m_page - 1);
+        return moveOn(-1);
     case Qt::Key_Home:
         return setPage(0);
     case Qt::Key_End:
@@ -166,16 +185,13 @@ void ReportPageView::wheelEvent(QWheelEvent* event) {
 
 // At the end of a page the wheel turns it over.
 bool ReportPageView::turnByWheel(int angle) {
-    const QScrollBar* bar = verticalScrollBar();
-    const bool atEnd = angle < 0 ? bar->value() == bar->maximum() : bar->value() == bar->minimum();
-    if (!m_document || angle == 0 || !atEnd) {
+    const int direction = angle < 0 ? 1 : -1;
+    if (!m_document || angle == 0 || !isAtEnd(direction)) {
         m_wheel = 0;
         return false;
     }
     m_wheel += angle;
     if (std::abs(m_wheel) < wheelNotch) return true;
-    const int before = m_page;
-    setPage(m_page + (angle < 0 ? 1 : -1));
-    if (angle > 0 && m_page != before) verticalScrollBar()->setValue(bar->maximum());
+    turnPage(direction);
     return true;
 }

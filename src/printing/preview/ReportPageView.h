@@ -20,6 +20,9 @@ public:
     void setDocument(std::shared_ptr<const ReportDocument> document);
     void setPage(int page); ///< from 0; beyond the ends the nearest one
     int page() const { return m_page; }
+    /// Down with 1, up with -1: by what is to be seen of the page, and at its end to the next one, which is
+    /// entered from the same side.
+    void moveOn(int direction);
     /// Per cent of the sheet's true size, or a Fit.
     void setZoom(int zoom);
     /// Per cent in which the sheet is shown now.
@@ -42,6 +45,8 @@ private:
     double pixelsPerTenth() const;
     double trueScale() const;
     void renewScrollBars();
+    bool isAtEnd(int direction) const;
+    void turnPage(int direction);
     bool turnByWheel(int angle);
 
     std::shared_ptr<const ReportDocument> m_document;

@@ -14,6 +14,7 @@
 
 #include <QBoxLayout>
 #include <QDir>
+#include <QFileInfo>
 #include <QLabel>
 #include <QToolButton>
 
@@ -36,12 +37,14 @@ Vorschau::Vorschau()
     , Toolbar1(new Toolbar(this))
     , pageView(new ReportPageView(this)) {
     buildToolbar();
+    buildNotice();
     auto* whole = new QVBoxLayout(this);
     whole->setContentsMargins(0, 0, 0, 0);
     whole->setSpacing(0);
     whole->addWidget(Ueberschrift);
     whole->addWidget(Toolbar1);
     whole->addWidget(pageView, 1);
+    whole->addWidget(lblAblage);
     on(Toolbar1, &Toolbar::ButtonClick, [this](const QString& key) { Toolbar1_ButtonClick(key); });
     on(pageView, &ReportPageView::pageChanged, [this](int) { showPageNumber(); });
     on(pageView, &ReportPageView::zoomStepWanted, [this](int step) { zoom(step); });
@@ -96,6 +99,18 @@ void Vorschau::buildZoomBox() {
     on(cboZoom, &ComboBox::Click, [this] { cboZoom_Click(); });
 }
 
+void Vorschau::buildNotice() {
+    lblAblage = Face::label(u"lblAblage"_qs, {}, this);
+    lblAblage->setTextFormat(Qt::PlainText);
+    lblAblage->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    lblAblage->setContentsMargins(Face::gap, Face::gap / 2, Face::gap, Face::gap / 2);
+    // A long path must not make the frame wider.
+    lblAblage->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    lblAblage->hide();
+    m_noticeEnd.setSingleShot(true);
+    connect(&m_noticeEnd, &QTimer::timeout, lblAblage, &QWidget::hide);
+}
+
 void Vorschau::Form_QueryUnload() { unload<Vorschau>(); }
 
 // The page box keeps the keys that move its caret.
@@ -111,10 +126,10 @@ bool Vorschau::Form_KeyDown(int key, Qt::KeyboardModifiers modifiers) {
         unload<Vorschau>();
         return true;
     case Qt::Key_PageUp:
-        pageView->setPage(pageView->page() - 1);
+        pageView->moveOn(-1);
         return true;
     case Qt::Key_PageDown:
-        pageView->setPage(pageView->page() + 1);
+        pageView->moveOn(1);
         return true;
     case Qt::Key_Home:
         if (!typing) pageView->setPage(0);
@@ -134,6 +149,7 @@ void Vorschau::zeige(std::shared_ptr<const ReportDocument> document, std::shared
     setAccessibleName(m_document->caption());
     Ueberschrift->setText(m_document->caption());
     pageView->setDocument(m_document);
+    lblAblage->hide();
     Show();
     pageView->setFocus(Qt::OtherFocusReason);
 }
@@ -212,9 +228,21 @@ void Vorschau::speicherPdf() {
     try {
         const Hourglass hourglass(*this);
         saveReportAsPdf(*saved, file);
+        showWhereItLies(file);
     } catch (const RuntimeError& error) {
         MsgBox(u"Die Datei '%1' konnte nicht geschrieben werden !\r\n\r\n%2"_qs.arg(
                    QDir::toNativeSeparators(file), error.description),
                vbExclamation);
     }
+}
+
+// The name first: of what is too long for the line the end is out of sight.
+void Vorschau::showWhereItLies(const QString& file) {
+    constexpr int shown = 15000; // milliseconds
+    const QFileInfo place(file);
+    const QString folder = QDir::toNativeSeparators(place.absolutePath());
+    lblAblage->setText(u"„%1“ liegt jetzt im Ordner %2"_qs.arg(place.fileName(), folder));
+    lblAblage->setToolTip(QDir::toNativeSeparators(place.absoluteFilePath()));
+    lblAblage->show();
+    m_noticeEnd.start(shown);
 }

@@ -2,6 +2,7 @@
 
 #include "Screen.h"
 
+#include <QTimer>
 #include <memory>
 
 class ComboBox;
@@ -36,11 +37,13 @@ public:
     QLabel* lblSeiten;
     ComboBox* cboZoom;
     ReportPageView* pageView;
+    QLabel* lblAblage; ///< where a PDF lies, for a while after it was saved
 
 private:
     void buildToolbar();
     void buildPageBox();
     void buildZoomBox();
+    void buildNotice();
     void Toolbar1_ButtonClick(const QString& key);
     void txtSeite_Enter();
     void showPageNumber();
@@ -48,7 +51,9 @@ private:
     void zoom(int step);
     void drucke();
     void speicherPdf();
+    void showWhereItLies(const QString& file);
 
     std::shared_ptr<const ReportDocument> m_document;
     std::shared_ptr<const Report> m_report;
+    QTimer m_noticeEnd;
 };

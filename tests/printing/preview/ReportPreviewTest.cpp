@@ -1,4 +1,5 @@
 #include "ComboBox.h"
+#include "FixedClock.h"
 #include "MsgBox.h"
 #include "QtPrintDialogs.h"
 #include "RecordingScreen.h"
@@ -11,10 +12,14 @@
 #include "Toolbar.h"
 #include "Vorschau.h"
 
+#include <QApplication>
 #include <QFile>
+#include <QFileDialog>
 #include <QLabel>
+#include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 #include <QToolButton>
 #include <gtest/gtest.h>
 
@@ -80,6 +85,7 @@ protected:
     static QString where() { return preview().txtSeite->text() + u' ' + preview().lblSeiten->text(); }
     QString takeLog() { return std::exchange(log, {}).join(u' '); }
 
+    FixedClock clock;
     Boxes boxes;
     Dialogs dialogs;
     QStringList log;
@@ -116,7 +122,15 @@ TEST_F(ReportPreviewTest, PagesTurnByKeysButtonsAndTheirNumber) {
     ReportPageView* view = preview().pageView;
     EXPECT_FALSE(preview().Toolbar1->key(u"tbZurueck"_qs)->isEnabled());
     QTest::keyClick(view, Qt::Key_PageDown);
+    EXPECT_EQ(where(), u"1 von 3"_qs) << "first its lower half";
+    while (view->verticalScrollBar()->value() < view->verticalScrollBar()->maximum())
+        QTest::keyClick(view, Qt::Key_PageDown);
+    QTest::keyClick(view, Qt::Key_PageDown);
     EXPECT_EQ(where(), u"2 von 3"_qs);
+    EXPECT_EQ(view->verticalScrollBar()->value(), 0);
+    QTest::keyClick(view, Qt::Key_PageUp);
+    EXPECT_EQ(where(), u"1 von 3"_qs);
+    EXPECT_EQ(view->verticalScrollBar()->value(), view->verticalScrollBar()->maximum());
     QTest::keyClick(view, Qt::Key_End);
     QTest::keyClick(view, Qt::Key_PageDown);
     EXPECT_EQ(where(), u"3 von 3"_qs);
@@ -158,12 +172,14 @@ TEST_F(ReportPreviewTest, PrintingAndSavingAskFirstAndTellWhatFailed) {
     press(u"tbDruck"_qs);
     EXPECT_EQ(dialogs.asked, u"3/1"_qs);
     press(u"tbPdf"_qs);
-    EXPECT_EQ(dialogs.asked, u"Besatz - Plan.pdf"_qs);
+    EXPECT_EQ(dialogs.asked, u"Besatz - Plan 2026-03-14.pdf"_qs);
     EXPECT_TRUE(QDir(folder.path()).isEmpty()) << "called off";
 
     dialogs.file = folder.filePath(u"a.pdf"_qs);
     press(u"tbPdf"_qs);
     EXPECT_TRUE(QFile::exists(dialogs.file));
+    EXPECT_EQ(preview().lblAblage->text(), u"„a.pdf“ liegt jetzt im Ordner "_qs + folder.path());
+    EXPECT_TRUE(preview().lblAblage->isVisible());
     EXPECT_TRUE(printAfterDialog(*report.document()));
     EXPECT_TRUE(boxes.texts.isEmpty());
 
@@ -188,6 +204,25 @@ TEST_F(ReportPreviewTest, TheProgramMayEndWhileADialogIsOpen) {
     settle();
     EXPECT_FALSE(isLoaded<Vorschau>());
     EXPECT_FALSE(QFile::exists(dialogs.file));
+}
+
+TEST(QtPrintDialogsTest, TheNextPdfIsProposedInTheFolderOfTheLast) {
+    QTemporaryDir folder;
+    QtPrintDialogs dialogs;
+    QString proposedIn;
+    const auto ask = [&](const QString& file) {
+        QTimer::singleShot(0, [&proposedIn, file] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            ASSERT_TRUE(dialog);
+            proposedIn = dialog->directory().path();
+            if (!file.isEmpty()) dialog->selectFile(file);
+            static_cast<QDialog*>(dialog)->done(file.isEmpty() ? QDialog::Rejected : QDialog::Accepted);
+        });
+        return dialogs.choosePdfFile(u"a.pdf"_qs);
+    };
+    EXPECT_EQ(ask(folder.filePath(u"b.pdf"_qs)), folder.filePath(u"b.pdf"_qs));
+    EXPECT_EQ(ask({}), QString());
+    EXPECT_EQ(proposedIn, folder.path());
 }
 
 TEST(QtPrintDialogsTest, ThePdfFileCountsAsAPrinter) { EXPECT_GE(QtPrintDialogs().printerCount(), 1); }
