@@ -123,24 +123,25 @@ void Briefkopf::addColumns(std::initializer_list<ReportColumn> columns) {
     m_detail.setHeight(m_rowHeight);
     m_head.addShape(u"Shape1"_qs, {0, headTop, breadth, headHeight}).ground(paleBlue).ink(clubBlue);
     int passed = 0;
+    int number = 0;
     for (const ReportColumn& column : columns) {
         const int left = breadth * passed / whole + m_cellPadding;
         passed += column.breadth;
         const int width = breadth * passed / whole - m_cellPadding - left;
-        addColumn(column, left, width);
+        addColumn(column, u"Text%1"_qs.arg(++number), left, width);
     }
     m_detail.addLine(u"Line1"_qs, {0, m_rowHeight, breadth, 0}).ink(faint).breadth(1).closing(clubBlue);
     m_detail.addLine(u"Line2"_qs, {0, 0, 0, m_rowHeight}).ink(clubBlue);
     m_detail.addLine(u"Line3"_qs, {breadth, 0, 0, m_rowHeight}).ink(clubBlue);
 }
 
-void Briefkopf::addColumn(const ReportColumn& column, int left, int width) {
+void Briefkopf::addColumn(const ReportColumn& column, const QString& text, int left, int width) {
     m_head.addLabel(column.label, column.head, {left, headTop, width, headHeight})
         .points(m_tablePoints)
         .bold()
         .ink(clubBlue)
         .align(column.align);
-    m_detail.addText(column.text, {left, 0, width, m_rowHeight})
+    m_detail.addText(text, {left, 0, width, m_rowHeight})
         .points(m_tablePoints)
         .align(column.align)
         .format(column.format);
@@ -203,4 +204,9 @@ void Briefkopf::addSummaryRule(const QString& name) {
     endSummaryLine(above);
     m_summary.addLine(name, summaryPlace(0, summaryCaption + summaryValue, 0)).ink(clubBlue);
     endSummaryLine(above);
+}
+
+void Briefkopf::addListDescription() {
+    addSummary(u"Label16"_qs, u"Anzahl der Mitglieder     :"_qs, u"lblGefDS"_qs);
+    addSummary(u"Label17"_qs, u"Listenbeschreibung:"_qs, u"lblInfo"_qs);
 }

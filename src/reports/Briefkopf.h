@@ -4,11 +4,10 @@
 
 #include <initializer_list>
 
-/// A column of a report's table: its head, the text below it, its share of the page's breadth in any unit.
+/// A column of a report's table: its head, its share of the page's breadth in any unit.
 struct ReportColumn {
     QString label;
     QString head;
-    QString text;
     int breadth = 0;
     ReportControl::Align align = ReportControl::Align::Left;
     QString format = {};
@@ -29,8 +28,8 @@ public:
 
     /// Smaller letters and less air in the table, where there are many columns. To be called before them.
     void setDense();
-    /// The column heads on the frame Shape1, the texts, and the rules Line1 (below each row), Line2 and Line3
-    /// (at the table's sides).
+    /// The column heads on the frame Shape1, the texts below them (Text1 and onward), and the rules Line1
+    /// (below each row), Line2 and Line3 (at the table's sides).
     void addColumns(std::initializer_list<ReportColumn> columns);
 
     // The report footer. Each line is a caption (a label of its own name) with its value behind it; what is
@@ -45,6 +44,8 @@ public:
     void addUnit(const QString& label, const QString& text);
     /// A rule, as above a result.
     void addSummaryRule(const QString& name);
+    /// What both lists of members end with: how many they are, and the user's words for the list.
+    void addListDescription();
 
 private:
     void addAddress();
@@ -52,7 +53,7 @@ private:
     void addCaption(const QString& label, const QString& caption, const QRect& place);
     void addAddressLine(const QString& label, const QString& caption, int line);
     ReportControl& addAddressValue(const QString& value, int line, int left, int right);
-    void addColumn(const ReportColumn& column, int left, int width);
+    void addColumn(const ReportColumn& column, const QString& text, int left, int width);
     void addSummaryCaption(const QString& label, const QString& caption);
     QRect summaryPlace(int left, int width, int height) const;
     void endSummaryLine(int height);

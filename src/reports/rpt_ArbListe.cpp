@@ -8,10 +8,9 @@ Berichte::Bericht makeArbListe() {
     auto report = std::make_shared<Report>(u"Arbeitsliste"_qs);
     Briefkopf face(*report);
     face.addTitle(u"lblUebSchrift"_qs, Berichte::titelArbListe());
-    face.addColumns(
-        {{u"Label1"_qs, u"Arb.-Nr:"_qs, u"Text1"_qs, 30, Align::Right},
-         {u"Label2"_qs, u"Geleistete Arb.-Std:"_qs, u"Text2"_qs, 60, Align::Right, u"#.##0,00"_qs},
-         {u"Label3"_qs, u"Datum:"_qs, u"Text3"_qs, 80, Align::Centre, u"dd.MM.yyyy"_qs}});
+    face.addColumns({{u"Label1"_qs, u"Arb.-Nr:"_qs, 30, Align::Right},
+                     {u"Label2"_qs, u"Geleistete Arb.-Std:"_qs, 60, Align::Right, u"#.##0,00"_qs},
+                     {u"Label3"_qs, u"Datum:"_qs, 80, Align::Centre, u"dd.MM.yyyy"_qs}});
     face.addSummaryHeading(u"Label4"_qs, u"Mitglied:"_qs);
     face.addSummary(u"Label5"_qs, u"Name       :"_qs, u"lblNName"_qs).bold();
     face.addSummary(u"Label6"_qs, u"Vorname:"_qs, u"lblVName"_qs).bold();

@@ -8,11 +8,11 @@ Berichte::Bericht makeBesatzListe() {
     auto report = std::make_shared<Report>(u"Besatz - Plan"_qs);
     Briefkopf face(*report);
     face.addTitle(u"lblUeb"_qs, u"Besatz - Plan"_qs);
-    face.addColumns({{u"Label1"_qs, u"B-Nr:"_qs, u"Text1"_qs, 15, Align::Right},
-                     {u"Label2"_qs, u"Fischart:"_qs, u"Text2"_qs, 47},
-                     {u"Label3"_qs, u"Gewässer:"_qs, u"Text3"_qs, 50},
-                     {u"Label4"_qs, u"Zeitpunkt:"_qs, u"Text4"_qs, 51},
-                     {u"Label5"_qs, u"Menge i. Kg:"_qs, u"Text5"_qs, 27, Align::Right, u"0,00"_qs}});
+    face.addColumns({{u"Label1"_qs, u"B-Nr:"_qs, 15, Align::Right},
+                     {u"Label2"_qs, u"Fischart:"_qs, 47},
+                     {u"Label3"_qs, u"Gewässer:"_qs, 50},
+                     {u"Label4"_qs, u"Zeitpunkt:"_qs, 51},
+                     {u"Label5"_qs, u"Menge i. Kg:"_qs, 27, Align::Right, u"0,00"_qs}});
     return report;
 }
 

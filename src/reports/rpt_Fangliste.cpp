@@ -10,13 +10,13 @@ Berichte::Bericht makeFangliste() {
     face.addTitle(u"Label8"_qs, u"Fangliste"_qs);
     face.addSetting(u"Label23"_qs, u"Fangjahr    :"_qs, u"lblFJahr"_qs);
     face.addSetting(u"Label24"_qs, u"Fangmonat:"_qs, u"lblFMonat"_qs);
-    face.addColumns({{u"Label1"_qs, u"FangNr:"_qs, u"Text1"_qs, 19, Align::Right},
-                     {u"Label2"_qs, u"Fischart:"_qs, u"Text2"_qs, 42},
-                     {u"Label3"_qs, u"Gewässer:"_qs, u"Text3"_qs, 45},
-                     {u"Label4"_qs, u"Monat:"_qs, u"Text4"_qs, 24},
-                     {u"Label5"_qs, u"Fangjahr:"_qs, u"Text5"_qs, 21, Align::Right},
-                     {u"Label6"_qs, u"Anzahl:"_qs, u"Text6"_qs, 18, Align::Right},
-                     {u"Label7"_qs, u"Gewicht:"_qs, u"Text7"_qs, 21, Align::Right}});
+    face.addColumns({{u"Label1"_qs, u"FangNr:"_qs, 19, Align::Right},
+                     {u"Label2"_qs, u"Fischart:"_qs, 42},
+                     {u"Label3"_qs, u"Gewässer:"_qs, 45},
+                     {u"Label4"_qs, u"Monat:"_qs, 24},
+                     {u"Label5"_qs, u"Fangjahr:"_qs, 21, Align::Right},
+                     {u"Label6"_qs, u"Anzahl:"_qs, 18, Align::Right},
+                     {u"Label7"_qs, u"Gewicht:"_qs, 21, Align::Right}});
     face.addSummaryHeading(u"Label14"_qs, u"Endaufstellung:"_qs);
     face.addSum(u"Label16"_qs, u"Fischanzahl [gesamt]    :"_qs, u"SumAnzahl"_qs);
     face.addSum(u"Label17"_qs, u"Fischgewicht [gesamt] :"_qs, u"SumGewicht"_qs);

@@ -10,16 +10,15 @@ Berichte::Bericht makeMitglList() {
     face.addTitle(u"Label8"_qs, u"Mitglieder - Liste"_qs);
     face.setDense();
     // In tenths of a millimetre: what a day, a code, a number or the heads need, the rest for the names.
-    face.addColumns({{u"Label1"_qs, u"M-Nr:"_qs, u"Text1"_qs, 118, Align::Right},
-                     {u"Label2"_qs, u"Nachname:"_qs, u"Text2"_qs, 280},
-                     {u"Label3"_qs, u"Vorname:"_qs, u"Text3"_qs, 226},
-                     {u"Label4"_qs, u"Strasse:"_qs, u"Text4"_qs, 308},
-                     {u"Label5"_qs, u"PLZ:"_qs, u"Text5"_qs, 102},
-                     {u"Label6"_qs, u"Ort:"_qs, u"Text6"_qs, 266},
-                     {u"Label7"_qs, u"Telefon [privat]:"_qs, u"Text7"_qs, 276},
-                     {u"Label14"_qs, u"Geb.-Dat:"_qs, u"Text8"_qs, 164}});
-    face.addSummary(u"Label16"_qs, u"Anzahl der Mitglieder     :"_qs, u"lblGefDS"_qs);
-    face.addSummary(u"Label17"_qs, u"Listenbeschreibung:"_qs, u"lblInfo"_qs);
+    face.addColumns({{u"Label1"_qs, u"M-Nr:"_qs, 118, Align::Right},
+                     {u"Label2"_qs, u"Nachname:"_qs, 280},
+                     {u"Label3"_qs, u"Vorname:"_qs, 226},
+                     {u"Label4"_qs, u"Strasse:"_qs, 308},
+                     {u"Label5"_qs, u"PLZ:"_qs, 102},
+                     {u"Label6"_qs, u"Ort:"_qs, 266},
+                     {u"Label7"_qs, u"Telefon [privat]:"_qs, 276},
+                     {u"Label14"_qs, u"Geb.-Dat:"_qs, 164}});
+    face.addListDescription();
     return report;
 }
 

@@ -101,9 +101,8 @@ ReportTypesetter::Setting ReportTypesetter::composed(Face& face, const QString& 
     return number;
 }
 
-ReportTypesetter::Setting ReportTypesetter::fitting(const ReportControl& look, const QString& text,
-                                                    double width) {
-    Face& face = faceFor(look.points(), look.isBold());
+ReportTypesetter::Setting ReportTypesetter::fitting(Face& face, const ReportControl& look,
+                                                    const QString& text, double width) {
     Setting whole = setting(face, text);
     if (whole.width <= width) return whole;
     if (!isNumber(text)) return setting(face, face.metrics.elidedText(text, Qt::ElideRight, width));
@@ -133,8 +132,8 @@ void ReportTypesetter::set(const QRectF& place, const QString& text, const Repor
 }
 
 void ReportTypesetter::setLine(const QRectF& place, const QString& text, const ReportControl& look) {
-    const Setting fit = fitting(look, text, place.width());
-    const Face& face = faceFor(look.points(), look.isBold());
+    Face& face = faceFor(look.points(), look.isBold());
+    const Setting fit = fitting(face, look, text, place.width());
     const double letters = face.metrics.ascent() + face.metrics.descent();
     const QPointF start(leftEnd(place, fit.width, look.align()),
                         place.top() + (place.height() - letters) / 2 + face.metrics.ascent());

@@ -57,7 +57,7 @@ private:
     Setting setting(Face& face, const QString& text);
     Setting measured(Face& face, const QString& text);
     Setting composed(Face& face, const QString& digits);
-    Setting fitting(const ReportControl& look, const QString& text, double width);
+    Setting fitting(Face& face, const ReportControl& look, const QString& text, double width);
     void setLine(const QRectF& place, const QString& text, const ReportControl& look);
     int numberOf(const QRawFont& font);
     Batch& batchFor(int font, QRgb ink);
