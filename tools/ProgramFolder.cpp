@@ -86,3 +86,8 @@ void makeProgramFolder(const QString& folder, int year, bool demo) {
     if (demo) fillDatabase(path, year);
     beginnings.keep();
 }
+
+QStringList completeProgramFolder(const QString& folder) {
+    return completeDatabase(folder + QStringLiteral("/uw01.mdb"), QString::fromUtf16(password),
+                            folder + QStringLiteral("/Sicherung"));
+}

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <QStringList>
 
 /// Makes what the program expects beside its executable: `uw01.mdb` with its first rows and the fishing year
 /// `year`, and the folders temp, SeqData and Graphics/bmp with Cut.bmp; with `demo` an invented club as well.
@@ -8,3 +8,7 @@
 /// away again.
 /// Errors: 3204 there is a database already; 75 a folder or file can't be made; otherwise the store's.
 void makeProgramFolder(const QString& folder, int year, bool demo);
+
+/// Adds to the database of a program folder what it lacks of the tables and fields of this version, and keeps
+/// a copy of it in "Sicherung". Gives the names of what was added. Errors as for completeDatabase.
+QStringList completeProgramFolder(const QString& folder);

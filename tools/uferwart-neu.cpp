@@ -13,27 +13,39 @@ struct Order {
     QString folder;
     int year = 0;
     bool demo = false;
+    bool complete = false;
 };
 
 const auto usage =
-    QStringLiteral("usage: uferwart-neu FOLDER [--jahr N] [--demo]\n\n"
+    QStringLiteral("usage: uferwart-neu FOLDER [--jahr N] [--demo]\n"
+                   "       uferwart-neu FOLDER --ergaenzen\n\n"
                    "Makes a program folder: database, first rows and the folders beside it.\n"
                    "  --jahr N   the fishing year to begin with, 1900 to 9999 (default: this year)\n"
-                   "  --demo     with an invented club to look at\n");
+                   "  --demo     with an invented club to look at\n"
+                   "  --ergaenzen  adds the tables and fields that the folder's database lacks;\n"
+                   "               a copy of it goes to Sicherung first\n");
 
-/// Nothing if the words make no order.
+/// Nothing if the arguments are invalid.
 std::optional<Order> readOrder(const QStringList& words) {
     QCommandLineParser parser;
     const QCommandLineOption yearOption(QStringLiteral("jahr"), QString(), QStringLiteral("N"),
                                         QString::number(QDate::currentDate().year()));
     const QCommandLineOption demoOption(QStringLiteral("demo"));
-    if (!parser.addOptions({yearOption, demoOption}) || !parser.parse(words)) return {};
+    const QCommandLineOption completeOption(QStringLiteral("ergaenzen"));
+    if (!parser.addOptions({yearOption, demoOption, completeOption}) || !parser.parse(words)) return {};
     const QStringList folders = parser.positionalArguments();
     bool isNumber = false;
     const int year = parser.value(yearOption).toInt(&isNumber);
     if (folders.size() != 1 || folders.first().isEmpty() || !isNumber || year < 1900 || year > 9999)
         return {};
-    return Order{folders.first(), year, parser.isSet(demoOption)};
+    const bool complete = parser.isSet(completeOption);
+    if (complete && (parser.isSet(demoOption) || parser.isSet(yearOption))) return {};
+    return Order{folders.first(), year, parser.isSet(demoOption), complete};
+}
+
+void carryOut(const Order& order) {
+    if (!order.complete) return makeProgramFolder(order.folder, order.year, order.demo);
+    for (const QString& name : completeProgramFolder(order.folder)) QTextStream(stdout) << name << '\n';
 }
 
 } // namespace
@@ -51,7 +63,7 @@ int main(int argc, char* argv[]) {
         return 2;
     }
     try {
-        makeProgramFolder(order->folder, order->year, order->demo);
+        carryOut(*order);
     } catch (const RuntimeError& error) {
         QTextStream(stderr) << "uferwart-neu: " << error.description << " (" << error.number << ")\n";
         return 1;

@@ -1,4 +1,5 @@
 #include "ProgramFolder.h"
+#include "Connection.h"
 #include "ErrorOf.h"
 #include "OpenFolder.h"
 
@@ -59,4 +60,28 @@ TEST(ProgramFolder, LeavesNothingBehindWhenItFails) {
     EXPECT_EQ(QDir(place.filePath(QStringLiteral("alt"))).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
               QStringList{QStringLiteral("Graphics")});
     EXPECT_EQ(failureOf(obstacle.fileName() + QStringLiteral("/neu")), 75);
+}
+
+TEST(ProgramFolder, AddsWhatAnOlderDatabaseLacksAndKeepsACopy) {
+    QTemporaryDir place;
+    makeProgramFolder(place.path(), 2026, false);
+    const QString path = place.filePath(QStringLiteral("uw01.mdb"));
+    {
+        cursors::Connection file(path, QStringLiteral("qx-1987-nkr"), cursors::Connection::Access::ReadWrite);
+        file.execute("DROP TABLE \"Besatzung\"");
+        file.execute("ALTER TABLE \"Fisch\" RENAME TO \"Alt\"");
+        file.execute("CREATE TABLE \"Fisch\" (\"FNr\" INTEGER PRIMARY KEY AUTOINCREMENT, \"FName\" TEXT)");
+        file.execute("INSERT INTO \"Fisch\" VALUES (7, 'Aal')");
+        file.execute("DROP TABLE \"Alt\"");
+        file.close();
+    }
+    EXPECT_EQ(errorOf([&] { openFolder(place.path()); }), 3343);
+    const QStringList added = {QStringLiteral("Fisch.Notiz"), QStringLiteral("Besatzung")};
+    EXPECT_EQ(completeProgramFolder(place.path()), added);
+    Database database = openFolder(place.path());
+    EXPECT_EQ(only(database, QStringLiteral("SELECT MAX(FNr) FROM Fisch")), Value(7));
+    database.Close();
+    EXPECT_EQ(completeProgramFolder(place.path()), QStringList());
+    EXPECT_EQ(QDir(place.filePath(QStringLiteral("Sicherung"))).entryList(QDir::Files).size(), 2);
+    EXPECT_EQ(errorOf([&] { completeProgramFolder(place.filePath(QStringLiteral("nirgends"))); }), 3024);
 }

@@ -3,7 +3,7 @@
 #include "Connection.h"
 #include "Essentials.h"
 #include "Salvage.h"
-#include "UnfinishedPath.h"
+#include "UnfinishedFile.h"
 
 #include <QFile>
 #include <QHash>

@@ -1,6 +1,59 @@
 #include "NewDatabase.h"
 
+#include "RawContent.h"
+#include "RuntimeError.h"
+#include "SafetyCopy.h"
+#include "Schema.h"
 #include "UnfinishedFile.h"
+
+#include <QDateTime>
+
+namespace {
+
+bool hasTable(cursors::Connection& file, const TableSpec& table) {
+    engine::Statement found =
+        file.prepare("SELECT 1 FROM sqlite_master WHERE type = 'table' AND name = ?1 COLLATE NOCASE");
+    found.bind(1, table.name.toString());
+    return found.step();
+}
+
+bool hasField(cursors::Connection& file, const TableSpec& table, const FieldSpec& field) {
+    engine::Statement fields = file.prepare("PRAGMA table_info(" + quotedName(table.name) + ')');
+    while (fields.step())
+        if (field.name.compare(fields.text(1), Qt::CaseInsensitive) == 0) return true;
+    return false;
+}
+
+QStringList addFields(cursors::Connection& file, const TableSpec& table) {
+    QStringList added;
+    for (const FieldSpec& field : table.fields) {
+        if (hasField(file, table, field)) continue;
+        file.execute("ALTER TABLE " + quotedName(table.name) + " ADD COLUMN " +
+                     columnDefinition(table, field));
+        added += table.name.toString() + u'.' + field.name.toString();
+    }
+    return added;
+}
+
+QStringList addAll(const QString& path, const QString& password) {
+    // What the file lacks keeps it from being opened in the ordinary way.
+    cursors::Connection file(path, password, cursors::Connection::Access::Create);
+    file.execute("BEGIN EXCLUSIVE");
+    QStringList added;
+    for (const TableSpec& table : schemaTables()) {
+        if (hasTable(file, table)) {
+            added += addFields(file, table);
+        } else {
+            file.execute(tableDefinition(table));
+            added += table.name.toString();
+        }
+    }
+    for (const QByteArray& index : indexStatements()) file.execute(index);
+    file.execute("COMMIT");
+    return added;
+}
+
+} // namespace
 
 void seedSystem(cursors::Connection& file, int year) {
     engine::Statement system = file.prepare("INSERT INTO \"System\" VALUES (?1, 0, 0, '', '', '', '', '')");
@@ -34,4 +87,13 @@ void createDatabase(const QString& path, const QString& password, int year) {
     seedUser(file.connection());
     seedSystem(file.connection(), year);
     file.finish();
+}
+
+QStringList completeDatabase(const QString& path, const QString& password, const QString& keptIn) {
+    {
+        engine::RawContent content(path);
+        content.lock();
+        keepFileBefore(QStringLiteral("Ergänzung"), content, path, keptIn, QDateTime::currentDateTime());
+    }
+    return addAll(path, password);
 }

@@ -130,12 +130,12 @@ void keepSafetyCopy(const QString& file, const QString& password, const QString&
     removeOldest(names);
 }
 
-void keepDamagedFile(const engine::RawContent& content, const QString& file, const QString& folder,
-                     const QDateTime& time) {
+void keepFileBefore(const QString& before, const engine::RawContent& content, const QString& file,
+                    const QString& folder, const QDateTime& time) {
     const CopyNames names(file, folder, time);
     const QString unfinished = prepareFolder(file, folder, names);
     content.copyTo(unfinished, QFile::permissions(file));
-    replaceDatabase(unfinished, names.path(names.free(QStringLiteral("vor Reparatur "))));
+    replaceDatabase(unfinished, names.path(names.free(QStringLiteral("vor ") + before + u' ')));
 }
 
 bool isCopyUnfinished(const QString& file, const QString& folder) {

@@ -19,10 +19,11 @@ class RawContent;
 /// copies made before are then untouched.
 void keepSafetyCopy(const QString& file, const QString& password, const QString& folder,
                     const QDateTime& time);
-/// Copies a damaged file into that folder, which is made if missing, as "uw01 vor Reparatur 2026-03-14
-/// 18.05.12.mdb". No later copy takes its place. Errors as above, 3043 if the disk does not give a page.
-void keepDamagedFile(const engine::RawContent& content, const QString& file, const QString& folder,
-                     const QDateTime& time);
+/// Copies a file into that folder, which is made if missing, as "uw01 vor Reparatur 2026-03-14 18.05.12.mdb",
+/// where `before` is "Reparatur". No later copy takes its place. Errors as above, 3043 if the disk does not
+/// give a page.
+void keepFileBefore(const QString& before, const engine::RawContent& content, const QString& file,
+                    const QString& folder, const QDateTime& time);
 /// Whether the copy before failed in that way, which may be the file's own fault.
 bool isCopyUnfinished(const QString& file, const QString& folder);
 /// Takes away what is left of it.

@@ -31,7 +31,7 @@ std::shared_ptr<const void> salvageFile(const QString& source, const QString& ta
     if (!sweep.run()) throw runtimeError(3056, source);
     raiseCounters(file.connection(), sweep.counters());
     restoreEssentials(file.connection());
-    keepDamagedFile(*content, source, keptIn, now());
+    keepFileBefore(QStringLiteral("Reparatur"), *content, source, keptIn, now());
     file.finish();
     return content;
 }

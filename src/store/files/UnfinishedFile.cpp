@@ -1,5 +1,26 @@
 #include "UnfinishedFile.h"
 
+#include "InterruptedFile.h"
+#include "RuntimeError.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+UnfinishedPath::UnfinishedPath(const QString& path)
+    : m_path(path) {
+    const QFileInfo file(path);
+    // A link that leads nowhere would be followed.
+    if (file.exists() || file.isSymLink()) throw runtimeError(3204, path);
+    if (!file.absoluteDir().exists()) throw runtimeError(3044, file.absolutePath());
+}
+
+UnfinishedPath::~UnfinishedPath() {
+    if (m_kept) return;
+    QFile::remove(m_path);
+    for (const QString& journal : engine::journalsOf(m_path)) QFile::remove(journal);
+}
+
 UnfinishedFile::UnfinishedFile(const QString& path, const QString& password)
     : m_path(path)
     , m_connection(path, password, cursors::Connection::Access::Create) {

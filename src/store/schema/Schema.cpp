@@ -204,6 +204,12 @@ QByteArray columnType(FieldKind kind) {
     }
 }
 
+QByteArray indexDefinition(const IndexSpec& index) {
+    return QByteArray("CREATE INDEX IF NOT EXISTS \"") + index.name + "\" ON " + index.target;
+}
+
+} // namespace
+
 QByteArray columnDefinition(const TableSpec& table, const FieldSpec& field) {
     QByteArray definition = quotedName(field.name) + ' ' + columnType(field.kind);
     const bool isKey = table.keyed && &field == &table.fields.front();
@@ -219,8 +225,6 @@ QByteArray tableDefinition(const TableSpec& table) {
     for (const FieldSpec& field : table.fields) columns += columnDefinition(table, field);
     return "CREATE TABLE " + quotedName(table.name) + " (" + columns.join(", ") + ')';
 }
-
-} // namespace
 
 int TableSpec::fieldIndex(QStringView fieldName) const {
     // A list on its way to paper asks this for each of its cells, so what differs in length is not compared.
@@ -240,12 +244,16 @@ const TableSpec* findTable(QStringView name) {
     return nullptr;
 }
 
+QList<QByteArray> indexStatements() {
+    QList<QByteArray> statements;
+    for (const IndexSpec& index : indexes) statements += indexDefinition(index);
+    return statements;
+}
+
 QList<QByteArray> schemaStatements() {
     QList<QByteArray> statements;
     for (const TableSpec& table : tables) statements += tableDefinition(table);
-    for (const IndexSpec& index : indexes)
-        statements += QByteArray("CREATE INDEX \"") + index.name + "\" ON " + index.target;
-    return statements;
+    return statements + indexStatements();
 }
 
 QByteArray quotedName(QStringView name) { return '"' + name.toUtf8().replace('"', "\"\"") + '"'; }

@@ -32,6 +32,10 @@ const TableSpec* findTable(QStringView name);
 /// The statements that make the tables and indexes in an empty file. They name only standard collations, so
 /// that the standard command-line program can read the file.
 QList<QByteArray> schemaStatements();
+/// The same one by one, for a file that lacks some of them. An index that is there is left alone.
+QByteArray tableDefinition(const TableSpec& table);
+QByteArray columnDefinition(const TableSpec& table, const FieldSpec& field);
+QList<QByteArray> indexStatements();
 
 /// A name of the catalogue for use in a statement.
 QByteArray quotedName(QStringView name);
