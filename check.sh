@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# What must hold before a commit: format, build, lint, tests.
-# usage: ./check.sh [full]   (full: the tests once more under the sanitizers)
+# What must hold before a commit: format, build, lint of what has changed, tests.
+# usage: ./check.sh [full]   (full: lint of all files, and the tests once more under the sanitizers)
 set -euo pipefail
 # shellcheck source=tools/setup.sh
 . "$(dirname "$0")/tools/setup.sh"
@@ -16,18 +16,30 @@ check_format() {
     (cd "$top" && xargs -0 --no-run-if-empty clang-format --dry-run -Werror)
 }
 
-# clang-tidy reads the compiler's own command lines; an option that only g++ knows would stop it.
+# clang-tidy reads the compiler's own command lines; an option or a precompiled header that only g++ knows would
+# stop it.
 lint_database() {
   mkdir -p "$top/build/lint"
-  sed -e 's/ -mno-direct-extern-access//g' "$top/build/release/compile_commands.json" \
-    >"$top/build/lint/compile_commands.json"
+  sed -E -e 's/ -mno-direct-extern-access//g; s/ -Winvalid-pch -include [^ ]+cmake_pch\.hxx//g' \
+    "$top/build/release/compile_commands.json" >"$top/build/lint/compile_commands.json"
+}
+
+# Sources that differ from what has landed, or all of them.
+sources_to_lint() {
+  if [ "$1" = full ]; then
+    git -C "$top" ls-files 'src/*.cpp' 'tools/*.cpp'
+  else
+    local landed
+    landed=$(git -C "$top" rev-parse -q --verify origin/main || git -C "$top" rev-parse HEAD)
+    git -C "$top" diff --name-only --diff-filter=d "$landed" -- 'src/*.cpp' 'tools/*.cpp'
+  fi
 }
 
 check_lint() {
   say "Lint"
   lint_database
-  git -C "$top" ls-files -z 'src/*.cpp' 'tools/*.cpp' |
-    (cd "$top" && xargs -0 --no-run-if-empty -n 1 -P 2 clang-tidy -p build/lint --quiet 2>&1) |
+  sources_to_lint "$1" |
+    (cd "$top" && xargs --no-run-if-empty -n 1 -P "$(nproc)" clang-tidy -p build/lint --quiet 2>&1) |
     grep -v ' warnings\? generated\.$' || [ "${PIPESTATUS[1]}" = 0 ]
 }
 
@@ -35,7 +47,7 @@ require_platform
 ensure_packages "${build_packages[@]}" "${lint_packages[@]}"
 check_format
 build release
-check_lint
+check_lint "${1:-changed}"
 "$top/test.sh"
 if [ "${1:-}" = full ]; then "$top/test.sh" sanitize; fi
 say "All checks passed"
