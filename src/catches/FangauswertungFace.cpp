@@ -126,10 +126,11 @@ void Fangauswertung::buildGrid() {
     tblFAusw->setColumns({{u"FangNr"_qs, 72, true},
                           {u"Fischart"_qs, 176},
                           {u"Gewässer"_qs, 176},
-                          {u"Monat"_qs, 88},
+                          {.head = u"Monat"_qs, .width = 88, .order = modRun::Monatsnamen()},
                           {u"Fangjahr"_qs, 72, true},
                           {u"Anzahl"_qs, 72, true},
                           {u"Gew. i. Gramm"_qs, 112, true}});
+    tblFAusw->setSortable();
     tblFAusw->setAccessibleName(u"Gefundene Fänge"_qs);
     lblAnzDS = Face::label(u"lblAnzDS"_qs, u"Gefunden:"_qs, this);
     lblGefDS = new ValueLabel(u"lblGefDS"_qs, this);

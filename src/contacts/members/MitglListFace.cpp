@@ -183,6 +183,7 @@ void MitglList::buildGrid() {
                           {u"Pfl.-Std."_qs, 96, true},
                           {u"Gel. Arb-Std."_qs, 104, true},
                           {u"Soll/Haben"_qs, 96, true}});
+    tblMList->setSortable();
     tblMList->setAccessibleName(u"Gefundene Mitglieder"_qs);
     setHourView(false);
 }

@@ -20,13 +20,6 @@ namespace modRun {
 
 namespace {
 
-const std::array<QString, 12>& monthNames() {
-    static const std::array<QString, 12> names = {
-        u"Januar"_qs, u"Februar"_qs, u"März"_qs,      u"April"_qs,   u"Mai"_qs,      u"Juni"_qs,
-        u"Juli"_qs,   u"August"_qs,  u"September"_qs, u"Oktober"_qs, u"November"_qs, u"Dezember"_qs};
-    return names;
-}
-
 void tellWrongMonth(const QString& inserted) {
     MsgBox(u"FEHLER: Monatsbezeichnung fehlerhaft ! Es wird Standartmonat - "_qs + inserted +
                u" - eingesetzt.\n\rBitte ändern Sie den Datensatz um diesen fehler zu vermeiden !"_qs,
@@ -139,16 +132,22 @@ QString TextAusDatum(const Recordset::Field& field) {
     return value.isNull() || CDate(value).isEmpty() ? QString() : CStr(value);
 }
 
+const QStringList& Monatsnamen() {
+    static const QStringList names = {u"Januar"_qs,    u"Februar"_qs, u"März"_qs,     u"April"_qs,
+                                      u"Mai"_qs,       u"Juni"_qs,    u"Juli"_qs,     u"August"_qs,
+                                      u"September"_qs, u"Oktober"_qs, u"November"_qs, u"Dezember"_qs};
+    return names;
+}
+
 QString ErmittleMonatsname(qint32 number) {
-    if (number >= 1 && number <= 12) return monthNames()[static_cast<std::size_t>(number - 1)];
+    if (number >= 1 && number <= Monatsnamen().size()) return Monatsnamen()[number - 1];
     tellWrongMonth(u"Januar"_qs);
     return u"Januar"_qs;
 }
 
 qint16 ErmittleMonatsNr(const QString& name) {
-    const auto& names = monthNames();
-    for (std::size_t i = 0; i < names.size(); ++i)
-        if (names[i] == name) return static_cast<qint16>(i + 1);
+    const qsizetype place = Monatsnamen().indexOf(name);
+    if (place >= 0) return static_cast<qint16>(place + 1);
     tellWrongMonth(u"1"_qs);
     return 1;
 }

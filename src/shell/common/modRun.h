@@ -2,7 +2,7 @@
 
 #include "Recordset.h"
 
-#include <QString>
+#include <QStringList>
 #include <span>
 #include <vector>
 
@@ -68,6 +68,8 @@ Date DatumAusText(const TextBox* box);
 /// The date as text, or the empty text if it is the empty date or none at all.
 QString TextAusDatum(const Recordset::Field& field);
 
+/// The twelve, in the order of the year.
+const QStringList& Monatsnamen();
 /// 1 to 12; any other number is told in a box and gives "Januar".
 QString ErmittleMonatsname(qint32 number);
 /// The names above, compared exactly; any other text is told in a box and gives 1.

@@ -1,5 +1,6 @@
 #include "ComboBox.h"
 
+#include "GermanOrder.h"
 #include "RuntimeError.h"
 
 #include <QAbstractItemView>
@@ -9,19 +10,6 @@
 #include <QScreen>
 #include <QWheelEvent>
 #include <algorithm>
-
-namespace {
-
-const QCollator& germanOrder() {
-    static const QCollator order = [] {
-        QCollator collator(QLocale(QLocale::German, QLocale::Germany));
-        collator.setCaseSensitivity(Qt::CaseInsensitive);
-        return collator;
-    }();
-    return order;
-}
-
-} // namespace
 
 ComboBox::ComboBox(const QString& name, Order order, Kind kind, QWidget* parent)
     : QComboBox(parent)

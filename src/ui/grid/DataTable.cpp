@@ -79,7 +79,15 @@ void DataTable::setColumnShown(int column, bool on) {
 
 int DataTable::rowCount() const { return m_model->rows(m_current.parentRow); }
 
-void DataTable::clearRows() { m_model->clear(m_current.parentRow); }
+void DataTable::setSortable() {
+    header()->setSortIndicator(-1, Qt::AscendingOrder);
+    setSortingEnabled(true);
+}
+
+void DataTable::clearRows() {
+    if (isSortingEnabled()) header()->setSortIndicator(-1, Qt::AscendingOrder);
+    m_model->clear(m_current.parentRow);
+}
 
 void DataTable::appendRow(std::span<const Value> cells) {
     m_model->append(m_current.parentRow, cells);

@@ -48,6 +48,11 @@ public:
     /// Shows or hides a column; its cells are there all the same.
     void setColumnShown(int column, bool on);
 
+    /// Lets a click on a head put the rows in the order of its column, a second one turn it round. Rows are
+    /// moved, so whatever goes through the grid follows. Cleared rows come back in the order of their
+    /// appending. Not for a two-level grid.
+    void setSortable();
+
     int rowCount() const;
     /// Of the top level: drops the child tables as well.
     void clearRows();

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <QStringList>
 
 /// A column of a grid. `width` is in pixels at 100 %, 0 hides the column; columns of texts share what room is
 /// left. Where it lacks they give up to a third, or all down to the minimum that is told for them.
@@ -14,6 +14,8 @@ struct GridColumn {
     bool picture = false; ///< the cell holds the path of a picture
     bool fixed = false;   ///< its texts are all of one length, such as dates: it gives and takes no room
     bool firm = false;    ///< such as telephone numbers: it takes room but gives none
+
+    QStringList order = {}; ///< where its words have an order of their own, such as months, for sorting by it
 
     /// As narrow as the grid makes it of its own accord.
     int narrowest() const {

@@ -2,8 +2,13 @@
 
 #include "DataTableLook.h"
 
+#include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
+
+namespace {
+constexpr int sortMarkWidth = 14;
+}
 
 DataTableHeader::DataTableHeader(QWidget* parent)
     : QHeaderView(Qt::Horizontal, parent) {
@@ -14,6 +19,11 @@ DataTableHeader::DataTableHeader(QWidget* parent)
 
 QSize DataTableHeader::sizeHint() const {
     return {QHeaderView::sizeHint().width(), fontMetrics().height() + 10};
+}
+
+// The corner is no head: nothing is sorted by it.
+void DataTableHeader::mousePressEvent(QMouseEvent* event) {
+    if (event->position().x() >= DataTableLook::gutterWidth) QHeaderView::mousePressEvent(event);
 }
 
 void DataTableHeader::paintEvent(QPaintEvent* event) {
@@ -32,6 +42,12 @@ void DataTableHeader::paintSection(QPainter* painter, const QRect& rect, int sec
     painter->fillRect(QRect(rect.right(), rect.top() + 5, 1, rect.height() - 10), look.headEdge);
     const QVariant alignment = model()->headerData(section, Qt::Horizontal, Qt::TextAlignmentRole);
     const QString head = model()->headerData(section, Qt::Horizontal).toString();
+    QRect words = rect;
+    if (isSortIndicatorShown() && sortIndicatorSection() == section) {
+        words.setRight(rect.right() - sortMarkWidth);
+        const QRect place(words.right(), rect.top(), sortMarkWidth, rect.height());
+        DataTableShapes::sortMark(*painter, place, sortIndicatorOrder(), look.headText);
+    }
     painter->setPen(look.headText);
-    DataTableShapes::text(*painter, rect, alignment.value<Qt::Alignment>(), head);
+    DataTableShapes::text(*painter, words, alignment.value<Qt::Alignment>(), head);
 }

@@ -60,15 +60,29 @@ void text(QPainter& painter, const QRect& cell, Qt::Alignment alignment, const Q
     painter.drawText(room, static_cast<int>(alignment) | Qt::TextSingleLine, shown);
 }
 
-void currentMark(QPainter& painter, const QRect& gutter, const QColor& colour) {
-    const QPointF centre = QRectF(gutter).center();
-    QPainterPath triangle(centre + QPointF(-2.5, -4));
-    triangle.lineTo(centre + QPointF(3, 0));
-    triangle.lineTo(centre + QPointF(-2.5, 4));
+namespace {
+
+/// Pointing right, and turned by so many degrees.
+void triangle(QPainter& painter, QPointF centre, int turn, const QColor& colour) {
+    QPainterPath path(QPointF(-2.5, -4));
+    path.lineTo(QPointF(3, 0));
+    path.lineTo(QPointF(-2.5, 4));
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillPath(triangle, colour);
+    painter.translate(centre);
+    painter.rotate(turn);
+    painter.fillPath(path, colour);
     painter.restore();
+}
+
+} // namespace
+
+void currentMark(QPainter& painter, const QRect& gutter, const QColor& colour) {
+    triangle(painter, QRectF(gutter).center(), 0, colour);
+}
+
+void sortMark(QPainter& painter, const QRect& place, Qt::SortOrder order, const QColor& colour) {
+    triangle(painter, QRectF(place).center(), order == Qt::AscendingOrder ? -90 : 90, colour);
 }
 
 void expandMark(QPainter& painter, const QRect& gutter, bool open, const QColor& colour) {

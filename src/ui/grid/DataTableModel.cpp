@@ -1,5 +1,6 @@
 #include "DataTableModel.h"
 
+#include "DataTableOrder.h"
 #include "RuntimeError.h"
 
 #include <algorithm>
@@ -253,6 +254,20 @@ QVariant DataTableModel::headerData(int section, Qt::Orientation orientation, in
     if (role == Qt::DisplayRole) return shownColumns()[section].head;
     if (role == Qt::TextAlignmentRole) return alignment(section);
     return {};
+}
+
+void DataTableModel::sort(int column, Qt::SortOrder order) {
+    if (isTwoLevel() || column < 0 || column >= gutterColumn()) return;
+    publish();
+    const std::vector<int> from = orderedRows(m_top->rows, m_top->texts, column, m_columns[column], order);
+    std::vector<int> to(from.size());
+    for (std::size_t place = 0; place < from.size(); ++place)
+        to[static_cast<std::size_t>(from[place])] = static_cast<int>(place);
+    Q_EMIT layoutAboutToBeChanged({}, VerticalSortHint);
+    m_top->rows.reorder(from);
+    for (const QModelIndex& old : persistentIndexList())
+        changePersistentIndex(old, createIndex(to[static_cast<std::size_t>(old.row())], old.column()));
+    Q_EMIT layoutChanged({}, VerticalSortHint);
 }
 
 DataTableModel::Table& DataTableModel::table(int owner) {

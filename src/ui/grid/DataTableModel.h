@@ -73,6 +73,8 @@ public:
     bool hasChildren(const QModelIndex& parent = {}) const override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+    /// Puts the rows of the top level in the order of a column. Not for a two-level grid.
+    void sort(int column, Qt::SortOrder order) override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:

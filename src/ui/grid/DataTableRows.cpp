@@ -58,6 +58,13 @@ void DataTableRows::remove(const std::vector<int>& rows) {
     });
 }
 
+void DataTableRows::reorder(const std::vector<int>& rows) {
+    std::vector<Row> ordered;
+    ordered.reserve(m_rows.size());
+    for (const int row : rows) ordered.push_back(m_rows[static_cast<std::size_t>(row)]);
+    m_rows.swap(ordered);
+}
+
 void DataTableRows::clear() {
     std::vector<Row>().swap(m_rows);
     m_blocks.clear();

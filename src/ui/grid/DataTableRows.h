@@ -38,6 +38,8 @@ public:
     /// Removes these rows, which must be sorted, in one pass.
     void remove(const std::vector<int>& rows);
     void clear();
+    /// For each place the row that comes there.
+    void reorder(const std::vector<int>& rows);
 
     Value value(int row, int column, const TextPool& texts) const;
     /// The cell as it stands on the screen.

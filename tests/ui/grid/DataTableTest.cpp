@@ -83,6 +83,32 @@ TEST_F(DataTableTest, ColumnsKeepTheirNumbersHideAtWidthZeroAndFillTheRoom) {
     EXPECT_EQ(m_grid.columnViewportPosition(0) + m_grid.columnWidth(0), m_grid.columnViewportPosition(1));
 }
 
+TEST_F(DataTableTest, AClickOnAHeadMovesTheRowsAndTheCurrentOneStaysTheSame) {
+    m_grid.setColumns({{u"Nr"_qs, 60, true}, {u"Name"_qs, 120}, {u"Tag"_qs, 80}, {u"Std."_qs, 80, true}});
+    m_grid.setSortable();
+    m_grid.appendRow({10, u"Öhm", Date{40000}, u"9,50"});
+    m_grid.appendRow({9, u"Zander", QString(), u"10,25"});
+    m_grid.appendRow({11, u"ohm", Date{39000}, u"-1,00"});
+    m_grid.show();
+    m_grid.setCurrentIndex(m_grid.model()->index(1, 0));
+    const auto order = [this](int column) {
+        const QPoint head(m_grid.header()->sectionViewportPosition(column) + 30, 8);
+        QTest::mouseClick(m_grid.header()->viewport(), Qt::LeftButton, {}, head);
+        QStringList numbers;
+        for (int row = 0; row < m_grid.rowCount(); ++row) numbers.append(m_grid.cellText(row, 0));
+        return numbers.join(u' ');
+    };
+    EXPECT_EQ(order(0), u"9 10 11");
+    EXPECT_EQ(order(0), u"11 10 9");
+    EXPECT_EQ(m_grid.currentIndex().row(), 2);
+    EXPECT_EQ(order(1), u"11 10 9");
+    EXPECT_EQ(order(2), u"9 11 10");
+    EXPECT_EQ(order(3), u"11 10 9");
+    m_grid.clearRows();
+    fill(2);
+    EXPECT_EQ(order(0), u"0 1") << "the first click after new rows";
+}
+
 TEST_F(DataTableTest, SelectedRowsTakeTheColoursThatTheProgramSets) {
     fill(3);
     m_grid.show();
