@@ -97,6 +97,7 @@ void SpeicherBenutzer() {
         if (gruppe.isEmpty()) return LeereBenutzerEingabe();
         zeile[gruppenSpalte] = gruppe;
         step([&] { form.tblBenutzer->appendRow(zeile); });
+        form.tblBenutzer->markRow(form.tblBenutzer->rowCount());
         LeereBenutzerEingabe();
         zeigeAnzahl(form.lblBAnzahl, form.tblBenutzer);
     });
@@ -122,6 +123,7 @@ void UpdateBenutzer(int row) {
             step([&] { form.tblBenutzer->setCell(zeile, 1, form.txtBenutzer->Text()); });
             step([&] { form.tblBenutzer->setCell(zeile, 2, form.txtPassw->Text()); });
             step([&] { form.tblBenutzer->setCell(zeile, gruppenSpalte, form.cboBG->Text()); });
+            form.tblBenutzer->markRow(zeile);
         }
         LeereBenutzerEingabe();
     });
@@ -142,8 +144,10 @@ void SpeicherBG() {
     withErrorTail(modul, u"SpeicherBG"_qs, [](ErrorTail& step) {
         const Benutzer& form = screen<Benutzer>();
         std::vector<Value> zeile;
-        if (Datensatz::speichere(step, u"Gruppen"_qs, felderDerGruppe(step, form), liesGruppe(step, zeile)))
+        if (Datensatz::speichere(step, u"Gruppen"_qs, felderDerGruppe(step, form), liesGruppe(step, zeile))) {
             step([&] { form.tblZugriff->appendRow(zeile); });
+            form.tblZugriff->markRow(form.tblZugriff->rowCount());
+        }
         LeereBenutzerEingabe();
         zeigeAnzahl(form.lblGAnzahl, form.tblZugriff);
         LadeGruppenCombo(form.cboBG);
@@ -161,6 +165,7 @@ void UpdateBG(int row) {
                 const int dort = modRun::zeileVon(form.tblZugriff, form.lblGNr, row);
                 for (std::size_t column = 1; column < zeile.size(); ++column)
                     form.tblZugriff->setCell(dort, static_cast<int>(column), zeile[column]);
+                form.tblZugriff->markRow(dort);
             });
         LeereBenutzerEingabe();
     });
@@ -273,15 +278,11 @@ void LeereBenutzerAnzeige() {
 
 bool PruefeBenutzerEingabe() {
     const Benutzer& form = screen<Benutzer>();
-    if (!form.txtBenutzer->Text().isEmpty() && !form.cboBG->Text().isEmpty()) return true;
-    modRun::MeldeEingabeFehler();
-    return false;
+    return modRun::fehlerfrei(modRun::erstesLeere({form.txtBenutzer, form.cboBG}));
 }
 
 bool PruefeGruppenEingabe() {
-    if (!screen<Benutzer>().txtGruppe->Text().isEmpty()) return true;
-    modRun::MeldeEingabeFehler();
-    return false;
+    return modRun::fehlerfrei(modRun::erstesLeere({screen<Benutzer>().txtGruppe}));
 }
 
 void LadeGruppenCombo(ComboBox* combo) {

@@ -54,7 +54,9 @@ void showParameter(const Parameter& which) {
     const QString text = which.box->Text();
     DataTable* grid = screen<System>().tblSystem;
     int row = 0;
-    if (!text.isEmpty() && grid->find(0, row, which.label) >= 0) grid->setCell(row, 1, text);
+    if (text.isEmpty() || grid->find(0, row, which.label) < 0) return;
+    grid->setCell(row, 1, text);
+    grid->markRow(row);
 }
 
 /// What other screens need of the list, as it shows it.
@@ -133,8 +135,11 @@ void LeereParameter() {
 void LadeParameter(int row) {
     System& form = screen<System>();
     const std::array<TextBox*, 3> boxes = {form.txtJB, form.txtFJahr, form.txtArbStd};
-    if (row < static_cast<int>(boxes.size()))
-        boxes[static_cast<std::size_t>(row)]->setText(form.tblSystem->cellText(row, 1));
+    if (row >= static_cast<int>(boxes.size())) return;
+    TextBox* box = boxes[static_cast<std::size_t>(row)];
+    box->setText(form.tblSystem->cellText(row, 1));
+    box->setFocus();
+    box->selectAll();
 }
 
 } // namespace modSystem

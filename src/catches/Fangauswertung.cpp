@@ -48,7 +48,7 @@ void Fangauswertung::Toolbar1_ButtonClick(const QString& key) {
 }
 
 void Fangauswertung::tbSuch_Click() {
-    if (!modFAuswert::AuswahlGueltig()) return modRun::MeldeEingabeFehler();
+    if (!modFAuswert::AuswahlGueltig()) return;
     Session& s = session();
     const bool filtered =
         std::find(s.AuswertFilter.begin(), s.AuswertFilter.end(), true) != s.AuswertFilter.end();

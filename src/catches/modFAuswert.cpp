@@ -38,8 +38,8 @@ QString klausel(const QString& field, const Vergleich& bound) {
     return u" AND fa."_qs + field + u' ' + bound.zeichen->Text() + u' ' + bound.wert->Text();
 }
 
-bool listeGueltig(const QCheckBox* box, const ComboBox* list) {
-    return !box->isChecked() || !list->Text().isEmpty();
+QWidget* falscheListe(const QCheckBox* box, ComboBox* list) {
+    return box->isChecked() ? modRun::erstesLeere({list}) : nullptr;
 }
 
 void zeigeSumme(ErrorTail& step, Recordset& summe, ValueLabel* label, const QString& field) {
@@ -123,12 +123,14 @@ void ErgaenzeSelektion(QString& filter) {
 
 bool AuswahlGueltig() {
     const Fangauswertung& form = screen<Fangauswertung>();
-    return listeGueltig(form.chkFArt, form.cboFArt) && listeGueltig(form.chkArchiv, form.cboFJahr) &&
-           listeGueltig(form.chkFMonat, form.cboFMonat) &&
-           istGueltig(form.chkGewicht, {form.cboOptGew01, form.txtGew01},
-                      {form.cboOptGew02, form.txtGew02}) &&
-           istGueltig(form.chkAnzahl, {form.cboOptAnz01, form.txtAnz01}, {form.cboOptAnz02, form.txtAnz02}) &&
-           listeGueltig(form.chkGName, form.cboGName);
+    for (QWidget* falsch :
+         {falscheListe(form.chkArchiv, form.cboFJahr), falscheListe(form.chkFMonat, form.cboFMonat),
+          falscheListe(form.chkFArt, form.cboFArt), falscheListe(form.chkGName, form.cboGName),
+          erstesFalsche(form.chkAnzahl, {form.cboOptAnz01, form.txtAnz01}, {form.cboOptAnz02, form.txtAnz02}),
+          erstesFalsche(form.chkGewicht, {form.cboOptGew01, form.txtGew01},
+                        {form.cboOptGew02, form.txtGew02})})
+        if (!modRun::fehlerfrei(falsch)) return false;
+    return true;
 }
 
 namespace {

@@ -10,7 +10,7 @@ void LadeAuswahl();
 /// Appends the clauses of the ticked filters. Both halves of a bound always stand in the text, so a bound
 /// with its upper half empty is refused by the store.
 void ErgaenzeSelektion(QString& filter);
-/// True if the ticked filters are filled. A bound passes with its lower half alone.
+/// True if the ticked filters are filled; else a box says so. A bound passes with its lower half alone.
 bool AuswahlGueltig();
 /// Resets the screen.
 void AuswertAnzeigeLoeschen();

@@ -55,7 +55,7 @@ void zeigeNeuen(ErrorTail& step, std::vector<Value> zeile, const Fangbuch& form)
     step([&] { zeile[3] = monat(); });
     if (!step.test([&] { return imGewaehltenMonat(form); })) return;
     step([&] { form.tblFList->appendRow(zeile); });
-    form.tblFList->refresh();
+    form.tblFList->markRow(form.tblFList->rowCount());
 }
 
 } // namespace
@@ -68,7 +68,7 @@ void InitFangbuch() {
 void SpeicherFang() {
     withErrorTail(modul, u"SpeicherFang"_qs, [](ErrorTail& step) {
         const Fangbuch& form = screen<Fangbuch>();
-        const auto nummern = ermittleNummern(form.cboFArt->Text(), form.cboGName->Text());
+        const auto nummern = ermittleNummern(form.cboFArt, form.cboGName);
         if (!nummern) return;
         std::vector<Value> zeile;
         const auto felder = [&](Recordset& fang) { schreibeFelder(step, fang, form, *nummern); };
@@ -84,7 +84,7 @@ void SpeicherFang() {
 void UpdateFang(int row) {
     withErrorTail(modul, u"UpdateFang"_qs, [row](ErrorTail& step) {
         const Fangbuch& form = screen<Fangbuch>();
-        const auto nummern = ermittleNummern(form.cboFArt->Text(), form.cboGName->Text());
+        const auto nummern = ermittleNummern(form.cboFArt, form.cboGName);
         if (!nummern) return;
         const auto felder = [&](Recordset& fang) { schreibeFelder(step, fang, form, *nummern); };
         if (Datensatz::aendere(step, u"Fang"_qs, form.lblFNr->Caption(), felder)) {
@@ -94,7 +94,7 @@ void UpdateFang(int row) {
             step([&] { form.tblFList->removeRow(row); });
             if (step.test([&] { return imGewaehltenMonat(form); })) {
                 step([&] { form.tblFList->insertRow(row, zeile); });
-                form.tblFList->refresh();
+                form.tblFList->markRow(row);
             }
         }
         FangAnzeigeLoeschen();
@@ -172,14 +172,8 @@ void FangAnzeigeLoeschen() {
 
 bool FangEingabeVollstaendig() {
     const Fangbuch& form = screen<Fangbuch>();
-    const QString fields[] = {form.cboFArt->Text(), form.cboGName->Text(), form.txtAnzahl->Text(),
-                              form.txtGewicht->Text(), form.txtMonNr->Text()};
-    for (const QString& field : fields) {
-        if (!field.isEmpty()) continue;
-        modRun::MeldeEingabeFehler();
-        return false;
-    }
-    return true;
+    return modRun::fehlerfrei(
+        modRun::erstesLeere({form.cboFArt, form.cboGName, form.txtAnzahl, form.txtGewicht, form.txtMonNr}));
 }
 
 bool FangbuchZugriff_Erlaubt() {

@@ -4,6 +4,7 @@
 #include "MsgBox.h"
 #include "Screens.h"
 #include "Session.h"
+#include "TextBox.h"
 #include "modKontakt.h"
 #include "modRun.h"
 
@@ -40,7 +41,8 @@ void Kontakt::Speichern() {
     } else if (modKontakt::EingabeKontaktOK()) {
         modKontakt::SpeicherKontakt();
     } else {
-        modRun::MeldeEingabeFehler();
+        TabKont->setCurrentIndex(0);
+        modRun::MeldeEingabeFehler(modRun::erstesLeere({cboKatego, txtNName, txtVName}));
     }
 }
 

@@ -104,7 +104,7 @@ bool SuchKont::Form_KeyDown(int key, Qt::KeyboardModifiers) {
 }
 
 void SuchKont::cmdSuch_Click() {
-    if (txtSuch->Text().isEmpty() || cboKatego->Text().isEmpty()) return modRun::MeldeEingabeFehler();
+    if (!modRun::fehlerfrei(modRun::erstesLeere({txtSuch, cboKatego}))) return;
     // The club may have a category of its own by this name.
     const bool alle = weg() && weg()->ersterIstAlle && cboKatego->ListIndex() == 0;
     const qint32 kategonr = alle ? 0 : ErmittleKategoNr(cboKatego->Text());

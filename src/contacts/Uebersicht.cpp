@@ -107,6 +107,16 @@ void aktualisiereKontakt(int row, qint32 knr, std::span<const Value> zeile) {
     schreibeZellen(kontakt, zeile);
 }
 
+void markiere(qint32 kategonr, qint32 knr) {
+    const int row = findeKategorie(kategonr);
+    if (row < 0) return;
+    int kontakt = -1;
+    if (!istOffen(row) || ImKind(row)->find(0, kontakt, QString::number(knr)) < 0)
+        kategorien().markRow(row);
+    else
+        ImKind(row)->markRow(kontakt);
+}
+
 void entferneKontakt(int row, qint32 knr) {
     ImKind kind(row);
     int kontakt = 0;

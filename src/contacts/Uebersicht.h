@@ -58,6 +58,8 @@ void schreibeZellen(int kontakt, std::span<const Value> zeile);
 void fuegeKontaktAn(int row, std::span<const Value> zeile);
 /// Writes what stands of a contact in its row, if it has one; number and picture stay.
 void aktualisiereKontakt(int row, qint32 knr, std::span<const Value> zeile);
+/// Marks the row of a contact that has just been saved, or its category's where that is closed.
+void markiere(qint32 kategonr, qint32 knr);
 /// Removes a contact from a category's child table, if it stands there.
 void entferneKontakt(int row, qint32 knr);
 

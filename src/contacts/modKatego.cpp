@@ -75,6 +75,7 @@ void SpeicherKatego() {
         if (Datensatz::speichere(step, u"Katego"_qs, felder(step, form),
                                  Datensatz::lies(step, neue, {u"kategonr"_qs, u"kategorie"_qs}))) {
             step([&] { form.tblKatego->appendRow(neue); });
+            form.tblKatego->markRow(form.tblKatego->rowCount());
             zeigeAnzahl(form);
             step([&] { Uebersicht::nehmeKategorieAuf(neue[0], neue[1]); });
         }
@@ -89,6 +90,7 @@ void UpdateKatego(int row) {
         if (Datensatz::aendere(step, u"Katego"_qs, nummer, felder(step, form))) {
             const QString name = form.txtKatego->Text();
             step([&] { form.tblKatego->setCell(row, 1, name); });
+            form.tblKatego->markRow(row);
             step([&] { Uebersicht::benenneKategorieUm(CLng(nummer), name); });
         }
         KategoAnzeigeLoeschen();
@@ -115,10 +117,6 @@ void KategoAnzeigeLoeschen() {
     form.txtKatego->setFocus();
 }
 
-bool KategoEingabeOK() {
-    if (!screen<Katego>().txtKatego->Text().isEmpty()) return true;
-    modRun::MeldeEingabeFehler();
-    return false;
-}
+bool KategoEingabeOK() { return modRun::fehlerfrei(modRun::erstesLeere({screen<Katego>().txtKatego})); }
 
 } // namespace modKatego

@@ -103,8 +103,7 @@ void SetzeMitglFelder() {
 
 bool EingabeKontaktOK() {
     const Kontakt& form = screen<Kontakt>();
-    return !form.cboKatego->Text().isEmpty() && !form.txtNName->Text().isEmpty() &&
-           !form.txtVName->Text().isEmpty();
+    return !modRun::erstesLeere({form.cboKatego, form.txtNName, form.txtVName});
 }
 
 void KontaktAnzeigeLoeschen() {

@@ -86,7 +86,7 @@ Datensatz::Danach liesZeile(ErrorTail& step, std::vector<Value>& zeile) {
 void SpeicherKontakt() {
     withErrorTail(modul, u"SpeicherKontakt"_qs, [](ErrorTail& step) {
         const Kontakt& form = screen<Kontakt>();
-        const auto kategonr = ermittleNummer(&ErmittleKategoNr, form.cboKatego->Text());
+        const auto kategonr = ermittleNummer(&ErmittleKategoNr, form.cboKatego);
         if (!kategonr) return;
         std::vector<Value> zeile;
         const auto danach = [&](Recordset& kontakt) {
@@ -100,6 +100,7 @@ void SpeicherKontakt() {
             // The place of the picture.
             zeile.insert(zeile.begin() + 1, u" "_qs);
             zeigeNeuen(step, zeile, *kategonr, form);
+            step([&] { Uebersicht::markiere(*kategonr, CLng(zeile[0])); });
         }
         KontaktAnzeigeLoeschen();
     });
@@ -204,12 +205,14 @@ bool aendere(ErrorTail& step, qint32 knr, Umzug& umzug, const Kontakt& form,
 void UpdateKontakt(int row) {
     withErrorTail(modul, u"UpdateKontakt"_qs, [row](ErrorTail& step) {
         const Kontakt& form = screen<Kontakt>();
-        const auto neueNr = ermittleNummer(&ErmittleKategoNr, form.cboKatego->Text());
+        const auto neueNr = ermittleNummer(&ErmittleKategoNr, form.cboKatego);
         if (!neueNr) return;
         Umzug umzug{*neueNr};
         const qint32 knr = nummerDerMaske(step, form);
-        if (aendere(step, knr, umzug, form, [&] { return zieheMitgliedNach(step, knr, umzug, form); }))
+        if (aendere(step, knr, umzug, form, [&] { return zieheMitgliedNach(step, knr, umzug, form); })) {
             zeigeGeaenderten(step, knr, umzug, row, form);
+            Uebersicht::markiere(umzug.neueNr, knr);
+        }
         unload<Kontakt>();
     });
 }
@@ -234,7 +237,7 @@ void ziehtUm(qint32 knr, const Umzug& umzug, const Kontakt& form) {
 void UpdateSQLKontakt() {
     withErrorTail(modul, u"UpdateSQLKontakt"_qs, [](ErrorTail& step) {
         const Kontakt& form = screen<Kontakt>();
-        const auto neueNr = ermittleNummer(&ErmittleKategoNr, form.cboKatego->Text());
+        const auto neueNr = ermittleNummer(&ErmittleKategoNr, form.cboKatego);
         if (!neueNr) return;
         Umzug umzug{*neueNr};
         const qint32 knr = nummerDerMaske(step, form);
@@ -243,6 +246,7 @@ void UpdateSQLKontakt() {
                 step([&] { ziehtUm(knr, umzug, form); });
             else
                 step([&] { bleibt(knr, umzug.neueNr, form); });
+            Uebersicht::markiere(umzug.neueNr, knr);
         }
         unload<Kontakt>();
     });

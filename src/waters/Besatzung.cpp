@@ -117,4 +117,5 @@ void Besatzung::tblBList_OnGridCellOpen(int row) {
     modBesatzList::BesatzAnzeigeLoeschen();
     modBesatzList::loadEintrag(tblBList, row);
     modRun::beginneBearbeitung(lblBNr, row);
+    cboFArt->setFocus();
 }

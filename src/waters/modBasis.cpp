@@ -99,8 +99,10 @@ void speichere(const QString& routine, const Art& art) {
     withErrorTail(u"modBasis"_qs, routine, [&](ErrorTail& step) {
         std::vector<Value> zeile;
         if (Datensatz::speichere(step, art.tabelle, felder(step, art),
-                                 Datensatz::lies(step, zeile, {art.feldNr, art.feldName})))
+                                 Datensatz::lies(step, zeile, {art.feldNr, art.feldName}))) {
             step([&] { art.grid->appendRow(zeile); });
+            art.grid->markRow(art.grid->rowCount());
+        }
         BasisAnzeigeLoeschen();
         zeigeAnzahl(art);
     });
@@ -113,7 +115,9 @@ void aendere(const QString& routine, const Art& art, int row) {
         const QString name = art.txtName->Text();
         if (Datensatz::aendere(step, art.tabelle, art.lblNr->Caption(), felder(step, art), {},
                                &meldeNichtGefunden)) {
-            step([&] { art.grid->setCell(modRun::zeileVon(art.grid, art.lblNr, row), 1, name); });
+            const int zeile = modRun::zeileVon(art.grid, art.lblNr, row);
+            step([&] { art.grid->setCell(zeile, 1, name); });
+            art.grid->markRow(zeile);
             step([&] { melde(art, {name, u"UPDATE"_qs, alterName}); });
         }
         BasisAnzeigeLoeschen();
@@ -154,11 +158,7 @@ void ladeAuswahl(const QString& routine, const Art& art, int row) {
     });
 }
 
-bool vollstaendig(const Art& art) {
-    if (!art.txtName->Text().isEmpty()) return true;
-    modRun::MeldeEingabeFehler();
-    return false;
-}
+bool vollstaendig(const Art& art) { return modRun::fehlerfrei(modRun::erstesLeere({art.txtName})); }
 
 /// The routines behind the toolbar for one page.
 struct Routinen {

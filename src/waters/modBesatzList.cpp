@@ -95,7 +95,7 @@ void loadTblBList() {
 void SpeicherEintrag() {
     withErrorTail(modul, u"SpeicherEintrag"_qs, [](ErrorTail& step) {
         const Besatzung& form = screen<Besatzung>();
-        const auto nummern = ermittleNummern(form.cboFArt->Text(), form.cboGName->Text());
+        const auto nummern = ermittleNummern(form.cboFArt, form.cboGName);
         if (!nummern) return;
         std::vector<Value> zeile;
         const auto felder = [&](Recordset& plan) { schreibeFelder(step, plan, form, *nummern); };
@@ -103,17 +103,18 @@ void SpeicherEintrag() {
                                  Datensatz::lies(step, zeile, felderDerZeile()))) {
             fuelleZeile(step, zeile);
             step([&] { form.tblBList->appendRow(zeile); });
-            form.tblBList->refresh();
+            form.tblBList->markRow(form.tblBList->rowCount());
         }
         BesatzAnzeigeLoeschen();
         zeigeAnzahl(form);
+        form.cboFArt->setFocus();
     });
 }
 
 void UpdateEintrag(int row) {
     withErrorTail(modul, u"UpdateEintrag"_qs, [row](ErrorTail& step) {
         const Besatzung& form = screen<Besatzung>();
-        const auto nummern = ermittleNummern(form.cboFArt->Text(), form.cboGName->Text());
+        const auto nummern = ermittleNummern(form.cboFArt, form.cboGName);
         if (!nummern) return;
         const auto felder = [&](Recordset& plan) { schreibeFelder(step, plan, form, *nummern); };
         if (Datensatz::aendere(step, u"Besatzung"_qs, form.lblBNr->Caption(), felder)) {
@@ -122,10 +123,11 @@ void UpdateEintrag(int row) {
                                                 alsGewicht(form.txtMenge->Text())};
             entferneOffenen(step, form, row);
             step([&] { form.tblBList->insertRow(row, zeile); });
-            form.tblBList->refresh();
+            form.tblBList->markRow(row);
             zeigeAnzahl(form);
         }
         BesatzAnzeigeLoeschen();
+        form.cboFArt->setFocus();
     });
 }
 
@@ -184,14 +186,8 @@ void BesatzAnzeigeLoeschen() {
 
 bool BesatzEingabeVollstaendig() {
     const Besatzung& form = screen<Besatzung>();
-    const QString fields[] = {form.cboFArt->Text(), form.cboGName->Text(), form.cboBJahr->Text(),
-                              form.txtMenge->Text()};
-    for (const QString& field : fields) {
-        if (!field.isEmpty()) continue;
-        modRun::MeldeEingabeFehler();
-        return false;
-    }
-    return true;
+    return modRun::fehlerfrei(
+        modRun::erstesLeere({form.cboBJahr, form.cboFArt, form.cboGName, form.txtMenge}));
 }
 
 } // namespace modBesatzList

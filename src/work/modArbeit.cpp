@@ -46,6 +46,7 @@ Datensatz::Danach lies(ErrorTail& step, std::vector<Value>& zeile) {
 void haengeAn(ErrorTail& step, std::vector<Value> zeile, const Arbeit& form) {
     step([&] { zeile[2] = Format(zeile[2], stundenMuster()); });
     step([&] { form.tblArbStd->appendRow(zeile); });
+    form.tblArbStd->markRow(form.tblArbStd->rowCount());
 }
 
 /// Another year or another member may have come to the screen since the row was opened: then another booking
@@ -60,6 +61,7 @@ void zeigeGeaenderten(ErrorTail& step, const std::vector<Value>& zeile, const Ar
     if (zeigtOffenen(form, row)) {
         step([&] { form.tblArbStd->setCell(row, 2, form.txtArbStd->Text()); });
         step([&] { form.tblArbStd->setCell(row, 3, form.pvDate->date()); });
+        form.tblArbStd->markRow(row);
     } else if (step.test(mitglied)) {
         haengeAn(step, zeile, form);
     }
@@ -167,10 +169,9 @@ void LeereArbAnzeige() {
 bool PruefeArbEingabe() {
     const Arbeit& form = screen<Arbeit>();
     // A date that nobody can read would be booked as another one.
-    if (!form.txtArbStd->Text().isEmpty() && !form.lblKNr->Caption().isEmpty() && form.pvDate->isReadable())
-        return true;
-    modRun::MeldeEingabeFehler();
-    return false;
+    return modRun::fehlerfrei(modRun::erstesLeere({{form.cmdSuch, form.lblKNr->Caption().isEmpty()},
+                                                   {form.pvDate, !form.pvDate->isReadable()},
+                                                   form.txtArbStd}));
 }
 
 } // namespace modArbeit

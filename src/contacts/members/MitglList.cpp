@@ -43,7 +43,7 @@ void MitglList::Toolbar1_ButtonClick(const QString& key) {
 }
 
 void MitglList::tbSuch_Click() {
-    if (!modMitglList::PruefeMListEingabe()) return modRun::MeldeEingabeFehler();
+    if (!modMitglList::PruefeMListEingabe()) return;
     Session& s = session();
     // The list of hours is no filter: it alone asks as well.
     if (std::find(s.MListFilter.begin(), s.MListFilter.end(), true) == s.MListFilter.end()) {

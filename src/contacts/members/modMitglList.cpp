@@ -141,7 +141,7 @@ QString vergleich(const QString& field, const Vergleich& bound) {
     return u" AND "_qs + field + u' ' + bound.zeichen->Text() + u' ' + day;
 }
 
-bool istDatumOderLeer(const TextBox* box) { return box->Text().isEmpty() || IsDate(box->Text()); }
+QWidget* falschesDatum(TextBox* box) { return box->Text().isEmpty() || IsDate(box->Text()) ? nullptr : box; }
 
 } // namespace
 
@@ -171,11 +171,14 @@ QString ErstelleFilter(const QString& sql) {
 
 bool PruefeMListEingabe() {
     const MitglList& form = screen<MitglList>();
-    return istDatumOderLeer(form.txtGeb01) && istDatumOderLeer(form.txtGeb02) &&
-           istDatumOderLeer(form.txtTritt01) && istDatumOderLeer(form.txtTritt02) &&
-           istGueltig(form.chkGebDat, {form.cboOptGeb01, form.txtGeb01}, {form.cboOptGeb02, form.txtGeb02}) &&
-           istGueltig(form.chkEintritt, {form.cboOptTritt01, form.txtTritt01},
-                      {form.cboOptTritt02, form.txtTritt02});
+    for (QWidget* falsch :
+         {falschesDatum(form.txtGeb01), falschesDatum(form.txtGeb02), falschesDatum(form.txtTritt01),
+          falschesDatum(form.txtTritt02),
+          erstesFalsche(form.chkGebDat, {form.cboOptGeb01, form.txtGeb01}, {form.cboOptGeb02, form.txtGeb02}),
+          erstesFalsche(form.chkEintritt, {form.cboOptTritt01, form.txtTritt01},
+                        {form.cboOptTritt02, form.txtTritt02})})
+        if (!modRun::fehlerfrei(falsch)) return false;
+    return true;
 }
 
 void LeereMListAnzeige() {

@@ -10,8 +10,8 @@ void LadeAuswahl();
 /// The query with the clauses of the ticked filters behind it. Both halves of a date filter always stand in
 /// the text, so one with its second half empty is refused by the store.
 QString ErstelleFilter(const QString& sql);
-/// True if the ticked date filters are filled and every date is one. A filter passes with its first half
-/// alone.
+/// True if the ticked date filters are filled and every date is one; else a box says so. A filter passes with
+/// its first half alone.
 bool PruefeMListEingabe();
 /// Resets the screen.
 void LeereMListAnzeige();

@@ -1,5 +1,6 @@
 #include "Namen.h"
 
+#include "ComboBox.h"
 #include "Conversions.h"
 #include "Datenbank.h"
 #include "ErrorTail.h"
@@ -77,14 +78,14 @@ QString ErmittleKategoName(qint32 number) {
     });
 }
 
-std::optional<qint32> ermittleNummer(qint32 (*ermittle)(const QString&), const QString& name) {
-    const qint32 number = ermittle(name);
+std::optional<qint32> ermittleNummer(qint32 (*ermittle)(const QString&), ComboBox* name) {
+    const qint32 number = ermittle(name->Text());
     if (number != 0 || session().FehlerZaehler != 0) return number;
-    modRun::MeldeEingabeFehler();
+    modRun::MeldeEingabeFehler(name);
     return std::nullopt;
 }
 
-std::optional<ArtUndGewaesser> ermittleNummern(const QString& fisch, const QString& gewaesser) {
+std::optional<ArtUndGewaesser> ermittleNummern(ComboBox* fisch, ComboBox* gewaesser) {
     const auto art = ermittleNummer(&ErmittleFischNr, fisch);
     if (!art) return std::nullopt;
     const auto dort = ermittleNummer(&ErmittleGewaesserNr, gewaesser);

@@ -3,6 +3,8 @@
 #include <QString>
 #include <optional>
 
+class ComboBox;
+
 // From a name of the base data to its number and back, asked of the file. A name stands for the first record
 // that has it. Where there is none, a number is 0 and a name is empty.
 
@@ -16,7 +18,7 @@ QString ErmittleKategoName(qint32 number);
 /// The number behind a name in a combo box, by one of the lookups above. Nothing, after a box, if the file
 /// does not know the name: 0 is nobody's number. A lookup that failed has shown its own boxes; its 0 is
 /// passed on.
-std::optional<qint32> ermittleNummer(qint32 (*ermittle)(const QString&), const QString& name);
+std::optional<qint32> ermittleNummer(qint32 (*ermittle)(const QString&), ComboBox* name);
 
 /// The numbers behind the two names that catches and stockings are stored by.
 struct ArtUndGewaesser {
@@ -24,4 +26,4 @@ struct ArtUndGewaesser {
     qint32 gewaesser;
 };
 /// Nothing, after a box, if the file does not know one of the names.
-std::optional<ArtUndGewaesser> ermittleNummern(const QString& fisch, const QString& gewaesser);
+std::optional<ArtUndGewaesser> ermittleNummern(ComboBox* fisch, ComboBox* gewaesser);

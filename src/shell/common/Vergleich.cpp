@@ -2,6 +2,7 @@
 
 #include "ComboBox.h"
 #include "TextBox.h"
+#include "modRun.h"
 
 #include <QCheckBox>
 
@@ -17,8 +18,6 @@ Vergleich Vergleich::neu(const QString& list, const QString& box, const QString&
     return made;
 }
 
-bool Vergleich::isFilled() const { return !zeichen->Text().isEmpty() && !wert->Text().isEmpty(); }
-
 bool Vergleich::isEmpty() const { return zeichen->Text().isEmpty() && wert->Text().isEmpty(); }
 
 void Vergleich::leere() const {
@@ -31,6 +30,8 @@ void Vergleich::setEnabled(bool on) const {
     wert->setEnabled(on);
 }
 
-bool istGueltig(const QCheckBox* filter, const Vergleich& first, const Vergleich& second) {
-    return !filter->isChecked() || (first.isFilled() && (second.isFilled() || second.isEmpty()));
+QWidget* erstesFalsche(const QCheckBox* filter, const Vergleich& first, const Vergleich& second) {
+    if (!filter->isChecked()) return nullptr;
+    if (second.isEmpty()) return modRun::erstesLeere({first.zeichen, first.wert});
+    return modRun::erstesLeere({first.zeichen, first.wert, second.zeichen, second.wert});
 }

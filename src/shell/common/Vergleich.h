@@ -15,12 +15,12 @@ struct Vergleich {
     /// Disabled, with the six comparisons to choose from and none chosen; `spoken` is for screen readers.
     static Vergleich neu(const QString& list, const QString& box, const QString& spoken, QWidget* parent);
 
-    bool isFilled() const;
     bool isEmpty() const;
     /// Chooses nothing and empties the box.
     void leere() const;
     void setEnabled(bool on) const;
 };
 
-/// True if the filter is not ticked or filled: both halves, or the first one alone.
-bool istGueltig(const QCheckBox* filter, const Vergleich& first, const Vergleich& second);
+/// Null if the filter is not ticked or filled: both halves, or the first one alone. Otherwise the first
+/// control that lacks something.
+QWidget* erstesFalsche(const QCheckBox* filter, const Vergleich& first, const Vergleich& second);

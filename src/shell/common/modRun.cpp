@@ -101,8 +101,21 @@ void MeldeNichtsGefunden() {
     MsgBox(u"Keine passenden Datensätze gefunden, bitte versuchen Sie es erneut!"_qs, vbInformation);
 }
 
-void MeldeEingabeFehler() {
+void MeldeEingabeFehler(QWidget* schuld) {
     MsgBox(u"ACHTUNG: Eingabefelder nicht korrekt, Vorgang abgebrochen !"_qs, vbInformation);
+    schuld->setFocus();
+    // A box that sends the focus on when it loses it has done so now.
+    schuld->setFocus();
+}
+
+QWidget* erstesLeere(std::initializer_list<Eingabe> eingaben) {
+    const auto leere = std::ranges::find_if(eingaben, &Eingabe::leer);
+    return leere == eingaben.end() ? nullptr : leere->feld;
+}
+
+bool fehlerfrei(QWidget* schuld) {
+    if (schuld) MeldeEingabeFehler(schuld);
+    return !schuld;
 }
 
 void MeldeAbgebrochen() { MsgBox(u"Vorgang von User abgebrochen !"_qs, vbInformation); }

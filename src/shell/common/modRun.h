@@ -11,6 +11,7 @@ class DataTable;
 class ErrorTail;
 class QAbstractButton;
 class QCheckBox;
+class QWidget;
 class Screen;
 class TextBox;
 class ValueLabel;
@@ -53,7 +54,27 @@ void leseZellen(ErrorTail& step, const std::vector<Recordset::Field>& felder, st
 
 void MeldeNichtVorhanden();
 void MeldeNichtsGefunden();
-void MeldeEingabeFehler();
+/// Afterwards the focus is in the control at fault.
+void MeldeEingabeFehler(QWidget* schuld);
+
+/// A control of a form and what it holds.
+struct Eingabe {
+    template<typename Control>
+    Eingabe(Control* control)
+        : feld(control)
+        , leer(control->Text().isEmpty()) {}
+    Eingabe(QWidget* control, bool empty)
+        : feld(control)
+        , leer(empty) {}
+
+    QWidget* feld;
+    bool leer;
+};
+/// The first control that must be filled and is not; null if all are.
+QWidget* erstesLeere(std::initializer_list<Eingabe> eingaben);
+/// True without a control at fault; otherwise MeldeEingabeFehler has told it.
+bool fehlerfrei(QWidget* schuld);
+
 void MeldeAbgebrochen();
 void MeldeKeinZugriff();
 

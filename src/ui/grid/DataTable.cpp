@@ -140,6 +140,17 @@ int DataTable::find(int column, int& startRow, const QString& text) const {
     return row;
 }
 
+void DataTable::markRow(int row) {
+    publish();
+    QModelIndex index = m_model->indexOf(m_current.parentRow, std::min(row, rowCount() - 1), 0);
+    if (index.parent().isValid() && !isExpanded(index.parent())) index = index.parent();
+    if (!index.isValid()) return;
+    m_marked = index;
+    selectionModel()->setCurrentIndex(index, QItemSelectionModel::Clear);
+    scrollTo(index);
+    viewport()->update();
+}
+
 void DataTable::refresh() {
     publish();
     viewport()->update();
@@ -304,6 +315,7 @@ void DataTable::shareOut(int room) {
 }
 
 void DataTable::showEvent(QShowEvent* event) {
+    m_marked = QModelIndex();
     publish();
     QTreeView::showEvent(event);
 }
@@ -338,6 +350,8 @@ void DataTable::drawRow(QPainter* painter, const QStyleOptionViewItem& option,
     state.rect = option.rect;
     state.selected = selectionModel()->isSelected(index);
     state.current = currentIndex().siblingAtColumn(index.column()) == index;
+    const QModelIndex marked = m_marked;
+    state.marked = marked.isValid() && marked.siblingAtColumn(index.column()) == index;
     state.expanded = isExpanded(index);
     state.focused = hasFocus();
     DataTableRowPainter(*painter, *m_model, *header()).paint(index, state, m_selectionStyle, palette());

@@ -77,6 +77,11 @@ public:
     /// the row found. -1 if there is none.
     int find(int column, int& startRow, const QString& text) const;
 
+    /// Scrolls the row into view, makes it the current one, so that Enter opens it, and tints it until the
+    /// grid gets the focus or is left. Takes no focus. A row beyond the end is the last one; of a row in a
+    /// collapsed category the category is marked.
+    void markRow(int row);
+
     SelectionStyle& selectionStyle() { return m_selectionStyle; }
     void refresh();
 
@@ -173,6 +178,7 @@ private:
 
     std::unique_ptr<DataTableModel> m_model;
     SelectionStyle m_selectionStyle;
+    QPersistentModelIndex m_marked;
     TableHandle m_current;
     bool m_publishScheduled = false;
     bool m_opennessTold = false; ///< a handler of the press has said whether the category is open

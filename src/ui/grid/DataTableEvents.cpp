@@ -117,11 +117,14 @@ void DataTable::keyPressEvent(QKeyEvent* event) {
 
 void DataTable::focusInEvent(QFocusEvent* event) {
     QTreeView::focusInEvent(event);
-    if (movesFocus(event->reason())) Q_EMIT OnGridGotFocus();
+    if (!movesFocus(event->reason())) return;
+    m_marked = QModelIndex();
+    Q_EMIT OnGridGotFocus();
 }
 
 void DataTable::focusOutEvent(QFocusEvent* event) {
     QTreeView::focusOutEvent(event);
+    update(); // Qt forgets the frame around the rows, which shows the focus too
     if (movesFocus(event->reason())) Q_EMIT OnGridLostFocus();
 }
 

@@ -51,6 +51,8 @@ DataTableLook::DataTableLook(const QPalette& palette) {
     focus = Theme::accent();
 }
 
+QColor DataTableLook::marked(const QColor& back) const { return Theme::mixed(back, focus, 0.3); }
+
 namespace DataTableShapes {
 
 void text(QPainter& painter, const QRect& cell, Qt::Alignment alignment, const QString& text) {

@@ -15,6 +15,9 @@ struct DataTableLook {
 
     explicit DataTableLook(const QPalette& palette);
 
+    /// The ground of a row that has just been saved.
+    QColor marked(const QColor& back) const;
+
     QColor even;
     QColor odd;
     QColor text;

@@ -44,7 +44,10 @@ DataTableRowPainter::Colours DataTableRowPainter::colours(const QModelIndex& row
                                                           const SelectionStyle& style,
                                                           const QPalette& palette) const {
     Colours face = plainColours(row);
-    if (!state.selected) return face;
+    if (!state.selected) {
+        if (state.marked) face.back = m_look.marked(face.back);
+        return face;
+    }
     const auto group = state.focused ? QPalette::Active : QPalette::Inactive;
     if (style.back.isValid()) {
         face.back = style.back;

@@ -14,6 +14,7 @@ struct SelectionStyle;
 struct DataTableRowState {
     QRect rect;
     bool selected = false;
+    bool marked = false;
     bool current = false;
     bool expanded = false;
     bool focused = false; ///< the grid has the focus
