@@ -17,6 +17,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QFile>
+#include <QFileInfo>
 #include <QProcess>
 #include <QStandardPaths>
 #include <string>
@@ -201,11 +202,17 @@ void benchPdf(const QString& folder) {
                                u"--outdir"_qs,
                                folder,
                                folder + u"/SeqData/FANG.csv"_qs};
+    const QString written = folder + u"/FANG.pdf"_qs;
     const double theirs = secondsOf([&] {
         QProcess process;
         process.start(office, words);
         process.waitForFinished(-1);
     });
+    // One that hands over to another that runs already ends at once, with success and without a file.
+    if (QFileInfo(written).size() == 0) {
+        std::fprintf(stderr, "LibreOffice has not written %s\n", qUtf8Printable(written));
+        std::exit(1);
+    }
     printRow("PDF of them", {own, theirs}, "LibreOffice, the same rows as CSV", 0.2);
 }
 
