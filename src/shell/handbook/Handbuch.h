@@ -2,13 +2,17 @@
 
 #include "Screen.h"
 
+#include <QTextDocument>
+
 class HandbuchSeite;
+class QLabel;
 class QUrl;
 class QWindow;
+class TextBox;
 class Toolbar;
 
 /// The handbook, a window of its own beside the frame. It can be read at any time: also above a modal screen
-/// or a question, which would lock every other window.
+/// or a question, which would lock every other window. Ctrl+F opens a line that searches all pages.
 class Handbuch : public Screen {
     Q_OBJECT
 
@@ -24,14 +28,23 @@ public:
 
     Toolbar* Toolbar1;
     HandbuchSeite* Seite;
+    QWidget* Suchzeile;
+    TextBox* txtSuch;
+    QLabel* lblFund;
 
 protected:
     bool event(QEvent* event) override;
 
 private:
     void buildToolbar();
+    void buildSuchzeile();
     void Toolbar1_ButtonClick(const QString& key);
     void blaettere(const QUrl& page);
+    void oeffneSuche();
+    void schliesseSuche();
+    void suche(QTextDocument::FindFlags richtung);
+    /// The next page in that direction that has the text, the page on show as the last. Empty if none has it.
+    QUrl seiteMit(const QString& text, QTextDocument::FindFlags richtung) const;
     void zeigeTitel();
     void stelleUeber(QWindow* modal);
     void folgeModal();

@@ -25,7 +25,7 @@ HandbuchSeite::HandbuchSeite(QWidget* parent)
     : QTextBrowser(parent) {
     setOpenLinks(false);
     setFrameShape(QFrame::NoFrame);
-    // Pictures fill the width: a bar that comes and goes with their height would go on doing so for ever.
+    // Pictures follow the width: a bar that comes and goes with their height would go on doing so for ever.
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     QFont reading = font();
     reading.setPointSizeF(reading.pointSizeF() * 1.15);
@@ -46,7 +46,7 @@ QVariant HandbuchSeite::loadResource(int type, const QUrl& name) {
 
 QImage HandbuchSeite::fitting(const QImage& picture) {
     m_setWidth = viewport()->width();
-    const int room = m_setWidth - 2 * paperMargin;
+    const int room = (m_setWidth - 2 * paperMargin) * 2 / 3;
     if (picture.width() <= room) return picture;
     QImage smaller = picture.scaledToWidth(qRound(room * devicePixelRatio()), Qt::SmoothTransformation);
     smaller.setDevicePixelRatio(devicePixelRatio());

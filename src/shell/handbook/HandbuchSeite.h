@@ -2,8 +2,8 @@
 
 #include <QTextBrowser>
 
-/// A page of the handbook. Links lead to pages on the disk and nowhere else; pictures that are too wide for
-/// the window are drawn as wide as it is.
+/// A page of the handbook. Links lead to pages on the disk and nowhere else; pictures take at most two
+/// thirds of the window's width, so that the text comes first.
 class HandbuchSeite : public QTextBrowser {
     Q_OBJECT
 
