@@ -31,14 +31,6 @@ void Benutzer::Form_Deactivate() {
     modBenutzer::LeereBenutzerAnzeige();
 }
 
-void Benutzer::Toolbar1_ButtonClick(const QString& key) {
-    if (tabBV->currentIndex() == userPage)
-        modBenutzer::bedieneBenutzer(key);
-    else
-        modBenutzer::bedieneGruppe(key);
-    modRun::beendeVorgang();
-}
-
 void Benutzer::tabBV_Click(int page) {
     // Groups may have come, gone or been renamed on the page that is left.
     if (m_page == groupPage) modBenutzer::LadeGruppenCombo(cboBG);

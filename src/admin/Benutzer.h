@@ -86,7 +86,6 @@ private:
     void buildGroupGrid();
     void connectEvents();
 
-    void Toolbar1_ButtonClick(const QString& key);
     void tabBV_Click(int page);
     void tblBenutzer_OnGridCellOpen(int row);
     void tblZugriff_OnGridCellOpen(int row);

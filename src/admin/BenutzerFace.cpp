@@ -6,6 +6,7 @@
 #include "TextBox.h"
 #include "Toolbar.h"
 #include "ValueLabel.h"
+#include "modBenutzer.h"
 #include "modRun.h"
 
 #include <QCheckBox>
@@ -68,8 +69,15 @@ Benutzer::Benutzer()
 }
 
 void Benutzer::buildToolbar() {
-    Toolbar1 = new Toolbar(this);
-    Face::addRecordKeys(Toolbar1);
+    // The page in front decides at the moment of the press.
+    const auto erfassung = [this] {
+        return tabBV->currentIndex() == userPage ? modBenutzer::benutzerErfassung()
+                                                 : modBenutzer::gruppenErfassung();
+    };
+    Toolbar1 = new Toolbar(this, &modRun::beendeVorgang);
+    Face::addRecordKeys(
+        Toolbar1, [=] { erfassung().sichern(); }, [=] { erfassung().entfernen(); },
+        &modBenutzer::LeereBenutzerEingabe);
 }
 
 QWidget* Benutzer::buildUserPage() {
@@ -196,7 +204,6 @@ void Benutzer::buildGroupGrid() {
 }
 
 void Benutzer::connectEvents() {
-    on(Toolbar1, &Toolbar::ButtonClick, [this](const QString& key) { Toolbar1_ButtonClick(key); });
     on(tabBV, &QTabWidget::currentChanged, [this](int page) { tabBV_Click(page); });
     on(tblBenutzer, &DataTable::OnGridCellOpen, [this](int row, int) { tblBenutzer_OnGridCellOpen(row); });
     on(tblZugriff, &DataTable::OnGridCellOpen, [this](int row, int) { tblZugriff_OnGridCellOpen(row); });

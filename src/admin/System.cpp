@@ -13,13 +13,20 @@
 #include <QGroupBox>
 #include <QLabel>
 
+namespace {
+
+// Without a row opened, it is the address that the user has been working on.
+void sichere() { session().Modus == u"EDIT"_qs ? modSystem::UpdateParameter() : modSystem::UpdateAdresse(); }
+
+} // namespace
+
 System::System()
     : Screen(u"System"_qs, u"Systemparameter"_qs) {
     Ueberschrift = new Heading(u"SYSTEMPARAMETER"_qs, this);
-    Toolbar1 = new Toolbar(this);
-    Toolbar1->addKey(u"tbSpeichern"_qs, u"&Speichern"_qs, u"Speichern"_qs, u"speichern"_qs);
-    Toolbar1->addSeparator();
-    Toolbar1->addKey(u"tbAnzLoeschen"_qs, u"&Anz. löschen"_qs, u"Anzeige löschen"_qs, u"anzeige-loeschen"_qs);
+    Toolbar1 = new Toolbar(this, &modRun::beendeVorgang);
+    Toolbar1->addKeys({{u"tbSpeichern"_qs, u"&Speichern"_qs, u"Speichern"_qs, u"speichern"_qs, &sichere},
+                       {u"tbAnzLoeschen"_qs, u"&Anz. löschen"_qs, u"Anzeige löschen"_qs,
+                        u"anzeige-loeschen"_qs, &modSystem::LeereParameter}});
     buildAddress();
     buildGrid();
     buildParameters();
@@ -32,7 +39,6 @@ System::System()
     rest->addLayout(halves);
     rest->addWidget(Frame2, 1);
 
-    on(Toolbar1, &Toolbar::ButtonClick, [this](const QString& key) { Toolbar1_ButtonClick(key); });
     on(tblSystem, &DataTable::OnGridCellOpen, [this](int row, int) { tblSystem_OnGridCellOpen(row); });
     modRun::connectGridFocus(tblSystem);
 }
@@ -83,17 +89,6 @@ void System::buildParameters() {
 void System::Form_Deactivate() {
     modRun::vergissOffenen();
     modSystem::LeereParameter();
-}
-
-void System::Toolbar1_ButtonClick(const QString& key) {
-    if (key == u"tbSpeichern"_qs) {
-        // Without a row opened, it is the address that the user has been working on.
-        if (session().Modus == u"EDIT"_qs) modSystem::UpdateParameter();
-        if (session().Modus == u"SAVE"_qs) modSystem::UpdateAdresse();
-    } else if (key == u"tbAnzLoeschen"_qs) {
-        modSystem::LeereParameter();
-    }
-    modRun::beendeVorgang();
 }
 
 void System::tblSystem_OnGridCellOpen(int row) {

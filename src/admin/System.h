@@ -41,6 +41,5 @@ private:
     void buildAddress();
     void buildGrid();
     void buildParameters();
-    void Toolbar1_ButtonClick(const QString& key);
     void tblSystem_OnGridCellOpen(int row);
 };

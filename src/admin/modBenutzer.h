@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Erfassung.h"
 #include "Recordset.h"
 
 #include <QString>
@@ -59,8 +60,8 @@ bool PruefeGruppenEingabe();
 /// The list of groups, as they stand in the grid.
 void LadeGruppenCombo(ComboBox* combo);
 
-/// What a toolbar key does on the page of users or of groups.
-void bedieneBenutzer(const QString& key);
-void bedieneGruppe(const QString& key);
+/// What save and delete do on the page of users and of groups.
+Erfassung benutzerErfassung();
+Erfassung gruppenErfassung();
 
 } // namespace modBenutzer

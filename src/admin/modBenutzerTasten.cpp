@@ -1,7 +1,6 @@
 #include "Benutzer.h"
 #include "MsgBox.h"
 #include "Screens.h"
-#include "Session.h"
 #include "TextBox.h"
 #include "modBenutzer.h"
 
@@ -20,40 +19,28 @@ bool passwortBestaetigt() {
     return false;
 }
 
-void speichereBenutzer() {
-    const Session& s = session();
-    if (s.Modus == u"EDIT"_qs && PruefeBenutzerEingabe() && passwortBestaetigt()) UpdateBenutzer(s.AktZeile);
-    if (s.Modus == u"SAVE"_qs && PruefeBenutzerEingabe() && passwortBestaetigt()) SpeicherBenutzer();
-}
-
-void speichereGruppe() {
-    const Session& s = session();
-    if (s.Modus == u"EDIT"_qs && PruefeGruppenEingabe()) UpdateBG(s.AktZeile);
-    if (s.Modus == u"SAVE"_qs && PruefeGruppenEingabe()) SpeicherBG();
-}
-
-void loesche(const QString& frage, void (*routine)(int)) {
-    Session& s = session();
-    if (s.Modus != u"EDIT"_qs) return;
-    s.MsgAntwort = MsgBox(frage, vbYesNo);
-    s.MsgAntwort == vbYes ? routine(s.AktZeile) : LeereBenutzerEingabe();
-}
+bool benutzerVollstaendig() { return PruefeBenutzerEingabe() && passwortBestaetigt(); }
 
 } // namespace
 
-void bedieneBenutzer(const QString& key) {
-    if (key == u"tbSpeichern"_qs) speichereBenutzer();
-    if (key == u"tbLoeschen"_qs) loesche(u"Achtung: Benutzer wirklich löschen ?"_qs, &LoescheBenutzer);
-    if (key == u"tbAnzLoeschen"_qs) LeereBenutzerEingabe();
+Erfassung benutzerErfassung() {
+    return {.vollstaendig = &benutzerVollstaendig,
+            .speichere = &SpeicherBenutzer,
+            .aendere = &UpdateBenutzer,
+            .loesche = &LoescheBenutzer,
+            .frage = u"Achtung: Benutzer wirklich löschen ?"_qs,
+            .beiNein = &LeereBenutzerEingabe};
 }
 
-void bedieneGruppe(const QString& key) {
-    if (key == u"tbSpeichern"_qs) speichereGruppe();
-    if (key == u"tbLoeschen"_qs)
-        loesche(u"Achtung: Benutzer - Referenzen in der Benutzertabelle werden ebenfalls gelöscht !\r\n"_qs
+Erfassung gruppenErfassung() {
+    return {.vollstaendig = &PruefeGruppenEingabe,
+            .speichere = &SpeicherBG,
+            .aendere = &UpdateBG,
+            .loesche = &LoescheZugriff,
+            .frage =
+                u"Achtung: Benutzer - Referenzen in der Benutzertabelle werden ebenfalls gelöscht !\r\n"_qs
                 u"Trotzdem löschen ?"_qs,
-                &LoescheZugriff);
-    if (key == u"tbAnzLoeschen"_qs) LeereBenutzerEingabe();
+            .beiNein = &LeereBenutzerEingabe};
 }
 
 } // namespace modBenutzer

@@ -39,14 +39,6 @@ void Fangauswertung::Form_Activate() {
     modBasis::loadcboGName(cboGName);
 }
 
-void Fangauswertung::Toolbar1_ButtonClick(const QString& key) {
-    if (key == u"tbSuch"_qs) tbSuch_Click();
-    if (key == u"tbAnzLoeschen"_qs) modFAuswert::AuswertAnzeigeLoeschen();
-    if (key == u"tbExcel"_qs) tbExcel_Click();
-    if (key == u"tbVorschau"_qs) drucke(u"vorschau"_qs);
-    if (key == u"tbDruck"_qs) drucke(u"drucken"_qs);
-}
-
 void Fangauswertung::tbSuch_Click() {
     if (!modFAuswert::AuswahlGueltig()) return;
     Session& s = session();

@@ -72,7 +72,6 @@ private:
     /// A click on the check box enables its controls and sets its flag, or the reverse.
     void connectFilter(QCheckBox* box, std::size_t flag, const QVector<QWidget*>& controls);
 
-    void Toolbar1_ButtonClick(const QString& key);
     void tbSuch_Click();
     void tbExcel_Click();
     void drucke(const QString& wort);

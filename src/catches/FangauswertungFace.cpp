@@ -8,6 +8,7 @@
 #include "TextBox.h"
 #include "Toolbar.h"
 #include "ValueLabel.h"
+#include "modFAuswert.h"
 #include "modRun.h"
 
 #include <QCheckBox>
@@ -33,17 +34,17 @@ Fangauswertung::Fangauswertung()
 
 void Fangauswertung::buildToolbar() {
     Toolbar1 = new Toolbar(this);
-    Toolbar1->addKey(u"tbSuch"_qs, u"&Suchen"_qs, u"Tabelle durchsuchen..."_qs, u"suchen"_qs);
-    Toolbar1->addSeparator();
-    Toolbar1->addKey(u"tbAnzLoeschen"_qs, u"&Anz. löschen"_qs, u"Anzeige löschen"_qs, u"anzeige-loeschen"_qs);
-    Toolbar1->addSeparator();
-    Toolbar1->addKey(u"tbExcel"_qs, u"&Exceldatei erzeugen"_qs, u"Excel - Datei - FANG.CSV - erzeugen..."_qs,
-                     u"excel"_qs);
-    Toolbar1->addSeparator();
-    Toolbar1->addKey(u"tbVorschau"_qs, u"&Druck - Vorschau"_qs, u"Druckvorschau der Fangliste"_qs,
-                     u"vorschau"_qs);
-    Toolbar1->addSeparator();
-    Toolbar1->addKey(u"tbDruck"_qs, u"Drucken"_qs, u"Aktuelle Auswahl drucken..."_qs, u"drucken"_qs);
+    Toolbar1->addKeys(
+        {{u"tbSuch"_qs, u"&Suchen"_qs, u"Tabelle durchsuchen..."_qs, u"suchen"_qs,
+          [this] { tbSuch_Click(); }},
+         {u"tbAnzLoeschen"_qs, u"&Anz. löschen"_qs, u"Anzeige löschen"_qs, u"anzeige-loeschen"_qs,
+          &modFAuswert::AuswertAnzeigeLoeschen},
+         {u"tbExcel"_qs, u"&Exceldatei erzeugen"_qs, u"Excel - Datei - FANG.CSV - erzeugen..."_qs,
+          u"excel"_qs, [this] { tbExcel_Click(); }},
+         {u"tbVorschau"_qs, u"&Druck - Vorschau"_qs, u"Druckvorschau der Fangliste"_qs, u"vorschau"_qs,
+          [this] { drucke(u"vorschau"_qs); }},
+         {u"tbDruck"_qs, u"Drucken"_qs, u"Aktuelle Auswahl drucken..."_qs, u"drucken"_qs,
+          [this] { drucke(u"drucken"_qs); }}});
 }
 
 ComboBox* Fangauswertung::addList(const QString& name, QCheckBox* captionedBy) {
@@ -171,7 +172,6 @@ void Fangauswertung::connectEvents() {
     connectFilter(chkFMonat, 3, {cboFMonat});
     connectFilter(chkAnzahl, 4, {cboOptAnz01, txtAnz01, cboOptAnz02, txtAnz02});
     connectFilter(chkGewicht, 5, {cboOptGew01, txtGew01, cboOptGew02, txtGew02});
-    on(Toolbar1, &Toolbar::ButtonClick, [this](const QString& key) { Toolbar1_ButtonClick(key); });
     on(tblFAusw, &DataTable::OnGridCellDown, [this](int row, int) { tblFAusw_OnGridCellDown(row); });
     on(tblFAusw, &DataTable::OnGridCellOpen, [this](int row, int) { tblFAusw_OnGridCellOpen(row); });
     on(tblFAusw, &DataTable::OnGridCellMenu, [this] { tblFAusw_OnGridCellMenu(); });

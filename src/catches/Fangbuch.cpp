@@ -64,46 +64,11 @@ void Fangbuch::zeigeAnzahlen() {
 }
 
 bool Fangbuch::Form_KeyDown(int key, Qt::KeyboardModifiers) {
-    switch (key) {
-    case Qt::Key_F2:
-        modFangbuch::FangAnzeigeLoeschen();
-        break;
-    case Qt::Key_F3:
-        Speichern();
-        break;
-    case Qt::Key_F8:
-        Loeschen();
-        break;
-    default:
-        return false;
-    }
-    modRun::beendeVorgang();
+    static const QHash<int, QString> keys = {
+        {Qt::Key_F2, u"tbAnzLoeschen"_qs}, {Qt::Key_F3, u"tbSpeichern"_qs}, {Qt::Key_F8, u"tbLoeschen"_qs}};
+    if (!keys.contains(key)) return false;
+    Toolbar1->key(keys[key])->click();
     return true;
-}
-
-void Fangbuch::Toolbar1_ButtonClick(const QString& key) {
-    if (key == u"tbSpeichern"_qs) Speichern();
-    if (key == u"tbLoeschen"_qs) Loeschen();
-    if (key == u"tbAnzLoeschen"_qs) modFangbuch::FangAnzeigeLoeschen();
-    modRun::beendeVorgang();
-}
-
-void Fangbuch::Speichern() {
-    // F3 and the toolbar leave the caret where it is, so the month may not have been checked yet.
-    txtMonNr_LostFocus();
-    Session& s = session();
-    if (s.Modus == u"EDIT"_qs && modFangbuch::FangEingabeVollstaendig()) modFangbuch::UpdateFang(s.AktZeile);
-    if (s.Modus == u"SAVE"_qs && modFangbuch::FangEingabeVollstaendig()) modFangbuch::SpeicherFang();
-}
-
-void Fangbuch::Loeschen() {
-    Session& s = session();
-    if (s.Modus != u"EDIT"_qs) return;
-    s.MsgAntwort = MsgBox(u"ACHTUNG: Fangeintrag wirklich löschen ?"_qs, vbYesNo);
-    if (s.MsgAntwort == vbYes)
-        modFangbuch::LoescheFang(s.AktZeile);
-    else
-        modFangbuch::FangAnzeigeLoeschen();
 }
 
 namespace {

@@ -58,6 +58,7 @@ public:
     ProgressBar* pb;
 
 private:
+    void buildToolbar();
     void buildEntry();
     void layOutEntry();
     void buildTable();
@@ -65,9 +66,6 @@ private:
 
     void beobachteBasisdaten();
     void zeigeAnzahlen();
-    void Speichern();
-    void Loeschen();
-    void Toolbar1_ButtonClick(const QString& key);
     void Auswahl_Click(bool jahr);
     void txtMonNr_KeyPress();
     void txtMonNr_KeyDone();

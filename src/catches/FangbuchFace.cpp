@@ -1,5 +1,6 @@
 #include "ComboBox.h"
 #include "DataTable.h"
+#include "Erfassung.h"
 #include "Face.h"
 #include "Fangbuch.h"
 #include "Heading.h"
@@ -8,6 +9,7 @@
 #include "TextBox.h"
 #include "Toolbar.h"
 #include "ValueLabel.h"
+#include "modFangbuch.h"
 #include "modRun.h"
 
 #include <QGridLayout>
@@ -17,14 +19,7 @@
 Fangbuch::Fangbuch()
     : Screen(u"Fangbuch"_qs, u"Fangbuch"_qs) {
     Ueberschrift = new Heading(u"FANGBUCH"_qs, this);
-    Toolbar1 = new Toolbar(this);
-    Toolbar1->addKey(u"tbSpeichern"_qs, u"&Speichern [ F3 ]"_qs, u"Speichern des Eintrages ins Fangbuch"_qs,
-                     u"speichern"_qs);
-    Toolbar1->addSeparator();
-    Toolbar1->addKey(u"tbLoeschen"_qs, u"&Löschen [ F8 ]"_qs, u"Löschen des Eintrages"_qs, u"loeschen"_qs);
-    Toolbar1->addSeparator();
-    Toolbar1->addKey(u"tbAnzLoeschen"_qs, u"&Anz. löschen [ F2 ]"_qs, u"Anzeige löschen"_qs,
-                     u"anzeige-loeschen"_qs);
+    buildToolbar();
     buildEntry();
     layOutEntry();
     buildTable();
@@ -32,6 +27,28 @@ Fangbuch::Fangbuch()
     rest->addWidget(fraNr2);
     rest->addWidget(Frame1, 1);
     connectEvents();
+}
+
+void Fangbuch::buildToolbar() {
+    using namespace modFangbuch;
+    const Erfassung faenge = {.vollstaendig = &FangEingabeVollstaendig,
+                              .speichere = &SpeicherFang,
+                              .aendere = &UpdateFang,
+                              .loesche = &LoescheFang,
+                              .frage = u"ACHTUNG: Fangeintrag wirklich löschen ?"_qs,
+                              .beiNein = &FangAnzeigeLoeschen};
+    const auto sichere = [=, this] {
+        // F3 and the toolbar leave the caret where it is, so the month may not have been checked yet.
+        txtMonNr_LostFocus();
+        faenge.sichern();
+    };
+    Toolbar1 = new Toolbar(this, &modRun::beendeVorgang);
+    Toolbar1->addKeys({{u"tbSpeichern"_qs, u"&Speichern [ F3 ]"_qs,
+                        u"Speichern des Eintrages ins Fangbuch"_qs, u"speichern"_qs, sichere},
+                       {u"tbLoeschen"_qs, u"&Löschen [ F8 ]"_qs, u"Löschen des Eintrages"_qs, u"loeschen"_qs,
+                        [=] { faenge.entfernen(); }},
+                       {u"tbAnzLoeschen"_qs, u"&Anz. löschen [ F2 ]"_qs, u"Anzeige löschen"_qs,
+                        u"anzeige-loeschen"_qs, &FangAnzeigeLoeschen}});
 }
 
 void Fangbuch::buildEntry() {
@@ -155,7 +172,6 @@ void Fangbuch::buildTable() {
 }
 
 void Fangbuch::connectEvents() {
-    on(Toolbar1, &Toolbar::ButtonClick, [this](const QString& key) { Toolbar1_ButtonClick(key); });
     on(cboFJahr, &ComboBox::Click, [this] { Auswahl_Click(true); });
     on(cboSelMonat, &ComboBox::Click, [this] { Auswahl_Click(false); });
     on(txtMonNr, &TextBox::GotFocus, [this] { m_tastenZaehler = 0; });

@@ -1,10 +1,10 @@
 #include "Katego.h"
 
 #include "DataTable.h"
+#include "Erfassung.h"
 #include "Face.h"
 #include "Heading.h"
 #include "KontaktUebers.h"
-#include "MsgBox.h"
 #include "Rahmen.h"
 #include "Screens.h"
 #include "Session.h"
@@ -22,20 +22,34 @@
 Katego::Katego()
     : Screen(u"Katego"_qs, u"Kontakt - Kategorien"_qs) {
     Ueberschrift = new Heading(u"KONTAKT-KATEGORIEN"_qs, this);
-    Toolbar1 = new Toolbar(this);
-    Face::addRecordKeys(Toolbar1);
-    Toolbar1->addSeparator();
-    Toolbar1->addKey(u"tbEsc"_qs, u"&Schließen"_qs, u"Zurück zur Kontakt - Übersicht"_qs, u"schliessen"_qs);
+    buildToolbar();
     buildEntry();
     buildTable();
     QVBoxLayout* rest = Face::column(this, Ueberschrift, Toolbar1);
     rest->addWidget(Frame1);
     rest->addWidget(Frame2, 1);
 
-    on(Toolbar1, &Toolbar::ButtonClick, [this](const QString& key) { Toolbar1_ButtonClick(key); });
     on(tblKatego, &DataTable::OnGridCellOpen,
        [this](int row, int column) { tblKatego_OnGridCellOpen(row, column); });
     modRun::connectGridFocus(tblKatego);
+}
+
+void Katego::buildToolbar() {
+    const Erfassung kategorien = {
+        .vollstaendig = &modKatego::KategoEingabeOK,
+        .speichere = &modKatego::SpeicherKatego,
+        .aendere = &modKatego::UpdateKatego,
+        .loesche = &modKatego::LoescheKatego,
+        .frage = u"ACHTUNG: Kontakt - Referenzen in Kontaktliste werden ebenfalls gelöscht !\r\n"_qs
+                 u"Trotzdem löschen ?"_qs,
+        // A no clears the catch book; the name stays here, to be saved again if wanted.
+        .beiNein = &modFangbuch::FangAnzeigeLoeschen};
+    Toolbar1 = new Toolbar(this, &modRun::beendeVorgang);
+    Face::addRecordKeys(
+        Toolbar1, [=] { kategorien.sichern(); }, [=] { kategorien.entfernen(); },
+        &modKatego::KategoAnzeigeLoeschen);
+    Toolbar1->addKeys({{u"tbEsc"_qs, u"&Schließen"_qs, u"Zurück zur Kontakt - Übersicht"_qs, u"schliessen"_qs,
+                        [this] { Schliessen(); }}});
 }
 
 void Katego::buildEntry() {
@@ -84,31 +98,6 @@ void Katego::Form_Deactivate() {
 }
 
 void Katego::Form_Paint() { lblAnzahl->setCaption(QString::number(tblKatego->rowCount())); }
-
-void Katego::Toolbar1_ButtonClick(const QString& key) {
-    Session& s = session();
-    if (key == u"tbSpeichern"_qs) {
-        if (s.Modus == u"EDIT"_qs && modKatego::KategoEingabeOK()) modKatego::UpdateKatego(s.AktZeile);
-        if (s.Modus == u"SAVE"_qs && modKatego::KategoEingabeOK()) modKatego::SpeicherKatego();
-    }
-    if (key == u"tbLoeschen"_qs) Loeschen();
-    if (key == u"tbAnzLoeschen"_qs) modKatego::KategoAnzeigeLoeschen();
-    if (key == u"tbEsc"_qs) Schliessen();
-    modRun::beendeVorgang();
-}
-
-void Katego::Loeschen() {
-    Session& s = session();
-    if (s.Modus != u"EDIT"_qs) return;
-    s.MsgAntwort = MsgBox(u"ACHTUNG: Kontakt - Referenzen in Kontaktliste werden ebenfalls gelöscht !\r\n"_qs
-                          u"Trotzdem löschen ?"_qs,
-                          vbYesNo);
-    if (s.MsgAntwort == vbYes)
-        modKatego::LoescheKatego(s.AktZeile);
-    else
-        // What a no clears is the catch book; the name stays here, to be saved anew if wanted.
-        modFangbuch::FangAnzeigeLoeschen();
-}
 
 void Katego::Schliessen() {
     modKatego::KategoAnzeigeLoeschen();

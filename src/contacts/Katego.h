@@ -36,10 +36,9 @@ public:
     TextBox* txtKatego;
 
 private:
+    void buildToolbar();
     void buildEntry();
     void buildTable();
-    void Toolbar1_ButtonClick(const QString& key);
-    void Loeschen();
     void Schliessen();
     void tblKatego_OnGridCellOpen(int row, int column);
 };

@@ -22,13 +22,6 @@ void Kontakt::Form_Load() {
 // A mask that is closed is forgotten: the next one opens empty.
 void Kontakt::Form_QueryUnload() { unload<Kontakt>(); }
 
-void Kontakt::Toolbar1_ButtonClick(const QString& key) {
-    if (key == u"tbSpeichern"_qs) Speichern();
-    if (key == u"tbLoeschen"_qs) Loeschen();
-    if (key == u"tbAnzLoeschen"_qs) modKontakt::KontaktAnzeigeLoeschen();
-    modRun::beendeVorgang();
-}
-
 void Kontakt::Speichern() {
     const Session& s = session();
     if (s.Modus == u"EDIT"_qs) {

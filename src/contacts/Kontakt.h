@@ -98,7 +98,6 @@ private:
     void buildNote(QWidget* page);
     TextBox* field(const QString& name, QWidget* parent, int limit);
 
-    void Toolbar1_ButtonClick(const QString& key);
     void Speichern();
     void Loeschen();
 };

@@ -66,13 +66,13 @@ Kontakt::Kontakt()
     column->addWidget(Toolbar1);
     column->addWidget(TabKont, 1);
 
-    on(Toolbar1, &Toolbar::ButtonClick, [this](const QString& key) { Toolbar1_ButtonClick(key); });
     on(cboKatego, &ComboBox::Click, [] { modKontakt::SetzeMitglFelder(); });
 }
 
 void Kontakt::buildToolbar() {
-    Toolbar1 = new Toolbar(this);
-    Face::addRecordKeys(Toolbar1);
+    Toolbar1 = new Toolbar(this, &modRun::beendeVorgang);
+    Face::addRecordKeys(
+        Toolbar1, [this] { Speichern(); }, [this] { Loeschen(); }, &modKontakt::KontaktAnzeigeLoeschen);
 }
 
 TextBox* Kontakt::field(const QString& name, QWidget* parent, int limit) {

@@ -61,7 +61,6 @@ KontaktUebers::KontaktUebers()
     rest->addWidget(tblKUebers, 1);
     rest->addLayout(found);
 
-    on(Toolbar1, &Toolbar::ButtonClick, [this](const QString& key) { Toolbar1_ButtonClick(key); });
     on(tblKUebers, &DataTable::OnGridCellDown,
        [this](int row, int column) { tblKUebers_OnGridCellDown(row, column); });
     on(tblKUebers, &DataTable::OnGridCellOpen,
@@ -69,20 +68,17 @@ KontaktUebers::KontaktUebers()
 }
 
 void KontaktUebers::buildToolbar() {
-    Toolbar1 = new Toolbar(this);
-    Toolbar1->addKey(u"tbKontakt"_qs, u"Neuer Kontakt"_qs, u"Neuer Kontakt oder neues Mitglied..."_qs,
-                     u"kontakt"_qs);
-    Toolbar1->addSeparator();
-    Toolbar1->addKey(u"tbKatego"_qs, u"Kategorien bearb."_qs, u"Kategorien bearbeiten..."_qs,
-                     u"kategorie"_qs);
-    Toolbar1->addSeparator();
-    Toolbar1->addKey(u"tbWord"_qs, u"Word-Datei"_qs, u"Serienbrief - Datei für Word erzeugen..."_qs,
-                     u"word"_qs);
-    Toolbar1->addSeparator();
-    Toolbar1->addKey(u"tbSuch"_qs, u"Suchen"_qs, u"Mitglied suchen..."_qs, u"suchen"_qs);
-    Toolbar1->addSeparator();
-    Toolbar1->addKey(u"tbMitglList"_qs, u"Mitglieder - Liste"_qs, u"Mitglieder - Listen erzeugen..."_qs,
-                     u"liste"_qs);
+    Toolbar1 = new Toolbar(this, &modRun::beendeVorgang);
+    Toolbar1->addKeys(
+        {{u"tbKontakt"_qs, u"Neuer Kontakt"_qs, u"Neuer Kontakt oder neues Mitglied..."_qs, u"kontakt"_qs,
+          [this] { NeuerKontakt(); }},
+         {u"tbKatego"_qs, u"Kategorien bearb."_qs, u"Kategorien bearbeiten..."_qs, u"kategorie"_qs,
+          [this] { BearbeiteKategorien(); }},
+         {u"tbWord"_qs, u"Word-Datei"_qs, u"Serienbrief - Datei für Word erzeugen..."_qs, u"word"_qs,
+          [this] { ErzeugeSerienbriefDatei(); }},
+         {u"tbSuch"_qs, u"Suchen"_qs, u"Mitglied suchen..."_qs, u"suchen"_qs, [this] { Suchen(); }},
+         {u"tbMitglList"_qs, u"Mitglieder - Liste"_qs, u"Mitglieder - Listen erzeugen..."_qs, u"liste"_qs,
+          [] { rahmen()->zeigeMitgliederliste(); }}});
 }
 
 void KontaktUebers::Form_Load() {
@@ -93,15 +89,6 @@ void KontaktUebers::Form_Load() {
 
 void KontaktUebers::Form_Deactivate() { unload<SuchKont>(); }
 
-void KontaktUebers::Toolbar1_ButtonClick(const QString& key) {
-    if (key == u"tbKontakt"_qs) NeuerKontakt();
-    if (key == u"tbKatego"_qs) BearbeiteKategorien();
-    if (key == u"tbWord"_qs) ErzeugeSerienbriefDatei();
-    if (key == u"tbSuch"_qs) Suchen();
-    if (key == u"tbMitglList"_qs) ZeigeMitglieder();
-    modRun::beendeVorgang();
-}
-
 void KontaktUebers::NeuerKontakt() {
     modRun::beendeVorgang();
     screen<Kontakt>().ShowModal();
@@ -111,8 +98,6 @@ void KontaktUebers::BearbeiteKategorien() {
     rahmen()->binde(screen<Katego>());
     screen<Katego>().Show();
 }
-
-void KontaktUebers::ZeigeMitglieder() { rahmen()->zeigeMitgliederliste(); }
 
 void KontaktUebers::Suchen() {
     modKontakt::SuchAnzeigeLoeschen();

@@ -26,12 +26,10 @@ public:
 
 private:
     void buildToolbar();
-    void Toolbar1_ButtonClick(const QString& key);
     void NeuerKontakt();
     void BearbeiteKategorien();
     void ErzeugeSerienbriefDatei();
     void Suchen();
-    void ZeigeMitglieder();
     /// Opens or closes a category, whichever its flag says it is not.
     void klappe(int row);
     void tblKUebers_OnGridCellDown(int row, int column);

@@ -72,12 +72,7 @@ QWidget* asTab(QGroupBox* frame) {
 Basis::Basis()
     : Screen(u"Basis"_qs, u"Basisdaten"_qs) {
     Ueberschrift = new Heading(u"BASISDATEN"_qs, this);
-    Toolbar1 = new Toolbar(this);
-    Toolbar1->addKey(u"tbSpeichern"_qs, u"&Speichern "_qs, u"Speichern"_qs, u"speichern"_qs);
-    Toolbar1->addSeparator();
-    Toolbar1->addKey(u"tbLoeschen"_qs, u"&Löschen "_qs, u"Löschen"_qs, u"loeschen"_qs);
-    Toolbar1->addSeparator();
-    Toolbar1->addKey(u"tbAnzLoeschen"_qs, u"&Anz. löschen"_qs, u"Anzeige löschen"_qs, u"anzeige-loeschen"_qs);
+    buildToolbar();
     buildFishPage();
     buildWaterPage();
     TabBasis = new QTabWidget(this);
@@ -86,13 +81,27 @@ Basis::Basis()
     TabBasis->addTab(asTab(Frame2), u"Gewässer"_qs);
     Face::column(this, Ueberschrift, Toolbar1)->addWidget(TabBasis, 1);
 
-    on(Toolbar1, &Toolbar::ButtonClick, [this](const QString& key) { Toolbar1_ButtonClick(key); });
     on(tblFBasis, &DataTable::OnGridCellOpen,
        [this](int row, int column) { tblFBasis_OnGridCellOpen(row, column); });
     on(tblGBasis, &DataTable::OnGridCellOpen,
        [this](int row, int column) { tblGBasis_OnGridCellOpen(row, column); });
     modRun::connectGridFocus(tblFBasis);
     modRun::connectGridFocus(tblGBasis);
+}
+
+void Basis::buildToolbar() {
+    // The page in front decides at the moment of the press.
+    const auto erfassung = [this] {
+        return TabBasis->currentIndex() == fishPage ? modBasis::fischErfassung()
+                                                    : modBasis::gewaesserErfassung();
+    };
+    Toolbar1 = new Toolbar(this, &modRun::beendeVorgang);
+    Toolbar1->addKeys(
+        {{u"tbSpeichern"_qs, u"&Speichern "_qs, u"Speichern"_qs, u"speichern"_qs,
+          [=] { erfassung().sichern(); }},
+         {u"tbLoeschen"_qs, u"&Löschen "_qs, u"Löschen"_qs, u"loeschen"_qs, [=] { erfassung().entfernen(); }},
+         {u"tbAnzLoeschen"_qs, u"&Anz. löschen"_qs, u"Anzeige löschen"_qs, u"anzeige-loeschen"_qs,
+          &modBasis::BasisAnzeigeLoeschen}});
 }
 
 void Basis::buildFishPage() {
@@ -146,15 +155,6 @@ void Basis::Form_Activate() { modRun::nimmOffenenWiederAuf(*this); }
 void Basis::Form_Deactivate() {
     modRun::legeOffenenBeiseite(*this);
     modBasis::BasisAlleAnzeigenLoeschen();
-}
-
-void Basis::Toolbar1_ButtonClick(const QString& key) {
-    // The page in front decides at the moment of the click.
-    if (TabBasis->currentIndex() == fishPage)
-        modBasis::bedieneFisch(key);
-    else
-        modBasis::bedieneGewaesser(key);
-    modRun::beendeVorgang();
 }
 
 void Basis::tblFBasis_OnGridCellOpen(int row, int column) {

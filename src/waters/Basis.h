@@ -65,9 +65,9 @@ public:
     ValueLabel* lblGAnzahl;
 
 private:
+    void buildToolbar();
     void buildFishPage();
     void buildWaterPage();
-    void Toolbar1_ButtonClick(const QString& key);
     void tblFBasis_OnGridCellOpen(int row, int column);
     void tblGBasis_OnGridCellOpen(int row, int column);
 };

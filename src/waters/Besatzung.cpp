@@ -7,7 +7,6 @@
 #include "Drucklauf.h"
 #include "ExcelAusgabe.h"
 #include "Jahre.h"
-#include "MsgBox.h"
 #include "Session.h"
 #include "ValueLabel.h"
 #include "modBasis.h"
@@ -61,33 +60,6 @@ void Besatzung::cboBJahr_Click() {
     modBesatzList::loadTblBList();
     s.AktJahr = static_cast<qint16>(today().year());
     zeigeAnzahl();
-}
-
-void Besatzung::Toolbar1_ButtonClick(const QString& key) {
-    if (key == u"tbSpeichern"_qs) Speichern();
-    if (key == u"tbLoeschen"_qs) Loeschen();
-    if (key == u"tbAnzLoeschen"_qs) modBesatzList::BesatzAnzeigeLoeschen();
-    if (key == u"tbExcel"_qs) tbExcel_Click();
-    if (key == u"tbVorschau"_qs) drucke(u"vorschau"_qs);
-    if (key == u"tbDruck"_qs) drucke(u"drucken"_qs);
-    modRun::beendeVorgang();
-}
-
-void Besatzung::Speichern() {
-    using namespace modBesatzList;
-    Session& s = session();
-    if (s.Modus == u"EDIT"_qs && BesatzEingabeVollstaendig()) UpdateEintrag(s.AktZeile);
-    if (s.Modus == u"SAVE"_qs && BesatzEingabeVollstaendig()) SpeicherEintrag();
-}
-
-void Besatzung::Loeschen() {
-    Session& s = session();
-    if (s.Modus != u"EDIT"_qs) return;
-    s.MsgAntwort = MsgBox(u"ACHTUNG: Besatzungseintrag wirklich löschen ?"_qs, vbYesNo);
-    if (s.MsgAntwort == vbYes)
-        modBesatzList::LoescheEintrag(s.AktZeile);
-    else
-        modBesatzList::BesatzAnzeigeLoeschen();
 }
 
 /// A press that puts the plan out ends the editing of an opened stocking, which must not stand there as a new

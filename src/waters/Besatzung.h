@@ -56,9 +56,6 @@ private:
     void zeigeAnzahl();
     void waehleJahr(const QString& jahr);
     void cboBJahr_Click();
-    void Toolbar1_ButtonClick(const QString& key);
-    void Speichern();
-    void Loeschen();
     void leereOffenen();
     void tbExcel_Click();
     void drucke(const QString& wort);

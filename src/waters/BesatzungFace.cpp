@@ -1,11 +1,13 @@
 #include "Besatzung.h"
 #include "ComboBox.h"
 #include "DataTable.h"
+#include "Erfassung.h"
 #include "Face.h"
 #include "Heading.h"
 #include "TextBox.h"
 #include "Toolbar.h"
 #include "ValueLabel.h"
+#include "modBesatzList.h"
 #include "modRun.h"
 
 #include <QGridLayout>
@@ -27,20 +29,27 @@ Besatzung::Besatzung()
 }
 
 void Besatzung::buildToolbar() {
-    Toolbar1 = new Toolbar(this);
-    Toolbar1->addKey(u"tbSpeichern"_qs, u"Speichern"_qs, u"Eintrag speichern"_qs, u"speichern"_qs);
-    Toolbar1->addSeparator();
-    Toolbar1->addKey(u"tbLoeschen"_qs, u"Löschen"_qs, u"Eintrag löschen"_qs, u"loeschen"_qs);
-    Toolbar1->addSeparator();
-    Toolbar1->addKey(u"tbAnzLoeschen"_qs, u"Anz. löschen"_qs, u"Anzeige löschen"_qs, u"anzeige-loeschen"_qs);
-    Toolbar1->addSeparator();
-    // The tool tip's name is not the file's; the users know it so.
-    Toolbar1->addKey(u"tbExcel"_qs, u"&Excel"_qs, u"Excel - Datei - BLIST.csv - erzeugen..."_qs, u"excel"_qs);
-    Toolbar1->addSeparator();
-    Toolbar1->addKey(u"tbVorschau"_qs, u"&Druck - Vorsch."_qs, u"Druckvorschau des Besatzungsplan"_qs,
-                     u"vorschau"_qs);
-    Toolbar1->addSeparator();
-    Toolbar1->addKey(u"tbDruck"_qs, u"Drucken"_qs, u"Aktuelle Auswahl drucken..."_qs, u"drucken"_qs);
+    using namespace modBesatzList;
+    const Erfassung plan = {.vollstaendig = &BesatzEingabeVollstaendig,
+                            .speichere = &SpeicherEintrag,
+                            .aendere = &UpdateEintrag,
+                            .loesche = &LoescheEintrag,
+                            .frage = u"ACHTUNG: Besatzungseintrag wirklich löschen ?"_qs,
+                            .beiNein = &BesatzAnzeigeLoeschen};
+    Toolbar1 = new Toolbar(this, &modRun::beendeVorgang);
+    // The tool tip of tbExcel does not name the file that is written; the users know it so.
+    Toolbar1->addKeys(
+        {{u"tbSpeichern"_qs, u"Speichern"_qs, u"Eintrag speichern"_qs, u"speichern"_qs,
+          [=] { plan.sichern(); }},
+         {u"tbLoeschen"_qs, u"Löschen"_qs, u"Eintrag löschen"_qs, u"loeschen"_qs, [=] { plan.entfernen(); }},
+         {u"tbAnzLoeschen"_qs, u"Anz. löschen"_qs, u"Anzeige löschen"_qs, u"anzeige-loeschen"_qs,
+          &BesatzAnzeigeLoeschen},
+         {u"tbExcel"_qs, u"&Excel"_qs, u"Excel - Datei - BLIST.csv - erzeugen..."_qs, u"excel"_qs,
+          [this] { tbExcel_Click(); }},
+         {u"tbVorschau"_qs, u"&Druck - Vorsch."_qs, u"Druckvorschau des Besatzungsplan"_qs, u"vorschau"_qs,
+          [this] { drucke(u"vorschau"_qs); }},
+         {u"tbDruck"_qs, u"Drucken"_qs, u"Aktuelle Auswahl drucken..."_qs, u"drucken"_qs,
+          [this] { drucke(u"drucken"_qs); }}});
 }
 
 void Besatzung::buildEntry() {
@@ -109,7 +118,6 @@ QWidget* Besatzung::layOutCount() {
 }
 
 void Besatzung::connectEvents() {
-    on(Toolbar1, &Toolbar::ButtonClick, [this](const QString& key) { Toolbar1_ButtonClick(key); });
     on(cboBJahr, &ComboBox::Click, [this] { cboBJahr_Click(); });
     on(tblBList, &DataTable::OnGridCellOpen, [this](int row, int) { tblBList_OnGridCellOpen(row); });
     modRun::connectGridFocus(tblBList);

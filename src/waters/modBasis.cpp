@@ -160,31 +160,6 @@ void ladeAuswahl(const QString& routine, const Art& art, int row) {
 
 bool vollstaendig(const Art& art) { return modRun::fehlerfrei(modRun::erstesLeere({art.txtName})); }
 
-/// The routines behind the toolbar for one page.
-struct Routinen {
-    bool (*vollstaendig)();
-    void (*speicher)();
-    void (*update)(int);
-    void (*loesche)(int);
-    QString warnung;
-};
-
-void bediene(const QString& key, const Routinen& routinen) {
-    Session& s = session();
-    if (key == u"tbSpeichern"_qs) {
-        if (s.Modus == u"EDIT"_qs && routinen.vollstaendig()) routinen.update(s.AktZeile);
-        if (s.Modus == u"SAVE"_qs && routinen.vollstaendig()) routinen.speicher();
-    } else if (key == u"tbLoeschen"_qs && s.Modus == u"EDIT"_qs) {
-        s.MsgAntwort = MsgBox(routinen.warnung + u"\r\nTrotzdem löschen ?"_qs, vbYesNo);
-        if (s.MsgAntwort == vbYes)
-            routinen.loesche(s.AktZeile);
-        else
-            BasisAnzeigeLoeschen();
-    } else if (key == u"tbAnzLoeschen"_qs) {
-        BasisAnzeigeLoeschen();
-    }
-}
-
 } // namespace
 
 void InitBasis() {
@@ -232,14 +207,24 @@ void LoescheGewaesser(int row) { loesche(u"LoescheGewaesser"_qs, gewaesser(), ro
 void loadFAuswahl(int row, int /*column*/) { ladeAuswahl(u"loadFAuswahl"_qs, fisch(), row); }
 void loadGAuswahl(int row, int /*column*/) { ladeAuswahl(u"loadGAuswahl"_qs, gewaesser(), row); }
 
-void bedieneFisch(const QString& key) {
-    bediene(key, {&FischEingabeVollstaendig, &SpeicherFisch, &UpdateFisch, &LoescheFisch,
-                  u"ACHTUNG: Fisch - Referenzen im Fangbuch werden ebenfalls gelöscht !"_qs});
+Erfassung fischErfassung() {
+    return {.vollstaendig = &FischEingabeVollstaendig,
+            .speichere = &SpeicherFisch,
+            .aendere = &UpdateFisch,
+            .loesche = &LoescheFisch,
+            .frage = u"ACHTUNG: Fisch - Referenzen im Fangbuch werden ebenfalls gelöscht !\r\n"_qs
+                     u"Trotzdem löschen ?"_qs,
+            .beiNein = &BasisAnzeigeLoeschen};
 }
 
-void bedieneGewaesser(const QString& key) {
-    bediene(key, {&GewaesserEingabeVollstaendig, &SpeicherGewaesser, &UpdateGewaesser, &LoescheGewaesser,
-                  u"ACHTUNG: Gewässer - Referenzen im Fangbuch werden ebenfalls gelöscht !"_qs});
+Erfassung gewaesserErfassung() {
+    return {.vollstaendig = &GewaesserEingabeVollstaendig,
+            .speichere = &SpeicherGewaesser,
+            .aendere = &UpdateGewaesser,
+            .loesche = &LoescheGewaesser,
+            .frage = u"ACHTUNG: Gewässer - Referenzen im Fangbuch werden ebenfalls gelöscht !\r\n"_qs
+                     u"Trotzdem löschen ?"_qs,
+            .beiNein = &BasisAnzeigeLoeschen};
 }
 
 } // namespace modBasis

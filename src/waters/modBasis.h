@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Erfassung.h"
+
 #include <QString>
 
 class ComboBox;
@@ -38,8 +40,8 @@ void LoescheGewaesser(int row);
 void loadFAuswahl(int row, int column);
 void loadGAuswahl(int row, int column);
 
-/// What a toolbar key does on the page of fish or of waters.
-void bedieneFisch(const QString& key);
-void bedieneGewaesser(const QString& key);
+/// What save and delete do on the page of fish and of waters.
+Erfassung fischErfassung();
+Erfassung gewaesserErfassung();
 
 } // namespace modBasis

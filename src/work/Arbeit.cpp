@@ -65,31 +65,6 @@ void Arbeit::Form_Deactivate() {
     unload<SuchKont>();
 }
 
-void Arbeit::Toolbar1_ButtonClick(const QString& key) {
-    if (key == u"tbBuchen"_qs) buche();
-    if (key == u"tbLoeschen"_qs) loesche();
-    if (key == u"tbAnzLoeschen"_qs) modArbeit::LeereArbEingabe();
-    if (key == u"tbVorschau"_qs) drucke(u"vorschau"_qs);
-    if (key == u"tbDruck"_qs) drucke(u"drucken"_qs);
-    modRun::beendeVorgang();
-}
-
-void Arbeit::buche() {
-    const Session& s = session();
-    if (s.Modus == u"EDIT"_qs && modArbeit::PruefeArbEingabe()) modArbeit::UpdateStunden(s.AktZeile);
-    if (s.Modus == u"SAVE"_qs && modArbeit::PruefeArbEingabe()) modArbeit::SpeicherStunden();
-}
-
-void Arbeit::loesche() {
-    Session& s = session();
-    if (s.Modus != u"EDIT"_qs) return;
-    s.MsgAntwort = MsgBox(u"ACHTUNG: Arbeitvorgang wirklich löschen ?"_qs, vbYesNo);
-    if (s.MsgAntwort == vbYes)
-        modArbeit::LoescheStunden(s.AktZeile);
-    else
-        modArbeit::LeereArbEingabe();
-}
-
 void Arbeit::drucke(const QString& wort) {
     // The press ends the editing of an opened booking, which must not stand there as a new one afterwards.
     modArbeit::LeereOffenen();

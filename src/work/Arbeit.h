@@ -79,9 +79,6 @@ private:
     void connectEvents();
     QPushButton* addIconButton(const QString& name, const QString& icon, const QString& tip);
 
-    void Toolbar1_ButtonClick(const QString& key);
-    void buche();
-    void loesche();
     void drucke(const QString& wort);
     void cmdSuch_Click();
     void cmdMList_Click();

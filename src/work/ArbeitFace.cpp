@@ -2,6 +2,7 @@
 #include "ComboBox.h"
 #include "DataTable.h"
 #include "DateBox.h"
+#include "Erfassung.h"
 #include "Face.h"
 #include "Heading.h"
 #include "MemoBox.h"
@@ -9,6 +10,7 @@
 #include "Theme.h"
 #include "Toolbar.h"
 #include "ValueLabel.h"
+#include "modArbeit.h"
 #include "modRun.h"
 
 #include <QGridLayout>
@@ -41,18 +43,25 @@ Arbeit::Arbeit()
 }
 
 void Arbeit::buildToolbar() {
-    Toolbar1 = new Toolbar(this);
-    Toolbar1->addKey(u"tbBuchen"_qs, u"&Buchen / Mindern"_qs, u"Buchen v. Arb. - Std. oder Jahresbeitr."_qs,
-                     u"buchen"_qs);
-    Toolbar1->addSeparator();
-    Toolbar1->addKey(u"tbLoeschen"_qs, u"&Löschen"_qs, u"Löscht den ausgewählten Arbeitsvorgang"_qs,
-                     u"loeschen"_qs);
-    Toolbar1->addSeparator();
-    Toolbar1->addKey(u"tbAnzLoeschen"_qs, u"&Anz. löschen"_qs, u"Anzeige löschen"_qs, u"anzeige-loeschen"_qs);
-    Toolbar1->addSeparator();
-    Toolbar1->addKey(u"tbVorschau"_qs, u"&Vorschau"_qs, u"Druckvorschau anzeigen..."_qs, u"vorschau"_qs);
-    Toolbar1->addSeparator();
-    Toolbar1->addKey(u"tbDruck"_qs, u"&Drucken"_qs, u"Arbeitsübersicht drucken..."_qs, u"drucken"_qs);
+    using namespace modArbeit;
+    const Erfassung buchungen = {.vollstaendig = &PruefeArbEingabe,
+                                 .speichere = &SpeicherStunden,
+                                 .aendere = &UpdateStunden,
+                                 .loesche = &LoescheStunden,
+                                 .frage = u"ACHTUNG: Arbeitvorgang wirklich löschen ?"_qs,
+                                 .beiNein = &LeereArbEingabe};
+    Toolbar1 = new Toolbar(this, &modRun::beendeVorgang);
+    Toolbar1->addKeys(
+        {{u"tbBuchen"_qs, u"&Buchen / Mindern"_qs, u"Buchen v. Arb. - Std. oder Jahresbeitr."_qs,
+          u"buchen"_qs, [=] { buchungen.sichern(); }},
+         {u"tbLoeschen"_qs, u"&Löschen"_qs, u"Löscht den ausgewählten Arbeitsvorgang"_qs, u"loeschen"_qs,
+          [=] { buchungen.entfernen(); }},
+         {u"tbAnzLoeschen"_qs, u"&Anz. löschen"_qs, u"Anzeige löschen"_qs, u"anzeige-loeschen"_qs,
+          &LeereArbEingabe},
+         {u"tbVorschau"_qs, u"&Vorschau"_qs, u"Druckvorschau anzeigen..."_qs, u"vorschau"_qs,
+          [this] { drucke(u"vorschau"_qs); }},
+         {u"tbDruck"_qs, u"&Drucken"_qs, u"Arbeitsübersicht drucken..."_qs, u"drucken"_qs,
+          [this] { drucke(u"drucken"_qs); }}});
 }
 
 QPushButton* Arbeit::addIconButton(const QString& name, const QString& icon, const QString& tip) {
@@ -173,7 +182,6 @@ void Arbeit::layOutTable() {
 }
 
 void Arbeit::connectEvents() {
-    on(Toolbar1, &Toolbar::ButtonClick, [this](const QString& key) { Toolbar1_ButtonClick(key); });
     on(cmdSuch, &QPushButton::clicked, [this](bool) { cmdSuch_Click(); });
     on(cmdMList, &QPushButton::clicked, [this](bool) { cmdMList_Click(); });
     on(tblArbStd, &DataTable::OnGridCellOpen,

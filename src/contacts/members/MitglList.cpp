@@ -34,14 +34,6 @@ void MitglList::setHourView(bool on) {
     for (int column = 8; column <= 10; ++column) tblMList->setColumnShown(column, on);
 }
 
-void MitglList::Toolbar1_ButtonClick(const QString& key) {
-    if (key == u"tbSuch"_qs) tbSuch_Click();
-    if (key == u"tbAnzLoeschen"_qs) modMitglList::LeereMListAnzeige();
-    if (key == u"tbVorschau"_qs) drucke(u"vorschau"_qs);
-    if (key == u"tbDruck"_qs) drucke(u"drucken"_qs);
-    if (key == u"tbEsc"_qs) tbEsc_Click();
-}
-
 void MitglList::tbSuch_Click() {
     if (!modMitglList::PruefeMListEingabe()) return;
     Session& s = session();

@@ -94,7 +94,6 @@ private:
     /// A click on the check box enables its controls, sets its flag and empties the grid.
     void connectFilter(QCheckBox* box, std::size_t flag, const QVector<QWidget*>& controls);
 
-    void Toolbar1_ButtonClick(const QString& key);
     void tbSuch_Click();
     void tbEsc_Click();
     void drucke(const QString& wort);

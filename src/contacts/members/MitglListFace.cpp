@@ -8,6 +8,7 @@
 #include "TextBox.h"
 #include "Toolbar.h"
 #include "ValueLabel.h"
+#include "modMitglList.h"
 #include "modRun.h"
 
 #include <QButtonGroup>
@@ -38,16 +39,16 @@ MitglList::MitglList()
 
 void MitglList::buildToolbar() {
     Toolbar1 = new Toolbar(this);
-    Toolbar1->addKey(u"tbSuch"_qs, u"&Suchen"_qs, u"Tabelle durchsuchen..."_qs, u"suchen"_qs);
-    Toolbar1->addSeparator();
-    Toolbar1->addKey(u"tbAnzLoeschen"_qs, u"&Anz. löschen"_qs, u"Anzeige löschen"_qs, u"anzeige-loeschen"_qs);
-    Toolbar1->addSeparator();
-    Toolbar1->addKey(u"tbVorschau"_qs, u"&Vorschau"_qs, u"Druckvorschau der Mitgliederliste"_qs,
-                     u"vorschau"_qs);
-    Toolbar1->addSeparator();
-    Toolbar1->addKey(u"tbDruck"_qs, u"Drucken"_qs, u"Aktuelle Auswahl drucken..."_qs, u"drucken"_qs);
-    Toolbar1->addSeparator();
-    Toolbar1->addKey(u"tbEsc"_qs, u"&Schließen"_qs, u"Zurück zur Kontakt - Übersicht"_qs, u"schliessen"_qs);
+    Toolbar1->addKeys({{u"tbSuch"_qs, u"&Suchen"_qs, u"Tabelle durchsuchen..."_qs, u"suchen"_qs,
+                        [this] { tbSuch_Click(); }},
+                       {u"tbAnzLoeschen"_qs, u"&Anz. löschen"_qs, u"Anzeige löschen"_qs,
+                        u"anzeige-loeschen"_qs, &modMitglList::LeereMListAnzeige},
+                       {u"tbVorschau"_qs, u"&Vorschau"_qs, u"Druckvorschau der Mitgliederliste"_qs,
+                        u"vorschau"_qs, [this] { drucke(u"vorschau"_qs); }},
+                       {u"tbDruck"_qs, u"Drucken"_qs, u"Aktuelle Auswahl drucken..."_qs, u"drucken"_qs,
+                        [this] { drucke(u"drucken"_qs); }},
+                       {u"tbEsc"_qs, u"&Schließen"_qs, u"Zurück zur Kontakt - Übersicht"_qs, u"schliessen"_qs,
+                        [this] { tbEsc_Click(); }}});
 }
 
 Vergleich MitglList::addBound(const QString& list, const QString& box, const QString& spoken) {
@@ -240,7 +241,6 @@ void MitglList::connectEvents() {
     on(cboArbJahr, &ComboBox::Click, [this] {
         if (std::exchange(m_arbJahr, cboArbJahr->Text()) != m_arbJahr) tblMList->clearRows();
     });
-    on(Toolbar1, &Toolbar::ButtonClick, [this](const QString& key) { Toolbar1_ButtonClick(key); });
     on(tblMList, &DataTable::OnGridCellDown, [this](int row, int) { tblMList_OnGridCellDown(row); });
     on(tblMList, &DataTable::OnGridCellOpen, [this](int row, int) { tblMList_OnGridCellOpen(row); });
     on(tblMList, &DataTable::OnGridCellMenu, [this] { tblMList_OnGridCellMenu(); });

@@ -45,7 +45,6 @@ Vorschau::Vorschau()
     whole->addWidget(Toolbar1);
     whole->addWidget(pageView, 1);
     whole->addWidget(lblAblage);
-    on(Toolbar1, &Toolbar::ButtonClick, [this](const QString& key) { Toolbar1_ButtonClick(key); });
     on(pageView, &ReportPageView::pageChanged, [this](int) { showPageNumber(); });
     on(pageView, &ReportPageView::zoomStepWanted, [this](int step) { zoom(step); });
     cboZoom->setListIndex(pageWidthEntry);
@@ -53,23 +52,29 @@ Vorschau::Vorschau()
 }
 
 void Vorschau::buildToolbar() {
-    const auto turn = [this](const QString& key, const QString& caption, const QString& tip,
-                             const QString& icon) {
-        Toolbar1->addKey(key, caption, tip, icon)->setToolButtonStyle(Qt::ToolButtonIconOnly);
+    const auto turn = [this](const QString& key, const QString& tip, const QString& icon,
+                             const Toolbar::Handler& handler) {
+        const QString caption = tip.section(u" ["_qs, 0, 0);
+        Toolbar1->addKey(key, caption, tip, icon, handler)->setToolButtonStyle(Qt::ToolButtonIconOnly);
     };
-    turn(u"tbErste"_qs, u"Erste Seite"_qs, u"Erste Seite [ Pos1 ]"_qs, u"seite-erste"_qs);
-    turn(u"tbZurueck"_qs, u"Vorige Seite"_qs, u"Vorige Seite [ Bild auf ]"_qs, u"seite-zurueck"_qs);
+    turn(u"tbErste"_qs, u"Erste Seite [ Pos1 ]"_qs, u"seite-erste"_qs, [this] { pageView->setPage(0); });
+    turn(u"tbZurueck"_qs, u"Vorige Seite [ Bild auf ]"_qs, u"seite-zurueck"_qs,
+         [this] { pageView->setPage(pageView->page() - 1); });
     buildPageBox();
-    turn(u"tbWeiter"_qs, u"Nächste Seite"_qs, u"Nächste Seite [ Bild ab ]"_qs, u"seite-weiter"_qs);
-    turn(u"tbLetzte"_qs, u"Letzte Seite"_qs, u"Letzte Seite [ Ende ]"_qs, u"seite-letzte"_qs);
+    turn(u"tbWeiter"_qs, u"Nächste Seite [ Bild ab ]"_qs, u"seite-weiter"_qs,
+         [this] { pageView->setPage(pageView->page() + 1); });
+    turn(u"tbLetzte"_qs, u"Letzte Seite [ Ende ]"_qs, u"seite-letzte"_qs,
+         [this] { pageView->setPage(m_document->pageCount() - 1); });
     Toolbar1->addSeparator();
     buildZoomBox();
     Toolbar1->addSeparator();
-    Toolbar1->addKey(u"tbDruck"_qs, u"D&rucken"_qs, u"Bericht drucken..."_qs, u"drucken"_qs);
-    Toolbar1->addKey(u"tbPdf"_qs, u"&PDF"_qs, u"Bericht als PDF-Datei speichern..."_qs, u"pdf"_qs);
+    Toolbar1->addKey(u"tbDruck"_qs, u"D&rucken"_qs, u"Bericht drucken..."_qs, u"drucken"_qs,
+                     [this] { drucke(); });
+    Toolbar1->addKey(u"tbPdf"_qs, u"&PDF"_qs, u"Bericht als PDF-Datei speichern..."_qs, u"pdf"_qs,
+                     [this] { speicherPdf(); });
     Toolbar1->addSeparator();
-    Toolbar1->addKey(u"tbSchliessen"_qs, u"&Schließen"_qs, u"Vorschau schließen [ Esc ]"_qs,
-                     u"schliessen"_qs);
+    Toolbar1->addKey(u"tbSchliessen"_qs, u"&Schließen"_qs, u"Vorschau schließen [ Esc ]"_qs, u"schliessen"_qs,
+                     &unload<Vorschau>);
 }
 
 void Vorschau::buildPageBox() {
@@ -152,20 +157,6 @@ void Vorschau::zeige(std::shared_ptr<const ReportDocument> document, std::shared
     lblAblage->hide();
     Show();
     pageView->setFocus(Qt::OtherFocusReason);
-}
-
-void Vorschau::Toolbar1_ButtonClick(const QString& key) {
-    if (key == u"tbSchliessen"_qs) {
-        unload<Vorschau>();
-        return;
-    }
-    if (!m_document) return;
-    if (key == u"tbErste"_qs) pageView->setPage(0);
-    if (key == u"tbZurueck"_qs) pageView->setPage(pageView->page() - 1);
-    if (key == u"tbWeiter"_qs) pageView->setPage(pageView->page() + 1);
-    if (key == u"tbLetzte"_qs) pageView->setPage(m_document->pageCount() - 1);
-    if (key == u"tbDruck"_qs) drucke();
-    if (key == u"tbPdf"_qs) speicherPdf();
 }
 
 void Vorschau::txtSeite_Enter() {

@@ -44,7 +44,6 @@ private:
     void buildPageBox();
     void buildZoomBox();
     void buildNotice();
-    void Toolbar1_ButtonClick(const QString& key);
     void txtSeite_Enter();
     void showPageNumber();
     void cboZoom_Click();

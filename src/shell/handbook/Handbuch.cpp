@@ -54,7 +54,6 @@ Handbuch::Handbuch()
     whole->addWidget(Seite, 1);
     whole->addWidget(Suchzeile);
     resize(QSize(860, 720).boundedTo(QWidget::screen()->availableSize() * 9 / 10));
-    on(Toolbar1, &Toolbar::ButtonClick, [this](const QString& key) { Toolbar1_ButtonClick(key); });
     on(Seite, &HandbuchSeite::seiteGewuenscht, [this](const QUrl& page) { blaettere(page); });
     on(Seite, &QTextBrowser::sourceChanged, [this](const QUrl&) { zeigeTitel(); });
     on(Seite, &QTextBrowser::historyChanged, [this] { zeigeTitel(); });
@@ -62,15 +61,15 @@ Handbuch::Handbuch()
 
 void Handbuch::buildToolbar() {
     Toolbar1->addKey(u"tbZurueck"_qs, u"&Zurück"_qs, u"Zur vorigen Seite [ Alt+Links ]"_qs,
-                     u"seite-zurueck"_qs);
-    Toolbar1->addKey(u"tbVor"_qs, u"&Vor"_qs, u"Wieder vor [ Alt+Rechts ]"_qs, u"seite-weiter"_qs);
-    Toolbar1->addSeparator();
-    Toolbar1->addKey(u"tbInhalt"_qs, u"&Inhalt"_qs, u"Alle Seiten des Handbuchs"_qs, u"liste"_qs);
-    Toolbar1->addKey(u"tbSuch"_qs, u"S&uchen"_qs, u"Ein Wort in allen Seiten suchen [ Strg+F ]"_qs,
-                     u"suchen"_qs);
-    Toolbar1->addSeparator();
-    Toolbar1->addKey(u"tbSchliessen"_qs, u"&Schließen"_qs, u"Handbuch schließen [ Esc ]"_qs,
-                     u"schliessen"_qs);
+                     u"seite-zurueck"_qs, [this] { Seite->backward(); });
+    Toolbar1->addKey(u"tbVor"_qs, u"&Vor"_qs, u"Wieder vor [ Alt+Rechts ]"_qs, u"seite-weiter"_qs,
+                     [this] { Seite->forward(); });
+    Toolbar1->addKeys({{u"tbInhalt"_qs, u"&Inhalt"_qs, u"Alle Seiten des Handbuchs"_qs, u"liste"_qs,
+                        [this] { blaettere(Seite->source().resolved(QUrl(u"index.html"_qs))); }},
+                       {u"tbSuch"_qs, u"S&uchen"_qs, u"Ein Wort in allen Seiten suchen [ Strg+F ]"_qs,
+                        u"suchen"_qs, [this] { oeffneSuche(); }},
+                       {u"tbSchliessen"_qs, u"&Schließen"_qs, u"Handbuch schließen [ Esc ]"_qs,
+                        u"schliessen"_qs, [this] { Hide(); }}});
 }
 
 void Handbuch::buildSuchzeile() {
@@ -138,14 +137,6 @@ QUrl Handbuch::seiteMit(const QString& text, QTextDocument::FindFlags richtung) 
         if (kommtVor(text, file)) return QUrl::fromLocalFile(file);
     }
     return {};
-}
-
-void Handbuch::Toolbar1_ButtonClick(const QString& key) {
-    if (key == u"tbZurueck"_qs) Seite->backward();
-    if (key == u"tbVor"_qs) Seite->forward();
-    if (key == u"tbInhalt"_qs) blaettere(Seite->source().resolved(QUrl(u"index.html"_qs)));
-    if (key == u"tbSuch"_qs) oeffneSuche();
-    if (key == u"tbSchliessen"_qs) Hide();
 }
 
 void Handbuch::zeige(const QString& file) {

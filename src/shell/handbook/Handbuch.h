@@ -38,7 +38,6 @@ protected:
 private:
     void buildToolbar();
     void buildSuchzeile();
-    void Toolbar1_ButtonClick(const QString& key);
     void blaettere(const QUrl& page);
     void oeffneSuche();
     void schliesseSuche();

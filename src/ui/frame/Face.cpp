@@ -72,12 +72,12 @@ QHBoxLayout* line(QWidget* parent) {
     return made;
 }
 
-void addRecordKeys(Toolbar* toolbar) {
-    toolbar->addKey(u"tbSpeichern"_qs, u"&Speichern"_qs, u"Speichern"_qs, u"speichern"_qs);
-    toolbar->addSeparator();
-    toolbar->addKey(u"tbLoeschen"_qs, u"&Löschen"_qs, u"Löschen"_qs, u"loeschen"_qs);
-    toolbar->addSeparator();
-    toolbar->addKey(u"tbAnzLoeschen"_qs, u"&Anz. löschen"_qs, u"Anzeige löschen"_qs, u"anzeige-loeschen"_qs);
+void addRecordKeys(Toolbar* toolbar, const Toolbar::Handler& save, const Toolbar::Handler& remove,
+                   const Toolbar::Handler& empty) {
+    toolbar->addKeys(
+        {{u"tbSpeichern"_qs, u"&Speichern"_qs, u"Speichern"_qs, u"speichern"_qs, save},
+         {u"tbLoeschen"_qs, u"&Löschen"_qs, u"Löschen"_qs, u"loeschen"_qs, remove},
+         {u"tbAnzLoeschen"_qs, u"&Anz. löschen"_qs, u"Anzeige löschen"_qs, u"anzeige-loeschen"_qs, empty}});
 }
 
 void addField(QGridLayout* form, int row, QLabel* label, QWidget* field, int column) {

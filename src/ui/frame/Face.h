@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Toolbar.h"
+
 #include <QString>
 
 class Heading;
@@ -12,7 +14,6 @@ class QPushButton;
 class QRadioButton;
 class QVBoxLayout;
 class QWidget;
-class Toolbar;
 
 /// What the faces of the screens are made of: labels left of their fields on common lines, frames, a heading
 /// with the toolbar below it. Distances are multiples of four.
@@ -36,7 +37,8 @@ QVBoxLayout* column(QWidget* screen, Heading* heading, Toolbar* toolbar);
 /// A line without a frame of its own, on a widget of its own (parentWidget).
 QHBoxLayout* line(QWidget* parent);
 /// The keys that most screens with an entry form begin with: save, delete, empty.
-void addRecordKeys(Toolbar* toolbar);
+void addRecordKeys(Toolbar* toolbar, const Toolbar::Handler& save, const Toolbar::Handler& remove,
+                   const Toolbar::Handler& empty);
 /// A row of a form. The label becomes the field's name for screen readers.
 void addField(QGridLayout* form, int row, QLabel* label, QWidget* field, int column = 0);
 

@@ -1,5 +1,6 @@
 #include "Toolbar.h"
 
+#include "EventGuard.h"
 #include "HousePaint.h"
 #include "Theme.h"
 
@@ -30,9 +31,10 @@ protected:
 
 } // namespace
 
-Toolbar::Toolbar(QWidget* parent)
+Toolbar::Toolbar(QWidget* parent, Handler afterPress)
     : QWidget(parent)
-    , m_row(new QHBoxLayout(this)) {
+    , m_row(new QHBoxLayout(this))
+    , m_afterPress(std::move(afterPress)) {
     setObjectName(u"Toolbar1"_qs);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     m_row->setContentsMargins(margin, gap, margin, gap);
@@ -48,7 +50,7 @@ bool Toolbar::hasShortcut(const QKeySequence& shortcut) const {
 }
 
 QToolButton* Toolbar::addKey(const QString& key, const QString& caption, const QString& tip,
-                             const QString& icon) {
+                             const QString& icon, const Handler& handler) {
     // Of two keys that want the same letter the first one has it; the toolkit would give it to neither.
     const bool letterTaken = hasShortcut(QKeySequence::mnemonic(caption));
     auto* button = new QToolButton(this);
@@ -61,9 +63,21 @@ QToolButton* Toolbar::addKey(const QString& key, const QString& caption, const Q
     button->setIconSize({iconEdge, iconEdge});
     button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     button->setAutoRaise(true);
-    connect(button, &QToolButton::clicked, this, [this, key] { Q_EMIT ButtonClick(key); });
+    connect(button, &QToolButton::clicked, this, [this, handler] {
+        runEvent([&] {
+            handler();
+            if (m_afterPress) m_afterPress();
+        });
+    });
     m_row->insertWidget(m_row->count() - 1, button);
     return button;
+}
+
+void Toolbar::addKeys(std::initializer_list<Key> keys) {
+    for (const Key& key : keys) {
+        if (m_row->count() > 1) addSeparator(); // the stretch at the end is always there
+        addKey(key.key, key.caption, key.tip, key.icon, key.handler);
+    }
 }
 
 void Toolbar::yieldLetters(const QVector<QKeySequence>& letters) {

@@ -2,29 +2,41 @@
 
 #include <QVector>
 #include <QWidget>
+#include <functional>
+#include <initializer_list>
 
 class QKeySequence;
 class QToolButton;
 class QHBoxLayout;
 
-/// The toolbar of a screen: keys with icon and caption, told apart by their key. A press leaves the focus
-/// with the field being filled in. Keys without a letter are reached with Tab.
+/// The toolbar of a screen: keys with icon and caption. A press leaves the focus with the field being filled
+/// in. Keys without a letter are reached with Tab.
 class Toolbar : public QWidget {
     Q_OBJECT
 
 public:
-    explicit Toolbar(QWidget* parent = nullptr);
-
+    using Handler = std::function<void()>;
     /// `icon` is the name of a picture among the program's own, without folder and ending.
-    QToolButton* addKey(const QString& key, const QString& caption, const QString& tip, const QString& icon);
+    struct Key {
+        QString key;
+        QString caption;
+        QString tip;
+        QString icon;
+        Handler handler; ///< runs guarded (see runEvent)
+    };
+
+    /// `afterPress` runs after the handler of each key, unless that has thrown.
+    explicit Toolbar(QWidget* parent = nullptr, Handler afterPress = {});
+
+    QToolButton* addKey(const QString& key, const QString& caption, const QString& tip, const QString& icon,
+                        const Handler& handler);
+    /// Adds keys with separators between them, and before the first one if it is not the toolbar's first.
+    void addKeys(std::initializer_list<Key> keys);
     void addSeparator();
     QToolButton* key(const QString& key) const; ///< null if there is none
     void setKeyEnabled(const QString& key, bool on);
     /// Keys that want a letter which others around the toolbar have do without, and show none underlined.
     void yieldLetters(const QVector<QKeySequence>& letters);
-
-Q_SIGNALS:
-    void ButtonClick(const QString& key);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -34,4 +46,5 @@ private:
     static void setCaption(QToolButton* key, const QString& caption);
 
     QHBoxLayout* m_row;
+    Handler m_afterPress;
 };
