@@ -78,12 +78,13 @@ TEST(QtMessageBoxesTest, AKeyCountsOnlyWhenPressedSomeTimeAfterTheBoxCameUp) {
             QTest::keyClick(boxInFront()->defaultButton(), key);
         QTest::keyClick(boxInFront()->defaultButton(), Qt::Key_J, Qt::AltModifier);
         note(u"atOnce"_qs);
-    });
-    QTimer::singleShot(firstMoments, [&] {
-        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape, Qt::Key_N}) hold(key);
-        note(u"held"_qs);
-        QTest::keyClick(boxInFront()->defaultButton(), Qt::Key_Escape);
-        note(u"pressed"_qs);
+        QTimer::singleShot(firstMoments, Qt::PreciseTimer, [&] {
+            for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape, Qt::Key_N}) hold(key);
+            note(u"held"_qs);
+            QTest::keyClick(boxInFront()->defaultButton(), Qt::Key_Escape);
+            note(u"pressed"_qs);
+            if (isOpen()) boxInFront()->reject();
+        });
     });
     EXPECT_EQ(QtMessageBoxes().show(u"?"_qs, vbYesNo, u"Titel"_qs), vbNo);
     EXPECT_EQ(log.join(u' '), u"atOnce:open held:open pressed:gone"_qs);
