@@ -29,7 +29,7 @@ public:
         if (QFileInfo::exists(path)) return;
         makeFolder(QFileInfo(path).path());
         if (!QDir().mkdir(path)) {
-            throw RuntimeError{75, QStringLiteral("Der Ordner %1 kann nicht angelegt werden.").arg(path)};
+            throw runtimeError(RuntimeError::folderNotMade, path);
         }
         m_folders.append(path);
     }
@@ -50,7 +50,7 @@ void copyPicture(const QString& target, Beginnings& beginnings) {
     if (QFileInfo::exists(target)) return;
     QFile picture(QStringLiteral(":/programfolder/Cut.bmp"));
     if (!picture.copy(target)) {
-        throw RuntimeError{75, QStringLiteral("Die Datei %1 kann nicht angelegt werden.").arg(target)};
+        throw runtimeError(RuntimeError::fileNotMade, target);
     }
     beginnings.made(target);
     // What comes out of the program's resources is write-protected.
@@ -74,7 +74,7 @@ void makeProgramFolder(const QString& folder, int year, bool demo) {
     const QString place = QDir::cleanPath(QFileInfo(folder).absoluteFilePath());
     const QString path = place + QStringLiteral("/uw01.mdb");
     if (QFileInfo::exists(path)) {
-        throw RuntimeError{3204, QStringLiteral("Im Ordner %1 gibt es schon eine uw01.mdb.").arg(place)};
+        throw runtimeError(RuntimeError::folderHasDatabase, place);
     }
     Beginnings beginnings;
     for (const char16_t* inner : {u"/temp", u"/SeqData", u"/Sicherung", u"/Graphics/bmp"}) {

@@ -14,8 +14,6 @@ namespace modTools {
 
 namespace {
 
-constexpr int cannotBeRepaired = 3056;
-
 struct Words {
     QString success;
     QString failure;
@@ -41,7 +39,7 @@ void rewriteFile(const QString& keptIn) {
 
 void tellFailure(const RuntimeError& error, const Words& words) {
     const QString title = u"Runtime - Error: %1"_qs.arg(error.number);
-    if (error.number == cannotBeRepaired) {
+    if (error.is(RuntimeError::cannotBeRepaired)) {
         MsgBox(words.cannotBeRepaired, vbCritical, title);
         // A file that can't be repaired can't be copied either, which need not be told as well.
         return rahmen()->beendeStill();

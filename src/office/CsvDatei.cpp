@@ -13,9 +13,6 @@
 namespace {
 
 constexpr int bufferSize = 64 * 1024;
-constexpr int diskFull = 61;
-constexpr int accessDenied = 70;
-constexpr int pathNotFound = 76;
 
 /// As the code page has them. It agrees with the first signs of Unicode but for a gap, so that German texts
 /// need no table.
@@ -55,10 +52,10 @@ bool isHeldOpen(const QString& path) {
 
 CsvDatei::CsvDatei(const QString& path)
     : m_file(path) {
-    if (!QFileInfo(QFileInfo(path).path()).isDir()) throw runtimeError(pathNotFound);
-    if (isHeldOpen(path)) throw runtimeError(accessDenied);
+    if (!QFileInfo(QFileInfo(path).path()).isDir()) throw runtimeError(RuntimeError::pathNotFound);
+    if (isHeldOpen(path)) throw runtimeError(RuntimeError::accessDenied);
     if (!m_file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered))
-        throw runtimeError(accessDenied);
+        throw runtimeError(RuntimeError::accessDenied);
     m_buffer.reserve(bufferSize);
 }
 
@@ -116,12 +113,12 @@ void CsvDatei::endLine() {
 void CsvDatei::close() {
     flush();
     m_file.close();
-    if (m_file.error() != QFileDevice::NoError) throw runtimeError(diskFull);
+    if (m_file.error() != QFileDevice::NoError) throw runtimeError(RuntimeError::diskFull);
 }
 
 void CsvDatei::flush() {
     const qsizetype size = qsizetype(m_buffer.size());
     const bool whole = m_file.write(m_buffer.data(), size) == size;
     m_buffer.clear(); // keeps its room
-    if (!whole) throw runtimeError(diskFull);
+    if (!whole) throw runtimeError(RuntimeError::diskFull);
 }

@@ -19,7 +19,7 @@ public:
 
     void openWorkbook(const QString& fileName) override {
         if (!QProcess::startDetached(m_program, LibreOfficeCalc::arguments(fileName)))
-            throw runtimeError(LibreOfficeCalc::cannotBeReached);
+            throw runtimeError(RuntimeError::programNotReached);
     }
 
 private:
@@ -29,12 +29,12 @@ private:
 } // namespace
 
 std::unique_ptr<Spreadsheet> LibreOfficeCalc::running() {
-    throw runtimeError(LibreOfficeCalc::cannotBeReached);
+    throw runtimeError(RuntimeError::programNotReached);
 }
 
 std::unique_ptr<Spreadsheet> LibreOfficeCalc::start() {
     const QString program = QStandardPaths::findExecutable(u"soffice"_qs);
-    if (program.isEmpty()) throw runtimeError(LibreOfficeCalc::cannotBeReached);
+    if (program.isEmpty()) throw runtimeError(RuntimeError::programNotReached);
     return std::make_unique<Calc>(program);
 }
 

@@ -11,9 +11,6 @@
 
 namespace {
 
-constexpr int diskFull = 61;
-constexpr int accessDenied = 70;
-
 bool holds(const QString& path, const QByteArray& content) {
     QFile file(path);
     return file.size() == content.size() && file.open(QIODevice::ReadOnly) && file.readAll() == content;
@@ -21,9 +18,9 @@ bool holds(const QString& path, const QByteArray& content) {
 
 void write(const QString& path, const QByteArray& content) {
     QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly)) throw runtimeError(accessDenied);
+    if (!file.open(QIODevice::WriteOnly)) throw runtimeError(RuntimeError::accessDenied);
     file.write(content);
-    if (!file.commit()) throw runtimeError(diskFull);
+    if (!file.commit()) throw runtimeError(RuntimeError::diskFull);
 }
 
 /// The file that holds the letter, written unless it is there already. No file is overwritten.
@@ -84,7 +81,7 @@ public:
     }
     void release() override {
         if (!QProcess::startDetached(m_program, {m_file}))
-            throw runtimeError(LibreOfficeWriter::cannotBeReached);
+            throw runtimeError(RuntimeError::programNotReached);
     }
 
 private:
@@ -97,11 +94,11 @@ private:
 } // namespace
 
 std::unique_ptr<WordProcessor> LibreOfficeWriter::running() {
-    throw runtimeError(LibreOfficeWriter::cannotBeReached);
+    throw runtimeError(RuntimeError::programNotReached);
 }
 
 std::unique_ptr<WordProcessor> LibreOfficeWriter::start() {
     const QString program = QStandardPaths::findExecutable(u"soffice"_qs);
-    if (program.isEmpty() || lacksWriter(program)) throw runtimeError(LibreOfficeWriter::cannotBeReached);
+    if (program.isEmpty() || lacksWriter(program)) throw runtimeError(RuntimeError::programNotReached);
     return std::make_unique<Writer>(program);
 }

@@ -8,10 +8,8 @@
 
 namespace {
 
-constexpr int outOfMemory = 7;
-
 void require(bool succeeded) {
-    if (!succeeded) throw runtimeError(outOfMemory);
+    if (!succeeded) throw runtimeError(RuntimeError::outOfMemory);
 }
 
 struct FreeSource {

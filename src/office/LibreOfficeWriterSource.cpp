@@ -12,11 +12,9 @@ namespace LibreOfficeWriterSource {
 
 namespace {
 
-constexpr int fileNotFound = 53;
-
 QStringList namesOfFields(const QString& dataFile) {
     QFile file(dataFile);
-    if (!file.open(QIODevice::ReadOnly)) throw runtimeError(fileNotFound);
+    if (!file.open(QIODevice::ReadOnly)) throw runtimeError(RuntimeError::fileNotFound);
     return fromWindows1252(file.readLine()).trimmed().split(u';', Qt::SkipEmptyParts);
 }
 

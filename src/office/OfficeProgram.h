@@ -9,8 +9,6 @@
 template<typename Reached>
 class OfficeProgram {
 public:
-    static constexpr int cannotBeReached = 429;
-
     virtual ~OfficeProgram() = default;
     /// The one that is running; error 429 if none is.
     virtual std::unique_ptr<Reached> running() = 0;
@@ -38,11 +36,11 @@ void setOfficeProgram(OfficeProgram<Reached>* program) {
 template<typename Reached>
 std::unique_ptr<Reached> runningOrNew() {
     OfficeProgram<Reached>* program = detail::currentOfficeProgram<Reached>();
-    if (!program) throw runtimeError(OfficeProgram<Reached>::cannotBeReached);
+    if (!program) throw runtimeError(RuntimeError::programNotReached);
     try {
         return program->running();
     } catch (const RuntimeError& error) {
-        if (error.number != OfficeProgram<Reached>::cannotBeReached) throw;
+        if (!error.is(RuntimeError::programNotReached)) throw;
     }
     return program->start();
 }

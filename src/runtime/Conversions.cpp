@@ -11,8 +11,8 @@ namespace {
 
 double numberOf(const QString& text) {
     const auto number = numberFromText(text);
-    if (!number) throw runtimeError(13);
-    if (std::isinf(*number)) throw runtimeError(6);
+    if (!number) throw runtimeError(RuntimeError::typesDiffer);
+    if (std::isinf(*number)) throw runtimeError(RuntimeError::overflow);
     return *number;
 }
 
@@ -22,13 +22,13 @@ Whole rounded(const Value& value) {
     const double whole = std::nearbyint(CDbl(value));
     const bool fits =
         whole >= std::numeric_limits<Whole>::min() && whole <= std::numeric_limits<Whole>::max();
-    if (!fits) throw runtimeError(6);
+    if (!fits) throw runtimeError(RuntimeError::overflow);
     return static_cast<Whole>(whole);
 }
 
 Date dateFromDays(double days) {
     const Date date{days};
-    if (!date.toQDate().isValid()) throw runtimeError(6);
+    if (!date.toQDate().isValid()) throw runtimeError(RuntimeError::overflow);
     return date;
 }
 
@@ -53,7 +53,7 @@ double CDbl(const Value& value) {
     case Value::Kind::Text:
         return numberOf(value.text());
     }
-    throw runtimeError(94);
+    throw runtimeError(RuntimeError::nullUsed);
 }
 
 QString CStr(const Value& value) {
@@ -71,13 +71,13 @@ QString CStr(const Value& value) {
     case Value::Kind::Text:
         return value.text();
     }
-    throw runtimeError(94);
+    throw runtimeError(RuntimeError::nullUsed);
 }
 
 Date CDate(const Value& value) {
     if (value.kind() != Value::Kind::Text) return dateFromDays(CDbl(value));
     const auto date = dateFromText(value.text());
-    if (!date) throw runtimeError(13);
+    if (!date) throw runtimeError(RuntimeError::typesDiffer);
     return *date;
 }
 

@@ -175,7 +175,7 @@ QString shortForm(QDate date) {
 
 QString dateText(Date date) {
     const QDate day = date.toQDate();
-    if (!day.isValid()) throw runtimeError(6);
+    if (!day.isValid()) throw runtimeError(RuntimeError::overflow);
     const bool hasTime = date.days != std::trunc(date.days);
     const QTime time = hasTime ? date.toQTime() : QTime(0, 0);
 

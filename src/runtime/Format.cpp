@@ -83,5 +83,5 @@ QString Format(const Value& value, const QString& pattern) {
     const QDate day = Date{*number}.toQDate();
     if (day.isValid()) return dateInPattern(day, pattern);
     if (isText) return value.text();
-    throw runtimeError(6);
+    throw runtimeError(RuntimeError::overflow);
 }

@@ -104,7 +104,7 @@ void Program::fail(const RuntimeError& error) {
     // A start that fails over a damaged page would fail again each time, and never reach the menu. What was
     // met after it may have been repaired from there, and has nothing to do with another error.
     const bool atStart = session().Beschaedigt && !session().Angemeldet;
-    const bool damaged = atStart || error.number == damagedFile;
+    const bool damaged = atStart || error.is(RuntimeError::damagedFile);
     if (damaged && session().AktDatenbank.isOpen()) runEvent([] { modStart::RepariereAufWunsch(); });
     if (!m_running) return;
     letGo();

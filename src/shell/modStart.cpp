@@ -43,9 +43,6 @@ void setzeBenutzer(const QString& name) {
     screen<Main>().StatusBar1->setPanelText(4, name);
 }
 
-constexpr int fileNotFound = 3024;
-constexpr int wrongPassword = 3031;
-
 /// Sizes were given in twips, fifteen to a pixel.
 constexpr int twips(int count) { return count / 15; }
 
@@ -66,13 +63,13 @@ void askForRepair() {
 
 void startFailed(const RuntimeError& error) {
     switch (error.number) {
-    case fileNotFound:
+    case RuntimeError::databaseNotFound.number:
         return tellEnd(
             u"ACHTUNG: Datenbank nicht gefunden ! Bitte stellen Sie sicher das sich die Datenbank im \n\r"_qs +
                 u"im Root - Verzeichnis von Uferwart befindet (z.B: C:\\...\\Uferwart\\uw01.mdb) ! "_qs +
                 u"Uferwart beendet sich jetzt !"_qs,
             u"Runtime - Error: %1"_qs.arg(error.number));
-    case wrongPassword:
+    case RuntimeError::wrongPassword.number:
         return tellEnd(u"ACHTUNG: Datenbank - Passwort nicht korrekt ! Uferwart beendet sich jetzt !"_qs);
     default:
         return askForRepair();
@@ -124,7 +121,7 @@ void continueAfterLogin() {
 void StarteUferwart() {
     try {
         OeffneDatenbank();
-        if (!modSicherung::DatenbankIstHeil()) throw runtimeError(damagedFile, u"uw01.mdb"_qs);
+        if (!modSicherung::DatenbankIstHeil()) throw runtimeError(RuntimeError::damagedFile, u"uw01.mdb"_qs);
         modNavigation::InitButtnBar();
         SetzeFensterGroesse();
         screen<Main>().Hide();

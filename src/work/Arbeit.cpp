@@ -86,11 +86,10 @@ namespace {
 /// Without a member on the screen there is no number to convert: what needs it is passed over.
 template<typename Statement>
 void soweitMitglied(Statement&& statement) {
-    constexpr int typesDiffer = 13;
     try {
         statement();
     } catch (const RuntimeError& error) {
-        if (error.number != typesDiffer) throw;
+        if (!error.is(RuntimeError::typesDiffer)) throw;
     }
 }
 

@@ -43,7 +43,7 @@ private:
 
     std::unique_ptr<Spreadsheet> reached(const QString& step, int error) {
         steps += step;
-        if (error != 0) throw runtimeError(error);
+        if (error != 0) throw RuntimeError{error, {}};
         return std::make_unique<Sheet>(steps);
     }
 };

@@ -46,7 +46,7 @@ private:
 
     void step(const QString& what, int error) {
         steps += what;
-        if (error != 0) throw runtimeError(error);
+        if (error != 0) throw RuntimeError{error, {}};
     }
     std::unique_ptr<WordProcessor> reached(const QString& what, int error) {
         step(what, error);

@@ -16,8 +16,6 @@
 
 namespace {
 
-RuntimeError printerError() { return {482, u"Druckerfehler"_qs}; }
-
 // On a sheet smaller than A4 the page shrinks; nothing is cut off.
 double unitOn(const QPaintDevice& device) {
     const double tenths = 254.0;
@@ -40,27 +38,28 @@ QVector<int> pagesOf(const ReportDocument& document, const PrintTarget& target) 
 
 void paintPages(QPagedPaintDevice& device, const ReportDocument& document, const QVector<int>& pages) {
     QPainter painter;
-    if (!painter.begin(&device)) throw printerError();
+    if (!painter.begin(&device)) throw runtimeError(RuntimeError::printerFailed);
     painter.scale(unitOn(device), unitOn(device));
     ReportPainter report(document, today());
     bool first = true;
     for (const int page : pages) {
-        if (!first && !device.newPage()) throw printerError();
+        if (!first && !device.newPage()) throw runtimeError(RuntimeError::printerFailed);
         report.paint(painter, page);
         first = false;
     }
-    if (!painter.end()) throw printerError();
+    if (!painter.end()) throw runtimeError(RuntimeError::printerFailed);
 }
 
 void printOn(QPrinter& printer, const ReportDocument& document, const QVector<int>& pages) {
     printer.setFullPage(true);
     paintPages(printer, document, pages);
-    if (printer.printerState() == QPrinter::Error) throw printerError();
+    if (printer.printerState() == QPrinter::Error) throw runtimeError(RuntimeError::printerFailed);
 }
 
 RuntimeError errorOf(const QSaveFile& file) {
-    if (!QFileInfo(file.fileName()).dir().exists()) return runtimeError(76);
-    return runtimeError(file.error() == QFileDevice::ResourceError ? 61 : 75);
+    if (!QFileInfo(file.fileName()).dir().exists()) return runtimeError(RuntimeError::pathNotFound);
+    return runtimeError(file.error() == QFileDevice::ResourceError ? RuntimeError::diskFull
+                                                                   : RuntimeError::pathFailed);
 }
 
 // By way of a file beside it, so that a full disk leaves what stood there before.
@@ -85,7 +84,7 @@ void printReport(const ReportDocument& document, const PrintTarget& target) {
     else if (target.printer)
         printOn(*target.printer, document, pages);
     else
-        throw printerError();
+        throw runtimeError(RuntimeError::printerFailed);
 }
 
 void saveReportAsPdf(const ReportDocument& document, const QString& file) {

@@ -14,7 +14,7 @@ ReportSection& Report::section(const QString& name) {
     for (ReportSection& section : m_sections) {
         if (section.name().toCaseFolded() == folded) return section;
     }
-    throw runtimeError(3265, name);
+    throw runtimeError(RuntimeError::itemNotFound, name);
 }
 
 ReportControl& Report::control(const QString& section, const QString& name) {

@@ -64,11 +64,11 @@ ReportControl& ReportControl::closing(QRgb ink) {
 }
 
 void ReportControl::setCaption(const QString& caption) {
-    if (m_kind != Kind::Label) throw runtimeError(438);
+    if (m_kind != Kind::Label) throw runtimeError(RuntimeError::noSuchProperty);
     m_caption = caption;
 }
 
 void ReportControl::setDataField(const QString& field) {
-    if (m_kind != Kind::Text && m_kind != Kind::Sum) throw runtimeError(438);
+    if (m_kind != Kind::Text && m_kind != Kind::Sum) throw runtimeError(RuntimeError::noSuchProperty);
     m_dataField = field;
 }

@@ -42,8 +42,9 @@ void ReportDocument::resolve(const ReportControl& control, std::vector<int>& fie
     fields.push_back(noField);
     if (control.dataField().isEmpty()) return;
     const std::optional<int> field = m_rows->fieldIndex(control.dataField());
-    if (!field) throw runtimeError(3265, control.dataField());
-    if (control.kind() == ReportControl::Kind::Sum && !m_rows->sum(*field)) throw runtimeError(13);
+    if (!field) throw runtimeError(RuntimeError::itemNotFound, control.dataField());
+    if (control.kind() == ReportControl::Kind::Sum && !m_rows->sum(*field))
+        throw runtimeError(RuntimeError::typesDiffer);
     fields.back() = *field;
 }
 

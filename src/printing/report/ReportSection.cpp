@@ -29,7 +29,7 @@ ReportControl& ReportSection::control(const QString& name) {
     for (ReportControl& control : m_controls) {
         if (control.name().toCaseFolded() == folded) return control;
     }
-    throw runtimeError(3265, name);
+    throw runtimeError(RuntimeError::itemNotFound, name);
 }
 
 void ReportSection::grow(std::size_t number, double points, int tenths) {

@@ -16,7 +16,7 @@ KeptErrorCount::~KeptErrorCount() { session().FehlerZaehler = m_count; }
 
 void ErrorTail::report(const RuntimeError& error) {
     if (session().Beendet) throw LeaveRoutine{};
-    if (error.number == damagedFile) session().Beschaedigt = true;
+    if (error.is(RuntimeError::damagedFile)) session().Beschaedigt = true;
     const QString title = u"Runtime - Error: %1"_qs.arg(error.number);
     qint16& count = session().FehlerZaehler;
     if (count < 0 || count >= boxesPerRoutine) {

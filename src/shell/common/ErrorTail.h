@@ -61,16 +61,14 @@ public:
     /// Thrown by the fifth error, caught by withErrorTail.
     struct LeaveRoutine {};
 
-    /// Shows the box; on the fifth error the last box, and leaves the routine.
+    /// Sets the session's `Beschaedigt` if the file is damaged. Shows the box; on the fifth error the last
+    /// box, and leaves the routine.
     void report(const RuntimeError& error);
 
 private:
     QString m_module;
     QString m_routine;
 };
-
-/// The number of an error over a damaged page. An error tail that meets it sets the session's `Beschaedigt`.
-constexpr int damagedFile = 3343;
 
 void beginErrorTail();
 

@@ -15,21 +15,23 @@ namespace cursors {
 namespace {
 
 /// In an open file, whose password was right, a page that does not fit the key is damaged.
-bool isDamage(const RuntimeError& error) { return error.number == 3343 || error.number == 3031; }
+bool isDamage(const RuntimeError& error) {
+    return error.is(RuntimeError::damagedFile) || error.is(RuntimeError::wrongPassword);
+}
 
 /// The same failures have other numbers when they keep a file from being opened.
 RuntimeError openError(const RuntimeError& error, const QString& path) {
     switch (error.number) {
-    case 3260:
-        return runtimeError(3045, path);
-    case 3027:
-        return runtimeError(3051, path);
-    case 3051:
-        return runtimeError(3051, path);
+    case RuntimeError::lockedByOther.number:
+        return runtimeError(RuntimeError::fileInUse, path);
+    case RuntimeError::readOnly.number:
+        return runtimeError(RuntimeError::cannotOpen, path);
+    case RuntimeError::cannotOpen.number:
+        return runtimeError(RuntimeError::cannotOpen, path);
     // Nothing was asked yet that could be too much: the library does not know the format.
-    case 3360:
-    case 3343:
-        return runtimeError(3343, path);
+    case RuntimeError::tooComplex.number:
+    case RuntimeError::damagedFile.number:
+        return runtimeError(RuntimeError::damagedFile, path);
     default:
         return error;
     }
@@ -86,7 +88,8 @@ void Connection::orDamaged(const QString& path, const QString& password, const s
         open();
     } catch (const RuntimeError& error) {
         m_database.reset();
-        if (error.number == 3031 && engine::fitsOtherPages(path, password)) throw runtimeError(3343, path);
+        if (error.is(RuntimeError::wrongPassword) && engine::fitsOtherPages(path, password))
+            throw runtimeError(RuntimeError::damagedFile, path);
         throw;
     }
 }
@@ -102,7 +105,7 @@ void Connection::requireTables(const QString& path) {
     engine::Statement named = prepare("SELECT 1 FROM sqlite_master WHERE type = 'table' AND name = ?1");
     for (const TableSpec& table : schemaTables()) {
         named.bind(1, table.name.toString());
-        if (!named.step()) throw runtimeError(3343, path);
+        if (!named.step()) throw runtimeError(RuntimeError::damagedFile, path);
         named.reset();
     }
 }
@@ -114,7 +117,8 @@ void Connection::leaveWriteAheadMode(const QString& path) {
         return statement.step() ? statement.text(0) : QString();
     };
     if (answer("PRAGMA journal_mode") != u"wal") return;
-    if (answer("PRAGMA journal_mode = DELETE") != u"delete") throw runtimeError(3045, path);
+    if (answer("PRAGMA journal_mode = DELETE") != u"delete")
+        throw runtimeError(RuntimeError::fileInUse, path);
 }
 
 /// The users go with their group. The file says so too, but the library can only enforce that together with

@@ -23,8 +23,7 @@ Value storableTruth(const Value& value) {
 }
 
 Value storable(FieldKind kind, const Value& value) {
-    if (kind == FieldKind::AutoNumber)
-        throw RuntimeError{3164, QStringLiteral("Feld kann nicht aktualisiert werden.")};
+    if (kind == FieldKind::AutoNumber) throw runtimeError(RuntimeError::fieldNotUpdatable);
     if (kind == FieldKind::Boolean) return storableTruth(value);
     if (value.isNull()) return {};
     switch (kind) {

@@ -4,14 +4,6 @@
 
 namespace cursors {
 
-namespace {
-
-RuntimeError notSupported() {
-    return {3251, QStringLiteral("Operation wird für diesen Objekttyp nicht unterstützt.")};
-}
-
-} // namespace
-
 Cursor::Cursor(std::shared_ptr<Connection> connection)
     : m_connection(std::move(connection)) {
     m_connection->add(this);
@@ -51,7 +43,10 @@ void Cursor::moveTo(Place place) {
     m_written.end();
 }
 
-RuntimeError Cursor::noRow() const { return runtimeError(m_place == Place::Deleted ? 3167 : 3021); }
+RuntimeError Cursor::noRow() const {
+    return runtimeError(m_place == Place::Deleted ? RuntimeError::recordDeleted
+                                                  : RuntimeError::noCurrentRecord);
+}
 
 Value Cursor::value(int column) {
     if (m_buffer.mode() == CopyBuffer::Mode::Adding) return m_buffer.initial(fieldOfColumn(column));
@@ -68,12 +63,12 @@ Value Cursor::value(int column) {
     return storedValue(column);
 }
 
-void Cursor::useIndex(const QString&) { throw notSupported(); }
+void Cursor::useIndex(const QString&) { throw runtimeError(RuntimeError::notSupported); }
 
-void Cursor::seek(const QString&, const Value&) { throw notSupported(); }
+void Cursor::seek(const QString&, const Value&) { throw runtimeError(RuntimeError::notSupported); }
 
 const TableSpec& Cursor::requireTarget() const {
-    if (target() == nullptr) throw runtimeError(3027);
+    if (target() == nullptr) throw runtimeError(RuntimeError::readOnly);
     return *target();
 }
 
@@ -85,9 +80,9 @@ void Cursor::edit() {
 }
 
 void Cursor::collect(const QString& name, const Value& value) {
-    if (m_buffer.mode() == CopyBuffer::Mode::Idle) throw runtimeError(3020);
+    if (m_buffer.mode() == CopyBuffer::Mode::Idle) throw runtimeError(RuntimeError::notEditing);
     const int field = fieldOfColumn(columnIndex(name));
-    if (field < 0) throw runtimeError(3027);
+    if (field < 0) throw runtimeError(RuntimeError::readOnly);
     m_buffer.set(field, value);
 }
 
@@ -121,7 +116,7 @@ void Cursor::write(Write write) {
 void Cursor::update() {
     switch (m_buffer.mode()) {
     case CopyBuffer::Mode::Idle:
-        throw runtimeError(3020);
+        throw runtimeError(RuntimeError::notEditing);
     case CopyBuffer::Mode::Adding:
         write([this](RowWriter& rows) { rows.insert(m_buffer); });
         break;

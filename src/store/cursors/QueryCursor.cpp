@@ -15,7 +15,7 @@ int QueryCursor::columnIndex(const QString& name) const {
     const auto& columns = m_rows.plan().columns;
     for (size_t i = 0; i < columns.size(); ++i)
         if (columns[i].name.compare(name, Qt::CaseInsensitive) == 0) return static_cast<int>(i);
-    throw runtimeError(3265, name);
+    throw runtimeError(RuntimeError::itemNotFound, name);
 }
 
 QStringList QueryCursor::columnNames() const {
@@ -80,7 +80,7 @@ void QueryCursor::start() {
 }
 
 void QueryCursor::moveFirst() {
-    if (place() == Place::Empty) throw runtimeError(3021);
+    if (place() == Place::Empty) throw runtimeError(RuntimeError::noCurrentRecord);
     const bool isRead = m_held.has_value() || m_stream == Stream::CurrentRow;
     if (isAt(0) && isRead) return stay();
     start();
@@ -101,7 +101,7 @@ void QueryCursor::countRest() {
 }
 
 void QueryCursor::moveLast() {
-    if (place() == Place::Empty) throw runtimeError(3021);
+    if (place() == Place::Empty) throw runtimeError(RuntimeError::noCurrentRecord);
     if (m_complete && isAt(m_reached - 1)) return stay();
     moveTo(Place::After);
     if (!m_complete) countRest();
@@ -151,7 +151,7 @@ void QueryCursor::walkTo(qint32 position) {
         m_reached = found;
     }
     m_rows->reset();
-    if (!m_held) throw runtimeError(3021);
+    if (!m_held) throw runtimeError(RuntimeError::noCurrentRecord);
 }
 
 void QueryCursor::afterRemove() {

@@ -4,14 +4,6 @@
 
 namespace cursors {
 
-namespace {
-
-RuntimeError nullKey() {
-    return {3058, QStringLiteral("Index oder Primärschlüssel kann keinen Nullwert enthalten.")};
-}
-
-} // namespace
-
 QByteArray RowWriter::insertSql() const {
     QByteArrayList names;
     QByteArrayList parameters;
@@ -26,7 +18,7 @@ QByteArray RowWriter::insertSql() const {
 void RowWriter::insert(const CopyBuffer& buffer) {
     // The engine would make up a number for a key that is Null.
     const bool givenKey = m_table.keyed && m_table.fields.front().kind != FieldKind::AutoNumber;
-    if (givenKey && buffer.initial(0).isNull()) throw nullKey();
+    if (givenKey && buffer.initial(0).isNull()) throw runtimeError(RuntimeError::nullKey);
     if (!m_insert) m_insert = m_connection.statement(insertSql());
     const int fields = static_cast<int>(m_table.fields.size());
     for (int field = 0; field < fields; ++field) m_insert->bind(field + 1, buffer.initial(field));
@@ -65,7 +57,7 @@ void RowWriter::remove(qint64 row) {
 }
 
 void RowWriter::requireOneRow() const {
-    if (m_connection.changes() != 1) throw runtimeError(3167);
+    if (m_connection.changes() != 1) throw runtimeError(RuntimeError::recordDeleted);
 }
 
 } // namespace cursors

@@ -31,7 +31,7 @@ bool TableCursor::goTo(qint64 firstRow) {
 
 int TableCursor::columnIndex(const QString& name) const {
     const int index = m_table.fieldIndex(name);
-    if (index < 0) throw runtimeError(3265, name);
+    if (index < 0) throw runtimeError(RuntimeError::itemNotFound, name);
     return index;
 }
 
@@ -85,7 +85,7 @@ qint32 TableCursor::absolutePosition() const {
 
 void TableCursor::useIndex(const QString& name) {
     if (!m_table.keyed || name.compare(u"PrimaryKey", Qt::CaseInsensitive) != 0)
-        throw runtimeError(3015, name);
+        throw runtimeError(RuntimeError::noSuchIndex, name);
     m_indexed = true;
 }
 
@@ -94,8 +94,8 @@ void TableCursor::seek(const QString& comparison, const Value& key) {
     m_noMatch = true;
     moveTo(Place::Nowhere);
     m_rows->reset();
-    if (!m_indexed) throw runtimeError(3019);
-    if (comparison != u"=") throw runtimeError(3001);
+    if (!m_indexed) throw runtimeError(RuntimeError::noIndexSet);
+    if (comparison != u"=") throw runtimeError(RuntimeError::badArgument);
     // No key is Null.
     if (key.isNull()) return;
     const qint32 number = CLng(key);

@@ -7,16 +7,6 @@
 
 namespace cursors {
 
-namespace {
-
-RuntimeError noneBegun() {
-    return {3034,
-            QStringLiteral("Es wurde versucht, eine Transaktion zu bestätigen oder rückgängig zu machen, "
-                           "ohne dass eine begonnen wurde.")};
-}
-
-} // namespace
-
 void WriteTransaction::join() {
     requireIntact();
     if (m_writers == 0) execute("BEGIN IMMEDIATE");
@@ -37,13 +27,13 @@ void WriteTransaction::leave() {
 }
 
 void WriteTransaction::begin() {
-    if (m_isHeld) throw RuntimeError{3251, QStringLiteral("Es ist schon eine Transaktion begonnen.")};
+    if (m_isHeld) throw runtimeError(RuntimeError::transactionBegun);
     join();
     m_isHeld = true;
 }
 
 void WriteTransaction::endHold() {
-    if (!std::exchange(m_isHeld, false)) throw noneBegun();
+    if (!std::exchange(m_isHeld, false)) throw runtimeError(RuntimeError::noTransaction);
 }
 
 void WriteTransaction::commit() {
@@ -65,7 +55,7 @@ void WriteTransaction::abandon() {
 
 /// Cursors that are still open write no more, and their ends commit nothing.
 void WriteTransaction::undo() {
-    m_lost = noneBegun();
+    m_lost = runtimeError(RuntimeError::noTransaction);
     m_isUndone = true;
     leave();
     if (isOpen()) execute("ROLLBACK");

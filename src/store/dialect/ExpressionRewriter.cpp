@@ -50,7 +50,7 @@ Operand ExpressionRewriter::read() {
 /// A number or a text alone is a comparison that was left unfinished.
 void ExpressionRewriter::requireTruth(const Operand& operand) const {
     if (operand.kind != FieldKind::Boolean && operand.kind != FieldKind::Untyped)
-        m_reader.fail(SyntaxFault::Operator);
+        m_reader.fail(RuntimeError::operatorExpected);
 }
 
 Operand ExpressionRewriter::readCondition() {
@@ -97,7 +97,7 @@ Operand ExpressionRewriter::readSigned() {
     m_reader.take();
     const TokenReader::Level level(m_reader);
     Operand operand = readSigned();
-    if (operand.isText()) throw unlikeKinds();
+    if (operand.isText()) throw runtimeError(RuntimeError::criteriaDiffer);
     if (!negative) return operand;
     const FieldKind kind = operand.kind == FieldKind::Boolean ? FieldKind::Long : operand.kind;
     return joined(operand, {}, "(- " + asNumber(operand) + ')', kind);
@@ -125,19 +125,19 @@ Operand ExpressionRewriter::readLiteral() {
 }
 
 Operand ExpressionRewriter::readBracketed() {
-    m_reader.expect(TokenKind::Open, SyntaxFault::General);
+    m_reader.expect(TokenKind::Open, RuntimeError::badExpression);
     Operand inner = m_reader.atWord(u"SELECT") ? readValueSelect(m_reader, m_scope) : read();
-    if (m_reader.at(TokenKind::Comma)) m_reader.fail(SyntaxFault::Comma);
-    m_reader.expect(TokenKind::Close, SyntaxFault::Operator);
+    if (m_reader.at(TokenKind::Comma)) m_reader.fail(RuntimeError::misplacedComma);
+    m_reader.expect(TokenKind::Close, RuntimeError::operatorExpected);
     return inner;
 }
 
 Operand ExpressionRewriter::readNamed() {
     // A word of the language where a value should stand: something is missing before it.
-    const QString name = m_reader.takeName(SyntaxFault::Operator);
+    const QString name = m_reader.takeName(RuntimeError::operatorExpected);
     if (m_reader.accept(TokenKind::Open)) return readAggregate(name);
     if (!m_reader.accept(TokenKind::Dot)) return fieldOperand(m_scope.resolve(name));
-    return fieldOperand(m_scope.resolve(name, m_reader.takeName(SyntaxFault::General)));
+    return fieldOperand(m_scope.resolve(name, m_reader.takeName(RuntimeError::badExpression)));
 }
 
 Operand ExpressionRewriter::fieldOperand(const FieldReference& reference) const {
@@ -149,10 +149,12 @@ Operand ExpressionRewriter::fieldOperand(const FieldReference& reference) const 
 Operand ExpressionRewriter::readAggregate(const QString& name) {
     const bool isCount = named(name, u"COUNT");
     const bool isSum = named(name, u"SUM");
-    if (!isCount && !isSum && !named(name, u"MIN") && !named(name, u"MAX")) throw unknownFunction(name);
-    if (m_aggregates == Aggregates::Refused) throw misplacedAggregate(m_reader.clause());
+    if (!isCount && !isSum && !named(name, u"MIN") && !named(name, u"MAX"))
+        throw runtimeError(RuntimeError::unknownFunction, name);
+    if (m_aggregates == Aggregates::Refused)
+        throw syntaxError(RuntimeError::misplacedAggregate, m_reader.clause());
     const Operand argument = readAggregateArgument();
-    if (isSum && argument.isText()) throw unlikeKinds();
+    if (isSum && argument.isText()) throw runtimeError(RuntimeError::criteriaDiffer);
     const QByteArray inner = isSum ? asNumber(argument) : collated(argument);
     Operand result{
         .sql = name.toUpper().toLatin1() + '(' + inner + ')', .kind = argument.kind, .aggregate = true};
@@ -163,7 +165,7 @@ Operand ExpressionRewriter::readAggregate(const QString& name) {
 
 Operand ExpressionRewriter::readAggregateArgument() {
     Operand argument = ExpressionRewriter(m_reader, m_scope, Aggregates::Refused).read();
-    m_reader.expect(TokenKind::Close, SyntaxFault::Operator);
+    m_reader.expect(TokenKind::Close, RuntimeError::operatorExpected);
     return argument;
 }
 

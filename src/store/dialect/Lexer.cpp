@@ -98,7 +98,7 @@ private:
             doubled = true;
             end = m_source.indexOf(u'\'', end + 2);
         }
-        if (end < 0) throw syntaxError(SyntaxFault::Text, rest());
+        if (end < 0) throw syntaxError(RuntimeError::badText, rest());
         QString text = m_source.sliced(start, end - start).toString();
         if (doubled) text.replace(QStringLiteral("''"), QStringLiteral("'"));
         addLiteral(TokenKind::TextLiteral, end + 1 - m_place, std::move(text), textMark);
@@ -137,7 +137,7 @@ private:
             return addLiteral(TokenKind::NumberLiteral, length, number, longMark);
         }
         const double number = digits.toDouble();
-        if (!std::isfinite(number)) throw syntaxError(SyntaxFault::General, rest());
+        if (!std::isfinite(number)) throw syntaxError(RuntimeError::badExpression, rest());
         if (whole && number <= std::numeric_limits<qint32>::max())
             return addLiteral(TokenKind::NumberLiteral, length, static_cast<qint32>(number), longMark);
         addLiteral(TokenKind::NumberLiteral, length, number, doubleMark);
@@ -145,9 +145,9 @@ private:
 
     void readDate() {
         const qsizetype end = m_source.indexOf(u'#', m_place + 1);
-        if (end < 0) throw syntaxError(SyntaxFault::Date, rest());
+        if (end < 0) throw syntaxError(RuntimeError::badDate, rest());
         const auto date = readDateLiteral(m_source.sliced(m_place + 1, end - m_place - 1));
-        if (!date) throw syntaxError(SyntaxFault::Date, m_source.sliced(m_place, end + 1 - m_place));
+        if (!date) throw syntaxError(RuntimeError::badDate, m_source.sliced(m_place, end + 1 - m_place));
         addLiteral(TokenKind::DateLiteral, end + 1 - m_place, *date, dateMark);
     }
 
@@ -180,7 +180,7 @@ private:
         default:
             break;
         }
-        throw syntaxError(SyntaxFault::General, rest());
+        throw syntaxError(RuntimeError::badExpression, rest());
     }
 
     QStringView rest() const { return m_source.sliced(m_place); }

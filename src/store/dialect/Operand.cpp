@@ -13,7 +13,8 @@ Operand joined(const Operand& left, const Operand& right, QByteArray sql, FieldK
 }
 
 void requireComparable(const Operand& left, const Operand& right) {
-    if ((left.isText() && right.isNumeric()) || (left.isNumeric() && right.isText())) throw unlikeKinds();
+    if ((left.isText() && right.isNumeric()) || (left.isNumeric() && right.isText()))
+        throw runtimeError(RuntimeError::criteriaDiffer);
 }
 
 QByteArray collated(const Operand& operand) {

@@ -21,7 +21,7 @@ FieldReference Scope::resolve(const QString& fieldName) const {
     for (const Source& source : m_sources) {
         const int index = source.table->fieldIndex(fieldName);
         if (index < 0) continue;
-        if (found != nullptr) throw ambiguousField(fieldName);
+        if (found != nullptr) throw runtimeError(RuntimeError::ambiguousField, fieldName);
         found = &source;
         field = index;
     }

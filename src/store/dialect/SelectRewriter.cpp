@@ -54,16 +54,16 @@ private:
 /// The tables stand behind the columns but must be known before them.
 void SelectRewriter::read() {
     m_reader.beginClause();
-    m_reader.expectWord(u"SELECT", SyntaxFault::NoSelect);
+    m_reader.expectWord(u"SELECT", RuntimeError::noSelect);
     const size_t items = m_reader.place();
     const size_t from = m_reader.findFrom();
     m_reader.moveTo(from);
-    m_reader.expectWord(u"FROM", SyntaxFault::General);
+    m_reader.expectWord(u"FROM", RuntimeError::badExpression);
     readSources();
     const size_t behindSources = m_reader.place();
     m_reader.moveTo(items);
     readItems();
-    if (m_reader.place() != from) m_reader.fail(SyntaxFault::Operator);
+    if (m_reader.place() != from) m_reader.fail(RuntimeError::operatorExpected);
     m_reader.moveTo(behindSources);
     if (m_reader.acceptWord(u"WHERE")) {
         m_reader.beginClause();
@@ -78,12 +78,12 @@ void SelectRewriter::readSources() {
 }
 
 void SelectRewriter::readSource() {
-    const QString tableName = m_reader.takeName(SyntaxFault::From);
+    const QString tableName = m_reader.takeName(RuntimeError::badFrom);
     const TableSpec* table = findTable(tableName);
-    if (table == nullptr) throw runtimeError(3078, tableName);
-    QString name = m_reader.atName() ? m_reader.takeName(SyntaxFault::From) : tableName;
-    if (m_scope.findSource(name) != nullptr) m_reader.fail(SyntaxFault::From);
-    if (m_scope.sources().size() == mostTables) throw tooComplex();
+    if (table == nullptr) throw runtimeError(RuntimeError::tableNotFound, tableName);
+    QString name = m_reader.atName() ? m_reader.takeName(RuntimeError::badFrom) : tableName;
+    if (m_scope.findSource(name) != nullptr) m_reader.fail(RuntimeError::badFrom);
+    if (m_scope.sources().size() == mostTables) throw runtimeError(RuntimeError::tooComplex);
     m_scope.add({table, std::move(name), m_reader.nextAlias()});
 }
 
@@ -110,7 +110,7 @@ void SelectRewriter::readItem() {
 }
 
 void SelectRewriter::add(Item item) {
-    if (m_items.size() == mostColumns) throw tooManyFields();
+    if (m_items.size() == mostColumns) throw runtimeError(RuntimeError::tooManyFields);
     m_items.push_back(std::move(item));
 }
 
@@ -138,7 +138,8 @@ bool SelectRewriter::isAggregate() const {
 void SelectRewriter::checkAggregates() const {
     if (!isAggregate()) return;
     for (const Item& item : m_items)
-        if (!item.operand.bareField.isEmpty()) throw fieldOutsideAggregate(item.operand.bareField);
+        if (!item.operand.bareField.isEmpty())
+            throw runtimeError(RuntimeError::fieldOutsideAggregate, item.operand.bareField);
 }
 
 QByteArray SelectRewriter::columns() const {
@@ -173,7 +174,7 @@ SelectPlan SelectRewriter::plan() const {
 }
 
 const Item& SelectRewriter::onlyItem() const {
-    if (m_items.size() != 1) throw tooManyColumns();
+    if (m_items.size() != 1) throw runtimeError(RuntimeError::tooManyColumns);
     return m_items.front();
 }
 
@@ -185,8 +186,8 @@ Operand SelectRewriter::value() const {
 }
 
 void requireEnd(TokenReader& reader) {
-    if (reader.at(TokenKind::Comma)) reader.fail(SyntaxFault::Comma);
-    if (!reader.at(TokenKind::End)) reader.fail(SyntaxFault::Operator);
+    if (reader.at(TokenKind::Comma)) reader.fail(RuntimeError::misplacedComma);
+    if (!reader.at(TokenKind::End)) reader.fail(RuntimeError::operatorExpected);
 }
 
 } // namespace
@@ -194,7 +195,7 @@ void requireEnd(TokenReader& reader) {
 SelectPlan rewriteSelect(QStringView source, const LexedStatement& statement) {
     // Many times what a screen can put together, and little enough to be refused in no time.
     constexpr size_t mostTokens = 10'000;
-    if (statement.tokens.size() > mostTokens) throw tooComplex();
+    if (statement.tokens.size() > mostTokens) throw runtimeError(RuntimeError::tooComplex);
     TokenReader reader(source, statement);
     SelectRewriter select(reader, nullptr);
     select.read();

@@ -48,11 +48,11 @@ bool TokenReader::acceptWord(QStringView word) {
     return true;
 }
 
-void TokenReader::expect(TokenKind kind, SyntaxFault fault) {
+void TokenReader::expect(TokenKind kind, const RuntimeError::Kind& fault) {
     if (!accept(kind)) fail(fault);
 }
 
-void TokenReader::expectWord(QStringView word, SyntaxFault fault) {
+void TokenReader::expectWord(QStringView word, const RuntimeError::Kind& fault) {
     if (!acceptWord(word)) fail(fault);
 }
 
@@ -61,7 +61,7 @@ bool TokenReader::atName(size_t ahead) const {
     return token.kind == TokenKind::Name && !isLanguageWord(textOf(token));
 }
 
-QString TokenReader::takeName(SyntaxFault fault) {
+QString TokenReader::takeName(const RuntimeError::Kind& fault) {
     if (!atName()) fail(fault);
     return textOf(take()).toString();
 }
@@ -83,14 +83,14 @@ size_t TokenReader::findFrom() const {
     return tokens.size() - 1;
 }
 
-void TokenReader::fail(SyntaxFault fault) const { throw syntaxError(fault, clause()); }
+void TokenReader::fail(const RuntimeError::Kind& fault) const { throw syntaxError(fault, clause()); }
 
 QStringView TokenReader::clause() const { return m_source.sliced(m_clause); }
 
 TokenReader::Level::Level(TokenReader& reader)
     : m_reader(reader) {
     constexpr int deepest = 50;
-    if (reader.m_depth >= deepest) reader.fail(SyntaxFault::Nesting);
+    if (reader.m_depth >= deepest) reader.fail(RuntimeError::nestedTooDeep);
     ++reader.m_depth;
 }
 

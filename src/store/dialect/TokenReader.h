@@ -18,12 +18,12 @@ public:
     bool accept(TokenKind kind);
     bool atWord(QStringView word, size_t ahead = 0) const;
     bool acceptWord(QStringView word);
-    void expect(TokenKind kind, SyntaxFault fault);
-    void expectWord(QStringView word, SyntaxFault fault);
+    void expect(TokenKind kind, const RuntimeError::Kind& fault);
+    void expectWord(QStringView word, const RuntimeError::Kind& fault);
 
     /// True for a name that is not one of the language's own words.
     bool atName(size_t ahead = 0) const;
-    QString takeName(SyntaxFault fault);
+    QString takeName(const RuntimeError::Kind& fault);
 
     const Value& literal(const Token& token) const;
 
@@ -35,7 +35,7 @@ public:
 
     /// What is read from here on is named in errors.
     void beginClause() { m_clause = peek().start; }
-    [[noreturn]] void fail(SyntaxFault fault) const;
+    [[noreturn]] void fail(const RuntimeError::Kind& fault) const;
     QStringView clause() const;
 
     /// Counts a level of nesting while it lives. Error 3075 when a statement goes so deep that it might

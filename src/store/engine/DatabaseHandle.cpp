@@ -19,7 +19,7 @@ DatabaseHandle openHandle(const QByteArray& name, int flags) {
     // The program has one thread; without locks of its own the library hands out columns much faster.
     const int code = sqlite3_open_v2(name.constData(), &database, flags | SQLITE_OPEN_NOMUTEX, nullptr);
     DatabaseHandle handle(database);
-    if (database == nullptr) throw runtimeError(7);
+    if (database == nullptr) throw runtimeError(RuntimeError::outOfMemory);
     if (code != SQLITE_OK) throw sqliteError(database);
     sqlite3_extended_result_codes(database, 1);
     sqlite3_busy_timeout(database, busyMilliseconds);
@@ -33,13 +33,12 @@ DatabaseHandle openFile(const QString& path, Access access) {
 
 void setKey(sqlite3* database, const QString& password) {
     // The library takes no empty key.
-    if (password.isEmpty()) throw runtimeError(3031);
+    if (password.isEmpty()) throw runtimeError(RuntimeError::wrongPassword);
     const QByteArray key = password.toUtf8();
     const int code = sqlite3_key(database, key.constData(), static_cast<int>(key.size()));
     if (code != SQLITE_OK) throw sqliteError(database);
     // A library without encryption would take any key, and write in the clear.
-    if (!Statement(database, "PRAGMA cipher_version").step())
-        throw RuntimeError{3000, QStringLiteral("Die Datenbankbibliothek kann nicht verschlüsseln.")};
+    if (!Statement(database, "PRAGMA cipher_version").step()) throw runtimeError(RuntimeError::noEncryption);
     // SQLCipher 4 has another format of its own; SQLCipher 3 ignores both settings.
     Statement(database, "PRAGMA cipher_compatibility = 3").run();
     // SQLCipher 4 writes each page that it can't read to the terminal.

@@ -32,7 +32,7 @@ bool fitsFirstPage(sqlite3* database, const QString& password) {
     try {
         Statement(database, "PRAGMA user_version").step();
     } catch (const RuntimeError& error) {
-        return error.number != 3031;
+        return !error.is(RuntimeError::wrongPassword);
     }
     return true;
 }
@@ -40,7 +40,7 @@ bool fitsFirstPage(sqlite3* database, const QString& password) {
 void copyInto(const QString& target, const QByteArray& content) {
     QFile copy(target);
     const bool written = copy.open(QIODevice::WriteOnly) && copy.write(content) == content.size();
-    if (!written || !copy.flush()) throw runtimeError(3026);
+    if (!written || !copy.flush()) throw runtimeError(RuntimeError::noDiskSpace);
 }
 
 /// A first page that is itself half-written fits no key, but the journal has what it was. A copy shows it.
@@ -51,7 +51,7 @@ bool fitsOnceTakenBack(const QString& path, const QByteArray& content, const QSt
     const QString file = behindLinks(path);
     for (const QLatin1String ending : {rollbackEnding, logEnding})
         if (QFile::exists(file + ending) && !QFile::copy(file + ending, copy + ending))
-            throw runtimeError(3026);
+            throw runtimeError(RuntimeError::noDiskSpace);
     const DatabaseHandle handle = openHandle(copy.toUtf8(), SQLITE_OPEN_READWRITE);
     return fitsFirstPage(handle.get(), password) && QFileInfo(copy).size() > 0;
 }
@@ -73,7 +73,7 @@ void requireKeyOfInterrupted(const QString& path, const QString& password) {
     if (fitsFirstPage(handle.get(), password)) return;
     const RawContent content(handle.get());
     const QByteArray bytes = content.read(0, static_cast<qsizetype>(content.size()));
-    if (!fitsOnceTakenBack(path, bytes, password)) throw runtimeError(3031);
+    if (!fitsOnceTakenBack(path, bytes, password)) throw runtimeError(RuntimeError::wrongPassword);
 }
 
 } // namespace engine

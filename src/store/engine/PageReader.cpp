@@ -15,7 +15,6 @@ namespace {
 
 /// More than any table has.
 constexpr int fieldCount = 24;
-constexpr int damaged = 3343;
 
 /// A field that a row ends before shows its default, which no row of ours holds.
 QByteArray tableDefinition() {
@@ -25,7 +24,7 @@ QByteArray tableDefinition() {
 }
 
 void writeAll(QFile& file, const QByteArray& bytes) {
-    if (file.write(bytes) != bytes.size() || !file.flush()) throw runtimeError(3026);
+    if (file.write(bytes) != bytes.size() || !file.flush()) throw runtimeError(RuntimeError::noDiskSpace);
 }
 
 void execute(sqlite3* database, const QByteArray& sql) { Statement(database, sql).run(); }
@@ -47,7 +46,7 @@ std::optional<bool> tryStep(Statement& statement) {
     try {
         return statement.step();
     } catch (const RuntimeError& error) {
-        if (error.number != damaged) throw;
+        if (!error.is(RuntimeError::damagedFile)) throw;
         return std::nullopt;
     }
 }
@@ -56,9 +55,9 @@ std::optional<bool> tryStep(Statement& statement) {
 
 PageReader::PageReader(const RawContent& original, const QString& password, int mostPages)
     : m_copy(m_folder.filePath(QStringLiteral("pages"))) {
-    if (!m_folder.isValid()) throw runtimeError(75, m_folder.path());
+    if (!m_folder.isValid()) throw runtimeError(RuntimeError::pathFailed, m_folder.path());
     m_pageCount = static_cast<int>(std::min<qint64>(original.size() / pageBytes, mostPages));
-    if (m_pageCount == 0) throw runtimeError(3056);
+    if (m_pageCount == 0) throw runtimeError(RuntimeError::cannotBeRepaired);
     growCopy(original.read(0, saltBytes), password);
     fillCopy(original);
     execute(m_pointing.get(), "PRAGMA writable_schema = ON");
@@ -72,12 +71,12 @@ PageReader::PageReader(const RawContent& original, const QString& password, int 
 
 void PageReader::growCopy(const QByteArray& salt, const QString& password) {
     QFile copy(m_copy);
-    if (!copy.open(QIODevice::ReadWrite)) throw runtimeError(3026);
+    if (!copy.open(QIODevice::ReadWrite)) throw runtimeError(RuntimeError::noDiskSpace);
     // SQLCipher 3 takes the salt from the file while keying. SQLCipher 4 keys at the first page, for which it
     // must be told the salt of an empty file.
     writeAll(copy, salt);
     m_pointing = openWithKey(m_copy, password);
-    if (!copy.resize(0)) throw runtimeError(3026);
+    if (!copy.resize(0)) throw runtimeError(RuntimeError::noDiskSpace);
     execute(m_pointing.get(), "PRAGMA cipher_salt = \"x'" + salt.toHex() + "'\"");
     forgetSafety(m_pointing.get());
     execute(m_pointing.get(), tableDefinition());
@@ -89,14 +88,14 @@ void PageReader::growCopy(const QByteArray& salt, const QString& password) {
 
 void PageReader::fillCopy(const RawContent& original) const {
     QFile copy(m_copy);
-    if (!copy.open(QIODevice::ReadWrite)) throw runtimeError(3026);
+    if (!copy.open(QIODevice::ReadWrite)) throw runtimeError(RuntimeError::noDiskSpace);
     const qint64 end = copy.size();
     for (qint64 at = pageBytes; at < end; at += pageBytes) {
         // Pages that the copy has beyond the original count as damaged: whole ones full of zeros would be
         // taken for the rest of a row.
         const bool isThere = at < m_pageCount * pageBytes;
         const QByteArray page = isThere ? original.read(at, pageBytes) : QByteArray();
-        if (!copy.seek(at)) throw runtimeError(3026);
+        if (!copy.seek(at)) throw runtimeError(RuntimeError::noDiskSpace);
         writeAll(copy, page.leftJustified(pageBytes, 'x'));
     }
 }
@@ -141,13 +140,12 @@ bool PageReader::rowsOf(int page, const std::function<bool(const Statement&)>& t
 bool fitsOtherPages(const QString& path, const QString& password) {
     // Enough to meet pages of any kind.
     constexpr int samplePages = 64;
-    constexpr int diskError = 3043;
     try {
         PageReader pages(RawContent(path), password, samplePages);
         for (int page = 2; page <= pages.pageCount(); ++page)
             if (pages.rowsOf(page, [](const Statement&) { return false; })) return true;
     } catch (const RuntimeError& error) {
-        if (error.number == diskError) throw;
+        if (error.is(RuntimeError::diskFailed)) throw;
         // Without room for the copy it can't be told.
     }
     return false;

@@ -42,7 +42,7 @@ void RawContent::learnSize() {
 }
 
 void RawContent::lock() {
-    if (sqlite3_db_readonly(m_opened.get(), "main") == 1) throw runtimeError(3027);
+    if (sqlite3_db_readonly(m_opened.get(), "main") == 1) throw runtimeError(RuntimeError::readOnly);
     for (const int level : {SQLITE_LOCK_SHARED, SQLITE_LOCK_RESERVED, SQLITE_LOCK_EXCLUSIVE})
         check(m_file->pMethods->xLock(m_file, level));
     // Another process may have written until now.
@@ -68,7 +68,7 @@ void RawContent::copyTo(const QString& path, QFileDevice::Permissions permission
     // Set while the copy is empty. A stick that knows no permissions gets a copy all the same.
     copy.setPermissions(permissions);
     whole = whole && forEachChunk([&](const QByteArray& bytes) { return copy.write(bytes) == bytes.size(); });
-    if (!whole || !copy.commit()) throw runtimeError(3026);
+    if (!whole || !copy.commit()) throw runtimeError(RuntimeError::noDiskSpace);
 }
 
 } // namespace engine

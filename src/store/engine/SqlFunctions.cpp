@@ -16,8 +16,8 @@ namespace engine {
 
 namespace {
 
-void reportError(sqlite3_context* context, int number) {
-    const QByteArray mark = errorMark(number);
+void reportError(sqlite3_context* context, const RuntimeError& error) {
+    const QByteArray mark = errorMark(error);
     sqlite3_result_error(context, mark.constData(), static_cast<int>(mark.size()));
 }
 
@@ -44,7 +44,7 @@ void like(sqlite3_context* context, int, sqlite3_value** arguments) noexcept {
         sqlite3_result_int(context, pattern->matches(textOf(arguments[0])) ? 1 : 0);
         sqlite3_set_auxdata(context, 1, pattern.release(), deletePattern);
     } catch (const RuntimeError& error) {
-        reportError(context, error.number);
+        reportError(context, error);
     } catch (const std::bad_alloc&) {
         sqlite3_result_error_nomem(context);
     }
@@ -59,7 +59,7 @@ struct SingleValue {
 void takeSingle(sqlite3_context* context, int, sqlite3_value** arguments) noexcept {
     auto* single = static_cast<SingleValue*>(sqlite3_aggregate_context(context, sizeof(SingleValue)));
     if (single == nullptr) return sqlite3_result_error_nomem(context);
-    if (single->seen) return reportError(context, 3354);
+    if (single->seen) return reportError(context, runtimeError(RuntimeError::tooManyRows));
     single->seen = true;
     single->value = sqlite3_value_dup(arguments[0]);
     if (single->value == nullptr) sqlite3_result_error_nomem(context);

@@ -18,6 +18,6 @@ RuntimeError sqliteError(int extendedCode);
 RuntimeError prepareError(sqlite3* database);
 
 /// How a function of ours that runs inside a statement reports an error of its own: this text as its message.
-QByteArray errorMark(int number);
+QByteArray errorMark(const RuntimeError& error);
 
 } // namespace engine

@@ -29,7 +29,7 @@ Value storedInteger(qint64 number, FieldKind kind) {
         return Date{static_cast<double>(number)};
     case FieldKind::AutoNumber:
     case FieldKind::Long:
-        if (!fitsLong(number)) throw runtimeError(6);
+        if (!fitsLong(number)) throw runtimeError(RuntimeError::overflow);
         return static_cast<qint32>(number);
     case FieldKind::Text:
         return QString::number(number);

@@ -10,9 +10,6 @@
 
 namespace {
 
-constexpr int definitionUnknown = 3001;
-constexpr int copyFailed = 75;
-
 /// A file and its copy, which the same connection knows as main and copy.
 class Compaction {
 public:
@@ -54,7 +51,8 @@ Compaction::Compaction(const QString& source, const QString& target, const QStri
 void Compaction::makeEmptyCopy(const QString& source) const {
     QFile copy(m_target.path());
     const bool made = copy.open(QIODevice::WriteOnly | QIODevice::NewOnly);
-    if (!made || !copy.setPermissions(QFile::permissions(source))) throw runtimeError(70);
+    if (!made || !copy.setPermissions(QFile::permissions(source)))
+        throw runtimeError(RuntimeError::accessDenied);
 }
 
 void Compaction::attachCopy(const QString& password) {
@@ -85,7 +83,7 @@ void Compaction::create(const SchemaObject& object) {
          {"CREATE TABLE ", "CREATE INDEX ", "CREATE UNIQUE INDEX ", "CREATE VIEW ", "CREATE TRIGGER "})
         if (object.sql.startsWith(kind))
             return m_connection.execute(kind + "copy." + object.sql.sliced(kind.size()));
-    throw runtimeError(definitionUnknown);
+    throw runtimeError(RuntimeError::badArgument);
 }
 
 /// Where both tables are alike, the library hands the rows over as they are stored.
@@ -137,7 +135,7 @@ void Compaction::verify() {
     for (auto table = m_counts.cbegin(); table != m_counts.cend(); ++table)
         whole = whole && hasRows(table.key(), table.value());
     // Not the number of a damaged file: the original is whole, and nothing in it is to be guessed.
-    if (!whole) throw runtimeError(copyFailed);
+    if (!whole) throw runtimeError(RuntimeError::pathFailed);
 }
 
 /// The lock on the original outlasts the transaction, until the connection ends: what another process wrote
@@ -168,14 +166,13 @@ void restoreParametersOf(const QString& target, const QString& password) {
 
 std::shared_ptr<const void> compactFile(const QString& source, const QString& target, const QString& password,
                                         const QString& keptIn) {
-    constexpr int damaged = 3343;
     try {
         const auto compaction = std::make_shared<Compaction>(source, target, password);
         compaction->run();
         if (!keptIn.isEmpty()) restoreParametersOf(target, password);
         return compaction;
     } catch (const RuntimeError& error) {
-        if (error.number != damaged || keptIn.isEmpty()) throw;
+        if (!error.is(RuntimeError::damagedFile) || keptIn.isEmpty()) throw;
     }
     return salvageFile(source, target, password, keptIn);
 }

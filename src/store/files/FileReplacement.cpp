@@ -15,8 +15,6 @@
 
 namespace {
 
-constexpr int accessDenied = 75;
-
 /// Where the platform keeps what was written to a file, or entered in a folder, back until it is told
 /// otherwise.
 void settle(const QString& path) {
@@ -73,7 +71,7 @@ void replaceDatabase(const QString& newFile, const QString& oldPath) {
     if (!done) {
         for (const QString& journal : aside) QFile::rename(nameAside(journal), journal);
         QFile::remove(newFile);
-        throw runtimeError(accessDenied);
+        throw runtimeError(RuntimeError::pathFailed);
     }
     settleFolderOf(oldFile);
     settleFolderOf(newFile);

@@ -12,7 +12,6 @@
 namespace {
 
 constexpr qsizetype copiesKept = 10;
-constexpr int accessDenied = 75;
 
 constexpr QStringView timeFormat = u"yyyy-MM-dd HH.mm.ss";
 
@@ -86,7 +85,7 @@ QString unfinishedPath(const QString& file, const QString& folder) {
 /// Makes the folder if it is missing, and takes away what killed processes left there. Gives the path at
 /// which a copy grows.
 QString prepareFolder(const QString& file, const QString& folder, const CopyNames& names) {
-    if (!QDir(folder).exists() && !QDir().mkdir(folder)) throw runtimeError(accessDenied, folder);
+    if (!QDir(folder).exists() && !QDir().mkdir(folder)) throw runtimeError(RuntimeError::pathFailed);
     const QString unfinished = unfinishedPath(file, folder);
     names.sweep(unfinished);
     return unfinished;
@@ -101,7 +100,7 @@ bool equals(const engine::RawContent& content, const QString& path) {
 /// Reads every page of a copy, each of which carries a check sum of its own.
 void requireSound(const QString& path, const QString& password) {
     cursors::Connection copy(path, password, cursors::Connection::Access::ReadOnly);
-    if (!copy.isSound()) throw runtimeError(3343, path);
+    if (!copy.isSound()) throw runtimeError(RuntimeError::damagedFile, path);
 }
 
 void removeOldest(const CopyNames& names) {

@@ -25,10 +25,11 @@ std::shared_ptr<const void> salvageFile(const QString& source, const QString& ta
     content->lock();
     engine::PageReader pages(*content, password, std::numeric_limits<int>::max());
     UnfinishedFile file(target, password);
-    if (!QFile::setPermissions(target, QFile::permissions(source))) throw runtimeError(70);
+    if (!QFile::setPermissions(target, QFile::permissions(source)))
+        throw runtimeError(RuntimeError::accessDenied);
     createTables(file.connection());
     PageSweep sweep(pages, file.connection());
-    if (!sweep.run()) throw runtimeError(3056, source);
+    if (!sweep.run()) throw runtimeError(RuntimeError::cannotBeRepaired, source);
     raiseCounters(file.connection(), sweep.counters());
     restoreEssentials(file.connection());
     keepFileBefore(QStringLiteral("Reparatur"), *content, source, keptIn, now());

@@ -11,8 +11,8 @@ UnfinishedPath::UnfinishedPath(const QString& path)
     : m_path(path) {
     const QFileInfo file(path);
     // A link that leads nowhere would be followed.
-    if (file.exists() || file.isSymLink()) throw runtimeError(3204, path);
-    if (!file.absoluteDir().exists()) throw runtimeError(3044, file.absolutePath());
+    if (file.exists() || file.isSymLink()) throw runtimeError(RuntimeError::databaseExists, path);
+    if (!file.absoluteDir().exists()) throw runtimeError(RuntimeError::badPath, file.absolutePath());
 }
 
 UnfinishedPath::~UnfinishedPath() {
@@ -31,7 +31,7 @@ void UnfinishedFile::finish() {
     m_connection.execute("COMMIT");
     m_connection.execute("PRAGMA shrink_memory");
     engine::Statement check = m_connection.prepare("PRAGMA integrity_check");
-    if (!check.step() || check.text(0) != u"ok") throw runtimeError(3343, m_path.path());
+    if (!check.step() || check.text(0) != u"ok") throw runtimeError(RuntimeError::damagedFile, m_path.path());
     check.reset();
     m_connection.close();
     m_path.keep();

@@ -18,7 +18,7 @@ Database Workspace::OpenDatabase(const QString& path, bool, bool readOnly, const
 /// call.
 cursors::Connection& Workspace::opened() const {
     const auto connection = m_opened->lock();
-    if (connection == nullptr || !connection->isOpen()) throw runtimeError(91);
+    if (connection == nullptr || !connection->isOpen()) throw runtimeError(RuntimeError::objectNotSet);
     return *connection;
 }
 
@@ -29,7 +29,7 @@ void Workspace::CommitTrans() { opened().transaction().commit(); }
 void Workspace::Rollback() { opened().transaction().rollback(); }
 
 Workspace DBEngine::Workspaces(int index) {
-    if (index != 0) throw runtimeError(9);
+    if (index != 0) throw runtimeError(RuntimeError::outOfRange);
     return {};
 }
 

@@ -18,15 +18,14 @@ bool Database::isSound() const {
 }
 
 Recordset Database::OpenRecordset(const QString& nameOrSelect, RecordsetType type) {
-    if (!isOpen()) throw runtimeError(91);
-    if (type == dbOpenDynaset)
-        return Recordset(std::make_shared<cursors::QueryCursor>(m_connection, nameOrSelect));
+    if (!isOpen()) throw runtimeError(RuntimeError::objectNotSet);
+    if (type == dbOpenDynaset) return Recordset(std::make_shared<cursors::QueryCursor>(m_connection, nameOrSelect));
     const TableSpec* table = findTable(nameOrSelect);
-    if (table == nullptr) throw runtimeError(3078, nameOrSelect);
+    if (table == nullptr) throw runtimeError(RuntimeError::tableNotFound, nameOrSelect);
     return Recordset(std::make_shared<cursors::TableCursor>(m_connection, *table));
 }
 
 void Database::Close() {
-    if (!isOpen()) throw runtimeError(91);
+    if (!isOpen()) throw runtimeError(RuntimeError::objectNotSet);
     m_connection->close();
 }

@@ -3,7 +3,7 @@
 #include "Cursor.h"
 
 Value Recordset::Field::Value() const {
-    if (!m_cursor->isOpen()) throw runtimeError(91);
+    if (!m_cursor->isOpen()) throw runtimeError(RuntimeError::objectNotSet);
     return m_cursor->value(m_column);
 }
 
@@ -11,7 +11,7 @@ Recordset::Recordset(std::shared_ptr<cursors::Cursor> cursor)
     : m_cursor(std::move(cursor)) {}
 
 cursors::Cursor& Recordset::cursor() const {
-    if (m_cursor == nullptr || !m_cursor->isOpen()) throw runtimeError(91);
+    if (m_cursor == nullptr || !m_cursor->isOpen()) throw runtimeError(RuntimeError::objectNotSet);
     return *m_cursor;
 }
 

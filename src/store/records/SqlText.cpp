@@ -4,16 +4,17 @@
 
 namespace {
 
-/// `place` ends the error's description.
-QString quotedOr(const QString& text, const QString& place) {
-    if (text.contains(u'\''))
-        throw RuntimeError{3075,
-                           QStringLiteral("Syntaxfehler (fehlender Operator) in Abfrageausdruck") + place};
+QString quotedOr(const QString& text, const RuntimeError& error) {
+    if (text.contains(u'\'')) throw error;
     return u'\'' + text + u'\'';
 }
 
 } // namespace
 
-QString quoted(const QString& text) { return quotedOr(text, QStringLiteral(" '%1'.").arg(text)); }
+QString quoted(const QString& text) {
+    return quotedOr(text, runtimeError(RuntimeError::operatorExpected, text));
+}
 
-QString quotedSecret(const QString& text) { return quotedOr(text, QStringLiteral(".")); }
+QString quotedSecret(const QString& text) {
+    return quotedOr(text, runtimeError(RuntimeError::operatorExpected));
+}

@@ -40,7 +40,7 @@ LikePattern::LikePattern(const QString& pattern) {
 /// Reads from behind the bracket to the closing one and returns the place of that.
 qsizetype LikePattern::readClass(const QList<uint>& signs, qsizetype start) {
     const qsizetype end = signs.indexOf(U']', start);
-    if (end < 0) throw runtimeError(93);
+    if (end < 0) throw runtimeError(RuntimeError::badPattern);
     Element element{.kind = Kind::Class};
     qsizetype i = start;
     if (end - i > 1 && signs[i] == U'!') {

@@ -43,12 +43,12 @@ void ComboBox::setText(const QString& text) {
         return;
     }
     const int index = indexOf(text);
-    if (index < 0 && !text.isEmpty()) throw runtimeError(383);
+    if (index < 0 && !text.isEmpty()) throw runtimeError(RuntimeError::readOnlyProperty);
     setListIndex(index);
 }
 
 void ComboBox::setListIndex(int index) {
-    if (index < -1 || index >= count()) throw runtimeError(380);
+    if (index < -1 || index >= count()) throw runtimeError(RuntimeError::badPropertyValue);
     if (index == currentIndex()) return;
     setCurrentIndex(index);
     Q_EMIT Click();

@@ -46,9 +46,9 @@ void runEvent(const std::function<void()>& handler) {
     } catch (const RuntimeError& error) {
         handOver(error);
     } catch (const std::bad_alloc&) {
-        handOver(runtimeError(7));
+        handOver(runtimeError(RuntimeError::outOfMemory));
     } catch (const std::exception& error) {
-        handOver({440, QString::fromLocal8Bit(error.what())});
+        handOver(runtimeError(RuntimeError::foreignException, QString::fromLocal8Bit(error.what())));
     }
 }
 

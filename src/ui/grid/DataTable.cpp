@@ -162,7 +162,8 @@ TableHandle DataTable::enterChild(int row) {
 }
 
 TableHandle DataTable::enter(TableHandle table) {
-    if (table.parentRow != DataTableModel::top && !m_model->hasChild(table.parentRow)) throw runtimeError(9);
+    if (table.parentRow != DataTableModel::top && !m_model->hasChild(table.parentRow))
+        throw runtimeError(RuntimeError::outOfRange);
     return std::exchange(m_current, table);
 }
 

@@ -83,7 +83,7 @@ void DataTableModel::insert(int owner, int row, std::span<const Value> cells) {
         append(owner, cells);
         return;
     }
-    if (row < 0) throw runtimeError(9);
+    if (row < 0) throw runtimeError(RuntimeError::outOfRange);
     tellChanges(changed);
     const bool known = row < changed.published;
     if (known) beginInsertRows(ownerIndex(changed), row, row);
@@ -157,7 +157,8 @@ int DataTableModel::find(int owner, int column, int first, const QString& text) 
 }
 
 void DataTableModel::createChild(int row) {
-    if (!isTwoLevel() || row < 0 || row >= m_top->rows.rowCount()) throw runtimeError(9);
+    if (!isTwoLevel() || row < 0 || row >= m_top->rows.rowCount())
+        throw runtimeError(RuntimeError::outOfRange);
     removeChild(row);
     m_children[static_cast<std::size_t>(row)] =
         std::make_unique<Table>(static_cast<int>(m_childColumns.size()), row);
@@ -277,7 +278,7 @@ DataTableModel::Table& DataTableModel::table(int owner) {
 const DataTableModel::Table& DataTableModel::table(int owner) const {
     if (owner == top) return *m_top;
     const Table* found = child(owner);
-    if (!found) throw runtimeError(9);
+    if (!found) throw runtimeError(RuntimeError::outOfRange);
     return *found;
 }
 

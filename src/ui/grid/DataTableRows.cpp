@@ -35,12 +35,12 @@ void DataTableRows::append(std::span<const Value> cells, TextPool& texts) {
 }
 
 void DataTableRows::insert(int row, std::span<const Value> cells, TextPool& texts) {
-    if (row < 0 || row > rowCount()) throw runtimeError(9);
+    if (row < 0 || row > rowCount()) throw runtimeError(RuntimeError::outOfRange);
     m_rows.insert(m_rows.begin() + row, packed(cells, texts));
 }
 
 void DataTableRows::remove(int row) {
-    if (row < 0 || row >= rowCount()) throw runtimeError(9);
+    if (row < 0 || row >= rowCount()) throw runtimeError(RuntimeError::outOfRange);
     m_blocks.giveBack(m_rows[static_cast<std::size_t>(row)]);
     m_rows.erase(m_rows.begin() + row);
 }
@@ -85,7 +85,7 @@ void DataTableRows::set(int row, int column, const Value& value, TextPool& texts
 }
 
 int DataTableRows::find(int column, int first, const Wanted& wanted) const {
-    if (column < 0 || column >= columnCount()) throw runtimeError(9);
+    if (column < 0 || column >= columnCount()) throw runtimeError(RuntimeError::outOfRange);
     const auto start = m_rows.begin() + std::clamp(first, 0, rowCount());
     const auto hit = std::find_if(start, m_rows.end(), [&](Row row) { return matches(row, column, wanted); });
     return hit == m_rows.end() ? -1 : static_cast<int>(hit - m_rows.begin());
@@ -121,6 +121,7 @@ bool DataTableRows::matches(const quint64* row, int column, const Wanted& wanted
 }
 
 const quint64* DataTableRows::rowWith(int row, int column) const {
-    if (row < 0 || row >= rowCount() || column < 0 || column >= columnCount()) throw runtimeError(9);
+    if (row < 0 || row >= rowCount() || column < 0 || column >= columnCount())
+        throw runtimeError(RuntimeError::outOfRange);
     return m_rows[static_cast<std::size_t>(row)];
 }

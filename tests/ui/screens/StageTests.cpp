@@ -74,7 +74,7 @@ TEST_F(StageTest, AnErrorInAHandlerDoesNotStopTheChange) {
     int caught = 0;
     setEventFailure([&](const RuntimeError& error) { caught = error.number; });
     a.Show();
-    a.onDeactivate = [] { throw runtimeError(91); };
+    a.onDeactivate = [] { throw runtimeError(RuntimeError::objectNotSet); };
     b.Show();
     setEventFailure({});
     EXPECT_EQ(caught, 91);
