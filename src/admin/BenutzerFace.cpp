@@ -45,6 +45,7 @@ QWidget* page(QGroupBox* entry, QGroupBox* list) {
 void layOutList(QGroupBox* frame, DataTable* grid, QLabel* caption, ValueLabel* count) {
     grid->setAccessibleName(frame->title());
     count->setAccessibleName(u"Anzahl"_qs);
+    count->setNumeric();
     auto* foot = new QHBoxLayout;
     foot->addStretch();
     foot->addWidget(caption);
@@ -181,22 +182,22 @@ void Benutzer::addRights(QGridLayout* form, int row) {
 void Benutzer::buildGroupGrid() {
     Frame1 = Face::frame(u"Frame1"_qs, u"Zugriff"_qs, nullptr);
     tblZugriff = new DataTable(u"tblZugriff"_qs, Frame1);
-    QVector<GridColumn> columns = {{u"Gruppen-Nr."_qs, 84, true}, {u"Gruppe \\ Forms"_qs, 150, false, 128}};
-    const auto addRight = [&](const QString& head, int width) {
-        GridColumn column{head, width};
-        column.fixed = true;
-        columns.append(column);
+    QVector<GridColumn> columns = {{.head = u"Gruppen-Nr."_qs, .width = 60, .numeric = true, .firm = true},
+                                   {.head = u"Gruppe \\ Forms"_qs, .width = 150, .minimumWidth = 108}};
+    columns[0].headLines = u"Gruppen-\nNr."_qs;
+    const auto addRight = [&](const QString& head, const QString& lines, int width) {
+        columns.append({.head = head, .width = width, .tick = true, .fixed = true, .headLines = lines});
     };
-    addRight(u"Fangbuch"_qs, 72);
-    addRight(u"Fangauswertg."_qs, 100);
-    addRight(u"Kontakt-Übers."_qs, 104);
-    addRight(u"Kontakt-Liste"_qs, 92);
-    addRight(u"Kontakt"_qs, 60);
-    addRight(u"Arbeitscontrolling"_qs, 116);
-    addRight(u"Besatz.-Liste"_qs, 92);
-    addRight(u"Basisdaten"_qs, 80);
-    addRight(u"Benutzerverwltg."_qs, 112);
-    addRight(u"Systempar."_qs, 84);
+    addRight(u"Fangbuch"_qs, u"Fang-\nbuch"_qs, 46);
+    addRight(u"Fangauswertg."_qs, u"Fang-\nauswertg."_qs, 60);
+    addRight(u"Kontakt-Übers."_qs, u"Kontakt-\nÜbers."_qs, 54);
+    addRight(u"Kontakt-Liste"_qs, u"Kontakt-\nListe"_qs, 54);
+    addRight(u"Kontakt"_qs, u"Kontakt"_qs, 52);
+    addRight(u"Arbeitscontrolling"_qs, u"Arbeits-\ncontrolling"_qs, 64);
+    addRight(u"Besatz.-Liste"_qs, u"Besatz.-\nListe"_qs, 54);
+    addRight(u"Basisdaten"_qs, u"Basis-\ndaten"_qs, 46);
+    addRight(u"Benutzerverwltg."_qs, u"Benutzer-\nverwltg."_qs, 62);
+    addRight(u"Systempar."_qs, u"System-\npar."_qs, 54);
     tblZugriff->setColumns(columns);
     Label1 = Face::label(u"Label1"_qs, u"Anzahl:"_qs, Frame1);
     lblGAnzahl = new ValueLabel(u"lblGAnzahl"_qs, Frame1);

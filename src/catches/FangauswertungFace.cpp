@@ -132,6 +132,8 @@ void Fangauswertung::buildGrid() {
                           {u"Anzahl"_qs, 72, true},
                           {u"Gew. i. Gramm"_qs, 112, true}});
     tblFAusw->setSortable();
+    tblFAusw->setEmptyHint(u"Setzen Sie oben Häkchen vor das, wonach Sie aussuchen wollen.\n"_qs
+                           u"Dann drücken Sie „Suchen“."_qs);
     tblFAusw->setAccessibleName(u"Gefundene Fänge"_qs);
     lblAnzDS = Face::label(u"lblAnzDS"_qs, u"Gefunden:"_qs, this);
     lblGefDS = new ValueLabel(u"lblGefDS"_qs, this);
@@ -151,6 +153,7 @@ QWidget* Fangauswertung::layOutSums() {
         row->addWidget(caption);
         row->addWidget(value);
         value->setAccessibleName(caption->text());
+        value->setNumeric();
     };
     add(lblAnzDS, lblGefDS);
     add(lblSAnz, lblSumAnz);

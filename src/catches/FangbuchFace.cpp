@@ -141,6 +141,7 @@ void Fangbuch::buildTable() {
     lblAnzahl = new ValueLabel(u"lblAnzahl"_qs, Frame1);
     Label1 = Face::label(u"Label1"_qs, u"Anzahl [gesamt]:"_qs, Frame1);
     lblGesAnz = new ValueLabel(u"lblGesAnz"_qs, Frame1);
+    for (ValueLabel* count : {lblAnzahl, lblGesAnz}) count->setNumeric();
     pb = new ProgressBar(u"pb"_qs, Frame1);
     pb->hide();
     tblFList = new DataTable(u"tblFList"_qs, Frame1);
@@ -151,6 +152,8 @@ void Fangbuch::buildTable() {
                           {u"Anzahl"_qs, 72, true},
                           {u"Gew. i. Gramm"_qs, 112, true}});
     tblFList->setAccessibleName(u"Fangbuchtabelle"_qs);
+    tblFList->setEmptyHint(
+        u"In diesem Monat steht noch kein Fang.\nTragen Sie ihn oben ein und drücken Sie F3."_qs);
     Label2->setBuddy(cboSelMonat);
     cboSelMonat->setAccessibleName(u"Fangbucheinträge für Monat"_qs);
     lblAnzahl->setAccessibleName(u"Einträge in Tabelle"_qs);

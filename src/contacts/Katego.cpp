@@ -76,6 +76,7 @@ void Katego::buildTable() {
     Label2 = Face::label(u"Label2"_qs, u"Anzahl:"_qs, Frame2);
     lblAnzahl = new ValueLabel(u"lblAnzahl"_qs, Frame2);
     lblAnzahl->setAccessibleName(u"Anzahl"_qs);
+    lblAnzahl->setNumeric();
     auto* count = new QHBoxLayout;
     count->addStretch();
     count->addWidget(Label2);

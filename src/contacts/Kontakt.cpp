@@ -1,6 +1,7 @@
 #include "Kontakt.h"
 
 #include "ComboBox.h"
+#include "MemoBox.h"
 #include "MsgBox.h"
 #include "Screens.h"
 #include "Session.h"
@@ -8,6 +9,8 @@
 #include "modKontakt.h"
 #include "modRun.h"
 
+#include <QCheckBox>
+#include <QRadioButton>
 #include <QTabWidget>
 
 // The face of the mask is built in KontaktFace.cpp; here is what it does.
@@ -21,6 +24,18 @@ void Kontakt::Form_Load() {
 
 // A mask that is closed is forgotten: the next one opens empty.
 void Kontakt::Form_QueryUnload() { unload<Kontakt>(); }
+
+void Kontakt::sperre() {
+    m_gesperrt = true;
+    for (TextBox* box : TabKont->findChildren<TextBox*>()) {
+        box->setEnabled(true);
+        box->setReadOnly(true);
+    }
+    txtNotiz->setReadOnly(true);
+    cboKatego->setEnabled(false);
+    for (QRadioButton* option : TabKont->findChildren<QRadioButton*>()) option->setEnabled(false);
+    for (QCheckBox* box : TabKont->findChildren<QCheckBox*>()) box->setEnabled(false);
+}
 
 void Kontakt::Speichern() {
     const Session& s = session();

@@ -24,6 +24,10 @@ public:
     void Form_Load() override;
     void Form_QueryUnload() override;
 
+    /// Leaves everything to be read and nothing to be changed, until the mask is closed.
+    void sperre();
+    bool istGesperrt() const { return m_gesperrt; }
+
     Toolbar* Toolbar1;
     QTabWidget* TabKont;
 
@@ -100,4 +104,6 @@ private:
 
     void Speichern();
     void Loeschen();
+
+    bool m_gesperrt = false;
 };

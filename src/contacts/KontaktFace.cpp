@@ -105,6 +105,7 @@ void Kontakt::buildPerson(QWidget* page) {
     lblGebDatum = Face::label(u"lblGebDatum"_qs, u"Geb. - Datum:"_qs, Frame1);
     txtGebDat = field(u"txtGebDat"_qs, Frame1, dateLimit);
     txtGebDat->setKeyFilter(&modRun::FilterDatum, Refused::WithTheWhole);
+    txtGebDat->setHoldsDate();
     chkJG = Face::checkBox(u"chkJG"_qs, u"Jugendgruppe"_qs, Frame1);
 }
 
@@ -167,8 +168,10 @@ QLayout* Kontakt::buildMember(QWidget* page) {
     optBezahlt = Face::option(u"optBezahlt"_qs, u"bezahlt"_qs, Frame3);
     optNBezahlt = Face::option(u"optNBezahlt"_qs, u"nicht bezahlt"_qs, Frame3);
     for (QRadioButton* first : {optMann, optNBefreit, optNBezahlt}) first->setChecked(true);
-    for (TextBox* box : {txtEintritt, txtAustritt})
+    for (TextBox* box : {txtEintritt, txtAustritt}) {
         box->setKeyFilter(&modRun::FilterDatum, Refused::WithTheWhole);
+        box->setHoldsDate();
+    }
 
     auto* dates = new QGridLayout(Frame4);
     dates->setHorizontalSpacing(Face::gap);

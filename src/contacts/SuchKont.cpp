@@ -60,6 +60,7 @@ void SuchKont::build() {
     Label1 = Face::label(u"Label1"_qs, u"Suchbegriff:"_qs, this);
     txtSuch = new TextBox(u"txtSuch"_qs, this);
     txtSuch->setKeyFilter(&modRun::FilterSuche);
+    txtSuch->setPlaceholderText(u"Anfang eines Namens; für ä, ö, ü und ß ein * wie in M*ller"_qs);
     Label2 = Face::label(u"Label2"_qs, u"Kategorie:"_qs, this);
     cboKatego = new ComboBox(u"cboKatego"_qs, ComboBox::Order::AsAdded, ComboBox::Kind::DropDownList, this);
     cmdSuch = Face::button(u"cmdSuch"_qs, QString(), this);
@@ -75,9 +76,11 @@ void SuchKont::build() {
                          {u"Nachname"_qs, 140},
                          {u"Vorname"_qs, 120}});
     tblSuch->setAccessibleName(u"Gefundene Kontakte"_qs);
+    tblSuch->setEmptyHint(u"Schreiben Sie oben den Anfang eines Namens und drücken Sie die Eingabetaste."_qs);
     Label3 = Face::label(u"Label3"_qs, u"Gefunden:"_qs, this);
     lblGefDS = new ValueLabel(u"lblGefDS"_qs, this);
     lblGefDS->setAccessibleName(u"Gefunden"_qs);
+    lblGefDS->setNumeric();
 }
 
 void SuchKont::registriere(qint16 aufrufer, const Suchweg& weg) { wege()[aufrufer] = weg; }

@@ -90,10 +90,12 @@ void SetzeKontaktToolbar(int enabled) {
     if (enabled == 1 && !isLoaded<Kontakt>()) return;
     for (const QString& key : {u"tbSpeichern"_qs, u"tbLoeschen"_qs, u"tbAnzLoeschen"_qs})
         screen<Kontakt>().Toolbar1->setKeyEnabled(key, enabled == 1);
+    if (enabled == 0) screen<Kontakt>().sperre();
 }
 
 void SetzeMitglFelder() {
     Kontakt& form = screen<Kontakt>();
+    if (form.istGesperrt()) return;
     const bool mitglied = KontaktFelder::istMitglied(form);
     for (QWidget* control : std::initializer_list<QWidget*>{
              form.optMann, form.optFrau, form.optBefreit, form.optNBefreit, form.optBezahlt, form.optNBezahlt,

@@ -70,6 +70,8 @@ Main::Main()
     column->addWidget(StatusBar1);
 
     connect(stage, &Stage::frontChanged, this, &Main::keepMenuLetters);
+    connect(stage, &Stage::frontChanged, this,
+            [this](const Screen* front) { modNavigation::markiere(*ButtnBar, front); });
     on(ButtnBar, &NavigationBar::itemClicked, [this](const QString& key) { zeigeBereich(key); });
 }
 

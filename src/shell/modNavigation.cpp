@@ -28,6 +28,7 @@ struct Item {
     const char16_t* key;
     const char16_t* caption;
     const char16_t* icon;
+    const char16_t* name; ///< of the screen
     Screen& (*screen)();
 };
 
@@ -37,25 +38,37 @@ Screen& make() {
 }
 
 const Item systemItems[] = {
-    {u"Zugriff", u"Benutzer &&\r\nZugriffsverw.", u"zugriff", &make<Benutzer>},
-    {u"Parameter", u"Systempar.", u"parameter", &make<System>},
-    {u"Basisdaten", u"Basisdaten", u"basisdaten", &make<Basis>},
+    {u"Zugriff", u"Benutzer &&\r\nZugriffsverw.", u"zugriff", u"Benutzer", &make<Benutzer>},
+    {u"Parameter", u"Systempar.", u"parameter", u"System", &make<System>},
+    {u"Basisdaten", u"Basisdaten", u"basisdaten", u"Basis", &make<Basis>},
 };
 
 const Item organisationItems[] = {
-    {u"Fangbuch", u"Fangbuch", u"fangbuch", &make<Fangbuch>},
-    {u"Fangauswertung", u"Fangauswertung", u"fangauswertung", &make<Fangauswertung>},
-    {u"Kontakte", u"Kontakte u.\r\nMitgl.", u"kontakte", &make<KontaktUebers>},
-    {u"Arbeit", u"Arb.-Std.-\r\nControlling", u"arbeit", &make<Arbeit>},
-    {u"Besatzung", u"Besatz.-Liste", u"besatzung", &make<Besatzung>},
+    {u"Fangbuch", u"Fangbuch", u"fangbuch", u"Fangbuch", &make<Fangbuch>},
+    {u"Fangauswertung", u"Fangauswertung", u"fangauswertung", u"Fangauswertung", &make<Fangauswertung>},
+    {u"Kontakte", u"Kontakte u.\r\nMitgl.", u"kontakte", u"KontaktUebers", &make<KontaktUebers>},
+    {u"Arbeit", u"Arb.-Std.-\r\nControlling", u"arbeit", u"Arbeit", &make<Arbeit>},
+    {u"Besatzung", u"Besatz.-Liste", u"besatzung", u"Besatzung", &make<Besatzung>},
 };
 
-const Item* find(const QString& key) {
+template<typename Test>
+const Item* findItem(const Test& test) {
     for (const Item& item : systemItems)
-        if (key == item.key) return &item;
+        if (test(item)) return &item;
     for (const Item& item : organisationItems)
-        if (key == item.key) return &item;
+        if (test(item)) return &item;
     return nullptr;
+}
+
+const Item* find(const QString& key) {
+    return findItem([&](const Item& item) { return key == item.key; });
+}
+
+/// The item of the bar to which a screen belongs; empty for one of none, such as a preview.
+QString keyOf(const QString& screen) {
+    if (screen == u"Katego"_qs || screen == u"MitglList"_qs) return u"Kontakte"_qs;
+    const Item* own = findItem([&](const Item& item) { return screen == item.name; });
+    return own ? QString::fromUtf16(own->key) : QString();
 }
 
 template<std::size_t count>
@@ -104,9 +117,12 @@ void LeereButtnBar() {
 
 void binde(BarItem* item, Screen& target) {
     // A start-up that ended in a repair leaves the bar without items.
-    if (!item) return;
-    item->takeWindow(&target);
-    screen<Main>().ButtnBar->setCurrentItem(item);
+    if (item) item->takeWindow(&target);
+}
+
+void markiere(NavigationBar& bar, const Screen* front) {
+    BarItem* item = front ? bar.item(keyOf(front->objectName())) : nullptr;
+    if (item) bar.setCurrentItem(item);
 }
 
 void VersteckeFormen() {

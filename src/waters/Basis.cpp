@@ -50,7 +50,10 @@ void layOut(const Page& page) {
     head->addWidget(page.countLabel);
     head->addWidget(page.count);
     page.grid->setAccessibleName(page.gridLabel->text());
+    page.grid->setEmptyHint(u"Hier steht noch nichts.\n"_qs
+                            u"Schreiben Sie oben einen Namen und drücken Sie „Speichern“."_qs);
     page.count->setAccessibleName(page.countLabel->text());
+    page.count->setNumeric();
 
     auto* column = new QVBoxLayout(page.frame);
     column->setSpacing(Face::gap);

@@ -104,9 +104,12 @@ void Besatzung::buildGrid() {
                           {u"Zeitpkt."_qs, 160},
                           {u"Menge i. Kg"_qs, 104, true}});
     tblBList->setAccessibleName(u"Besatz - Plan"_qs);
+    tblBList->setEmptyHint(u"Für dieses Jahr steht noch kein Besatz.\n"_qs
+                           u"Tragen Sie ihn oben ein und drücken Sie „Speichern“."_qs);
     Label8 = Face::label(u"Label8"_qs, u"Anzahl:"_qs, this);
     lblAnzahl = new ValueLabel(u"lblAnzahl"_qs, this);
     lblAnzahl->setAccessibleName(Label8->text());
+    lblAnzahl->setNumeric();
 }
 
 QWidget* Besatzung::layOutCount() {

@@ -150,6 +150,7 @@ void Arbeit::buildTable() {
                            {u"Geleist. Arb.-Std"_qs, 128, true},
                            {u"Datum"_qs, 96}});
     tblArbStd->setAccessibleName(u"Arbeitsstunden des Mitglieds"_qs);
+    tblArbStd->setEmptyHint(u"Suchen Sie mit der Lupe ein Mitglied und buchen Sie links seine Stunden."_qs);
     lblGStd = Face::label(u"lblGStd"_qs, u"Ges. - Std geleistet:"_qs, Frame2);
     lblGesStd = new ValueLabel(u"lblGesStd"_qs, Frame2);
     Label10 = Face::label(u"Label10"_qs, u"Std."_qs, Frame2);
@@ -172,9 +173,7 @@ void Arbeit::layOutTable() {
     const auto addSum = [&](QLabel* caption, ValueLabel* sum, QLabel* unit) {
         Face::addField(whole, ++row, caption, sum, 1);
         whole->addWidget(unit, row, columns - 1);
-        constexpr int sumWidth = 112;
-        sum->setMinimumWidth(sumWidth);
-        sum->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        sum->setNumeric();
     };
     addSum(lblGStd, lblGesStd, Label10);
     addSum(Label6, lblPflStd, Label8);

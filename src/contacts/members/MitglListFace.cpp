@@ -56,6 +56,7 @@ Vergleich MitglList::addBound(const QString& list, const QString& box, const QSt
     const Vergleich bound = Vergleich::neu(list, box, spoken, Frame6);
     bound.wert->setLimit(wholeDate);
     bound.wert->setKeyFilter(&modRun::FilterDatum, Refused::WithTheWhole);
+    bound.wert->setHoldsDate();
     return bound;
 }
 
@@ -185,6 +186,8 @@ void MitglList::buildGrid() {
                           {u"Gel. Arb-Std."_qs, 104, true},
                           {u"Soll/Haben"_qs, 96, true}});
     tblMList->setSortable();
+    tblMList->setEmptyHint(u"Setzen Sie oben Häkchen vor das, wonach Sie aussuchen wollen.\n"_qs
+                           u"Dann drücken Sie „Suchen“."_qs);
     tblMList->setAccessibleName(u"Gefundene Mitglieder"_qs);
     setHourView(false);
 }
@@ -193,6 +196,7 @@ void MitglList::buildFoot() {
     lblAnzDS = Face::label(u"lblAnzDS"_qs, u"Gefunden:"_qs, this);
     lblGefDS = new ValueLabel(u"lblGefDS"_qs, this);
     lblGefDS->setAccessibleName(lblAnzDS->text());
+    lblGefDS->setNumeric();
     constexpr int description = 255;
     Label1 = Face::label(u"Label1"_qs, u"Listenbeschreibung: [wird auf Liste gedruckt]"_qs, this);
     txtInfo = new TextBox(u"txtInfo"_qs, this);

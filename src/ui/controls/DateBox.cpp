@@ -3,6 +3,7 @@
 #include "Clock.h"
 #include "Conversions.h"
 #include "FocusMove.h"
+#include "Theme.h"
 
 #include <QCalendarWidget>
 #include <QKeyEvent>
@@ -42,6 +43,7 @@ DateBox::DateBox(const QString& name, QWidget* parent)
     setMinimumContentsLength(characters);
     setFocusPolicy(Qt::StrongFocus);
     connect(lineEdit(), &QLineEdit::editingFinished, this, &DateBox::settle);
+    connect(this, &QComboBox::editTextChanged, this, [this] { Theme::setFaulty(this, false); });
     whenFocusIsElsewhere(this, [this] { m_hasFocus = false; });
 }
 
@@ -70,6 +72,7 @@ std::optional<QDate> DateBox::typedDay() const {
 
 void DateBox::settle() {
     if (const auto day = typedDay()) setDate(Date::fromQDate(*day));
+    Theme::setFaulty(this, !isReadable());
 }
 
 void DateBox::step(int days) {

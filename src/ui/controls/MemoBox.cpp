@@ -52,6 +52,13 @@ QString MemoBox::whatFits(const QString& text) const {
     return text.left(end);
 }
 
+// What can't be written in has the ground of a value that only shows.
+void MemoBox::changeEvent(QEvent* event) {
+    QPlainTextEdit::changeEvent(event);
+    if (event->type() == QEvent::ReadOnlyChange)
+        viewport()->setBackgroundRole(isReadOnly() ? QPalette::Midlight : QPalette::Base);
+}
+
 void MemoBox::keyPressEvent(QKeyEvent* event) {
     const QString inserted = insertedBy(event);
     if (whatFits(inserted) == inserted)

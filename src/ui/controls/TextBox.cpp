@@ -1,6 +1,8 @@
 #include "TextBox.h"
 
+#include "Conversions.h"
 #include "FocusMove.h"
+#include "Theme.h"
 
 #include <QApplication>
 #include <QDropEvent>
@@ -48,6 +50,11 @@ TextBox::TextBox(const QString& name, QWidget* parent)
     : QLineEdit(parent) {
     setObjectName(name);
     whenFocusIsElsewhere(this, [this] { loseFocus(); });
+}
+
+void TextBox::setHoldsDate() {
+    m_holdsDate = true;
+    connect(this, &QLineEdit::textChanged, this, [this] { Theme::setFaulty(this, false); });
 }
 
 QSize TextBox::minimumSizeHint() const {
@@ -174,6 +181,7 @@ void TextBox::loseFocus() {
     if (!m_hasFocus) return;
     m_hasFocus = false;
     m_selectOnRelease = false;
+    if (m_holdsDate) Theme::setFaulty(this, !text().isEmpty() && !IsDate(text()));
     Q_EMIT LostFocus();
 }
 

@@ -30,6 +30,8 @@ public:
     void setLimit(int characters) { setMaxLength(characters); }
     void setKeyFilter(KeyFilter filter, Refused refused = Refused::Dropped);
     void setSelectAllOnFocus(bool on) { m_selectAllOnFocus = on; }
+    /// Marks a text that is no date once the box is left. It stays as it is.
+    void setHoldsDate();
     /// Room for eight characters, or for all where fewer are let in.
     QSize minimumSizeHint() const override;
 
@@ -61,6 +63,7 @@ private:
 
     KeyFilter m_filter;
     Refused m_refused = Refused::Dropped;
+    bool m_holdsDate = false;
     bool m_selectAllOnFocus = false;
     bool m_selectOnRelease = false;
     bool m_hasFocus = false;

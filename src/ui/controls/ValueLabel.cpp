@@ -14,6 +14,12 @@ ValueLabel::ValueLabel(const QString& name, QWidget* parent)
     setMinimumWidth(minimumValueWidth);
 }
 
+void ValueLabel::setNumeric() {
+    setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    const int digits = fontMetrics().horizontalAdvance(u"123456789"_qs);
+    setMinimumWidth(digits + 2 * (frameWidth() + margin() + innerMargin));
+}
+
 void ValueLabel::setCaption(const QString& caption) {
     if (caption != text()) setText(caption);
 }

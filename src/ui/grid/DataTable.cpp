@@ -84,6 +84,11 @@ void DataTable::setSortable() {
     setSortingEnabled(true);
 }
 
+void DataTable::setEmptyHint(const QString& hint) {
+    m_emptyHint = hint;
+    setAccessibleDescription(hint);
+}
+
 void DataTable::clearRows() {
     if (isSortingEnabled()) header()->setSortIndicator(-1, Qt::AscendingOrder);
     m_model->clear(m_current.parentRow);
@@ -334,6 +339,12 @@ void DataTable::paintEvent(QPaintEvent* event) {
     QPainter painter(viewport());
     painter.fillRect(gutter, look.gutter);
     painter.fillRect(QRect(gutter.right(), gutter.top(), 1, gutter.height()), look.gutterEdge);
+    if (m_model->rowCount() > 0) return;
+    constexpr int margin = 16;
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    painter.drawText(
+        viewport()->rect().adjusted(DataTableLook::gutterWidth + margin, margin, -margin, -margin),
+        Qt::AlignCenter | Qt::TextWordWrap, m_emptyHint);
 }
 
 void DataTable::dataChanged(const QModelIndex& first, const QModelIndex& last, const QVector<int>& roles) {

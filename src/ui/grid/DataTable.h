@@ -53,6 +53,9 @@ public:
     /// appending. Not for a two-level grid.
     void setSortable();
 
+    /// What stands in the place of the rows where there are none: what to do next.
+    void setEmptyHint(const QString& hint);
+
     int rowCount() const;
     /// Of the top level: drops the child tables as well.
     void clearRows();
@@ -179,6 +182,7 @@ private:
     std::unique_ptr<DataTableModel> m_model;
     SelectionStyle m_selectionStyle;
     QPersistentModelIndex m_marked;
+    QString m_emptyHint;
     TableHandle m_current;
     bool m_publishScheduled = false;
     bool m_opennessTold = false; ///< a handler of the press has said whether the category is open

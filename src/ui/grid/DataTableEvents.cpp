@@ -142,6 +142,7 @@ bool DataTable::viewportEvent(QEvent* event) {
 QString DataTable::clippedText(QPoint position) const {
     const QModelIndex index = indexAt(position);
     if (!index.isValid() || m_model->isCategory(index)) return {};
+    if (m_model->shownColumns()[index.column()].tick) return {};
     const QString text = index.data().toString();
     const int room = columnWidth(index.column()) - 2 * DataTableLook::padding;
     return fontMetrics().horizontalAdvance(text) > room ? text : QString();

@@ -15,5 +15,6 @@ public:
 protected:
     void mousePressEvent(QMouseEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    QString linesOf(int section) const;
     void paintSection(QPainter* painter, const QRect& rect, int section) const override;
 };

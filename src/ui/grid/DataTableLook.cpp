@@ -98,6 +98,16 @@ void expandMark(QPainter& painter, const QRect& gutter, bool open, const QColor&
     painter.restore();
 }
 
+void tick(QPainter& painter, const QRect& cell, const QColor& colour) {
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(colour, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.translate(QRectF(cell).center());
+    const QPointF angle[] = {{-4, 0}, {-1, 3}, {5, -4}};
+    painter.drawPolyline(angle, 3);
+    painter.restore();
+}
+
 void picture(QPainter& painter, const QRect& cell, const QString& path) {
     const QRect room = cell.adjusted(0, 2, 0, -2);
     if (path.trimmed().isEmpty() || room.isEmpty()) return;

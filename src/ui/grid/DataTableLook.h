@@ -43,6 +43,8 @@ void text(QPainter& painter, const QRect& cell, Qt::Alignment alignment, const Q
 void currentMark(QPainter& painter, const QRect& gutter, const QColor& colour);
 /// An angle, pointing right if closed and down if open.
 void expandMark(QPainter& painter, const QRect& gutter, bool open, const QColor& colour);
+/// In the middle of the cell.
+void tick(QPainter& painter, const QRect& cell, const QColor& colour);
 /// A small filled triangle beside a head: pointing up where the least row stands first.
 void sortMark(QPainter& painter, const QRect& place, Qt::SortOrder order, const QColor& colour);
 /// The picture of this file, in the middle of the cell, at most as large as it; nothing if there is none.

@@ -254,6 +254,7 @@ QVariant DataTableModel::headerData(int section, Qt::Orientation orientation, in
     if (orientation != Qt::Horizontal || section < 0 || section >= gutterColumn()) return {};
     if (role == Qt::DisplayRole) return shownColumns()[section].head;
     if (role == Qt::TextAlignmentRole) return alignment(section);
+    if (role == linesRole) return shownColumns()[section].headLines;
     return {};
 }
 

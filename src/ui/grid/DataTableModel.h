@@ -21,6 +21,7 @@ class DataTableModel : public QAbstractItemModel {
 
 public:
     static constexpr int top = -1;
+    static constexpr int linesRole = Qt::UserRole; ///< a head on two lines, or empty
 
     explicit DataTableModel(QObject* parent = nullptr);
     ~DataTableModel() override;

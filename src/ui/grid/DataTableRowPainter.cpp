@@ -66,6 +66,11 @@ void DataTableRowPainter::paintCells(const QModelIndex& row, const QRect& rect) 
         const QRect cell(m_header.sectionViewportPosition(column), rect.top(), m_header.sectionSize(column),
                          rect.height() - 1);
         if (cell.right() < rect.left() || cell.left() > rect.right()) continue;
+        if (columns[column].tick) {
+            if (m_model.value(m_model.tableOf(row), row.row(), column) == Value(true))
+                DataTableShapes::tick(m_painter, cell, m_painter.pen().color());
+            continue;
+        }
         const QString text = m_model.text(m_model.tableOf(row), row.row(), column);
         if (columns[column].picture) {
             DataTableShapes::picture(m_painter, cell, text);

@@ -5,8 +5,11 @@
 #include "Stage.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
+#include <algorithm>
 
 namespace {
 
@@ -38,6 +41,16 @@ void addButton(QMessageBox& box, QMessageBox::StandardButton which, const QStrin
     box.addButton(which)->setText(german);
 }
 
+/// Qt would wrap the lines of a text to half the screen. Their breaks are given, so they stay as they are as
+/// long as the screen has room.
+void keepLines(QMessageBox& box) {
+    auto* label = box.findChild<QLabel*>(u"qt_msgbox_label"_qs);
+    if (!label) return;
+    const int room = box.screen()->availableGeometry().width() * 3 / 4;
+    const QSize lines = label->fontMetrics().size(0, box.text());
+    label->setMinimumWidth(std::min(lines.width() + label->fontMetrics().averageCharWidth(), room));
+}
+
 } // namespace
 
 MsgBoxResult QtMessageBoxes::show(const QString& text, int style, const QString& title) {
@@ -47,6 +60,7 @@ MsgBoxResult QtMessageBoxes::show(const QString& text, int style, const QString&
     box.setIcon(iconOf(style));
     box.setTextFormat(Qt::PlainText);
     box.setText(withPlainBreaks(text));
+    keepLines(box);
     if (question) {
         addButton(box, QMessageBox::Yes, u"&Ja"_qs);
         addButton(box, QMessageBox::No, u"&Nein"_qs);

@@ -74,10 +74,13 @@ QColor markBorder(const QStyleOption* option) {
 
 namespace HousePaint {
 
-void field(const QStyleOption* option, QPainter* painter) {
+void field(const QStyleOption* option, QPainter* painter, bool faulty) {
+    const bool locked = !enabled(option) || has(option, QStyle::State_ReadOnly);
+    if (locked && !focused(option)) return sunkenPanel(option, painter);
     const PainterState state(painter);
-    const auto ground = enabled(option) ? QPalette::Base : QPalette::Window;
-    rounded(painter, option->rect, borderOf(option), borderWidth(option), option->palette.color(ground));
+    rounded(painter, option->rect, faulty ? Theme::fault() : borderOf(option),
+            faulty ? ringWidth : borderWidth(option),
+            option->palette.color(locked ? QPalette::Midlight : QPalette::Base));
 }
 
 void fieldBorder(const QStyleOption* option, QPainter* painter) {

@@ -11,8 +11,9 @@ class QStyleOptionTab;
 /// How the parts of the controls look; each draws into the option's rectangle unless told otherwise.
 namespace HousePaint {
 
-/// The ground and border of a text box, a combo box and their like; the border is the focus ring as well.
-void field(const QStyleOption* option, QPainter* painter);
+/// The ground and border of a text box, a combo box and their like; the border is the focus ring as well, or
+/// tells that the text can't be right. What can't be written in has the ground of a value that only shows.
+void field(const QStyleOption* option, QPainter* painter, bool faulty = false);
 /// The border alone, around something that paints its own ground.
 void fieldBorder(const QStyleOption* option, QPainter* painter);
 /// A value that only shows.

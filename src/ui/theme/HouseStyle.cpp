@@ -75,8 +75,8 @@ QRect contentsOfGroup(const QStyleOptionComplex* option) {
     return option->rect.adjusted(1, top, -1, -1);
 }
 
-void drawComboBox(const QStyleOptionComboBox* combo, QPainter* painter) {
-    HousePaint::field(combo, painter);
+void drawComboBox(const QStyleOptionComboBox* combo, QPainter* painter, const QWidget* widget) {
+    HousePaint::field(combo, painter, Theme::isFaulty(widget));
     const QRect arrow(combo->rect.right() - arrowWidth, combo->rect.top(), arrowWidth, combo->rect.height());
     HousePaint::chevron(arrow, Qt::DownArrow, combo, painter);
 }
@@ -126,7 +126,7 @@ void HouseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
     switch (element) {
     case PE_PanelLineEdit: {
         const auto* frame = as<QStyleOptionFrame>(option);
-        if (frame && frame->lineWidth > 0) HousePaint::field(option, painter);
+        if (frame && frame->lineWidth > 0) HousePaint::field(option, painter, Theme::isFaulty(widget));
         return;
     }
     case PE_FrameLineEdit:
@@ -186,7 +186,7 @@ void HouseStyle::drawEntry(const QStyleOptionComboBox* option, QPainter* painter
 void HouseStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                                     QPainter* painter, const QWidget* widget) const {
     const auto* combo = as<QStyleOptionComboBox>(option);
-    if (control == CC_ComboBox && combo) return drawComboBox(combo, painter);
+    if (control == CC_ComboBox && combo) return drawComboBox(combo, painter, widget);
     if (control == CC_GroupBox) return drawGroupBox(option, painter, widget);
     if (control == CC_SpinBox) return drawSpinBox(option, painter, widget);
     if (control == CC_ScrollBar) return drawScrollBar(option, painter, widget);
@@ -309,6 +309,9 @@ int HouseStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWid
         return 0;
     case SH_UnderlineShortcut:
         return 1;
+    // They would come from the desktop, or from nowhere, and say no more than the words.
+    case SH_DialogButtonBox_ButtonsHaveIcons:
+        return 0;
     case SH_LineEdit_PasswordCharacter:
         return u'*';
     default:

@@ -4,8 +4,11 @@
 
 #include <QIcon>
 #include <QPalette>
+#include <QWidget>
 
 namespace {
+
+constexpr const char* faulty = "faulty";
 
 Theme::Mode currentMode = Theme::Mode::Light;
 
@@ -65,6 +68,8 @@ QColor accent() { return either(0xff2b62c4, 0xff7fabf7); }
 
 QColor headingInk() { return either(0xff1f3f77, 0xffb4cdf9); }
 
+QColor fault() { return either(0xffc02626, 0xffff8a80); }
+
 QColor outline() { return either(0xff8b94a4, 0xff6d7686); }
 
 QColor faintLine() { return either(0xffc9d3e4, 0xff3d4757); }
@@ -87,5 +92,13 @@ QColor mixed(const QColor& from, const QColor& to, double share) {
 }
 
 QIcon icon(const QString& name) { return QIcon(new ThemeIcon(name)); }
+
+void setFaulty(QWidget* field, bool on) {
+    if (isFaulty(field) == on) return;
+    field->setProperty(faulty, on);
+    field->update();
+}
+
+bool isFaulty(const QWidget* field) { return field && field->property(faulty).toBool(); }
 
 } // namespace Theme

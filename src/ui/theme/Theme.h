@@ -5,6 +5,7 @@
 class QIcon;
 class QPalette;
 class QString;
+class QWidget;
 
 /// The program's one look: the blue of the overview's child tables (172, 199, 247) and its darker relatives
 /// for the bar and the headings, neutral greys, one accent for focus and selection; spacing in multiples of
@@ -24,6 +25,7 @@ QColor darkBlue(); ///< a ground for white text in both modes; bar and headings
 QColor accent();   ///< focus and selection
 
 QColor headingInk(); ///< text of headings, legible on the window in both modes
+QColor fault();      ///< border of a field whose text can't be right
 QColor outline();    ///< border of fields and keys
 QColor faintLine();  ///< border of frames, separators
 QColor barGround();
@@ -35,5 +37,9 @@ QColor mixed(const QColor& from, const QColor& to, double share);
 /// A picture among the program's own (assets/icons/NAME.svg), drawn sharp at any scale and legible in both
 /// modes.
 QIcon icon(const QString& name);
+
+/// Draws the border of a text, combo or date box in the colour above.
+void setFaulty(QWidget* field, bool on);
+bool isFaulty(const QWidget* field);
 
 } // namespace Theme
