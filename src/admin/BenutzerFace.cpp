@@ -100,8 +100,6 @@ void Benutzer::buildUserEntry() {
     for (TextBox* box : {txtPassw, txtPasswBest}) box->setEchoMode(QLineEdit::Password);
     lblBG = Face::label(u"lblBG"_qs, u"Benutzergruppe:"_qs, Frame2);
     cboBG = new ComboBox(u"cboBG"_qs, ComboBox::Order::AsAdded, ComboBox::Kind::Editable, Frame2);
-    // What is typed counts as it stands: nothing completes it.
-    cboBG->setCompleter(nullptr);
     cboBG->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 
     constexpr int secondColumn = 3;

@@ -55,6 +55,7 @@ Info::Info()
 
 QLabel* Info::addValue(const QString& name) {
     QLabel* value = Face::label(name, QString(), fraVerein);
+    value->setWordWrap(true);
     fraVerein->layout()->addWidget(value);
     return value;
 }
@@ -62,6 +63,12 @@ QLabel* Info::addValue(const QString& name) {
 void Info::Form_Load() {
     zeigeAnschrift();
     cmdOK->setFocus();
+}
+
+bool Info::Form_KeyDown(int key, Qt::KeyboardModifiers) {
+    if (key != Qt::Key_Escape) return false;
+    cmdOK_Click();
+    return true;
 }
 
 void Info::zeigeAnschrift() {

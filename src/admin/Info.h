@@ -14,6 +14,7 @@ public:
     Info();
 
     void Form_Load() override;
+    bool Form_KeyDown(int key, Qt::KeyboardModifiers modifiers) override;
 
     /// The club's address as last saved into the labels.
     void zeigeAnschrift();

@@ -18,6 +18,7 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
+#include <QToolButton>
 
 Katego::Katego()
     : Screen(u"Katego"_qs, u"Kontakt - Kategorien"_qs) {
@@ -99,6 +100,12 @@ void Katego::Form_Deactivate() {
 }
 
 void Katego::Form_Paint() { lblAnzahl->setCaption(QString::number(tblKatego->rowCount())); }
+
+bool Katego::Form_KeyDown(int key, Qt::KeyboardModifiers) {
+    if (key != Qt::Key_Escape) return false;
+    Toolbar1->key(u"tbEsc"_qs)->click();
+    return true;
+}
 
 void Katego::Schliessen() {
     modKatego::KategoAnzeigeLoeschen();

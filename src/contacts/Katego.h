@@ -20,6 +20,7 @@ public:
     void Form_Load() override;
     void Form_Deactivate() override;
     void Form_Paint() override;
+    bool Form_KeyDown(int key, Qt::KeyboardModifiers modifiers) override;
 
     Heading* Ueberschrift;
     Toolbar* Toolbar1;

@@ -20,6 +20,7 @@
 
 #include <QBoxLayout>
 #include <QLabel>
+#include <QToolButton>
 #include <algorithm>
 
 namespace {
@@ -88,6 +89,12 @@ void KontaktUebers::Form_Load() {
 }
 
 void KontaktUebers::Form_Deactivate() { unload<SuchKont>(); }
+
+bool KontaktUebers::Form_KeyDown(int key, Qt::KeyboardModifiers modifiers) {
+    if (key != Qt::Key_F || modifiers != Qt::ControlModifier) return false;
+    Toolbar1->key(u"tbSuch"_qs)->click();
+    return true;
+}
 
 void KontaktUebers::NeuerKontakt() {
     modRun::beendeVorgang();

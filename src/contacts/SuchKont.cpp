@@ -73,7 +73,7 @@ void SuchKont::build() {
     tblSuch->setColumns({{u"KontaktNr"_qs, 80, true},
                          {u"Kategorie"_qs, 160},
                          {u"Firma"_qs, 160},
-                         {u"Nachname"_qs, 140},
+                         {.head = u"Nachname"_qs, .width = 140, .name = true},
                          {u"Vorname"_qs, 120}});
     tblSuch->setAccessibleName(u"Gefundene Kontakte"_qs);
     tblSuch->setEmptyHint(u"Schreiben Sie oben den Anfang eines Namens und drücken Sie die Eingabetaste."_qs);

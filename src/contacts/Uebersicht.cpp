@@ -69,7 +69,7 @@ void SetzeKontaktSpalten() {
                             {QString(), 16, false, 16, true},
                             {u"Firma"_qs, 153, false, 50},
                             {u"Anrede"_qs, 67, false, 50},
-                            {u"Nachname"_qs, 100, false, 50},
+                            {.head = u"Nachname"_qs, .width = 100, .minimumWidth = 50, .name = true},
                             {u"Vorname"_qs, 100, false, 50},
                             {.head = u"Tel (priv.)"_qs, .width = 100, .minimumWidth = 30, .firm = true},
                             {u"Fax (geschftl.)"_qs, 100, false, 30},

@@ -7,6 +7,7 @@
 #include "KontaktUebers.h"
 #include "MsgBox.h"
 #include "Namen.h"
+#include "OtherProgram.h"
 #include "Screens.h"
 #include "SeqData.h"
 #include "Session.h"
@@ -172,7 +173,9 @@ void beginneBrief(WordProcessor& word) {
     word.openDataSource(quelle);
     word.editMainDocument();
     schreibeAnschrift(word);
-    if (vollende(word, quelle.name)) word.release();
+    if (!vollende(word, quelle.name)) return;
+    word.release();
+    awaitOtherProgram();
 }
 
 } // namespace

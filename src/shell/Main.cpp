@@ -1,5 +1,6 @@
 #include "Main.h"
 
+#include "DataTable.h"
 #include "Info.h"
 #include "MitglList.h"
 #include "NavigationBar.h"
@@ -13,17 +14,20 @@
 #include "modEnde.h"
 #include "modFAuswert.h"
 #include "modFangbuch.h"
+#include "modHandbuch.h"
 #include "modKontakt.h"
 #include "modMitglList.h"
 #include "modNavigation.h"
 #include "modStart.h"
 #include "modTools.h"
 
+#include <QApplication>
 #include <QBoxLayout>
 #include <QCursor>
 #include <QHideEvent>
 #include <QMenu>
 #include <QMenuBar>
+#include <QShortcut>
 
 namespace {
 
@@ -37,6 +41,11 @@ QMenu* addMenu(QMenuBar* bar, const char* name, const QString& caption) {
     QMenu* menu = bar->addMenu(caption);
     menu->setObjectName(QLatin1String(name));
     return menu;
+}
+
+QPoint menuPlace() {
+    const auto* grid = qobject_cast<const DataTable*>(QApplication::focusWidget());
+    return grid ? grid->menuPlace() : QCursor::pos();
 }
 
 QMenu* popup(QWidget* parent, const char* name, const QString& caption) {
@@ -57,6 +66,7 @@ Main::Main()
     StatusBar1 = new StatusBar(u"StatusBar1"_qs, this);
     buildMenus();
     buildPanels();
+    buildAreaKeys();
 
     auto* middle = new QHBoxLayout;
     middle->setSpacing(0);
@@ -91,6 +101,7 @@ void Main::buildMenus() {
     mnuKomprimiere = addItem(mnuTools, "mnuKomprimiere", u"&Datenbank komprimieren"_qs);
     mnuRepariere = addItem(mnuTools, "mnuRepariere", u"&Datenbank reparieren"_qs);
     mnuHilf = addMenu(menuBar, "mnuHilf", u"&?"_qs);
+    mnuHandbuch = addItem(mnuHilf, "mnuHandbuch", u"&Handbuch\tF1"_qs);
     mnuInfo = addItem(mnuHilf, "mnuInfo", u"&Info"_qs);
 
     on(mnuBeenden, &QAction::triggered, [](bool) { modEnde::mnuBeenden_Click(); });
@@ -98,6 +109,9 @@ void Main::buildMenus() {
     on(mnuRepariere, &QAction::triggered, [](bool) { modTools::RepariereDatenbank(); });
     on(mnuMitglInfo, &QAction::triggered, [](bool) { modMitglList::mnuMitglInfo_Click(); });
     on(mnuFangInfo, &QAction::triggered, [](bool) { modFAuswert::mnuFangInfo_Click(); });
+    // The key itself is seen by Program, before any control and above any box.
+    on(mnuHandbuch, &QAction::triggered,
+       [](bool) { modHandbuch::ZeigeHandbuch(QApplication::focusWidget()); });
     on(mnuInfo, &QAction::triggered, [this](bool) { mnuInfo_Click(); });
     on(mnuArbContr, &QAction::triggered, [](bool) { modArbeit::mnuArbContr_Click(); });
 }
@@ -112,6 +126,16 @@ void Main::buildPanels() {
     StatusBar1->addPanel(Style::Text, QString(), u"Statusinformationen..."_qs, true);
     StatusBar1->addPanel(Style::Text, u"Fangjahr:"_qs, u"Fangjahr:"_qs);
     StatusBar1->addPanel(Style::Text, QString(), u"Akt. Fangjahr..."_qs);
+}
+
+/// Ctrl with a digit shows the area that stands at this place of the bar.
+void Main::buildAreaKeys() {
+    for (int place = 1; place <= 8; ++place) {
+        auto* key = new QShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_0 + place)), this);
+        on(key, &QShortcut::activated, [this, place] {
+            if (const BarItem* item = ButtnBar->items().value(place - 1)) zeigeBereich(item->key());
+        });
+    }
 }
 
 /// Alt with a letter of the menu would open the menu every other time only.
@@ -156,10 +180,10 @@ void Main::mnuInfo_Click() {
 void Main::loadKontMenu_Mitgl() {
     mnuMitglInfo->setEnabled(modKontakt::KontaktZugriff_Erlaubt());
     mnuArbContr->setEnabled(modArbeit::ArbeitsZugriff_Erlaubt());
-    mnuKontMenu_Mitgl->popup(QCursor::pos());
+    mnuKontMenu_Mitgl->popup(menuPlace());
 }
 
 void Main::loadKontMenu_FAusw() {
     mnuFangInfo->setEnabled(modFangbuch::FangbuchZugriff_Erlaubt());
-    mnuKontMenu_FAusw->popup(QCursor::pos());
+    mnuKontMenu_FAusw->popup(menuPlace());
 }

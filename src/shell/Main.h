@@ -46,6 +46,7 @@ public:
     QAction* mnuKomprimiere;
     QAction* mnuRepariere;
     QMenu* mnuHilf;
+    QAction* mnuHandbuch;
     QAction* mnuInfo;
 
 protected:
@@ -56,6 +57,7 @@ protected:
 private:
     void buildMenus();
     void buildPanels();
+    void buildAreaKeys();
     void keepMenuLetters(const Screen* front);
     void mnuInfo_Click();
 };

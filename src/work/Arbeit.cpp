@@ -65,6 +65,12 @@ void Arbeit::Form_Deactivate() {
     unload<SuchKont>();
 }
 
+bool Arbeit::Form_KeyDown(int key, Qt::KeyboardModifiers modifiers) {
+    if (key != Qt::Key_F || modifiers != Qt::ControlModifier) return false;
+    cmdSuch_Click();
+    return true;
+}
+
 void Arbeit::drucke(const QString& wort) {
     // The press ends the editing of an opened booking, which must not stand there as a new one afterwards.
     modArbeit::LeereOffenen();

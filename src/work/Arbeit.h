@@ -25,6 +25,7 @@ public:
     void Form_Load() override;
     void Form_Activate() override;
     void Form_Deactivate() override;
+    bool Form_KeyDown(int key, Qt::KeyboardModifiers modifiers) override;
 
     /// The next activation finds a member here and does not ask for one.
     void erwarteMitglied() { m_uebergabe = true; }

@@ -67,6 +67,7 @@ void Arbeit::buildToolbar() {
 QPushButton* Arbeit::addIconButton(const QString& name, const QString& icon, const QString& tip) {
     QPushButton* button = Face::button(name, QString(), Frame3);
     button->setIcon(Theme::icon(icon));
+    button->setIconSize({20, 20});
     button->setToolTip(tip);
     button->setAccessibleName(tip);
     return button;

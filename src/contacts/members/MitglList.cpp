@@ -15,6 +15,7 @@
 #include "modRun.h"
 
 #include <QCheckBox>
+#include <QToolButton>
 #include <algorithm>
 
 // The face of the screen is built in MitglListFace.cpp; here is what it does.
@@ -32,6 +33,12 @@ void MitglList::Form_Activate() {
 void MitglList::setHourView(bool on) {
     for (int column = 3; column <= 7; ++column) tblMList->setColumnShown(column, !on);
     for (int column = 8; column <= 10; ++column) tblMList->setColumnShown(column, on);
+}
+
+bool MitglList::Form_KeyDown(int key, Qt::KeyboardModifiers) {
+    if (key != Qt::Key_Escape) return false;
+    Toolbar1->key(u"tbEsc"_qs)->click();
+    return true;
 }
 
 void MitglList::tbSuch_Click() {

@@ -25,6 +25,7 @@ public:
 
     void Form_Load() override;
     void Form_Activate() override;
+    bool Form_KeyDown(int key, Qt::KeyboardModifiers modifiers) override;
 
     /// In the hour view the three columns of hours stand in place of address, telephone and birthday.
     void setHourView(bool on);

@@ -2,6 +2,7 @@
 
 #include "DataTable.h"
 #include "MsgBox.h"
+#include "OtherProgram.h"
 #include "RuntimeError.h"
 #include "Session.h"
 #include "Spreadsheet.h"
@@ -39,6 +40,7 @@ void zeigeInExcel(const QString& path, std::initializer_list<QString> columns) {
         excel->setVisible(true);
         excel->openWorkbook(path);
         for (const QString& column : columns) excel->autoFitColumns(column);
+        awaitOtherProgram();
     } catch (const RuntimeError&) {
         // Whether the program can be reached may only turn out when it is to do something.
         MsgBox(u"Es ist kein Excel verfügbar !"_qs, vbInformation);

@@ -199,17 +199,17 @@ BarItem* NavigationBar::item(const QString& key) const {
     return nullptr;
 }
 
-QVector<BarItem*> NavigationBar::allItems() const {
-    QVector<BarItem*> items;
-    for (const BarGroup* group : m_groups) items += group->items();
-    return items;
+QVector<BarItem*> NavigationBar::items() const {
+    QVector<BarItem*> all;
+    for (const BarGroup* group : m_groups) all += group->items();
+    return all;
 }
 
 BarItem* NavigationBar::firstItem() const {
     const QVector<BarItem*> own =
         m_groups.value(m_currentGroup) ? m_groups[m_currentGroup]->items() : QVector<BarItem*>();
-    const QVector<BarItem*> items = own.isEmpty() ? allItems() : own;
-    return items.isEmpty() ? nullptr : items.first();
+    const QVector<BarItem*> all = own.isEmpty() ? items() : own;
+    return all.isEmpty() ? nullptr : all.first();
 }
 
 void NavigationBar::setCurrentGroup(int index) {
@@ -224,24 +224,25 @@ void NavigationBar::setItemSpacing(int spacing) {
 
 void NavigationBar::setCurrentItem(BarItem* item) {
     m_current = item;
-    for (BarItem* each : allItems()) each->setChecked(each == item);
+    for (BarItem* each : items()) each->setChecked(each == item);
     renewTabStop();
 }
 
 void NavigationBar::renewTabStop() {
-    const QVector<BarItem*> items = allItems();
-    setTabStop(items.contains(m_current) ? m_current.data() : firstItem());
+    setTabStop(items().contains(m_current) ? m_current.data() : firstItem());
+    int place = 0;
+    for (BarItem* each : items()) each->setToolTip(u"Strg+%1"_qs.arg(++place));
     updateGeometry();
 }
 
 void NavigationBar::setTabStop(BarItem* item) {
-    for (BarItem* each : allItems()) each->setFocusPolicy(each == item ? Qt::TabFocus : Qt::NoFocus);
+    for (BarItem* each : items()) each->setFocusPolicy(each == item ? Qt::TabFocus : Qt::NoFocus);
     setFocusProxy(item);
 }
 
 void NavigationBar::goToNeighbour(BarItem* from, int step) {
-    const QVector<BarItem*> items = allItems();
-    BarItem* next = items.value(items.indexOf(from) + step);
+    const QVector<BarItem*> all = items();
+    BarItem* next = all.value(all.indexOf(from) + step);
     if (!next) return;
     setTabStop(next);
     next->setFocus(Qt::TabFocusReason);

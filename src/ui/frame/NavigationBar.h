@@ -79,6 +79,7 @@ public:
     BarGroup* group(const QString& caption) const; ///< null if there is none
     QVector<BarGroup*> groups() const { return m_groups; }
     BarItem* item(const QString& key) const; ///< in whichever group; null if there is none
+    QVector<BarItem*> items() const;         ///< of all groups, as they stand
     /// The group whose first item takes the focus when the bar does.
     void setCurrentGroup(int index);
     /// Room that an item takes at least, in per cent of its own height; tightens or loosens the bar.
@@ -96,7 +97,6 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    QVector<BarItem*> allItems() const;
     BarItem* firstItem() const;
     void setTabStop(BarItem* item);
     void renewTabStop();

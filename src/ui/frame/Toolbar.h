@@ -33,6 +33,8 @@ public:
     /// Adds keys with separators between them, and before the first one if it is not the toolbar's first.
     void addKeys(std::initializer_list<Key> keys);
     void addSeparator();
+    /// A control at the right end.
+    void addAtEnd(QWidget* control);
     QToolButton* key(const QString& key) const; ///< null if there is none
     void setKeyEnabled(const QString& key, bool on);
     /// Keys that want a letter which others around the toolbar have do without, and show none underlined.

@@ -3,6 +3,7 @@
 #include "DataTableColumn.h"
 #include "Value.h"
 
+#include <QElapsedTimer>
 #include <QTreeView>
 #include <QVector>
 #include <memory>
@@ -85,6 +86,12 @@ public:
     /// collapsed category the category is marked.
     void markRow(int row);
 
+    /// Where a menu for the current row opens: at the pointer, or at the row if a key has asked for it.
+    QPoint menuPlace() const { return m_menuPlace; }
+    /// Letters typed on the list: the next row that begins with them becomes the current one. Letters that
+    /// follow quickly belong to one word; the same letter again goes on to the next row.
+    void keyboardSearch(const QString& typed) override;
+
     SelectionStyle& selectionStyle() { return m_selectionStyle; }
     void refresh();
 
@@ -166,6 +173,8 @@ private:
     void cellDown(const Spot& spot);
     void cellOpen(const Spot& spot);
     bool foldByKey(int key);
+    void copyRow() const;
+    QVector<int> searchedColumns() const;
     QString clippedText(QPoint position) const;
     void toggle(int row);
 
@@ -183,6 +192,9 @@ private:
     SelectionStyle m_selectionStyle;
     QPersistentModelIndex m_marked;
     QString m_emptyHint;
+    QString m_typed;
+    QElapsedTimer m_lastTyped;
+    QPoint m_menuPlace;
     TableHandle m_current;
     bool m_publishScheduled = false;
     bool m_opennessTold = false; ///< a handler of the press has said whether the category is open

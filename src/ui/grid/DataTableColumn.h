@@ -16,6 +16,7 @@ struct GridColumn {
     bool fixed = false;   ///< its texts are all of one length, such as dates: it gives and takes no room
     bool firm = false;    ///< such as telephone numbers: it takes room but gives none
 
+    bool name = false;      ///< what is typed on the list is looked for here before all other columns
     QString headLines = {}; ///< the head as it is set on two lines, smaller, where the column is a narrow one
     QStringList order = {}; ///< where its words have an order of their own, such as months, for sorting by it
 

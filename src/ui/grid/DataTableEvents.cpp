@@ -4,7 +4,10 @@
 #include "DataTableModel.h"
 #include "FocusMove.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QContextMenuEvent>
+#include <QHeaderView>
 #include <QHelpEvent>
 #include <QPointer>
 #include <QTextDocument>
@@ -96,7 +99,12 @@ void DataTable::mouseDoubleClickEvent(QMouseEvent* event) {
 void DataTable::contextMenuEvent(QContextMenuEvent* event) {
     event->accept();
     const QPointer<DataTable> alive(this);
-    if (event->reason() == QContextMenuEvent::Keyboard) cellDown(currentSpot());
+    m_menuPlace = event->globalPos();
+    if (event->reason() == QContextMenuEvent::Keyboard) {
+        scrollTo(currentIndex());
+        m_menuPlace = viewport()->mapToGlobal(visualRect(currentIndex().siblingAtColumn(0)).bottomLeft());
+        cellDown(currentSpot());
+    }
     if (alive) Q_EMIT OnGridCellMenu();
 }
 
@@ -110,8 +118,60 @@ void DataTable::keyPressEvent(QKeyEvent* event) {
         if (!isCategory(spot)) return cellOpen(spot);
         spot.column = rowHeaderColumn;
         cellDown(spot);
+    } else if (event->matches(QKeySequence::Copy)) {
+        copyRow();
+    } else if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) {
+        QContextMenuEvent menu(QContextMenuEvent::Keyboard, {}, {});
+        contextMenuEvent(&menu);
     } else if (!foldByKey(event->key())) {
         QTreeView::keyPressEvent(event);
+    }
+}
+
+/// As the columns stand, with tabs between them: so it goes into a spreadsheet or a letter.
+void DataTable::copyRow() const {
+    const QModelIndex row = currentIndex();
+    if (!row.isValid()) return;
+    QStringList cells;
+    for (int column = 0; column < m_model->gutterColumn(); ++column)
+        if (!isColumnHidden(column)) cells.append(row.siblingAtColumn(column).data().toString());
+    if (m_model->isCategory(row)) cells = {row.siblingAtColumn(0).data().toString()};
+    QApplication::clipboard()->setText(cells.join(u'\t'));
+}
+
+/// The column by which the rows are sorted, the one of names, then the others from the left.
+QVector<int> DataTable::searchedColumns() const {
+    QVector<int> columns;
+    const auto add = [&](int column) {
+        if (!isColumnHidden(column) && !columns.contains(column)) columns.append(column);
+    };
+    const auto& shown = m_model->shownColumns();
+    if (isSortingEnabled() && header()->sortIndicatorSection() >= 0) add(header()->sortIndicatorSection());
+    for (int column = 0; column < shown.size(); ++column)
+        if (shown[column].name) add(column);
+    for (int column = 0; column < shown.size(); ++column) add(column);
+    return columns;
+}
+
+void DataTable::keyboardSearch(const QString& typed) {
+    publish();
+    const QModelIndex current = currentIndex();
+    if (!current.isValid() || typed.trimmed().isEmpty()) return;
+    const bool goesOn =
+        m_lastTyped.isValid() && !m_lastTyped.hasExpired(QApplication::keyboardInputInterval());
+    m_lastTyped.start();
+    const bool again = goesOn && m_typed == typed;
+    m_typed = goesOn && !again ? m_typed + typed : typed;
+    const int rows = m_model->rowCount(current.parent());
+    const int first = current.row() + (goesOn && !again ? 0 : 1);
+    const bool category = m_model->isCategory(current);
+    for (const int column : category ? QVector<int>{0} : searchedColumns()) {
+        for (int step = 0; step < rows; ++step) {
+            const QModelIndex cell = m_model->index((first + step) % rows, column, current.parent());
+            if (!cell.data().toString().startsWith(m_typed, Qt::CaseInsensitive)) continue;
+            setCurrentIndex(cell.siblingAtColumn(current.column()));
+            return;
+        }
     }
 }
 
