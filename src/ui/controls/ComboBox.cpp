@@ -54,15 +54,13 @@ void ComboBox::setListIndex(int index) {
     Q_EMIT Click();
 }
 
-QSize ComboBox::bounded(QSize hint) const {
-    constexpr int longest = 28;
-    const QSize widest(longest * fontMetrics().averageCharWidth(), QWIDGETSIZE_MAX);
-    return hint.boundedTo(widest);
+QSize ComboBox::bounded(QSize hint, int characters) const {
+    return hint.boundedTo({characters * fontMetrics().averageCharWidth(), QWIDGETSIZE_MAX});
 }
 
-QSize ComboBox::sizeHint() const { return bounded(QComboBox::sizeHint()); }
+QSize ComboBox::sizeHint() const { return bounded(QComboBox::sizeHint(), 28); }
 
-QSize ComboBox::minimumSizeHint() const { return bounded(QComboBox::minimumSizeHint()); }
+QSize ComboBox::minimumSizeHint() const { return bounded(QComboBox::minimumSizeHint(), 16); }
 
 void ComboBox::showPopup() {
     const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, view());

@@ -28,7 +28,7 @@ public:
     /// -1 selects none; error 380 beyond the list.
     void setListIndex(int index);
 
-    /// As its widest entry, but a single long name does not widen the screen for all.
+    /// As its widest entry, but a single long name does not widen the screen for all, nor the frame.
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
     /// The list hangs open as wide as its entries need, up to the room on the desktop.
@@ -44,7 +44,7 @@ protected:
 private:
     int placeFor(const QString& text) const;
     int indexOf(const QString& text) const;
-    QSize bounded(QSize hint) const;
+    QSize bounded(QSize hint, int characters) const;
 
     Order m_order;
     QElapsedTimer m_lastLetter; ///< of an entry that is looked for by typing its name

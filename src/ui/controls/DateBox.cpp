@@ -114,8 +114,17 @@ void DateBox::makeCalendar() {
     m_calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
     // The toolkit's red is hard to read on a dark ground, and its pictures are not ours.
     for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday}) m_calendar->setWeekdayTextFormat(day, {});
-    m_calendar->findChild<QToolButton*>(u"qt_calendar_prevmonth"_qs)->setArrowType(Qt::LeftArrow);
-    m_calendar->findChild<QToolButton*>(u"qt_calendar_nextmonth"_qs)->setArrowType(Qt::RightArrow);
+    const auto setArrow = [this](const QString& name, Qt::ArrowType arrow) {
+        auto* button = m_calendar->findChild<QToolButton*>(name);
+        button->setArrowType(arrow);
+        // They stand on the ground of a selection.
+        QPalette onBar = button->palette();
+        for (const auto ink : {QPalette::ButtonText, QPalette::WindowText, QPalette::Text})
+            onBar.setColor(ink, palette().color(QPalette::HighlightedText));
+        button->setPalette(onBar);
+    };
+    setArrow(u"qt_calendar_prevmonth"_qs, Qt::LeftArrow);
+    setArrow(u"qt_calendar_nextmonth"_qs, Qt::RightArrow);
     // Enter and a click pick a day; going about by the arrow keys does not.
     for (const auto signal : {&QCalendarWidget::activated, &QCalendarWidget::clicked})
         connect(m_calendar, signal, this, [this](QDate day) {

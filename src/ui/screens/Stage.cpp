@@ -119,10 +119,12 @@ void Stage::setActive(bool on) {
     settle();
 }
 
-// The frame grows with the screen that needs the most room instead of squeezing its controls, and keeps room
-// for some rows in the grids of the others.
+// Room for any screen of the program from the start, with some rows in its grid: the frame must not grow on
+// the way from screen to screen. One that needs more all the same gets it, instead of squeezing its controls.
 QSize Stage::minimumSizeHint() const {
-    QSize room(640, 420);
+    constexpr int digits = 114;
+    constexpr int lines = 29;
+    QSize room(digits * fontMetrics().horizontalAdvance(u'0'), lines * fontMetrics().height());
     for (const QPointer<Screen>& screen : m_order) {
         if (screen) room = room.expandedTo(screen->minimumSizeHint());
     }

@@ -13,6 +13,7 @@
 namespace {
 
 constexpr int fieldHeight = 26;
+constexpr int entryHeight = 22;
 constexpr int arrowWidth = 22;
 constexpr int scrollExtent = 13;
 constexpr int scrollInset = 3;
@@ -268,8 +269,15 @@ QSize HouseStyle::sizeFromContents(ContentsType type, const QStyleOption* option
         return {size.width(), std::max(fieldHeight, option->fontMetrics.height() + 8)};
     case CT_PushButton:
         return QSize(size.width() + 8, size.height()).expandedTo({0, fieldHeight + 2});
-    case CT_ToolButton:
-        return size + QSize(6, 2);
+    case CT_ToolButton: {
+        // Qt leaves room for two blanks behind the words, which would make uneven gaps between keys.
+        const auto* key = as<QStyleOptionToolButton>(option);
+        const bool words = key && key->toolButtonStyle == Qt::ToolButtonTextBesideIcon;
+        return size + QSize(words ? -2 - 2 * option->fontMetrics.horizontalAdvance(u' ') : 6, 2);
+    }
+    // The rows of a combo box that hangs open.
+    case CT_ItemViewItem:
+        return size.expandedTo({0, entryHeight});
     case CT_TabBarTab:
         return size + QSize(8, 4);
     default:

@@ -1,5 +1,7 @@
 #include "DataTable.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QContextMenuEvent>
 #include <QHelpEvent>
 #include <QLineEdit>
@@ -173,6 +175,33 @@ TEST_F(DataTableEventsTest, KeysMoveTheCurrentRowAndTabLeaves) {
     }
     key(Qt::Key_Tab);
     EXPECT_TRUE(m_field->hasFocus());
+}
+
+TEST_F(DataTableEventsTest, LettersFindTheNextRowAndKeysCopyItAndOpenItsMenu) {
+    showFlat();
+    const QStringList names = {u"Aal"_qs, u"Barsch"_qs, u"Brasse"_qs, u"Ärmel"_qs};
+    for (int row = 0; row < names.size(); ++row) m_grid->setCell(row, 1, names[row]);
+    for (const int row : {1, 2, 1}) {
+        key(Qt::Key_B);
+        EXPECT_EQ(m_grid->currentIndex().row(), row);
+    }
+    key(Qt::Key_R);
+    EXPECT_EQ(m_grid->currentIndex().row(), 2);
+    QTest::keyClick(m_grid, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text(), u"2\tBrasse\tOrt");
+    QTest::keyClick(m_grid, Qt::Key_F10, Qt::ShiftModifier);
+    EXPECT_EQ(heard(), u"down 2 0, menu");
+}
+
+TEST_F(DataTableEventsTest, AMarkedRowIsTheCurrentOneAndLeavesTheFocusAlone) {
+    showFlat();
+    m_field->setFocus();
+    heard();
+    m_grid->appendRow({4, u"neu", u"Ort"});
+    m_grid->markRow(m_grid->rowCount());
+    EXPECT_EQ(m_grid->currentIndex().row(), 4);
+    EXPECT_TRUE(m_field->hasFocus());
+    EXPECT_EQ(heard(), QString());
 }
 
 TEST_F(DataTableEventsTest, FocusIsToldButNotWhileAMenuIsOpen) {
