@@ -51,7 +51,12 @@ DataTableLook::DataTableLook(const QPalette& palette) {
     focus = Theme::accent();
 }
 
-QColor DataTableLook::marked(const QColor& back) const { return Theme::mixed(back, focus, 0.3); }
+// Child tables have a light ground on a dark desktop, too, where the accent would be lost on it.
+QColor DataTableLook::marked(const QColor& back) const {
+    constexpr int middle = 128;
+    const bool lost = back.lightness() > middle && Theme::mode() == Theme::Mode::Dark;
+    return Theme::mixed(back, lost ? Theme::darkBlue() : focus, 0.3);
+}
 
 namespace DataTableShapes {
 
