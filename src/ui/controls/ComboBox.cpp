@@ -71,6 +71,8 @@ void ComboBox::showPopup() {
 
 // A blank opens the list, but in the middle of a name it is a letter like any other.
 void ComboBox::keyPressEvent(QKeyEvent* event) {
+    // Ctrl+Tab belongs to the tabs around. Qt would take it for the beginning of a name.
+    if (event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab) return event->ignore();
     const bool searching =
         m_lastLetter.isValid() && !m_lastLetter.hasExpired(QApplication::keyboardInputInterval());
     const bool blank = event->key() == Qt::Key_Space;
