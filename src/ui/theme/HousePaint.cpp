@@ -32,7 +32,7 @@ private:
     QPainter* m_painter;
 };
 
-// A pen draws on both sides of its line; this keeps it within the rectangle.
+// A pen draws on both sides of its line. The inset keeps the line within the rectangle.
 void rounded(QPainter* painter, const QRectF& place, const QColor& line, double width, const QBrush& ground,
              double radius = corner) {
     const double inset = width / 2;

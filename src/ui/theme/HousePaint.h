@@ -8,7 +8,7 @@ class QPainter;
 class QStyleOption;
 class QStyleOptionTab;
 
-/// How the parts of the controls look; each draws into the option's rectangle unless told otherwise.
+/// Draws the parts of the controls. Each function draws into the option's rectangle if it takes no place.
 namespace HousePaint {
 
 /// The ground and border of a text box, a combo box and their like; the border is the focus ring as well, or
@@ -16,14 +16,14 @@ namespace HousePaint {
 void field(const QStyleOption* option, QPainter* painter, bool faulty = false);
 /// The border alone, around something that paints its own ground.
 void fieldBorder(const QStyleOption* option, QPainter* painter);
-/// A value that only shows.
+/// Ground and border of a value that cannot be edited.
 void sunkenPanel(const QStyleOption* option, QPainter* painter);
 void pushButton(const QStyleOption* option, QPainter* painter, bool isDefault);
 void toolButton(const QStyleOption* option, QPainter* painter);
 void focusRing(const QStyleOption* option, QPainter* painter);
 void checkBox(const QStyleOption* option, QPainter* painter);
 void radioButton(const QStyleOption* option, QPainter* painter);
-/// The ground of a toolbar, the status bar or the navigation bar, with a line where it ends.
+/// The ground of a toolbar, the status bar or the navigation bar, with a line along its edge `end`.
 void bar(const QRect& place, const QColor& ground, Qt::Edge end, QPainter* painter);
 void chevron(const QRectF& place, Qt::ArrowType direction, const QStyleOption* option, QPainter* painter);
 void tab(const QStyleOptionTab* option, QPainter* painter);

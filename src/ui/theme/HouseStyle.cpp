@@ -27,7 +27,7 @@ const Option* as(const QStyleOption* option) {
     return qstyleoption_cast<const Option*>(option);
 }
 
-// Where the handle of a scroll bar without arrow keys stands.
+// The place of the handle in a scroll bar without arrow buttons.
 QRect handleRect(const QStyleOptionSlider* bar) {
     const bool upright = bar->orientation == Qt::Vertical;
     const int length = upright ? bar->rect.height() : bar->rect.width();
@@ -62,7 +62,7 @@ QRect scrollPart(const QStyleOptionSlider* bar, QStyle::SubControl part) {
     }
 }
 
-// Around a toolbar key as a whole; the toolkit's place for it runs through the icon.
+// Around a toolbar button as a whole. Qt's own focus rectangle runs through the icon.
 void drawFocus(const QStyleOption* option, QPainter* painter, const QWidget* widget) {
     QStyleOption place = *option;
     if (qobject_cast<const QToolButton*>(widget)) place.rect = widget->rect().adjusted(1, 1, -1, -1);
@@ -90,7 +90,7 @@ void drawProgress(const QStyleOptionProgressBar* bar, QPainter* painter) {
     HousePaint::progressContents({room.topLeft(), filled}, bar, painter);
 }
 
-// The figure stands on both grounds in the same ink, which is legible on either.
+// The figure crosses the filled and the empty part in one ink, which is legible on both.
 void drawProgressLabel(const QStyleOptionProgressBar* bar, QPainter* painter) {
     painter->save();
     painter->setPen(bar->palette.color(QPalette::Text));
@@ -175,7 +175,7 @@ void HouseStyle::drawControl(ControlElement element, const QStyleOption* option,
     QProxyStyle::drawControl(element, option, painter, widget);
 }
 
-// The toolkit would cut an entry that is too long in the middle of a letter.
+// Qt would cut an entry that is too long in the middle of a letter.
 void HouseStyle::drawEntry(const QStyleOptionComboBox* option, QPainter* painter,
                            const QWidget* widget) const {
     QStyleOptionComboBox shown = *option;
@@ -228,7 +228,7 @@ void HouseStyle::drawScrollBar(const QStyleOptionComplex* option, QPainter* pain
                                const QWidget* /*widget*/) const {
     const auto* bar = as<QStyleOptionSlider>(option);
     if (!bar) return;
-    // A scroll bar has to cover its ground, or the last handle stays.
+    // Covers the handle at its last place.
     painter->fillRect(bar->rect, bar->palette.color(QPalette::Window));
     if (bar->maximum <= bar->minimum) return;
     const int inset = scrollInset;
@@ -312,7 +312,7 @@ int HouseStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, cons
 int HouseStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                           QStyleHintReturn* answer) const {
     switch (hint) {
-    // The list opens below its box instead of over it, with scroll bars instead of arrows.
+    // 0: the list opens below its combo box instead of over it, with scroll bars instead of arrows.
     case SH_ComboBox_Popup:
         return 0;
     case SH_UnderlineShortcut:

@@ -5,7 +5,7 @@
 class QStyleOptionComboBox;
 
 /// The flat look of the program's controls: rounded fields, one accent ring for the focus, slim scroll bars.
-/// What it does not draw itself is left to the style below it.
+/// Leaves everything else to the style below it.
 class HouseStyle : public QProxyStyle {
     Q_OBJECT
 

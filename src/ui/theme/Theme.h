@@ -15,13 +15,13 @@ namespace Theme {
 enum class Mode { Light, Dark };
 
 Mode mode();
-/// For apply(), which also brings the new colours to style and palette.
+/// Only for apply(), which also renews style and palette.
 void setMode(Mode mode);
 
 QPalette palette();
 
 QColor blue();     ///< (172, 199, 247)
-QColor darkBlue(); ///< a ground for white text in both modes; bar and headings
+QColor darkBlue(); ///< a ground for white text in both modes: bar and headings
 QColor accent();   ///< focus and selection
 
 QColor headingInk(); ///< text of headings, legible on the window in both modes
@@ -32,10 +32,9 @@ QColor barGround();
 QColor toolbarGround(); ///< toolbars and the status bar
 QColor barItemGround(bool current, bool hovered, bool pressed);
 
-/// So much of the way from one colour to the other; 0 is the first, 1 the second.
+/// A colour between two: share 0 gives `from`, 1 gives `to`.
 QColor mixed(const QColor& from, const QColor& to, double share);
-/// A picture among the program's own (assets/icons/NAME.svg), drawn sharp at any scale and legible in both
-/// modes.
+/// One of the program's own icons (assets/icons/NAME.svg), sharp at any scale and legible in both modes.
 QIcon icon(const QString& name);
 
 /// Draws the border of a text, combo or date box in the colour above.

@@ -12,7 +12,7 @@ namespace {
 
 constexpr double disabledOpacity = 0.38;
 
-// The pictures are drawn in these three; the rest of their colours stands on any ground.
+// The icons' three colours that change with the mode. Their other colours are legible in both modes.
 const QByteArray lineColour = QByteArrayLiteral("#1f3f77");
 const QByteArray fillColour = QByteArrayLiteral("#acc7f7");
 const QByteArray paperColour = QByteArrayLiteral("#ffffff");
@@ -47,7 +47,7 @@ ThemeIcon::ThemeIcon(const QString& name)
     : m_name(name)
     , m_picture(contentsOf(name)) {}
 
-// In the middle of the room, its proportions kept.
+// In the middle of `size`, with its proportions kept.
 QImage ThemeIcon::drawn(const QSize& size) const {
     QByteArray data = recoloured(m_picture);
     QBuffer buffer(&data);
@@ -77,7 +77,7 @@ QPixmap ThemeIcon::pixmap(const QSize& size, QIcon::Mode mode, QIcon::State /*st
     return found;
 }
 
-// From Qt 6.8 on the size is that of the icon on the screen, before it was that of its pixels.
+// From Qt 6.8 on Qt passes the size in logical pixels, before 6.8 in device pixels.
 QPixmap ThemeIcon::scaledPixmap(const QSize& size, QIcon::Mode mode, QIcon::State state, qreal scale) {
     constexpr bool sizeIsLogical = QT_VERSION >= QT_VERSION_CHECK(6, 8, 0);
     return pixmap(sizeIsLogical ? (QSizeF(size) * scale).toSize() : size, mode, state);

@@ -2,8 +2,8 @@
 
 #include <QIconEngine>
 
-/// Draws one of the program's pictures at the very size and resolution that is asked for. Its two colours
-/// follow the theme, also when that changes under a window that is open.
+/// Draws one of the program's icons, at exactly the requested size and resolution. Its colours follow the
+/// theme, also when the theme changes while a window is open.
 class ThemeIcon : public QIconEngine {
 public:
     explicit ThemeIcon(const QString& name);

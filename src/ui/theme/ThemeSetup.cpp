@@ -12,14 +12,15 @@
 #include <QToolTip>
 #include <QTranslator>
 
-// The pictures lie in a static library, which the linker leaves out unless somebody asks for them by name;
-// the asking must not stand in a namespace.
+// The icons are in a static library: the linker drops them unless this macro names them. The macro does not
+// work inside a namespace.
 static void loadPictures() { Q_INIT_RESOURCE(assets); }
 
 namespace {
 
 constexpr double bodyPoints = 9.75;
-/// Letters of a name that is looked for in a list belong together so long; Qt's 400 ms are for quick hands.
+/// The longest pause between two letters of a name typed to find it in a list. Qt's 400 ms are too short
+/// for slow typists.
 constexpr int slowestTypingMilliseconds = 2000;
 
 QFont bodyFont() {
