@@ -31,7 +31,7 @@ void ComboBox::InsertItem(int index, const QString& text) {
     const bool noneSelected = currentIndex() < 0;
     const QString typed = currentText();
     insertItem(index, text);
-    // The toolkit selects the first entry that comes into an empty list.
+    // Qt selects the first entry that comes into an empty list.
     if (!noneSelected || currentIndex() < 0) return;
     setCurrentIndex(-1);
     if (isEditable()) setEditText(typed);
@@ -69,7 +69,7 @@ void ComboBox::showPopup() {
     QComboBox::showPopup();
 }
 
-// A blank opens the list, but in the middle of a name it is a letter like any other.
+// The space bar opens the list, but within a name being typed a space is a letter like any other.
 void ComboBox::keyPressEvent(QKeyEvent* event) {
     // Ctrl+Tab belongs to the tabs around. Qt would take it for the beginning of a name.
     if (event->key() == Qt::Key_Tab || event->key() == Qt::Key_Backtab) return event->ignore();
@@ -84,7 +84,7 @@ void ComboBox::keyPressEvent(QKeyEvent* event) {
     QComboBox::keyPressEvent(&asLetter);
 }
 
-// Rolling a screen must not change the fields that pass under the pointer.
+// Scrolling a screen must not change the fields that pass under the pointer.
 void ComboBox::wheelEvent(QWheelEvent* event) {
     if (hasFocus())
         QComboBox::wheelEvent(event);

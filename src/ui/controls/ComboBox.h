@@ -3,8 +3,8 @@
 #include <QComboBox>
 #include <QElapsedTimer>
 
-/// A drop-down list. Its click runs when the user picks an entry, also the one that stands there already, and
-/// when the program changes the selection.
+/// A drop-down list. Click is emitted when the user picks an entry, even the selected one, and when the
+/// program changes the selection.
 class ComboBox : public QComboBox {
     Q_OBJECT
 
@@ -17,21 +17,22 @@ public:
 
     int ListCount() const { return count(); }
     int ListIndex() const { return currentIndex(); }
-    void Clear(); ///< no click
-    /// At its place in the German order, regardless of case, or at the end. The selection stays.
+    void Clear(); ///< emits no Click
+    /// Adds at the end, or with Order::Sorted at its place in the German order, regardless of case. The
+    /// selection stays.
     void AddItem(const QString& text);
     void InsertItem(int index, const QString& text);
     QString Text() const { return currentText(); }
-    /// Selects the entry of this text; error 383 if a drop-down list has none such (an empty text selects
-    /// nothing). An editable one takes any text.
+    /// Selects the entry of this text; an empty text selects none. Error 383 if a drop-down list has no such
+    /// entry. An editable one takes any text.
     void setText(const QString& text);
-    /// -1 selects none; error 380 beyond the list.
+    /// -1 selects none. Error 380 if there is no such entry.
     void setListIndex(int index);
 
     /// As its widest entry, but a single long name does not widen the screen for all, nor the frame.
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
-    /// The list hangs open as wide as its entries need, up to the room on the desktop.
+    /// Opens the list as wide as its entries need, up to the width of the desktop.
     void showPopup() override;
 
 Q_SIGNALS:
@@ -47,5 +48,5 @@ private:
     QSize bounded(QSize hint, int characters) const;
 
     Order m_order;
-    QElapsedTimer m_lastLetter; ///< of an entry that is looked for by typing its name
+    QElapsedTimer m_lastLetter; ///< since the last letter typed to find an entry by its name
 };

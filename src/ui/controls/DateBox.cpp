@@ -16,12 +16,12 @@
 
 namespace {
 
-/// Wide enough for any date, and for the arrow beside it.
+/// The width of the box: enough for any date and the arrow beside it.
 constexpr int characters = 11;
 
 QString textOf(Date date) { return date.isEmpty() ? QString() : date.toQDate().toString(u"dd.MM.yyyy"_qs); }
 
-/// On the number pad there is a comma where a date has its points, and neither is missed in 01022026.
+/// Accepts commas for points, since the number pad has a comma, and adds the points to 01022026.
 QString withPoints(QString typed) {
     constexpr int dayAndMonth = 4;
     typed = typed.trimmed().replace(u',', u'.');
@@ -32,7 +32,7 @@ QString withPoints(QString typed) {
 
 } // namespace
 
-// The toolkit's own date box takes 31012026, typed while it shows a day of February, for 3 October 1202.
+// Not QDateEdit: it reads 31012026, typed while it shows a day of February, as 3 October 1202.
 DateBox::DateBox(const QString& name, QWidget* parent)
     : QComboBox(parent) {
     setObjectName(name);
@@ -61,11 +61,11 @@ void DateBox::setDate(Date date) {
 
 bool DateBox::isReadable() const { return currentText() == m_shown || typedDay(); }
 
-// None also where the text stands as it was put in: it may show less than the date has.
+// None also while the text is unchanged: the date may hold more than its text shows.
 std::optional<QDate> DateBox::typedDay() const {
     if (currentText() == m_shown) return std::nullopt;
     const Value typed(withPoints(currentText()));
-    // A time alone would be a date as well.
+    // IsDate() accepts a time alone as well.
     if (typed.text().contains(u':') || !IsDate(typed)) return std::nullopt;
     return CDate(typed).toQDate();
 }
@@ -91,11 +91,11 @@ void DateBox::keyPressEvent(QKeyEvent* event) {
         QComboBox::keyPressEvent(event);
 }
 
-// Rolling a screen must not change the fields that pass under the pointer.
+// Scrolling a screen must not change the fields that pass under the pointer.
 void DateBox::wheelEvent(QWheelEvent* event) { event->ignore(); }
 
-// Whoever comes by a key, or is sent here, writes over what stands there; also who was sent here while
-// another window was active, when the focus arrives with the window's return.
+// Selects the text, so that typing replaces it, if the focus came by a key or by the program. The program may
+// have moved it here while another window was active: then the focus arrives with the window's return.
 void DateBox::focusInEvent(QFocusEvent* event) {
     QComboBox::focusInEvent(event);
     const bool arrives = movesFocus(event->reason()) || !m_hasFocus;
@@ -112,7 +112,7 @@ void DateBox::makeCalendar() {
     m_calendar = new QCalendarWidget(this);
     m_calendar->setWindowFlags(Qt::Popup);
     m_calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
-    // The toolkit's red is hard to read on a dark ground, and its pictures are not ours.
+    // Qt's red is hard to read on a dark ground, and its icons are not ours.
     for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday}) m_calendar->setWeekdayTextFormat(day, {});
     const auto setArrow = [this](const QString& name, Qt::ArrowType arrow) {
         auto* button = m_calendar->findChild<QToolButton*>(name);

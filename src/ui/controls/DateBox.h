@@ -8,21 +8,21 @@
 
 class QCalendarWidget;
 
-/// One date, typed or picked from a calendar that the arrow, F4 or Alt+Down open; the keys Up and Down go day
-/// by day. It is typed as a German user writes dates (1.2.26, 1,2,2026, 01022026, 1.2. for this year) and
-/// stands as 01.02.2026 once the box is left.
+/// A box for one date, typed or picked from a calendar. The arrow, F4 or Alt+Down open the calendar; the keys
+/// Up and Down go day by day. Reads dates as a German user types them (1.2.26, 1,2,2026, 01022026, 1.2. for
+/// this year) and shows them as 01.02.2026 once the box is left.
 class DateBox : public QComboBox {
     Q_OBJECT
 
 public:
     explicit DateBox(const QString& name, QWidget* parent = nullptr);
 
-    /// What was put in, with its time of day and also where no calendar has it, until a user changes it.
-    /// While the text is no date it stays what it was last.
+    /// The date given to setDate(), with its time of day and even if no calendar has it, until a user changes
+    /// it. While the text is no date: the last one that was.
     Date date() const;
-    /// The empty date and one outside the years 100 to 9999 stand as an empty text.
+    /// The empty date and dates outside the years 100 to 9999 show as an empty text.
     void setDate(Date date);
-    /// False while what somebody typed is no date.
+    /// False while the typed text is no date.
     bool isReadable() const;
 
     void showPopup() override;
@@ -40,7 +40,7 @@ private:
     void makeCalendar();
 
     Date m_date;
-    QString m_shown;         ///< how m_date stands in the box
-    bool m_hasFocus = false; ///< also while a menu or another window borrows it
+    QString m_shown;         ///< the text of m_date in the box
+    bool m_hasFocus = false; ///< also while a menu or another window borrows the focus
     QPointer<QCalendarWidget> m_calendar;
 };

@@ -2,7 +2,7 @@
 
 #include <QLabel>
 
-/// A text in the ink of headings. Follows the theme when that changes.
+/// A text in the colour of headings. Follows a change of the theme.
 class HeadingText : public QLabel {
     Q_OBJECT
 
@@ -16,7 +16,7 @@ private:
     void takeInk();
 };
 
-/// The heading of a screen, in capitals, in the font Comic Sans MS or what stands in for it.
+/// The heading of a screen, in capitals, in Comic Sans MS or its substitute.
 class Heading : public HeadingText {
     Q_OBJECT
 

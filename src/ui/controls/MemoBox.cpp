@@ -28,7 +28,7 @@ MemoBox::MemoBox(const QString& name, QWidget* parent)
     whenFocusIsElsewhere(this, [this] { loseFocus(); });
 }
 
-// The raw text, since the plain one has every protected blank turned into a common one.
+// toRawText(), since toPlainText() turns every no-break space into a common one.
 QString MemoBox::Text() const {
     return document()
         ->toRawText()
@@ -47,7 +47,7 @@ QString MemoBox::whatFits(const QString& text) const {
         room -= text[end] == u'\n' ? 2 : 1;
         if (room < 0) break;
     }
-    // Half of a character outside the basic plane is none.
+    // Never half of a surrogate pair.
     if (end > 0 && end < text.size() && text[end - 1].isHighSurrogate()) --end;
     return text.left(end);
 }

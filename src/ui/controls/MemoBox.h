@@ -9,12 +9,12 @@ class MemoBox : public QPlainTextEdit {
 public:
     explicit MemoBox(const QString& name, QWidget* parent = nullptr);
 
-    /// Lines are joined by carriage return and line feed, as the tables hold them.
+    /// Joins lines by carriage return and line feed, as the tables hold them.
     QString Text() const;
     /// Takes line breaks of any kind.
     void setText(const QString& text);
-    /// Characters beyond are refused, pasted ones too; 0 is no limit. A line break counts as the two
-    /// characters that the tables hold for it.
+    /// Refuses characters beyond the limit, pasted ones too; 0 is no limit. A line break counts as two
+    /// characters, since the tables hold two for it.
     void setLimit(int characters) { m_limit = characters; }
 
 Q_SIGNALS:

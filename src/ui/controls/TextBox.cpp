@@ -23,7 +23,7 @@ bool isShortcut(const QKeyEvent* event) {
     return modifiers == Qt::ControlModifier;
 }
 
-// The characters that a key makes; nearly always one, none for keys that only move or command.
+// The characters that a key makes: nearly always one, none for keys that only move or command.
 QList<uint> codesOf(const QKeyEvent* event) {
     if (isShortcut(event)) return {};
     if (event->key() == Qt::Key_Backspace) return {backspaceCode};
@@ -38,7 +38,7 @@ bool isEntry(const QAction* entry, const QString& caption) {
     return entry->text().section(u'\t', 0, 0) == caption;
 }
 
-// A text from elsewhere may end in a line break, which one line cannot show and nobody means to keep.
+// A copied text often ends in a line break, which one line cannot show.
 QString inOneLine(QString text) {
     if (!text.contains(u'\n') && !text.contains(u'\r')) return text;
     return text.replace(u"\r\n"_qs, u" "_qs).replace(u'\n', u' ').replace(u'\r', u' ').trimmed();
@@ -121,7 +121,7 @@ void TextBox::keyPressEvent(QKeyEvent* event) {
     }
 }
 
-// Composed characters (accents, desktop input methods) come this way instead of as keys.
+// Receives composed characters (accents, desktop input methods), which do not come as keys.
 void TextBox::inputMethodEvent(QInputMethodEvent* event) {
     const QPointer<TextBox> alive(this);
     const QList<uint> codes = event->commitString().toUcs4();
@@ -138,7 +138,7 @@ void TextBox::inputMethodEvent(QInputMethodEvent* event) {
     }
 }
 
-// Qt's own entry would paste past the filter.
+// Qt's own menu entry would paste past the filter.
 void TextBox::contextMenuEvent(QContextMenuEvent* event) {
     QMenu* menu = createStandardContextMenu();
     menu->setAttribute(Qt::WA_DeleteOnClose);
@@ -151,7 +151,7 @@ void TextBox::contextMenuEvent(QContextMenuEvent* event) {
 }
 
 void TextBox::dropEvent(QDropEvent* event) {
-    // A text moved within the box is none from elsewhere.
+    // A text moved within the box has passed the filter already.
     if (event->source() == this) return QLineEdit::dropEvent(event);
     QMimeData passed;
     passed.setText(whatPasses(event->mimeData()->text(), maxLength() - text().size()));
@@ -164,7 +164,7 @@ void TextBox::dropEvent(QDropEvent* event) {
 
 void TextBox::focusInEvent(QFocusEvent* event) {
     QLineEdit::focusInEvent(event);
-    // Whoever moved the focus while another window was active: it arrives with the window's return.
+    // The focus may have been moved here while another window was active: it comes with the window's return.
     if (!movesFocus(event->reason()) && m_hasFocus) return;
     m_hasFocus = true;
     m_selectOnRelease = m_selectAllOnFocus && event->reason() == Qt::MouseFocusReason;
@@ -185,7 +185,7 @@ void TextBox::loseFocus() {
     Q_EMIT LostFocus();
 }
 
-// The press has put the caret where the pointer is, so the selection has to wait for the release.
+// The press puts the caret at the pointer, so select on release.
 void TextBox::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() == Qt::MiddleButton) {
         deselect();

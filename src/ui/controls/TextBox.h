@@ -4,19 +4,19 @@
 #include <QLineEdit>
 #include <functional>
 
-/// What a key filter makes of a typed character: the code itself, or 0 to refuse it. Backspace (8) and
-/// Enter (13) pass through it as well.
+/// Given a typed character, returns its code to accept it or 0 to refuse it. Also called for Backspace (8)
+/// and Enter (13).
 using KeyFilter = std::function<int(int code)>;
 
-/// What becomes of a character that the key filter refuses. It beeps in any case.
+/// The fate of a character that the key filter refuses. The box beeps in any case.
 enum class Refused {
-    Dropped,      ///< what is pasted comes without it
-    WithTheWhole, ///< what is pasted comes as a whole, if there is room for it, or not at all
-    Admitted      ///< it beeps only
+    Dropped,      ///< a pasted text comes without the character
+    WithTheWhole, ///< a pasted text comes whole, if it fits, or not at all
+    Admitted      ///< the character comes in all the same
 };
 
-/// A one-line text box with the events the screens use. What is typed, composed, pasted or dropped passes the
-/// key filter; what a routine puts in does not, nor do keys such as copy and undo.
+/// A one-line text box with the events that the screens use. Typed, composed, pasted and dropped texts pass
+/// the key filter; setText() and keys such as copy and undo do not.
 class TextBox : public QLineEdit {
     Q_OBJECT
 
@@ -24,9 +24,9 @@ public:
     explicit TextBox(const QString& name, QWidget* parent = nullptr);
 
     QString Text() const { return text(); }
-    /// Shows the beginning of a text that is too long for the box, unless somebody is typing in it.
+    /// Shows the beginning of a text that is too long for the box, unless the box has the focus.
     void setText(const QString& text);
-    /// Characters beyond are refused.
+    /// Refuses characters beyond the limit.
     void setLimit(int characters) { setMaxLength(characters); }
     void setKeyFilter(KeyFilter filter, Refused refused = Refused::Dropped);
     void setSelectAllOnFocus(bool on) { m_selectAllOnFocus = on; }
@@ -36,10 +36,10 @@ public:
     QSize minimumSizeHint() const override;
 
 Q_SIGNALS:
-    /// A key that makes a character (or Backspace or Enter) was pressed, whether or not the filter lets it
-    /// through. Comes before the text changes.
+    /// A key that makes a character (or Backspace or Enter) was pressed, whether or not the filter accepts
+    /// it. Comes before the text changes.
     void KeyPress(int code);
-    /// The same key has had its effect, or none.
+    /// Comes after the same key press, whether or not the text has changed.
     void KeyDone(int code);
     void GotFocus();
     void LostFocus();
@@ -56,7 +56,8 @@ protected:
 private:
     void loseFocus();
     bool passes(uint code) const { return !m_filter || m_filter(static_cast<int>(code)) != 0; }
-    /// The part of a text from elsewhere that the key filter lets in; beeps if that is not all.
+    /// The part of a pasted or dropped text that the key filter accepts; beeps if that is not all. With
+    /// Refused::WithTheWhole it is all or nothing, and nothing also if the text does not fit into `room`.
     QString whatPasses(const QString& text, qsizetype room) const;
     qsizetype roomForPasting() const { return maxLength() - text().size() + selectedText().size(); }
     void pasteFrom(QClipboard::Mode mode);

@@ -2,7 +2,7 @@
 
 #include <QLabel>
 
-/// A label that shows a value; sunk a little, so that it reads as a field and not as a caption.
+/// A label that shows a value. Drawn sunken, so that it looks like a field and not like a caption.
 class ValueLabel : public QLabel {
     Q_OBJECT
 
@@ -13,6 +13,6 @@ public:
     void setNumeric();
 
     QString Caption() const { return text(); }
-    /// Setting what stands there already does nothing, so that it may be done while painting.
+    /// Does nothing if the caption is the same, so it may be called while painting.
     void setCaption(const QString& caption);
 };
