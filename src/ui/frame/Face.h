@@ -15,26 +15,26 @@ class QRadioButton;
 class QVBoxLayout;
 class QWidget;
 
-/// What the faces of the screens are made of: labels left of their fields on common lines, frames, a heading
+/// The building blocks of a screen's layout: labels left of their fields in common rows, frames, a heading
 /// with the toolbar below it. Distances are multiples of four.
 namespace Face {
 
 constexpr int gap = 8;
 
-/// A plain text label.
+/// A label that shows plain text, never markup.
 QLabel* label(const QString& name, const QString& text, QWidget* parent);
 QGroupBox* frame(const QString& name, const QString& title, QWidget* parent);
 QCheckBox* checkBox(const QString& name, const QString& caption, QWidget* parent);
 QRadioButton* option(const QString& name, const QString& caption, QWidget* parent);
 QPushButton* button(const QString& name, const QString& caption, QWidget* parent);
 
-/// The column that holds everything on a window.
+/// The outermost layout of a window.
 QVBoxLayout* column(QWidget* window);
-/// The column of a screen on the stage: heading, toolbar, and room for the rest. It is the rest that is
-/// returned.
+/// Lays out a screen on the stage: heading, toolbar and a column for the rest. Returns the column for the
+/// rest.
 QVBoxLayout* column(QWidget* screen, Heading* heading, Toolbar* toolbar);
 
-/// A line without a frame of its own, on a widget of its own (parentWidget).
+/// A row without margins, on a widget of its own (its parentWidget()).
 QHBoxLayout* line(QWidget* parent);
 /// The keys that most screens with an entry form begin with: save, delete, empty.
 void addRecordKeys(Toolbar* toolbar, const Toolbar::Handler& save, const Toolbar::Handler& remove,

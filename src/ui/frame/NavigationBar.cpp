@@ -139,7 +139,7 @@ void BarGroup::removeItem(const QString& key) {
     if (!gone) return;
     m_items.removeOne(gone);
     m_column->removeWidget(gone);
-    // It may be the item whose click is being handled, so it goes later; nobody shall find it until then.
+    // This item's click may be the one being handled, so delete it later. Without a name no search finds it.
     gone->setObjectName(QString());
     Q_EMIT itemsChanged();
     gone->hide();
@@ -249,7 +249,7 @@ void NavigationBar::goToNeighbour(BarItem* from, int step) {
     m_scroll->ensureWidgetVisible(next);
 }
 
-// The scroll bar's room is kept free, so that nothing jumps when it comes.
+// Leaves space for the scroll bar, so that nothing moves when it appears.
 QSize NavigationBar::sizeHint() const {
     return {m_face->minimumSizeHint().width() + m_scroll->verticalScrollBar()->sizeHint().width(),
             m_face->sizeHint().height()};

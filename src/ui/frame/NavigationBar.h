@@ -8,8 +8,8 @@
 class QScrollArea;
 class QVBoxLayout;
 
-/// An item of the bar. It keeps track of the window that it brings forward. Its caption may have two lines;
-/// "&&" in it is one ampersand, and nothing in it is a mnemonic.
+/// An item of the bar. Knows the window that it brings forward. The caption may have two lines; "&&" in it
+/// shows one ampersand, and nothing in it is a mnemonic.
 class BarItem : public QToolButton {
     Q_OBJECT
 
@@ -19,7 +19,7 @@ public:
     const QString& key() const { return m_key; }
     void takeWindow(QWidget* window) { m_window = window; }
     QWidget* boundWindow() const { return m_window; }
-    /// The caption as it stands on the screen.
+    /// The caption as shown.
     const QString& caption() const { return m_caption; }
     void setSpacing(int percent);
 
@@ -30,7 +30,7 @@ Q_SIGNALS:
     void neighbourWanted(int step); ///< 1 is the next item down, -1 the next one up
 
 protected:
-    void nextCheckState() override {} ///< only the bar says which item is the current one
+    void nextCheckState() override {} ///< a click does not check the item; only setCurrentItem() does
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
@@ -41,7 +41,7 @@ private:
     int m_spacing = 100;
 };
 
-/// A group of items under a heading. It stays when its last item has gone.
+/// A group of items under a heading. Stays when its last item is removed.
 class BarGroup : public QWidget {
     Q_OBJECT
 
@@ -52,7 +52,7 @@ public:
     BarItem* addItem(const QString& key, const QString& caption, const QString& icon);
     BarItem* item(const QString& key) const; ///< null if there is none
     QVector<BarItem*> items() const { return m_items; }
-    void removeItem(const QString& key); ///< one that is not there is left alone
+    void removeItem(const QString& key); ///< does nothing if there is none
     void setItemSpacing(int percent);
 
 Q_SIGNALS:
@@ -67,8 +67,8 @@ private:
     int m_spacing = 100;
 };
 
-/// The navigation bar at the left of the frame: all groups stand open, one below the other. One item at a
-/// time is in the tab order; the arrow keys go from item to item.
+/// The navigation bar at the left of the frame: all groups open, one below the other. Only one item at a time
+/// is in the tab order; the arrow keys go from item to item.
 class NavigationBar : public QWidget {
     Q_OBJECT
 
@@ -82,9 +82,10 @@ public:
     QVector<BarItem*> items() const;         ///< of all groups, as they stand
     /// The group whose first item takes the focus when the bar does.
     void setCurrentGroup(int index);
-    /// Room that an item takes at least, in per cent of its own height; tightens or loosens the bar.
+    /// Sets the height of all items in per cent of their natural height, but never less than their text
+    /// needs.
     void setItemSpacing(int spacing);
-    /// Shows an item as the one whose screen is in front; null for none.
+    /// Marks the item whose screen is in front; null marks none.
     void setCurrentItem(BarItem* item);
 
     QSize sizeHint() const override;

@@ -6,8 +6,8 @@
 class QLabel;
 class QTimer;
 
-/// The status bar of the frame: panels numbered from 1. A panel shows a text, the date or the time; the last
-/// two keep themselves up to date.
+/// The status bar of the frame: panels numbered from 1. A panel shows a text, the date or the time. Date and
+/// time follow the clock by themselves.
 class StatusBar : public QWidget {
     Q_OBJECT
 
@@ -16,7 +16,7 @@ public:
 
     explicit StatusBar(const QString& name, QWidget* parent = nullptr);
 
-    /// Adds a panel at the right; `stretch` lets it take the room that is left.
+    /// Adds a panel at the right; `stretch` lets it take the remaining space.
     void addPanel(Style style, const QString& text, const QString& tip, bool stretch = false);
     int panelCount() const { return static_cast<int>(m_panels.size()); }
     QString panelText(int number) const;

@@ -37,7 +37,8 @@ public:
     void addAtEnd(QWidget* control);
     QToolButton* key(const QString& key) const; ///< null if there is none
     void setKeyEnabled(const QString& key, bool on);
-    /// Keys that want a letter which others around the toolbar have do without, and show none underlined.
+    /// Takes these shortcut letters from the buttons, since controls around the toolbar have them. Such a
+    /// button shows no letter underlined.
     void yieldLetters(const QVector<QKeySequence>& letters);
 
 protected:
