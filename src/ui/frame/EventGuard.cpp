@@ -27,7 +27,7 @@ private:
     }
 };
 
-// Called from within a catch clause only.
+// Call only within a catch clause: without a failure routine it rethrows.
 void handOver(const RuntimeError& error) {
     const auto failure = eventFailure;
     if (!failure) throw;
@@ -42,7 +42,7 @@ void runEvent(const std::function<void()>& handler) {
     try {
         handler();
     } catch (const ProgramEnded&) {
-        // Nobody is left to tell.
+        // No user is left to be told.
     } catch (const RuntimeError& error) {
         handOver(error);
     } catch (const std::bad_alloc&) {

@@ -4,24 +4,24 @@
 
 #include <functional>
 
-/// Runs the handler of a user's event. A run-time error that no routine below has caught has nowhere to go
-/// from here: it must not fly through the toolkit's event loop, so it is handed to the failure routine, which
-/// tells the user and ends the program. Lack of memory counts as error 7, any other exception as error 440.
-/// Without a failure routine the exception flies on.
+/// Runs the handler of a user's event. Passes a run-time error that the handler did not catch to the failure
+/// routine, which tells the user and ends the program: an exception must not pass through Qt's event loop.
+/// Lack of memory counts as error 7, any other exception as error 440. Without a failure routine the
+/// exception goes on to the caller.
 void runEvent(const std::function<void()>& handler);
 
-/// The program has ended, or begins anew: while ended, handlers are not run any more, whatever the windows on
-/// their way out still send.
+/// Call with true at the program's end and with false at a new start. While ended, runEvent() does nothing:
+/// windows being destroyed still send events.
 void setEventsEnded(bool ended);
 bool eventsEnded();
 
-/// Thrown where a routine that is still on the stack after the program's end would begin something new; ends
-/// that routine and goes no further than the handler it runs in.
+/// Thrown to end a routine that is still on the stack after the program's end and would begin something new.
+/// runEvent() catches it.
 struct ProgramEnded {};
 
-/// What to do with an error that nobody caught; put there by the start-up.
+/// Sets the routine for errors that no handler caught. Set by the start-up.
 void setEventFailure(std::function<void(const RuntimeError&)> failure);
 
-/// Runs the task as soon as no handler is on the stack any more: at once, or when the outermost one has
-/// returned. The task must not throw. For what would pull the ground from under a running handler.
+/// Runs the task as soon as no handler is on the stack: at once, or when the outermost one has returned. Use
+/// it to destroy an object that a running handler may still need. The task must not throw.
 void whenNoEventRuns(std::function<void()> task);

@@ -4,8 +4,8 @@
 
 class Screen;
 
-/// The hourglass over a screen for as long as it lives, also where an error ends a routine early. The screen
-/// may end first.
+/// Shows the hourglass over a screen until end() or its own destruction, so also if an error ends the routine
+/// early. The screen may be destroyed first.
 class Hourglass {
 public:
     explicit Hourglass(Screen& shown);
@@ -13,9 +13,9 @@ public:
     Hourglass(const Hourglass&) = delete;
     Hourglass& operator=(const Hourglass&) = delete;
 
-    /// Call before a message box or another screen comes up.
+    /// Call before showing a message box or another screen.
     void end();
-    /// The hourglass stays until the next one over this screen ends.
+    /// Leaves the hourglass on until the next Hourglass over this screen ends.
     void leave() { m_screen.clear(); }
 
 private:

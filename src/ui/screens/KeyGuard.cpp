@@ -23,7 +23,7 @@ bool KeyGuard::isMeant(const QKeyEvent& key) const {
 bool KeyGuard::eventFilter(QObject* watched, QEvent* event) {
     const QEvent::Type type = event->type();
     if (watched == m_window && type == QEvent::Show) m_shown.start();
-    // A shortcut that is overridden comes as a common key.
+    // An accepted ShortcutOverride comes back as a common KeyPress.
     const bool comesDown = type == QEvent::KeyPress || type == QEvent::ShortcutOverride;
     if (!comesDown || !watched->isWidgetType()) return false;
     if (static_cast<QWidget*>(watched)->window() != m_window) return false;

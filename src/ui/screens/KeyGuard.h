@@ -3,9 +3,9 @@
 #include <QElapsedTimer>
 #include <QObject>
 
-/// Keeps keys from a window that were meant for the one below it: a key held down, and a key pressed before
-/// anybody can have read what has come up. A key counts once it is pressed while the window is open, and not
-/// in the first moments. Make it before the window is shown.
+/// Keeps keys from a window that were meant for the window below: a key held down since before, and a key
+/// pressed in the first moments, before the user can have read the window. Create it before the window is
+/// shown.
 class KeyGuard : public QObject {
 public:
     explicit KeyGuard(QWidget* window);
@@ -18,5 +18,5 @@ private:
 
     QWidget* m_window;
     QElapsedTimer m_shown;
-    int m_pressed = 0; ///< the last key pressed that was meant for the window; it may repeat
+    int m_pressed = 0; ///< the last key let through, which may repeat; 0 after a refused one
 };

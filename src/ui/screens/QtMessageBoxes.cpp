@@ -36,7 +36,7 @@ QWidget* windowBelow() {
     return frame && frame->isVisible() ? frame : nullptr;
 }
 
-// The toolkit's own words may be missing, or be those of a desktop in another language.
+// Sets the caption: Qt's own may lack its translation, or come in the desktop's language.
 void addButton(QMessageBox& box, QMessageBox::StandardButton which, const QString& german) {
     box.addButton(which)->setText(german);
 }

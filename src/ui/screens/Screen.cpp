@@ -24,8 +24,8 @@ QWidget* windowBelow(const QWidget* window) {
     return stage ? stage->window() : nullptr;
 }
 
-/// The toolkit would show the button pressed first and act a tenth of a second later, on whatever record is
-/// then on show: a quick hand, or a slow machine, has another one there by that time.
+/// Clicks a button at once when its shortcut is pressed. Qt would show the button pressed and click a tenth
+/// of a second later: on a slow machine, or with a quick user, another record is on the screen by then.
 bool pressAtOnce(QAbstractButton* button, const QShortcutEvent* shortcut) {
     if (!button || shortcut->isAmbiguous()) return false;
     button->click();
@@ -38,7 +38,7 @@ Screen::Screen(const QString& name, const QString& caption) {
     setObjectName(name);
     setWindowTitle(caption);
     setAccessibleName(caption);
-    // On the stage no window shows the caption.
+    // On the stage no title bar shows the caption, but a screen reader still reads it.
     connect(this, &Screen::windowTitleChanged, this, &Screen::setAccessibleName);
     installEventFilter(this);
 }
@@ -101,13 +101,13 @@ void Screen::ShowModal() {
     QEventLoop loop;
     m_modalLoop = &loop;
     showAsWindow();
-    // Showing sends events, and their handlers may have ended it already.
+    // Showing sends events, and their handlers may have hidden or unloaded the screen already.
     if (alive && m_modalLoop) loop.exec(QEventLoop::DialogExec);
     if (below) below->activateWindow();
     if (!alive) return;
     m_modalLoop = nullptr;
     setWindowModality(Qt::NonModal);
-    // A window that goes must not take this one along.
+    // The window below must not destroy this screen with itself.
     setParent(nullptr);
 }
 
@@ -136,7 +136,7 @@ void Screen::setHourglass(bool on) {
 
 void Screen::paintEvent(QPaintEvent* event) {
     QWidget::paintEvent(event);
-    // Controls that fill their ground are cut out of the region, so only its bounds tell.
+    // Controls that fill their ground are cut out of the region, so compare its bounds.
     if (m_paintPending || !event->region().boundingRect().contains(rect())) return;
     m_paintPending = true;
     QMetaObject::invokeMethod(
@@ -159,12 +159,12 @@ void Screen::childEvent(QChildEvent* event) {
     if (event->removed()) unwatch(event->child());
 }
 
-// Outside dialogs the toolkit's buttons take the space bar only.
+// Enter presses the focused button. Outside dialogs Qt's buttons accept the space bar only.
 void Screen::keyPressEvent(QKeyEvent* event) {
     auto* button = qobject_cast<QAbstractButton*>(focusWidget());
     const bool takesEnter = qobject_cast<QPushButton*>(button) || qobject_cast<QToolButton*>(button);
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    // The focus may have come to the button while the key was held down.
+    // Ignores an Enter held down: the focus may have come to the button in the meantime.
     if (enter && takesEnter && event->isAutoRepeat()) return;
     if (enter && takesEnter && button->isEnabled())
         button->click();
@@ -172,7 +172,7 @@ void Screen::keyPressEvent(QKeyEvent* event) {
         QWidget::keyPressEvent(event);
 }
 
-// A screen inside another one (on the stage of the frame) looks after its own controls.
+// Skips a screen inside another one (on the stage of the frame): it watches its own controls.
 void Screen::watch(QObject* control) {
     if (!control->isWidgetType() || qobject_cast<Screen*>(control)) return;
     control->installEventFilter(this);
@@ -207,13 +207,13 @@ bool Screen::eventFilter(QObject* watched, QEvent* event) {
     return false;
 }
 
-// A control that has no use for a key lets it climb to its parent: the same event, one step up.
+// A control that ignores a key passes it to its parent: the same event, one step up.
 bool Screen::isOnItsWay(const QWidget* control, const QKeyEvent* event) const {
     return event == m_key && m_keyAt && m_keyAt->parentWidget() == control;
 }
 
 bool Screen::previewKey(QWidget* control, QKeyEvent* event) {
-    // Keys of a menu or of a list that hangs open are that one's alone.
+    // Keys of an open menu or list belong to it alone.
     const bool own = control->window() == this->window();
     const bool seen = isOnItsWay(control, event);
     m_key = event;

@@ -8,8 +8,8 @@
 class QEventLoop;
 class QKeyEvent;
 
-/// A window of the program: one instance of each at most, made on first use, reached by its class.
-/// Controls are named members and carry their name as objectName, as does the screen itself.
+/// A screen of the program: at most one instance of each class, made on first use, reached by screen<T>().
+/// Controls are named members and have their name as objectName, as has the screen itself.
 class Screen : public QWidget {
     Q_OBJECT
 
@@ -21,41 +21,42 @@ public:
     // The events of a screen. They run guarded (see runEvent); overriding is optional.
     virtual void Form_Load() {}       ///< once, right after the instance is registered
     virtual void Form_Activate() {}   ///< came to the front of the frame
-    virtual void Form_Deactivate() {} ///< another screen came to the front, or it was hidden there
-    /// Shown, uncovered or resized: the whole face is painted anew. Not for the small updates in between,
-    /// such as a blinking caret. Runs right after the painting, so that a handler may show a box.
+    virtual void Form_Deactivate() {} ///< another screen came to the front, or this one was hidden there
+    /// The whole screen was painted, since it was shown, uncovered or resized. Does not come for small
+    /// updates such as a blinking caret. Runs right after the painting, so it may show a message box.
     virtual void Form_Paint() {}
     virtual void Form_Unload() {} ///< about to be destroyed by unload()
-    /// Sees each key before the focused control does; true swallows it. A key held down is seen once.
+    /// Gets each key before the focused control does; true swallows it. A key held down comes once.
     virtual bool Form_KeyDown(int /*key*/, Qt::KeyboardModifiers /*modifiers*/) { return false; }
-    /// The user closes it by its border. Default: a modal screen or one on the stage is hidden, one in a
-    /// window of its own is unloaded.
+    /// The user closed the screen by its border. Default: hides a modal screen or one on the stage, unloads
+    /// one in a window of its own.
     virtual void Form_QueryUnload();
 
-    /// Brings it to the front of the stage, or as a window of its own where it stands alone. Without a stage
-    /// it stays hidden.
+    /// Brings the screen to the front of the stage, or shows it as a window of its own after standAlone().
+    /// Without a stage a screen for it stays hidden.
     void Show();
-    /// As a modal window of its own above the frame; returns when it is hidden or unloaded. Neither activates
-    /// nor deactivates the screen below.
+    /// Shows the screen as a modal window above the frame. Returns when it is hidden or unloaded. Does not
+    /// deactivate the screen below.
     void ShowModal();
-    /// As a window of its own that lies above another one and leaves it usable; for screens that stand alone.
+    /// Shows the screen as a window above another one, which stays usable. Only after standAlone().
     void ShowAbove(QWidget* window);
     void Hide();
     bool isModalNow() const { return m_modalLoop != nullptr; }
-    /// True if it stands in a window of its own (login, Info) instead of on the stage.
+    /// True if the screen has a window of its own (login, Info) instead of a place on the stage.
     bool isOwnWindow() const { return m_ownWindow; }
 
-    /// The one instance of another screen. Stands here since QWidget::screen() would hide the free function
-    /// of this name from all screens.
+    /// The one instance of another screen. A member, since QWidget::screen() would hide the free function of
+    /// this name from all screens.
     template<typename T>
     static T& screen();
 
-    /// The pointer over the screen: an hourglass while a routine works, the arrow otherwise.
+    /// Sets the pointer over the screen to an hourglass or back to the arrow.
     void setHourglass(bool on);
     bool hasHourglass() const { return m_hourglass; }
 
 protected:
-    /// For a screen that needs no frame, or that must not cover what lies there.
+    /// Gives the screen a window of its own. Call in the constructor of a screen that needs no frame, or that
+    /// must not cover the screens in the frame.
     void standAlone() { m_ownWindow = true; }
 
     /// Connects a control's signal to a handler that runs guarded.
@@ -85,6 +86,6 @@ private:
     bool m_hourglass = false;
     bool m_paintPending = false;
     bool m_placed = false;
-    const QKeyEvent* m_key = nullptr; ///< the key on its way from the focused control up; never followed
+    const QKeyEvent* m_key = nullptr; ///< the key on its way up from the focused control; never dereferenced
     QPointer<QWidget> m_keyAt;
 };

@@ -19,8 +19,8 @@ QVector<Entry>::iterator find(const Screen* screen) {
                         [screen](const Entry& entry) { return entry.screen == screen; });
 }
 
-// A handler of the screen may be on the stack, even below the loop of a modal one; so the screen goes when
-// all handlers have returned, and then by way of the event loop, for slots that run unguarded.
+// A handler of the screen may be on the stack, even below the loop of a modal screen, so wait until all
+// handlers have returned. Then delete by the event loop, since slots may run without runEvent().
 void destroyWhenSafe(Screen* screen) {
     whenNoEventRuns([screen = QPointer<Screen>(screen)] {
         if (screen) screen->deleteLater();
@@ -50,7 +50,7 @@ void remove(Screen* screen) {
     if (alive) screen->Hide();
     forget(screen);
     if (!alive) return;
-    // Off the frame, so that neither its end nor a search among its controls meets this screen again.
+    // Off the frame, so that the frame does not destroy this screen and no search finds its controls.
     if (!screen->isModalNow()) screen->setParent(nullptr);
     destroyWhenSafe(screen);
 }

@@ -9,17 +9,16 @@
 namespace Screens {
 
 void add(Screen* screen);
-/// Runs Form_Unload, takes it off the stage and destroys it (at the latest when its own handlers have
-/// returned: a screen may unload itself). Until its last event has run it is still the one that its class
-/// reaches.
+/// Runs Form_Unload, takes the screen off the stage and destroys it. A screen may unload itself: it is
+/// destroyed only after all handlers have returned. During Form_Unload screen<T>() still returns it.
 void remove(Screen* screen);
-/// For the screen's own end only.
+/// Only for the screen's destructor and remove().
 void forget(const Screen* screen);
-/// False from the moment a screen has been unloaded, though it may still be on its way out.
+/// False once a screen has been unloaded, even if it is not destroyed yet.
 bool isAlive(const Screen* screen);
 QVector<Screen*> all();
 Screen* byName(const QString& name); ///< null if there is none
-/// End of the program: every screen goes, the latest first.
+/// Removes every screen, the latest first. Call at the program's end.
 void removeAll();
 
 } // namespace Screens
@@ -38,7 +37,8 @@ T* aliveScreen() {
 }
 } // namespace detail
 
-/// The one instance of a screen, made on first use, which is its load.
+/// The one instance of a screen. The first use makes it and runs its Form_Load. Throws ProgramEnded instead
+/// of making one after the program's end.
 template<typename T>
 T& screen() {
     if (T* alive = detail::aliveScreen<T>()) return *alive;
@@ -61,7 +61,7 @@ bool isLoaded() {
     return detail::aliveScreen<T>() != nullptr;
 }
 
-/// Ends the instance if there is one; the next screen<T>() makes a new one.
+/// Removes the instance if there is one. The next screen<T>() makes a new one.
 template<typename T>
 void unload() {
     if (T* alive = detail::aliveScreen<T>()) Screens::remove(alive);

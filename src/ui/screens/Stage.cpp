@@ -10,7 +10,7 @@ namespace {
 
 Stage* stageInForce = nullptr;
 
-// Tabs and toolbar keys can have the focus, but what a user comes for is the first field on the page.
+// Skips tabs and toolbar buttons: the user wants to begin in the first field of the page.
 bool takesFocus(const QWidget* control, const Screen* screen) {
     const bool isTabs = qobject_cast<const QTabBar*>(control) || qobject_cast<const QTabWidget*>(control);
     const bool isKey = qobject_cast<const Toolbar*>(control->parentWidget());
@@ -37,7 +37,7 @@ Stage::Stage(QWidget* parent)
     stageInForce = this;
 }
 
-// Screens are ended by their unload, never by the frame's end.
+// Releases the screens: only unloading destroys a screen, never the end of the frame.
 Stage::~Stage() {
     if (stageInForce == this) stageInForce = nullptr;
     const auto screens = findChildren<Screen*>(QString(), Qt::FindDirectChildrenOnly);
@@ -54,7 +54,7 @@ void Stage::bringToFront(Screen* screen) {
     uncover(screen);
     if (before == screen) return;
     if (before) before->hide();
-    // What lost the focus may have pulled it back into the screen that has just gone.
+    // A control losing the focus may have pulled it back into the screen just hidden.
     focusInto(screen);
     announce();
     settle();
@@ -71,7 +71,7 @@ void Stage::withdraw(Screen* screen) {
     settle();
 }
 
-// Shown before the one in front of it is hidden, and with the focus, which would wander off otherwise.
+// Shows and focuses a screen. Call before hiding the one in front: Qt would move the focus elsewhere.
 void Stage::uncover(Screen* screen) {
     screen->setGeometry(rect());
     screen->show();
@@ -97,7 +97,7 @@ void Stage::settle() {
     const QPointer<Screen> before = m_activated;
     m_activated.clear();
     if (before) runEvent([&] { before->Form_Deactivate(); });
-    // That handler may have changed the front and so have settled it.
+    // Form_Deactivate may have changed the front, which has activated a screen already.
     if (!alive || !m_active || m_activated || !front()) return;
     m_activated = front();
     runEvent([screen = m_activated.data()] { screen->Form_Activate(); });

@@ -6,12 +6,12 @@
 
 class Screen;
 
-/// The inside of the frame, where the screens lie one upon the other; the front one fills it. Activation
-/// belongs to the stage, not to the window system: a screen is activated when it comes to the front and
-/// deactivated when another one does or when it is hidden while in front.
+/// The inside of the frame. The screens lie one upon the other; the front one fills the stage. The stage, not
+/// the window system, activates screens: a screen is activated when it comes to the front, and deactivated
+/// when another one does or when it is hidden while in front.
 ///
-/// The events run when the stage has already changed, so their handlers may bring forward, withdraw or unload
-/// screens in turn; then only what is in front at last is activated.
+/// Form_Activate and Form_Deactivate run after the stage has changed, so they may bring forward, withdraw or
+/// unload screens. Then only the screen in front at last is activated.
 class Stage : public QWidget {
     Q_OBJECT
 
@@ -19,17 +19,17 @@ public:
     explicit Stage(QWidget* parent = nullptr);
     ~Stage() override;
 
-    /// The stage in force, or null before the frame stands.
+    /// The stage of the frame, or null before there is one.
     static Stage* current();
 
     void bringToFront(Screen* screen);
-    /// Takes a screen away; the one below comes to the front.
+    /// Hides a screen. If it was in front, the one below comes to the front.
     void withdraw(Screen* screen);
     Screen* front() const;
     bool shows(const Screen* screen) const;
 
-    /// While off (frame hidden) screens come and go without being activated; switching on activates the
-    /// front. A new stage is off.
+    /// While off (frame hidden) no screen is activated or deactivated. Switching on activates the front one.
+    /// A new stage is off.
     void setActive(bool on);
 
     QSize sizeHint() const override;
