@@ -15,7 +15,7 @@
 
 namespace {
 
-/// All rows are as high as one line of text with some air.
+/// Makes all rows as high as one line of text and some space.
 class OneLine : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
@@ -41,7 +41,7 @@ DataTable::DataTable(const QString& name, QWidget* parent)
     setSelectionMode(SingleSelection);
     setEditTriggers(NoEditTriggers);
     setHorizontalScrollMode(ScrollPerPixel);
-    // Expanding is ours: the view itself would do it behind the back of the handlers.
+    // The grid expands rows itself: the view would do it without calling the handlers.
     setRootIsDecorated(false);
     setIndentation(0);
     setItemsExpandable(false);
@@ -267,7 +267,7 @@ void DataTable::showColumns() {
 
 void DataTable::columnResized(int section, int width) {
     if (m_fitting || section >= m_widths.size()) return;
-    // Width 0 comes while a column is being hidden, and is no wish of the user's.
+    // Width 0 comes while a column is being hidden, not from the user.
     if (width > 0) {
         m_widths[section] = std::max(width, m_model->shownColumns()[section].minimumWidth);
         m_sizedByUser[section] = true;
@@ -302,7 +302,7 @@ void DataTable::fitColumns() {
     shareOut(room);
 }
 
-// What is left goes to the wide ones most; what lacks comes from those that have most to give.
+// Shares out surplus width by the columns' widths, and missing width by how much each column can give.
 void DataTable::shareOut(int room) {
     const QVector<int> elastic = elasticColumns();
     const auto narrowest = [&](int column) {
@@ -348,7 +348,7 @@ void DataTable::paintEvent(QPaintEvent* event) {
 }
 
 void DataTable::dataChanged(const QModelIndex& first, const QModelIndex& last, const QVector<int>& roles) {
-    // The view would sum up the places of all these rows to know what to paint, which takes long for many.
+    // For several rows the view would add up the places of all of them to find what to paint, which is slow.
     if (first.row() == last.row()) {
         QTreeView::dataChanged(first, last, roles);
     } else {

@@ -24,12 +24,12 @@ struct TableHandle {
     int parentRow = -1; ///< -1 is the top level
 };
 
-/// The grid of the program: rows and columns from 0, cells as typed values, a row-header column at the left,
-/// no data binding. It can have a second level: a row of the top level may own a child table. Rows and cells
-/// are addressed in the current table, which is the top level unless a child has been entered.
+/// The grid of the program: rows and columns from 0, cells as typed values, a row header at the left, no data
+/// binding. It may have a second level: then a row of the top level is a category and may own a child table.
+/// Row and column numbers refer to the current table. It is the top level unless a child has been entered.
 ///
-/// The view learns of appended rows once per user action, not once per row, so that filling it costs little
-/// more than keeping the values.
+/// Appended rows reach the view once per user action, not once per row, so that filling a grid costs little
+/// more than storing the values.
 class DataTable : public QTreeView {
     Q_OBJECT
 
@@ -41,12 +41,12 @@ public:
 
     /// Drops all rows.
     void setColumns(const QVector<GridColumn>& columns);
-    /// The columns of every child table; calling it makes the grid a two-level one: rows of the top level
-    /// then span the width with the text of `captionColumn`, and the header shows the child columns. Calling
-    /// it again with the same columns changes nothing.
+    /// Sets the columns of every child table and makes the grid a two-level one: rows of the top level then
+    /// span the width with the text of `captionColumn`, and the header shows the child columns. Does nothing
+    /// if the columns are the same.
     void setChildColumns(const QVector<GridColumn>& columns, int captionColumn);
 
-    /// Shows or hides a column; its cells are there all the same.
+    /// Shows or hides a column. A hidden column keeps its cells.
     void setColumnShown(int column, bool on);
 
     /// Lets a click on a head put the rows in the order of its column, a second one turn it round. Rows are
@@ -58,27 +58,27 @@ public:
     void setEmptyHint(const QString& hint);
 
     int rowCount() const;
-    /// Of the top level: drops the child tables as well.
+    /// Drops the rows of the current table; on the top level the child tables as well.
     void clearRows();
     void appendRow(std::span<const Value> cells);
     void appendRow(std::initializer_list<Value> cells) { appendRow(std::span(cells)); }
-    /// A row beyond the end is appended.
+    /// Inserts before `row`; appends if `row` is beyond the end.
     void insertRow(int row, std::span<const Value> cells);
     void insertRow(int row, std::initializer_list<Value> cells) { insertRow(row, std::span(cells)); }
-    /// A row that is not there is left alone.
+    /// Does nothing if there is no such row.
     void removeRow(int row);
-    /// Removes every row whose text in the column is this one; gives how many.
+    /// Removes every row that has this text in the column; returns how many.
     int removeRowsWithText(int column, const QString& text);
-    /// Sets or clears the selection of so many rows from the first; rows beyond the end are ignored.
+    /// Selects or deselects `count` rows from `first` on; rows beyond the end are ignored.
     void selectRows(int first, int count, bool on);
 
-    /// Error 9 for a cell that is not there.
+    /// Error 9 if there is no such cell.
     const Value cell(int row, int column) const;
-    /// The cell as it stands on the screen; Null is empty.
+    /// The cell's text as shown; Null is empty.
     QString cellText(int row, int column) const;
     void setCell(int row, int column, const Value& value);
-    /// Looks for a cell of exactly this text from a row on (-1 counts as the first); the start row becomes
-    /// the row found. -1 if there is none.
+    /// Finds a cell of exactly this text from `startRow` on (-1 counts as the first row). Returns the row and
+    /// sets `startRow` to it, or returns -1.
     int find(int column, int& startRow, const QString& text) const;
 
     /// Scrolls the row into view, makes it the current one, so that Enter opens it, and tints it until the
@@ -95,51 +95,51 @@ public:
     SelectionStyle& selectionStyle() { return m_selectionStyle; }
     void refresh();
 
-    // Two levels. Entering gives back what was current before; enter it again to return. The rows named here
-    // are those of the top level, whatever is current; error 9 for one that is not there.
+    // Two levels. Rows are here those of the top level, even while a child is the current table; error 9 if
+    // there is no such row.
 
-    /// A child table that is not there yet is made.
+    /// Makes the row's child table the current one and creates it if need be. Returns the table that was
+    /// current before; pass it to enter() to return.
     TableHandle enterChild(int row);
     TableHandle enter(TableHandle table);
-    /// During an event it is the table in which the event happened, and stays so until another is entered or
-    /// another event comes.
+    /// During an event: the table in which it happened. Stays so until another table is entered or another
+    /// event comes.
     TableHandle currentTable() const { return m_current; }
-    /// An empty child table; one that is there already is replaced. Whether the row is expanded stays as is.
+    /// Gives the row an empty child table in place of any it has. Does not expand or collapse the row.
     void createChild(int row);
-    /// Where the child is the current table, the top level is current afterwards.
+    /// If the child is the current table, the top level becomes the current one.
     void removeChild(int row);
     bool hasChild(int row) const;
-    /// Shows a category as expanded or collapsed, also while it has no child table yet. Called while a press
-    /// on it is being handled, it takes the place of what the press does by itself.
+    /// Expands or collapses a category, even if it has no child table yet. Called by a handler of a press on
+    /// the category, it replaces the expanding or collapsing by the press itself.
     void setOpen(int row, bool open);
-    /// Only where there is a child table. The rows take the colours by turns, the second one softened.
+    /// The row must have a child table. Its rows have the two colours by turns, the second one softened.
     void setChildColours(int row, const QColor& back, const QColor& second);
 
     /// Bytes held by rows, cells and shared texts, for the benchmarks.
     std::size_t memoryInUse() const;
 
-    /// Lets the view catch up with the rows appended and cells changed since the last turn of the event loop.
-    /// Happens by itself while the grid can be seen; a hidden one catches up when it is shown.
+    /// Passes the rows appended and cells changed since the last turn of the event loop to the view. A
+    /// visible grid does so by itself, a hidden one when it is shown.
     void publish();
     QVector<QString> visibleHeads() const;
-    /// The cell's rectangle in the viewport, scrolled into view; column -5 is the row header. Empty if there
-    /// is none. Lets a driver press where a user would.
+    /// Scrolls a cell into view and returns its rectangle in the viewport, empty if there is none. Column -5
+    /// is the row header. Lets the scenario player press where a user would.
     QRect revealCell(TableHandle table, int row, int column);
 
 Q_SIGNALS:
     void OnGridGotFocus();
     void OnGridLostFocus();
-    /// A press with the left or right button: row -1 is beyond the rows (the column is -1 as well), column -5
-    /// the row header. Rows are those of the table in which the press happened, which is then the current
-    /// one. A press on a category's row header expands or collapses it after the handlers have run, unless
-    /// one of them has called setOpen; the keys Right, Left, + and - do the same through the same event. On
-    /// the text of a category the column is the caption column.
+    /// A press with the left or right mouse button. Column -5 is the row header; on the text of a category
+    /// the column is the caption column. Beyond the rows, row and column are -1. The table of the press is
+    /// the current one. A press on a category's row header expands or collapses the category after the
+    /// handlers, unless one of them has called setOpen(). The keys Right, Left, + and - emit the same signal.
     void OnGridCellDown(int row, int column);
-    /// Double click, or Enter pressed on a row (not held down from elsewhere); Enter on a category is a press
-    /// on its row header. The first press of a double click comes as OnGridCellDown before. Not on the row
-    /// header of a category, where the second press would only undo the first.
+    /// A double click, or Enter pressed on a row (not held down since before). OnGridCellDown comes before
+    /// for the first press of a double click. Enter on a category counts as a press on its row header. A
+    /// double click on a category's row header emits nothing here: its second press would undo the first.
     void OnGridCellOpen(int row, int column);
-    /// Right mouse button, or the menu key; OnGridCellDown comes before.
+    /// The right mouse button or the menu key. OnGridCellDown comes before.
     void OnGridCellMenu();
 
 protected:
@@ -159,7 +159,7 @@ protected:
                  const QModelIndex& index) const override;
 
 private:
-    /// Where a press landed.
+    /// The place of a press.
     struct Spot {
         TableHandle table;
         int row = -1;
@@ -181,7 +181,7 @@ private:
     void schedulePublish();
     void showColumns();
     void columnResized(int section, int width);
-    /// Columns of texts share what room is left or lacking; numbers keep their width.
+    /// The columns that share surplus or missing width: those of texts. Columns of numbers keep their width.
     QVector<int> elasticColumns() const;
     void fitColumns();
     void shareOut(int room);
@@ -197,8 +197,8 @@ private:
     QPoint m_menuPlace;
     TableHandle m_current;
     bool m_publishScheduled = false;
-    bool m_opennessTold = false; ///< a handler of the press has said whether the category is open
+    bool m_opennessTold = false; ///< a handler of the press has called setOpen()
     bool m_fitting = false;
-    QVector<bool> m_sizedByUser; ///< such a column keeps its width as long as another can give
-    QVector<int> m_widths;       ///< as given or as the user wants them; elastic columns may get more or less
+    QVector<bool> m_sizedByUser; ///< such a column keeps its width while another one can give
+    QVector<int> m_widths;       ///< as given or set by the user; elastic columns may get more or less
 };

@@ -4,7 +4,7 @@
 
 namespace {
 
-// Most tables of a grid are small; a large one should not take much more than it holds.
+// Small, since most tables of a grid are small, and even a large one should not take much more than it holds.
 constexpr std::size_t firstRows = 4;
 constexpr std::size_t mostRows = 1024;
 

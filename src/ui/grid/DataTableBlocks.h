@@ -4,16 +4,15 @@
 #include <memory>
 #include <vector>
 
-/// The memory of a table's rows, which are all of one size: taken in blocks that grow with the table, since a
-/// list of thousands would spend more on single allocations than on its cells. The place of a removed row is
-/// used again for the next one.
+/// The memory of a table's rows, which are all of one size. Allocates blocks that grow with the table: for
+/// thousands of rows single allocations would cost more than the cells. Reuses the place of a removed row.
 class DataTableBlocks {
 public:
-    /// The size of a row in words of eight bytes.
+    /// `words` is the size of a row in words of eight bytes.
     explicit DataTableBlocks(std::size_t words)
         : m_words(words) {}
 
-    /// Room for a row, its contents undefined; valid until it is given back or all are dropped.
+    /// Memory for one row, not initialised. Valid until giveBack() or clear().
     quint64* take();
     void giveBack(quint64* row) { m_free.push_back(row); }
     void clear();
@@ -23,7 +22,7 @@ private:
     std::size_t m_words;
     std::vector<std::unique_ptr<quint64[]>> m_blocks;
     std::size_t m_rowsInBlocks = 0;
-    std::size_t m_rowsInLast = 0; ///< so many rows has the last block
-    std::size_t m_untouched = 0;  ///< so many of them have never been taken
+    std::size_t m_rowsInLast = 0; ///< the size of the last block in rows
+    std::size_t m_untouched = 0;  ///< rows of the last block never taken so far
     std::vector<quint64*> m_free;
 };

@@ -2,8 +2,9 @@
 
 #include <QStringList>
 
-/// A column of a grid. `width` is in pixels at 100 %, 0 hides the column; columns of texts share what room is
-/// left. Where it lacks they give up to a third, or all down to the minimum that is told for them.
+/// A column of a grid. `width` is in pixels at 100 %; 0 hides the column. Columns of texts share surplus
+/// width. If width is missing, each gives up to a third of its own, or all down to a `minimumWidth` other
+/// than the usual one.
 struct GridColumn {
     static constexpr int usualMinimum = 24;
 

@@ -13,8 +13,8 @@
 #include <QTextDocument>
 #include <QToolTip>
 
-// What the user does in the grid, told as its events. Handlers may change the rows and even close the screen
-// with the grid on it, so nothing of the grid is touched after an event unless it is known to be alive.
+// Turns the user's actions into the grid's events. Handlers may change the rows and even close the screen
+// with the grid, so no code touches the grid after an event without checking that it is alive.
 
 DataTable::Spot DataTable::spotOf(const QModelIndex& index) const {
     if (!index.isValid()) return {};
@@ -29,8 +29,8 @@ DataTable::Spot DataTable::spotAt(QPoint position) const {
     return spot;
 }
 
-/// What a key refers to. A press on the row header leaves that as the current cell, but the key means the
-/// row.
+/// The place that a key refers to. After a press on a row header the row header is the current cell, but a
+/// key refers to the row.
 DataTable::Spot DataTable::currentSpot() const {
     const QModelIndex index = currentIndex();
     return spotOf(index.column() == m_model->gutterColumn() ? index.siblingAtColumn(0) : index);
@@ -65,7 +65,7 @@ void DataTable::setOpen(int row, bool open) {
     setExpanded(m_model->indexOf(DataTableModel::top, row, 0), open);
 }
 
-/// Right and + expand a category, Left and - collapse it, as far as it is not so already.
+/// Right and + expand a collapsed category, Left and - collapse an expanded one.
 bool DataTable::foldByKey(int key) {
     const bool opens = key == Qt::Key_Right || key == Qt::Key_Plus;
     const bool closes = key == Qt::Key_Left || key == Qt::Key_Minus;
@@ -85,7 +85,7 @@ void DataTable::mousePressEvent(QMouseEvent* event) {
 }
 
 void DataTable::mouseMoveEvent(QMouseEvent* event) {
-    // Dragging would move the selection away from the row whose press the handlers have seen.
+    // Dragging would move the selection away from the row that the handlers got.
     if (event->buttons() == Qt::NoButton) QTreeView::mouseMoveEvent(event);
 }
 
@@ -111,7 +111,7 @@ void DataTable::contextMenuEvent(QContextMenuEvent* event) {
 void DataTable::keyPressEvent(QKeyEvent* event) {
     publish();
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    // An Enter held down belongs to whatever had the focus at its press, such as a search.
+    // An Enter held down is meant for the control that had the focus at its press, such as a search field.
     if (enter && event->isAutoRepeat()) return;
     if (enter && currentIndex().isValid()) {
         Spot spot = currentSpot();
@@ -192,13 +192,14 @@ bool DataTable::viewportEvent(QEvent* event) {
     if (event->type() != QEvent::ToolTip) return QTreeView::viewportEvent(event);
     const auto* help = static_cast<QHelpEvent*>(event);
     const QString text = clippedText(help->pos());
-    // A name that looks like markup would be read as such, and could show any file of the disk.
+    // Converted, since a name that looks like markup would be read as such and could show any file of the
+    // disk.
     QToolTip::showText(help->globalPos(), Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text,
                        viewport());
     return true;
 }
 
-/// The text of the cell there if it does not show as a whole, else nothing.
+/// The text of the cell at the position if it is cut off, else an empty text.
 QString DataTable::clippedText(QPoint position) const {
     const QModelIndex index = indexAt(position);
     if (!index.isValid() || m_model->isCategory(index)) return {};

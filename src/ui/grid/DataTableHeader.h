@@ -2,8 +2,8 @@
 
 #include <QHeaderView>
 
-/// The heads of a grid's columns, in the house's blue. The corner above the row headers stays where it is
-/// when the columns are scrolled, as the row headers do.
+/// The heads of a grid's columns, in the theme's blue. The corner above the row headers does not scroll with
+/// the columns, nor do the row headers.
 class DataTableHeader : public QHeaderView {
     Q_OBJECT
 

@@ -15,7 +15,7 @@ QPixmap loadedPicture(const QString& path, QSize room, double ratio) {
         QStringLiteral("%1|%2x%3@%4").arg(path).arg(room.width()).arg(room.height()).arg(ratio);
     QPixmap picture;
     if (QPixmapCache::find(key, &picture)) return picture;
-    // The program's folders are written with either slash.
+    // Paths in the program use either slash.
     picture = QPixmap(QString(path).replace(u'\\', u'/'));
     if (picture.isNull()) return picture;
     const QSize fitting = picture.size().scaled(room, Qt::KeepAspectRatio).boundedTo(picture.size());

@@ -7,8 +7,7 @@ class QPainter;
 class QRect;
 class QString;
 
-/// Colours and small shapes of the grid, mixed from the palette and the house's blue so that they fit a light
-/// and a dark desktop.
+/// The colours of the grid, mixed from the palette and the theme's blue, so that they suit both modes.
 struct DataTableLook {
     static constexpr int gutterWidth = 22;
     static constexpr int padding = 6;
@@ -24,7 +23,7 @@ struct DataTableLook {
     QColor rule; ///< the thin line under a row
     QColor gutter;
     QColor gutterEdge;
-    QColor mark; ///< what stands in the gutter: current row, expand mark
+    QColor mark; ///< the marks in the gutter: current row, expanded or collapsed
     QColor band; ///< a category
     QColor bandText;
     QColor head;
@@ -35,11 +34,11 @@ struct DataTableLook {
     QColor focus;
 };
 
-/// The drawing that rows and header have in common.
+/// Drawing routines common to rows and header.
 namespace DataTableShapes {
 
 void text(QPainter& painter, const QRect& cell, Qt::Alignment alignment, const QString& text);
-/// A small filled triangle pointing right: the current row.
+/// The mark of the current row: a small filled triangle pointing right.
 void currentMark(QPainter& painter, const QRect& gutter, const QColor& colour);
 /// An angle, pointing right if closed and down if open.
 void expandMark(QPainter& painter, const QRect& gutter, bool open, const QColor& colour);

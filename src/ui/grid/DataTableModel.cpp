@@ -9,7 +9,7 @@ namespace {
 
 const QColor childBack(172, 199, 247);
 
-/// A fifth of the way to the other colour: enough to tell rows apart, and the other one may be a loud one.
+/// A fifth of the way to the other colour: enough to tell rows apart even though that colour may be garish.
 QColor towards(const QColor& from, const QColor& to) {
     const auto part = [](int a, int b) { return (a * 4 + b) / 5; };
     return QColor(part(from.red(), to.red()), part(from.green(), to.green()), part(from.blue(), to.blue()));
@@ -23,10 +23,10 @@ struct DataTableModel::Table {
         , owner(ownerRow) {}
 
     DataTableRows rows;
-    TextPool texts; ///< its own, so that a category opened again starts afresh
+    TextPool texts; ///< one per table, so that a category opened again frees its old texts
     int owner;
-    int published = 0;     ///< so many rows does the view know
-    int firstChanged = -1; ///< changed cells that the view has not been told of stand in these rows
+    int published = 0;     ///< number of rows known to the view
+    int firstChanged = -1; ///< first row with a changed cell not yet published, or -1
     int lastChanged = -1;
     QColor back = childBack;
     QColor second;
@@ -119,8 +119,8 @@ int DataTableModel::removeWithText(int owner, int column, const QString& text) {
     for (int row = -1; (row = changed.rows.find(column, row + 1, wanted)) >= 0;) hits.push_back(row);
     if (hits.empty()) return 0;
 
-    // Told as one new layout: a message for each run of rows would make a long list of scattered ones slow,
-    // and a reset would lose the current row and what is expanded.
+    // Published as one change of layout: one removal for each run of rows would be slow for a long list, and
+    // a reset would lose the current row and the expanded categories.
     tellChanges(changed);
     Q_EMIT layoutAboutToBeChanged();
     changed.published -=
@@ -288,7 +288,7 @@ DataTableModel::Table* DataTableModel::child(int row) const {
     return row >= 0 && place < m_children.size() ? m_children[place].get() : nullptr;
 }
 
-/// The child table under a row of the view, if that row is one that can have children.
+/// The child table under a row of the view, or null.
 DataTableModel::Table* DataTableModel::shownChild(const QModelIndex& parent) const {
     if (parent.internalPointer() || parent.column() != 0) return nullptr;
     return child(parent.row());

@@ -8,14 +8,14 @@
 #include <QColor>
 #include <QVector>
 
-/// What the grid shows: one table at the top and, in a two-level grid, a child table for some of its rows.
-/// Tables are named by the row that owns them, -1 being the top. A table or cell that is not there is
-/// error 9.
+/// The contents of the grid: one table at the top and, in a two-level grid, a child table for some of its
+/// rows. A table is named by the row that owns it, -1 being the top. Error 9 if there is no such table or
+/// cell.
 ///
-/// The rows proper run ahead of what the view knows: appended rows and changed cells are only told by
-/// publish(). Everything else is told at once, for the rows that the view knows already.
+/// Appended rows and changed cells reach the view with publish(), once for many. Insert, remove and clear
+/// reach it at once, for the rows published before.
 ///
-/// For the view a column is the column of the cells, and behind the last one stands one more, the row header.
+/// The view's columns are those of the cells, and after the last one the row header.
 class DataTableModel : public QAbstractItemModel {
     Q_OBJECT
 
@@ -28,8 +28,8 @@ public:
 
     /// Drops all rows.
     void setColumns(const QVector<GridColumn>& columns);
-    /// Makes it a two-level grid. Drops all child tables and gives true, unless the columns are what they
-    /// were.
+    /// Makes it a two-level grid. Drops all child tables and returns true, or returns false if nothing
+    /// changes.
     bool setChildColumns(const QVector<GridColumn>& columns, int captionColumn);
     bool isTwoLevel() const { return !m_childColumns.isEmpty(); }
     /// The columns in the view's header.
@@ -56,13 +56,13 @@ public:
     void removeChild(int row);
     bool hasChild(int row) const { return child(row) != nullptr; }
     void setChildColours(int row, const QColor& back, const QColor& second);
-    /// The background of a child row, by turns of two.
+    /// The background of a child row: its table's two colours by turns.
     QColor childColour(const QModelIndex& index) const;
 
     void publish();
     std::size_t memoryInUse() const;
 
-    /// The table that the row of the view stands in.
+    /// The table that a row of the view belongs to.
     int tableOf(const QModelIndex& index) const;
     QModelIndex indexOf(int table, int row, int column) const;
     bool isCategory(const QModelIndex& index) const { return isTwoLevel() && !index.internalPointer(); }
@@ -101,5 +101,5 @@ private:
     std::unique_ptr<Table> m_top;
     /// One for each row of the top level in a two-level grid, else empty.
     std::vector<std::unique_ptr<Table>> m_children;
-    bool m_behind = false; ///< there is something that the view has not been told
+    bool m_behind = false; ///< some rows or changes are not published
 };

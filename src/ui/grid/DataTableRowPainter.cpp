@@ -91,13 +91,13 @@ void DataTableRowPainter::paintCaption(const QModelIndex& row, const QRect& rect
 }
 
 void DataTableRowPainter::paintGutter(const QModelIndex& row, const DataTableRowState& state) {
-    // At the viewport's edge, not at the section's place: the row header stays when the columns are scrolled.
+    // At the viewport's edge, not at the section's place: the row header does not scroll with the columns.
     const QRect gutter(0, state.rect.top(), DataTableLook::gutterWidth, state.rect.height());
     m_painter.fillRect(gutter, m_look.gutter);
     m_painter.fillRect(QRect(gutter.right(), gutter.top(), 1, gutter.height()), m_look.gutterEdge);
     m_painter.fillRect(QRect(gutter.left(), gutter.bottom(), gutter.width(), 1), m_look.gutterEdge);
     if (m_model.isCategory(row)) {
-        // Paler where there is nothing to open; it can be opened all the same.
+        // Paler for a category without a child table, which can be expanded all the same.
         QColor mark = m_look.mark;
         if (!m_model.hasChild(row.row())) mark.setAlphaF(0.4F);
         DataTableShapes::expandMark(m_painter, gutter, state.expanded, mark);

@@ -10,7 +10,7 @@ class QHeaderView;
 class QPainter;
 struct SelectionStyle;
 
-/// How a row stands in the view at the moment.
+/// The present state of a row in the view.
 struct DataTableRowState {
     QRect rect;
     bool selected = false;

@@ -10,7 +10,7 @@ namespace {
 
 qint32 numberIn(quint64 word) { return static_cast<qint32>(static_cast<quint32>(word)); }
 
-/// A day outside the calendar has no text; painting must go on all the same.
+/// The text of a value; empty for a day outside the calendar, so that painting goes on.
 QString shown(const Value& value) {
     try {
         return value.isNull() ? QString() : CStr(value);

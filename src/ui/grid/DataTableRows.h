@@ -6,12 +6,12 @@
 
 #include <span>
 
-/// The rows of one table of a grid, kept small: nine bytes a cell and a pointer a row, texts in the pool that
-/// is handed in. Inserting and removing moves pointers only.
-/// Knows no view. Asking for a row or column that is not there is error 9.
+/// The rows of one table of a grid, without the view. Kept small: nine bytes a cell and a pointer a row;
+/// texts are in the pool that each call takes. Inserting and removing moves pointers only. Error 9 if there
+/// is no such row or column.
 class DataTableRows {
 public:
-    /// A text to look for, prepared once: cells with texts and whole numbers are then compared as numbers.
+    /// A text to find, prepared once, so that cells with texts and whole numbers are compared as numbers.
     class Wanted {
     public:
         Wanted(const QString& text, const TextPool& texts);
@@ -31,28 +31,28 @@ public:
     int rowCount() const { return static_cast<int>(m_rows.size()); }
     int columnCount() const { return static_cast<int>(m_columns); }
 
-    /// Missing cells become Null; what is beyond the columns is dropped.
+    /// Missing cells become Null; cells beyond the columns are dropped.
     void append(std::span<const Value> cells, TextPool& texts);
     void insert(int row, std::span<const Value> cells, TextPool& texts);
     void remove(int row);
-    /// Removes these rows, which must be sorted, in one pass.
+    /// Removes these rows in one pass. They must be sorted.
     void remove(const std::vector<int>& rows);
     void clear();
     /// For each place the row that comes there.
     void reorder(const std::vector<int>& rows);
 
     Value value(int row, int column, const TextPool& texts) const;
-    /// The cell as it stands on the screen.
+    /// The cell's text as shown.
     QString text(int row, int column, const TextPool& texts) const;
     void set(int row, int column, const Value& value, TextPool& texts);
 
-    /// The first row from `first` on whose cell has the text, or -1.
+    /// The first row from `first` on that has the text in the column, or -1.
     int find(int column, int first, const Wanted& wanted) const;
 
     std::size_t memoryInUse() const;
 
 private:
-    /// The cells' contents, a word each, and behind them their kinds, a byte each.
+    /// The cells' contents, a word each, followed by their kinds, a byte each.
     using Row = quint64*;
 
     std::size_t words() const { return m_columns + (m_columns + 7) / sizeof(quint64); }
