@@ -5,28 +5,28 @@
 #include <QString>
 #include <optional>
 
-/// What the machine has for printing. The real one shows the platform's dialogs; tests and the scenario
-/// player answer by themselves.
+/// The print dialogs. The program's implementation shows the platform's dialogs; those of the tests and of
+/// the scenario player answer by themselves.
 class PrintDialogs {
 public:
     virtual ~PrintDialogs() = default;
-    /// Asks where to print. Preset to all of `pages` pages, of which `page` (from 0) is the current one; none
-    /// if the user calls it off.
+    /// Asks where to print, preset to all of `pages` pages. `page` (from 0) is the current one. None if the
+    /// user cancels.
     virtual std::optional<PrintTarget> choosePrintTarget(const QString& caption, int pages, int page) = 0;
-    /// Asks for the file that a PDF is to be saved as. `proposal` is a file name without folder. Empty if the
-    /// user calls it off.
+    /// Asks for the file to save a PDF as. `proposal` is a file name without folder. Empty if the user
+    /// cancels.
     virtual QString choosePdfFile(const QString& proposal) = 0;
     virtual int printerCount() const = 0;
 };
 
-/// Sets the implementation; it must outlive its use.
+/// Sets the implementation, which must outlive its use.
 void setPrintDialogs(PrintDialogs* dialogs);
-/// The one that was set; to be called only while there is one.
+/// The implementation. Call only after setPrintDialogs().
 PrintDialogs& printDialogs();
 
-/// Asks with the print dialog, set to all pages, and prints. False if the user calls it off. Errors as for
+/// Shows the print dialog, preset to all pages, and prints. False if the user cancels. Errors as for
 /// printReport().
 bool printAfterDialog(const ReportDocument& document);
 
-/// The caption and the day as a file name, without the characters that some system refuses.
+/// A file name of the caption and today's date, without the characters that some systems refuse.
 QString pdfNameFor(QString caption);

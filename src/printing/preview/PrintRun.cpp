@@ -20,9 +20,9 @@ namespace {
 double unitOn(const QPaintDevice& device) {
     const double tenths = 254.0;
     const double resolution = device.logicalDpiX() / tenths;
-    const double breadth = double(device.width()) / ReportPaper::width;
+    const double width = double(device.width()) / ReportPaper::width;
     const double height = double(device.height()) / ReportPaper::height;
-    return std::min({resolution, breadth, height});
+    return std::min({resolution, width, height});
 }
 
 QVector<int> pagesOf(const ReportDocument& document, const PrintTarget& target) {
@@ -62,7 +62,7 @@ RuntimeError errorOf(const QSaveFile& file) {
                                                                    : RuntimeError::pathFailed);
 }
 
-// By way of a file beside it, so that a full disk leaves what stood there before.
+// Writes to a file beside it first, so that a full disk leaves the former PDF as it was.
 void writePdf(const QString& name, const ReportDocument& document, const QVector<int>& pages) {
     QSaveFile file(name);
     if (!file.open(QIODevice::WriteOnly)) throw errorOf(file);

@@ -24,7 +24,7 @@ void preset(QPrinter& printer, const QString& caption) {
     printer.setPrintRange(QPrinter::AllPages);
 }
 
-// On some platforms the dialog proposes a folder only for the PDF file.
+// Adds a file name where the dialog proposes only a folder for the PDF file, as on some platforms.
 void proposeFile(const QPrintDialog& dialog, const QString& caption) {
     auto* name = dialog.findChild<QLineEdit*>(u"filename"_qs);
     if (name && name->text().endsWith(u'/')) name->setText(name->text() + pdfNameFor(caption));
@@ -61,7 +61,7 @@ std::optional<PrintTarget> QtPrintDialogs::choosePrintTarget(const QString& capt
     const KeyGuard guard(&dialog);
     if (dialog.exec() != QDialog::Accepted) return std::nullopt;
     target.pages = wantedPages(*target.printer, pages, page);
-    // Otherwise a print server might pick from the picked pages once more.
+    // The pages are chosen already: a print server must not apply the ranges once more.
     target.printer->setPageRanges({});
     if (target.printer->outputFormat() == QPrinter::PdfFormat)
         target.pdfFile = target.printer->outputFileName();

@@ -2,14 +2,14 @@
 
 #include "PrintDialogs.h"
 
-/// The platform's dialogs, above the active window. Its print dialog offers "print to PDF file" also where
-/// there is no printer.
+/// The platform's dialogs, above the active window. The print dialog offers "print to PDF file" even without
+/// a printer.
 class QtPrintDialogs : public PrintDialogs {
 public:
     std::optional<PrintTarget> choosePrintTarget(const QString& caption, int pages, int page) override;
-    /// Begins in the folder of the last file, or in the user's documents.
+    /// Begins in the folder of the last PDF file, or in the user's documents.
     QString choosePdfFile(const QString& proposal) override;
-    /// The platform's printers, and the PDF file as one more.
+    /// The number of the platform's printers, plus one for the PDF file.
     int printerCount() const override;
 
 private:

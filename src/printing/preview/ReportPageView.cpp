@@ -95,13 +95,13 @@ double ReportPageView::shownPercent() const { return 100 * pixelsPerTenth() / tr
 
 double ReportPageView::trueScale() const { return logicalDpiX() / tenthsPerInch; }
 
-// Fitting reckons with the room that the scroll bar takes, whether or not it is there: the page's breadth
-// would decide on the scroll bar and that on the breadth, for ever.
+// PageWidth leaves space for the scroll bar even while there is none. Otherwise the page's width would decide
+// on the scroll bar, and the scroll bar on the width, without end.
 double ReportPageView::pixelsPerTenth() const {
     const QSize room = maximumViewportSize() - QSize(2 * rim, 2 * rim);
     const int bar = verticalScrollBar()->sizeHint().width();
-    const double breadth = std::max(0.1, double(room.width() - bar) / ReportPaper::width);
-    if (m_zoom == PageWidth) return breadth;
+    const double width = std::max(0.1, double(room.width() - bar) / ReportPaper::width);
+    if (m_zoom == PageWidth) return width;
     if (m_zoom == WholePage)
         return std::max(0.1, std::min(double(room.width()) / ReportPaper::width,
                                       double(room.height()) / ReportPaper::height));
@@ -122,7 +122,7 @@ QPointF ReportPageView::sheetCorner() const {
 void ReportPageView::renewScrollBars() {
     const QSize whole(static_cast<int>(std::ceil(sheetSize().width())) + 2 * rim,
                       static_cast<int>(std::ceil(sheetSize().height())) + 2 * rim);
-    // With both bars off the room is the greatest; a bar appears where the sheet does not fit even so.
+    // A scroll bar appears only if the sheet does not fit without any bar.
     const QSize room = maximumViewportSize();
     const QSize view = viewport()->size();
     horizontalScrollBar()->setPageStep(view.width());
@@ -183,7 +183,7 @@ void ReportPageView::wheelEvent(QWheelEvent* event) {
     }
 }
 
-// At the end of a page the wheel turns it over.
+// At the end of a page the wheel turns to the next one. True if the wheel was moved there.
 bool ReportPageView::turnByWheel(int angle) {
     const int direction = angle < 0 ? 1 : -1;
     if (!m_document || angle == 0 || !isAtEnd(direction)) {

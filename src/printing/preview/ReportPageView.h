@@ -5,32 +5,32 @@
 #include <QAbstractScrollArea>
 #include <memory>
 
-/// One page of a report as a sheet on a table. It paints from the report itself, in the very resolution of
-/// the screen, and only what is to be seen.
+/// Shows one page of a report as a sheet on a table. Paints straight from the report, in the resolution of
+/// the display, and only the visible part.
 class ReportPageView : public QAbstractScrollArea {
     Q_OBJECT
 
 public:
-    /// The numbers are not those of any percentage.
+    /// Negative, so that no value is a percentage.
     enum Fit { PageWidth = -1, WholePage = -2 };
 
     explicit ReportPageView(QWidget* parent = nullptr);
 
-    /// Begins at its first page.
+    /// Shows the first page of a document.
     void setDocument(std::shared_ptr<const ReportDocument> document);
     void setPage(int page); ///< from 0; beyond the ends the nearest one
     int page() const { return m_page; }
-    /// Down with 1, up with -1: by what is to be seen of the page, and at its end to the next one, which is
-    /// entered from the same side.
+    /// Scrolls by the height of the view, down with 1, up with -1. At the end of the page turns to the top of
+    /// the next page, at its top to the end of the previous one.
     void moveOn(int direction);
-    /// Per cent of the sheet's true size, or a Fit.
+    /// Sets per cent of the sheet's true size, or a Fit.
     void setZoom(int zoom);
-    /// Per cent in which the sheet is shown now.
+    /// Per cent of the sheet's true size at present, also with a Fit.
     double shownPercent() const;
 
 Q_SIGNALS:
     void pageChanged(int page);
-    void zoomStepWanted(int step); ///< 1 is nearer, -1 is further away
+    void zoomStepWanted(int step); ///< 1 for larger, -1 for smaller
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -53,5 +53,5 @@ private:
     std::unique_ptr<ReportPainter> m_painter;
     int m_page = 0;
     int m_zoom = PageWidth;
-    int m_wheel = 0; ///< turned against the end of the page so far, in eighths of a degree
+    int m_wheel = 0; ///< turn of the wheel at the end of the page so far, in eighths of a degree
 };

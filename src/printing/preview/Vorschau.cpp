@@ -118,7 +118,7 @@ void Vorschau::buildNotice() {
 
 void Vorschau::Form_QueryUnload() { unload<Vorschau>(); }
 
-// The page box keeps the keys that move its caret.
+// In the page box the keys that move the caret keep their meaning.
 bool Vorschau::Form_KeyDown(int key, Qt::KeyboardModifiers modifiers) {
     if (key == Qt::Key_Plus || key == Qt::Key_Minus) {
         zoom(key == Qt::Key_Plus ? 1 : -1);
@@ -188,7 +188,7 @@ void Vorschau::cboZoom_Click() {
         pageView->setZoom(chosen == pageWidthEntry ? ReportPageView::PageWidth : ReportPageView::WholePage);
 }
 
-// From the size that is shown, which a fitted page may have between two levels.
+// To the next level from the present size, which with a Fit may lie between two levels.
 void Vorschau::zoom(int step) {
     const double shown = pageView->shownPercent();
     int level = step > 0 ? 0 : zoomCount - 1;
@@ -196,7 +196,7 @@ void Vorschau::zoom(int step) {
     if (level >= 0 && level < zoomCount) cboZoom->setListIndex(level);
 }
 
-// The dialog runs its own event loop, in which everything may end; the report's data stay in hand.
+// The dialog runs an event loop, in which the preview and even the program may end. `printed` keeps the data.
 void Vorschau::drucke() {
     const QPointer<Vorschau> alive(this);
     const auto printed = m_document;
@@ -227,7 +227,7 @@ void Vorschau::speicherPdf() {
     }
 }
 
-// The name first: of what is too long for the line the end is out of sight.
+// The file name comes first, since the end of a long text is cut off.
 void Vorschau::showWhereItLies(const QString& file) {
     constexpr int shown = 15000; // milliseconds
     const QFileInfo place(file);

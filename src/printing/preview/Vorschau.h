@@ -14,8 +14,8 @@ class ReportPageView;
 class TextBox;
 class Toolbar;
 
-/// The preview of a report, a screen on the stage. There is one: a second report takes the place of the
-/// first. Closing it unloads it and gives the front back.
+/// The preview of a report, a screen on the stage. A second report replaces the first. Closing unloads the
+/// preview and brings the screen below to the front.
 class Vorschau : public Screen {
     Q_OBJECT
 
@@ -25,10 +25,10 @@ public:
     void Form_QueryUnload() override;
     bool Form_KeyDown(int key, Qt::KeyboardModifiers modifiers) override;
 
-    /// Shows the first page and comes to the front; not modal. The report that the document is of stays in
-    /// use until the preview is closed or shows another one.
+    /// Shows the first page of a document and comes to the front; not modal. Keeps `report`, of which the
+    /// document was made, in use until the preview is closed or shows another document.
     void zeige(std::shared_ptr<const ReportDocument> document, std::shared_ptr<const Report> report = {});
-    /// What is shown; null before the first zeige().
+    /// The document shown; null before the first zeige().
     const std::shared_ptr<const ReportDocument>& document() const { return m_document; }
 
     Heading* Ueberschrift;
@@ -37,7 +37,7 @@ public:
     QLabel* lblSeiten;
     ComboBox* cboZoom;
     ReportPageView* pageView;
-    QLabel* lblAblage; ///< where a PDF lies, for a while after it was saved
+    QLabel* lblAblage; ///< the folder of a saved PDF, shown for a while
 
 private:
     void buildToolbar();

@@ -8,8 +8,8 @@
 
 class ReportDocument;
 
-/// A report: five sections with named controls, described once, then filled for each run. Labels and data
-/// fields keep what was last set. A preview that is open keeps what it was opened with.
+/// A report: five sections with named controls, described once, then filled for each run. Captions and data
+/// fields stay until they are set again. An open preview does not change with them.
 class Report {
 public:
     explicit Report(const QString& caption);
@@ -25,11 +25,11 @@ public:
     /// Error 3265 if there is no such section or control.
     ReportControl& control(const QString& section, const QString& name);
 
-    /// Takes over all rows there and then; the source may go afterwards.
+    /// Copies all rows at once. The source is not needed afterwards.
     void bind(ReportRowSource& source);
 
-    /// What there is to print or to preview at this moment, on its own from here on. Error 3265 if a
-    /// DataField is none of the data, 13 if one that is to be added up has no numbers.
+    /// A copy of the report's present state, to print or preview. Error 3265 if the data have no such
+    /// DataField, 13 if a field to be added up holds something other than numbers.
     std::shared_ptr<const ReportDocument> document() const;
 
 private:

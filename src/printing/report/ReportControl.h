@@ -5,8 +5,8 @@
 #include <QString>
 
 /// A control of a report section: a fixed label, a text bound to a field, a sum over all detail rows, a rule
-/// or a frame. Places are tenths of a millimetre from the section's top left corner. A text too wide for its
-/// place ends in an ellipsis; a number gets smaller letters.
+/// or a frame. Places are in tenths of a millimetre from the section's top left corner. A text too wide for
+/// its place ends in an ellipsis; a number too wide gets smaller letters.
 class ReportControl {
 public:
     enum class Kind { Label, Text, Sum, Line, Shape };
@@ -15,27 +15,28 @@ public:
 
     ReportControl(Kind kind, const QString& name, const QRect& place);
 
-    // How it looks; to be chained where the report is described.
+    // The look of the control. Each call returns the control, so that calls can be chained.
     ReportControl& points(double size); ///< height of the letters in points; 9 unless set
     ReportControl& bold();
     ReportControl& align(Align align);
-    /// A pattern for Format(); without one the value stands as CStr writes it.
+    /// Sets a pattern for Format(). Without one the value shows as CStr gives it.
     ReportControl& format(const QString& pattern);
-    /// A label that breaks its text into as many lines as its place holds.
+    /// Lets a label break its text into as many lines as its place holds.
     ReportControl& wrapped();
-    /// A label whose text is never cut: its letters shrink down to `least` points, then it takes more lines
-    /// than its place has, and what is below it in the section moves down.
+    /// Never cuts the text of a label: its letters shrink down to `least` points, then it takes more lines
+    /// than its place has, and the controls below it in the section move down.
     ReportControl& growing(double least);
-    /// A label whose text has places for the page number (%p), the number of pages (%P) and the day of
-    /// printing (%d). All others keep these signs, since a user may have typed them.
+    /// Lets a label replace %p by the page number, %P by the number of pages and %d by the day of printing.
+    /// Other labels keep these characters, since a user may have typed them.
     ReportControl& withPageNumbers();
-    /// A shape: its ground. Without one it is a bare frame.
+    /// Sets the ground of a shape. Without one it is a bare frame.
     ReportControl& ground(QRgb colour);
-    /// A line, a shape's border, the letters: their ink. Black unless set.
+    /// Sets the colour of a line, of a shape's border or of the letters. Black unless set.
     ReportControl& ink(QRgb colour);
-    /// A line or a shape's border: its breadth in tenths of a millimetre, 2 unless set; 0 for no border.
+    /// Sets the width of a line or of a shape's border in tenths of a millimetre, 2 unless set; 0 for none.
     ReportControl& breadth(int tenths);
-    /// A line below each row: its ink below the last row of a page, where it is of the usual breadth.
+    /// Sets the colour of a line below each row for the last row of a page. There the line has the usual
+    /// width.
     ReportControl& closing(QRgb ink);
 
     Kind kind() const { return m_kind; }
@@ -54,10 +55,10 @@ public:
     int breadth() const { return m_breadth; }
     QRgb closingInk() const { return m_closingInk; } ///< transparent for none
 
-    /// The text of a label. It stays until it is set again. Error 438 for other controls.
+    /// Sets the text of a label, which stays until it is set again. Error 438 for other controls.
     void setCaption(const QString& caption);
     const QString& caption() const { return m_caption; }
-    /// The field that a text or a sum shows, without regard to case; empty for none. Error 438 for other
+    /// Sets the field that a text or a sum shows, regardless of case; empty for none. Error 438 for other
     /// controls.
     void setDataField(const QString& field);
     const QString& dataField() const { return m_dataField; }

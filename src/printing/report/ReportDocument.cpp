@@ -75,7 +75,7 @@ QString ReportDocument::rowText(const ReportControl& control, int field, int row
     return asItIs ? value.text() : Format(value, control.format());
 }
 
-// The day is put in last: nothing that is put in holds a sign that would be replaced in turn.
+// No inserted text holds a % that the next replacement could take for its own.
 QString ReportDocument::labelText(const ReportControl& label, const ReportPlace& place) const {
     QString text = label.caption();
     if (!label.hasPageNumbers()) return text;

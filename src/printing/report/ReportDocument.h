@@ -9,22 +9,23 @@
 #include <memory>
 #include <vector>
 
-/// Where and when a text is shown, for what in it depends on that.
+/// Page, row and day, on which a control's text may depend.
 struct ReportPlace {
     int page = 0; ///< from 0
     QDate printed;
     int row = -1;              ///< in the detail section
-    bool isLastOnPage = false; ///< of the rows
+    bool isLastOnPage = false; ///< the row is the last one on its page
 };
 
-/// A report as it was when it was printed or previewed: never changes, and outlives the report that it was
-/// made from.
+/// A report as it was when it was printed or previewed. Never changes, and does not need the report that it
+/// was made from.
 class ReportDocument {
 public:
     /// In the order of printing.
     enum Band { ReportHeader, PageHeader, Detail, PageFooter, ReportFooter };
 
-    /// Error 3265 if a DataField is none of the data, 13 if one to be added up has no numbers.
+    /// Error 3265 if the data have no such DataField, 13 if a field to be added up holds something other
+    /// than numbers.
     ReportDocument(const QString& caption, const std::array<ReportSection, 5>& sections,
                    std::shared_ptr<const ReportRows> rows);
 
@@ -34,7 +35,8 @@ public:
     const ReportLayout& layout() const { return m_layout; }
     int pageCount() const { return m_layout.pageCount(); }
 
-    /// What the control of this number in its section shows there, formatted; empty for rules and frames.
+    /// The formatted text of a control at a place; empty for rules and frames. `control` is its number in
+    /// the section.
     QString text(Band band, std::size_t control, const ReportPlace& place) const;
 
 private:
@@ -45,7 +47,7 @@ private:
 
     QString m_caption;
     std::array<ReportSection, 5> m_sections;
-    std::array<std::vector<int>, 5> m_fields; ///< of each control; -1 for none
+    std::array<std::vector<int>, 5> m_fields; ///< field number of each control, -1 for none
     std::shared_ptr<const ReportRows> m_rows;
     ReportLayout m_layout;
 };

@@ -18,7 +18,7 @@ QFont font(double points, bool bold) {
     font.setStyleHint(QFont::SansSerif);
     font.setPixelSize(qRound(points * unitsPerPoint));
     font.setBold(bold);
-    // Letters moved to whole pixels would be broader on a screen than on paper.
+    // With hinting, letters would be wider on a screen than on paper.
     font.setHintingPreference(QFont::PreferNoHinting);
     return font;
 }
@@ -35,7 +35,7 @@ QStringList lines(QString text, const QFont& font, double width, int most) {
         line.setLineWidth(width);
         const bool last = lines.size() == most - 1;
         QString part = text.mid(line.textStart(), last ? -1 : line.textLength());
-        // The blank at which it was broken would make a full line too long.
+        // The space at the break would make a full line too long.
         if (!last && part.endsWith(u' ')) part.chop(1);
         lines.append(part);
         if (last) break;

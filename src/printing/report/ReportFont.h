@@ -3,12 +3,12 @@
 #include <QFont>
 #include <QStringList>
 
-/// The letters of all reports: Arial, measured without any device in units of ReportTypesetter.
+/// The font of all reports: Arial, measured in units of ReportTypesetter, independently of any device.
 namespace ReportFont {
 
 QFont font(double points, bool bold);
 
-/// The text cut into lines at its own breaks and between words. The last of at most `most` lines takes all
+/// Breaks a text into at most `most` lines, at its own line breaks and between words. The last line takes all
 /// the rest.
 QStringList lines(QString text, const QFont& font, double width, int most);
 

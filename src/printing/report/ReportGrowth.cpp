@@ -12,7 +12,7 @@ namespace {
 
 struct Growth {
     double points;
-    int tenths; ///< more than the label's height
+    int tenths; ///< to be added to the label's height
 };
 
 Growth growthOf(const ReportControl& label) {

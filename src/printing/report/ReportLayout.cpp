@@ -23,7 +23,7 @@ ReportLayout::ReportLayout(int rows, const ReportHeights& heights)
     ++m_pageCount;
 }
 
-// The page that they leave keeps a row.
+// Rows to move to the footer's page. The page before keeps at least one.
 int ReportLayout::rowsBesideFooter(int rowsBefore) const {
     constexpr int wanted = 3;
     const int fitting = (roomOn(1) - m_heights.reportFooter) / std::max(1, m_heights.detail);

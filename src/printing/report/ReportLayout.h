@@ -1,6 +1,6 @@
 #pragma once
 
-/// Heights in any unit, all in the same; `body` is what the paper's margins leave.
+/// Heights of the sections, all in the same unit. `body` is the height between the paper's margins.
 struct ReportHeights {
     int body = 0;
     int reportHeader = 0;
@@ -10,8 +10,8 @@ struct ReportHeights {
     int reportFooter = 0;
 };
 
-/// What stands where on a page, from the top of the body. Sections that are not there have no place: ask
-/// first whether they are.
+/// The rows and sections of a page; tops are measured from the top of the body. The tops of report header and
+/// footer mean something only if the page has them.
 struct ReportPage {
     int firstRow = 0;
     int rowCount = 0;
@@ -23,15 +23,15 @@ struct ReportPage {
     int pageFooterTop = 0;
 };
 
-/// Which rows stand on which page: arithmetic only, the same for ten rows as for a hundred thousand. A report
-/// without rows has one page. A report footer that needs a page of its own takes the last rows along, so that
-/// no page has an empty table.
+/// Distributes rows over pages. By arithmetic only, so a hundred thousand rows take no longer than ten. A
+/// report without rows has one page. A report footer that needs a page of its own takes the last rows with
+/// it, so that no page has an empty table.
 class ReportLayout {
 public:
     ReportLayout(int rows, const ReportHeights& heights);
 
     int pageCount() const { return m_pageCount; }
-    /// From 0; beyond the ends the nearest one.
+    /// Pages count from 0. A number beyond the ends gives the nearest page.
     ReportPage page(int number) const;
 
 private:
@@ -41,8 +41,8 @@ private:
 
     ReportHeights m_heights;
     int m_rows;
-    int m_rowsOnFirst; ///< at least one, so that every row finds its page
+    int m_rowsOnFirst; ///< at least one, so that every row gets a page
     int m_rowsOnOthers;
     int m_pageCount;
-    int m_rowsTakenAlong = 0; ///< by a report footer on a page of its own
+    int m_rowsTakenAlong = 0; ///< rows beside a report footer on a page of its own
 };

@@ -59,13 +59,13 @@ void ReportPainter::paintBand(QPainter& painter, ReportDocument::Band band, int 
 void ReportPainter::draw(QPainter& painter, const QRectF& area, const ReportControl& control, bool isLast) {
     const bool closes = isLast && qAlpha(control.closingInk()) > 0;
     const int tenths = closes ? ReportControl::usualBreadth : control.breadth();
-    const double breadth = double(tenths) * ReportTypesetter::unitsPerTenth;
+    const double width = double(tenths) * ReportTypesetter::unitsPerTenth;
     if (control.kind() == ReportControl::Kind::Line) {
         const bool upright = area.height() > area.width();
-        m_ruler.addRule(painter, area.topLeft(), upright ? area.bottomLeft() : area.topRight(), breadth,
+        m_ruler.addRule(painter, area.topLeft(), upright ? area.bottomLeft() : area.topRight(), width,
                         closes ? control.closingInk() : control.ink());
         return;
     }
     m_ruler.fill(painter, area, control.ground());
-    if (breadth > 0) m_ruler.addFrame(painter, area, breadth, control.ink());
+    if (width > 0) m_ruler.addFrame(painter, area, width, control.ink());
 }

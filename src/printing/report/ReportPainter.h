@@ -6,14 +6,14 @@
 
 class QPainter;
 
-/// Paints pages of a report on any painter: printer, PDF, screen, picture. Only the rows of the page are
-/// looked at. The document must outlive it.
+/// Paints pages of a report on any painter: printer, PDF, screen, picture. Reads only the rows of the page.
+/// The document must outlive the ReportPainter.
 class ReportPainter {
 public:
     ReportPainter(const ReportDocument& document, QDate printed);
 
-    /// A page, from 0. The painter's unit must be a tenth of a millimetre, its origin the sheet's corner; its
-    /// state is left as it was.
+    /// Paints a page; pages count from 0. The painter's unit must be a tenth of a millimetre and its origin
+    /// the sheet's corner. Restores the painter's state.
     void paint(QPainter& painter, int page);
 
 private:

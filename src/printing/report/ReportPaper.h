@@ -1,7 +1,7 @@
 #pragma once
 
 /// The sheet that reports are made for: A4 portrait with its margins, in tenths of a millimetre. The margins
-/// are wider than what any printer leaves blank.
+/// are wider than the edge that a printer can't print on.
 namespace ReportPaper {
 
 constexpr int width = 2100;

@@ -10,7 +10,7 @@ std::optional<double> numberIn(const Value& value) {
     try {
         return CDbl(value);
     } catch (const RuntimeError&) {
-        return std::nullopt; // no number: the sum of this field is asked for by nobody
+        return std::nullopt; // no number, so the field has no sum
     }
 }
 
@@ -36,7 +36,7 @@ void ReportRows::append(const std::vector<Value>& row) {
     ++m_rowCount;
 }
 
-// Added up here, once, so that a report with many rows opens as quickly as one with few.
+// Adds up while the rows are copied, so that a report with many rows opens as quickly as one with few.
 void ReportRows::addUp(std::size_t field, const Value& value) {
     if (value.isNull()) return;
     const std::optional<double> number = numberIn(value);

@@ -8,16 +8,17 @@
 #include <optional>
 #include <vector>
 
-/// Where a report's rows come from: a record set, a grid, a list in a test.
+/// The source of a report's rows: a record set, a grid, a list in a test.
 class ReportRowSource {
 public:
     virtual ~ReportRowSource() = default;
     virtual QStringList fields() const = 0;
-    /// Writes the next row into `row`, a value a field in their order; false when there is none left.
+    /// Writes the next row into `row`, one value for each field in the order of fields(). False after the
+    /// last row.
     virtual bool next(std::vector<Value>& row) = 0;
 };
 
-/// All rows of a report, taken over from their source: nine bytes a cell, and each text once.
+/// A copy of all rows of a report: nine bytes a cell, and each text once.
 class ReportRows {
 public:
     ReportRows() = default; ///< no fields, no rows
@@ -25,11 +26,11 @@ public:
 
     int rowCount() const { return m_rowCount; }
     int fieldCount() const { return static_cast<int>(m_fields.size()); }
-    /// By name, without regard to case, umlauts too.
+    /// The field of this name, regardless of case, also of umlauts; none if there is none.
     std::optional<int> fieldIndex(const QString& name) const;
     Value value(int row, int field) const;
-    /// Of all rows, Null counting as nothing; a text that is a number counts as one. None if a value of the
-    /// field is no number.
+    /// The sum of a field over all rows. Null counts as 0, a text that is a number as that number. None if a
+    /// value is no number.
     std::optional<double> sum(int field) const { return m_sums[std::size_t(field)]; }
 
     std::size_t memoryInUse() const;

@@ -4,10 +4,10 @@
 #include <algorithm>
 #include <cmath>
 
-void ReportRuler::addRule(const QPainter& painter, const QPointF& from, const QPointF& to, double breadth,
+void ReportRuler::addRule(const QPainter& painter, const QPointF& from, const QPointF& to, double width,
                           QRgb ink) {
     const QTransform toDevice = painter.deviceTransform();
-    const double pixels = std::max(1.0, std::round(breadth * std::hypot(toDevice.m11(), toDevice.m12())));
+    const double pixels = std::max(1.0, std::round(width * std::hypot(toDevice.m11(), toDevice.m12())));
     const auto corner = [&](const QPointF& end) {
         const QPointF mapped = toDevice.map(end) - QPointF(pixels, pixels) / 2;
         return QPointF(std::round(mapped.x()), std::round(mapped.y()));
@@ -19,11 +19,11 @@ void ReportRuler::addRule(const QPainter& painter, const QPointF& from, const QP
     batch->rules.append(toDevice.inverted().mapRect(rule));
 }
 
-void ReportRuler::addFrame(const QPainter& painter, const QRectF& frame, double breadth, QRgb ink) {
-    addRule(painter, frame.topLeft(), frame.topRight(), breadth, ink);
-    addRule(painter, frame.bottomLeft(), frame.bottomRight(), breadth, ink);
-    addRule(painter, frame.topLeft(), frame.bottomLeft(), breadth, ink);
-    addRule(painter, frame.topRight(), frame.bottomRight(), breadth, ink);
+void ReportRuler::addFrame(const QPainter& painter, const QRectF& frame, double width, QRgb ink) {
+    addRule(painter, frame.topLeft(), frame.topRight(), width, ink);
+    addRule(painter, frame.bottomLeft(), frame.bottomRight(), width, ink);
+    addRule(painter, frame.topLeft(), frame.bottomLeft(), width, ink);
+    addRule(painter, frame.topRight(), frame.bottomRight(), width, ink);
 }
 
 void ReportRuler::fill(QPainter& painter, const QRectF& area, QRgb ground) const {

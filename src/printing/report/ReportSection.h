@@ -14,18 +14,20 @@ public:
     int height() const { return m_height; } ///< tenths of a millimetre
     void setHeight(int tenths) { m_height = tenths; }
 
-    // Adding a control returns it, to be told how it looks. It stays where it is when others are added.
+    // Each function returns the new control, so that its look can be set. The reference stays valid when more
+    // controls are added.
     ReportControl& addLabel(const QString& name, const QString& caption, const QRect& place);
     ReportControl& addText(const QString& name, const QRect& place);
     ReportControl& addSum(const QString& name, const QRect& place);
-    /// Along the top of its place, or along its left side if that is longer.
+    /// Adds a line along the top of its place, or along the left side if that is longer.
     ReportControl& addLine(const QString& name, const QRect& place);
     ReportControl& addShape(const QString& name, const QRect& place);
 
-    /// By name, without regard to case; error 3265 if there is none.
+    /// The control of this name, regardless of case; error 3265 if there is none.
     ReportControl& control(const QString& name);
     const std::deque<ReportControl>& controls() const { return m_controls; }
-    /// Makes the control of this number so much higher, with letters of this size. Those below it move down.
+    /// Makes a control higher by `tenths`, with letters of `points`. The controls below it move down.
+    /// `control` is its number in controls().
     void grow(std::size_t control, double points, int tenths);
 
 private:

@@ -9,11 +9,11 @@
 
 namespace {
 
-/// Names and months repeat, other texts don't; so what was measured is kept, but not for ever.
+/// The most measured texts to keep: names and months repeat, other texts hardly ever.
 constexpr int settingsKept = 8192;
 constexpr double endless = 1e6;
 
-// A break or a tab in a text must not take it out of its line.
+// A line break or a tab in a text must not take it out of its line.
 QString onOneLine(QString text) {
     const auto breaks = [](QChar sign) {
         return sign < u' ' || sign == QChar::LineSeparator || sign == QChar::ParagraphSeparator;
@@ -28,7 +28,7 @@ bool hasOnlyDigits(const QString& text) {
     return text.size() > 1 && std::all_of(text.begin(), text.end(), &isDigit);
 }
 
-// A day, a code or a telephone number is one too, letters between its digits or not.
+// Days, codes and telephone numbers count as numbers too, even with letters between their digits.
 bool isNumber(const QString& text) {
     const auto letters = std::count_if(text.begin(), text.end(), [](QChar sign) { return sign.isLetter(); });
     return std::count_if(text.begin(), text.end(), &isDigit) > letters;
@@ -85,8 +85,8 @@ ReportTypesetter::Setting ReportTypesetter::measured(Face& face, const QString& 
     return set;
 }
 
-/// Numbers hardly repeat, so they are set digit by digit: much quicker than measuring each, and the digits of
-/// a column stand below each other, which a font that moves them closer together would spoil.
+/// Sets a number digit by digit. Numbers hardly repeat, so this is much quicker than measuring each. It also
+/// keeps the digits of a column below each other, which a font's kerning would spoil.
 ReportTypesetter::Setting ReportTypesetter::composed(Face& face, const QString& digits) {
     Setting number;
     number.letters.reserve(digits.size());
@@ -123,7 +123,7 @@ void ReportTypesetter::set(const QRectF& place, const QString& text, const Repor
     const int most = std::max(1, static_cast<int>(place.height() / height));
     const QStringList lines = ReportFont::lines(text, face.font, place.width(), most);
     QRectF line(place.topLeft(), QSizeF(place.width(), height));
-    // Beside a caption in the middle of its line; a title begins at the top.
+    // A growing label is centred in its height beside its caption; a title begins at the top.
     if (look.isGrowing()) line.translate(0, (place.height() - height * double(lines.size())) / 2);
     for (const QString& part : lines) {
         setLine(line, onOneLine(part), look);
@@ -141,8 +141,7 @@ void ReportTypesetter::setLine(const QRectF& place, const QString& text, const R
     for (const Letter& letter : fit.letters) {
         if (!batch || batch->font != letter.font) batch = &batchFor(letter.font, look.ink());
         batch->glyphs.append(letter.glyph);
-        // To whole units, finer than any eye: fractions would take up half of a PDF and of the time to write
-        // it.
+        // Whole units, finer than the eye sees: fractions would take half of a PDF's size and time.
         batch->positions.append((start + letter.place).toPoint());
     }
 }

@@ -13,28 +13,28 @@
 
 class QPainter;
 
-/// Sets texts into their places, in Arial. It measures without any device, so that a text ends at the same
-/// letter on the screen and on paper; and it collects a page's letters to paint all of one font and colour at
+/// Sets texts into their places, in Arial. Measures independently of any device, so that a text ends at the
+/// same letter on the screen and on paper. Collects a page's letters and paints all of one font and colour at
 /// once, which halves the time that a long list takes to print.
 class ReportTypesetter {
 public:
-    /// Units of the painter to a tenth of a millimetre: fonts have a whole number of units.
+    /// Units of the painter in a tenth of a millimetre. Tenths are too coarse: font sizes are whole units.
     static constexpr int unitsPerTenth = 10;
 
-    /// Takes in a text; `place` in units. One too wide ends in an ellipsis, a number gets smaller letters;
-    /// one in a wrapped label takes as many lines as the place holds.
+    /// Adds a text; `place` is in units. A text too wide ends in an ellipsis, a number too wide gets smaller
+    /// letters, and a wrapped label takes as many lines as its place holds.
     void set(const QRectF& place, const QString& text, const ReportControl& look);
-    /// Paints what was taken in, and forgets it.
+    /// Paints the texts added and forgets them.
     void paint(QPainter& painter);
 
 private:
     struct Letter {
-        /// Its place among the fonts: a text may need several, for letters that the first lacks.
+        /// Number of its font: a text may need several fonts, for letters that the first one lacks.
         int font;
         quint32 glyph;
         QPointF place;
     };
-    /// A text that has been measured, its letters relative to its left end on the base line.
+    /// A measured text. Its letters are relative to its left end on the baseline.
     struct Setting {
         QList<Letter> letters;
         double width = 0;
