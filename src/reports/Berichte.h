@@ -4,13 +4,13 @@
 
 #include <memory>
 
-/// The five reports. One is made when it is asked for and no run or preview has it in use; its labels keep
-/// what was last set for as long as it is in use.
+/// The five reports. A report lives, and keeps its captions, as long as a print run or a preview uses it. The
+/// next call after that makes a new one.
 namespace Berichte {
 
 using Bericht = std::shared_ptr<Report>;
 
-/// The report that this makes, the same one while it is in use.
+/// The report made by `make`, the same one while it is in use.
 Bericht bericht(Bericht (*make)());
 
 Bericht rpt_BesatzListe();
@@ -19,7 +19,7 @@ Bericht rpt_MitglList();
 Bericht rpt_ArbStd();
 
 Bericht rpt_ArbListe();
-/// Its title; the year stands behind it.
+/// The title of rpt_ArbListe without the year that follows it.
 QString titelArbListe();
 
 } // namespace Berichte

@@ -4,16 +4,16 @@
 
 namespace {
 
-constexpr int breadth = ReportPaper::bodyWidth;
+constexpr int bodyWidth = ReportPaper::bodyWidth;
 
-// The letterhead: the address at the left, the title and what the list was made for at the right.
+// The letterhead: the address at the left, the title and the settings of the list at the right.
 constexpr int addressTop = 60;
 constexpr int addressLine = 46;
 constexpr int captionBreadth = 180;
 constexpr int addressBreadth = 980;
 constexpr int codeBreadth = 130;
 constexpr int codeSpace = 16;
-constexpr double leastCodePoints = 5; // a code is not broken
+constexpr double leastCodePoints = 5; // small, since a code must not be broken into lines
 constexpr int titleLeft = 1060;
 constexpr int settingTop = addressTop + addressLine; // beside the street
 constexpr int settingCaption = 260;
@@ -84,7 +84,7 @@ ReportControl& Briefkopf::addAddressValue(const QString& value, int line, int le
 
 void Briefkopf::addFooter() {
     m_foot.setHeight(footHeight);
-    m_foot.addLabel(u"Label9"_qs, u"Seite %p von %P (gedruckt am %d)"_qs, {0, footHeight - 44, breadth, 44})
+    m_foot.addLabel(u"Label9"_qs, u"Seite %p von %P (gedruckt am %d)"_qs, {0, footHeight - 44, bodyWidth, 44})
         .points(8.5)
         .align(ReportControl::Align::Right)
         .ink(grey)
@@ -93,7 +93,7 @@ void Briefkopf::addFooter() {
 
 ReportControl& Briefkopf::addTitle(const QString& label, const QString& title) {
     constexpr int spaceBelow = 8;
-    return m_head.addLabel(label, title, {titleLeft, 0, breadth - titleLeft, headTop - spaceBelow})
+    return m_head.addLabel(label, title, {titleLeft, 0, bodyWidth - titleLeft, headTop - spaceBelow})
         .points(20)
         .bold()
         .ink(clubBlue)
@@ -104,7 +104,7 @@ void Briefkopf::addSetting(const QString& label, const QString& caption, const Q
     const int top = settingTop + m_settings++ * addressLine;
     addCaption(label, caption, {titleLeft, top, settingCaption, addressLine});
     const int left = titleLeft + settingCaption;
-    m_head.addLabel(value, {}, {left, top, breadth - left, addressLine})
+    m_head.addLabel(value, {}, {left, top, bodyWidth - left, addressLine})
         .points(bodyPoints)
         .growing(leastPoints);
 }
@@ -121,18 +121,18 @@ void Briefkopf::addColumns(std::initializer_list<ReportColumn> columns) {
     if (whole <= 0) return; // no column, no table
     m_head.setHeight(headTop + headHeight);
     m_detail.setHeight(m_rowHeight);
-    m_head.addShape(u"Shape1"_qs, {0, headTop, breadth, headHeight}).ground(paleBlue).ink(clubBlue);
+    m_head.addShape(u"Shape1"_qs, {0, headTop, bodyWidth, headHeight}).ground(paleBlue).ink(clubBlue);
     int passed = 0;
     int number = 0;
     for (const ReportColumn& column : columns) {
-        const int left = breadth * passed / whole + m_cellPadding;
+        const int left = bodyWidth * passed / whole + m_cellPadding;
         passed += column.breadth;
-        const int width = breadth * passed / whole - m_cellPadding - left;
+        const int width = bodyWidth * passed / whole - m_cellPadding - left;
         addColumn(column, u"Text%1"_qs.arg(++number), left, width);
     }
-    m_detail.addLine(u"Line1"_qs, {0, m_rowHeight, breadth, 0}).ink(faint).breadth(1).closing(clubBlue);
+    m_detail.addLine(u"Line1"_qs, {0, m_rowHeight, bodyWidth, 0}).ink(faint).breadth(1).closing(clubBlue);
     m_detail.addLine(u"Line2"_qs, {0, 0, 0, m_rowHeight}).ink(clubBlue);
-    m_detail.addLine(u"Line3"_qs, {breadth, 0, 0, m_rowHeight}).ink(clubBlue);
+    m_detail.addLine(u"Line3"_qs, {bodyWidth, 0, 0, m_rowHeight}).ink(clubBlue);
 }
 
 void Briefkopf::addColumn(const ReportColumn& column, const QString& text, int left, int width) {
@@ -158,7 +158,10 @@ void Briefkopf::endSummaryLine(int height) {
 void Briefkopf::addSummaryHeading(const QString& label, const QString& text) {
     const int space = m_summary.height() > 0 ? summaryLine / 2 : 0;
     if (space > 0) endSummaryLine(space);
-    m_summary.addLabel(label, text, summaryPlace(0, breadth, summaryHeading)).points(11).bold().ink(clubBlue);
+    m_summary.addLabel(label, text, summaryPlace(0, bodyWidth, summaryHeading))
+        .points(11)
+        .bold()
+        .ink(clubBlue);
     endSummaryLine(summaryHeading);
 }
 
@@ -170,7 +173,7 @@ void Briefkopf::addSummaryCaption(const QString& label, const QString& caption) 
 
 ReportControl& Briefkopf::addSummary(const QString& label, const QString& caption, const QString& value) {
     addSummaryCaption(label, caption);
-    const QRect place = summaryPlace(summaryCaption, breadth - summaryCaption, summaryLine);
+    const QRect place = summaryPlace(summaryCaption, bodyWidth - summaryCaption, summaryLine);
     endSummaryLine(summaryLine);
     return m_summary.addLabel(value, {}, place).points(bodyPoints).growing(bodyPoints);
 }
@@ -195,7 +198,7 @@ ReportControl& Briefkopf::addSum(const QString& label, const QString& caption, c
 
 void Briefkopf::addUnit(const QString& label, const QString& text) {
     const int left = summaryCaption + summaryValue + cellPadding;
-    const QRect place(left, m_summary.height() - summaryLine, breadth - left, summaryLine);
+    const QRect place(left, m_summary.height() - summaryLine, bodyWidth - left, summaryLine);
     m_summary.addLabel(label, text, place).points(bodyPoints).ink(grey);
 }
 

@@ -4,7 +4,7 @@
 
 #include <initializer_list>
 
-/// A column of a report's table: its head, its share of the page's breadth in any unit.
+/// A column of a report's table. `breadth` is its share of the page's width, in any unit.
 struct ReportColumn {
     QString label;
     QString head;
@@ -13,38 +13,38 @@ struct ReportColumn {
     QString format = {};
 };
 
-/// Lays out the face that the five reports share: the club's letterhead with the title and what the list was
-/// made for, the table below it, the page number, and the summary behind the last row. To be called from top
-/// to bottom: each line goes below the one before.
+/// Builds the layout common to the five reports: the club's letterhead with the title and the settings of the
+/// list, the table below it, the page number, and the summary after the last row. Call the functions from top
+/// to bottom: each adds its line below the one before.
 class Briefkopf {
 public:
-    /// Letterhead (Label10 to Label13 and Label15 with their values) and page footer (Label9).
+    /// Adds letterhead (Label10 to Label13 and Label15 with their values) and page footer (Label9).
     explicit Briefkopf(Report& report);
 
-    /// The title beside the address, in up to three lines of 20 points.
+    /// Adds the title beside the address, in up to three lines of 20 points.
     ReportControl& addTitle(const QString& label, const QString& title);
-    /// Below a title of one line, line by line (up to four), what the list was made for.
+    /// Adds a line below a title of one line: a setting that the list was made with. Up to four.
     void addSetting(const QString& label, const QString& caption, const QString& value);
 
-    /// Smaller letters and less air in the table, where there are many columns. To be called before them.
+    /// Sets smaller letters and less space in the table, for many columns. Call before addColumns().
     void setDense();
-    /// The column heads on the frame Shape1, the texts below them (Text1 and onward), and the rules Line1
-    /// (below each row), Line2 and Line3 (at the table's sides).
+    /// Adds the column heads on the frame Shape1, the texts below them (Text1 and onward), and the rules
+    /// Line1 (below each row), Line2 and Line3 (at the table's sides).
     void addColumns(std::initializer_list<ReportColumn> columns);
 
-    // The report footer. Each line is a caption (a label of its own name) with its value behind it; what is
-    // returned is the value. A long text takes more lines.
+    // The report footer. Each line is a caption (the label `label`) followed by its value, which is returned.
+    // A long text takes more lines.
     void addSummaryHeading(const QString& label, const QString& text);
     ReportControl& addSummary(const QString& label, const QString& caption, const QString& value);
-    /// A label with a number, below the sums.
+    /// Adds a label with a number, below the sums.
     ReportControl& addNumber(const QString& label, const QString& caption, const QString& value);
-    /// In the format "#.##0" unless told otherwise.
+    /// Adds a sum, in the format "#.##0" unless the caller sets another.
     ReportControl& addSum(const QString& label, const QString& caption, const QString& sum);
-    /// A label behind the number of the line before.
+    /// Adds a label after the number of the line before.
     void addUnit(const QString& label, const QString& text);
-    /// A rule, as above a result.
+    /// Adds a rule, as above a result.
     void addSummaryRule(const QString& name);
-    /// What both lists of members end with: how many they are, and the user's words for the list.
+    /// Adds the end of both lists of members: their number and the user's description of the list.
     void addListDescription();
 
 private:

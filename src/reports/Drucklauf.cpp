@@ -15,7 +15,7 @@
 
 namespace {
 
-/// The rows of a staging table as a report takes them over.
+/// The rows of a staging table as the source of a report.
 class StagedRows final : public ReportRowSource {
 public:
     explicit StagedRows(Recordset& rows)
@@ -41,12 +41,12 @@ private:
     bool m_begun = false;
 };
 
-/// A second connection on the file of the program, so that staging is an action of its own.
+/// A second connection to the database file, so that staging is an action of its own.
 Database zweiteVerbindung() {
     return DBEngine::Workspaces(0).OpenDatabase(datenbankDatei(), false, false, datenbankVerbindung());
 }
 
-/// True if none of the last run's rows is left.
+/// Deletes the rows of the last run; true if none is left.
 bool leere(ErrorTail& step, Recordset& rows) {
     bool geleert = true;
     if (!step.test([&] { return !rows.Bof(); })) return geleert;
@@ -55,7 +55,7 @@ bool leere(ErrorTail& step, Recordset& rows) {
     return geleert;
 }
 
-/// True if the table holds all rows of the grid. A field that can't be set costs that field.
+/// Stages the grid's rows; true if all could be saved. A field that can't be set stays empty.
 bool fuelle(ErrorTail& step, const Druckauftrag& auftrag, Recordset& rows) {
     bool gefuellt = true;
     for (int row = 0; row < auftrag.grid.rowCount(); ++row) {
@@ -121,7 +121,7 @@ void drucke(const Druckauftrag& auftrag, const QString& wort) {
             MsgBox(u"Keine Daten zum Drucken vorhanden, Vorgang wird abgebrochen !"_qs, vbInformation);
             return;
         }
-        // A refused write brings the last run's rows back, which may be another member's.
+        // A refused write restores the rows of the last run, perhaps those of another member.
         if (fuelle(step, auftrag, rows) && geleert) stelleDar(step, auftrag, rows, wort, hourglass);
         step([&] { rows.Close(); });
         step([&] { connection.Close(); });

@@ -10,12 +10,12 @@ class DataTable;
 class Report;
 class Screen;
 
-/// What a report has of its own in the way from a grid to paper.
+/// The parts of a print run in which the reports differ.
 struct Druckauftrag {
-    QString modul; ///< with `routine`, what the error box names
+    QString modul; ///< named, with `routine`, in the error message box
     QString routine;
     Screen& aufrufer;      ///< shows the hourglass
-    const DataTable& grid; ///< whose rows are printed, in its order
+    const DataTable& grid; ///< its rows are printed, in its order
     QString tabelle;       ///< the staging table
     std::shared_ptr<Report> (*report)();
     /// Writes the fields of a grid row into a new staging row.
@@ -24,10 +24,12 @@ struct Druckauftrag {
     std::function<void(ErrorTail&, Report&)> richteEin;
 };
 
-/// The way that all five reports go: the rows of the grid are staged through the second connection, and the
-/// report, bound to them, is printed ("drucken") or shown ("vorschau"). Staged rows stay until the next run.
+/// Runs one of the five reports: writes the grid's rows into the staging table through a second connection,
+/// binds the report to them, and prints it (`wort` "drucken") or previews it ("vorschau"). Staged rows stay
+/// until the next run.
 void drucke(const Druckauftrag& auftrag, const QString& wort);
 
-/// Runs a print routine for a screen, which must not lose what it shows when a preview takes the front: until
-/// it is back, NachReport is set. After anything but a preview the next return is from another screen.
+/// Runs a print routine for a screen. If a preview comes to the front, leaves NachReport set, so that the
+/// screen keeps its contents when it comes back. Otherwise clears NachReport: the next return to the screen
+/// is from another one.
 void druckeFuer(const Screen& aufrufer, const std::function<void()>& routine);

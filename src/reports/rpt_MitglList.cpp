@@ -9,7 +9,7 @@ Berichte::Bericht makeMitglList() {
     Briefkopf face(*report);
     face.addTitle(u"Label8"_qs, u"Mitglieder - Liste"_qs);
     face.setDense();
-    // In tenths of a millimetre: what a day, a code, a number or the heads need, the rest for the names.
+    // In tenths of a millimetre. Days, codes, numbers and heads get the width they need, names the rest.
     face.addColumns({{u"Label1"_qs, u"M-Nr:"_qs, 118, Align::Right},
                      {u"Label2"_qs, u"Nachname:"_qs, 280},
                      {u"Label3"_qs, u"Vorname:"_qs, 226},
