@@ -146,7 +146,7 @@ void Handbuch::zeige(const QString& file) {
         return;
     }
     const bool closed = !isVisible();
-    winId(); // what it is to stand above has to be known before it is shown
+    winId(); // makes the native window, so that folgeModal() can put it above another one before it shows
     folgeModal();
     Seite->setSource(QUrl::fromLocalFile(page.absoluteFilePath()));
     if (closed) Seite->clearHistory();
@@ -173,7 +173,7 @@ bool Handbuch::event(QEvent* event) {
     return Screen::event(event);
 }
 
-// A modal window locks all others but those that belong to it.
+// A modal window locks all windows except its own children, so the handbook becomes one of them.
 void Handbuch::stelleUeber(QWindow* modal) {
     if (modal == windowHandle()->transientParent()) return;
     windowHandle()->setTransientParent(modal);
@@ -183,5 +183,5 @@ void Handbuch::stelleUeber(QWindow* modal) {
                 static_cast<Qt::ConnectionType>(once));
 }
 
-// When one goes, an earlier one may still be there.
+// When a modal window closes, an earlier one may still be open.
 void Handbuch::folgeModal() { stelleUeber(QGuiApplication::modalWindow()); }

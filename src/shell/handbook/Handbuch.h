@@ -19,10 +19,11 @@ class Handbuch : public Screen {
 public:
     Handbuch();
 
-    /// Opens it at a page (a file in its folder) and comes to the front; a box tells if there is none.
+    /// Opens the handbook at a page (a file in its folder) and comes to the front. Shows a message box if
+    /// there is no such page.
     void zeige(const QString& file);
 
-    // Only hidden: a box or a modal screen may have come up above it.
+    // Only hidden: a message box or a modal screen may be above it.
     void Form_QueryUnload() override { Hide(); }
     bool Form_KeyDown(int key, Qt::KeyboardModifiers modifiers) override;
 

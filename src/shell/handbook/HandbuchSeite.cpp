@@ -9,8 +9,7 @@ namespace {
 
 constexpr int paperMargin = 24;
 
-/// The style file that goes with the pages is for web browsers; here the house's own look is in force, in
-/// the light as in the dark one.
+/// The program's style for the pages, in either mode. The style file beside the pages is for web browsers.
 QString houseStyle() {
     return u"h1, h2, th { color: %1; } a { color: %2; } p, li, td { line-height: 125%; }"
            "p.bild { line-height: 100%; margin-top: 14px; margin-bottom: 14px; }"
@@ -58,7 +57,7 @@ void HandbuchSeite::resizeEvent(QResizeEvent* event) {
     if (isVisible() && m_setWidth && m_setWidth != viewport()->width()) setzeNeu();
 }
 
-// Anew with pictures of another width, at the same line.
+// Lays the page out again with pictures of another width and returns to the same line.
 void HandbuchSeite::setzeNeu() {
     const int line = verticalScrollBar()->value();
     reload();

@@ -23,5 +23,5 @@ private:
     QImage fitting(const QImage& picture);
     void setzeNeu();
 
-    int m_setWidth = 0; ///< of the view when its pictures were scaled, in pixels
+    int m_setWidth = 0; ///< width of the view when its pictures were scaled, in pixels
 };

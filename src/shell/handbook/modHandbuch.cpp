@@ -17,7 +17,7 @@ const std::map<QString, QString>& pages() {
         {u"Basis"_qs, u"basisdaten"_qs},
         {u"Benutzer"_qs, u"benutzer"_qs},
         {u"Besatzung"_qs, u"besatzung"_qs},
-        // Behind the questions of a start in a new year there is nothing but the start-up picture.
+        // The questions of a start in a new year come above the start-up picture.
         {u"Eroef"_qs, u"jahreswechsel"_qs},
         {u"Fangauswertung"_qs, u"fangauswertung"_qs},
         {u"Fangbuch"_qs, u"fangbuch"_qs},
@@ -46,7 +46,7 @@ const Screen* lastShown() {
     return shown;
 }
 
-/// The frame's bar and menus belong to the screen on its stage.
+/// The screen that contains `focused`. The frame's bar and menus count as the screen on its stage.
 const Screen* screenInFront(const QWidget* focused) {
     const Screen* screen = screenAround(focused);
     if (!screen) screen = lastShown();
@@ -55,7 +55,7 @@ const Screen* screenInFront(const QWidget* focused) {
     return isFrame && stage->front() ? stage->front() : screen;
 }
 
-/// Without any screen the start has failed, and its box stands alone.
+/// The page of a screen. Without any screen the start has failed and its message box is alone.
 QString pageFor(const Screen* screen) { return screen ? SeiteFuer(screen->objectName()) : u"hilfe"_qs; }
 
 } // namespace

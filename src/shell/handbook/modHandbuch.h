@@ -4,16 +4,17 @@
 
 class QWidget;
 
-/// The key F1: the handbook, opened where the user stands.
+/// The key F1: opens the handbook at the page of the user's screen.
 namespace modHandbuch {
 
-/// The page for a screen by its name, without folder and ending: the list of all pages for a screen that has
-/// none of its own.
+/// The page for the screen of this name, without folder and ending. A screen without a page gives the list of
+/// all pages.
 QString SeiteFuer(const QString& screen);
 /// The screens that have a page.
 QStringList BeschriebeneMasken();
 
-/// Opens the handbook at the page of the screen in which `focused` lies. Of a box it is the screen below.
+/// Opens the handbook at the page of the screen that contains `focused`. For a message box this is the screen
+/// below it.
 void ZeigeHandbuch(const QWidget* focused);
 
 } // namespace modHandbuch
