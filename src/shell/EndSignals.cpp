@@ -16,8 +16,8 @@ namespace {
 
 constexpr std::array signalNumbers = {SIGTERM, SIGHUP};
 
-/// A handler may do next to nothing, so it only writes a byte, for which the event loop waits at the other
-/// end.
+/// The two ends of a connection. A signal handler may do hardly anything, so it only writes a byte; the event
+/// loop waits for the byte at the other end.
 std::array<int, 2> ends = {-1, -1};
 
 extern "C" void wakeEventLoop(int /*number*/) {

@@ -2,9 +2,9 @@
 
 #include <QObject>
 
-/// SIGTERM and SIGHUP end the application as the desktop does: a shutdown and a closed Wayland session come
-/// as these signals. Make one before the event loop runs. A signal that is ignored already, as SIGHUP under
-/// nohup, stays ignored. Does nothing where there are no such signals.
+/// Makes SIGTERM and SIGHUP end the application as the end of a desktop session does: a shutdown and a closed
+/// Wayland session come as these signals. Create one before the event loop runs. A signal that is ignored
+/// already, as SIGHUP under nohup, stays ignored. Does nothing on systems without these signals.
 class EndSignals : public QObject {
     Q_OBJECT
 

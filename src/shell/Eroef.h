@@ -5,7 +5,7 @@
 class ProgressBar;
 class QLabel;
 
-/// The start-up picture, in front while the data is loaded after login.
+/// The start-up picture, shown while the data is loaded after login.
 class Eroef : public Screen {
     Q_OBJECT
 

@@ -4,7 +4,7 @@
 
 class QLabel;
 
-/// A background picture. Nothing shows it.
+/// A background picture. No routine shows it.
 class Hinter : public Screen {
     Q_OBJECT
 

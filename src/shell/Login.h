@@ -8,7 +8,7 @@ class QLabel;
 class QPushButton;
 class TextBox;
 
-/// Name and password, before anything else is seen.
+/// Asks for name and password before any other screen shows.
 class Login : public Screen {
     Q_OBJECT
 

@@ -10,8 +10,8 @@ class QMenuBar;
 class Stage;
 class StatusBar;
 
-/// The frame: menus, navigation bar, the stage with the other screens, status bar. Its load is the start-up
-/// of the program, its unload the end.
+/// The frame: menus, navigation bar, the stage with the other screens, status bar. Form_Load starts the
+/// program, Form_Unload ends it.
 class Main : public Screen, public Rahmen {
     Q_OBJECT
 
@@ -50,7 +50,7 @@ public:
     QAction* mnuInfo;
 
 protected:
-    // Screens are activated only while the frame can be seen.
+    // Switch the stage on and off: screens are activated only while the frame is visible.
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
 

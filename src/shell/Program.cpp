@@ -17,7 +17,7 @@ namespace {
 
 Program* running = nullptr;
 
-// A list or menu that hangs open keeps its keys.
+// True for F1, except in an open list or menu, which keeps its keys.
 bool asksForHandbook(const QObject* watched, const QEvent* event) {
     if (event->type() != QEvent::KeyPress || !watched->isWidgetType()) return false;
     const auto* key = static_cast<const QKeyEvent*>(event);
@@ -29,12 +29,12 @@ void openHandbook(const QWidget* focused, const QKeyEvent& key) {
     if (!key.isAutoRepeat()) runEvent([&] { modHandbuch::ZeigeHandbuch(focused); });
 }
 
-/// The last box of the program. After the end a box ends the routine that shows it.
+/// Shows the last message box of the program. It comes after the end, so MsgBox() throws ProgramEnded.
 void tellMissingCopy() {
     try {
         MsgBox(modSicherung::Fehlschlag(), vbExclamation);
     } catch (const ProgramEnded&) {
-        // The rest of the end follows.
+        // Caught here, so that the rest of the end follows.
     }
 }
 
@@ -75,7 +75,7 @@ void Program::start() {
 void Program::finish() {
     if (!m_running) return;
     letGo();
-    // A start that came to nothing has told its reason, and nothing was written.
+    // Without a login the start has failed: it has shown its reason already, and nothing was written.
     if (!modSicherung::SichereDatenbank() && session().Angemeldet) tellMissingCopy();
     Q_EMIT ended();
 }
@@ -97,12 +97,14 @@ void Program::letGo() {
     session().AktDatenbank = Database();
 }
 
-/// What an error has left is not worth a copy: the next end without one makes it.
+/// Ends the program over an error that no handler caught. Makes no copy of the file after an error: the next
+/// normal end makes one.
 void Program::fail(const RuntimeError& error) {
     if (!m_running) return;
     MsgBox(u"Laufzeitfehler '%1':\r\n\r\n%2"_qs.arg(error.number).arg(error.description), vbCritical);
-    // A start that fails over a damaged page would fail again each time, and never reach the menu. What was
-    // met after it may have been repaired from there, and has nothing to do with another error.
+    // Damage found at the start calls for the repair after any error: each start would fail and never reach
+    // the menu with the repair. Damage found later does not: it may be repaired already, and need not be the
+    // cause of this error.
     const bool atStart = session().Beschaedigt && !session().Angemeldet;
     const bool damaged = atStart || error.is(RuntimeError::damagedFile);
     if (damaged && session().AktDatenbank.isOpen()) runEvent([] { modStart::RepariereAufWunsch(); });

@@ -4,8 +4,8 @@
 
 #include <QObject>
 
-/// One life of the program over one program folder, from the start-up to its end. The clock, the boxes and
-/// what else stands around the program are put in force by whoever makes it.
+/// One run of the program in one program folder, from the start-up to the end. Before start() set the clock,
+/// the message boxes, the print dialogs and the office programs.
 class Program : public QObject {
     Q_OBJECT
 
@@ -15,22 +15,22 @@ public:
 
     static Program& current();
 
-    /// Runs the start-up to the point where it waits for the user, or to its failure.
+    /// Runs the start-up until it waits for the user or fails.
     void start();
     bool isRunning() const { return m_running; }
-    /// Ends the program: every screen goes, the database file is let go and copied into the folder for that.
-    /// Safe from within any handler. A box says so if the copy could not be made.
+    /// Ends the program: removes every screen, closes the database file and copies it into the folder of
+    /// copies. Shows a message box if the copy could not be made. May be called from any handler.
     void finish();
-    /// As above without the box, where nobody is left to read it: the desktop ends the session.
+    /// As finish(), but without the message box. For the end of the desktop session, when no user can read
+    /// it.
     void finishUnseen();
 
 Q_SIGNALS:
     void ended();
 
 protected:
-    /// The desktop may end the application while a box waits for its answer. The program then ends first, so
-    /// that no routine takes the closing of its box for one. And F1 opens the handbook wherever it is
-    /// pressed.
+    /// Ends the program first if the desktop ends the application, even while a message box waits: otherwise
+    /// its routine would take the closing of the message box for an answer. Opens the handbook on F1.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:

@@ -1,6 +1,6 @@
 #pragma once
 
-/// The end of the session.
+/// The end of the program by the menu.
 namespace modEnde {
 
 /// Closes the database and unloads the screens.

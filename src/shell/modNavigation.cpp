@@ -85,12 +85,12 @@ void hideIfLoaded() {
     if (isLoaded<T>()) screen<T>().Hide();
 }
 
-/// A preview that the user leaves by the bar is closed, so that its list is left as any other.
+/// Closes the preview when the user leaves it by the bar, so that its list is left like any other screen.
 void schliesseVorschau() {
     if (isLoaded<Vorschau>() && Stage::current()->front() == &screen<Vorschau>()) unload<Vorschau>();
 }
 
-/// Makes the item the current one, binds its screen and shows that.
+/// Makes the item the current one, then binds and shows its screen.
 void showScreen(const QString& key) {
     Screen& target = find(key)->screen();
     session().AktBarItem = screen<Main>().ButtnBar->item(key);
@@ -152,7 +152,7 @@ void zeigeBereich(const QString& key) {
 void zeigeErstesFenster() {
     NavigationBar* bar = screen<Main>().ButtnBar;
     if (bar->item(u"Fangbuch"_qs)) return showScreen(u"Fangbuch"_qs);
-    // A user without the right to the catch book begins on the first screen he has, or on an empty frame.
+    // A user without the right to the catch book begins on his first screen, or in an empty frame.
     for (BarGroup* group : {session().GruppeOrganisation, session().GruppeSystem})
         if (!group->items().isEmpty()) return zeigeBereich(group->items().first()->key());
 }

@@ -11,18 +11,18 @@ namespace modNavigation {
 
 /// Builds the two groups of the bar.
 void InitButtnBar();
-/// Takes all items away: nobody is logged in.
+/// Removes all items. Call when no user is logged in.
 void LeereButtnBar();
-/// Gives the item the screen's window to keep track of; showing the screen is a separate step.
+/// Gives the item the screen's window. Does not show the screen.
 void binde(BarItem* item, Screen& screen);
 /// Shows in the bar to which item the screen in front belongs, whichever way it came there. One of no item,
 /// such as a preview, changes nothing.
 void markiere(NavigationBar& bar, const Screen* front);
 /// Hides every screen that can be behind the bar.
 void VersteckeFormen();
-/// A click on the item of this key: all screens are hidden and its own is shown.
+/// Does what a click on the item of this key does: hides all screens and shows the item's own.
 void zeigeBereich(const QString& key);
-/// After the start-up: the catch book, or the first screen that the user's rights leave.
+/// Shows the first screen after the start-up: the catch book, or the first one that the user may open.
 void zeigeErstesFenster();
 
 } // namespace modNavigation

@@ -2,15 +2,16 @@
 
 #include <QString>
 
-/// Copies of the database file, beside it, for the day on which it is lost.
+/// Copies of the database file, in a folder beside it, in case the file is lost.
 namespace modSicherung {
 
-/// Copies the file into that folder, which is made if missing, if the file has changed since the last copy.
-/// Asks nothing and shows nothing. True if the copy was made or not needed, false if it could not be made.
+/// Copies the file into the folder if it has changed since the last copy. Makes the folder if it is missing.
+/// Shows no message box. False if the copy could not be made; true if it was made or not needed.
 bool SichereDatenbank();
-/// The words for that.
+/// The text that reports a failed copy.
 QString Fehlschlag();
-/// False if the copy before could not be finished and the open database is damaged: nobody has been told yet.
+/// False if the last copy could not be finished and the open database is damaged. The user has not been told
+/// of this yet.
 bool DatenbankIstHeil();
 
 } // namespace modSicherung

@@ -51,8 +51,8 @@ void tellEnd(const QString& text, const QString& title = u"Uferwart"_qs) {
     unload<Main>();
 }
 
-/// Nobody is logged in then, whatever comes of it: the frame stands open with an empty bar, and the user
-/// starts the program again.
+/// Offers the repair. Repaired or not, no user is logged in afterwards: the frame is open with an empty bar,
+/// and the user starts the program again.
 void askForRepair() {
     unload<::Login>();
     modNavigation::LeereButtnBar();
@@ -76,13 +76,13 @@ void startFailed(const RuntimeError& error) {
     }
 }
 
-/// The bar's item goes, whether or not it is still there.
+/// Removes an item of the bar, if it is still there.
 void removeItem(BarGroup* group, const QString& key) {
     session().AktBarItem = group->item(key);
     group->removeItem(key);
 }
 
-/// A picture that nobody has had time to see would be none: waits until the window system has put it up.
+/// Shows the start-up picture and waits until the window system has painted it.
 void zeigeEroef() {
     constexpr int longestMilliseconds = 300;
     Eroef& picture = screen<Eroef>();
@@ -151,7 +151,7 @@ void Anmelden() {
     ::Login& form = screen<::Login>();
     if (form.txtBenutzer->Text().isEmpty()) return form.txtBenutzer->setFocus();
     if (Login(form.txtBenutzer->Text(), form.txtPassw->Text())) return continueAfterLogin();
-    // Where the users themselves are damaged nobody would get as far as the menu with the repair.
+    // If the table of users is damaged, no user would get as far as the menu with the repair.
     if (session().Beschaedigt) return askForRepair();
     form.txtBenutzer->setText(QString());
     form.txtPassw->setText(QString());
@@ -198,7 +198,7 @@ void WendeRechteAn(const Recordset& gruppe) {
 
 void SetzeDatumsVariablen() {
     const QDate date = today();
-    // The week of the names begins on Sunday.
+    // WochentagName() counts from Sunday.
     session().AktWochentag = modRun::WochentagName(date.dayOfWeek() % 7 + 1);
     session().AktTag = static_cast<qint16>(date.day());
     session().AktMonat = modRun::ErmittleMonatsname(date.month());

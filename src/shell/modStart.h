@@ -7,24 +7,25 @@
 /// The start of the program, from the loading of the frame to the catch book in front.
 namespace modStart {
 
-/// The load of the frame: opens the database, builds the bar and shows the login, or tells why not.
+/// Opens the database, builds the bar and shows the login, or shows why it can't. Called by the load of the
+/// frame.
 void StarteUferwart();
 
-/// Asks whether the database is to be repaired, and does so; false if the user doesn't want it.
+/// Asks whether to repair the database, and repairs it. False if the user declines.
 bool RepariereAufWunsch();
-/// First sizes of the frame and of the bar.
+/// Sets the first sizes of the frame and of the bar.
 void SetzeFensterGroesse();
 
-/// The step behind the OK of the login; on a valid login the start-up goes on.
+/// Handles the OK button of the login. After a valid login the start-up goes on.
 void Anmelden();
-/// Checks name and password; on success also writes the status bar and applies the rights.
+/// Checks name and password. On success also writes the status bar and applies the rights.
 bool Login(const QString& name, const QString& passwort);
-/// Takes away what the user's group may not use; `gruppe` is the open cursor on its row.
+/// Removes the items and menus that the user's group may not use. `gruppe` must be open at the group's row.
 void WendeRechteAn(const Recordset& gruppe);
 
-/// Day, month and year of today.
+/// Stores day, month and year of today in the session.
 void SetzeDatumsVariablen();
-/// Compares the calendar year with the fishing year of the parameters; false means the program is to end.
+/// Compares the calendar year with the fishing year of the parameters. False if the program must end.
 bool KontrolliereSystemJahr();
 /// Fills all grids of all screens, once.
 void LadeStammdaten();

@@ -50,15 +50,15 @@ void schalteZurueck(qint32 altesJahr) {
     modArbeit::Ueberpruefe_auf_Uebertrag(altesJahr);
 }
 
-/// True if the new year stands in the record.
+/// Writes the new year into the record; true if it could be saved.
 bool schreibeJahr(ErrorTail& step, Recordset& system) {
     step([&] { system.Edit(); });
     step([&] { system.Collect(u"FJahr"_qs, qint32(session().AktJahr)); });
     return step([&] { system.Update(); });
 }
 
-/// The year that the record has been changed from; nothing if it could not be changed. The rest of the change
-/// is then left for the next start, which asks again: done now, it would be done twice.
+/// Writes the new year and returns the old one, or nothing if it could not be written. Then the caller must
+/// leave out the rest of the change: the next start asks again, and would do it a second time.
 std::optional<qint32> uebernehmeJahr(ErrorTail& step, Recordset& system, std::optional<Transaction>& change) {
     qint32 altesJahr = 0;
     step([&] { altesJahr = CLng(system.Collect(u"FJahr"_qs)); });
@@ -67,7 +67,7 @@ std::optional<qint32> uebernehmeJahr(ErrorTail& step, Recordset& system, std::op
     return altesJahr;
 }
 
-/// False if the user would rather not go on without a copy of the old year.
+/// Copies the database. False if that failed and the user does not want to go on without a copy.
 bool istGesichert() {
     if (modSicherung::SichereDatenbank()) return true;
     session().MsgAntwort = MsgBox(modSicherung::Fehlschlag() +
@@ -76,7 +76,8 @@ bool istGesichert() {
     return session().MsgAntwort == vbYes;
 }
 
-/// What belongs to a year is written together or, when the program is ended in the middle, not at all.
+/// Changes the year in one transaction, so that all of it is written or, if the program is ended in the
+/// middle, nothing.
 void wechsleJahr(ErrorTail& step, bool& result) {
     Recordset system;
     step([&] { system = oeffneTabelle(u"System"_qs); });
@@ -101,7 +102,7 @@ bool KontrolliereSystemJahr() {
             if (system.RecordCount() == 0) session().Beschaedigt = true;
         });
         step([&] { fangjahr = CInt(system.Collect(u"FJahr"_qs)); });
-        // Closed before the question: who thinks about it must not keep others from saving.
+        // Closed before the question, so that a user who takes his time does not keep others from saving.
         step([&] { system.Close(); });
         result = fangjahr == session().AktJahr;
         if (!result && frageNachSystemjahr() == vbYes && istGesichert()) wechsleJahr(step, result);
