@@ -11,7 +11,8 @@ namespace {
 constexpr qint32 fee = 65;
 constexpr qint32 duty = 12;
 
-/// The cursor that has written first and stays open: the club is in the file when it is closed, not before.
+/// Writes the club's name and address. The returned cursor has written first: keep it open until the end,
+/// since closing it commits the whole club.
 Recordset describeClub(Database& database) {
     Recordset club = database.OpenRecordset(QStringLiteral("System"), dbOpenTable);
     club.Edit();

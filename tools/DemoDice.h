@@ -4,14 +4,14 @@
 #include <cstddef>
 #include <random>
 
-/// The same throws on every machine: the standard fixes the engine's numbers, but not those of its
-/// distributions.
+/// Random numbers, the same on every machine. Uses no standard distributions: the standard fixes the numbers
+/// of the engine, but not theirs.
 class DemoDice {
 public:
     explicit DemoDice(quint32 seed)
         : m_engine(seed) {}
 
-    /// 0 to count - 1
+    /// 0 to `count` - 1
     int below(int count) { return static_cast<int>(m_engine() % static_cast<quint32>(count)); }
     int between(int low, int high) { return low + below(high - low + 1); }
     bool chance(int percent) { return below(100) < percent; }

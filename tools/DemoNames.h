@@ -4,8 +4,8 @@
 
 class DemoDice;
 
-/// Lists from which the demo club's people are drawn. All of it is invented: towns, streets and banks don't
-/// exist, the telephone numbers are from the ranges kept free for films.
+/// Lists of names for the demo club. Towns, streets and banks are invented; the telephone numbers are from
+/// the ranges kept free for films.
 namespace DemoNames {
 
 const char16_t* surname(DemoDice& dice);
@@ -30,7 +30,7 @@ struct Firm {
     const char16_t* name;
     const char16_t* note;
 };
-/// Firms, authorities, newspapers and neighbours, category after category.
+/// Firms, authorities, newspapers and neighbours, ordered by category.
 std::span<const Firm> firms();
 
 /// Offices of the club's board.

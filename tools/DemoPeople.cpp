@@ -31,7 +31,7 @@ Value dateValue(QDate date) { return date.isValid() ? Date::fromQDate(date) : Da
 
 QDate someDay(DemoDice& dice, int year) { return {year, dice.between(1, 12), dice.between(1, 28)}; }
 
-/// A name that nobody has yet: the search for a member is by name.
+/// Gives the person a name not used so far, since members are searched by name.
 void name(Person& person, DemoDice& dice, QSet<QString>& taken) {
     QString whole;
     do {
@@ -54,7 +54,7 @@ Person adult(DemoDice& dice, int year, bool active) {
     Person person = somebody(dice, year, 20, 84);
     const int age = year - person.born.year();
     const int yearsIn = std::min(dice.below(age - 12), dice.below(age - 12));
-    // Everybody joins at the turn of the year, after the general meeting or at the summer party.
+    // Members join at the turn of the year, or between the general meeting and the summer party.
     person.joined = QDate(year - std::min(yearsIn, 60), dice.chance(60) ? 1 : dice.between(3, 7), 1);
     person.active = active;
     person.exempt = !active || age >= 70;
@@ -87,7 +87,7 @@ QVector<Person> everybody(DemoDice& dice, int year) {
     return people;
 }
 
-/// The board: members of middle age, freed from work hours.
+/// Chooses the board: members of middle age, exempt from work hours.
 void elect(QVector<Person>& people, int year) {
     auto candidate = people.begin();
     for (const char16_t* office : DemoNames::offices()) {

@@ -6,14 +6,15 @@
 class Database;
 class DemoDice;
 
-/// What the work hours need to know of a member.
+/// The part of a member that addWork() needs.
 struct DemoMember {
     qint32 number = 0;
     bool exempt = false;
     QDate joined;
-    QDate left; ///< invalid while he is in the club
+    QDate left; ///< invalid while the member is in the club
 };
 
-/// Adds the members, the longest-standing first, and the contacts of the other categories.
+/// Adds the members, those with the longest membership first.
 QVector<DemoMember> addMembers(Database& database, DemoDice& dice, int year);
+/// Adds the contacts of the other categories.
 void addFirms(Database& database, DemoDice& dice);

@@ -24,7 +24,7 @@ struct Fish {
     int frequency; ///< share among the catches
 };
 
-// The seasons leave out the close seasons; what bites all year has 1 to 12.
+// Seasons are without the close seasons; fish caught all year have 1 to 12.
 constexpr Fish fishes[] = {
     {u"Karpfen", u"Entnahmefenster 40 bis 65 cm", Still, 1400, 9800, 2, 3, 11, 14},
     {u"Schleie", u"Mindestmaß 28 cm", Still, 450, 1900, 3, 5, 10, 9},
@@ -119,7 +119,7 @@ int waterFor(DemoDice& dice, const Fish& fish) {
 qint32 weightOf(DemoDice& dice, const Fish& fish, int count) {
     qint32 grams = 0;
     for (int i = 0; i < count; ++i) {
-        // The smaller of two throws: big fish are rare.
+        // The smaller of two random numbers, since big fish are rare.
         const int range = fish.heaviest - fish.lightest;
         grams += fish.lightest + std::min(dice.below(range), dice.below(range));
     }

@@ -5,7 +5,7 @@
 class Database;
 class DemoDice;
 
-/// Numbers of the fish and of the waters, in the order of the lists they were made from.
+/// The numbers that the store gave the fish and the waters, in the order of the lists in DemoWaters.cpp.
 struct DemoWaters {
     QVector<qint32> fish;
     QVector<qint32> waters;

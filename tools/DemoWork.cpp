@@ -14,7 +14,7 @@ struct WorkDay {
     const char16_t* task;
 };
 
-// Days of the month from which the next Saturday is looked for.
+// The work day is the first Saturday from this day of the month on.
 constexpr WorkDay workDays[] = {
     {2, 14, u"Schilfschnitt am Rohrdommelweiher"},
     {3, 8, u"Frühjahrsputz an allen Gewässern"},
@@ -36,7 +36,7 @@ QDate saturdayFrom(int year, const WorkDay& workDay) {
     return from.addDays((Qt::Saturday - from.dayOfWeek() + 7) % 7);
 }
 
-/// Writes the bookings and keeps each member's sum of the year.
+/// Writes the bookings and adds up each member's hours of the year.
 class Ledger {
 public:
     Ledger(Database& database, DemoDice& dice)
@@ -67,7 +67,7 @@ public:
     double sumOfLastYear(const DemoMember& member) const { return m_lastSums.value(member.number); }
 
 private:
-    /// Some always come, some hardly ever; it lies in the person.
+    /// Depends on the member: some come often, some hardly ever.
     bool comes(const DemoMember& member) { return m_dice.chance(10 + member.number * 7 % 40); }
 
     void book(const DemoMember& member, QDate date, double hours, const QString& note) {
@@ -94,7 +94,7 @@ void addWork(Database& database, DemoDice& dice, const QVector<DemoMember>& memb
         ledger.beginYear(workYear);
         for (const DemoMember& member : members) {
             if (member.exempt || member.joined.year() >= workYear) continue;
-            // The bookings before the first year are not in the file, their balances are.
+            // Of the years before the first one the file has balances, but no bookings.
             const double sum =
                 workYear == year - 2 ? duty + dice.between(-12, 12) / 2.0 : ledger.sumOfLastYear(member);
             ledger.carryOver(member, sum - duty);

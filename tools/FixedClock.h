@@ -2,7 +2,7 @@
 
 #include "Clock.h"
 
-/// Stands still at noon of one day. It is the program's clock while it lives.
+/// A clock that always shows noon of one day. The program's clock from construction to destruction.
 class FixedClock final : public Clock {
 public:
     FixedClock()

@@ -13,7 +13,7 @@ namespace {
 
 constexpr const char16_t* password = u"qx-1987-nkr";
 
-/// What has been made so far; goes again unless it is kept.
+/// The folders and files made so far. The destructor removes them unless keep() was called.
 class Beginnings {
 public:
     Beginnings() = default;
@@ -24,7 +24,7 @@ public:
         for (auto folder = m_folders.rbegin(); folder != m_folders.rend(); ++folder) QDir().rmdir(*folder);
     }
 
-    /// Makes a folder and those above it, as far as they are missing.
+    /// Makes a folder and the folders above it if they are missing.
     void makeFolder(const QString& path) {
         if (QFileInfo::exists(path)) return;
         makeFolder(QFileInfo(path).path());
@@ -53,7 +53,7 @@ void copyPicture(const QString& target, Beginnings& beginnings) {
         throw runtimeError(RuntimeError::fileNotMade, target);
     }
     beginnings.made(target);
-    // What comes out of the program's resources is write-protected.
+    // A file copied from the resources is write-protected.
     QFile::setPermissions(target, QFile::permissions(target) | QFile::WriteOwner);
 }
 
@@ -66,7 +66,8 @@ void fillDatabase(const QString& path, int year) {
 
 } // namespace
 
-// A library's resources are only linked in when somebody names them, and that works outside a namespace only.
+// The linker drops a static library's resources unless this macro names them. The macro does not work inside
+// a namespace.
 static void linkPictures() { Q_INIT_RESOURCE(programfolder); }
 
 void makeProgramFolder(const QString& folder, int year, bool demo) {

@@ -1,7 +1,7 @@
 #include <QGuiApplication>
 
-// Ends with 0 if a window could be opened here. Where there is no display Qt aborts in its constructor, so
-// only a program of its own can find that out.
+// Exits with 0 if Qt could open a window here. Without a display Qt aborts in its constructor, so only a
+// separate program can test it.
 int main(int argc, char* argv[]) {
     const QGuiApplication application(argc, argv);
     return 0;

@@ -8,7 +8,7 @@ namespace {
 
 constexpr int sizes[] = {16, 22, 24, 32, 48, 64, 128, 256, 512};
 
-/// Writes FOLDER/NxN/apps/NAME.png; false if the picture can't be read or the file not written.
+/// Writes FOLDER/NxN/apps/NAME.png; false if the picture can't be read or the file can't be written.
 bool drawInSize(const QString& picture, const QString& folder, int size) {
     QImageReader reader(picture);
     reader.setScaledSize({size, size});
@@ -21,7 +21,7 @@ bool drawInSize(const QString& picture, const QString& folder, int size) {
 
 } // namespace
 
-// icon-sizes PICTURE FOLDER: draws an icon in the sizes that menus and docks ask for.
+// icon-sizes PICTURE FOLDER: draws an icon in the sizes that menus and docks use.
 int main(int argc, char* argv[]) {
     const QCoreApplication application(argc, argv);
     const QStringList words = QCoreApplication::arguments();
