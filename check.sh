@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# What must hold before a commit: format, build, lint of what has changed, tests.
+# Checks a tree before a commit: format, build, lint of the changed files, tests.
 # usage: ./check.sh [full]   (full: lint of all files, and the tests once more under the sanitizers)
 set -euo pipefail
 # shellcheck source=tools/setup.sh
@@ -16,15 +16,15 @@ check_format() {
     (cd "$top" && xargs -0 --no-run-if-empty clang-format --dry-run -Werror)
 }
 
-# clang-tidy reads the compiler's own command lines; an option or a precompiled header that only g++ knows would
-# stop it.
+# Copies the compiler's command lines for clang-tidy, without the option and the precompiled header that only g++
+# knows: they would stop clang-tidy.
 lint_database() {
   mkdir -p "$top/build/lint"
   sed -E -e 's/ -mno-direct-extern-access//g; s/ -Winvalid-pch -include [^ ]+cmake_pch\.hxx//g' \
     "$top/build/release/compile_commands.json" >"$top/build/lint/compile_commands.json"
 }
 
-# Sources that differ from what has landed, or all of them.
+# The sources that differ from origin/main (or from HEAD if there is none); with "full" all sources.
 sources_to_lint() {
   if [ "$1" = full ]; then
     git -C "$top" ls-files 'src/*.cpp' 'tools/*.cpp'

@@ -11,7 +11,7 @@ usage: ./run.sh [demo]
   ./run.sh        builds the program, makes the folder programm/ if there is none yet, starts the program there
   ./run.sh demo   the same in programm-demo/, with an invented club to look at
 
-Without a display it plays the tour instead and leaves its pictures in bilder/.
+Without a display it runs the tour instead, a scenario, and leaves the pictures in bilder/.
 TXT
 }
 
@@ -22,7 +22,7 @@ case $#:${1:-} in
   *) usage >&2 && exit 2 ;;
 esac
 
-# True if Qt can open a window here; it ends with an abort if not.
+# True if Qt can open a window here. If not, display-probe aborts.
 display_reachable() {
   [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ] || return 1
   case ${QT_QPA_PLATFORM:-} in offscreen* | minimal*) return 1 ;; esac
@@ -31,7 +31,7 @@ display_reachable() {
 
 play_tour() {
   local tour=$top/tests/scenarios/rundgang.txt pictures=$top/bilder begun=$top/build/tour-begun
-  say "No display here: playing the tour without one, with its pictures in bilder/"
+  say "No display here: running the tour without one, with pictures in bilder/"
   : >"$begun"
   "$top/tests/play" --keep "$pictures" "$tour"
   say "Pictures of the tour:"

@@ -11,8 +11,8 @@ namespace {
 constexpr qint32 fee = 65;
 constexpr qint32 duty = 12;
 
-/// Writes the club's name and address. The returned cursor has written first: keep it open until the end,
-/// since closing it commits the whole club.
+/// Writes the club's parameters. The returned cursor has written first: keep it open until the end, since
+/// closing it commits the whole club.
 Recordset describeClub(Database& database) {
     Recordset club = database.OpenRecordset(QStringLiteral("System"), dbOpenTable);
     club.Edit();

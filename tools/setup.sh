@@ -1,6 +1,6 @@
 # shellcheck shell=bash disable=SC2034
-# What run.sh, test.sh, check.sh and the benchmarks share: packages, configured build folder, build.
-# To be sourced. Exit codes: 2 wrong arguments, 3 another platform, 4 packages could not be installed.
+# Functions for run.sh, test.sh, check.sh, the benchmarks and others: packages, configured build folder, build.
+# Source it. Exit codes: 2 invalid arguments, 3 unknown platform, 4 packages could not be installed.
 
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
@@ -22,13 +22,13 @@ build_packages=(
 test_packages=(sqlcipher appstream desktop-file-utils libglib2.0-bin)
 lint_packages=(clang-format clang-tidy)
 
-# A field of the file by which a system tells its name.
+# os_release FIELD: prints a field of /etc/os-release.
 os_release() {
   local file=${UFERWART_OS_RELEASE:-/etc/os-release}
   [ ! -r "$file" ] || sed -n "s/^$1=//p" "$file" | tr -d "\"'"
 }
 
-# Stops with a message where the package names above are not known to hold.
+# Stops with a message on a platform on which the package names above may be wrong.
 require_platform() {
   local id version
   id=$(os_release ID)
@@ -43,7 +43,7 @@ require_platform() {
     "SQLCipher, libzip and GoogleTest, then run: cmake --preset release && cmake --build --preset release"
 }
 
-# Prints those of the packages that are not installed.
+# not_installed PACKAGE...: prints the packages that are not installed.
 not_installed() {
   local package
   for package; do
@@ -71,7 +71,7 @@ as_root() {
   fi
 }
 
-# ensure_packages PACKAGE...: installs what is missing; says and does nothing when nothing is.
+# ensure_packages PACKAGE...: installs the missing packages. Silent, and without network, if none is missing.
 ensure_packages() {
   local missing
   mapfile -t missing < <(not_installed "$@")
@@ -84,7 +84,7 @@ ensure_packages() {
     fail 4 "these packages could not be installed: ${missing[*]}"
 }
 
-# configure PRESET: once; CMake itself notices later changes when Ninja runs.
+# configure PRESET: does nothing for a configured folder, since Ninja runs CMake again after changes.
 configure() {
   [ -f "$top/build/$1/build.ninja" ] && return
   local launcher=()
@@ -102,7 +102,7 @@ build() {
   NINJA_STATUS='[%f/%t %es] ' cmake --build "$top/build/$preset" --parallel "$(nproc)" ${1:+--target "$@"}
 }
 
-# The machine's language and screen must not change what a test sees.
+# Fixes language, time zone and platform, so that tests do not depend on the machine's settings.
 settle_test_environment() {
   export QT_QPA_PLATFORM=offscreen QT_HASH_SEED=0 LC_ALL=C.UTF-8 TZ=UTC
   export XDG_RUNTIME_DIR=$top/build/runtime
