@@ -1,21 +1,21 @@
-# Part of the installing: brings along what the program needs and a desktop without Qt does not have, with the
-# licences of each. Which libraries those are is asked of the programs and plug-ins themselves.
-# Given: folder, programs (as built), qt_plugins, qt_translations, handbook.
+# Part of the installation: copies the files that the program needs and a desktop without Qt lacks, with their
+# licences. The libraries are those that the programs and plug-ins are linked to.
+# Variables to set before: folder, programs (as built), qt_plugins, qt_translations, handbook.
 
 cmake_minimum_required(VERSION 3.25)
 
-# The window systems, input of accents and other scripts, drawing of icons, and the printers.
+# For the window systems, the input of accents and other scripts, the drawing of icons, and the printers.
 set(plugins
     platforms/libqxcb.so platforms/libqoffscreen.so platforms/libqwayland-generic.so
     wayland-shell-integration/libxdg-shell.so wayland-decoration-client/libbradient.so
     platforminputcontexts/libcomposeplatforminputcontextplugin.so
     platforminputcontexts/libibusplatforminputcontextplugin.so
     iconengines/libqsvgicon.so imageformats/libqsvg.so printsupport/libcupsprintersupport.so)
-# Without these there is no start, no picture or no German.
+# Without these the program does not start or has no icons.
 set(required platforms/libqxcb.so platforms/libqoffscreen.so imageformats/libqsvg.so)
 
-# Every desktop has these, and they must fit its kernel, its drivers, its fonts and its printers. The rest is
-# brought along: also libOpenGL, which Qt is linked to and no desktop needs.
+# Not copied: every desktop has these, and they must fit its kernel, drivers, fonts and printers. All others are
+# copied, even libOpenGL: Qt is linked to it, but a desktop may lack it.
 set(left_to_the_machine
     "^ld-linux" "^lib(c|m|dl|rt|pthread|resolv|util|stdc\\+\\+|gcc_s|asan|ubsan)\\.so"
     "^lib(X11|X11-xcb|xcb|Xau|Xdmcp|Xext|bsd|md)\\.so" "^lib(GL|EGL|GLX|GLdispatch)\\.so"
@@ -26,10 +26,10 @@ set(left_to_the_machine
 set(fonts LiberationSans-Regular.ttf LiberationSans-Bold.ttf LiberationSans-Italic.ttf
           LiberationSans-BoldItalic.ttf ComicNeue-Regular.otf ComicNeue-Bold.otf)
 
-# What is brought along, as it is called on this machine.
+# The copied files by their paths on this machine.
 set(brought)
 
-# Under one name and never as a symbolic link, which a memory stick could not hold.
+# Copies a file to `name` in the folder. Follows symbolic links, since a memory stick could not hold them.
 function(bring file name)
   file(REAL_PATH "${file}" real)
   cmake_path(GET name PARENT_PATH place)
@@ -60,7 +60,7 @@ endforeach()
 bring("${qt_translations}/qtbase_de.qm" translations/qtbase_de.qm)
 
 foreach(font ${fonts})
-  # Of two generations of a font the newer one has the freer licence: "liberation2", which sorts behind.
+  # If there are two generations of a font, take the newer one for its freer licence: "liberation2" sorts last.
   file(GLOB candidates /usr/share/fonts/*/*/${font})
   list(SORT candidates ORDER DESCENDING)
   if(candidates)

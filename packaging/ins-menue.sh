@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Enters Uferwart into the menu of the user who runs it, or takes it out again.
+# Adds Uferwart to the menu of the user who runs this script, or removes it from there.
 set -euo pipefail
 
 folder=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd -P)
@@ -22,11 +22,11 @@ fail() {
   exit 1
 }
 
-# A text as the value of a key.
+# as_value TEXT: escapes a text as the value of a key in a .desktop file.
 as_value() { printf '%s' "${1//\\/\\\\}"; }
 
-# A path as what Exec starts: quoted, its percent signs no field codes, and all that as a value. GNOME looks for
-# the first word as it stands, and would not find one with a doubled percent sign.
+# as_command PATH: escapes a path as the value of Exec: quoted, with percent signs doubled, since single ones begin
+# field codes. GNOME looks for the first word without undoing this, so a path with a percent sign goes after "env".
 as_command() {
   local word=$1 sign
   for sign in \\ \" \` \$; do word=${word//"$sign"/"\\$sign"}; done
@@ -34,7 +34,7 @@ as_command() {
   as_value "\"${word//%/%%}\""
 }
 
-# The delivered entry with the paths of this folder.
+# Prints the delivered menu entry with the paths of this folder.
 menu_entry() {
   local line
   while IFS= read -r line; do
@@ -51,7 +51,7 @@ menu_entry() {
 
 icons() { (cd "$folder/share" && find icons -type f -name 'uferwart.*'); }
 
-# Most menus notice by themselves; the rest reads a cache, or looks at the age of the icon folder.
+# Most menus notice the change. Others read a cache, or check the time of the icon folder.
 tell_menu() {
   if command -v update-desktop-database >/dev/null; then
     update-desktop-database -q "$data/applications" || true
@@ -59,8 +59,8 @@ tell_menu() {
   if [ -d "$data/icons/hicolor" ]; then touch "$data/icons/hicolor"; fi
 }
 
-# A file that nobody has written to is made anew with this year, so that the first login does not begin with a
-# change of the year. As soon as there is anything in it, the checksum is another one, and the file stays.
+# Replaces an unused database by one of this year, so that the first login does not begin with a change of the
+# year. The checksum shows that the database is unused; a database with data stays.
 renew_untouched_file() {
   (cd "$folder" && sha256sum --check --status share/uw01.mdb.sha256) 2>/dev/null || return 0
   local made
@@ -83,7 +83,7 @@ enter() {
 
 take_out() {
   [ -e "$entry" ] || fail 'Im Menü steht kein Uferwart.'
-  # An entry whose program is gone belongs to nobody: its folder has been moved or deleted.
+  # If the program of the entry is gone, its folder was moved or deleted: then any copy may remove the entry.
   local icon owner
   owner=$(sed -n 's/^Path=//p' "$entry")
   owner=${owner//\\\\/\\}

@@ -1,5 +1,5 @@
-# Included by bundle.cmake: puts the licence of each package that a file in `brought` comes from into the
-# folder `Lizenzen`, with the long texts that it refers to and a list of the sources.
+# Included by bundle.cmake. Finds the packages of the files in `brought` and writes their licences into the folder
+# `Lizenzen`, with the long texts that they refer to and a list of the sources.
 
 find_program(dpkg_query dpkg-query)
 if(NOT dpkg_query)
@@ -10,7 +10,7 @@ endif()
 set(licences "${folder}/Lizenzen")
 file(MAKE_DIRECTORY "${licences}")
 
-# A package may have registered its files by the names of before /lib became a part of /usr.
+# A package may list its files by the old names, from before /lib became a part of /usr.
 list(TRANSFORM brought REPLACE "^/usr/lib/" "/lib/" OUTPUT_VARIABLE old_names)
 execute_process(COMMAND ${dpkg_query} -S ${brought} ${old_names} OUTPUT_VARIABLE owners ERROR_QUIET)
 string(REGEX MATCHALL "[^\n]+" owners "${owners}")
@@ -23,7 +23,7 @@ execute_process(COMMAND ${dpkg_query} -W -f "\${source:Package} \${source:Versio
 string(REGEX MATCHALL "[^\n]+" sources "${sources}")
 list(SORT sources)
 
-# The packages of one source share its licence.
+# One licence for each source, since its packages share it.
 set(list_of_sources)
 set(long_texts)
 foreach(entry ${sources})
