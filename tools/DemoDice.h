@@ -4,8 +4,8 @@
 #include <cstddef>
 #include <random>
 
-/// Random numbers, the same on every machine. Uses no standard distributions: the standard fixes the numbers
-/// of the engine, but not theirs.
+/// Random numbers, the same on every machine. Uses none of the standard's distributions: the standard fixes
+/// the numbers of the engine, but not those of a distribution.
 class DemoDice {
 public:
     explicit DemoDice(quint32 seed)
