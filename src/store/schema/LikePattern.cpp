@@ -37,7 +37,8 @@ LikePattern::LikePattern(const QString& pattern) {
     }
 }
 
-/// Reads from behind the bracket to the closing one and returns the place of that.
+/// Reads a class from `start`, the place behind its opening bracket. Returns the place of the closing
+/// bracket.
 qsizetype LikePattern::readClass(const QList<uint>& signs, qsizetype start) {
     const qsizetype end = signs.indexOf(U']', start);
     if (end < 0) throw runtimeError(RuntimeError::badPattern);
@@ -53,7 +54,7 @@ qsizetype LikePattern::readClass(const QList<uint>& signs, qsizetype start) {
         element.ranges.push_back({first, isRange ? foldedCharacter(signs[i + 2]) : first});
         i += isRange ? 3 : 1;
     }
-    // An empty pair of brackets stands for nothing at all.
+    // Empty brackets match no character: "a[]b" matches "ab".
     if (end > start) m_elements.push_back(std::move(element));
     return end;
 }
@@ -74,7 +75,7 @@ bool LikePattern::accepts(const Element& element, char32_t sign) {
     return listed != element.inverted;
 }
 
-/// On a mismatch the last "*" takes one sign more, so the work is at most text times pattern.
+/// On a mismatch the last "*" takes one character more, so the work is at most text times pattern.
 template<typename Signs>
 bool LikePattern::matchesSigns(const Signs& text, qsizetype size) const {
     const size_t none = m_elements.size();

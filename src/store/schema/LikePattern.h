@@ -4,14 +4,14 @@
 #include <QString>
 #include <vector>
 
-/// A pattern of the LIKE operator: "*" any signs, "?" one, "#" one digit, "[a-z]" one of these, "[!a-z]" one
-/// that is none of these. Matches without regard to case.
+/// A pattern of the LIKE operator: "*" any characters, "?" one, "#" one digit, "[a-z]" one of these, "[!a-z]"
+/// one other than these. Matches without regard to case.
 class LikePattern {
 public:
     /// Error 93 for a bracket that is not closed.
     explicit LikePattern(const QString& pattern);
 
-    /// Text in UTF-8.
+    /// `text` is UTF-8.
     bool matches(QByteArrayView text) const;
 
 private:

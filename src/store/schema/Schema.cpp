@@ -103,9 +103,9 @@ constexpr auto gruppenFields = std::to_array<FieldSpec>({
     {u"System", Boolean},
 });
 
-// The staging tables take over what a grid shows: names and months as texts, amounts as numbers that the
-// report formats and adds up. Only the weight of the stocking plan, of which there is no sum, is taken as the
-// text that stands there.
+// The staging tables take the values of a grid: names and months as texts, amounts as numbers, which the
+// report formats and adds up. Only the weight in the stocking plan, which is never added up, is taken as the
+// text shown.
 constexpr auto druckFanglisteFields = std::to_array<FieldSpec>({
     {u"FangNr", Long},
     {u"Name", Text},
@@ -116,7 +116,7 @@ constexpr auto druckFanglisteFields = std::to_array<FieldSpec>({
     {u"Gewicht", Long},
 });
 
-// A birthday that is not known is shown, and staged, as an empty text.
+// The birthday is a text: an unknown one is empty, as in the grid.
 constexpr auto druckMitglListFields = std::to_array<FieldSpec>({
     {u"KontaktNr", Long},
     {u"Nachname", Text},
@@ -175,8 +175,8 @@ struct IndexSpec {
     const char* target;
 };
 
-// What the routines ask for again and again. Lists are joined from the catch or the contact outward, so the
-// numbers that point from there to other tables need none.
+// Indexes for frequent searches. Joins start from the catch or the contact and find other tables' rows by
+// their primary keys, so the fields that hold those numbers need no index.
 constexpr auto indexes = std::to_array<IndexSpec>({
     {"FangJahrMonat", "\"Fang\"(\"FangJahr\", \"FangMonat\")"},
     {"ArbeitMitgliedJahr", "\"Arbeit\"(\"KNr\", \"Jahr\")"},
@@ -214,7 +214,7 @@ QByteArray columnDefinition(const TableSpec& table, const FieldSpec& field) {
     QByteArray definition = quotedName(field.name) + ' ' + columnType(field.kind);
     const bool isKey = table.keyed && &field == &table.fields.front();
     if (isKey && field.kind == Long) definition += " PRIMARY KEY";
-    // The one relation that is enforced, and in this direction only: the users go with their group.
+    // The only enforced relation, and in this direction only: deleting a group deletes its users.
     if (table.name == u"Benutzer" && field.name == u"GNr")
         definition += " REFERENCES \"Gruppen\"(\"GNr\") ON DELETE CASCADE";
     return definition;
@@ -227,7 +227,7 @@ QByteArray tableDefinition(const TableSpec& table) {
 }
 
 int TableSpec::fieldIndex(QStringView fieldName) const {
-    // A list on its way to paper asks this for each of its cells, so what differs in length is not compared.
+    // Called for each cell of a printed list, so names of another length are not compared.
     for (size_t i = 0; i < fields.size(); ++i) {
         const QStringView own = fields[i].name;
         const bool same = own.size() == fieldName.size() && own.compare(fieldName, Qt::CaseInsensitive) == 0;

@@ -1,7 +1,7 @@
 #pragma once
 
-// The names under which rewritten statements call what SQLite does not have. The dialect writes them, the
-// engine gives them their meaning.
+// Names of the collation and functions that SQLite lacks. The dialect writes them into statements;
+// engine::registerSqlFunctions() defines them.
 namespace sqlname {
 inline constexpr char textCollation[] = "uw_text";
 inline constexpr char like[] = "uw_like";

@@ -3,12 +3,11 @@
 #include <QByteArray>
 #include <QString>
 
-// Texts on their way into the file and out of it. What was written is read back sign for sign.
+// Conversion of texts to and from the file. A text is read back character for character.
 
-/// The text as a file can hold it: half of a pair of surrogates, which UTF-8 has no bytes for, becomes
-/// U+FFFD.
+/// The text with each lone surrogate replaced by U+FFFD, since UTF-8 has no bytes for it.
 QString storableText(const QString& text);
-/// UTF-8 of a storable text.
+/// storableText() in UTF-8.
 QByteArray storedBytes(const QString& text);
-/// Keeps a U+FEFF at the beginning, which is a sign like any other here.
+/// The text of UTF-8 bytes. Keeps a U+FEFF at the beginning, which Qt would drop as a byte order mark.
 QString storedText(QByteArrayView bytes);

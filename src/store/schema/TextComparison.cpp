@@ -25,7 +25,7 @@ char32_t baseLetter(char32_t c) {
     return parts.isEmpty() ? c : foldedCharacter(parts.front().unicode());
 }
 
-/// What decides first: the letters without their marks.
+/// The letters without their marks. They decide the order first.
 QList<char32_t> baseLetters(const QList<char32_t>& characters) {
     QList<char32_t> letters;
     letters.reserve(characters.size());
@@ -55,7 +55,8 @@ char32_t foldedCharacter(char32_t c) { return c < 0x80 ? foldedAscii(c) : QChar:
 int compareTexts(QByteArrayView a, QByteArrayView b) {
     const qsizetype common = std::min(a.size(), b.size());
     for (qsizetype i = 0; i < common; ++i) {
-        // A mark may belong to the letter before it, so the slow way starts over from the first sign.
+        // A combining mark may belong to the letter before it, so the slow comparison starts again at the
+        // first character.
         if (!isAscii(a[i]) || !isAscii(b[i])) return a == b ? 0 : compareAnyLetters(a, b);
         const int difference = static_cast<int>(foldedAscii(static_cast<unsigned char>(a[i]))) -
                                static_cast<int>(foldedAscii(static_cast<unsigned char>(b[i])));
