@@ -47,7 +47,7 @@ Operand ExpressionRewriter::read() {
     return readChain(u"OR", &ExpressionRewriter::readConjunction);
 }
 
-/// A number or a text alone is a comparison that was left unfinished.
+/// Fails for a number, date or text alone, which is an unfinished comparison.
 void ExpressionRewriter::requireTruth(const Operand& operand) const {
     if (operand.kind != FieldKind::Boolean && operand.kind != FieldKind::Untyped)
         m_reader.fail(RuntimeError::operatorExpected);
@@ -59,7 +59,7 @@ Operand ExpressionRewriter::readCondition() {
     return condition;
 }
 
-/// Writes a chain without brackets around each link, which the engine could not follow for long.
+/// Writes no brackets around the single links: SQLite refuses deeply nested brackets.
 Operand ExpressionRewriter::readChain(QStringView word, Part part) {
     Operand chain = (this->*part)();
     bool linked = false;
@@ -145,7 +145,7 @@ Operand ExpressionRewriter::fieldOperand(const FieldReference& reference) const 
         .sql = reference.sql, .kind = reference.field->kind, .bareField = reference.field->name.toString()};
 }
 
-/// The bracket behind the name has been read.
+/// Call when the name and its opening bracket have been read.
 Operand ExpressionRewriter::readAggregate(const QString& name) {
     const bool isCount = named(name, u"COUNT");
     const bool isSum = named(name, u"SUM");

@@ -6,10 +6,10 @@
 
 namespace dialect {
 
-/// Reads one expression of the dialect and writes it as the database engine understands it.
+/// Reads one expression of the dialect and rewrites it for SQLite.
 ///
-/// From the weakest to the strongest binding: OR; AND; comparison, LIKE; sign. It holds what the routines'
-/// statements hold and no more.
+/// From the weakest to the strongest binding: OR; AND; comparison and LIKE; plus or minus before a value.
+/// Knows only what the routines' statements use.
 class ExpressionRewriter {
 public:
     enum class Aggregates : quint8 { Allowed, Refused };
@@ -20,7 +20,7 @@ public:
         , m_aggregates(aggregates) {}
 
     Operand read();
-    /// As above for a condition, which is a comparison or a truth (3075).
+    /// As above for a condition. Error 3075 if it is neither a comparison nor a truth value.
     Operand readCondition();
 
 private:

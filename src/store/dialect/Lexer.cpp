@@ -10,7 +10,7 @@ namespace dialect {
 
 namespace {
 
-// Marks of the literals' kinds in the key. A statement cannot hold them: control characters are refused.
+// Marks in the key for the kinds of literals. No statement contains them, as control characters are refused.
 constexpr char16_t textMark = 1;
 constexpr char16_t longMark = 2;
 constexpr char16_t doubleMark = 3;
@@ -109,8 +109,8 @@ private:
         return place;
     }
 
-    /// A number may run into a word: in "2005AND" the number ends at the A, in "1E5" it does not end at the
-    /// E.
+    /// A word may follow a number without a space: in "2005AND" the number ends before the A. In "1E5" the E
+    /// is part of the number.
     void readNumber() {
         qsizetype end = digitsFrom(m_place);
         bool whole = true;
@@ -174,7 +174,7 @@ private:
         case u'>':
             return second == u'=' ? add(TokenKind::GreaterEqual, 2) : add(TokenKind::Greater, 1);
         case u'-':
-            // Two in a row would begin a comment for the database engine; the dialect has none.
+            // Two in a row would begin a comment in SQLite. The dialect has no comments.
             if (second != u'-') return add(TokenKind::Minus, 1);
             break;
         default:
@@ -188,7 +188,7 @@ private:
     QStringView m_source;
     LexedStatement& m_out;
     qsizetype m_place = 0;
-    qsizetype m_keyed = 0; ///< up to here the source stands in the key
+    qsizetype m_keyed = 0; ///< the source before this place is already in the key
 };
 
 } // namespace

@@ -31,7 +31,7 @@ enum class TokenKind : quint8 {
 
 struct Token {
     TokenKind kind = TokenKind::End;
-    /// Of a literal, its place among the literals.
+    /// Index in LexedStatement::literals, -1 if the token is no literal.
     int literal = -1;
     qsizetype start = 0;
     qsizetype length = 0;
@@ -41,17 +41,16 @@ struct Token {
 struct LexedStatement {
     std::vector<Token> tokens; ///< ends with an End token
     std::vector<Value> literals;
-    /// The statement with a mark for each literal that tells only its kind. Statements with the same key
-    /// differ in nothing but the literals' values.
+    /// The statement with each literal replaced by a mark of its kind. Statements with the same key differ
+    /// only in the values of their literals.
     QString key;
 };
 
-/// Cuts a statement into tokens. The buffers of `statement` are used again, so that a statement like the ones
-/// before costs no memory. Error 3075 for signs that the dialect does not know, for literals that do not end
-/// and for impossible dates.
+/// Cuts a statement into tokens. Reuses the buffers of `statement`, so that a statement similar to earlier
+/// ones allocates no memory. Error 3075 for unknown characters, unfinished literals and impossible dates.
 void lexStatement(QStringView source, LexedStatement& statement);
 
-/// The date between two number signs, written m/d/yyyy. Nothing if there is no such day.
+/// The date of a text m/d/yyyy, without the number signs around it. Empty if there is no such day.
 std::optional<Date> readDateLiteral(QStringView text);
 
 } // namespace dialect

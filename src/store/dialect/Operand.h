@@ -6,29 +6,29 @@
 
 namespace dialect {
 
-/// A rewritten expression and what is known of it.
+/// A rewritten expression and its properties.
 struct Operand {
     QByteArray sql;
     FieldKind kind = FieldKind::Untyped;
-    /// Holds an aggregate.
+    /// Whether it contains an aggregate.
     bool aggregate = false;
-    /// The first field that stands in it outside of any aggregate.
+    /// Its first field outside of any aggregate, empty if there is none.
     QString bareField = {};
 
     bool isText() const { return kind == FieldKind::Text; }
     bool isNumeric() const { return kind != FieldKind::Text && kind != FieldKind::Untyped; }
 };
 
-/// An operand that carries on what is known of both parts.
+/// An operand of this SQL and kind. The other properties come from its two parts.
 Operand joined(const Operand& left, const Operand& right, QByteArray sql, FieldKind kind);
 
-/// A comparison with one of the signs = <> < <= > >=. Error 3464 for a text beside a number.
+/// A comparison; `sign` is one of = <> < <= > >=. Error 3464 if one side is a text and the other a number.
 Operand compared(const Operand& left, const QByteArray& sign, const Operand& right);
-/// Error 3464 when one is known to be a text and the other to be none.
+/// Error 3464 if one is known to be a text and the other to be none.
 void requireComparable(const Operand& left, const Operand& right);
-/// The expression as one side of a comparison with texts, if it is one.
+/// The SQL for a comparison: a text gets our collation, anything else stays as it is.
 QByteArray collated(const Operand& operand);
-/// Truth as a number: True counts as -1 wherever a number is wanted, though the file holds 1.
+/// The SQL as a number. A truth value in the file is 1, but in the dialect True counts as -1.
 QByteArray asNumber(const Operand& operand);
 
 } // namespace dialect

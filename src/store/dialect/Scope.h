@@ -8,7 +8,7 @@
 
 namespace dialect {
 
-/// A table in a FROM clause under the name that the statement calls it by.
+/// A table in a FROM clause and its name in the statement.
 struct Source {
     const TableSpec* table;
     QString name;
@@ -21,8 +21,7 @@ struct FieldReference {
     const FieldSpec* field;
 };
 
-/// The tables whose fields a SELECT can name: its own and, for a sub-select, those of the statement around
-/// it.
+/// The tables whose fields a SELECT can name: its own and, in a sub-select, those of the outer statement.
 class Scope {
 public:
     explicit Scope(const Scope* outer)

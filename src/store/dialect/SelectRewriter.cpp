@@ -11,7 +11,7 @@ namespace {
 
 using Aggregates = ExpressionRewriter::Aggregates;
 
-// What the classic database allows, and far more than a screen asks for.
+// The limits of the classic database, far beyond any screen's statements.
 constexpr size_t mostColumns = 255;
 constexpr size_t mostTables = 32;
 
@@ -51,7 +51,7 @@ private:
     QByteArray m_where;
 };
 
-/// The tables stand behind the columns but must be known before them.
+/// Reads the tables before the columns, though they follow them: the columns need the tables' fields.
 void SelectRewriter::read() {
     m_reader.beginClause();
     m_reader.expectWord(u"SELECT", RuntimeError::noSelect);
@@ -124,7 +124,7 @@ void SelectRewriter::addFields(const Source& source) {
     }
 }
 
-/// What is no field has no name of its own and is numbered.
+/// Numbers the columns that are no fields, as these have no name of their own.
 void SelectRewriter::nameItems() {
     int unnamed = 1000;
     for (Item& item : m_items)
@@ -167,8 +167,8 @@ SelectPlan SelectRewriter::plan() const {
     }
     const Source& source = m_scope.sources().front();
     plan.editable = source.table;
-    // Walking along an index, the cursor would meet a row again whose place in it a change has moved ahead.
-    // In the order of the keys it cannot.
+    // In the order of an index, a row that a change has moved ahead would be met again. Row numbers prevent
+    // that.
     plan.sql = sql(source.alias + ".rowid, " + columns()) + " ORDER BY " + source.alias + ".rowid";
     return plan;
 }
@@ -193,7 +193,7 @@ void requireEnd(TokenReader& reader) {
 } // namespace
 
 SelectPlan rewriteSelect(QStringView source, const LexedStatement& statement) {
-    // Many times what a screen can put together, and little enough to be refused in no time.
+    // Many times the length of any screen's statement. A longer one is refused before it costs time.
     constexpr size_t mostTokens = 10'000;
     if (statement.tokens.size() > mostTokens) throw runtimeError(RuntimeError::tooComplex);
     TokenReader reader(source, statement);

@@ -21,7 +21,7 @@ bool isLanguageWord(QStringView name) {
 } // namespace
 
 const Token& TokenReader::peek(size_t ahead) const {
-    // The End token stands behind everything.
+    // Any place beyond the last token has the End token.
     return m_statement.tokens[std::min(m_place + ahead, m_statement.tokens.size() - 1)];
 }
 

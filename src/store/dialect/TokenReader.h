@@ -21,7 +21,7 @@ public:
     void expect(TokenKind kind, const RuntimeError::Kind& fault);
     void expectWord(QStringView word, const RuntimeError::Kind& fault);
 
-    /// True for a name that is not one of the language's own words.
+    /// Whether the token is a name and none of the language's own words.
     bool atName(size_t ahead = 0) const;
     QString takeName(const RuntimeError::Kind& fault);
 
@@ -29,17 +29,17 @@ public:
 
     size_t place() const { return m_place; }
     void moveTo(size_t place) { m_place = place; }
-    /// The place of the FROM that belongs to the SELECT just read, over all brackets; that of the end if
-    /// none.
+    /// The place of the FROM that belongs to the SELECT just read, outside of any brackets. Without one, the
+    /// place of the End token.
     size_t findFrom() const;
 
-    /// What is read from here on is named in errors.
+    /// Errors quote the statement from here on.
     void beginClause() { m_clause = peek().start; }
     [[noreturn]] void fail(const RuntimeError::Kind& fault) const;
     QStringView clause() const;
 
-    /// Counts a level of nesting while it lives. Error 3075 when a statement goes so deep that it might
-    /// exhaust the stack.
+    /// Counts one level of nesting while it exists. Error 3075 for a statement so deep that it might exhaust
+    /// the stack.
     class Level {
     public:
         explicit Level(TokenReader& reader);
@@ -51,7 +51,7 @@ public:
         TokenReader& m_reader;
     };
 
-    /// A name for a table that no other one in the statement has.
+    /// A new alias for a table, unique in the statement.
     QByteArray nextAlias() { return 't' + QByteArray::number(m_aliases++); }
 
 private:
