@@ -16,7 +16,7 @@ void DatabaseCloser::operator()(sqlite3* database) const { sqlite3_close_v2(data
 
 DatabaseHandle openHandle(const QByteArray& name, int flags) {
     sqlite3* database = nullptr;
-    // The program has one thread; without locks of its own the library hands out columns much faster.
+    // The program has one thread. Without mutexes SQLite reads columns much faster.
     const int code = sqlite3_open_v2(name.constData(), &database, flags | SQLITE_OPEN_NOMUTEX, nullptr);
     DatabaseHandle handle(database);
     if (database == nullptr) throw runtimeError(RuntimeError::outOfMemory);
@@ -41,7 +41,7 @@ void setKey(sqlite3* database, const QString& password) {
     if (!Statement(database, "PRAGMA cipher_version").step()) throw runtimeError(RuntimeError::noEncryption);
     // SQLCipher 4 has another format of its own; SQLCipher 3 ignores both settings.
     Statement(database, "PRAGMA cipher_compatibility = 3").run();
-    // SQLCipher 4 writes each page that it can't read to the terminal.
+    // SQLCipher 4 would report each unreadable page on the terminal.
     Statement(database, "PRAGMA cipher_log_level = NONE").run();
 }
 

@@ -12,21 +12,21 @@ struct DatabaseCloser {
     void operator()(sqlite3* database) const;
 };
 
-/// The library's side of an open file.
+/// An open connection to a file. Its end closes the file.
 using DatabaseHandle = std::unique_ptr<sqlite3, DatabaseCloser>;
 
 enum class Access : quint8 { ReadWrite, ReadOnly, Create };
-/// Opens the file of this path without reading anything yet.
+/// Opens a file without reading from it. Set the key next.
 DatabaseHandle openFile(const QString& path, Access access);
-/// Opens without reading anything yet. The name may be a path or, if the flags say so, a URI.
+/// As above with SQLite's own flags. The name may be a path or, with SQLITE_OPEN_URI, a URI.
 DatabaseHandle openHandle(const QByteArray& name, int flags);
-/// Sets the key for all that is read from then on. Whether it is the right one shows with the first page;
-/// only an empty one is refused at once (3031).
+/// Sets the key for everything read from then on. A wrong key shows only when the first page is read. Error
+/// 3031 for an empty one.
 void setKey(sqlite3* database, const QString& password);
 
-/// How many rows the last write touched.
+/// The number of rows that the last write changed.
 int changedRows(sqlite3* database);
-/// Whether a transaction has been begun and not ended yet.
+/// Whether a transaction is open.
 bool isInTransaction(sqlite3* database);
 
 } // namespace engine

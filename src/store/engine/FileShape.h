@@ -4,14 +4,14 @@
 
 namespace engine {
 
-/// The library's encrypted files consist of pages of this size.
+/// The size of a page in our encrypted files.
 constexpr qint64 pageBytes = 1024;
 
-/// The file itself where the path is a link, else the path: SQLite keeps journals beside the file itself.
+/// The target of a link, else the path itself. SQLite keeps journals beside the target.
 QString behindLinks(const QString& path);
 
-// What can be told of a file before its password is tried: a wrong password and damage look the same from
-// within, but damage often shows from outside.
+// Checks to make before the password is tried. SQLite reports a wrong password and damage alike, but the size
+// of the file often shows damage.
 
 /// Error 3024 if there is no such file, 3051 if it is a folder or may not be read.
 void requireReadableFile(const QString& path);
@@ -19,7 +19,7 @@ void requireReadableFile(const QString& path);
 void requireContent(const QString& path);
 /// Error 3343 if the file does not end with a whole page.
 void requireWholePages(const QString& path);
-/// Error 3343 if the file is shorter than its first page says.
+/// Error 3343 if the file is shorter than `pages`, the number of pages that its first page tells.
 void requirePages(const QString& path, qint64 pages);
 
 } // namespace engine

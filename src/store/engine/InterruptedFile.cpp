@@ -20,13 +20,14 @@ constexpr QLatin1String rollbackEnding("-journal");
 constexpr QLatin1String logEnding("-wal");
 constexpr QLatin1String logIndexEnding("-shm");
 
-/// A file said to be immutable is read without locks and without a look at its journal.
+/// Opens the file as immutable: SQLite then takes no locks and ignores the journal.
 DatabaseHandle openAsItLies(const QString& path) {
     const QByteArray uri = QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath()).toEncoded();
     return openHandle(uri + "?immutable=1", SQLITE_OPEN_READONLY | SQLITE_OPEN_URI);
 }
 
-/// Only the first page is read. Other failures than a wrong key are told when the file is really opened.
+/// Reads only the first page. Returns false only for a wrong key: other failures show when the file is opened
+/// for use.
 bool fitsFirstPage(sqlite3* database, const QString& password) {
     setKey(database, password);
     try {
@@ -43,7 +44,7 @@ void copyInto(const QString& target, const QByteArray& content) {
     if (!written || !copy.flush()) throw runtimeError(RuntimeError::noDiskSpace);
 }
 
-/// A first page that is itself half-written fits no key, but the journal has what it was. A copy shows it.
+/// A half-written first page fits no key until the journal restores it. This restores it in a copy.
 bool fitsOnceTakenBack(const QString& path, const QByteArray& content, const QString& password) {
     const QTemporaryDir folder;
     const QString copy = folder.filePath(QStringLiteral("copy"));

@@ -13,10 +13,10 @@ namespace engine {
 
 namespace {
 
-/// More than any table has.
+/// More fields than any table has.
 constexpr int fieldCount = 24;
 
-/// A field that a row ends before shows its default, which no row of ours holds.
+/// A field missing at the end of a row is read as its default, a blob. Our rows contain no blobs.
 QByteArray tableDefinition() {
     QByteArrayList fields;
     for (int i = 0; i < fieldCount; ++i) fields += "c" + QByteArray::number(i) + " DEFAULT x''";
@@ -35,13 +35,13 @@ DatabaseHandle openWithKey(const QString& path, const QString& password) {
     return handle;
 }
 
-/// The copy is thrown away in any case, so nothing about it has to outlast a failure.
+/// Makes writing fast but unsafe, as the copy is deleted in any case.
 void forgetSafety(sqlite3* database) {
     execute(database, "PRAGMA journal_mode = MEMORY");
     execute(database, "PRAGMA synchronous = OFF");
 }
 
-/// Nothing if the next row can't be read.
+/// Empty if the next row is damaged.
 std::optional<bool> tryStep(Statement& statement) {
     try {
         return statement.step();
@@ -80,7 +80,7 @@ void PageReader::growCopy(const QByteArray& salt, const QString& password) {
     execute(m_pointing.get(), "PRAGMA cipher_salt = \"x'" + salt.toHex() + "'\"");
     forgetSafety(m_pointing.get());
     execute(m_pointing.get(), tableDefinition());
-    // The first page says how many there are, so as many are made before the others take their place.
+    // The first page holds the number of pages, so make them all here. fillCopy() overwrites the others.
     Statement grow(m_pointing.get(), "INSERT INTO page(c0) VALUES (zeroblob(?1))");
     grow.bind(1, m_pageCount * pageBytes);
     grow.run();
@@ -91,8 +91,8 @@ void PageReader::fillCopy(const RawContent& original) const {
     if (!copy.open(QIODevice::ReadWrite)) throw runtimeError(RuntimeError::noDiskSpace);
     const qint64 end = copy.size();
     for (qint64 at = pageBytes; at < end; at += pageBytes) {
-        // Pages that the copy has beyond the original count as damaged: whole ones full of zeros would be
-        // taken for the rest of a row.
+        // Make pages beyond the original's end damaged ones: valid pages full of zeros would be taken for the
+        // rest of a row.
         const bool isThere = at < m_pageCount * pageBytes;
         const QByteArray page = isThere ? original.read(at, pageBytes) : QByteArray();
         if (!copy.seek(at)) throw runtimeError(RuntimeError::noDiskSpace);
@@ -100,7 +100,8 @@ void PageReader::fillCopy(const RawContent& original) const {
     }
 }
 
-/// The other connection sees that the table has moved and reads anew where it begins.
+/// Makes `page` the first page of the copy's table. The changed schema version makes m_reading look it up
+/// again.
 void PageReader::turnTo(int page) {
     m_begin.run();
     m_point.bind(1, static_cast<qint64>(page));
@@ -109,7 +110,7 @@ void PageReader::turnTo(int page) {
     m_commit.run();
 }
 
-/// A row that can't be read may still tell its number.
+/// Sets `row` to the next row's number, which may be readable though the row is not. False if it is not.
 bool PageReader::passOver(qint64& row) {
     m_next.bind(1, row);
     const bool found = tryStep(m_next).value_or(false);

@@ -10,24 +10,23 @@ namespace engine {
 
 class RawContent;
 
-/// Reads the rows of a damaged file page by page. It works on a copy in which the first page, which holds the
-/// way to all the others, is one of its own with the same salt: so neither damage there nor in the tables'
-/// inner pages stands between it and the rows. What the first page held is lost to it.
+/// Reads the rows of a damaged file page by page. It works on a copy with a new first page of the same salt,
+/// since the first page leads to all others. So damage in the first page, or in inner pages of a table, hides
+/// no rows. The content of the original first page is not read.
 class PageReader {
 public:
-    /// How many of the first bytes must be whole: they are the salt that makes the key.
+    /// The number of bytes at the beginning that must be undamaged: the salt for the key.
     static constexpr qint64 saltBytes = 16;
 
-    /// Copies at most so many pages. Error 3056 if there is not even the salt, 3043 if the disk does not give
-    /// a page, 3026 if there is no room for the copy, 75 if there can be no folder for it. A part of a page
-    /// at the end is left out.
+    /// Copies the first `mostPages` whole pages. Error 3056 if there is none, 3043 if the disk can't be read,
+    /// 3026 if there is no space for the copy, 75 if no folder can be made for it.
     PageReader(const RawContent& original, const QString& password, int mostPages);
 
     int pageCount() const { return m_pageCount; }
 
-    /// Shows every row that the page leads to until `take` says false. Column 0 is the row's number, the
-    /// table's fields follow; those beyond the row's own are Stored::Other. Rows of which a part lies on a
-    /// damaged page are passed over. False if the page is damaged, no table's, or leads to such a page.
+    /// Calls `take` for each row to which the page leads, until it returns false. Column 0 is the row number,
+    /// the table's fields follow; fields beyond the row's own are Stored::Other. Skips rows that lie partly
+    /// on a damaged page. Returns false if the page is damaged, belongs to no table, or leads to such a page.
     bool rowsOf(int page, const std::function<bool(const Statement&)>& take);
 
 private:
@@ -39,14 +38,14 @@ private:
     QTemporaryDir m_folder;
     QString m_copy;
     int m_pageCount = 0;
-    DatabaseHandle m_pointing; ///< changes where the one table of the copy begins
+    DatabaseHandle m_pointing; ///< changes the first page of the copy's table
     DatabaseHandle m_reading;
     Statement m_begin, m_point, m_commit;
     Statement m_rows, m_next;
 };
 
-/// Whether the password opens any page but the first, that is: whether a first page that it does not open is
-/// damaged. Error 3043 if the disk does not give a page.
+/// Whether the password opens any page but the first. If it does and fails at the first page, that page is
+/// damaged. Error 3043 if the disk can't be read.
 bool fitsOtherPages(const QString& path, const QString& password);
 
 } // namespace engine

@@ -45,7 +45,7 @@ void RawContent::lock() {
     if (sqlite3_db_readonly(m_opened.get(), "main") == 1) throw runtimeError(RuntimeError::readOnly);
     for (const int level : {SQLITE_LOCK_SHARED, SQLITE_LOCK_RESERVED, SQLITE_LOCK_EXCLUSIVE})
         check(m_file->pMethods->xLock(m_file, level));
-    // Another process may have written until now.
+    // Another process may have written before the lock.
     learnSize();
 }
 
@@ -65,7 +65,7 @@ bool RawContent::forEachChunk(const std::function<bool(const QByteArray&)>& take
 void RawContent::copyTo(const QString& path, QFileDevice::Permissions permissions) const {
     QSaveFile copy(path);
     bool whole = copy.open(QIODevice::WriteOnly);
-    // Set while the copy is empty. A stick that knows no permissions gets a copy all the same.
+    // Set permissions while the copy is empty. Ignore failures: a USB stick may know no permissions.
     copy.setPermissions(permissions);
     whole = whole && forEachChunk([&](const QByteArray& bytes) { return copy.write(bytes) == bytes.size(); });
     if (!whole || !copy.commit()) throw runtimeError(RuntimeError::noDiskSpace);

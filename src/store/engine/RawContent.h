@@ -10,26 +10,26 @@ struct sqlite3_file;
 
 namespace engine {
 
-/// The bytes of a database file as they are on the disk, read through SQLite: closing a file of our own would
-/// drop the locks of this process on it.
+/// The bytes of a database file on the disk. They are read through SQLite: closing the file by other means
+/// would drop this process's locks on it.
 class RawContent {
 public:
     /// Reads the file of an open database, whose handle must outlive this. Errors as for a failed read.
     explicit RawContent(sqlite3* database);
-    /// Opens a file of whatever content, without its key. Errors: 3024, 3051.
+    /// Opens a file of any content, without its key. Errors: 3024, 3051.
     explicit RawContent(const QString& path);
 
-    /// For a file that this has opened. Keeps other processes from it until this ends. Error 3260 while one
-    /// of them uses the file, 3027 if it may only be read.
+    /// Keeps other processes from the file until this object ends. Only for a file opened by its path. Error
+    /// 3260 if another process uses the file, 3027 if it is read-only.
     void lock();
-    /// In bytes.
+    /// Size in bytes.
     qint64 size() const { return m_size; }
-    /// `length` bytes from `offset` on; both must lie within the file. Error 3043 if the disk does not give
-    /// them.
+    /// `length` bytes from `offset` on; both must be within the file. Error 3043 if the disk can't be read.
     QByteArray read(qint64 offset, qsizetype length) const;
-    /// Calls `take` for one piece after the other, as long as it returns true.
+    /// Calls `take` for each piece of the file in order, until it returns false. Returns whether all were
+    /// taken.
     bool forEachChunk(const std::function<bool(const QByteArray&)>& take) const;
-    /// Writes a file, whole or not at all. Error 3026 if that fails.
+    /// Copies the content to a file, whole or not at all. Error 3026 if that fails.
     void copyTo(const QString& path, QFileDevice::Permissions permissions) const;
 
 private:

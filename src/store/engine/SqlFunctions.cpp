@@ -12,7 +12,7 @@
 
 namespace engine {
 
-// Exceptions must not cross the library's C code.
+// Exceptions must not cross SQLite's C code.
 
 namespace {
 
@@ -32,7 +32,7 @@ int collate(void*, int sizeA, const void* a, int sizeB, const void* b) noexcept 
 
 void deletePattern(void* pattern) { delete static_cast<LikePattern*>(pattern); }
 
-/// The pattern is nearly always a bound literal, so it is read once for all rows.
+/// The pattern is nearly always a bound literal, so it is parsed once for all rows.
 void like(sqlite3_context* context, int, sqlite3_value** arguments) noexcept {
     const bool hasNull =
         sqlite3_value_type(arguments[0]) == SQLITE_NULL || sqlite3_value_type(arguments[1]) == SQLITE_NULL;
@@ -50,7 +50,7 @@ void like(sqlite3_context* context, int, sqlite3_value** arguments) noexcept {
     }
 }
 
-/// The memory that the library keeps for one run of the aggregate, all zero at first.
+/// The state of one run of the aggregate. SQLite allocates it, filled with zeros.
 struct SingleValue {
     bool seen;
     sqlite3_value* value;
@@ -65,7 +65,7 @@ void takeSingle(sqlite3_context* context, int, sqlite3_value** arguments) noexce
     if (single->value == nullptr) sqlite3_result_error_nomem(context);
 }
 
-/// Also called after a failure, with the value still to be freed.
+/// SQLite calls this after a failure too, so that the value is freed.
 void giveSingle(sqlite3_context* context) noexcept {
     auto* single = static_cast<SingleValue*>(sqlite3_aggregate_context(context, 0));
     if (single == nullptr || single->value == nullptr) return;

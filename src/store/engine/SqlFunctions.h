@@ -4,8 +4,8 @@ struct sqlite3;
 
 namespace engine {
 
-/// Gives a connection our order of texts, our LIKE, and the aggregate that hands on the value of the one row
-/// of a sub-select and fails (3354) at a second one.
+/// Registers our collation, our LIKE and the aggregate for sub-selects used as values. The aggregate returns
+/// the value of its only row; a second row is error 3354. Call once for each connection.
 void registerSqlFunctions(sqlite3* database);
 
 } // namespace engine

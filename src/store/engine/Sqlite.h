@@ -1,6 +1,6 @@
 #pragma once
 
-// The library's header declares its key functions only when told that it was built with encryption.
+// SQLCipher's header declares the key functions only if this macro is defined.
 #ifndef SQLITE_HAS_CODEC
 #define SQLITE_HAS_CODEC 1
 #endif

@@ -28,7 +28,7 @@ RuntimeError ioError(int extendedCode) {
     return runtimeError(RuntimeError::diskFailed);
 }
 
-/// What were written then would be gone with the file that has no name any more.
+/// SQLITE_READONLY_DBMOVED: another file has this name now. Anything written to the open file would be lost.
 RuntimeError readOnlyError(int extendedCode) {
     return runtimeError(extendedCode == SQLITE_READONLY_DBMOVED ? RuntimeError::fileReplaced
                                                                 : RuntimeError::readOnly);
@@ -38,7 +38,7 @@ RuntimeError reservedError(int extendedCode) {
     return runtimeError(RuntimeError::reserved, QString::number(extendedCode));
 }
 
-/// The library has one code for all that it has no other for; only the message tells more.
+/// SQLITE_ERROR covers all failures without a code of their own. Only the message tells them apart.
 RuntimeError plainError(QByteArrayView message) {
     if (auto marked = markedError(message)) return *marked;
     if (message.startsWith("integer overflow")) return runtimeError(RuntimeError::overflow);
@@ -78,7 +78,7 @@ RuntimeError sqliteError(int extendedCode) {
         return runtimeError(RuntimeError::lockedByOther);
     case SQLITE_READONLY:
         return readOnlyError(extendedCode);
-    // A journal cannot be made where the folder may not be written to.
+    // SQLite can't create a journal in a folder without write permission.
     case SQLITE_CANTOPEN:
         return runtimeError(RuntimeError::readOnly);
     case SQLITE_PERM:

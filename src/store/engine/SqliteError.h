@@ -8,13 +8,12 @@ struct sqlite3;
 
 namespace engine {
 
-/// The last failure on a connection as the error that the user sees. The one place where the library's codes
-/// are given their numbers.
+/// The last failure on a connection as the error for the user. SQLite's codes get their numbers only here.
 RuntimeError sqliteError(sqlite3* database);
-/// As above where only the code is known.
+/// As above if only the extended code is known.
 RuntimeError sqliteError(int extendedCode);
-/// As above for a statement that could not be prepared: the file lacks a table (3078) or a field (3061) of
-/// it, or it has more parts than the library can follow (3360).
+/// As above for a statement that could not be prepared. Error 3078 if the file lacks a table, 3061 if it
+/// lacks a field, 3360 if the statement is too complex for SQLite.
 RuntimeError prepareError(sqlite3* database);
 
 /// How a function of ours that runs inside a statement reports an error of its own: this text as its message.

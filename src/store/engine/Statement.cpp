@@ -108,14 +108,14 @@ void Statement::run() {
 }
 
 void Statement::reset() noexcept {
-    // Repeats the code of the last step, which was already told.
+    // sqlite3_reset() repeats the code of the last step, which was reported then.
     sqlite3_reset(m_statement.get());
 }
 
 void Statement::clear() noexcept { sqlite3_clear_bindings(m_statement.get()); }
 
 Value Statement::column(int index, FieldKind kind) const {
-    // Looked up once: each question to the statement itself would look it up anew.
+    // Fetch the value once: each sqlite3_column_ function would look it up again.
     sqlite3_value* stored = sqlite3_column_value(m_statement.get(), index);
     switch (sqlite3_value_type(stored)) {
     case SQLITE_NULL:

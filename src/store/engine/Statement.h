@@ -19,17 +19,17 @@ public:
 
     explicit operator bool() const { return m_statement != nullptr; }
 
-    /// Positions count from 1. One that the statement does not have is passed over.
+    /// Positions count from 1. One that the statement does not have is ignored.
     void bind(int position, const Value& value);
     void bind(int position, qint64 number);
-    /// Binds what a column of another statement's row holds, just as it is stored.
+    /// Binds a column of another statement's row just as it is stored.
     void bindColumn(int position, const Statement& row, int index);
-    /// True when there is a row to read, false when the statement is through.
+    /// True if there is a row to read, false at the end.
     bool step();
     /// Steps a statement that gives no rows.
     void run();
     void reset() noexcept;
-    /// Lets go of the bound texts.
+    /// Frees the bound texts.
     void clear() noexcept;
 
     /// Columns count from 0. Error 6 for a Long beyond 32 bits.
@@ -38,7 +38,7 @@ public:
     QString text(int index) const;
 
     int columnCount() const;
-    /// What the file holds there, whatever it was declared to hold.
+    /// How the file stores the value, whatever the field's declared type.
     enum class Stored : quint8 { Null, Number, Text, Other };
     Stored stored(int index) const;
 
