@@ -19,7 +19,7 @@ bool isDamage(const RuntimeError& error) {
     return error.is(RuntimeError::damagedFile) || error.is(RuntimeError::wrongPassword);
 }
 
-/// The same failures have other numbers when they keep a file from being opened.
+/// When a file can't be opened, the same failures have other numbers.
 RuntimeError openError(const RuntimeError& error, const QString& path) {
     switch (error.number) {
     case RuntimeError::lockedByOther.number:
@@ -50,7 +50,7 @@ Connection::Connection(const QString& path, const QString& password, Access acce
     }
 }
 
-/// Whatever can be said against the file is said before anything might change it.
+/// Makes all checks before anything might change the file.
 void Connection::openExisting(const QString& path, const QString& password, Access access) {
     engine::requireReadableFile(path);
     engine::requireContent(path);
@@ -74,15 +74,15 @@ void Connection::openFile(const QString& path, const QString& password, Access a
     m_transaction.emplace(m_database.get());
     engine::setKey(m_database.get(), password);
     execute("PRAGMA foreign_keys = OFF");
-    // A commit is the removal of the journal, and only EXTRA makes that last: it flushes the folder.
+    // A commit removes the journal. Only EXTRA makes that last: it flushes the folder too.
     execute("PRAGMA synchronous = EXTRA");
     execute("PRAGMA cache_size = -32768");
-    // What was deleted stays nowhere in the file, where a repair might find it again.
+    // Overwrites deleted rows, so that a repair does not find them again.
     execute("PRAGMA secure_delete = ON");
     engine::registerSqlFunctions(m_database.get());
 }
 
-/// A first page that the password does not open is damaged if it opens others.
+/// If the password opens other pages but not the first, the first is damaged.
 void Connection::orDamaged(const QString& path, const QString& password, const std::function<void()>& open) {
     try {
         open();
@@ -94,7 +94,7 @@ void Connection::orDamaged(const QString& path, const QString& password, const s
     }
 }
 
-/// Takes back what a killed process left half-written, and shows whether the password is right.
+/// Takes back the half-written changes of a killed process. Fails if the password is wrong.
 void Connection::readFirstPage(const QString& path) {
     prepare("SELECT COUNT(*) FROM sqlite_master").step();
     engine::Statement pages = prepare("PRAGMA page_count");
@@ -110,7 +110,7 @@ void Connection::requireTables(const QString& path) {
     }
 }
 
-/// A file that another tool has switched to a write-ahead log would have its newest rows beside it.
+/// Another tool may have switched the file to a write-ahead log, which keeps the newest rows beside the file.
 void Connection::leaveWriteAheadMode(const QString& path) {
     const auto answer = [this](const QByteArray& pragma) {
         engine::Statement statement = prepare(pragma);
@@ -121,8 +121,8 @@ void Connection::leaveWriteAheadMode(const QString& path) {
         throw runtimeError(RuntimeError::fileInUse, path);
 }
 
-/// The users go with their group. The file says so too, but the library can only enforce that together with
-/// the opposite, which is not wanted: that there is no user without a group.
+/// Deletes the users of a deleted group. SQLite could enforce the relation in the file's schema, but only
+/// with its opposite, which is not wanted: no user without a group.
 void Connection::cascadeDeletions() {
     execute("CREATE TEMP TRIGGER uw_group_gone AFTER DELETE ON main.\"Gruppen\" "
             "BEGIN DELETE FROM \"Benutzer\" WHERE \"GNr\" = OLD.\"GNr\"; END");
@@ -161,7 +161,8 @@ bool Connection::passesCheck() {
     }
 }
 
-/// The check reports a page that the disk does not give like a damaged one.
+/// quick_check reports a failed read like a damaged page. So after a failed check this reads all bytes, which
+/// throws if the disk fails, and checks again.
 bool Connection::isSound() {
     if (passesCheck()) return true;
     engine::RawContent(handle()).forEachChunk([](const QByteArray&) { return true; });

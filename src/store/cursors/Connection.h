@@ -22,34 +22,33 @@ class Connection {
 public:
     using Access = engine::Access;
 
-    /// Opens a file, which this alone never changes, but for taking back what a killed process left
-    /// half-written, and for a write-ahead log of another tool, which goes into the file. If it fails, the
-    /// file and its journal are as they were, unless the password was right and the file is damaged. Create
-    /// is for a file that is to be made and does not check what it holds. Errors as for
-    /// Workspace::OpenDatabase.
+    /// Opens a file. Opening changes it only in two cases: half-written changes of a killed process are taken
+    /// back, and the write-ahead log of another tool is merged into the file. After a failure the file and
+    /// its journal are as before, unless the password was right and the file is damaged. Create is for a new
+    /// file and checks no content. Errors as for Workspace::OpenDatabase.
     Connection(const QString& path, const QString& password, Access access);
     ~Connection() = default;
     Connection(const Connection&) = delete;
     Connection& operator=(const Connection&) = delete;
 
-    /// Ends every cursor, which commits what they have written, and lets go of the file. The first failure is
-    /// thrown when all is done.
+    /// Closes every cursor, which commits its changes, and then the file. Throws the first failure at the
+    /// end.
     void close();
     bool isOpen() const { return m_database != nullptr; }
 
-    /// A statement of the dialect, ready to be stepped.
+    /// A SELECT of the dialect with its literals bound. Step it next.
     StatementCache::Loan select(QStringView source);
-    /// A statement of the store's own.
+    /// A statement in SQLite's own SQL, kept in the cache.
     StatementCache::Loan statement(const QByteArray& sql) { return m_cache->take(sql); }
-    /// As above, but not kept: for what runs once.
+    /// As above without the cache, for statements that run once.
     engine::Statement prepare(const QByteArray& sql) { return engine::Statement(m_database.get(), sql); }
     void execute(const QByteArray& sql) { prepare(sql).run(); }
     WriteTransaction& transaction() { return *m_transaction; }
     sqlite3* handle() const { return m_database.get(); }
-    /// How many rows the last write touched.
+    /// The number of rows that the last write changed.
     int changes() const;
-    /// Reads the whole file. False if a page is damaged. Errors as for a failed read: 3043 if the disk does
-    /// not give a page, 3260 if another process keeps this one from reading.
+    /// Reads the whole file. False if a page is damaged. Error 3043 if the disk can't be read, 3260 if
+    /// another process locks the file.
     bool isSound();
 
     void add(Cursor* cursor) { m_cursors.push_back(cursor); }

@@ -8,7 +8,7 @@
 
 namespace cursors {
 
-/// The fields of a row that is being added or changed, before they are written.
+/// The fields of a row between AddNew or Edit and Update.
 class CopyBuffer {
 public:
     enum class Mode : quint8 { Idle, Adding, Editing };
@@ -17,14 +17,14 @@ public:
     void begin(Mode mode, const TableSpec& table);
     void end() { m_mode = Mode::Idle; }
 
-    /// Converts to the field's kind as the routines expect it of an assignment: error 13 or 6 for what does
-    /// not fit, 3164 for an AutoNumber. A field that refuses keeps what it had.
+    /// Converts the value to the field's kind as an assignment does. Error 13 or 6 if it does not fit, 3164
+    /// for an AutoNumber; the field then keeps its value.
     void set(int field, const Value& value);
-    /// Takes over what is set in another buffer of the same table.
+    /// Copies the fields that are set in another buffer of the same table.
     void take(const CopyBuffer& other);
     /// Null if the field has not been set.
     const Value* find(int field) const;
-    /// What a new row gets: the set value, or what a field without one is given.
+    /// The field's value in a new row: the set value, else False for a Boolean and Null for others.
     Value initial(int field) const;
 
     const TableSpec& table() const { return *m_table; }

@@ -13,7 +13,7 @@ Cursor::~Cursor() {
     try {
         leave(End::Abandon);
     } catch (const RuntimeError&) {
-        // The write that has failed threw it before.
+        // The failed write has thrown this error before.
     }
 }
 
@@ -86,7 +86,7 @@ void Cursor::collect(const QString& name, const Value& value) {
     m_buffer.set(field, value);
 }
 
-/// A key that was changed is the row's number from then on.
+/// A changed key is also the row's number from then on.
 qint64 Cursor::currentRow() {
     const bool keyed = requireTarget().keyed && m_written.mode() != CopyBuffer::Mode::Idle;
     const Value* key = keyed ? m_written.find(0) : nullptr;

@@ -10,8 +10,8 @@
 
 namespace cursors {
 
-/// What the two kinds of cursors have in common: a place, a copy buffer, and their part in the user action's
-/// transaction. Values of the current row that this cursor has written itself stand over the stored ones.
+/// The base of both kinds of cursors: a place, a copy buffer, and a part in the transaction of the user's
+/// action. A field of the current row that this cursor has written is read as written, not as stored before.
 class Cursor {
 public:
     explicit Cursor(std::shared_ptr<Connection> connection);
@@ -20,12 +20,12 @@ public:
     Cursor& operator=(const Cursor&) = delete;
 
     bool isOpen() const { return m_connection != nullptr; }
-    /// The last cursor that has written commits.
+    /// Closes the cursor. If no other cursor with writes is open, commits the action.
     void close();
-    /// Takes back what the action has written, as the end of a cursor that nobody closed does.
+    /// Closes the cursor and takes the whole action back. The destructor does the same with an open cursor.
     void abandon();
 
-    /// Error 3265 if there is none.
+    /// Error 3265 if there is no such column.
     virtual int columnIndex(const QString& name) const = 0;
     virtual QStringList columnNames() const = 0;
     Value value(int column);
@@ -38,7 +38,7 @@ public:
     virtual qint32 recordCount() const = 0;
     virtual qint32 absolutePosition() const = 0;
 
-    // Only a table cursor has an index (3251).
+    // Only table cursors have an index. Others throw error 3251.
     virtual void useIndex(const QString& name);
     virtual void seek(const QString& comparison, const Value& key);
     virtual bool noMatch() const { return false; }
@@ -50,17 +50,17 @@ public:
     void remove();
 
 protected:
-    /// Nowhere is after a Seek that found nothing.
+    /// Nowhere is the place after a Seek without a hit.
     enum class Place : quint8 { Empty, Row, Deleted, Nowhere, After };
 
     Connection& connection() const { return *m_connection; }
     Place place() const { return m_place; }
-    /// Moving gives up an unfinished change. To be at no row already when a step is tried: one that fails
-    /// leaves no row to read.
+    /// Moves and drops unfinished changes. Call moveTo(After) before a step that may fail, so that no stale
+    /// row stays current.
     void moveTo(Place place);
-    /// As above when the cursor is there already.
+    /// Drops unfinished changes without moving.
     void stay() { m_buffer.end(); }
-    /// Error 3021 without a current row, 3167 on one that was deleted.
+    /// Error 3021 without a current row, 3167 if it was deleted.
     void requireRow() const {
         if (m_place != Place::Row) throw noRow();
     }
@@ -85,7 +85,7 @@ private:
     std::shared_ptr<Connection> m_connection;
     Place m_place = Place::Empty;
     CopyBuffer m_buffer;
-    CopyBuffer m_written; ///< on the current row
+    CopyBuffer m_written; ///< what this cursor has written to the current row
     std::optional<RowWriter> m_writer;
 };
 

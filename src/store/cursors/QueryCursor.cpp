@@ -128,13 +128,13 @@ void QueryCursor::moveNext() {
     moveTo(Place::Row);
 }
 
-/// Nobody may ask for the last row's fields, as most only want the count; who does waits for a second walk.
+/// Most callers want only the count after MoveLast, so the last row is read on demand, by a second pass.
 void QueryCursor::catchUp() {
     if (m_held || m_stream == Stream::CurrentRow) return;
     try {
         walkTo(m_position);
     } catch (const RuntimeError&) {
-        // Not to be tried anew for each field.
+        // Leave the row, so that reading its other fields does not try again.
         moveTo(m_reached > 0 ? Place::After : Place::Empty);
         throw;
     }
@@ -147,7 +147,7 @@ void QueryCursor::walkTo(qint32 position) {
     if (found > position) {
         hold();
     } else {
-        // Another cursor has deleted rows since they were counted.
+        // Another cursor has deleted rows after they were counted.
         m_reached = found;
     }
     m_rows->reset();

@@ -6,9 +6,9 @@
 
 namespace cursors {
 
-/// A cursor over the result of a SELECT. Rows stream from the running statement. Only the first and the last
-/// one are kept while they are current: a result of one row is then read to its end as soon as it is opened,
-/// and keeps no other process from writing while a screen shows it.
+/// A cursor over the result of a SELECT. Rows stream from the running statement; only the first and the last
+/// row are kept while current. A result of one row is thus read to its end at once, and the statement blocks
+/// no other process's writes while a screen shows the row.
 class QueryCursor final : public Cursor {
 public:
     QueryCursor(std::shared_ptr<Connection> connection, QStringView select);
@@ -30,10 +30,10 @@ protected:
     void releaseRows() noexcept override { m_rows.giveBack(); }
 
 private:
-    /// What the running statement is on.
+    /// The row on which the running statement is.
     enum class Stream : quint8 { CurrentRow, NextRow, Nothing };
 
-    /// A row read ahead of being asked for. A field that cannot be read is an error only to who asks for it.
+    /// A row kept apart from the statement. An unreadable field throws its error when it is read.
     struct HeldRow {
         qint64 number;
         std::vector<std::variant<Value, RuntimeError>> values;
@@ -49,7 +49,7 @@ private:
 
     StatementCache::Loan m_rows;
     Stream m_stream = Stream::Nothing;
-    std::optional<HeldRow> m_held; ///< the current row if the statement is not on it
+    std::optional<HeldRow> m_held; ///< the current row unless the statement is on it
     qint32 m_reached = 0;
     qint32 m_position = -1;
     bool m_complete = false; ///< m_reached is the number of all rows

@@ -16,7 +16,7 @@ QByteArray RowWriter::insertSql() const {
 }
 
 void RowWriter::insert(const CopyBuffer& buffer) {
-    // The engine would make up a number for a key that is Null.
+    // SQLite would choose a number for a Null key.
     const bool givenKey = m_table.keyed && m_table.fields.front().kind != FieldKind::AutoNumber;
     if (givenKey && buffer.initial(0).isNull()) throw runtimeError(RuntimeError::nullKey);
     if (!m_insert) m_insert = m_connection.statement(insertSql());

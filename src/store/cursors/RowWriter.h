@@ -14,9 +14,9 @@ public:
         : m_connection(connection)
         , m_table(table) {}
 
-    /// Error 3022 for a key that is there already, 3058 for a key that is Null.
+    /// Error 3022 for a key that exists, 3058 for a Null key.
     void insert(const CopyBuffer& buffer);
-    /// Writes the fields that were set. Error 3167 if the row is gone.
+    /// Writes the fields that are set. Error 3167 if the row is gone.
     void update(qint64 row, const CopyBuffer& buffer);
     void remove(qint64 row);
 

@@ -36,7 +36,7 @@ StatementCache::Loan StatementCache::add(const QString& key, dialect::SelectPlan
 }
 
 StatementCache::Loan StatementCache::take(const QByteArray& sql) {
-    // The keys of the dialect's statements begin with a SELECT or a blank, and hold no such sign.
+    // The dialect's keys begin with SELECT or a space and never contain this control character.
     const QString key = u'\5' + QString::fromUtf8(sql);
     Loan known = take(key);
     if (known) return known;

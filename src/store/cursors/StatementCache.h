@@ -13,8 +13,8 @@ struct sqlite3;
 
 namespace cursors {
 
-/// The prepared statements of a connection, the least recently used ones given up first. A statement is out
-/// of the cache while somebody holds it; a second user of the same key gets one of his own.
+/// The prepared statements of a connection. The least recently used ones are dropped first. A statement on
+/// loan is not in the cache: a second user of its key gets another one.
 class StatementCache {
 public:
     explicit StatementCache(sqlite3* database)
@@ -28,7 +28,7 @@ private:
     };
 
 public:
-    /// A statement on loan. Goes back, reset, when this ends.
+    /// A statement on loan. Its destructor resets the statement and gives it back.
     class Loan {
     public:
         Loan() = default;
@@ -49,11 +49,11 @@ public:
         std::shared_ptr<Entry> m_home;
     };
 
-    /// Empty if nothing is known of the key yet.
+    /// The statement of a key, empty if the key is unknown. Then call add().
     Loan take(const QString& key);
-    /// Prepares a statement for a rewritten SELECT.
+    /// Prepares a rewritten SELECT and keeps it under its key.
     Loan add(const QString& key, dialect::SelectPlan plan);
-    /// A statement of the store's own.
+    /// As above for SQLite's own SQL, prepared on first use.
     Loan take(const QByteArray& sql);
     void clear();
 
@@ -62,7 +62,7 @@ private:
     std::shared_ptr<Entry> remember(const QString& key, dialect::SelectPlan plan);
 
     sqlite3* m_database;
-    std::list<std::shared_ptr<Entry>> m_entries; ///< the most recently used one in front
+    std::list<std::shared_ptr<Entry>> m_entries; ///< the most recently used one first
     QHash<QString, std::list<std::shared_ptr<Entry>>::iterator> m_places;
 };
 

@@ -90,7 +90,7 @@ void TableCursor::useIndex(const QString& name) {
 }
 
 void TableCursor::seek(const QString& comparison, const Value& key) {
-    // Before anything can fail, so that what follows a failed search touches no other row.
+    // Set before anything can fail, so that code after a failed search changes no other row.
     m_noMatch = true;
     moveTo(Place::Nowhere);
     m_rows->reset();

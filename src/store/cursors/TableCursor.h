@@ -4,7 +4,7 @@
 
 namespace cursors {
 
-/// A cursor over all rows of a table in the order of their keys.
+/// A cursor over all rows of a table in the order of their row numbers, which are their keys.
 class TableCursor final : public Cursor {
 public:
     TableCursor(std::shared_ptr<Connection> connection, const TableSpec& table);
@@ -31,8 +31,8 @@ private:
     bool goTo(qint64 firstRow);
 
     const TableSpec& m_table;
-    /// The rows from a given number on. One statement serves seeking and walking: a key is sought as the
-    /// first row that is not before it.
+    /// The rows from a given number on. One statement serves both to seek and to walk: Seek reads the first
+    /// row from the key on and compares.
     StatementCache::Loan m_rows;
     bool m_indexed = false;
     bool m_noMatch = false;

@@ -53,7 +53,7 @@ void WriteTransaction::abandon() {
     if (lost) throw *lost;
 }
 
-/// Cursors that are still open write no more, and their ends commit nothing.
+/// After this, open cursors can't write, and closing them commits nothing.
 void WriteTransaction::undo() {
     m_lost = runtimeError(RuntimeError::noTransaction);
     m_isUndone = true;

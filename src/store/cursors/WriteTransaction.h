@@ -9,33 +9,33 @@ struct sqlite3;
 
 namespace cursors {
 
-/// One user action's writes. Begins with the first write of a cursor and reaches the disk when the last
-/// cursor that has written is closed, so an action is either wholly in the file or not at all.
+/// The writes of one user action. Begins with the first write of a cursor and commits when the last cursor
+/// with writes is closed. So an action is in the file wholly or not at all.
 class WriteTransaction {
 public:
     explicit WriteTransaction(sqlite3* database)
         : m_database(database) {}
 
-    /// A cursor is about to write for the first time. Error 3260 while another process writes.
+    /// Call before a cursor's first write. Error 3260 if another process writes.
     void join();
-    /// A cursor that has joined is closed; the last one commits. Failing that, everything is rolled back and
-    /// the failure is thrown.
+    /// Call when a cursor that has joined is closed. The last one commits; if that fails, everything is
+    /// rolled back and the failure thrown.
     void leave();
-    /// As leave, but takes the action back. Throws what has undone it already, once. Under begin the
-    /// decision is left to commit and rollback.
+    /// As leave(), but takes the action back. If a failure has undone the action already, throws that failure
+    /// once. Between begin() and commit() or rollback() it only leaves.
     void abandon();
-    /// To be told of each failed write: the library may have taken back all writes of the action, which must
-    /// then not go on as if nothing were missing.
+    /// Call after each failed write. SQLite may have rolled the whole action back; later writes of the action
+    /// must then fail too.
     void noteFailure(const RuntimeError& cause);
-    /// Holds the action open whatever cursors are closed, until commit or rollback. There is one level of it:
-    /// error 3251 within another one, 3034 where none was begun.
+    /// Keeps the action open until commit() or rollback(), even if all cursors are closed. Can't be nested
+    /// (3251). Without begin(), the other two are error 3034.
     void begin();
     void commit();
-    /// Cursors that have written and are still open write no more (3034).
+    /// Open cursors that have written can't write any more (3034).
     void rollback();
-    /// Throws that cause again once it has happened.
+    /// Throws the cause again if the action was undone.
     void requireIntact() const;
-    /// False once it has happened, until the last of the action's cursors is closed.
+    /// False from then on, until the last cursor of the action is closed.
     bool isIntact() const { return !m_lost; }
 
 private:
@@ -45,8 +45,8 @@ private:
     void undo();
 
     sqlite3* m_database;
-    int m_writers = 0;     ///< with the hold of begin
-    bool m_isHeld = false; ///< by begin
+    int m_writers = 0;     ///< joined cursors, and one for begin()
+    bool m_isHeld = false; ///< by begin()
     bool m_isUndone = false;
     std::optional<RuntimeError> m_lost;
 };
