@@ -26,7 +26,7 @@ private:
     void attachCopy(const QString& password);
     QList<SchemaObject> schemaObjects(const QByteArray& condition);
     void create(const SchemaObject& object);
-    /// Gives how many there were.
+    /// Returns the number of rows.
     qint64 copyRows(const QString& table);
     void copyCounters();
     void copyMarks();
@@ -37,7 +37,7 @@ private:
     UnfinishedPath m_target;
     cursors::Connection m_connection;
     QList<SchemaObject> m_tables;
-    QHash<QString, qint64> m_counts; ///< so many rows were copied
+    QHash<QString, qint64> m_counts; ///< copied rows by table
 };
 
 Compaction::Compaction(const QString& source, const QString& target, const QString& password)
@@ -47,7 +47,7 @@ Compaction::Compaction(const QString& source, const QString& target, const QStri
     attachCopy(password);
 }
 
-/// Who may not read the original shall not read its copy either, not even while it grows.
+/// Gives the copy the original's permissions while it is empty, so that it is never readable by more users.
 void Compaction::makeEmptyCopy(const QString& source) const {
     QFile copy(m_target.path());
     const bool made = copy.open(QIODevice::WriteOnly | QIODevice::NewOnly);
@@ -61,9 +61,9 @@ void Compaction::attachCopy(const QString& password) {
     attach.bind(2, password);
     attach.run();
     m_connection.execute("PRAGMA copy.cipher_compatibility = 3");
-    // Makes the entry in the folder last as well.
+    // EXTRA makes the folder's entry last as well.
     m_connection.execute("PRAGMA copy.synchronous = EXTRA");
-    // Indexes are sorted in this much memory.
+    // SQLite sorts indexes within this much memory.
     m_connection.execute("PRAGMA main.cache_size = -131072");
     m_connection.execute("PRAGMA copy.cache_size = -131072");
 }
@@ -77,7 +77,7 @@ QList<Compaction::SchemaObject> Compaction::schemaObjects(const QByteArray& cond
     return objects;
 }
 
-/// The library keeps every definition as CREATE, what it is, its name and the rest.
+/// SQLite stores each definition as CREATE, the kind, the name and the rest.
 void Compaction::create(const SchemaObject& object) {
     for (const QByteArray kind :
          {"CREATE TABLE ", "CREATE INDEX ", "CREATE UNIQUE INDEX ", "CREATE VIEW ", "CREATE TRIGGER "})
@@ -86,7 +86,7 @@ void Compaction::create(const SchemaObject& object) {
     throw runtimeError(RuntimeError::badArgument);
 }
 
-/// Where both tables are alike, the library hands the rows over as they are stored.
+/// If both tables have the same definition, SQLite copies rows in their stored form.
 qint64 Compaction::copyRows(const QString& table) {
     m_connection.execute("INSERT INTO copy." + quotedName(table) + " SELECT * FROM main." +
                          quotedName(table));
@@ -95,13 +95,13 @@ qint64 Compaction::copyRows(const QString& table) {
     return rows.integer(0);
 }
 
-/// Numbers that were given out once are not given out again, so the counters go along.
+/// Copies the counters too, so that no number is given out again.
 void Compaction::copyCounters() {
     m_connection.execute("DELETE FROM copy.sqlite_sequence");
     copyRows(QStringLiteral("sqlite_sequence"));
 }
 
-/// Numbers of the file itself by which other tools know it.
+/// Copies the numbers in the file's header by which other tools recognise it.
 void Compaction::copyMarks() {
     for (const QByteArray mark : {"user_version", "application_id"}) {
         engine::Statement value = m_connection.prepare("PRAGMA main." + mark);
@@ -127,9 +127,9 @@ bool Compaction::hasRows(const QString& table, qint64 count) {
 }
 
 void Compaction::verify() {
-    // Forgets what was written, so that it is read from the disk again.
+    // Empties the cache, so that the copy is read from the disk.
     m_connection.execute("PRAGMA shrink_memory");
-    // Whether the indexes know every row need not be asked: they were just made from the rows.
+    // quick_check skips the indexes, which were just built from the rows.
     engine::Statement check = m_connection.prepare("PRAGMA copy.quick_check");
     bool whole = check.step() && check.text(0) == u"ok";
     for (auto table = m_counts.cbegin(); table != m_counts.cend(); ++table)
@@ -138,8 +138,8 @@ void Compaction::verify() {
     if (!whole) throw runtimeError(RuntimeError::pathFailed);
 }
 
-/// The lock on the original outlasts the transaction, until the connection ends: what another process wrote
-/// before the copy is in the original's place would be lost with the original.
+/// Locks the original until the connection ends. Otherwise another process could write to it before the copy
+/// takes its place, and these changes would be lost.
 void Compaction::run() {
     m_connection.execute("PRAGMA main.locking_mode = EXCLUSIVE");
     m_connection.execute("BEGIN EXCLUSIVE");
@@ -151,12 +151,12 @@ void Compaction::run() {
     m_target.keep();
 }
 
-/// A whole file may still lack the record of `System`, without which no start comes to its end.
+/// An undamaged file may still lack the row of `System`, without which the program can't start.
 void restoreParametersOf(const QString& target, const QString& password) {
     try {
         restoreParameters(target, password);
     } catch (const RuntimeError&) {
-        // Left over, it would stand in the way of the next repair.
+        // A leftover copy would block the next repair.
         QFile::remove(target);
         throw;
     }

@@ -43,21 +43,21 @@ void raiseCounter(cursors::Connection& file, const QString& table, qint64 number
 
 void restoreSystem(cursors::Connection& file) {
     if (single(file, "SELECT COUNT(*) FROM \"System\"") > 0) return;
-    // Catches and hours are entered in the current fishing year; one beyond the calendar's is a slip of the
-    // pen.
+    // Catches and hours are entered in the current fishing year. A later year than the calendar's is a typing
+    // error.
     const qint64 latest = std::max(single(file, "SELECT MAX(\"FangJahr\") FROM \"Fang\""),
                                    single(file, "SELECT MAX(\"Jahr\") FROM \"Arbeit\""));
     const int thisYear = today().year();
     seedSystem(file, latest > 0 && latest < thisYear ? static_cast<int>(latest) : thisYear);
 }
 
-/// Nobody else could let the others in again.
+/// Such a user can give the others access again.
 bool canAnybodyManageUsers(cursors::Connection& file) {
     return single(file, "SELECT COUNT(*) FROM \"Benutzer\" JOIN \"Gruppen\" USING (\"GNr\") "
                         "WHERE \"Benutzerverwaltung\"") > 0;
 }
 
-/// With the groups back as delivered the users of the first one come in with their own passwords.
+/// Restores the groups first: users of the first group can then log in with their own passwords.
 void restoreLogin(cursors::Connection& file) {
     if (canAnybodyManageUsers(file)) return;
     if (single(file, "SELECT COUNT(*) FROM \"Gruppen\" WHERE \"Benutzerverwaltung\"") == 0) seedGroup(file);

@@ -4,15 +4,16 @@
 
 #include <QHash>
 
-// What a file needs, beyond the rows that could be saved, for the program to work on it.
+// Restores data without which the program can't work on a salvaged file.
 
-/// Sees to it that no number is given out again: neither one that was given out last, as far as that is known
-/// by the tables' names, nor one that rows still refer to.
+/// Raises the counters of AutoNumbers so that no number is given out again: neither the last ones given out,
+/// in `known` by table, nor any to which rows still refer.
 void raiseCounters(cursors::Connection& file, const QHash<QString, qint64>& known);
 
-/// Puts the record of the parameters back into a file that is whole but lacks it.
+/// Adds the row of `System` to an undamaged file that lacks it.
 void restoreParameters(const QString& path, const QString& password);
 
-/// The parameters, the two system categories, somebody who can log in, and the member's row of each contact
-/// that is a member. Nothing that is there is changed. What refers to rows that are gone stays.
+/// Adds what is missing of: the row of `System`, the two system categories, a user who can log in and manage
+/// users, and the row in `Mitglied` of each contact that is a member. Changes nothing that is there.
+/// References to lost rows stay.
 void restoreEssentials(cursors::Connection& file);

@@ -32,15 +32,15 @@ void settleFolderOf(const QString& path) { settle(QFileInfo(path).absolutePath()
 
 QString nameAside(const QString& journal) { return journal + QStringLiteral(".alt"); }
 
-/// The journal of a killed process may hold data that is nowhere else: it is renamed, not deleted.
+/// The journal of a killed process may hold data that is nowhere else: rename it, don't delete it.
 bool putAside(const QString& journal) {
     const QString aside = nameAside(journal);
     const bool free = !QFile::exists(aside) || QFile::remove(aside);
     return free && QFile::rename(journal, aside);
 }
 
-/// One step, which only leads to a place on the same disk: from another one a copy beside the old file takes
-/// it.
+/// Moves a file in one step. That works only on one disk: from another disk, the file is first copied beside
+/// the target.
 std::error_code move(const QString& from, const QString& to) {
     std::error_code failure;
     std::filesystem::rename(from.toStdU16String(), to.toStdU16String(), failure);

@@ -36,7 +36,7 @@ QStringList addFields(cursors::Connection& file, const TableSpec& table) {
 }
 
 QStringList addAll(const QString& path, const QString& password) {
-    // What the file lacks keeps it from being opened in the ordinary way.
+    // Access::Create checks no tables; an ordinary opening would fail for the missing ones.
     cursors::Connection file(path, password, cursors::Connection::Access::Create);
     file.execute("BEGIN EXCLUSIVE");
     QStringList added;
@@ -73,7 +73,7 @@ void seedGroup(cursors::Connection& file) {
 
 void seedUser(cursors::Connection& file) {
     const QByteArray group = "(SELECT MIN(\"GNr\") FROM \"Gruppen\" WHERE \"Benutzerverwaltung\")";
-    // Two of one name and password would keep each other out.
+    // Two users with the same name and password would lock each other out, so an existing Admin is moved.
     file.execute("UPDATE \"Benutzer\" SET \"GNr\" = " + group +
                  " WHERE \"Name\" = 'Admin' COLLATE NOCASE AND \"Passwort\" = ''");
     if (file.changes() == 0) file.execute("INSERT INTO \"Benutzer\" SELECT NULL, 'Admin', '', " + group);

@@ -24,7 +24,7 @@ void PageSweep::sweep(int page) {
         m_likePages.push_back({page, std::move(tables)});
 }
 
-/// One row is mostly enough; the next ones are asked when it has too little in it to tell.
+/// The first row mostly decides. Later rows are read only if several tables fit.
 PageSweep::Candidates PageSweep::candidates(int page) {
     Candidates tables;
     m_pages.rowsOf(page, [&](const engine::Statement& row) {
@@ -35,8 +35,8 @@ PageSweep::Candidates PageSweep::candidates(int page) {
     return tables;
 }
 
-/// Inner pages lead to rows that their own pages show as well. A page whose first row is there already has
-/// nothing new: what is cut off from it shows at its own page.
+/// An inner page yields the same rows as its leaves. If its first row is saved already, skip it: its other
+/// rows come with their leaf pages.
 bool PageSweep::save(int page, const TableSpec& table) {
     if (isForPrinting(table)) return true;
     return m_pages.rowsOf(page, [&](const engine::Statement& row) { return note(table, row); });

@@ -6,19 +6,19 @@
 #include <QHash>
 #include <set>
 
-/// Saves the rows of every page into the tables to which they belong. Pages are not asked for their place in
-/// a table, which a damaged page between may have cut off, but for the looks of their rows. Where two tables'
-/// rows look the same, what is left of the library's list of tables tells them apart, and without it their
-/// order in the file, where tables begin in the order of the schema.
+/// Saves the rows of every page into the tables to which they belong. The table is recognised by the look of
+/// a page's rows, since damage may have cut the page off from its table. If rows fit several tables, the
+/// remains of sqlite_master decide; without them the order of pages does, as tables begin in the order of the
+/// schema.
 class PageSweep {
 public:
     PageSweep(engine::PageReader& pages, cursors::Connection& target)
         : m_pages(pages)
         , m_saved(target) {}
 
-    /// False if there was no row of ours.
+    /// Returns false if no row was found.
     bool run();
-    /// The numbers given out last, by the tables' names, as far as they are left.
+    /// The last numbers given out, by table, as far as they could be read.
     const QHash<QString, qint64>& counters() const { return m_counters; }
 
 private:
@@ -42,5 +42,5 @@ private:
     QHash<QString, qint64> m_beginnings;
     QHash<QString, qint64> m_counters;
     std::vector<LikePage> m_likePages;   ///< whose rows fit more than one table
-    std::set<const TableSpec*> m_closed; ///< nothing of these is missing
+    std::set<const TableSpec*> m_closed; ///< tables saved completely
 };

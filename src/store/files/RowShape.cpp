@@ -28,9 +28,9 @@ int fieldsOf(const engine::Statement& row) {
 
 Stored expected(FieldKind kind) { return kind == FieldKind::Text ? Stored::Text : Stored::Number; }
 
-/// How many fields hold what they should; -1 if the row can't be one of this table.
+/// The number of fields that are stored as expected, -1 if the row can't belong to the table.
 int likeness(const engine::Statement& row, int fields, const TableSpec& table) {
-    // The key of a table is the row's own number and stands nowhere else.
+    // A keyed table stores its key only as the row number, so the key's field is Null.
     const bool hasKeyElsewhere = row.stored(1) == Stored::Null;
     if (fields != static_cast<int>(table.fields.size()) || hasKeyElsewhere != table.keyed) return -1;
     int alike = 0;

@@ -5,13 +5,12 @@
 
 #include <vector>
 
-// Which table a row belongs to when nothing but the row itself is left.
+// Tells the table of a row by the row itself, when nothing else is left.
 
-/// The library's own list of tables and their first pages.
+/// SQLite's sqlite_master: tables and their first pages.
 const TableSpec& catalogueTable();
-/// The library's own list of the numbers that were given out last.
+/// SQLite's sqlite_sequence: the last numbers given out.
 const TableSpec& countersTable();
 
-/// The tables whose rows look most like this one, in the order of the schema; those two lists included. A row
-/// as PageReader shows it.
+/// The tables that fit a row from PageReader best, in the order of the schema, then the two above.
 std::vector<const TableSpec*> tablesOfRow(const engine::Statement& row);

@@ -15,7 +15,7 @@ constexpr qsizetype copiesKept = 10;
 
 constexpr QStringView timeFormat = u"yyyy-MM-dd HH.mm.ss";
 
-/// "uw01 2026-03-14 18.05.12": sorts by time, and every file system takes it.
+/// Names such as "uw01 2026-03-14 18.05.12", which sort by time and suit every file system.
 class CopyNames {
 public:
     CopyNames(const QString& file, const QString& folder, const QDateTime& time)
@@ -24,7 +24,7 @@ public:
         , m_ending(u'.' + QFileInfo(file).suffix())
         , m_time(time.toString(timeFormat)) {}
 
-    /// The copies that are there, by their names without the ending, oldest first.
+    /// The names of existing copies without the ending, oldest first.
     QStringList present() const {
         QStringList names;
         for (const QString& entry : entries(m_stem + u'*' + m_ending))
@@ -35,8 +35,7 @@ public:
         return names;
     }
 
-    /// A name for the copy of now; two of one second are told apart. What `label` says stands before the
-    /// time.
+    /// A new name: `label`, the time, and a number if another copy has that name.
     QString free(const QString& label = {}) const {
         int number = 1;
         const auto name = [&] { return m_stem + label + m_time + numbering(number); };
@@ -46,7 +45,7 @@ public:
 
     QString path(const QString& name) const { return m_folder.filePath(name + m_ending); }
 
-    /// What a process that was killed within QSaveFile has left of a copy.
+    /// Removes temporary files of QSaveFile that a killed process has left.
     void sweep(const QString& unfinished) const {
         for (const QString& entry : entries(QFileInfo(unfinished).fileName() + QStringLiteral(".??????")))
             QFile::remove(m_folder.filePath(entry));
@@ -57,7 +56,7 @@ private:
         return number < 2 ? QString() : QStringLiteral(" (%1)").arg(number);
     }
 
-    /// Exactly a name of free(): a user who wants to keep a copy writes a word behind it.
+    /// Only exact names of free(): users add a word to the names of copies that they keep.
     bool isOurs(const QString& name) const {
         const QString time = name.mid(m_stem.size(), timeFormat.size());
         const QString rest = name.mid(m_stem.size() + timeFormat.size());
@@ -69,7 +68,7 @@ private:
         return m_folder.entryList({pattern}, QDir::Files | QDir::CaseSensitive);
     }
 
-    /// The last name that the present second can have.
+    /// Sorts behind all names of the present second.
     QString newest() const { return m_stem + m_time + u'~'; }
 
     QDir m_folder;
@@ -82,8 +81,8 @@ QString unfinishedPath(const QString& file, const QString& folder) {
     return QDir(folder).filePath(QFileInfo(file).completeBaseName() + QStringLiteral(".neu"));
 }
 
-/// Makes the folder if it is missing, and takes away what killed processes left there. Gives the path at
-/// which a copy grows.
+/// Makes the folder if missing and removes leftovers of killed processes. Returns the path for the unfinished
+/// copy.
 QString prepareFolder(const QString& file, const QString& folder, const CopyNames& names) {
     if (!QDir(folder).exists() && !QDir().mkdir(folder)) throw runtimeError(RuntimeError::pathFailed);
     const QString unfinished = unfinishedPath(file, folder);
@@ -97,7 +96,7 @@ bool equals(const engine::RawContent& content, const QString& path) {
     return content.forEachChunk([&](const QByteArray& bytes) { return copy.read(bytes.size()) == bytes; });
 }
 
-/// Reads every page of a copy, each of which carries a check sum of its own.
+/// Reads every page of a copy. Each page has a checksum of its own.
 void requireSound(const QString& path, const QString& password) {
     cursors::Connection copy(path, password, cursors::Connection::Access::ReadOnly);
     if (!copy.isSound()) throw runtimeError(RuntimeError::damagedFile, path);
@@ -116,7 +115,7 @@ void keepSafetyCopy(const QString& file, const QString& password, const QString&
     const CopyNames names(file, folder, time);
     const QString unfinished = prepareFolder(file, folder, names);
     cursors::Connection original(file, password, cursors::Connection::Access::ReadOnly);
-    // Keeps others from writing until the copy is made.
+    // A read transaction keeps other processes from writing until the copy is made.
     original.execute("BEGIN");
     original.prepare("SELECT COUNT(*) FROM sqlite_master").step();
     const engine::RawContent content(original.handle());

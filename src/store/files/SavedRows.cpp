@@ -2,7 +2,7 @@
 
 namespace {
 
-/// The row's number stands for the key, which is no field of the row itself.
+/// A keyed table's key is the row number, not a field of the row.
 size_t firstField(const TableSpec& table) { return table.keyed ? 1 : 0; }
 
 QByteArray insertSql(const TableSpec& table) {

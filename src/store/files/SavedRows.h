@@ -4,15 +4,15 @@
 
 #include <map>
 
-/// The tables of the new file while rows are saved into them. A row comes as PageReader shows it.
+/// The tables of the new file during a salvage. Rows come from PageReader.
 class SavedRows {
 public:
     explicit SavedRows(cursors::Connection& target)
         : m_target(target) {}
 
-    /// False if there is a row of that number already.
+    /// Adds a row. Returns false if the table has a row of that number.
     bool add(const TableSpec& table, const engine::Statement& row);
-    /// Whether the table has this very row.
+    /// Whether the table has a row of the same number and fields.
     bool holds(const TableSpec& table, const engine::Statement& row);
     bool hasNumber(const TableSpec& table, const engine::Statement& row);
     bool isEmpty() const { return m_count == 0; }

@@ -4,7 +4,7 @@
 
 #include <QString>
 
-/// The path of a database file in the making. Unless it is kept, the file is removed when this ends.
+/// The path of a database file in the making. The destructor removes the file unless keep() was called.
 class UnfinishedPath {
 public:
     /// Error 3204 if the file exists, 3044 if its folder doesn't.
@@ -21,15 +21,15 @@ private:
     bool m_kept = false;
 };
 
-/// A database file in the making, in one transaction. Unless it is finished, it is removed when this ends.
+/// A database file in the making, written in one transaction. The destructor removes it unless finish() has
+/// succeeded.
 class UnfinishedFile {
 public:
     /// Errors as for UnfinishedPath.
     UnfinishedFile(const QString& path, const QString& password);
 
     cursors::Connection& connection() { return m_connection; }
-    /// Writes everything to the disk, the folder's entry included, and lets go of the file, which stays.
-    /// Error 3343 if it can't be read there.
+    /// Commits, reads the file back from the disk, closes and keeps it. Error 3343 if it can't be read back.
     void finish();
 
 private:
