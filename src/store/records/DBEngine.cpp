@@ -14,8 +14,7 @@ Database Workspace::OpenDatabase(const QString& path, bool, bool readOnly, const
     return Database(connection);
 }
 
-/// The connection lives as long as a database or a cursor of it does, so a reference to it is good for a
-/// call.
+/// A Database or cursor keeps the connection alive, so the reference is good for one call.
 cursors::Connection& Workspace::opened() const {
     const auto connection = m_opened->lock();
     if (connection == nullptr || !connection->isOpen()) throw runtimeError(RuntimeError::objectNotSet);

@@ -4,23 +4,22 @@
 
 #include <memory>
 
-/// The workspace: the place from which databases are opened. A value with shared state.
+/// Opens databases and holds transactions. Copies share their state.
 class Workspace {
 public:
     Workspace();
 
-    /// Opens a file for shared reading and writing. `connect` carries the password as ";pwd=...".
-    /// Errors: 3024 there is no such file; 3031 the password does not open a file that has the shape of one
-    /// of ours; 3343 the file is empty, cut short or otherwise damaged; 3045 another process holds it; 3051
-    /// it may not be read.
+    /// Opens a file for shared reading and writing. `connect` has the password as ";pwd=...". Errors: 3024 if
+    /// there is no such file; 3031 for a wrong password; 3343 if the file is empty, cut short or otherwise
+    /// damaged; 3045 if another process locks it; 3051 if it can't be read.
     Database OpenDatabase(const QString& path, bool options, bool readOnly, const QString& connect);
 
-    // An action of more than one routine, in the database that was opened last: what is written between
-    // BeginTrans and CommitTrans is in the file as a whole or not at all, even if cursors are closed in
-    // between. Error 91 without an open database, 3034 without a BeginTrans.
-    void BeginTrans(); ///< 3260 while another process writes; 3251 within another one
-    /// Throws what kept it from the disk, in which case all is taken back. A cursor that has written and is
-    /// still open puts it off until its end.
+    // A transaction over several routines, in the database opened last. All writes between BeginTrans and
+    // CommitTrans are in the file as a whole or not at all, even if cursors are closed in between. Error 91
+    // without an open database, 3034 without a BeginTrans.
+    void BeginTrans(); ///< 3260 if another process writes, 3251 if already begun
+    /// If the commit fails, takes everything back and throws the failure. If a cursor with writes is still
+    /// open, the commit waits until it is closed.
     void CommitTrans();
     void Rollback();
 
@@ -29,7 +28,7 @@ private:
     std::shared_ptr<std::weak_ptr<cursors::Connection>> m_opened;
 };
 
-/// Keeps other processes from a database file until it is destroyed.
+/// Keeps other processes from a database file until destroyed.
 using FileHold = std::shared_ptr<const void>;
 
 /// The store's entry point.
@@ -37,12 +36,15 @@ class DBEngine {
 public:
     /// There is one workspace, number 0.
     static Workspace Workspaces(int index);
-    /// Writes a compact, verified copy of a closed file, whole on disk before this returns. Hold the result
-    /// until the copy is in the source's place, or what another process writes meanwhile is lost. The target
-    /// must not exist (3204) and its folder must (3044). A damaged source (3343) is salvaged only if there is
-    /// a folder in which to keep it (`keptIn`, made if missing): the copy then has all rows on whole pages,
-    /// and the record of the parameters if there was none; 3056 if there are no rows. 3043 if the disk does
-    /// not give a page.
+    /// Writes a compact, verified copy of a closed file and flushes it to the disk. Hold the result until the
+    /// copy has taken the source's place, or the writes of other processes in between are lost.
+    ///
+    /// A damaged source is error 3343 unless `keptIn` names a folder, which is made if missing. The damaged
+    /// file is then kept there, and the copy has all rows on undamaged pages, and a row of `System` if that
+    /// was lost.
+    ///
+    /// Errors: 3204 if the target exists, 3044 if its folder does not, 3056 if no rows can be saved, 3043 if
+    /// the disk can't be read.
     static FileHold CompactDatabase(const QString& source, const QString& target, const QString& password,
                                     const QString& keptIn = {});
 };

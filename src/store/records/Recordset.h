@@ -12,13 +12,12 @@ namespace cursors {
 class Cursor;
 }
 
-/// A cursor over a table or over the result of a SELECT. A value with shared state: copies speak of the same
-/// cursor, the last one closes it. Any use of an empty or closed one is error 91; reading without a current
-/// row is 3021; an unknown field name is 3265. Names compare without regard to case.
+/// A cursor over a table or the result of a SELECT. Copies share the cursor; the end of the last copy closes
+/// it. Using an empty or closed one is error 91, reading without a current row 3021, an unknown field name
+/// 3265. Names compare without regard to case.
 class Recordset {
 public:
-    /// One field of a cursor. Reads the row that is current at the moment of asking, so it can be fetched
-    /// once before a loop.
+    /// One field of a cursor. Always reads the current row, so it can be fetched once before a loop.
     class Field {
     public:
         /// Error 3021 without a current row, 91 when the cursor has been closed.
@@ -36,43 +35,43 @@ public:
     Recordset() = default;
     explicit Recordset(std::shared_ptr<cursors::Cursor> cursor);
 
-    /// Orders a table cursor by an index. "PrimaryKey" is the only one there is; others are error 3015.
+    /// Chooses the index for Seek in a table. "PrimaryKey" is the only one; another name is error 3015.
     void Index(const QString& name);
-    /// Goes to the row whose key equals the value; "=" is the only comparison. Without a hit NoMatch is true
-    /// and there is no current row, as after a Seek that fails. Needs Index first (3019).
+    /// Goes to the row with this key. `comparison` must be "=". Without a hit, and after an error, NoMatch is
+    /// true and there is no current row. Error 3019 if Index was not called before.
     void Seek(const QString& comparison, const Value& key);
     bool NoMatch() const;
 
-    // After a move that fails the cursor is at its end.
+    // A failed move leaves the cursor at its end.
     void MoveFirst(); ///< 3021 on an empty cursor
     void MoveLast();  ///< 3021 on an empty cursor
-    void MoveNext();  ///< 3021 when already at the end
+    void MoveNext();  ///< 3021 if already at the end
     bool Eof() const;
     bool Bof() const;
-    /// Rows of the table, counted at each call, or, of a query, rows reached so far: 0 only if there is none.
+    /// For a table the number of rows, counted at each call. For a query the number of rows reached so far,
+    /// which is 0 only if there are none.
     qint32 RecordCount() const;
-    /// Zero-based place of the current row; -1 without one. In a table the rows before it are counted at each
-    /// call.
+    /// Zero-based place of the current row, -1 without one. In a table each call counts the rows before it.
     qint32 AbsolutePosition() const;
 
     Field Fields(const QString& name) const;
-    /// All of them, in the order of the table or of the SELECT.
+    /// All fields in the order of the table or SELECT.
     std::vector<Field> Fields() const;
     QStringList FieldNames() const;
 
     void AddNew();
     void Edit(); ///< needs a current row (3021)
-    /// Sets a field of the copy buffer; 3020 without AddNew or Edit before it.
+    /// Sets a field of the copy buffer. Error 3020 without AddNew or Edit.
     void Collect(const QString& name, const Value& value);
     Value Collect(const QString& name) const { return Fields(name).Value(); }
-    /// Writes the buffer. After AddNew the current row stays what it was before.
+    /// Writes the copy buffer. AddNew does not change the current row.
     void Update();
     void Delete();
-    /// Ends the cursor. If it was the last one that has written, this is where the user action reaches the
-    /// disk, and where a failure to do so is reported.
+    /// Closes the cursor. If it was the last open one with writes, commits the user's action and throws if
+    /// that fails.
     void Close();
-    /// Ends the cursor and takes the user action back, as the end of a cursor that has written and was never
-    /// closed does. Throws what has undone the action already.
+    /// Closes the cursor and takes the user's action back, as for a cursor with writes that was never closed.
+    /// If a failure has undone the action already, throws that failure.
     void Abandon();
 
 private:

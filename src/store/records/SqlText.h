@@ -2,10 +2,9 @@
 
 #include <QString>
 
-/// A text between two apostrophes, as the routines put it into their statements.
-/// There is no escaping: an apostrophe in the text would end the literal, and what follows it would be read
-/// as SQL. Such a text is refused here, with the error of an invalid statement (3075), so that nothing typed
-/// into a box can ever widen a statement.
+/// The text between two apostrophes, for use in a statement. Error 3075 if it contains an apostrophe: that
+/// would end the literal, and the text behind it would be read as SQL. So typed text can never extend a
+/// statement.
 QString quoted(const QString& text);
-/// As above for a text that no error may show.
+/// As above for a password: the error does not show the text.
 QString quotedSecret(const QString& text);

@@ -14,7 +14,7 @@ Transaction::~Transaction() {
     try {
         m_workspace.Rollback();
     } catch (const RuntimeError&) {
-        // The database has been closed meanwhile, which takes back what was not committed as well.
+        // The database was closed meanwhile, which has taken uncommitted writes back.
     }
 }
 

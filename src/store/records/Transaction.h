@@ -2,8 +2,8 @@
 
 #include "DBEngine.h"
 
-/// Holds several routines' writes together as one action. One that ends without having been committed is
-/// taken back: by an error, or because the program ends in the middle.
+/// Joins the writes of several routines into one action. The destructor takes the action back unless commit()
+/// was called, for instance after an error.
 class Transaction {
 public:
     /// Errors as for Workspace::BeginTrans.
