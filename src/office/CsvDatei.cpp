@@ -14,8 +14,8 @@ namespace {
 
 constexpr int bufferSize = 64 * 1024;
 
-/// As the code page has them. It agrees with the first signs of Unicode but for a gap, so that German texts
-/// need no table.
+/// Appends the text in Windows-1252. The code page equals the first 256 characters of Unicode but for a gap,
+/// so that German texts need no table.
 void appendEncoded(std::string& buffer, QStringView text) {
     constexpr char16_t gapBegin = 0x80, gapEnd = 0xa0, beyond = 0x100;
     const std::size_t before = buffer.size();
@@ -30,7 +30,7 @@ void appendEncoded(std::string& buffer, QStringView text) {
     }
 }
 
-/// Where the platform does not tell, it counts as running.
+/// Assumes that the office program is running if the platform has no /proc.
 bool isOfficeRunning() {
     const QDir processes(u"/proc"_qs);
     if (!processes.exists(u"self"_qs)) return true;
@@ -41,8 +41,8 @@ bool isOfficeRunning() {
     });
 }
 
-/// The office leaves a lock beside a file that it has open; writing below it would be lost with its next
-/// save. A lock that a crash has left behind must not keep the file from being written for ever.
+/// LibreOffice keeps a lock file beside an open file. If we wrote then, its next save would overwrite our
+/// content. A lock left by a crash must not block the file for ever.
 bool isHeldOpen(const QString& path) {
     const QFileInfo file(path);
     return QFileInfo::exists(file.path() + u"/.~lock."_qs + file.fileName() + u'#') && isOfficeRunning();
@@ -60,7 +60,7 @@ CsvDatei::CsvDatei(const QString& path)
 }
 
 CsvDatei::~CsvDatei() {
-    // Unclosed because of an error, which is told already.
+    // Open only after an error, which has been reported already.
     if (m_file.isOpen()) m_file.write(m_buffer.data(), qsizetype(m_buffer.size()));
 }
 
@@ -87,7 +87,7 @@ void CsvDatei::writeField(const Value& field) {
     writeText(field.isNull() ? QString() : CStr(field));
 }
 
-// Half of a list are whole numbers: they need no text of their own on the way.
+// Half of a list's cells are whole numbers: write them without a QString.
 void CsvDatei::writeField(const Value& cell, int length, Fill fill) {
     if (cell.kind() != Value::Kind::Long) {
         const QString text = cell.isNull() ? QString() : CStr(cell);

@@ -6,17 +6,17 @@
 #include <QString>
 #include <string>
 
-/// A file for an office program: fields closed by ";", lines by carriage return and line feed, in
-/// Windows-1252, nothing quoted. Blanks at the end of a field are cut off. A field may be given a fixed
-/// length, beyond which it is cut off; the blanks that fill it up stay only where asked for.
-/// Any failure is an error: 76 the folder is missing, 70 the file is not to be written or held open by the
-/// office program, 61 the disk is full. What was written before an error stays in the file, whoever's error
-/// it is.
+/// A file for an office program in Windows-1252. Each field ends with ";", each line with carriage return and
+/// line feed; nothing is quoted. Spaces at the end of a field are removed. A field with a fixed length is cut
+/// to it; with Fill::Padded it is filled up with spaces.
+///
+/// Error 76 if the folder is missing, 70 if the file can't be written or is open in the office program, 61 if
+/// the disk is full. After any error, the caller's own too, lines written before stay in the file.
 class CsvDatei {
 public:
     enum class Fill { Trimmed, Padded };
 
-    /// Takes the place of a file that is there.
+    /// Overwrites an existing file.
     explicit CsvDatei(const QString& path);
     ~CsvDatei();
     CsvDatei(const CsvDatei&) = delete;
@@ -25,9 +25,9 @@ public:
     void writeHead(const QString& head);
     void writeText(QStringView text);
     void writeText(QStringView text, int length, Fill fill = Fill::Trimmed);
-    /// A field as text, dates in the short form; Null is empty.
+    /// A field of a record as text, with dates in the short form. Null is empty.
     void writeField(const Value& field);
-    /// A cell as it stands on the screen; Null is empty.
+    /// A grid's cell as shown on the screen. Null is empty.
     void writeField(const Value& cell, int length, Fill fill = Fill::Trimmed);
     void endLine();
     void close();

@@ -12,8 +12,7 @@ public:
     explicit Calc(QString program)
         : m_program(std::move(program)) {}
 
-    // It is visible from the start. The breadth of columns can't be told it from outside: they come as its
-    // import makes them.
+    // Calc is always visible. It can't be told column widths from outside: its import chooses them.
     void setVisible(bool) override {}
     void autoFitColumns(const QString&) override {}
 

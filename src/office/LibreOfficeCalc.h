@@ -2,11 +2,11 @@
 
 #include "Spreadsheet.h"
 
-/// LibreOffice as the spreadsheet, where its `soffice` is on the PATH. It is started for each workbook and
-/// not waited for; if it runs already, it takes the workbook over by itself.
+/// LibreOffice as the spreadsheet program, if its `soffice` is on the PATH. Starts it for each workbook
+/// without waiting for it. A running LibreOffice takes over the workbook by itself.
 class LibreOfficeCalc final : public OfficeProgram<Spreadsheet> {
 public:
-    /// It offers no object of a running program: always error 429.
+    /// Always error 429: LibreOffice gives no access to a running program.
     std::unique_ptr<Spreadsheet> running() override;
     std::unique_ptr<Spreadsheet> start() override;
 

@@ -23,7 +23,7 @@ void write(const QString& path, const QByteArray& content) {
     if (!file.commit()) throw runtimeError(RuntimeError::diskFull);
 }
 
-/// The file that holds the letter, written unless it is there already. No file is overwritten.
+/// Writes the letter unless a file with just this content exists. Returns the path. Overwrites no file.
 QString storedLetter(const QDir& folder, const QByteArray& letter) {
     QString path = folder.filePath(u"Serienbrief.odt"_qs);
     for (int number = 2; QFileInfo::exists(path); ++number) {
@@ -34,8 +34,8 @@ QString storedLetter(const QDir& folder, const QByteArray& letter) {
     return path;
 }
 
-/// The drivers for data in text files come in a package of their own, beside the one of the drivers' base. An
-/// office whose files are divided in another way is given the benefit of the doubt.
+/// Debian packs the drivers for text files separately from the base of the drivers (libfilelo.so). An
+/// installation without that base is divided differently and counts as complete.
 bool lacksDatabasePart(const QString& program) {
     const QDir parts = QFileInfo(QFileInfo(program).canonicalFilePath()).dir();
     return parts.exists(u"libfilelo.so"_qs) &&
@@ -43,7 +43,7 @@ bool lacksDatabasePart(const QString& program) {
              parts.exists(u"libdbaxmllo.so"_qs));
 }
 
-/// An office of which only the spreadsheet was installed opens no letter.
+/// LibreOffice without Writer can't open a letter.
 bool lacksWriter(const QString& program) {
     const QDir parts = QFileInfo(QFileInfo(program).canonicalFilePath()).dir();
     return parts.exists(u"libfilelo.so"_qs) && !parts.exists(u"libswlo.so"_qs);
@@ -62,14 +62,14 @@ public:
     explicit Writer(QString program)
         : m_program(std::move(program)) {}
 
-    // It is visible from the start, every letter with a data source is a form letter, and a new document is
-    // open for editing.
+    // Writer needs none of these: it is always visible, a letter with a data source is a form letter, and a
+    // new document is open for editing.
     void setVisible(bool) override {}
     void setMainDocumentType(int) override {}
     void editMainDocument() override {}
 
     void addDocument() override { m_letter = {}; }
-    // Of what a data source can be told, only its name means anything to a file that is linked to.
+    // A linked file needs only the name; the other settings have no meaning for it.
     void openDataSource(const MailMergeSource& source) override { m_dataFile = source.name; }
     void typeText(const QString& text) override { m_letter.typeText(text); }
     void typeParagraph() override { m_letter.typeParagraph(); }

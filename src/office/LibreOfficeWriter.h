@@ -2,19 +2,18 @@
 
 #include "WordProcessor.h"
 
-/// LibreOffice as the word processor, where its `soffice` is on the PATH. The document becomes a file beside
-/// its data source, since a letter finds its data by that neighbourhood. complete() stores it, release()
-/// opens it. Nothing in the user's office profile is touched.
+/// LibreOffice as the word processor, if its `soffice` is on the PATH. complete() stores the letter as a file
+/// in the folder of its data source, because it finds the data by that. release() opens it. The user's
+/// LibreOffice profile is never changed.
 ///
-/// The file is "Serienbrief.odt". One that is there already is opened again as long as it holds the letter
-/// just as it would be written; else it is the user's own work and stays, and the letter becomes
-/// "Serienbrief 2.odt" and so on.
+/// The file is "Serienbrief.odt". An existing file is used again if its content is the same. Else it is the
+/// user's work and stays, and the letter becomes "Serienbrief 2.odt" and so on.
 ///
-/// complete() tells of an office without the part that reads the data, and fails where the file can't be
+/// complete() reports a LibreOffice without the part that reads the data. Error 70 or 61 if the file can't be
 /// written.
 class LibreOfficeWriter final : public OfficeProgram<WordProcessor> {
 public:
-    /// It offers no object of a running program: always error 429.
+    /// Always error 429: LibreOffice gives no access to a running program.
     std::unique_ptr<WordProcessor> running() override;
     std::unique_ptr<WordProcessor> start() override;
 };

@@ -7,7 +7,8 @@
 
 namespace {
 
-/// Blanks in a row, or at a line's begin, would be lost as bare signs.
+/// Writes each space as an element: as plain characters, several in a row or at the beginning of a line would
+/// be lost.
 void writeText(QXmlStreamWriter& xml, const QString& text) {
     for (const QChar sign : text) {
         if (sign == u' ')
@@ -40,7 +41,7 @@ void writeDefaultStyle(QXmlStreamWriter& xml) {
     xml.writeEndElement();
 }
 
-/// German letter paper: A4, the address on the left with room for the holes.
+/// German letter paper: A4, with space for the holes on the left.
 void writePage(QXmlStreamWriter& xml) {
     xml.writeStartElement(u"office:automatic-styles"_qs);
     xml.writeStartElement(u"style:page-layout"_qs);

@@ -6,15 +6,15 @@
 
 class QXmlStreamWriter;
 
-/// A form letter as it is being typed: paragraphs of text and of fields that the merge fills.
+/// A form letter: paragraphs of text and of fields that the mail merge fills.
 class LibreOfficeWriterLetter {
 public:
     void typeText(const QString& text);
     void typeParagraph();
     void insertField(const QString& name);
 
-    /// The letter as an OpenDocument file that takes its records from the data file beside it. Error 53 if
-    /// that can't be read.
+    /// The letter as an OpenDocument file, which takes its records from the data file. Store both in the same
+    /// folder. Error 53 if the data file can't be read.
     QByteArray package(const QString& dataFile) const;
 
 private:

@@ -25,7 +25,7 @@ public:
         require(m_bytes != nullptr);
         m_archive = zip_open_from_source(m_bytes.get(), ZIP_TRUNCATE, nullptr);
         require(m_archive != nullptr);
-        zip_source_keep(m_bytes.get()); // the archive takes one share, this object keeps the other
+        zip_source_keep(m_bytes.get()); // the archive owns one reference, this object the other
     }
     ~Archive() {
         if (m_archive != nullptr) zip_discard(m_archive);
@@ -33,14 +33,14 @@ public:
     Archive(const Archive&) = delete;
     Archive& operator=(const Archive&) = delete;
 
-    /// The content must live until the archive is finished.
+    /// The content must exist until finish().
     void add(const char* name, const QByteArray& content, bool compressed) {
         Source source(
             zip_source_buffer(m_archive, content.constData(), static_cast<zip_uint64_t>(content.size()), 0));
         require(source != nullptr);
         const zip_int64_t index = zip_file_add(m_archive, name, source.get(), ZIP_FL_ENC_UTF_8);
         require(index >= 0);
-        static_cast<void>(source.release()); // taken over
+        static_cast<void>(source.release()); // the archive owns it now
         const auto place = static_cast<zip_uint64_t>(index);
         zip_set_file_compression(m_archive, place, compressed ? ZIP_CM_DEFLATE : ZIP_CM_STORE, 0);
         zip_file_set_dostime(m_archive, place, 0, firstDosDay, 0);
@@ -117,7 +117,7 @@ QByteArray packageXml(const QString& root, const std::function<void(QXmlStreamWr
 QByteArray officePackage(const QByteArray& mediaType, const std::vector<PackagePart>& parts) {
     const QByteArray listed = manifest(mediaType, parts);
     Archive archive;
-    // First and uncompressed, where who asks for the kind of a file looks for it.
+    // First and uncompressed, where programs look to recognise the file's type.
     archive.add("mimetype", mediaType, false);
     for (const PackagePart& part : parts)
         if (!part.content.isEmpty()) archive.add(part.name, part.content, true);

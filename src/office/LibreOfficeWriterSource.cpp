@@ -20,7 +20,7 @@ QStringList namesOfFields(const QString& dataFile) {
 
 QString quoted(QString text, QChar mark) { return mark + text.replace(mark, QString(2, mark)) + mark; }
 
-/// Columns without a name are C1, C2 and so on.
+/// LibreOffice calls columns without a header line C1, C2 and so on.
 QString selectOf(const QString& dataFile) {
     const QStringList names = namesOfFields(dataFile);
     QStringList columns;
@@ -48,7 +48,7 @@ void writeSetting(QXmlStreamWriter& xml, const QString& key, const QString& type
     xml.writeEndElement();
 }
 
-/// Links lead out of the embedded database and then out of the letter.
+/// The link goes up twice: out of the embedded database, then out of the letter.
 void writeConnection(QXmlStreamWriter& xml, const QString& ending) {
     xml.writeStartElement(u"db:connection-data"_qs);
     xml.writeStartElement(u"db:database-description"_qs);

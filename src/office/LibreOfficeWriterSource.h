@@ -3,21 +3,21 @@
 #include <QByteArray>
 #include <QString>
 
-/// The data source of a letter, embedded in it: a file of fields closed by ";" in Windows-1252 that lies in
-/// the letter's own folder, its first line being the names of the fields.
+/// The data source embedded in a letter. It reads a file in the letter's folder: fields ended by ";",
+/// Windows-1252, the fields' names in the first line.
 ///
-/// The office guesses from the first lines what kind a column is, and would make 1067 of the postal code
-/// 01067. So it is told to take the line of names for a record, which makes every column a text, and the
-/// letter takes its records from a query that gives the columns their names and leaves that record out.
+/// LibreOffice guesses a column's type from the first lines and would read the postal code 01067 as 1067. So
+/// the line of names is declared a record, which makes every column text. The letter then reads from a query
+/// that renames the columns and omits that record.
 namespace LibreOfficeWriterSource {
 
-/// The name under which the letter's fields and settings speak of it, and that of the query.
+/// The names of the data source and of its query, as used in the letter's fields and settings.
 QString name();
 QString query();
 
 /// `settings.xml` of the letter.
 QByteArray settings();
-/// `content.xml` of the embedded database. Error 53 if the file can't be read.
+/// `content.xml` of the embedded database. Error 53 if the data file can't be read.
 QByteArray database(const QString& dataFile);
 
 } // namespace LibreOfficeWriterSource

@@ -4,15 +4,15 @@
 
 #include <memory>
 
-/// The way to an office program of the machine. Reached is what the routines ask of one that has been
-/// reached, such as Spreadsheet.
+/// Reaches an office program on the computer. `Reached` is the interface to the reached program, such as
+/// Spreadsheet.
 template<typename Reached>
 class OfficeProgram {
 public:
     virtual ~OfficeProgram() = default;
-    /// The one that is running; error 429 if none is.
+    /// The running program. Error 429 if none is running.
     virtual std::unique_ptr<Reached> running() = 0;
-    /// A new one; error 429 if there is none on the machine.
+    /// Starts the program. Error 429 if it is not installed.
     virtual std::unique_ptr<Reached> start() = 0;
 };
 
@@ -24,15 +24,14 @@ OfficeProgram<Reached>*& currentOfficeProgram() {
 }
 } // namespace detail
 
-/// Sets the implementation; it must outlive its use. With null there is none of this kind.
+/// Sets the implementation, which must outlive its use. Null: there is no program of this kind.
 template<typename Reached>
 void setOfficeProgram(OfficeProgram<Reached>* program) {
     detail::currentOfficeProgram<Reached>() = program;
 }
 
-/// The object of an office program that is running or, where none is (error 429), of a new one. Any other
-/// error of the running one is passed on: a second one would not help. Error 429 if there is no program of
-/// this kind.
+/// The running program or, if none is running (error 429), a new one. Passes on any other error of the
+/// running one, as starting another would not help. Error 429 if there is no program of this kind.
 template<typename Reached>
 std::unique_ptr<Reached> runningOrNew() {
     OfficeProgram<Reached>* program = detail::currentOfficeProgram<Reached>();

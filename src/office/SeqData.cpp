@@ -6,7 +6,7 @@ namespace SeqData {
 
 QString path(const QString& programFolder, const QString& name) {
     const QDir folder(programFolder + u"/SeqData"_qs);
-    // In a fixed order: of two files that differ in capitals only, each spelling must mean the same one.
+    // Sorted: if two files differ only in case, every spelling must give the same one.
     for (const QString& entry : folder.entryList(QDir::Files | QDir::Hidden, QDir::Name))
         if (entry.compare(name, Qt::CaseInsensitive) == 0) return folder.filePath(entry);
     return folder.filePath(name);

@@ -2,11 +2,11 @@
 
 #include <QString>
 
-/// The folder for the files that go to the office programs.
+/// The folder for files to the office programs.
 namespace SeqData {
 
-/// The path of a file in the SeqData of a program folder. The name means a file that is there already in
-/// other capitals too, since the routines themselves write one file's name in several ways.
+/// The path of a file in the folder SeqData of the program folder. Finds an existing file without regard to
+/// case, since the routines spell the same name in several ways.
 QString path(const QString& programFolder, const QString& name);
 
 } // namespace SeqData

@@ -4,12 +4,12 @@
 
 #include <QString>
 
-/// A spreadsheet program that has been reached: what the routines ask of it.
+/// A running spreadsheet program, as the routines use it.
 class Spreadsheet {
 public:
     virtual ~Spreadsheet() = default;
     virtual void setVisible(bool on) = 0;
     virtual void openWorkbook(const QString& fileName) = 0;
-    /// Makes the columns of a range such as "A:A" as wide as their content.
+    /// Fits the width of columns to their content. `range` is for instance "A:A".
     virtual void autoFitColumns(const QString& range) = 0;
 };

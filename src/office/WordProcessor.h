@@ -4,9 +4,9 @@
 
 #include <QString>
 
-/// Where a mail merge takes its records from, with all that the opening of a data source can be told.
+/// The source of a mail merge's records, with all options for opening it.
 struct MailMergeSource {
-    QString name; ///< full path of the file; its first line holds the names of the fields
+    QString name; ///< full path of the file, whose first line has the names of the fields
     bool confirmConversions = false;
     bool readOnly = false;
     bool linkToSource = false;
@@ -16,14 +16,14 @@ struct MailMergeSource {
     QString writePasswordDocument;
     QString writePasswordTemplate;
     bool revert = false;
-    int format = 0; ///< 0: the program finds out by itself
+    int format = 0; ///< 0: the program detects it
     QString connection;
     QString sqlStatement;
     QString sqlStatement1;
 };
 
-/// A word processor that has been reached: what the routines ask of it. Text and fields go where the
-/// selection is, which is behind what was typed last.
+/// A running word processor, as the routines use it. Text and fields are inserted at the selection, which is
+/// behind what was typed last.
 class WordProcessor {
 public:
     virtual ~WordProcessor() = default;
@@ -35,9 +35,9 @@ public:
     virtual void typeText(const QString& text) = 0;
     virtual void typeParagraph() = 0;
     virtual void insertField(const QString& name) = 0;
-    /// Makes the document ready to be shown. Returns what the user must know before that, empty for nothing.
-    /// Error if the document can't be stored.
+    /// Call when everything is typed. Prepares the document to be shown. Returns a message for the user,
+    /// empty if there is none. Error if the document can't be stored.
     virtual QString complete() { return {}; }
-    /// The last step: the document is the user's from here on.
+    /// Call last. From then on the document belongs to the user.
     virtual void release() = 0;
 };
