@@ -2,8 +2,8 @@
 
 #include <QDateTime>
 
-/// The only source of today's date and the time, one for the whole program: the real one in main(), a fixed
-/// one in tests.
+/// The only source of the date and time in the whole program: the system's clock in main(), a fixed one in
+/// tests.
 class Clock {
 public:
     virtual ~Clock() = default;
@@ -15,7 +15,7 @@ public:
     QDateTime now() const override { return QDateTime::currentDateTime(); }
 };
 
-/// Sets the clock, to be done before now() and today(); it must outlive its use. Returns the one before.
+/// Sets the clock, which must outlive its use. Call before now() and today(). Returns the previous clock.
 const Clock* setClock(const Clock* clock);
 QDateTime now();
 inline QDate today() { return now().date(); }

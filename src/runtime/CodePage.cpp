@@ -6,9 +6,9 @@
 
 namespace {
 
-// Qt leaves all but the Unicode encodings and Latin-1 to libraries that need not be there at run time. The
-// code page is Latin-1 but for these 32 places. The five that it leaves undefined stand for themselves, so
-// that no byte of a file is lost on the way in and out again.
+// Windows-1252 is Latin-1 except for these 32 places. Qt itself knows only Latin-1 and the Unicode encodings;
+// the others need libraries that may be missing at run time. The five undefined places map to themselves, so
+// that no byte of a file is lost by reading and writing it.
 constexpr unsigned firstSpecial = 0x80;
 constexpr std::array<char16_t, 32> specials = {
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
@@ -40,7 +40,7 @@ struct Likeness {
     char byte;
 };
 
-// Letters of names in Europe that are no letter and mark to Unicode: their stroke is part of them.
+// Letters in European names that Unicode does not decompose, since their stroke is part of the letter.
 constexpr std::array<Likeness, 10> likenesses = {{{u'Đ', 'D'},
                                                   {u'đ', 'd'},
                                                   {u'Ħ', 'H'},
@@ -52,8 +52,8 @@ constexpr std::array<Likeness, 10> likenesses = {{{u'Đ', 'D'},
                                                   {u'ŧ', 't'},
                                                   {u'ẞ', '\xDF'}}};
 
-/// A letter with a mark that the code page does not have loses the mark, not itself: a letter to Mr Kovac
-/// arrives. Where there are several marks they go one by one.
+/// The byte of the character, else of its letter without the marks, so that a letter to Mr Kovač still
+/// arrives. Removes several marks one by one.
 char nearestByteOf(QChar sign) {
     if (const auto byte = byteOf(sign.unicode())) return *byte;
     if (sign.decompositionTag() == QChar::Canonical) return nearestByteOf(sign.decomposition().front());
@@ -65,7 +65,7 @@ char nearestByteOf(QChar sign) {
 } // namespace
 
 QByteArray toWindows1252(const QString& given) {
-    // A letter and its mark may come as two signs, as other systems write them.
+    // Other systems may write a letter and its mark as two characters.
     const QString text = given.normalized(QString::NormalizationForm_C);
     QByteArray bytes;
     bytes.reserve(text.size());

@@ -3,12 +3,13 @@
 #include <QByteArray>
 #include <QString>
 
-// Files for the office programs are written in Windows-1252, the code page they expect on a German machine.
+// Conversion to and from Windows-1252, in which files for the office programs are written: they expect that
+// code page on a German computer.
 
-/// A letter whose marks or stroke the code page lacks loses them; what else it lacks becomes "?", one for
-/// each character (a surrogate pair is one).
+/// A letter that the code page lacks loses its marks or stroke. Any other character that it lacks becomes one
+/// "?", a surrogate pair too.
 QByteArray toWindows1252(const QString& text);
 
-/// Every byte has a character; the five bytes that the code page leaves undefined become the control
-/// characters of the same number, and toWindows1252 turns them back.
+/// Every byte gives a character. The five undefined bytes become the control characters of the same number;
+/// toWindows1252() reverses that.
 QString fromWindows1252(const QByteArray& bytes);

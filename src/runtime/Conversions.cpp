@@ -18,7 +18,7 @@ double numberOf(const QString& text) {
 
 template<typename Whole>
 Whole rounded(const Value& value) {
-    // Nobody changes the rounding mode, and its default is half to even.
+    // Rounds half to even: that is the default mode, and the program never changes it.
     const double whole = std::nearbyint(CDbl(value));
     const bool fits =
         whole >= std::numeric_limits<Whole>::min() && whole <= std::numeric_limits<Whole>::max();

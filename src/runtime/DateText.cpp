@@ -19,7 +19,7 @@ struct Part {
     bool isFullYear() const { return digits == 4; }
 };
 
-/// What stands between the signs of a day or a time, all of them the same sign.
+/// The parts of a day or a time. `divider` is the character between them, the same everywhere.
 struct Parts {
     std::array<Part, 3> items;
     size_t count = 0;
@@ -87,7 +87,7 @@ private:
         return true;
     }
 
-    /// Blanks alone divide only there: 24. Dezember 1970.
+    /// A space alone divides only beside a month's name: 24. Dezember 1970.
     bool isBesideName() const {
         return m_parts.items[m_parts.count - 1].isName() || m_rest.front().isLetter();
     }
@@ -102,7 +102,7 @@ int yearOf(const Part& part) {
     return part.value < 30 ? 2000 + part.value : 1900 + part.value;
 }
 
-/// Day and month change places where only that makes a date; a name can't be a day.
+/// Swaps day and month if only that makes a date. A month's name is never taken as day.
 QDate dayOf(int year, const Part& month, const Part& day) {
     const QDate asWritten(year, month.value, day.value);
     if (asWritten.isValid() || month.isName()) return asWritten;
@@ -135,8 +135,8 @@ QDate dayFromText(QStringView text) {
     return day.isValid() && day.year() >= 100 ? day : QDate();
 }
 
-/// Invalid if the text is no time. The seconds may have four digits, because the routines write the empty
-/// date as 00:00:0000.
+/// Invalid if the text is no time. The seconds may have four digits, since the routines write the empty date
+/// as 00:00:0000.
 QTime timeFromText(QStringView text) {
     const auto parts = PartReader(text, u":").read();
     if (!parts || parts->count < 2 || parts->endsInDivider) return {};
@@ -145,7 +145,8 @@ QTime timeFromText(QStringView text) {
     return QTime(hour.value, minute.value, second.value);
 }
 
-/// Where the time begins: behind the last blank before the first colon. The text's end if it has none.
+/// The place where the time begins: behind the last space before the first colon. The text's end if there is
+/// no time.
 qsizetype timeStart(QStringView text) {
     const auto colon = text.indexOf(u':');
     if (colon < 0) return text.size();
@@ -154,8 +155,8 @@ qsizetype timeStart(QStringView text) {
     return start;
 }
 
-/// Written digit by digit: a list of thousands of birthdays would spend most of its time on the toolkit's
-/// reading of a pattern.
+/// Written digit by digit, since a list of thousands of birthdays would spend most of its time in Qt's
+/// parsing of the pattern.
 QString shortForm(QDate date) {
     int year = 0, month = 0, day = 0;
     date.getDate(&year, &month, &day);

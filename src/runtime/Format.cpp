@@ -13,7 +13,7 @@ namespace {
 
 bool isDatePlace(QChar sign) { return sign == u'd' || sign == u'm' || sign == u'M' || sign == u'y'; }
 
-/// The first sign that is a place decides: of a date, or of a number ("0 km").
+/// Decided by the first placeholder: one of a date, or one of a number ("0 km").
 bool isForDates(QStringView pattern) {
     for (qsizetype i = 0; i < pattern.size(); ++i) {
         if (pattern.at(i) == u'\\')
@@ -30,7 +30,7 @@ std::optional<double> finite(std::optional<double> number) {
     return number && std::isfinite(*number) ? number : std::nullopt;
 }
 
-/// What can be read both ways ("1.2") is what the pattern is for. Nothing if it is neither.
+/// A text such as "1.2" is both date and number: `preferDate` decides. Empty if it is neither.
 std::optional<double> numberIn(const QString& text, bool preferDate) {
     const auto date = dateFromText(text);
     if (date && preferDate) return date->days;

@@ -11,7 +11,8 @@ namespace {
 bool isPlace(QChar sign) { return sign == u'0' || sign == u'#'; }
 bool isDivider(QChar sign) { return sign == u'.' || sign == u','; }
 
-/// Takes signs off the front, "\" before one that would otherwise mean something, up to the first place.
+/// Removes the literal characters at the front, up to the first placeholder if `stopAtPlace`. "\" makes the
+/// next character a literal.
 QString takeLiterals(QStringView& pattern, bool stopAtPlace) {
     QString literals;
     while (!pattern.isEmpty()) {
@@ -31,7 +32,7 @@ QStringView takePlaces(QStringView& pattern) {
     return places;
 }
 
-/// Where the decimal sign is; the end if there is none.
+/// The place of the decimal separator, the end if there is none.
 qsizetype decimalSignIn(QStringView places) {
     const auto last = std::max(places.lastIndexOf(u'.'), places.lastIndexOf(u','));
     if (last < 0) return places.size();
@@ -72,7 +73,7 @@ QString NumberPattern::textOf(double number) const {
     DecimalDigits digits(number);
     digits.roundTo(m_maxDecimals);
     QString text = digits.isNegative() ? u'-' + m_prefix : m_prefix;
-    constexpr qsizetype most = 24; // of nearly all numbers
+    constexpr qsizetype most = 24; // enough for nearly all numbers
     text.reserve(text.size() + most + m_suffix.size());
     for (int place = std::max(digits.integerDigits(), m_minIntegerDigits) - 1; place >= 0; --place) {
         text += QLatin1Char(digits.digitAt(place));

@@ -3,17 +3,17 @@
 #include <QString>
 #include <QStringView>
 
-/// A pattern for numbers: signs that stand for themselves before and behind one run of places, "0" for a
-/// digit that is always written and "#" for one that is written only if the number has it.
+/// A pattern for numbers: literal characters before and behind one run of placeholders. "0" is a digit that
+/// is always written, "#" one that is written only if the number has it.
 ///
-/// "." and "," in the run divide decimals or thousands, whichever language the pattern was written in: the
-/// last one is the decimal sign, unless a "#" comes before a "0" behind it, which makes no sense for decimals
-/// ("#.##0"). All others divide thousands. The result has German signs in any case.
+/// "." and "," within the run separate decimals or thousands, in whichever language the pattern was written.
+/// The last one separates decimals, unless a "#" comes before a "0" behind it ("#.##0"), which would be
+/// senseless for decimals. All others separate thousands. The result always has German separators.
 class NumberPattern {
 public:
     explicit NumberPattern(QStringView pattern);
 
-    /// Rounded half away from zero on the decimal text of the number. What is rounded to zero has no minus.
+    /// Rounds half away from zero on the decimal text of the number. A number rounded to zero has no minus.
     QString textOf(double number) const;
 
 private:

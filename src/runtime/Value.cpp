@@ -16,8 +16,7 @@ struct Moment {
 };
 
 std::optional<Moment> momentOf(double days) {
-    // Far beyond the year 9999, yet small enough for the whole part to be an exact integer. NaN fails as
-    // well.
+    // Far beyond the year 9999, yet exact as an integer. NaN fails the test too.
     constexpr double reach = 1e7;
     if (!(std::abs(days) < reach)) return std::nullopt;
 

@@ -6,9 +6,9 @@
 #include <utility>
 #include <variant>
 
-/// A moment as days since 30 December 1899, the fraction being the time of day. Zero is the empty date.
-/// Before that day the whole part counts backwards while the fraction still counts forwards: -1.25 is
-/// 29 December 1899 at six in the morning.
+/// A moment in days since 30 December 1899; the fraction is the time of day. Zero is the empty date. Before
+/// that day the whole part counts backwards but the fraction still forwards: -1.25 is 29 December 1899 at six
+/// in the morning.
 struct Date {
     double days = 0;
 
@@ -16,18 +16,17 @@ struct Date {
     static Date fromQDate(QDate date);
     /// As above with a time of day; an invalid time is midnight. Fractions of a second are dropped.
     static Date fromQDate(QDate date, QTime time);
-    /// The calendar day; an invalid QDate where the number lies outside the years 100 to 9999.
+    /// The calendar day. An invalid QDate outside the years 100 to 9999.
     QDate toQDate() const;
-    /// The time of day to the nearest second; invalid where toQDate is. What rounds up to midnight belongs to
-    /// the next day, for toQDate as well.
+    /// The time of day to the nearest second, invalid if toQDate() is. A time rounded up to midnight belongs
+    /// to the next day, in toQDate() too.
     QTime toQTime() const;
     bool isEmpty() const { return days == 0; }
 
     friend bool operator==(Date a, Date b) { return a.days == b.days; }
 };
 
-/// What a field of a record, a cell of a grid or a control can hold. Closed on purpose: these six kinds are
-/// all that the tables know.
+/// The value of a record's field, a grid's cell or a control. These six kinds are all that the tables know.
 class Value {
 public:
     enum class Kind : quint8 { Null, Boolean, Long, Double, Date, Text };
@@ -52,8 +51,8 @@ public:
     Kind kind() const { return static_cast<Kind>(m_held.index()); }
     bool isNull() const { return kind() == Kind::Null; }
 
-    // The bare contents. Asking for another kind than the held one is a fault of the program, not of the
-    // data: routines convert with CLng, CStr and their like.
+    // The content itself. Asking for another kind than the stored one is a programming error: routines
+    // convert with CLng, CStr and the like.
     bool boolean() const { return std::get<bool>(m_held); }
     qint32 number() const { return std::get<qint32>(m_held); }
     double real() const { return std::get<double>(m_held); }
