@@ -6,7 +6,7 @@
 
 namespace {
 
-/// Runs an INSERT that selects from n, which holds the numbers from 1 to `count`. %1, %2 ... are numbers.
+/// Runs an INSERT that selects from n, a table of the numbers from 1 to `count`. %1, %2 ... are `numbers`.
 template<typename... Numbers>
 void addRows(RawFile& file, int count, const char* insert, Numbers... numbers) {
     if (count == 0) return;
@@ -24,7 +24,7 @@ void addNames(RawFile& file) {
             "INSERT INTO Katego(KategoNr, Kategorie) SELECT 2 + i, 'Kategorie ' || i FROM n");
 }
 
-/// The members come first, then the others by turns.
+/// Adds the members first, then the others with categories by turns.
 void addContacts(RawFile& file, ClubSize size) {
     addRows(file, size.contacts(),
             "INSERT INTO Kontakt(KategoNr, Anrede, Nachname, Vorname, Strasse, PLZ, Ort, Tel1, Tel2, Mobil, "
@@ -51,7 +51,8 @@ void addCatches(RawFile& file, ClubSize size) {
         u"1 + i / %1 % 12"_qs.arg(clubYears));
 }
 
-/// As they come in: year by year, all members mixed, so that those of one member lie far apart.
+/// Adds bookings year by year with all members mixed, as they come in, so that one member's bookings are far
+/// apart.
 void addBookings(RawFile& file, ClubSize size) {
     addRows(file, size.bookings(),
             "INSERT INTO Arbeit(KNr, Jahr, Datum, ArbStd, Notiz) SELECT 1 + i % %1, "

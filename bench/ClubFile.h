@@ -2,8 +2,8 @@
 
 #include <QString>
 
-/// A club so many times as large as a real one, in every respect at once. The real one (1) has 300 members
-/// among the contacts of a town, 20 years of catches and of booked work hours.
+/// A club `times` as large as a real one in every respect. The real one has 300 members among 500 contacts,
+/// and 20 years of catches and booked work hours.
 struct ClubSize {
     int times = 1;
 
@@ -17,12 +17,12 @@ struct ClubSize {
 
 constexpr ClubSize emptyClub{0};
 constexpr ClubSize realClub{1};
-/// So many categories hold the contacts of any club.
+/// The number of categories in a club of any size.
 constexpr int clubCategories = 20;
 constexpr int clubKinds = 30;
 constexpr int clubWaters = 12;
-/// So many years before the clock's lie the oldest catches and bookings.
+/// The oldest catches and bookings are this many years old.
 constexpr int clubYears = 20;
 
-/// Makes the program folder of a club of that size.
+/// Makes the program folder of a club of this size.
 void makeClub(const QString& folder, ClubSize size);

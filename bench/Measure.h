@@ -4,14 +4,14 @@
 #include <chrono>
 #include <vector>
 
-/// The median, because a machine that does something else now and then disturbs single runs only.
+/// The median, because other work on the computer disturbs only single runs.
 inline double median(std::vector<double> values) {
     const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
     std::nth_element(values.begin(), middle, values.end());
     return *middle;
 }
 
-/// In seconds.
+/// The duration of `work` in seconds.
 template<typename Work>
 double secondsOf(Work&& work) {
     const auto begin = std::chrono::steady_clock::now();
@@ -40,8 +40,8 @@ double medianSeconds(int runs, Work&& work) {
     return median(seconds);
 }
 
-/// Medians, in seconds, of two works that take turns, so that both meet the machine in the same moods. Short
-/// ones run more often.
+/// Median durations in seconds of a work and its baseline. Both run by turns, so that other work on the
+/// computer disturbs them alike. Short ones run more often.
 struct Pair {
     double own;
     double floor;
@@ -60,9 +60,9 @@ Pair byTurns(int runs, Own&& own, Floor&& floor) {
     return {median(ours), median(floors)};
 }
 
-/// A line of the table: the work, its time, the floor that it is held against, their ratio, the ratio wanted,
-/// and the memory of the process after it.
+/// Prints a row of the table: the work, its time, its baseline, their ratio, the greatest ratio wanted, and
+/// the memory of the process.
 void printRow(const char* work, Pair seconds, const char* floor, double wanted);
-constexpr int mostBytesARow = 250; ///< of a grid of catches
-/// A line for what a grid takes; `most` is the limit of its bytes a row, 0 if there is none.
+constexpr int mostBytesARow = 250; ///< in a grid of catches
+/// Prints the memory of a grid. `most` is the limit of bytes in each row, 0 for none.
 void printGrid(double bytes, int rows, int most = 0);

@@ -17,7 +17,7 @@ namespace {
 
 int timesInForce = 1;
 
-/// What the process has in memory, in MiB.
+/// The memory of the process in MiB.
 double residentMegabytes() {
     QFile status(u"/proc/self/statm"_qs);
     if (!status.open(QIODevice::ReadOnly)) return 0;

@@ -13,26 +13,26 @@
 constexpr int benchYear = 2026;
 constexpr int benchMonth = 3;
 
-/// Acknowledges what is told, and says no to what is asked.
+/// Answers messages with OK and questions with No.
 class Nodding : public MessageBoxes {
 public:
     MsgBoxResult show(const QString& text, int style, const QString& title) override;
 };
 
-/// Nobody sits in front of a benchmark: a box is a fault of it.
+/// Ends the benchmark at a message box, since nothing should have shown one.
 class NoBoxes final : public MessageBoxes {
 public:
     MsgBoxResult show(const QString& text, int style, const QString& title) override;
 };
 
-/// The toolkit, the look, the clock and the club of a benchmark; to be made first. Its arguments: the folder
-/// with the clubs that bench/run has made, each named by its size, and the size to run at.
+/// The environment of a benchmark: Qt, theme, clock, message boxes and club. Construct it first. Arguments:
+/// the folder of the clubs that bench/run has made, each named by its size, and the size to use.
 class BenchDesk {
 public:
     BenchDesk(int& argc, char** argv, MessageBoxes& boxes);
 
     ClubSize size() const { return m_size; }
-    /// A program folder of that size to do with as one likes; the same one each time.
+    /// A copy of the program folder of this size, free to change. The same folder at each call.
     QString club(ClubSize size);
     QString club() { return club(m_size); }
 

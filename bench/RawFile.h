@@ -3,18 +3,18 @@
 #include <QString>
 #include <sqlite3.h>
 
-/// The database file through the bare C API, with as much memory for its pages as the program gives it: what
-/// everything is held against.
+/// The database file through SQLite's C API, the baseline of all benchmarks. Its cache has the size of the
+/// program's.
 class RawFile {
 public:
-    /// Works the key out and reads the first page.
+    /// Derives the key and reads the first page.
     explicit RawFile(const QString& path);
     ~RawFile() { sqlite3_close(m_handle); }
     RawFile(const RawFile&) = delete;
     RawFile& operator=(const RawFile&) = delete;
 
     sqlite3* handle() const { return m_handle; }
-    /// Aborts the benchmark with the library's words if a statement fails.
+    /// Ends the benchmark with SQLite's message if a statement fails.
     void execute(const char* sql);
     sqlite3_stmt* prepare(const QByteArray& sql);
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-// The statements of the fills after the login, through the bare C API.
+// The statements that fill the screens after the login, through SQLite's C API.
 
 struct RawCell {
     qint64 number = 0;
@@ -14,7 +14,7 @@ struct RawCell {
 };
 using RawCatches = std::vector<std::array<RawCell, 6>>;
 
-/// The catches of the clock's month with their names, the cells copied.
+/// Reads the catches of the clock's month with their names and copies the cells.
 void rawJoin(RawFile& file, RawCatches& rows);
-/// Every contact of every category, not looked at; gives how many.
+/// Steps through all contacts of every category without reading them. Returns their number.
 int rawCounts(RawFile& file);

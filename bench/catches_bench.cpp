@@ -1,4 +1,4 @@
-// The catch book: its grid over a month of the clock, and the start of the program.
+// The catch book: filling its grid with a month, and the start of the program.
 
 #include "DataTable.h"
 #include "Fangbuch.h"
@@ -49,15 +49,15 @@ Start startOnce(const QString& folder) {
     return {toLogin, toCatchBook};
 }
 
-/// Takes the contacts and the catches of the clock's month away: what is left is read by nothing that the
-/// start fills, however much it is.
+/// Deletes the contacts and the catches of the clock's month. The start fills no screen from the other rows,
+/// however many there are.
 void keepOldCatches(const QString& folder) {
     RawFile file(folder + u"/uw01.mdb"_qs);
     file.execute("BEGIN; DELETE FROM Fang WHERE FangJahr = 2026 AND FangMonat = 3; DELETE FROM Kontakt; "
                  "DELETE FROM Mitglied; DELETE FROM Arbeit; COMMIT");
 }
 
-/// What a login must read in any case, its pages not in memory yet.
+/// The time for reading what every login must read, with no pages in memory.
 double rawFills(const QString& folder) {
     RawFile file(folder + u"/uw01.mdb"_qs);
     RawCatches rows;

@@ -1,4 +1,4 @@
-// Compacting a file, verified, and saving the rows of a damaged one.
+// Compacting a file with verification, and saving the rows of a damaged one.
 
 #include "DBEngine.h"
 #include "Measure.h"
@@ -33,7 +33,7 @@ void benchCompaction(const QString& folder) {
     printRow("CompactDatabase, verified", seconds, "sqlcipher_export", 1.5);
 }
 
-/// Whether all bookings, which fill the middle of the file, can be read.
+/// Whether all bookings, which are in the middle of the file, can be read.
 bool canBeWalked(const QString& path) {
     RawFile file(path);
     sqlite3_stmt* rows = file.prepare("SELECT SUM(length(Notiz)) FROM Arbeit NOT INDEXED");
@@ -42,7 +42,7 @@ bool canBeWalked(const QString& path) {
     return whole;
 }
 
-/// Damages a page of rows in the middle of the file, whose loss no index can make up for.
+/// Damages a page of rows in the middle of the file. No index has the lost rows.
 void damage(const QString& path) {
     constexpr qint64 pageSize = 1024;
     QFile file(path);
@@ -60,7 +60,7 @@ void damage(const QString& path) {
     std::abort();
 }
 
-/// Time to save the rows of a file with one damaged page; so many runs.
+/// The median time of saving the rows of a file with one damaged page.
 double salvage(const QString& folder, int times) {
     const QString damaged = folder + u"/damaged.mdb"_qs;
     QFile::copy(folder + u"/uw01.mdb"_qs, damaged);

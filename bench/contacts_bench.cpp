@@ -14,7 +14,7 @@
 
 namespace {
 
-/// As the library gives them; of a date only the number of its days.
+/// Writes the field as SQLite gives it, a date as its number of days.
 void writeField(std::FILE* out, sqlite3_stmt* rows, int field) {
     if (sqlite3_column_type(rows, field) == SQLITE_TEXT) {
         std::fputs(reinterpret_cast<const char*>(sqlite3_column_text(rows, field)), out);

@@ -1,4 +1,4 @@
-// The evaluation: an unfiltered query, its file for the spreadsheet, and the way of its rows onto paper.
+// The evaluation: an unfiltered query, its file for the spreadsheet, and the report of its rows.
 
 #include "Berichte.h"
 #include "DataTable.h"
@@ -42,7 +42,7 @@ qint64 single(RawFile& file, const char* what) {
     return value;
 }
 
-/// The same four statements on the C API, the cells of the list copied.
+/// The same four statements in SQLite's C API, with the list's cells copied.
 qint64 rawEvaluation(RawFile& file, std::vector<RawRow>& rows) {
     qint64 sums = single(file, "COUNT(fa.FangNr)");
     sums += single(file, "SUM(fa.Anzahl)");
@@ -94,7 +94,7 @@ void benchExport(const QString& folder) {
     printRow("FANG.csv, catches of a month", seconds, "the same bytes, buffered", 3.0);
 }
 
-/// On a file opened for it, as the program does.
+/// Opens the file for this, as the program does.
 void rawStaging(const QString& folder, int rows) {
     RawFile file(folder + u"/uw01.mdb"_qs);
     file.execute("BEGIN; DELETE FROM Druck_Fangliste");
@@ -118,7 +118,7 @@ void clearStaging(const QString& folder) {
     RawFile(folder + u"/uw01.mdb"_qs).execute("DELETE FROM Druck_Fangliste");
 }
 
-/// Every staged row of the list, without what comes after it: a word that neither prints nor shows.
+/// Stages all rows without a report: "nichts" neither prints nor previews.
 void benchStaging(const QString& folder, int rows) {
     constexpr int runs = 3;
     std::vector<double> floors, stagings;
@@ -132,7 +132,7 @@ void benchStaging(const QString& folder, int rows) {
              3.0);
 }
 
-/// So many catches for a report, alike in their first rows.
+/// Sample catches for a report. Their first rows are the same for any number of rows.
 class SampleRows final : public ReportRowSource {
 public:
     explicit SampleRows(int rows)
@@ -163,8 +163,8 @@ void closePreview() {
     QApplication::processEvents();
 }
 
-/// From the call to the painted page. Binding, which empties the processor's caches the more the more rows
-/// there are, is not part of it: a preview before the one that counts fills them again.
+/// The time from the call to the painted page. Binding is not measured, but many rows empty the processor's
+/// caches; an unmeasured preview fills them again.
 double firstPage(int rows) {
     SampleRows sample(rows);
     const auto report = Berichte::rpt_Fangliste();
@@ -189,7 +189,7 @@ void benchPreview(int rows) {
 
 void benchPdf(const QString& folder) {
     const QString pdf = folder + u"/liste.pdf"_qs;
-    const auto report = Berichte::rpt_Fangliste(); // held, so that it keeps the rows of the run
+    const auto report = Berichte::rpt_Fangliste(); // keeps the rows of the run
     modFAuswert::DruckeFangListe(u"nichts"_qs);
     const double own = secondsOf([&] { saveReportAsPdf(*report->document(), pdf); });
     const QString office = QStandardPaths::findExecutable(u"soffice"_qs);
@@ -216,7 +216,7 @@ void benchPdf(const QString& folder) {
     printRow("PDF of them", {own, theirs}, "LibreOffice, the same rows as CSV", 0.2);
 }
 
-/// The catches of the clock's month in the grid.
+/// Fills the grid with the catches of the clock's month.
 void chooseMonth() {
     Fangauswertung& form = screen<Fangauswertung>();
     form.chkArchiv->setChecked(true);

@@ -1,4 +1,4 @@
-// Bringing a member into the work ledger: no slower with many bookings in the file than with few.
+// Showing a member in the work ledger, which must not take longer with many bookings in the file.
 
 #include "Arbeit.h"
 #include "DataTable.h"
@@ -13,7 +13,7 @@ namespace {
 
 constexpr int found = 5;
 
-/// Five members of the search, from the first to the last of the file.
+/// Puts five members into the search's grid, spread from the first to the last in the file.
 void findMembers(ClubSize size) {
     DataTable& grid = *screen<SuchKont>().tblSuch;
     for (int i = 1; i <= found; ++i)
@@ -31,7 +31,7 @@ double medianOf(const QString& folder, ClubSize size) {
     program.start();
     logIn();
     findMembers(size);
-    for (int row = 0; row < found; ++row) bringIn(row); // makes the screens, reads the pages
+    for (int row = 0; row < found; ++row) bringIn(row); // creates the screens and reads the pages
     int row = 0;
     return medianSeconds(runs, [&] { bringIn(row++ % found); });
 }

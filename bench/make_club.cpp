@@ -1,4 +1,4 @@
-// Makes the program folder that benchmarks of one size copy: make_club FOLDER SIZE
+// make_club FOLDER SIZE makes the program folder that the benchmarks of this size copy.
 
 #include "ClubFile.h"
 

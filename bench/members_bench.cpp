@@ -31,7 +31,7 @@ double rawHours(sqlite3_stmt* sum, qint64 number) {
     return hours;
 }
 
-/// The same on the C API: the count, the list with its cells copied, a sum a member.
+/// The same in SQLite's C API: the count, the list with its cells copied, a sum for each member.
 void rawList(RawFile& file, std::vector<RawRow>& rows) {
     rows.clear();
     sqlite3_stmt* count = file.prepare("SELECT COUNT(k.KNr) FROM Kontakt k, Mitglied m WHERE k.KNr = m.KNr");

@@ -1,5 +1,4 @@
-// The contacts of a club on the screen: the overview's counts, the opening of a category, the
-// search.
+// The contacts on the screen: filling the overview, opening a category, searching.
 
 #include "DataTable.h"
 #include "KontaktUebers.h"
@@ -19,7 +18,7 @@
 
 namespace {
 
-/// The one with the most contacts.
+/// The category with the most contacts.
 constexpr int crowdedNumber = 1;
 
 struct RawContact {
@@ -34,7 +33,7 @@ int columnOf(sqlite3_stmt* rows, const char* name) {
     return column;
 }
 
-/// The same statement, the cells on show copied.
+/// The same statement, with the shown cells copied.
 void rawCategory(RawFile& file, std::vector<RawContact>& rows) {
     rows.clear();
     sqlite3_stmt* of =
@@ -53,7 +52,7 @@ void rawCategory(RawFile& file, std::vector<RawContact>& rows) {
     sqlite3_finalize(of);
 }
 
-/// The hits of a search with the same comparison, their cells and the names of their categories copied.
+/// The hits of a search with the same comparison. Copies their cells and the names of their categories.
 void rawSearch(RawFile& file, const QByteArray& word, std::vector<RawContact>& rows) {
     rows.clear();
     const QByteArray like = QByteArray(sqlname::like) + "(%1, '" + word + "*')";

@@ -1,4 +1,4 @@
-// The store: a lookup by name as it runs for every save, a seek by key, a walk over a table.
+// The store: a lookup by name as in every save, a seek by key, a walk over a table.
 
 #include "DBEngine.h"
 #include "Measure.h"
@@ -21,7 +21,7 @@ std::array<QString, species> speciesNames() {
     return names;
 }
 
-/// The same keys in the same scattered order for both sides.
+/// A key for each round, in the same scattered order for both sides.
 int scatteredKey(int round, int entries) { return static_cast<int>((round * 7919LL) % entries) + 1; }
 
 double rawLookups(RawFile& file, const std::array<QString, species>& names) {

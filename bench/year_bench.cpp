@@ -1,4 +1,4 @@
-// The change of the year, hours carried over.
+// The change of the year with hours carried over.
 
 #include "Datenbank.h"
 #include "Measure.h"
@@ -14,7 +14,7 @@ namespace {
 
 constexpr int runs = 5;
 
-/// Says yes, and takes note of everything else.
+/// Answers questions with Yes and messages with OK.
 class Yes final : public MessageBoxes {
 public:
     MsgBoxResult show(const QString&, int style, const QString&) override {
@@ -42,7 +42,7 @@ void carryOver(sqlite3_stmt* insert, sqlite3_int64 member, double hours) {
     sqlite3_reset(insert);
 }
 
-/// The same sums and rows on the C API, in one transaction.
+/// The same sums and rows in SQLite's C API, in one transaction.
 void rawChange(RawFile& file) {
     file.execute("BEGIN; UPDATE System SET FJahr = 2026");
     sqlite3_stmt* list =
@@ -59,7 +59,8 @@ void rawChange(RawFile& file) {
     file.execute("COMMIT");
 }
 
-/// A fresh copy of the old year for each run; the key is worked out before the time begins.
+/// The median time of a change. Each run gets a fresh copy of the old year and derives the key before the
+/// time starts.
 template<typename Change>
 double measure(const QString& folder, Change change) {
     const QString path = folder + u"/uw01.mdb"_qs;
@@ -87,7 +88,7 @@ double ownSeconds(const QString& folder) {
     return seconds;
 }
 
-/// What both have to arrive at.
+/// The content that both sides must produce.
 QByteArray result(const QString& path) {
     RawFile file(path);
     sqlite3_stmt* sums = file.prepare("SELECT FJahr, COUNT(*), SUM(ArbStd), SUM(length(Notiz)) "
