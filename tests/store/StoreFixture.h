@@ -9,9 +9,9 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
-/// A new database file in a folder of its own, opened, with a small club in it.
+/// Opens a new database file with a small club, in a folder of its own.
 class StoreTest : public ::testing::Test {
-    QTemporaryDir m_folder; // outlives what is open in it
+    QTemporaryDir m_folder; // first, so that it outlives what is open in it
     FixedClock m_clock;
 
 protected:
@@ -29,9 +29,9 @@ protected:
     Recordset seek(QStringView name, qint32 key);
     /// Rows joined by ";", their values by "|".
     QString rows(const QString& select) { return rowsOf(*connection, select); }
-    /// As above through another connection, which sees only what is in the file.
+    /// As above through another connection, which sees only committed rows.
     QString rowsInFile(const QString& select) const { return rowsOf(*connectTo(path()), select); }
-    /// Runs a statement of the database engine itself.
+    /// Runs a statement in SQLite's own SQL.
     void execute(const QByteArray& sql) const;
 
     static QString rowsOf(cursors::Connection& connection, const QString& select);
@@ -42,5 +42,5 @@ protected:
 
 QString shown(const Value& value);
 
-// What GoogleTest shows of a text that is not as expected.
+// GoogleTest prints an unexpected text by this.
 inline void PrintTo(const QString& text, std::ostream* stream) { *stream << text.toStdString(); }

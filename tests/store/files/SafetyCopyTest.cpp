@@ -13,7 +13,7 @@ protected:
 
     void change() const { connectTo(path())->execute("UPDATE System SET FJahr = FJahr + 1"); }
 
-    /// The day of May 2026 at whose noon the copy is made.
+    /// Makes a copy at noon of this day of May 2026.
     void keep(int day) const {
         keepSafetyCopy(path(), cursors::passwordOf(connect()), folder(),
                        QDate(2026, 5, day).startOfDay().addSecs(43200));
@@ -28,7 +28,7 @@ TEST_F(SafetyCopyTest, TheTenNewestStayWhateverTheClockSaidInBetween) {
     ASSERT_TRUE(QDir().mkdir(folder()));
     constexpr QFileDevice::Permissions ownerOnly(QFile::ReadOwner | QFile::WriteOwner);
     ASSERT_TRUE(QFile::setPermissions(path(), ownerOnly | QFile::ReadUser | QFile::WriteUser));
-    // What a killed process left, and a copy that the user keeps.
+    // A leftover of a killed process, and a copy that the user keeps.
     for (const QString& name : {u"uw01.neu.AbCdEf"_qs, u"uw01 2026-05-01 12.00.00 AUFHEBEN.mdb"_qs})
         ASSERT_TRUE(QFile(folder() + u'/' + name).open(QIODevice::WriteOnly));
     for (int day = 1; day <= 12; ++day) {

@@ -9,7 +9,7 @@ namespace {
 
 constexpr qint64 page = 1024;
 
-/// So many rows, counted by i.
+/// An INSERT of `count` rows, with their number in i.
 QByteArray many(int count, const QByteArray& insert) {
     return "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < " +
            QByteArray::number(count) + ") " + insert + " FROM n";
@@ -30,7 +30,7 @@ protected:
         damaged.write(bytes);
     }
 
-    /// Flips a piece of a page, and flips it back when called again.
+    /// Inverts some bytes of a page. A second call restores them.
     void flip(qint64 number) const {
         QFile damaged(path());
         ASSERT_TRUE(damaged.open(QIODevice::ReadWrite));
@@ -42,7 +42,8 @@ protected:
         damaged.write(piece);
     }
 
-    /// Deriving a key from a password would be most of the time of many repairs; these bytes are one.
+    /// Sets a key of plain bytes: with a password, many repairs would spend most of their time on deriving
+    /// the key.
     void useBareKey() {
         m_password = u"x'"_qs + QString(64, u'7') + u'\'';
         execute("PRAGMA rekey = \"" + m_password.toUtf8() + '"');
@@ -95,10 +96,11 @@ TEST_F(SalvageTest, BringsBackEveryRowThatDoesNotLieOnTheDamagedPage) {
             if (!after.contains(row)) ++losses[row];
         flip(number);
     }
-    // Each row lies on one page, but for the long one. It would be lost twice if other damage took it along.
+    // Each row is on one page, except for the long one. More losses of a row mean that damage elsewhere takes
+    // it along.
     for (const auto& [row, times] : losses)
         EXPECT_EQ(times, row.size() > 1000 ? 2 : 1) << row.left(80).toStdString();
-    // The two system categories and the first group are put back as they were.
+    // The two system categories and the first group are restored as they were.
     EXPECT_EQ(losses.size(), before.size() - 3);
 }
 
@@ -122,7 +124,7 @@ TEST_F(SalvageTest, GivesNoNumberOutAgainThatWasLostOrIsStillReferredTo) {
 }
 
 TEST_F(SalvageTest, LetsSomebodyInWhateverIsLost) {
-    // Nothing but catches is left.
+    // Only catches are left.
     for (const char* table : {"System", "Katego", "Gruppen", "Benutzer", "Mitglied"})
         execute(QByteArray("DELETE FROM ") + table);
     flip(1);

@@ -7,7 +7,7 @@ protected:
         return recordset.Fields(field.toString()).Value().number();
     }
 
-    /// What a cursor tells of its place: count, position, and which ends it is at.
+    /// The place of a cursor: count, position, and which ends it is at.
     static QString place(const Recordset& recordset) {
         return u"%1 %2%3%4"_qs.arg(recordset.RecordCount())
             .arg(recordset.AbsolutePosition())
@@ -16,7 +16,7 @@ protected:
 
     Recordset cursor(bool isTable) { return isTable ? table(u"Fisch") : query(u"SELECT * FROM Fisch"_qs); }
 
-    /// Lets each step fail while some statement is running.
+    /// Makes each step fail while some statement is running.
     void interrupt() const { sqlite3_interrupt(connection->handle()); }
 
     QString walk(const QString& select, QStringView field) {

@@ -15,14 +15,14 @@ protected:
         return errorOf([&] { DBEngine::Workspaces(0).OpenDatabase(file, false, readOnly, password); });
     }
 
-    /// A file with these bytes beside the right one.
+    /// Writes these bytes to another file. Returns its path.
     QString fileWith(const QByteArray& bytes) const {
         QFile made(file(u"anders.mdb"_qs));
         if (!made.open(QIODevice::WriteOnly) || made.write(bytes) != bytes.size()) return {};
         return made.fileName();
     }
 
-    /// A copy as it lies there when a process is killed while it writes, the journal beside it.
+    /// A copy of the file and its journal as left by a process that was killed while writing.
     QString interruptedCopy() const {
         const auto writing = connectTo(path());
         writing->execute("PRAGMA cache_size = 5");
@@ -120,7 +120,7 @@ TEST_F(OpeningTest, TakesAFileBackFromTheModeOfAnotherTool) {
 TEST_F(OpeningTest, SaysThatAFolderIsNotWritableWhenItsFileIsWrittenTo) {
     Database open = DBEngine::Workspaces(0).OpenDatabase(path(), false, false, connect());
     Recordset fish = open.OpenRecordset(u"Fisch"_qs, dbOpenTable);
-    // The superuser may write to any folder, but not make a file where there is a folder.
+    // A folder in the journal's place: the tests may run as root, who may write to any folder.
     ASSERT_TRUE(QDir().mkdir(path() + u"-journal"_qs));
     EXPECT_EQ(errorOf([&] { fish.Delete(); }), 3027);
 }

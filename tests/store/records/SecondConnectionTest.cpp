@@ -1,6 +1,6 @@
 #include "StoreFixture.h"
 
-/// The program's connection and the one that stages a report, on one file.
+/// The program's connection and the one for staging a report, on one file.
 class SecondConnectionTest : public StoreTest {
 protected:
     SecondConnectionTest() {

@@ -81,7 +81,7 @@ TEST_F(TransactionTest, TakesBackAHalfWrittenFileOfAnySize) {
     const pid_t child = fork();
     if (child == 0) {
         Recordset fish = Database(connectTo(path())).OpenRecordset(u"Fisch"_qs, dbOpenTable);
-        // More than the cache holds, so that pages reach the file before the end, and the file grows.
+        // More than the cache takes, so that SQLite writes pages before the commit and the file grows.
         for (int i = 0; i < 40; ++i) {
             fish.AddNew();
             fish.Collect(u"Notiz"_qs, QString(1'000'000, u'x'));

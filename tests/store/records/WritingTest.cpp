@@ -8,7 +8,7 @@ protected:
         fish.Update();
     }
 
-    /// The error of setting a field of a new row, and what the field then holds.
+    /// Sets a field of a new row. Returns the error and the field's content.
     QString collected(QStringView tableName, QStringView field, const Value& value) {
         Recordset rows = table(tableName);
         rows.AddNew();
