@@ -37,7 +37,7 @@ QStringList readActions() {
     return actions;
 }
 
-/// All rows of all tables but those for printing, whose contents nobody waits for, and the counters.
+/// All rows of all tables, and the counters. Leaves out the printing tables, whose content does not matter.
 QByteArray digestOf(const QString& path) {
     cursors::Connection file(path, password(), cursors::Connection::Access::ReadWrite);
     engine::Statement check = file.prepare("PRAGMA integrity_check");
@@ -56,7 +56,7 @@ QByteArray digestOf(const QString& path) {
 
 } // namespace
 
-/// A club whose program is killed at random moments, started again, and killed again.
+/// Kills the program of a club at random moments and starts it again, repeatedly.
 class KillTest : public ::testing::Test {
 protected:
     KillTest() {
@@ -67,7 +67,7 @@ protected:
     QString database() const { return m_program + u"/uw01.mdb"_qs; }
     QString script() const { return m_folder.filePath(u"script.txt"_qs); }
 
-    /// The actions from this one on, behind a start on the day that it is then.
+    /// Writes a start on the current day of the script and the actions from `first` on.
     void writeScript(qsizetype first, const QString& behindEach = {}) {
         QString day = u"today 2026-03-14"_qs;
         for (const QString& line : m_actions.mid(0, first).join(QString()).split(u'\n'))
@@ -88,7 +88,7 @@ protected:
         ASSERT_TRUE(program.waitForStarted());
     }
 
-    /// What an undisturbed run leaves behind each action.
+    /// Remembers the file's content after each action of an undisturbed run.
     void learn() {
         m_digests = {digestOf(database())};
         writeScript(0, u"sh \"cp uw01.mdb %1.stand\"\n"_qs);
@@ -106,7 +106,7 @@ protected:
 
     void restore() const { write(database(), m_base); }
 
-    /// How many of the script's actions a run has finished that has told these lines.
+    /// The number of the script's actions that a run has finished, by the lines that it printed.
     qsizetype finishedBy(const QByteArray& told) const {
         int line = 0;
         for (const QByteArray& one : told.split('\n'))
@@ -116,7 +116,7 @@ protected:
         return finished;
     }
 
-    /// Kills a run that goes on from action `next`; gives how many more are in the file then.
+    /// Kills a run that continues with action `next`. Returns how many further actions are in the file.
     qsizetype killed(qsizetype next) {
         writeScript(next);
         QProcess program;
@@ -137,7 +137,7 @@ protected:
         return told.isEmpty() ? whole(next, 0) : whole(next, finishedBy(told));
     }
 
-    /// The actions that were finished are in the file, the next one wholly or not at all.
+    /// Requires all finished actions in the file, and the next one wholly or not at all.
     qsizetype whole(qsizetype next, qsizetype finished) {
         const QByteArray found = digestOf(database());
         const qsizetype last = next + finished;
@@ -152,13 +152,13 @@ protected:
     QString m_program = m_folder.filePath(u"programm"_qs);
     QByteArray m_base;
     QStringList m_actions = readActions();
-    QByteArrayList m_digests; ///< number n after n actions
-    QList<int> m_begins;      ///< on which line of the script each action begins, and its end
+    QByteArrayList m_digests; ///< [n] after n actions
+    QList<int> m_begins;      ///< the line of the script on which each action begins, and the end
     QRandomGenerator m_random{2026};
-    int m_pace = 0; ///< milliseconds an action takes
+    int m_pace = 0; ///< duration of an action in milliseconds
 };
 
-// UW_KILLS=1000 makes a long run of it.
+// Set UW_KILLS=1000 for a long run.
 TEST_F(KillTest, WhatWasFinishedStaysAndWhatWasNotIsThereWhollyOrNotAtAll) {
     learn();
     ASSERT_FALSE(HasFatalFailure());
@@ -171,7 +171,7 @@ TEST_F(KillTest, WhatWasFinishedStaysAndWhatWasNotIsThereWhollyOrNotAtAll) {
         restore();
         next = 0;
     }
-    // A safety copy has its name only when it is whole.
+    // A safety copy gets its name only when complete.
     QDirIterator copies(m_program + u"/Sicherung"_qs, {u"*.mdb"_qs});
     while (copies.hasNext()) digestOf(copies.next());
 }

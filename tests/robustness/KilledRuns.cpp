@@ -13,7 +13,7 @@ namespace {
 
 enum class Death {
     BeforeCall,
-    InCall, ///< a write has brought half of its bytes, another call all it does
+    InCall, ///< after half the bytes of a write, or after any other call
 };
 
 int callsLeft = 0;
@@ -21,7 +21,8 @@ Death kind = Death::BeforeCall;
 
 bool isLast() { return --callsLeft == 0; }
 
-/// The call with its end in it; `part` is as much of the call as is done before a death in its midst.
+/// Runs the call, or kills the process at the last one. `part` is the part of the call that is done before a
+/// death within it.
 template<typename Call, typename Part>
 auto mortal(Call call, Part part) {
     if (!isLast()) return call();
@@ -55,7 +56,7 @@ void replaceCall(const char* name, Function* function) {
     files->xSetSystemCall(files, name, reinterpret_cast<sqlite3_syscall_ptr>(function));
 }
 
-/// From here on the process kills itself at its `place`th such call, counted from 1.
+/// Makes the process kill itself at its call number `place`, counted from 1.
 void dieAtFileCall(int place, Death death) {
     callsLeft = place;
     kind = death;

@@ -7,21 +7,21 @@ namespace cursors {
 class Connection;
 }
 
-/// The bytes of a key themselves: deriving them from a password would be most of the time of these tests.
+/// A key of plain bytes: with a password, the tests would spend most of their time on deriving the key.
 QString rawKey();
-/// The first cell that a statement gives.
+/// The first cell of a statement's result.
 QString answer(cursors::Connection& file, const QByteArray& select);
 
 enum class End { Done, Failed, Killed };
 
-/// Does the work, which tells whether it went well, in a process of its own.
+/// Runs `work` in a process of its own. It returns whether it succeeded.
 End inOwnProcess(const std::function<bool()>& work);
 void killThisProcess();
 
-/// What a process does to meet its end, and a run that does so first.
+/// Prepares a process to be killed; a PreparedRun calls it first.
 using Preparation = std::function<void()>;
 using PreparedRun = std::function<End(const Preparation&)>;
 
-/// Repeats a run, killed at each call with which the database library changes a file: before the call, and
-/// in its midst. `look` sees what it has left. Returns how often.
+/// Repeats a run and kills it at each call by which SQLite changes a file, before the call and within it.
+/// Calls `look` after each. Returns the number of runs.
 int killAtEachFileCall(const PreparedRun& run, const std::function<void()>& look);

@@ -21,7 +21,7 @@ QByteArray bytesOf(const QString& path) {
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-/// All rows that the tests put in, as a new opening finds them.
+/// All rows inserted by the tests, read by a new connection.
 QString contentOf(const QString& path) {
     cursors::Connection file(path, rawKey(), cursors::Connection::Access::ReadWrite);
     EXPECT_EQ(answer(file, "PRAGMA integrity_check"), u"ok");
@@ -29,7 +29,7 @@ QString contentOf(const QString& path) {
            answer(file, "SELECT group_concat(KNr || ' ' || Nachname) FROM Kontakt");
 }
 
-/// In memory where there is such a folder: a disk would be waited for thousands of times.
+/// In memory if possible: the tests would wait for a disk thousands of times.
 QString testFolder() {
     const QString memory = u"/dev/shm"_qs;
     return (QDir(memory).exists() ? memory : QDir::tempPath()) + u"/uferwart-XXXXXX"_qs;
@@ -37,7 +37,7 @@ QString testFolder() {
 
 } // namespace
 
-/// A file that is rewritten through the work file in processes that may not live to see its end.
+/// Rewrites a file through the work file, in processes that may be killed.
 class RewriteTest : public ::testing::Test {
     QTemporaryDir m_folder = QTemporaryDir(testFolder());
     FixedClock m_clock;
@@ -77,11 +77,11 @@ protected:
         return 0;
     }
 
-    /// In a process of its own.
+    /// Rewrites in a process of its own, after `prepare`.
     End rewriteAfter(
         const Preparation& prepare, const std::function<void()>& between = [] {}) const {
         return inOwnProcess([&] {
-            // What a killed process leaves in there goes with the test.
+            // Leftovers of a killed process in there are removed with the test.
             const QString ownTemporary = m_folder.filePath(QString::number(getpid()));
             QDir().mkdir(ownTemporary);
             qputenv("TMPDIR", ownTemporary.toUtf8());
@@ -90,7 +90,7 @@ protected:
         });
     }
 
-    /// Remembers the file as it is and its rows as the rewriting leaves them.
+    /// Remembers the file now and its rows after a rewriting.
     void learn() {
         m_old = bytesOf(path());
         ASSERT_EQ(rewriteAfter([] {}), End::Done);
@@ -106,8 +106,8 @@ protected:
         file.write(m_old);
     }
 
-    /// The old file stands there untouched or the new one whole, and the next attempt ends well once a work
-    /// file that is left over is gone.
+    /// Requires the old file unchanged or the new one complete, and the next attempt to succeed once a
+    /// leftover work file is removed.
     void requireAWholeFile() {
         const bool isOld = bytesOf(path()) == m_old;
         ASSERT_TRUE(isOld || contentOf(path()) == m_rows);
@@ -198,7 +198,7 @@ TEST_F(RewriteTest, NobodyWritesBetweenTheCopyAndTheExchange) {
 TEST_F(RewriteTest, WhatAKilledProcessLeftBesideTheOldFileIsNotTakenForTheNewOnes) {
     learn();
     const QString journal = path() + u"-journal"_qs;
-    // A write that was killed before its end leaves the way back.
+    // A killed write leaves a journal to undo it.
     const auto write = [&] {
         cursors::Connection file(path(), rawKey(), cursors::Connection::Access::ReadWrite);
         file.execute("PRAGMA cache_size = 1");

@@ -16,7 +16,7 @@ namespace {
 constexpr int oldYear = 2004;
 constexpr int newYear = 2005;
 
-/// Says yes to everything.
+/// Answers every question with Yes.
 class Boxes final : public MessageBoxes {
 public:
     MsgBoxResult show(const QString&, int style, const QString&) override {
@@ -26,7 +26,7 @@ public:
 
 } // namespace
 
-/// A club of some members on disk, and processes that change its year.
+/// A small club on disk, and processes that change its year.
 class YearChangeTest : public ::testing::Test {
     QTemporaryDir m_folder;
     FixedClock m_clock;
@@ -43,16 +43,17 @@ protected:
                                  "SELECT i, 2004, 38000 + i, i % 40, 'Ufer' FROM n"})
             file.execute(numbers + rows);
         file.execute("UPDATE System SET PflichtStd = 20");
-        // A safety copy would need the program's own password, and time for its key: this keeps it from being
-        // made.
+        // A file in the folder's place prevents safety copies: these would need the program's own password
+        // and time to derive its key.
         QFile inTheWay(m_folder.filePath(u"Sicherung"_qs));
         EXPECT_TRUE(inTheWay.open(QIODevice::WriteOnly));
     }
 
-    /// Not the program's own name: a safety copy with its slow password is none of the calls looked at.
+    /// Not the program's own file name: safety copies with their slow password would add calls that are not
+    /// tested here.
     QString path() const { return m_folder.filePath(u"jahr.mdb"_qs); }
 
-    /// All that a year change can touch, as a new opening finds it.
+    /// All that a change of the year can modify, read by a new connection.
     QString content() const {
         cursors::Connection file(path(), rawKey(), cursors::Connection::Access::ReadWrite);
         EXPECT_EQ(answer(file, "PRAGMA integrity_check"), u"ok");
@@ -64,7 +65,7 @@ protected:
                    "|| ' ' || Notiz) FROM Arbeit");
     }
 
-    /// The start of the program in a process of its own.
+    /// Starts the program in a process of its own.
     End start(
         int year = newYear, const Preparation& prepare = [] {}) const {
         return inOwnProcess([&] {
@@ -82,7 +83,7 @@ protected:
         });
     }
 
-    /// Remembers the old year and the new one, and goes back to the old one.
+    /// Remembers the content in the old and the new year, then returns to the old one.
     void learn(int year) {
         ASSERT_TRUE(QFile::copy(path(), path() + u".alt"_qs));
         m_old = content();
@@ -97,7 +98,7 @@ protected:
         QFile::copy(path() + u".alt"_qs, path());
     }
 
-    /// One of the two years stands whole in the file, and another start makes it the new one.
+    /// Requires the complete content of one of the two years, and that another start makes the new one.
     void requireAWholeYear(int year) {
         const QString found = content();
         ASSERT_TRUE(found == m_old || found == m_new) << qUtf8Printable(found);

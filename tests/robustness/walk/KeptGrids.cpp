@@ -21,8 +21,8 @@
 #include <cmath>
 #include <optional>
 
-/// Where a record is changed: its number on the screen and the grid whose row is written with it. `text` and
-/// what follows are told of records whose name other grids show.
+/// A part of a screen that changes records: the label with the record's number and the grid whose row is
+/// written too. `text` and the members after it are set only if other grids show the record's name.
 struct KeptGrids::Mask {
     QString screen;
     QString number;
@@ -54,8 +54,8 @@ const KeptGrids::Mask masks[] = {{u"Fangbuch"_qs, u"Fangbuch.lblFNr"_qs, catches
                                  {u"Besatzung"_qs, u"Besatzung.lblBNr"_qs, stocking},
                                  {u"Arbeit"_qs, u"Arbeit.lblArbNr"_qs, hours}};
 
-/// In the mode for changes a screen writes the row last opened, wherever that was: on the other page of the
-/// screen, on another screen or before the year was changed.
+/// In EDIT, a screen writes the row opened last, wherever that was: on its other page, on another screen or
+/// before a change of the year.
 bool writesOtherRow(const KeptGrids::Mask& mask, const QString& number) {
     const int row = session().AktZeile;
     if (session().Modus != u"EDIT"_qs) return false;
@@ -63,7 +63,7 @@ bool writesOtherRow(const KeptGrids::Mask& mask, const QString& number) {
            GridCells::cellText(mask.grid + u"[%1,0]"_qs.arg(row)) != number;
 }
 
-/// A number with so many decimals, whether it was typed or formatted; other texts stay.
+/// A number with `decimals` decimals, typed or formatted. Other texts stay.
 QString rounded(const QString& text, int decimals) {
     try {
         const double scale = std::pow(10, decimals);
@@ -73,11 +73,11 @@ QString rounded(const QString& text, int decimals) {
     }
 }
 
-/// A row as a fresh load has it; what is meant to differ is levelled.
+/// A row as a fresh load shows it, with permitted differences removed.
 QString levelled(const QString& grid, QStringList row) {
     if (grid == catches) {
-        row[3].clear();              // The month's name is the mask's, which may not have caught up.
-        row[4] = rounded(row[4], 0); // A changed row has its numbers as they were typed.
+        row[3].clear();              // The month's name comes from the screen, which may not have caught up.
+        row[4] = rounded(row[4], 0); // A changed row shows its numbers as typed.
         row[5] = rounded(row[5], 0);
     }
     if (grid == hours) row[2] = rounded(row[2], 2);
@@ -85,7 +85,7 @@ QString levelled(const QString& grid, QStringList row) {
     if (grid == users) row[3] = row[3].toLower(); // The group may have been typed.
     if (grid == overview) {
         row[1].clear();                      // After the start all categories are closed.
-        row[2].replace(u"  ["_qs, u" ["_qs); // One blank after a new contact, two otherwise.
+        row[2].replace(u"  ["_qs, u" ["_qs); // One space after a new contact, else two.
     }
     return row.join(u'|');
 }
@@ -94,7 +94,7 @@ QStringList rowsOf(const QString& grid) {
     QStringList rows;
     for (const QString& line : GridCells::rows(grid)) {
         const QStringList row = line.split(u'|');
-        // The catch of a fish or water that is gone is listed without the name at first, and never again.
+        // A catch of a deleted fish or water is first listed without the name, later not at all.
         const bool listed = grid != catches || (!row[1].isEmpty() && !row[2].isEmpty());
         if (listed) rows.append(levelled(grid, row));
     }
@@ -110,8 +110,8 @@ int rowOfCategory(const QString& number) {
     return -1;
 }
 
-/// The contacts of an opened category; nothing if it holds the placeholder, which a new contact puts in the
-/// place of the contacts when the last press on the overview has closed a category.
+/// The contacts of an opened category. Empty if it has the placeholder: a new contact puts that in the
+/// contacts' place if the last press in the overview has closed a category.
 std::optional<QStringList> contactsOf(const QString& category) {
     QStringList contacts;
     const int row = rowOfCategory(category);
@@ -119,8 +119,8 @@ std::optional<QStringList> contactsOf(const QString& category) {
     for (const QString& line : GridCells::rows(overview + u"[%1]"_qs.arg(row))) {
         QStringList cells = line.split(u'|');
         if (cells[0].isEmpty()) return std::nullopt;
-        cells[1].clear(); // The picture comes with the next opening.
-        cells[8].clear(); // Day and month change places then.
+        cells[1].clear(); // The picture appears at the next opening.
+        cells[8].clear(); // Day and month are swapped then.
         contacts.append(cells.join(u'|'));
     }
     contacts.sort();
@@ -173,7 +173,7 @@ void KeptGrids::after(const Moment& moment, bool failed) {
     leaveOutAfterChange(moment);
 }
 
-/// A routine goes on with its next statement after an error: the row may be written and the record not.
+/// A routine continues after an error: it may write the row without the record.
 void KeptGrids::leaveOutAfterError(const QString& front) {
     for (const Mask& mask : masks)
         if (mask.screen == front) m_leftOut.insert(mask.grid);
@@ -181,7 +181,7 @@ void KeptGrids::leaveOutAfterError(const QString& front) {
     if (front == u"Kontakt"_qs || front == u"Katego"_qs) m_leftOut.insert(overview);
 }
 
-/// Lists and rows are found by their names: of two of one name, one counts for both or none is found.
+/// Lists and rows are found by name. With two of one name, one is used for both or none is found.
 void KeptGrids::leaveOutNamesakes() {
     const QString twice = u"SELECT 1 FROM %1 GROUP BY %2 COLLATE NOCASE HAVING COUNT(*) > 1"_qs;
     const std::pair<QString, QString> lists[] = {
@@ -189,7 +189,7 @@ void KeptGrids::leaveOutNamesakes() {
         {twice.arg(u"Gewaesser"_qs, u"GName"_qs), catches},
         {twice.arg(u"Gruppen"_qs, u"GName"_qs), users},
         {twice.arg(u"Katego"_qs, u"Kategorie"_qs), overview},
-        // The count of a category is read back from between the first brackets.
+        // A category's count is read from within the first brackets.
         {u"SELECT 1 FROM Katego WHERE instr(Kategorie, '[')"_qs, overview}};
     for (const auto& [query, grid] : lists)
         if (!value(query).isEmpty()) m_leftOut.insert(grid);
@@ -199,15 +199,15 @@ void KeptGrids::leaveOutAfterChange(const Moment& moment) {
     if (!moment.name.isEmpty()) {
         const QString now = nameOf(*moment.mask, moment.number);
         const bool group = moment.mask->table == u"Gruppen"_qs;
-        // Rows go by the text on the screen.
+        // Rows are found by the text on the screen.
         const bool gone = now.isEmpty() && moment.typed != moment.name;
         // The old name is that of the record opened last, on either page. Users keep their group's old name.
         const bool renamed = !now.isEmpty() && now != moment.name && (moment.otherPage || group);
         if (gone || renamed) m_leftOut.insert(group ? users : catches);
-        // The plan has the old names until its screen comes to the front.
+        // The stocking plan shows old names until its screen comes to the front.
         if (!group && now != moment.name) m_leftOut.insert(stocking);
     }
-    // A deleted contact leaves the category that is chosen in the mask.
+    // A deleted contact is removed from the category chosen on its screen.
     if (!moment.movedContact.isEmpty() &&
         value(u"SELECT 1 FROM Kontakt WHERE KNr = '%1'"_qs.arg(moment.movedContact)).isEmpty())
         m_leftOut.insert(overview);
@@ -229,7 +229,7 @@ QMap<QString, QStringList> KeptGrids::shown() const {
 void KeptGrids::remember() {
     m_fishingYear = ControlText::shown(u"Fangbuch.cboFJahr"_qs).toShort();
     m_month = qint16(screen<Fangbuch>().cboSelMonat->currentIndex() + 1);
-    // Nothing stands there before the screen's first visit.
+    // It is empty before the screen's first visit.
     const QString stockingYear = ControlText::shown(u"Besatzung.cboBJahr"_qs);
     m_stockingYear = stockingYear.isEmpty() ? qint16(today().year()) : stockingYear.toShort();
     m_member = isLoaded<Arbeit>() ? ControlText::shown(u"Arbeit.lblKNr"_qs).toInt() : 0;
@@ -242,7 +242,7 @@ void KeptGrids::remember() {
 
 void KeptGrids::loadAnew() const {
     Session& s = session();
-    s.TabelleLaedt = true; // No boxes of empty months and years.
+    s.TabelleLaedt = true; // no message boxes for empty months and years
     s.AktJahr = m_fishingYear;
     s.AktMonatNr = m_month;
     modFangbuch::loadTblFList(screen<Fangbuch>().pb);

@@ -8,39 +8,38 @@
 class PlayedProgram;
 class Screen;
 
-/// Watches the grids that the program fills once and then keeps in step with the file cell by cell: each must
-/// show what a fresh load of the same file does. Where the program is meant to let one differ, the watch
-/// notices and leaves that grid alone until the next start. What a search has found stays as it is until the
-/// next search, so those grids are not watched.
+/// Checks the grids that the program fills once and then updates cell by cell: each must show the same as a
+/// fresh load of the file. Where the program may let a grid differ, the grid is not checked until the next
+/// start. Grids of search results are not checked, as they change only with the next search.
 class KeptGrids {
 public:
     struct Mask;
 
-    /// What can be told before a command only.
+    /// The state before a command.
     struct Moment {
-        QString front;              ///< the screen in front; empty without one
-        const Mask* mask = nullptr; ///< the one in front; null for none that writes a row
-        QString number;             ///< of the record in it
-        QString name;               ///< of the record, as it stands in the file
-        QString typed;              ///< the same on the screen
-        bool otherRow = false;      ///< the row to be written is not that of the record
+        QString front;              ///< the screen in front, empty if there is none
+        const Mask* mask = nullptr; ///< the mask in front, null if none writes a row
+        QString number;             ///< the number of its record
+        QString name;               ///< the record's name in the file
+        QString typed;              ///< the record's name on the screen
+        bool otherRow = false;      ///< the row to be written is not the record's
         bool otherPage = false;     ///< another page of the screen shows a record too
-        QString movedContact;       ///< on show, of another category than the one chosen
+        QString movedContact;       ///< shown contact of another category than the one chosen
     };
 
     explicit KeptGrids(PlayedProgram& program)
         : m_program(program) {}
 
-    /// A session begins: everything is fresh.
+    /// Call when a session begins: all grids are fresh.
     void beginSession() { m_leftOut.clear(); }
     Moment before(const Screen* front) const;
-    /// `failed` if a box told of an error.
+    /// `failed`: a message box reported an error.
     void after(const Moment& moment, bool failed);
 
-    /// Remembers what is shown.
+    /// Remembers the shown rows.
     void remember();
-    /// What a fresh load shows otherwise than what was remembered, a line each. Fills the grids of the
-    /// program, which must just have been started anew.
+    /// The differences between a fresh load and the remembered rows, a line each. Fills the program's grids.
+    /// Call right after the program has been started again.
     QStringList differences();
 
 private:
@@ -56,7 +55,7 @@ private:
     QSet<QString> m_leftOut;
     QString m_version; ///< of the file's content
     QMap<QString, QStringList> m_shown;
-    // What the selectors stood at.
+    // The values of the selectors.
     qint16 m_fishingYear = 0;
     qint16 m_month = 0;
     qint16 m_stockingYear = 0;

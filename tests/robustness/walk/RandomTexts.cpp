@@ -29,7 +29,7 @@ QString longText(DemoDice& dice) {
     return u"Länge "_qs.repeated(dice.pick(lengths) / 6 + 1);
 }
 
-/// What a control asks for, told by its name.
+/// Patterns of controls' names and the texts for them.
 const std::pair<const char16_t*, const QStringList*> wishes[] = {
     {u"FJahr", &years},
     {u"Geb|[tT]ritt|pvDate", &dates},
@@ -53,7 +53,7 @@ QString fitting(DemoDice& dice, const QString& control) {
     if (control.contains(u"txtSuch"_qs))
         return dice.chance(50) ? u"*"_qs : QString(QChar(u'a' + dice.below(26)));
     if (control.contains(u"Passw"_qs) && dice.chance(80)) return {};
-    // Mostly a name of its own.
+    // Mostly a unique name.
     return oneOf(names, dice) + (dice.chance(80) ? u" %1"_qs.arg(dice.below(1000)) : QString());
 }
 

@@ -4,12 +4,13 @@
 
 #include <QString>
 
-/// What a user could type or paste. None holds a "|", which parts the cells of a row in the player.
+/// Texts that a user could type or paste. None contains a "|", which separates the cells of a row in the
+/// player.
 namespace RandomTexts {
 
-/// Anything: sensible, odd or hostile.
+/// Any text: sensible, odd or hostile.
 QString any(DemoDice& dice);
-/// What the control of this name asks for.
+/// A text that suits the control of this name.
 QString fitting(DemoDice& dice, const QString& control);
 
 } // namespace RandomTexts

@@ -23,7 +23,7 @@
 
 namespace {
 
-/// As many as questions come in a row; the last of a longer row is answered no.
+/// The most answers that are set in advance. A further question in a row is answered No.
 constexpr int answersAhead = 2;
 
 QString quoted(QString text) {
@@ -46,7 +46,7 @@ QVector<QWidget*> usableControls(const Screen& screen) {
     QVector<QWidget*> usable;
     for (QWidget* control : screen.findChildren<QWidget*>()) {
         const QString name = control->objectName();
-        // The system's tool would be a program of its own.
+        // cmdSysInfo would start another program.
         const bool named = !name.isEmpty() && !name.startsWith(u"qt_"_qs) && name != u"cmdSysInfo"_qs;
         if (named && control->isVisible() && control->isEnabled() && Controls::screenOf(control) == &screen &&
             (takesText(control) || isOneOf<QComboBox, QAbstractButton, QTabWidget, DataTable>(control)))
@@ -91,7 +91,7 @@ QString RandomUser::roam(Screen& front) {
     return actOnAny(front);
 }
 
-/// Elsewhere: by the border, by the bar or by a menu.
+/// Leaves the screen: by the window's frame, the navigation bar or a menu.
 QString RandomUser::leave(Screen& front) {
     const Screen* frame = Screens::byName(u"Main"_qs);
     const bool frameIsFree = frame && frame->isVisible() && !front.isModalNow();
@@ -130,8 +130,8 @@ QString RandomUser::actOnAny(Screen& front) {
     return actOn(controls[m_dice.below(int(controls.size()))]);
 }
 
-/// Much, little or nothing of what a screen asks for, from an opened row on at times, then the key that
-/// saves, deletes or does something else with it, and a look into what has been found.
+/// Plans to fill in much, little or nothing of a screen, sometimes after opening a row. Then clicks the
+/// button that saves, deletes or does something else, and looks at the result of a search.
 void RandomUser::planToFillIn(Screen& front) {
     constexpr int diligence[] = {97, 97, 25, 0};
     const int often = m_dice.pick(diligence);
@@ -190,13 +190,13 @@ QString RandomUser::onGrid(DataTable& grid, const QString& name) {
     const bool child = children > 0 && m_dice.chance(70);
     if (child) place += u"/%1"_qs.arg(m_dice.below(children));
     constexpr const char16_t* ways[] = {u"open", u"open", u"down", u"context"};
-    // What can be seen of a category is one wide cell.
+    // A category's visible part is one wide cell.
     const bool category = name.endsWith(u"tblKUebers"_qs) && !child;
     const int column = row < 0 ? 0 : m_dice.chance(category ? 70 : 10) ? -5 : category ? 2 : m_dice.below(4);
     return u"%1 %2 %3 %4"_qs.arg(QString::fromUtf16(m_dice.pick(ways)), name, place).arg(column);
 }
 
-/// Now and then after midnight, or after New Year.
+/// Sometimes after midnight or New Year.
 QString RandomUser::startAgain() {
     if (m_program.boxes().unusedAnswers() < answersAhead)
         return m_dice.chance(80) ? u"answer yes"_qs : u"answer no"_qs;

@@ -13,21 +13,20 @@ class Screen;
 class QMenu;
 class QWidget;
 
-/// A user without a plan. Says what to do next out of all that can be seen and used at the moment; the same
-/// seed says the same.
+/// A user who acts at random. Chooses the next step from all that is visible and usable. The same seed gives
+/// the same steps.
 class RandomUser {
 public:
     RandomUser(PlayedProgram& program, quint32 seed);
 
-    /// A line of the scenarios' language.
+    /// The next step, a line of a scenario.
     QString next();
-    /// The lines that start the program and log somebody in who may do everything; they leave the clock
-    /// alone.
+    /// The lines that start the program and log in a user with all rights. They leave the clock alone.
     QStringList comeBack();
-    /// The line that sets the clock to where the user believes it to stand.
+    /// The line that sets the clock to the user's date.
     QString setsClock() const { return u"today "_qs + m_today.toString(Qt::ISODate); }
 
-    /// What can be used now: the modal screen, that in front of the frame or the one that stands alone.
+    /// The usable screen: the modal one, the one in front of the main window or the one alone.
     static Screen* frontScreen(PlayedProgram& program);
 
 private:
@@ -46,6 +45,6 @@ private:
     PlayedProgram& m_program;
     DemoDice m_dice;
     QDate m_today{2026, 3, 14};
-    QStringList m_plan; ///< for the screen that was in front when it was made
+    QStringList m_plan; ///< for the screen m_planned
     QPointer<Screen> m_planned;
 };

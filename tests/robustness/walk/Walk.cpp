@@ -17,12 +17,12 @@ QStringList& heard() {
     return messages;
 }
 
-/// A step that takes so long will never end; the alarm ends the process.
+/// A step that takes longer will never end: an alarm then ends the process.
 constexpr unsigned secondsUntilStuck = 120;
 
 constexpr char16_t comparison[] = u"# the grids beside a fresh load";
 
-/// Boxes that no input may bring about; but a parameter that is no number ends the program.
+/// Message boxes that no input may cause. Only an invalid parameter in System may end the program.
 bool isUnexpected(const QString& box, const QString& screen) {
     const bool ended = box.startsWith(u"critical · Uferwart · Laufzeitfehler"_qs);
     return (ended && screen != u"System"_qs) || box.contains(u"unerwarteter Fehler"_qs);
@@ -71,7 +71,7 @@ bool Walk::canCompare() const {
 void Walk::planComparison() {
     m_compared = m_step;
     lookAtFile();
-    // Nothing may change the file in between: no change of the year, no user put there to let one in.
+    // The file must not change in between: no change of the year, no user added for the login.
     const QString year = program().file().query(u"SELECT FJahr FROM System"_qs).value(0);
     const QStringList start = m_user.comeBack();
     if (year < u"1900"_qs || year.size() != 4 || start.size() > 2) return;
@@ -98,7 +98,7 @@ void Walk::carryOut(const ScriptCommand& command) {
     for (const QString& message : std::exchange(heard(), {})) find(u"the toolkit says: "_qs + message);
 }
 
-/// Writes the boxes into the trace, so that they are expected there. True if one tells of an error.
+/// Writes the message boxes into the trace, so that the scenario expects them. True if one reports an error.
 bool Walk::lookAtBoxes(const QString& screen) {
     program().boxes().takeUnanswered();
     const QStringList boxes = program().boxes().take();
@@ -110,7 +110,7 @@ bool Walk::lookAtBoxes(const QString& screen) {
     return std::any_of(boxes.begin(), boxes.end(), &tellsOfError);
 }
 
-/// What must hold in the file whatever the user has done.
+/// Checks what must be true of the file after any input.
 void Walk::lookAtFile() {
     const std::pair<const char16_t*, const char16_t*> wrong[] = {
         {u"PRAGMA integrity_check", u"ok"},

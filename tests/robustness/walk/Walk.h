@@ -6,15 +6,15 @@
 
 class QFile;
 
-/// Lets a random user loose on the program and looks at what comes of each step. Ends at the first finding.
+/// Runs the program with a random user and checks it after each step. Ends at the first finding.
 class Walk : public Player {
 public:
-    /// Each step is written to the trace before it is taken; the trace is a scenario that repeats the walk.
+    /// Writes each step to the trace before taking it. The trace is a scenario that repeats the walk.
     Walk(PlayedProgram& program, quint32 seed, int steps, QFile& trace);
 
-    /// True if there was nothing to find.
+    /// True if nothing was found.
     bool isSound() const { return m_findings.isEmpty(); }
-    /// A message of the toolkit that nobody expects.
+    /// Takes an unexpected message of Qt.
     static void hear(const QString& message);
 
 protected:

@@ -15,7 +15,7 @@ void hear(QtMsgType, const QMessageLogContext&, const QString& message) {
     if (!Platform::isUsual(message)) Walk::hear(message);
 }
 
-/// A walk that is not sound, or does not come back at all, leaves its steps behind.
+/// Runs one walk. Its trace stays if it finds something or does not return.
 bool isSound(quint32 seed, int steps) {
     QFile trace(QDir::tempPath() + u"/uw_walk-%1.txt"_qs.arg(seed));
     if (!trace.open(QIODevice::WriteOnly)) return false;
