@@ -110,7 +110,8 @@ void Connection::requireTables(const QString& path) {
     }
 }
 
-/// Another tool may have switched the file to a write-ahead log, which keeps the newest rows beside the file.
+/// Ends the write-ahead mode that another tool may have set: its log would keep the newest rows beside the
+/// file.
 void Connection::leaveWriteAheadMode(const QString& path) {
     const auto answer = [this](const QByteArray& pragma) {
         engine::Statement statement = prepare(pragma);

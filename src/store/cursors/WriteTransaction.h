@@ -35,7 +35,7 @@ public:
     void rollback();
     /// Throws the cause again if the action was undone.
     void requireIntact() const;
-    /// False from then on, until the last cursor of the action is closed.
+    /// False once the action was undone, until its last cursor is closed.
     bool isIntact() const { return !m_lost; }
 
 private:

@@ -59,7 +59,8 @@ Operand ExpressionRewriter::readCondition() {
     return condition;
 }
 
-/// Writes no brackets around the single links: SQLite refuses deeply nested brackets.
+/// Reads a chain of parts linked by `word`. Puts one pair of brackets around the chain, not one around each
+/// link: SQLite refuses deeply nested brackets.
 Operand ExpressionRewriter::readChain(QStringView word, Part part) {
     Operand chain = (this->*part)();
     bool linked = false;

@@ -19,7 +19,7 @@ void requireReadableFile(const QString& path);
 void requireContent(const QString& path);
 /// Error 3343 if the file does not end with a whole page.
 void requireWholePages(const QString& path);
-/// Error 3343 if the file is shorter than `pages`, the number of pages that its first page tells.
+/// Error 3343 if the file is shorter than `pages`, the number of pages in its first page.
 void requirePages(const QString& path, qint64 pages);
 
 } // namespace engine

@@ -44,7 +44,8 @@ void copyInto(const QString& target, const QByteArray& content) {
     if (!written || !copy.flush()) throw runtimeError(RuntimeError::noDiskSpace);
 }
 
-/// A half-written first page fits no key until the journal restores it. This restores it in a copy.
+/// Tries the password on a copy after the journal has restored its first page. A half-written first page fits
+/// no key.
 bool fitsOnceTakenBack(const QString& path, const QByteArray& content, const QString& password) {
     const QTemporaryDir folder;
     const QString copy = folder.filePath(QStringLiteral("copy"));

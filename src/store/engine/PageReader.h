@@ -25,7 +25,7 @@ public:
     int pageCount() const { return m_pageCount; }
 
     /// Calls `take` for each row to which the page leads, until it returns false. Column 0 is the row number,
-    /// the table's fields follow; fields beyond the row's own are Stored::Other. Skips rows that lie partly
+    /// the table's fields follow; fields beyond the row's own are Stored::Other. Skips rows that are partly
     /// on a damaged page. Returns false if the page is damaged, belongs to no table, or leads to such a page.
     bool rowsOf(int page, const std::function<bool(const Statement&)>& take);
 

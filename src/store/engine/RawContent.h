@@ -10,8 +10,8 @@ struct sqlite3_file;
 
 namespace engine {
 
-/// The bytes of a database file on the disk. They are read through SQLite: closing the file by other means
-/// would drop this process's locks on it.
+/// The bytes of a database file on the disk. They are read through SQLite: closing a file opened by other
+/// means would drop this process's locks on it.
 class RawContent {
 public:
     /// Reads the file of an open database, whose handle must outlive this. Errors as for a failed read.

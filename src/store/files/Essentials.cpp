@@ -51,7 +51,7 @@ void restoreSystem(cursors::Connection& file) {
     seedSystem(file, latest > 0 && latest < thisYear ? static_cast<int>(latest) : thisYear);
 }
 
-/// Such a user can give the others access again.
+/// Only a user who may manage users can give the others access again.
 bool canAnybodyManageUsers(cursors::Connection& file) {
     return single(file, "SELECT COUNT(*) FROM \"Benutzer\" JOIN \"Gruppen\" USING (\"GNr\") "
                         "WHERE \"Benutzerverwaltung\"") > 0;

@@ -24,5 +24,5 @@ QStringList completeDatabase(const QString& path, const QString& password, const
 void seedSystem(cursors::Connection& file, int year);
 void seedCategories(cursors::Connection& file);
 void seedGroup(cursors::Connection& file);
-/// Puts the user into the first group that may manage users.
+/// Adds the user "Admin" with the empty password to the first group that may manage users, or moves it there.
 void seedUser(cursors::Connection& file);

@@ -29,7 +29,8 @@ public:
     UnfinishedFile(const QString& path, const QString& password);
 
     cursors::Connection& connection() { return m_connection; }
-    /// Commits, reads the file back from the disk, closes and keeps it. Error 3343 if it can't be read back.
+    /// Commits, which flushes the file and its entry in the folder to the disk. Then reads the file back,
+    /// closes and keeps it. Error 3343 if it can't be read back.
     void finish();
 
 private:

@@ -64,7 +64,7 @@ public:
     /// Sets a field of the copy buffer. Error 3020 without AddNew or Edit.
     void Collect(const QString& name, const Value& value);
     Value Collect(const QString& name) const { return Fields(name).Value(); }
-    /// Writes the copy buffer. AddNew does not change the current row.
+    /// Writes the copy buffer. After AddNew the current row stays the same.
     void Update();
     void Delete();
     /// Closes the cursor. If it was the last open one with writes, commits the user's action and throws if
