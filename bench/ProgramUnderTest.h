@@ -19,7 +19,7 @@ public:
     MsgBoxResult show(const QString& text, int style, const QString& title) override;
 };
 
-/// Ends the benchmark at a message box, since nothing should have shown one.
+/// Ends the benchmark at any message box, as none is expected.
 class NoBoxes final : public MessageBoxes {
 public:
     MsgBoxResult show(const QString& text, int style, const QString& title) override;
