@@ -18,7 +18,7 @@ public:
     /// The state before a command.
     struct Moment {
         QString front;              ///< the screen in front, empty if there is none
-        const Mask* mask = nullptr; ///< the mask in front, null if none writes a row
+        const Mask* mask = nullptr; ///< the part in front, null if none writes a row
         QString number;             ///< the number of its record
         QString name;               ///< the record's name in the file
         QString typed;              ///< the record's name on the screen
