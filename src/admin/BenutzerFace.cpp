@@ -2,6 +2,7 @@
 #include "ComboBox.h"
 #include "DataTable.h"
 #include "Face.h"
+#include "Gitter.h"
 #include "Heading.h"
 #include "TextBox.h"
 #include "Toolbar.h"

@@ -2,8 +2,10 @@
 
 #include "DataTable.h"
 #include "Face.h"
+#include "Gitter.h"
 #include "Heading.h"
 #include "Session.h"
+#include "Tastenfilter.h"
 #include "TextBox.h"
 #include "Toolbar.h"
 #include "modRun.h"

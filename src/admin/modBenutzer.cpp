@@ -6,7 +6,11 @@
 #include "DataTable.h"
 #include "Datenbank.h"
 #include "Datensatz.h"
+#include "Eingaben.h"
 #include "ErrorTail.h"
+#include "Feldwerte.h"
+#include "Gitter.h"
+#include "Meldungen.h"
 #include "MsgBox.h"
 #include "Screens.h"
 #include "Session.h"
@@ -108,7 +112,7 @@ void UpdateBenutzer(int row) {
         const Benutzer& form = screen<Benutzer>();
         bool fehlt = false;
         const bool steht = Datensatz::schreibe(step, u"Benutzer"_qs, [&](Recordset& benutzer) {
-            fehlt = !modRun::finde(step, benutzer, form.lblBNr->Caption());
+            fehlt = !Datensatz::finde(step, benutzer, form.lblBNr->Caption());
             if (fehlt) modRun::MeldeNichtVorhanden();
             const qint32 gnr = fehlt ? 0 : ErmittleGNr(form.cboBG->Text());
             if (gnr == 0) return false;

@@ -6,6 +6,7 @@
 #include "ExcelAusgabe.h"
 #include "Fangbuch.h"
 #include "Jahre.h"
+#include "Meldungen.h"
 #include "MsgBox.h"
 #include "Rahmen.h"
 #include "Screens.h"

@@ -2,14 +2,16 @@
 #include "DataTable.h"
 #include "Face.h"
 #include "Fangauswertung.h"
+#include "Gitter.h"
 #include "Heading.h"
+#include "Kalendernamen.h"
 #include "ProgressBar.h"
 #include "Session.h"
+#include "Tastenfilter.h"
 #include "TextBox.h"
 #include "Toolbar.h"
 #include "ValueLabel.h"
 #include "modFAuswert.h"
-#include "modRun.h"
 
 #include <QCheckBox>
 #include <QGridLayout>

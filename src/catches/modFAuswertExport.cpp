@@ -2,11 +2,11 @@
 #include "DataTable.h"
 #include "ExcelAusgabe.h"
 #include "Fangauswertung.h"
+#include "Kalendernamen.h"
 #include "Screens.h"
 #include "SeqData.h"
 #include "Session.h"
 #include "modFAuswert.h"
-#include "modRun.h"
 
 #include <array>
 

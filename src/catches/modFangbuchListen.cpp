@@ -5,13 +5,14 @@
 #include "Datenbank.h"
 #include "ErrorTail.h"
 #include "Fangbuch.h"
+#include "Feldwerte.h"
+#include "Kalendernamen.h"
 #include "MsgBox.h"
 #include "ProgressBar.h"
 #include "Recordset.h"
 #include "Screens.h"
 #include "Session.h"
 #include "modFangbuch.h"
-#include "modRun.h"
 
 #include <QScopeGuard>
 

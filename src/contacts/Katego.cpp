@@ -3,6 +3,7 @@
 #include "DataTable.h"
 #include "Erfassung.h"
 #include "Face.h"
+#include "Gitter.h"
 #include "Heading.h"
 #include "KontaktUebers.h"
 #include "Rahmen.h"

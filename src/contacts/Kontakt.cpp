@@ -1,13 +1,14 @@
 #include "Kontakt.h"
 
 #include "ComboBox.h"
+#include "Eingaben.h"
+#include "Meldungen.h"
 #include "MemoBox.h"
 #include "MsgBox.h"
 #include "Screens.h"
 #include "Session.h"
 #include "TextBox.h"
 #include "modKontakt.h"
-#include "modRun.h"
 
 #include <QCheckBox>
 #include <QRadioButton>

@@ -2,6 +2,7 @@
 #include "Face.h"
 #include "Kontakt.h"
 #include "MemoBox.h"
+#include "Tastenfilter.h"
 #include "TextBox.h"
 #include "Toolbar.h"
 #include "ValueLabel.h"

@@ -2,6 +2,7 @@
 
 #include "ComboBox.h"
 #include "Conversions.h"
+#include "Feldwerte.h"
 #include "Kontakt.h"
 #include "MemoBox.h"
 #include "Namen.h"
@@ -9,7 +10,6 @@
 #include "ValueLabel.h"
 #include "modKatego.h"
 #include "modKontakt.h"
-#include "modRun.h"
 
 #include <QCheckBox>
 #include <QRadioButton>

@@ -7,6 +7,7 @@
 #include "Heading.h"
 #include "Katego.h"
 #include "Kontakt.h"
+#include "Meldungen.h"
 #include "MsgBox.h"
 #include "Rahmen.h"
 #include "Screens.h"

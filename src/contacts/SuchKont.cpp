@@ -2,14 +2,16 @@
 
 #include "ComboBox.h"
 #include "DataTable.h"
+#include "Eingaben.h"
 #include "Face.h"
+#include "Gitter.h"
 #include "Namen.h"
 #include "Session.h"
+#include "Tastenfilter.h"
 #include "TextBox.h"
 #include "Theme.h"
 #include "ValueLabel.h"
 #include "modKontakt.h"
-#include "modRun.h"
 
 #include <QGridLayout>
 #include <QLabel>

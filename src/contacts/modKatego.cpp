@@ -4,8 +4,11 @@
 #include "DataTable.h"
 #include "Datenbank.h"
 #include "Datensatz.h"
+#include "Eingaben.h"
 #include "ErrorTail.h"
+#include "Feldwerte.h"
 #include "Katego.h"
+#include "Meldungen.h"
 #include "MsgBox.h"
 #include "Recordset.h"
 #include "Screens.h"
@@ -13,7 +16,6 @@
 #include "Uebersicht.h"
 #include "ValueLabel.h"
 
-#include "modRun.h"
 
 namespace modKatego {
 

@@ -4,10 +4,12 @@
 #include "Conversions.h"
 #include "DataTable.h"
 #include "Datenbank.h"
+#include "Eingaben.h"
 #include "ErrorTail.h"
 #include "Katego.h"
 #include "Kontakt.h"
 #include "KontaktFelder.h"
+#include "Meldungen.h"
 #include "MemoBox.h"
 #include "Recordset.h"
 #include "Screens.h"
@@ -16,7 +18,6 @@
 #include "ValueLabel.h"
 #include "Zugriff.h"
 #include "modKatego.h"
-#include "modRun.h"
 
 #include <QCheckBox>
 #include <QRadioButton>

@@ -6,6 +6,7 @@
 #include "Kontakt.h"
 #include "KontaktFelder.h"
 #include "KontaktUebers.h"
+#include "Meldungen.h"
 #include "Namen.h"
 #include "Recordset.h"
 #include "Screens.h"
@@ -15,7 +16,6 @@
 #include "ValueLabel.h"
 #include "modKatego.h"
 #include "modKontakt.h"
-#include "modRun.h"
 
 // What writes a contact: the tables `Kontakt` and `Mitglied`, and the overview, which is kept in step cell by
 // cell since it is never loaded anew.
@@ -48,7 +48,7 @@ void fuelleMitglied(ErrorTail& step, Recordset& mitglied, const Value& knr, cons
 
 /// A member's row as the mask has it; one that is missing is added.
 bool schreibeMitglied(ErrorTail& step, Recordset& mitglied, qint32 knr, const Kontakt& form) {
-    if (modRun::finde(step, mitglied, knr)) {
+    if (Datensatz::finde(step, mitglied, knr)) {
         step([&] { mitglied.Edit(); });
         KontaktFelder::schreibeMitglied(step, mitglied, form);
     } else {
@@ -165,7 +165,7 @@ void zeigeGeaenderten(ErrorTail& step, qint32 knr, const Umzug& umzug, int row, 
 
 /// Who leaves a member category loses the member's row, also on the way into the other one.
 bool loescheMitglied(ErrorTail& step, Recordset& mitglied, qint32 knr) {
-    if (modRun::finde(step, mitglied, knr)) return step([&] { mitglied.Delete(); });
+    if (Datensatz::finde(step, mitglied, knr)) return step([&] { mitglied.Delete(); });
     modRun::MeldeNichtVorhanden();
     return true;
 }
@@ -185,7 +185,7 @@ bool zieheMitgliedNach(ErrorTail& step, qint32 knr, const Umzug& umzug, const Ko
 bool richteMitglied(ErrorTail& step, qint32 knr, const Kontakt& form) {
     return Datensatz::schreibe(step, u"Mitglied"_qs, [&](Recordset& mitglied) {
         if (KontaktFelder::istMitglied(form)) return schreibeMitglied(step, mitglied, knr, form);
-        return !modRun::finde(step, mitglied, knr) || step([&] { mitglied.Delete(); });
+        return !Datensatz::finde(step, mitglied, knr) || step([&] { mitglied.Delete(); });
     });
 }
 
@@ -271,7 +271,7 @@ void LoescheKontakt() {
         const qint32 kategonr = ErmittleKategoNr(form.cboKatego->Text());
         const auto mitglied = [&](Recordset&) {
             return Datensatz::schreibe(step, u"Mitglied"_qs, [&](Recordset& satz) {
-                return !modRun::finde(step, satz, knr) || step([&] { satz.Delete(); });
+                return !Datensatz::finde(step, satz, knr) || step([&] { satz.Delete(); });
             });
         };
         if (Datensatz::loesche(step, u"Kontakt"_qs, knr, mitglied))

@@ -2,6 +2,7 @@
 #include "DataTable.h"
 #include "Datenbank.h"
 #include "ErrorTail.h"
+#include "Meldungen.h"
 #include "Namen.h"
 #include "Recordset.h"
 #include "Screens.h"
@@ -10,7 +11,6 @@
 #include "TextBox.h"
 #include "ValueLabel.h"
 #include "modKontakt.h"
-#include "modRun.h"
 
 // The search for a contact by a word.
 

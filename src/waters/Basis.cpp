@@ -2,6 +2,7 @@
 
 #include "DataTable.h"
 #include "Face.h"
+#include "Gitter.h"
 #include "Heading.h"
 #include "MemoBox.h"
 #include "TextBox.h"

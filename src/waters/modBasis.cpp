@@ -6,6 +6,7 @@
 #include "DataTable.h"
 #include "Datenbank.h"
 #include "Datensatz.h"
+#include "Eingaben.h"
 #include "ErrorTail.h"
 #include "MemoBox.h"
 #include "MsgBox.h"

@@ -6,8 +6,11 @@
 #include "DataTable.h"
 #include "Datenbank.h"
 #include "Datensatz.h"
+#include "Eingaben.h"
 #include "ErrorTail.h"
+#include "Feldwerte.h"
 #include "Format.h"
+#include "Meldungen.h"
 #include "MsgBox.h"
 #include "Namen.h"
 #include "Recordset.h"
@@ -15,7 +18,6 @@
 #include "Session.h"
 #include "TextBox.h"
 #include "ValueLabel.h"
-#include "modRun.h"
 
 #include <array>
 

@@ -8,8 +8,10 @@
 #include "DateBox.h"
 #include "Datenbank.h"
 #include "Datensatz.h"
+#include "Eingaben.h"
 #include "ErrorTail.h"
 #include "Format.h"
+#include "Meldungen.h"
 #include "MemoBox.h"
 #include "Recordset.h"
 #include "Screens.h"
@@ -17,7 +19,6 @@
 #include "TextBox.h"
 #include "ValueLabel.h"
 #include "Zugriff.h"
-#include "modRun.h"
 
 #include <QPushButton>
 

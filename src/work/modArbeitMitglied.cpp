@@ -4,8 +4,11 @@
 #include "DataTable.h"
 #include "DateBox.h"
 #include "Datenbank.h"
+#include "Datensatz.h"
 #include "ErrorTail.h"
+#include "Feldwerte.h"
 #include "Format.h"
+#include "Meldungen.h"
 #include "MitglList.h"
 #include "MsgBox.h"
 #include "Rahmen.h"
@@ -51,7 +54,7 @@ bool schuldetStunden(ErrorTail& step, const QString& knr) {
     Recordset mitglied;
     bool befreit = false;
     step([&] { mitglied = oeffneTabelle(u"Mitglied"_qs); });
-    const bool gefunden = modRun::finde(step, mitglied, knr);
+    const bool gefunden = Datensatz::finde(step, mitglied, knr);
     if (!gefunden)
         modRun::MeldeNichtVorhanden();
     else if (step.test([&] { return mitglied.Collect(u"Befreit"_qs) == Value(true); }))

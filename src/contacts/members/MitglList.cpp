@@ -4,6 +4,7 @@
 #include "DataTable.h"
 #include "Drucklauf.h"
 #include "Jahre.h"
+#include "Meldungen.h"
 #include "MsgBox.h"
 #include "Rahmen.h"
 #include "Screens.h"
@@ -12,7 +13,6 @@
 #include "ValueLabel.h"
 #include "modKontakt.h"
 #include "modMitglList.h"
-#include "modRun.h"
 
 #include <QCheckBox>
 #include <QToolButton>

@@ -1,15 +1,16 @@
 #include "ComboBox.h"
 #include "DataTable.h"
 #include "Face.h"
+#include "Gitter.h"
 #include "Heading.h"
 #include "MitglList.h"
 #include "ProgressBar.h"
 #include "Session.h"
+#include "Tastenfilter.h"
 #include "TextBox.h"
 #include "Toolbar.h"
 #include "ValueLabel.h"
 #include "modMitglList.h"
-#include "modRun.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>

@@ -4,7 +4,9 @@
 #include "Conversions.h"
 #include "DataTable.h"
 #include "Datenbank.h"
+#include "Eingaben.h"
 #include "ErrorTail.h"
+#include "Feldwerte.h"
 #include "Format.h"
 #include "Hourglass.h"
 #include "MitglList.h"
@@ -18,7 +20,6 @@
 #include "TextBox.h"
 #include "ValueLabel.h"
 #include "modKontakt.h"
-#include "modRun.h"
 
 #include <QCheckBox>
 #include <QRadioButton>

@@ -5,6 +5,11 @@
 
 namespace Datensatz {
 
+bool finde(ErrorTail& step, Recordset& satz, const Value& nummer) {
+    step([&] { satz.Index(u"PrimaryKey"_qs); });
+    return step([&] { satz.Seek(u"="_qs, nummer); }) && !satz.NoMatch();
+}
+
 Danach lies(ErrorTail& step, std::vector<Value>& werte, const QStringList& felder) {
     return [&step, &werte, felder](const Recordset& satz) {
         werte.clear();
@@ -39,7 +44,7 @@ bool speichere(ErrorTail& step, const QString& tabelle, const Felder& felder, co
 bool aendere(ErrorTail& step, const QString& tabelle, const Value& nummer, const Felder& felder,
              const Danach& danach, void (*fehlt)()) {
     return schreibe(step, tabelle, [&](Recordset& satz) {
-        if (!modRun::finde(step, satz, nummer)) {
+        if (!finde(step, satz, nummer)) {
             fehlt();
             return false;
         }
@@ -53,7 +58,7 @@ bool aendere(ErrorTail& step, const QString& tabelle, const Value& nummer, const
 bool loesche(ErrorTail& step, const QString& tabelle, const Value& nummer, const Danach& danach,
              void (*fehlt)()) {
     return schreibe(step, tabelle, [&](Recordset& satz) {
-        if (!modRun::finde(step, satz, nummer)) {
+        if (!finde(step, satz, nummer)) {
             fehlt();
             return false;
         }

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "Meldungen.h"
 #include "Recordset.h"
-#include "modRun.h"
 
 #include <QString>
 #include <functional>
@@ -36,5 +36,9 @@ bool aendere(ErrorTail& step, const QString& tabelle, const Value& nummer, const
 /// Deletes the record of this number. `danach` finds no current record.
 bool loesche(ErrorTail& step, const QString& tabelle, const Value& nummer, const Danach& danach = {},
              void (*fehlt)() = &modRun::MeldeNichtVorhanden);
+
+/// Seeks the record of this number in an open table. False also when the seek itself failed: there is then no
+/// current record, and the routine tells that instead of stumbling over each further statement.
+bool finde(ErrorTail& step, Recordset& satz, const Value& nummer);
 
 } // namespace Datensatz

@@ -8,7 +8,7 @@ struct Erfassung {
     void (*speichere)();
     void (*aendere)(int row);
     void (*loesche)(int row);
-    QString frage;      ///< before the record is deleted
+    QString frage;     ///< before the record is deleted
     void (*beiNein)(); ///< when the question is answered with no
 
     /// Changes the open record, or stores the entry as a new one if none is open.

@@ -1,12 +1,12 @@
 #include "ExcelAusgabe.h"
 
 #include "DataTable.h"
+#include "Meldungen.h"
 #include "MsgBox.h"
 #include "OtherProgram.h"
 #include "RuntimeError.h"
 #include "Session.h"
 #include "Spreadsheet.h"
-#include "modRun.h"
 
 void erzeugeAufWunsch(const DataTable& grid, const QString& frage, const QString& keineDaten,
                       void (*erzeuge)()) {

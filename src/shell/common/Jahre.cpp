@@ -1,14 +1,31 @@
 #include "Jahre.h"
 
+#include "ComboBox.h"
 #include "Conversions.h"
 #include "Datenbank.h"
 #include "ErrorTail.h"
 #include "Session.h"
-#include "modRun.h"
 
 #include <optional>
 
 namespace {
+
+/// Appends the years from the lowest to the highest, `akt` if it lies behind them, and the years from `akt`
+/// on if it lies before them. A gap before `akt` stays a gap. Years beyond 16 bits are left out, and of a
+/// span of centuries, as a slip of the pen makes it, the middle.
+void haengeJahreAn(ComboBox* combo, qint32 lowest, qint32 highest, qint16 akt) {
+    using Year = std::numeric_limits<qint16>;
+    constexpr qint64 nahe = 200;
+    const auto haengeAn = [&](qint64 von, qint64 bis) {
+        for (qint64 jahr = std::max<qint64>(von, Year::min()); jahr <= std::min<qint64>(bis, Year::max());
+             ++jahr)
+            if (jahr - von < nahe || bis - jahr < nahe || std::abs(jahr - akt) < nahe)
+                combo->AddItem(QString::number(jahr));
+    };
+    haengeAn(lowest, highest);
+    if (highest < akt) haengeAn(akt, akt);
+    haengeAn(akt, lowest - qint64(1));
+}
 
 /// The lowest or highest year that a query finds, `sonst` where it finds none; nothing if it failed.
 std::optional<qint32> grenzjahr(ErrorTail& step, const QString& select, qint32 sonst) {
@@ -35,7 +52,7 @@ void loadcboFJahr(ComboBox* combo) {
         };
         const qint32 lowest = grenze(u"SELECT MIN(FangJahr) FROM Fang"_qs);
         const qint32 highest = grenze(u"SELECT MAX(FangJahr) FROM Fang"_qs);
-        modRun::haengeJahreAn(combo, lowest, highest, aktJahr);
+        haengeJahreAn(combo, lowest, highest, aktJahr);
     });
 }
 
@@ -46,6 +63,6 @@ void loadcboArbJahre(ComboBox* combo) {
         if (!lowest) return;
         const auto highest = grenzjahr(step, u"SELECT MAX(Jahr) FROM Arbeit"_qs, diesesJahr);
         if (!highest) return;
-        modRun::haengeJahreAn(combo, *lowest, *highest, diesesJahr);
+        haengeJahreAn(combo, *lowest, *highest, diesesJahr);
     });
 }

@@ -4,9 +4,9 @@
 #include "Conversions.h"
 #include "Datenbank.h"
 #include "ErrorTail.h"
+#include "Meldungen.h"
 #include "Session.h"
 #include "SqlText.h"
-#include "modRun.h"
 
 #include <functional>
 

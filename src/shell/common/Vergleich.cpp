@@ -1,8 +1,8 @@
 #include "Vergleich.h"
 
 #include "ComboBox.h"
+#include "Eingaben.h"
 #include "TextBox.h"
-#include "modRun.h"
 
 #include <QCheckBox>
 

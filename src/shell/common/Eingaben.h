@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QWidget>
+#include <initializer_list>
+
+// What a form must hold before it is saved.
+
+namespace modRun {
+
+/// A control of a form and what it holds.
+struct Eingabe {
+    template<typename Control>
+    Eingabe(Control* control)
+        : feld(control)
+        , leer(control->Text().isEmpty()) {}
+    Eingabe(QWidget* control, bool empty)
+        : feld(control)
+        , leer(empty) {}
+
+    QWidget* feld;
+    bool leer;
+};
+
+/// The first control that must be filled and is not; null if all are.
+QWidget* erstesLeere(std::initializer_list<Eingabe> eingaben);
+/// True without a control at fault; otherwise MeldeEingabeFehler has told it.
+bool fehlerfrei(QWidget* schuld);
+
+} // namespace modRun

@@ -1,0 +1,38 @@
+#include "Feldwerte.h"
+
+#include "Conversions.h"
+#include "ErrorTail.h"
+#include "Recordset.h"
+#include "TextBox.h"
+
+#include <QAbstractButton>
+#include <QCheckBox>
+
+namespace modRun {
+
+void leseZellen(ErrorTail& step, const std::vector<Recordset::Field>& felder, std::span<Value> zeile) {
+    for (std::size_t i = 0; i < felder.size(); ++i) step([&] { zeile[i] = felder[i].Value(); });
+}
+
+bool WertAusCheckBox(const QCheckBox* box) { return box->isChecked(); }
+
+int CheckBoxAusWert(const Recordset::Field& field) { return field.Value() == Value(true) ? 1 : 0; }
+
+bool WertAusOption(const QAbstractButton* option) { return option->isChecked(); }
+
+QString textOderLeer(const Recordset::Field& field) {
+    const Value value = field.Value();
+    return value.isNull() ? QString() : CStr(value);
+}
+
+Date DatumAusText(const TextBox* box) {
+    const Value text(box->Text());
+    return CDate(IsDate(text) ? text : Value(u"00:00:0000"_qs));
+}
+
+QString TextAusDatum(const Recordset::Field& field) {
+    const Value value = field.Value();
+    return value.isNull() || CDate(value).isEmpty() ? QString() : CStr(value);
+}
+
+} // namespace modRun

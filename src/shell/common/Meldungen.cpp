@@ -1,0 +1,31 @@
+#include "Meldungen.h"
+
+#include "Meldungen.h"
+#include "MsgBox.h"
+
+#include <QWidget>
+
+namespace modRun {
+
+void MeldeNichtVorhanden() {
+    MsgBox(u"FEHLER: Datensatz nicht vorhanden o. nicht vorhanden !"_qs, vbCritical);
+}
+
+void MeldeNichtsGefunden() {
+    MsgBox(u"Keine passenden Datensätze gefunden, bitte versuchen Sie es erneut!"_qs, vbInformation);
+}
+
+void MeldeEingabeFehler(QWidget* schuld) {
+    MsgBox(u"ACHTUNG: Eingabefelder nicht korrekt, Vorgang abgebrochen !"_qs, vbInformation);
+    schuld->setFocus();
+    // A box that sends the focus on when it loses it has done so now.
+    schuld->setFocus();
+}
+
+void MeldeAbgebrochen() { MsgBox(u"Vorgang von User abgebrochen !"_qs, vbInformation); }
+
+void MeldeKeinZugriff() {
+    MsgBox(u"Sie haben keine Zugriffsberechtigung auf diese Funktion !"_qs, vbInformation);
+}
+
+} // namespace modRun
