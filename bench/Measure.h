@@ -19,24 +19,28 @@ double secondsOf(Work&& work) {
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
 }
 
-/// In seconds, of a work that can be done again: one under a millisecond is repeated until the clock can
-/// tell.
+/// How often a work must be done until the clock can tell what it takes: for a millisecond.
 template<typename Work>
-double secondsOfEach(Work&& work) {
+int timesForClock(Work&& work) {
     constexpr double enough = 1e-3;
-    for (int times = 1;; times *= 2) {
-        const double all = secondsOf([&] {
-            for (int done = 0; done < times; ++done) work();
-        });
-        if (all >= enough) return all / times;
-    }
+    return 1 + static_cast<int>(enough / secondsOf(work));
+}
+
+/// In seconds, the mean of so many.
+template<typename Work>
+double secondsOfOne(int times, Work&& work) {
+    return secondsOf([&] {
+               for (int done = 0; done < times; ++done) work();
+           }) /
+           times;
 }
 
 /// Median of several runs, in seconds.
 template<typename Work>
 double medianSeconds(int runs, Work&& work) {
+    const int times = timesForClock(work);
     std::vector<double> seconds;
-    for (int run = 0; run < runs; ++run) seconds.push_back(secondsOfEach(work));
+    for (int run = 0; run < runs; ++run) seconds.push_back(secondsOfOne(times, work));
     return median(seconds);
 }
 
@@ -50,11 +54,13 @@ template<typename Own, typename Floor>
 Pair byTurns(int runs, Own&& own, Floor&& floor) {
     std::vector<double> ours;
     std::vector<double> floors;
+    const int ownTimes = timesForClock(own);
+    const int floorTimes = timesForClock(floor);
     constexpr double enough = 0.3;
     for (double spent = 0; spent < enough || static_cast<int>(ours.size()) < runs;) {
         spent += secondsOf([&] {
-            floors.push_back(secondsOfEach(floor));
-            ours.push_back(secondsOfEach(own));
+            floors.push_back(secondsOfOne(floorTimes, floor));
+            ours.push_back(secondsOfOne(ownTimes, own));
         });
     }
     return {median(ours), median(floors)};
