@@ -2,7 +2,6 @@
 
 #include "Clock.h"
 #include "Conversions.h"
-#include "FocusMove.h"
 #include "Theme.h"
 
 #include <QCalendarWidget>
@@ -34,7 +33,8 @@ QString withPoints(QString typed) {
 
 // Not QDateEdit: it reads 31012026, typed while it shows a day of February, as 3 October 1202.
 DateBox::DateBox(const QString& name, QWidget* parent)
-    : QComboBox(parent) {
+    : QComboBox(parent)
+    , m_focus(this) {
     setObjectName(name);
     setEditable(true);
     setCompleter(nullptr);
@@ -44,7 +44,6 @@ DateBox::DateBox(const QString& name, QWidget* parent)
     setFocusPolicy(Qt::StrongFocus);
     connect(lineEdit(), &QLineEdit::editingFinished, this, &DateBox::settle);
     connect(this, &QComboBox::editTextChanged, this, [this] { Theme::setFaulty(this, false); });
-    whenFocusIsElsewhere(this, [this] { m_hasFocus = false; });
 }
 
 Date DateBox::date() const {
@@ -98,14 +97,12 @@ void DateBox::wheelEvent(QWheelEvent* event) { event->ignore(); }
 // have moved it here while another window was active: then the focus arrives with the window's return.
 void DateBox::focusInEvent(QFocusEvent* event) {
     QComboBox::focusInEvent(event);
-    const bool arrives = movesFocus(event->reason()) || !m_hasFocus;
-    m_hasFocus = true;
-    if (arrives && event->reason() != Qt::MouseFocusReason) lineEdit()->selectAll();
+    if (m_focus.comes(event->reason()) && event->reason() != Qt::MouseFocusReason) lineEdit()->selectAll();
 }
 
 void DateBox::focusOutEvent(QFocusEvent* event) {
     QComboBox::focusOutEvent(event);
-    if (movesFocus(event->reason())) m_hasFocus = false;
+    m_focus.goes(event->reason());
 }
 
 void DateBox::makeCalendar() {

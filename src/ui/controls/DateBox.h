@@ -1,5 +1,6 @@
 #pragma once
 
+#include "FocusMove.h"
 #include "Value.h"
 
 #include <QComboBox>
@@ -40,7 +41,7 @@ private:
     void makeCalendar();
 
     Date m_date;
-    QString m_shown;         ///< the text of m_date in the box
-    bool m_hasFocus = false; ///< also while a menu or another window borrows the focus
+    QString m_shown; ///< the text of m_date in the box
+    FocusState m_focus;
     QPointer<QCalendarWidget> m_calendar;
 };

@@ -2,10 +2,22 @@
 
 #include <QApplication>
 #include <QWidget>
+#include <utility>
 
-void whenFocusIsElsewhere(QWidget* control, std::function<void()> told) {
-    QObject::connect(qApp, &QApplication::focusChanged, control,
-                     [control, told = std::move(told)](QWidget*, QWidget* focused) {
-                         if (focused && focused != control && focused->window() == control->window()) told();
-                     });
+FocusState::FocusState(QWidget* control, std::function<void()> lost)
+    : m_lost(std::move(lost)) {
+    m_moves = QObject::connect(
+        qApp, &QApplication::focusChanged, control, [this, control](QWidget*, QWidget* focused) {
+            if (focused && focused != control && focused->window() == control->window()) lose();
+        });
+}
+
+bool FocusState::comes(Qt::FocusReason reason) { return !std::exchange(m_has, true) || movesFocus(reason); }
+
+void FocusState::goes(Qt::FocusReason reason) {
+    if (movesFocus(reason)) lose();
+}
+
+void FocusState::lose() {
+    if (std::exchange(m_has, false)) m_lost();
 }

@@ -1,7 +1,7 @@
 #pragma once
 
+#include <QObject>
 #include <functional>
-#include <qnamespace.h>
 
 class QWidget;
 
@@ -12,6 +12,27 @@ inline bool movesFocus(Qt::FocusReason reason) {
            reason != Qt::ActiveWindowFocusReason;
 }
 
-/// Calls `told` when another control of the same window has got the focus. Needed since the focus may move
-/// while a message box is in front: the control that had it gets no event of its own then.
-void whenFocusIsElsewhere(QWidget* control, std::function<void()> told);
+/// Whether a control has the focus, also while it is only borrowed.
+class FocusState {
+public:
+    /// `lost` runs when the focus has moved on. It may have moved while a box was in front: then the control
+    /// gets no event of its own.
+    explicit FocusState(
+        QWidget* control, std::function<void()> lost = [] {});
+    ~FocusState() { QObject::disconnect(m_moves); }
+    FocusState(const FocusState&) = delete;
+    FocusState& operator=(const FocusState&) = delete;
+
+    /// Call in focusInEvent. True if the focus has come to the control, and not back from a box: also where
+    /// it was moved here while another window was active, and arrives with the window's return.
+    bool comes(Qt::FocusReason reason);
+    /// Call in focusOutEvent.
+    void goes(Qt::FocusReason reason);
+
+private:
+    void lose();
+
+    std::function<void()> m_lost;
+    QMetaObject::Connection m_moves;
+    bool m_has = false;
+};

@@ -1,6 +1,5 @@
 #include "MemoBox.h"
 
-#include "FocusMove.h"
 #include "LineBreaks.h"
 
 #include <QInputMethodEvent>
@@ -21,11 +20,11 @@ QString insertedBy(const QKeyEvent* event) {
 } // namespace
 
 MemoBox::MemoBox(const QString& name, QWidget* parent)
-    : QPlainTextEdit(parent) {
+    : QPlainTextEdit(parent)
+    , m_focus(this, [this] { Q_EMIT LostFocus(); }) {
     setObjectName(name);
     setTabChangesFocus(true);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    whenFocusIsElsewhere(this, [this] { loseFocus(); });
 }
 
 // toRawText(), since toPlainText() turns every no-break space into a common one.
@@ -82,18 +81,10 @@ void MemoBox::inputMethodEvent(QInputMethodEvent* event) {
 
 void MemoBox::focusInEvent(QFocusEvent* event) {
     QPlainTextEdit::focusInEvent(event);
-    if (!movesFocus(event->reason()) && m_hasFocus) return;
-    m_hasFocus = true;
-    Q_EMIT GotFocus();
+    m_focus.comes(event->reason());
 }
 
 void MemoBox::focusOutEvent(QFocusEvent* event) {
     QPlainTextEdit::focusOutEvent(event);
-    if (movesFocus(event->reason())) loseFocus();
-}
-
-void MemoBox::loseFocus() {
-    if (!m_hasFocus) return;
-    m_hasFocus = false;
-    Q_EMIT LostFocus();
+    m_focus.goes(event->reason());
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "FocusMove.h"
+
 #include <QPlainTextEdit>
 
 /// A text box of several lines with a vertical scroll bar. Tab leaves it.
@@ -18,7 +20,6 @@ public:
     void setLimit(int characters) { m_limit = characters; }
 
 Q_SIGNALS:
-    void GotFocus();
     void LostFocus();
 
 protected:
@@ -30,10 +31,8 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
-    void loseFocus();
-
     QString whatFits(const QString& text) const;
 
     int m_limit = 0;
-    bool m_hasFocus = false;
+    FocusState m_focus;
 };

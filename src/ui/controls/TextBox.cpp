@@ -1,9 +1,7 @@
 #include "TextBox.h"
 
 #include "Conversions.h"
-#include "FocusMove.h"
 #include "Theme.h"
-
 #include <QApplication>
 #include <QDropEvent>
 #include <QInputMethodEvent>
@@ -47,9 +45,12 @@ QString inOneLine(QString text) {
 } // namespace
 
 TextBox::TextBox(const QString& name, QWidget* parent)
-    : QLineEdit(parent) {
+    : QLineEdit(parent)
+    , m_focus(this, [this] {
+        m_selectOnRelease = false;
+        Q_EMIT LostFocus();
+    }) {
     setObjectName(name);
-    whenFocusIsElsewhere(this, [this] { loseFocus(); });
 }
 
 void TextBox::setHoldsDate() {
@@ -164,9 +165,7 @@ void TextBox::dropEvent(QDropEvent* event) {
 
 void TextBox::focusInEvent(QFocusEvent* event) {
     QLineEdit::focusInEvent(event);
-    // The focus may have been moved here while another window was active: it comes with the window's return.
-    if (!movesFocus(event->reason()) && m_hasFocus) return;
-    m_hasFocus = true;
+    if (!m_focus.comes(event->reason())) return;
     m_selectOnRelease = m_selectAllOnFocus && event->reason() == Qt::MouseFocusReason;
     if (m_selectAllOnFocus && !m_selectOnRelease) selectAll();
     Q_EMIT GotFocus();
@@ -174,15 +173,7 @@ void TextBox::focusInEvent(QFocusEvent* event) {
 
 void TextBox::focusOutEvent(QFocusEvent* event) {
     QLineEdit::focusOutEvent(event);
-    if (movesFocus(event->reason())) loseFocus();
-}
-
-void TextBox::loseFocus() {
-    if (!m_hasFocus) return;
-    m_hasFocus = false;
-    m_selectOnRelease = false;
-    if (m_holdsDate) Theme::setFaulty(this, !text().isEmpty() && !IsDate(text()));
-    Q_EMIT LostFocus();
+    m_focus.goes(event->reason());
 }
 
 // The press puts the caret at the pointer, so select on release.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "FocusMove.h"
+
 #include <QClipboard>
 #include <QLineEdit>
 #include <functional>
@@ -54,7 +56,6 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
-    void loseFocus();
     bool passes(uint code) const { return !m_filter || m_filter(static_cast<int>(code)) != 0; }
     /// The part of a pasted or dropped text that the key filter accepts; beeps if that is not all. With
     /// Refused::WithTheWhole it is all or nothing, and nothing also if the text does not fit into `room`.
@@ -67,5 +68,5 @@ private:
     bool m_holdsDate = false;
     bool m_selectAllOnFocus = false;
     bool m_selectOnRelease = false;
-    bool m_hasFocus = false;
+    FocusState m_focus;
 };
