@@ -9,6 +9,7 @@
 #include "Upkeep.h"
 
 #include <QApplication>
+#include <QScopeGuard>
 
 namespace modTools {
 
@@ -20,17 +21,9 @@ struct Words {
     QString cannotBeRepaired;
 };
 
-/// The hourglass over the whole program for the time of a scope.
-class Hourglass {
-public:
-    Hourglass() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-    ~Hourglass() { QApplication::restoreOverrideCursor(); }
-    Hourglass(const Hourglass&) = delete;
-    Hourglass& operator=(const Hourglass&) = delete;
-};
-
 void rewriteFile(const QString& keptIn) {
-    const Hourglass hourglass;
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    const auto arrow = qScopeGuard(&QApplication::restoreOverrideCursor);
     const QString work = programFolder() + u"/temp/uwtmp.mdb"_qs;
     SchliesseDatenbank();
     const FileHold alone = DBEngine::CompactDatabase(datenbankDatei(), work, datenbankVerbindung(), keptIn);

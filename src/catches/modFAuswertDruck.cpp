@@ -56,11 +56,14 @@ void richteEin(ErrorTail& step, Report& report) {
 
 void DruckeFangListe(const QString& wort) {
     Fangauswertung& form = screen<Fangauswertung>();
-    const DataTable& grid = *form.tblFAusw;
-    drucke({u"modFAuswert"_qs, u"DruckeFangListe"_qs, form, grid, u"Druck_Fangliste"_qs,
-            &Berichte::rpt_Fangliste,
-            [&grid](ErrorTail& step, Recordset& zeile, int row) { schreibeZeile(step, zeile, grid, row); },
-            &richteEin},
+    drucke({.modul = u"modFAuswert"_qs,
+            .routine = u"DruckeFangListe"_qs,
+            .aufrufer = form,
+            .grid = *form.tblFAusw,
+            .tabelle = u"Druck_Fangliste"_qs,
+            .report = &Berichte::rpt_Fangliste,
+            .schreibeZeile = &schreibeZeile,
+            .richteEin = &richteEin},
            wort);
 }
 

@@ -60,7 +60,7 @@ bool fuelle(ErrorTail& step, const Druckauftrag& auftrag, Recordset& rows) {
     bool gefuellt = true;
     for (int row = 0; row < auftrag.grid.rowCount(); ++row) {
         step([&] { rows.AddNew(); });
-        auftrag.schreibeZeile(step, rows, row);
+        auftrag.schreibeZeile(step, rows, auftrag.grid, row);
         gefuellt = step([&] { rows.Update(); }) && gefuellt;
     }
     return gefuellt;

@@ -19,7 +19,7 @@ struct Druckauftrag {
     QString tabelle;       ///< the staging table
     std::shared_ptr<Report> (*report)();
     /// Writes the fields of a grid row into a new staging row.
-    std::function<void(ErrorTail&, Recordset&, int row)> schreibeZeile;
+    std::function<void(ErrorTail&, Recordset&, const DataTable& grid, int row)> schreibeZeile;
     /// Sets the report's own labels and binds its controls.
     std::function<void(ErrorTail&, Report&)> richteEin;
 };

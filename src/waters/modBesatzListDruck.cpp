@@ -38,11 +38,14 @@ void richteEin(ErrorTail& step, Report& report) {
 
 void DruckeBPlanListe(const QString& wort) {
     Besatzung& form = screen<Besatzung>();
-    const DataTable& grid = *form.tblBList;
-    drucke({u"modBesatzung"_qs, u"DruckeBPlanListe"_qs, form, grid, u"Druck_Besatzliste"_qs,
-            &Berichte::rpt_BesatzListe,
-            [&grid](ErrorTail& step, Recordset& zeile, int row) { schreibeZeile(step, zeile, grid, row); },
-            &richteEin},
+    drucke({.modul = u"modBesatzung"_qs,
+            .routine = u"DruckeBPlanListe"_qs,
+            .aufrufer = form,
+            .grid = *form.tblBList,
+            .tabelle = u"Druck_Besatzliste"_qs,
+            .report = &Berichte::rpt_BesatzListe,
+            .schreibeZeile = &schreibeZeile,
+            .richteEin = &richteEin},
            wort);
 }
 

@@ -52,10 +52,14 @@ void richteEin(ErrorTail& step, Report& report) {
 
 void DruckeArbListe(const QString& wort) {
     Arbeit& form = screen<Arbeit>();
-    const DataTable& grid = *form.tblArbStd;
-    drucke({u"modArbeit"_qs, u"DruckeArbListe"_qs, form, grid, u"Druck_ArbListe"_qs, &Berichte::rpt_ArbListe,
-            [&grid](ErrorTail& step, Recordset& zeile, int row) { schreibeZeile(step, zeile, grid, row); },
-            &richteEin},
+    drucke({.modul = u"modArbeit"_qs,
+            .routine = u"DruckeArbListe"_qs,
+            .aufrufer = form,
+            .grid = *form.tblArbStd,
+            .tabelle = u"Druck_ArbListe"_qs,
+            .report = &Berichte::rpt_ArbListe,
+            .schreibeZeile = &schreibeZeile,
+            .richteEin = &richteEin},
            wort);
 }
 

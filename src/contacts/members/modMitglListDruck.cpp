@@ -27,8 +27,7 @@ struct Spalte {
 Druckauftrag auftrag(const QString& routine, const QString& tabelle, std::shared_ptr<Report> (*report)(),
                      const std::vector<Spalte>& spalten) {
     MitglList& form = screen<MitglList>();
-    const DataTable& grid = *form.tblMList;
-    const auto schreibe = [&grid, spalten](ErrorTail& step, Recordset& zeile, int row) {
+    const auto schreibe = [spalten](ErrorTail& step, Recordset& zeile, const DataTable& grid, int row) {
         step([&] { zeile.Collect(u"KontaktNr"_qs, CLng(grid.cell(row, 0))); });
         for (const auto& [column, field, numeric] : spalten)
             step([&, c = column, &f = field, n = numeric] {
@@ -50,7 +49,14 @@ Druckauftrag auftrag(const QString& routine, const QString& tabelle, std::shared
         const QString info = form.txtInfo->Text();
         caption(u"lblInfo"_qs, info.isEmpty() ? u"keine Beschreibung"_qs : info);
     };
-    return {u"modMitglList"_qs, routine, form, grid, tabelle, report, schreibe, richteEin};
+    return {.modul = u"modMitglList"_qs,
+            .routine = routine,
+            .aufrufer = form,
+            .grid = *form.tblMList,
+            .tabelle = tabelle,
+            .report = report,
+            .schreibeZeile = schreibe,
+            .richteEin = richteEin};
 }
 
 } // namespace
