@@ -29,13 +29,27 @@ namespace modFAuswert {
 
 namespace {
 
-/// What all four statements have in common. A filter that can't be put into SQL fails each of them, just as
-/// an invalid statement does.
-QString selektion() {
-    QString text = u" FROM Fang fa , Fisch f, Gewaesser g WHERE fa.FischNr = f.FNr AND fa.GNr = g.GNr"_qs;
-    ErgaenzeSelektion(text);
-    return text;
-}
+/// What all four statements have in common, made once. A filter that can't be put into SQL fails each of
+/// them, just as an invalid statement does.
+class Selektion {
+public:
+    Selektion() {
+        try {
+            ErgaenzeSelektion(m_text);
+        } catch (const RuntimeError& error) {
+            m_fehler = error;
+        }
+    }
+
+    Recordset oeffne(const QString& was) const {
+        if (m_fehler) throw *m_fehler;
+        return oeffneAbfrage(u"SELECT "_qs + was + m_text);
+    }
+
+private:
+    QString m_text = u" FROM Fang fa , Fisch f, Gewaesser g WHERE fa.FischNr = f.FNr AND fa.GNr = g.GNr"_qs;
+    std::optional<RuntimeError> m_fehler;
+};
 
 QString klausel(const QString& field, const Vergleich& bound) {
     return u" AND fa."_qs + field + u' ' + bound.zeichen->Text() + u' ' + bound.wert->Text();
@@ -45,8 +59,9 @@ QWidget* falscheListe(const QCheckBox* box, ComboBox* list) {
     return box->isChecked() ? modRun::erstesLeere({list}) : nullptr;
 }
 
-void zeigeSumme(ErrorTail& step, Recordset& summe, ValueLabel* label, const QString& field) {
-    step([&] { summe = oeffneAbfrage(u"SELECT SUM(fa."_qs + field + u")"_qs + selektion()); });
+void zeigeSumme(ErrorTail& step, const Selektion& selektion, Recordset& summe, ValueLabel* label,
+                const QString& field) {
+    step([&] { summe = selektion.oeffne(u"SUM(fa.%1)"_qs.arg(field)); });
     const auto wert = [&] { return summe.Collect(u"Expr1000"_qs); };
     if (step.test([&] { return wert().isNull(); }))
         label->setCaption(u"0"_qs);
@@ -80,13 +95,13 @@ void LadeAuswahl() {
         // Also where a fifth error ends it.
         const auto ruhe = qScopeGuard([&] { form.pb->hide(); });
         Recordset liste, anzahl, summeAnzahl, summeGewicht;
+        const Selektion selektion;
         step([&] {
-            liste = oeffneAbfrage(
-                u"SELECT fa.FangNr, f.FName, g.GName, fa.FangJahr, fa.FangMonat, fa.Anzahl, fa.Gewicht"_qs +
-                selektion());
+            liste = selektion.oeffne(
+                u"fa.FangNr, f.FName, g.GName, fa.FangJahr, fa.FangMonat, fa.Anzahl, fa.Gewicht"_qs);
         });
         qint32 gefunden = 0;
-        step([&] { anzahl = oeffneAbfrage(u"SELECT COUNT(fa.FangNr)"_qs + selektion()); });
+        step([&] { anzahl = selektion.oeffne(u"COUNT(fa.FangNr)"_qs); });
         const auto wert = [&] { return anzahl.Collect(u"Expr1000"_qs); };
         if (step.test([&] { return wert().isNull() || CLng(wert()) == 0; })) {
             form.lblGefDS->setCaption(u"0"_qs);
@@ -95,8 +110,8 @@ void LadeAuswahl() {
             form.lblGefDS->setCaption(QString::number(gefunden));
             form.pb->setMax(gefunden);
         }
-        zeigeSumme(step, summeAnzahl, form.lblSumAnz, u"Anzahl"_qs);
-        zeigeSumme(step, summeGewicht, form.lblSumGew, u"Gewicht"_qs);
+        zeigeSumme(step, selektion, summeAnzahl, form.lblSumAnz, u"Anzahl"_qs);
+        zeigeSumme(step, selektion, summeGewicht, form.lblSumGew, u"Gewicht"_qs);
         form.tblFAusw->clearRows();
         if (gefunden <= 0)
             MsgBox(u"Keine passenden Einträge gefunden !"_qs, vbInformation);
