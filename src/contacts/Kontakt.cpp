@@ -43,10 +43,7 @@ void Kontakt::Speichern() {
     if (s.Modus == u"EDIT"_qs) {
         // An incomplete mask is left as it is, without a word; the next press takes it for a new contact.
         if (!modKontakt::EingabeKontaktOK()) return;
-        if (s.AusSuche)
-            modKontakt::UpdateSQLKontakt();
-        else
-            modKontakt::UpdateKontakt(s.AktZeile);
+        s.AusSuche ? modKontakt::UpdateSQLKontakt() : modKontakt::UpdateKontakt();
     } else if (modKontakt::EingabeKontaktOK()) {
         modKontakt::SpeicherKontakt();
     } else {

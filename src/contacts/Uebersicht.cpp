@@ -3,6 +3,7 @@
 #include "DataTable.h"
 #include "KontaktUebers.h"
 #include "Screens.h"
+#include "Session.h"
 
 #include <array>
 
@@ -19,34 +20,16 @@ DataTable& kategorien() {
     return kategorien;
 }
 
-} // namespace
-
-ImKind::ImKind(int row)
-    : m_grid(kategorien()) {
-    if (!m_grid.hasChild(row)) {
-        legeKindAn(row);
-        faerbeKind(row);
-    }
-    m_grid.enterChild(row);
-}
-
-ImKind::~ImKind() { m_grid.enter({}); }
-
-void schreibeZellen(int kontakt, std::span<const Value> zeile) {
-    constexpr int ersteSpalte = 2;
-    for (int column = ersteSpalte; column < int(zeile.size()); ++column)
-        grid().setCell(kontakt, column, zeile[std::size_t(column)]);
-}
-
 int findeKategorie(qint32 nummer) {
     int row = 0;
     return kategorien().find(spalteNr, row, QString::number(nummer)) < 0 ? -1 : row;
 }
 
-bool istOffen(int row) { return row >= 0 && kategorien().cellText(row, spalteZustand) == u"-"_qs; }
+bool istOffen(int row) { return kategorien().cellText(row, spalteZustand) == u"-"_qs; }
 
-qint32 ErmittleKategoAnzahl(int row, qsizetype length) {
-    const QString text = kategorien().cellText(row, spalteName).left(length);
+/// The number between the brackets of the row's text; 0 if there is none.
+qint32 anzahl(int row) {
+    const QString text = kategorien().cellText(row, spalteName);
     const qsizetype begin = text.indexOf(u'[');
     if (begin < 0) return 0;
     QString digits;
@@ -55,13 +38,65 @@ qint32 ErmittleKategoAnzahl(int row, qsizetype length) {
     return digits.toInt();
 }
 
-qint32 anzahl(int row) { return ErmittleKategoAnzahl(row, kategorien().cellText(row, spalteName).size()); }
+/// Makes the row a child table with its columns and no rows; one that is there is replaced.
+void legeKindAn(int row) {
+    kategorien().createChild(row);
+    SetzeKontaktSpalten();
+    // The colours by which contacts stand out from categories.
+    const QColor back(172, 199, 247);
+    // The colour's number less 72, whose lowest part is the red.
+    const QColor second(back.red() - 72, back.green(), back.blue());
+    grid().setChildColours(row, back, second);
+}
 
-void schreibeMarke(int row, const QString& name, qint32 anzahl, Abstand abstand) {
-    QString text = name;
-    if (anzahl != 0)
-        text += (abstand == Abstand::Eins ? u" ["_qs : u"  ["_qs) + QString::number(anzahl) + u']';
-    kategorien().setCell(row, spalteName, text);
+void fuegeKontaktAn(int row, std::span<const Value> zeile) { ImKind(row)->appendRow(zeile); }
+
+/// The row of a contact in the child table that has been entered, -1 if it has none.
+int findeKontakt(ImKind& kind, qint32 knr) {
+    int row = 0;
+    return kind->find(0, row, QString::number(knr)) < 0 ? -1 : row;
+}
+
+/// Writes the cells of a contact that keeps its category; number and picture stay.
+void aktualisiere(qint32 kategonr, qint32 knr, std::span<const Value> zeile) {
+    const int kategorie = findeKategorie(kategonr);
+    if (kategorie < 0 || !istOffen(kategorie)) return;
+    ImKind kind(kategorie);
+    const int kontakt = findeKontakt(kind, knr);
+    constexpr int ersteSpalte = 2;
+    for (int column = ersteSpalte; kontakt >= 0 && column < int(zeile.size()); ++column)
+        kind->setCell(kontakt, column, zeile[std::size_t(column)]);
+}
+
+/// A category that is empty then has nothing to open.
+void verlaesst(const Umzug& umzug) {
+    const int kategorie = findeKategorie(umzug.alteNr);
+    if (kategorie < 0) return;
+    entferneKontakt(umzug.alteNr, umzug.alterName, umzug.knr);
+    if (!umzug.ausSuche && anzahl(kategorie) == 0) kategorien().removeChild(kategorie);
+}
+
+void kommtAn(const Umzug& umzug, std::span<const Value> zeile) {
+    const int kategorie = findeKategorie(umzug.neueNr);
+    if (kategorie < 0) return;
+    const qint32 vorher = anzahl(kategorie);
+    if (!umzug.ausSuche && vorher == 0) legeKindAn(kategorie);
+    schreibeMarke(kategorie, umzug.neuerName, vorher + 1);
+    if (!umzug.ausSuche || istOffen(kategorie)) fuegeKontaktAn(kategorie, zeile);
+}
+
+} // namespace
+
+ImKind::ImKind(int row)
+    : m_grid(kategorien()) {
+    if (!m_grid.hasChild(row)) legeKindAn(row);
+    m_grid.enterChild(row);
+}
+
+ImKind::~ImKind() { m_grid.enter({}); }
+
+void schreibeMarke(int row, const QString& name, qint32 anzahl) {
+    kategorien().setCell(row, spalteName, anzahl == 0 ? name : name + u"  [%1]"_qs.arg(anzahl));
 }
 
 void SetzeKontaktSpalten() {
@@ -78,49 +113,51 @@ void SetzeKontaktSpalten() {
                            spalteName);
 }
 
-void legeKindAn(int row) {
-    kategorien().createChild(row);
-    SetzeKontaktSpalten();
-}
-
-void faerbeKind(int row) {
-    const QColor back(172, 199, 247);
-    // The colour's number less 72, whose lowest part is the red.
-    const QColor second(back.red() - 72, back.green(), back.blue());
-    grid().setChildColours(row, back, second);
-}
-
 void legeKindMitPlatzhalterAn(int row) {
     legeKindAn(row);
-    faerbeKind(row);
     const std::array<Value, 10> leer = {QString(), QString(), QString(), QString(), QString(),
                                         QString(), QString(), QString(), QString(), QString()};
     fuegeKontaktAn(row, leer);
 }
 
-void fuegeKontaktAn(int row, std::span<const Value> zeile) { ImKind(row)->appendRow(zeile); }
+void zeigeNeuen(qint32 kategonr, const QString& name, std::span<const Value> zeile) {
+    const int row = findeKategorie(kategonr);
+    if (row < 0) return;
+    const qint32 vorher = anzahl(row);
+    if (session().LetzterKlappZustand && vorher >= 1)
+        fuegeKontaktAn(row, zeile);
+    else
+        legeKindMitPlatzhalterAn(row);
+    // One blank here, where the other routines write two.
+    kategorien().setCell(row, spalteName, name + u" [%1]"_qs.arg(vorher + 1));
+}
 
-void aktualisiereKontakt(int row, qint32 knr, std::span<const Value> zeile) {
-    ImKind kind(row);
-    int kontakt = 0;
-    if (kind->find(0, kontakt, QString::number(knr)) < 0) return;
-    schreibeZellen(kontakt, zeile);
+void zeigeGeaenderten(const Umzug& umzug, std::span<const Value> zeile) {
+    if (!umzug.wechselt()) return aktualisiere(umzug.neueNr, umzug.knr, zeile);
+    verlaesst(umzug);
+    kommtAn(umzug, zeile);
 }
 
 void markiere(qint32 kategonr, qint32 knr) {
-    const int row = findeKategorie(kategonr);
-    if (row < 0) return;
-    int kontakt = -1;
-    if (!istOffen(row) || ImKind(row)->find(0, kontakt, QString::number(knr)) < 0)
-        kategorien().markRow(row);
-    else
-        ImKind(row)->markRow(kontakt);
+    const int kategorie = findeKategorie(kategonr);
+    if (kategorie < 0) return;
+    if (istOffen(kategorie)) {
+        ImKind kind(kategorie);
+        const int kontakt = findeKontakt(kind, knr);
+        if (kontakt >= 0) return kind->markRow(kontakt);
+    }
+    kategorien().markRow(kategorie);
 }
 
-void entferneKontakt(int row, qint32 knr) {
-    ImKind kind(row);
-    int kontakt = 0;
-    if (kind->find(0, kontakt, QString::number(knr)) >= 0) kind->removeRow(kontakt);
+void entferneKontakt(qint32 kategonr, const QString& name, qint32 knr) {
+    const int kategorie = findeKategorie(kategonr);
+    if (kategorie < 0) return;
+    if (istOffen(kategorie)) {
+        ImKind kind(kategorie);
+        const int kontakt = findeKontakt(kind, knr);
+        if (kontakt >= 0) kind->removeRow(kontakt);
+    }
+    schreibeMarke(kategorie, name, anzahl(kategorie) - 1);
 }
 
 void nehmeKategorieAuf(const Value& nummer, const Value& name) {

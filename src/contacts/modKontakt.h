@@ -29,9 +29,9 @@ bool EingabeKontaktOK();
 void KontaktAnzeigeLoeschen();
 
 void SpeicherKontakt();
-/// Writes the mask over the contact that it shows; `row` is its row in the overview's table that is current.
-void UpdateKontakt(int row);
-/// The same for a contact that was opened from the search, so that its row in the overview is not known.
+/// Writes the mask over the contact that it shows.
+void UpdateKontakt();
+/// The same for a contact that was opened from the search.
 void UpdateSQLKontakt();
 void LoescheKontakt();
 

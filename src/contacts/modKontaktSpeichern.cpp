@@ -58,21 +58,6 @@ bool schreibeMitglied(ErrorTail& step, Recordset& mitglied, qint32 knr, const Ko
     return step([&] { mitglied.Update(); });
 }
 
-/// The new contact in the overview. What the last press on a category left behind decides, whichever category
-/// that was: listed at once, or only counted, to be read when the category is opened.
-void zeigeNeuen(ErrorTail& step, std::span<const Value> zeile, qint32 kategonr, const Kontakt& form) {
-    const int row = Uebersicht::findeKategorie(kategonr);
-    if (row < 0) return;
-    const qint32 anzahl = Uebersicht::anzahl(row);
-    if (session().LetzterKlappZustand && anzahl >= 1)
-        step([&] { Uebersicht::fuegeKontaktAn(row, zeile); });
-    else
-        step([&] { Uebersicht::legeKindMitPlatzhalterAn(row); });
-    step([&] {
-        Uebersicht::schreibeMarke(row, form.cboKatego->Text(), anzahl + 1, Uebersicht::Abstand::Eins);
-    });
-}
-
 /// The fields of a contact that its row in the overview is made from. Its birthday stands there as the field
 /// has it.
 Datensatz::Danach liesZeile(ErrorTail& step, std::vector<Value>& zeile) {
@@ -99,7 +84,7 @@ void SpeicherKontakt() {
         if (Datensatz::speichere(step, u"Kontakt"_qs, felder(step, form, *kategonr), danach)) {
             // The place of the picture.
             zeile.insert(zeile.begin() + 1, u" "_qs);
-            zeigeNeuen(step, zeile, *kategonr, form);
+            step([&] { Uebersicht::zeigeNeuen(*kategonr, form.cboKatego->Text(), zeile); });
             step([&] { Uebersicht::markiere(*kategonr, CLng(zeile[0])); });
         }
         KontaktAnzeigeLoeschen();
@@ -107,61 +92,6 @@ void SpeicherKontakt() {
 }
 
 namespace {
-
-/// The way of a changed contact from its stored category into the mask's; both may be the same.
-struct Umzug {
-    qint32 neueNr;
-    qint32 alteNr = 0;
-    QString alterName = {};
-};
-
-/// A contact that keeps its category and whose row is not known: only an open category shows it.
-void bleibt(qint32 knr, qint32 kategonr, const Kontakt& form) {
-    const int kategorie = Uebersicht::findeKategorie(kategonr);
-    if (Uebersicht::istOffen(kategorie))
-        Uebersicht::aktualisiereKontakt(kategorie, knr, KontaktFelder::alsZeile(form));
-}
-
-/// A contact that keeps its category. A category that was opened in place of a contact has no cells for one:
-/// the row is then looked for, as it is after a search.
-void aktualisiereZeile(int row, qint32 knr, qint32 kategonr, const Kontakt& form) {
-    if (screen<KontaktUebers>().tblKUebers->currentTable().parentRow < 0) return bleibt(knr, kategonr, form);
-    Uebersicht::schreibeZellen(row, KontaktFelder::alsZeile(form));
-}
-
-/// Takes the opened row out of the child table that is current, and the contact out of its old category's
-/// count. A category that is empty now has nothing to open.
-void nimmAusKategorie(int row, qint32 knr, qint32 kategonr, const QString& name) {
-    DataTable& grid = *screen<KontaktUebers>().tblKUebers;
-    const bool zeileBekannt = grid.currentTable().parentRow >= 0;
-    if (zeileBekannt) grid.removeRow(row);
-    const int kategorie = Uebersicht::findeKategorie(kategonr);
-    if (kategorie < 0) return;
-    if (!zeileBekannt && Uebersicht::istOffen(kategorie)) Uebersicht::entferneKontakt(kategorie, knr);
-    const qint32 rest = Uebersicht::anzahl(kategorie) - 1;
-    Uebersicht::schreibeMarke(kategorie, name, rest);
-    if (rest == 0) grid.removeChild(kategorie);
-}
-
-void gibInKategorie(qint32 kategonr, const Kontakt& form) {
-    const int kategorie = Uebersicht::findeKategorie(kategonr);
-    if (kategorie < 0) return;
-    const qint32 anzahl = Uebersicht::anzahl(kategorie);
-    if (anzahl == 0) {
-        Uebersicht::legeKindAn(kategorie);
-        Uebersicht::faerbeKind(kategorie);
-    }
-    Uebersicht::schreibeMarke(kategorie, form.cboKatego->Text(), anzahl + 1);
-    Uebersicht::fuegeKontaktAn(kategorie, KontaktFelder::alsZeile(form));
-}
-
-/// The edited contact in the overview, where its row is known.
-void zeigeGeaenderten(ErrorTail& step, qint32 knr, const Umzug& umzug, int row, const Kontakt& form) {
-    if (umzug.alteNr == umzug.neueNr)
-        return void(step([&] { aktualisiereZeile(row, knr, umzug.neueNr, form); }));
-    step([&] { nimmAusKategorie(row, knr, umzug.alteNr, umzug.alterName); });
-    step([&] { gibInKategorie(umzug.neueNr, form); });
-}
 
 /// Who leaves a member category loses the member's row, also on the way into the other one.
 bool loescheMitglied(ErrorTail& step, Recordset& mitglied, qint32 knr) {
@@ -171,98 +101,58 @@ bool loescheMitglied(ErrorTail& step, Recordset& mitglied, qint32 knr) {
 }
 
 /// Writes the member's row that belongs to the changed contact.
-bool zieheMitgliedNach(ErrorTail& step, qint32 knr, const Umzug& umzug, const Kontakt& form) {
-    const bool verlaesst = umzug.alteNr != umzug.neueNr && modKatego::istSystemkategorie(umzug.alterName);
+bool zieheMitgliedNach(ErrorTail& step, const Uebersicht::Umzug& umzug, const Kontakt& form) {
+    const bool verlaesst = umzug.wechselt() && modKatego::istSystemkategorie(umzug.alterName);
     const bool istMitglied = KontaktFelder::istMitglied(form);
     if (!verlaesst && !istMitglied) return true;
     return Datensatz::schreibe(step, u"Mitglied"_qs, [&](Recordset& mitglied) {
-        if (verlaesst && !loescheMitglied(step, mitglied, knr)) return false;
-        return !istMitglied || schreibeMitglied(step, mitglied, knr, form);
+        if (verlaesst && !loescheMitglied(step, mitglied, umzug.knr)) return false;
+        return !istMitglied || schreibeMitglied(step, mitglied, umzug.knr, form);
     });
 }
 
 /// After a save from the search the category alone decides whether there is a member's row.
-bool richteMitglied(ErrorTail& step, qint32 knr, const Kontakt& form) {
+bool richteMitglied(ErrorTail& step, const Uebersicht::Umzug& umzug, const Kontakt& form) {
     return Datensatz::schreibe(step, u"Mitglied"_qs, [&](Recordset& mitglied) {
-        if (KontaktFelder::istMitglied(form)) return schreibeMitglied(step, mitglied, knr, form);
-        return !Datensatz::finde(step, mitglied, knr) || step([&] { mitglied.Delete(); });
+        if (KontaktFelder::istMitglied(form)) return schreibeMitglied(step, mitglied, umzug.knr, form);
+        return !Datensatz::finde(step, mitglied, umzug.knr) || step([&] { mitglied.Delete(); });
     });
 }
 
-/// Changes the contact that the mask shows, with what `dazu` writes for it.
-bool aendere(ErrorTail& step, qint32 knr, Umzug& umzug, const Kontakt& form,
-             const std::function<bool()>& dazu) {
+using Dazu = bool (*)(ErrorTail& step, const Uebersicht::Umzug& umzug, const Kontakt& form);
+
+/// Changes the contact that the mask shows, with what `dazu` writes for it, and then the overview.
+void aendere(ErrorTail& step, bool ausSuche, Dazu dazu) {
+    const Kontakt& form = screen<Kontakt>();
+    const QString kategorie = form.cboKatego->Text();
+    const auto neueNr = ermittleNummer(&ErmittleKategoNr, kategorie);
+    if (!neueNr) return;
+    Uebersicht::Umzug umzug{
+        .knr = nummerDerMaske(step, form), .neueNr = *neueNr, .neuerName = kategorie, .ausSuche = ausSuche};
     const auto schreibe = [&](Recordset& kontakt) {
         step([&] { umzug.alteNr = CLng(kontakt.Collect(u"kategonr"_qs)); });
         umzug.alterName = ErmittleKategoName(umzug.alteNr);
         felder(step, form, umzug.neueNr)(kontakt);
     };
-    return Datensatz::aendere(step, u"Kontakt"_qs, knr, schreibe, [&](Recordset&) { return dazu(); });
-}
-
-} // namespace
-
-void UpdateKontakt(int row) {
-    withErrorTail(modul, u"UpdateKontakt"_qs, [row](ErrorTail& step) {
-        const Kontakt& form = screen<Kontakt>();
-        const auto neueNr = ermittleNummer(&ErmittleKategoNr, form.cboKatego);
-        if (!neueNr) return;
-        Umzug umzug{*neueNr};
-        const qint32 knr = nummerDerMaske(step, form);
-        if (aendere(step, knr, umzug, form, [&] { return zieheMitgliedNach(step, knr, umzug, form); })) {
-            zeigeGeaenderten(step, knr, umzug, row, form);
-            Uebersicht::markiere(umzug.neueNr, knr);
-        }
-        unload<Kontakt>();
-    });
-}
-
-namespace {
-
-/// The overview after a change from the search: only what stands open there is touched.
-void ziehtUm(qint32 knr, const Umzug& umzug, const Kontakt& form) {
-    const int alt = Uebersicht::findeKategorie(umzug.alteNr);
-    if (alt >= 0) {
-        if (Uebersicht::istOffen(alt)) Uebersicht::entferneKontakt(alt, knr);
-        Uebersicht::schreibeMarke(alt, umzug.alterName, Uebersicht::anzahl(alt) - 1);
+    if (Datensatz::aendere(step, u"Kontakt"_qs, umzug.knr, schreibe,
+                           [&](Recordset&) { return dazu(step, umzug, form); })) {
+        step([&] { Uebersicht::zeigeGeaenderten(umzug, KontaktFelder::alsZeile(form)); });
+        step([&] { Uebersicht::markiere(umzug.neueNr, umzug.knr); });
     }
-    const int neu = Uebersicht::findeKategorie(umzug.neueNr);
-    if (neu < 0) return;
-    Uebersicht::schreibeMarke(neu, form.cboKatego->Text(), Uebersicht::anzahl(neu) + 1);
-    if (Uebersicht::istOffen(neu)) Uebersicht::fuegeKontaktAn(neu, KontaktFelder::alsZeile(form));
+    unload<Kontakt>();
 }
 
 } // namespace
+
+void UpdateKontakt() {
+    withErrorTail(modul, u"UpdateKontakt"_qs,
+                  [](ErrorTail& step) { aendere(step, false, &zieheMitgliedNach); });
+}
 
 void UpdateSQLKontakt() {
-    withErrorTail(modul, u"UpdateSQLKontakt"_qs, [](ErrorTail& step) {
-        const Kontakt& form = screen<Kontakt>();
-        const auto neueNr = ermittleNummer(&ErmittleKategoNr, form.cboKatego);
-        if (!neueNr) return;
-        Umzug umzug{*neueNr};
-        const qint32 knr = nummerDerMaske(step, form);
-        if (aendere(step, knr, umzug, form, [&] { return richteMitglied(step, knr, form); })) {
-            if (umzug.alterName != form.cboKatego->Text())
-                step([&] { ziehtUm(knr, umzug, form); });
-            else
-                step([&] { bleibt(knr, umzug.neueNr, form); });
-            Uebersicht::markiere(umzug.neueNr, knr);
-        }
-        unload<Kontakt>();
-    });
+    withErrorTail(modul, u"UpdateSQLKontakt"_qs,
+                  [](ErrorTail& step) { aendere(step, true, &richteMitglied); });
 }
-
-namespace {
-
-/// The deleted contact leaves the overview.
-void nimmHeraus(qint32 knr, qint32 kategonr, const QString& name) {
-    const int kategorie = Uebersicht::findeKategorie(kategonr);
-    if (kategorie < 0) return;
-    if (Uebersicht::istOffen(kategorie)) Uebersicht::entferneKontakt(kategorie, knr);
-    Uebersicht::schreibeMarke(kategorie, name, Uebersicht::anzahl(kategorie) - 1);
-}
-
-} // namespace
 
 void LoescheKontakt() {
     withErrorTail(modul, u"LoescheKontakt"_qs, [](ErrorTail& step) {
@@ -275,7 +165,7 @@ void LoescheKontakt() {
             });
         };
         if (Datensatz::loesche(step, u"Kontakt"_qs, knr, mitglied))
-            step([&] { nimmHeraus(knr, kategonr, form.cboKatego->Text()); });
+            step([&] { Uebersicht::entferneKontakt(kategonr, form.cboKatego->Text(), knr); });
         unload<Kontakt>();
     });
 }
