@@ -186,16 +186,10 @@ bool FangbuchZugriff_Erlaubt() {
 QString Ermittle_DSAnzahl() {
     QString anzahl = u"0"_qs;
     withErrorTail(modul, u"Ermittle_DSAnzahl"_qs, [&](ErrorTail& step) {
-        Recordset fang;
-        step([&] {
-            fang = oeffneAbfrage(u"SELECT COUNT(fa.FangNr) FROM Fang fa WHERE fa.FangJahr = "_qs +
-                                 screen<Fangbuch>().cboFJahr->Text());
-        });
-        step([&] {
-            const Value count = fang.Collect(u"Expr1000"_qs);
-            anzahl = count.isNull() ? u"0"_qs : CStr(count);
-        });
-        step([&] { fang.Close(); });
+        leseWert(step,
+                 u"SELECT COUNT(fa.FangNr) FROM Fang fa WHERE fa.FangJahr = "_qs +
+                     screen<Fangbuch>().cboFJahr->Text(),
+                 [&](const Value& zahl) { anzahl = zahl.isNull() ? u"0"_qs : CStr(zahl); });
     });
     return anzahl;
 }

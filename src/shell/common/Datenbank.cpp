@@ -28,6 +28,15 @@ Recordset oeffneTabelle(const QString& name) {
     return session().AktDatenbank.OpenRecordset(name, dbOpenTable);
 }
 
+void leseWert(ErrorTail& step, const QString& select, const std::function<void(const Value&)>& nimm) {
+    Recordset satz;
+    step([&] { satz = oeffneAbfrage(select); });
+    step([&] {
+        if (satz.RecordCount() == 1) nimm(satz.Collect(u"Expr1000"_qs));
+    });
+    step([&] { satz.Close(); });
+}
+
 void fuelleGrid(const QString& routine, DataTable* grid, const QString& select,
                 const std::function<std::vector<Value>(const Recordset&)>& zeile) {
     withErrorTail(u"modStart"_qs, routine, [&](ErrorTail& step) {

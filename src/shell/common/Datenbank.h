@@ -7,6 +7,7 @@
 #include <vector>
 
 class DataTable;
+class ErrorTail;
 
 // The database of the program folder, as the routines of all screens use it.
 
@@ -24,6 +25,9 @@ void SchliesseDatenbank();
 /// The result of a SELECT on the open database, and one of its tables. Errors as for Database::OpenRecordset.
 Recordset oeffneAbfrage(const QString& select);
 Recordset oeffneTabelle(const QString& name);
+
+/// Hands over what a query such as SELECT COUNT(…) finds, as a statement of the calling routine.
+void leseWert(ErrorTail& step, const QString& select, const std::function<void(const Value&)>& nimm);
 
 /// Appends a grid row for each record that the statement finds, at the start of the program; `routine` stands
 /// in the error box.

@@ -30,14 +30,7 @@ void haengeJahreAn(ComboBox* combo, qint32 lowest, qint32 highest, qint16 akt) {
 /// The lowest or highest year that a query finds, `sonst` where it finds none; nothing if it failed.
 std::optional<qint32> grenzjahr(ErrorTail& step, const QString& select, qint32 sonst) {
     std::optional<qint32> jahr;
-    Recordset satz;
-    step([&] { satz = oeffneAbfrage(select); });
-    step([&] {
-        if (satz.RecordCount() != 1) return;
-        const Value value = satz.Collect(u"Expr1000"_qs);
-        jahr = value.isNull() ? sonst : CLng(value);
-    });
-    step([&] { satz.Close(); });
+    leseWert(step, select, [&](const Value& wert) { jahr = wert.isNull() ? sonst : CLng(wert); });
     return jahr;
 }
 

@@ -8,16 +8,12 @@
 double ErmittleStunden(qint32 knr, qint32 jahr) {
     double stunden = 0;
     withErrorTail(u"modArbeit"_qs, u"ErmittleStunden"_qs, [&](ErrorTail& step) {
-        Recordset summe;
-        step([&] {
-            summe = oeffneAbfrage(u"SELECT SUM(ArbStd) FROM Arbeit WHERE KNr = "_qs + QString::number(knr) +
-                                  u" AND Jahr = "_qs + QString::number(jahr));
-        });
-        step([&] {
-            const Value value = summe.RecordCount() == 1 ? summe.Collect(u"Expr1000"_qs) : Value();
-            if (!value.isNull()) stunden = CDbl(value);
-        });
-        step([&] { summe.Close(); });
+        leseWert(step,
+                 u"SELECT SUM(ArbStd) FROM Arbeit WHERE KNr = "_qs + QString::number(knr) +
+                     u" AND Jahr = "_qs + QString::number(jahr),
+                 [&](const Value& summe) {
+                     if (!summe.isNull()) stunden = CDbl(summe);
+                 });
     });
     return stunden;
 }
