@@ -41,7 +41,7 @@ void DataTableRows::insert(int row, std::span<const Value> cells, TextPool& text
 
 void DataTableRows::remove(int row) {
     if (row < 0 || row >= rowCount()) throw runtimeError(RuntimeError::outOfRange);
-    m_blocks.giveBack(m_rows[static_cast<std::size_t>(row)]);
+    m_memory.deallocate(m_rows[static_cast<std::size_t>(row)], bytes());
     m_rows.erase(m_rows.begin() + row);
 }
 
@@ -52,7 +52,7 @@ void DataTableRows::remove(const std::vector<int>& rows) {
         const bool hit = next != rows.end() && *next == row;
         ++row;
         if (!hit) return false;
-        m_blocks.giveBack(held);
+        m_memory.deallocate(held, bytes());
         ++next;
         return true;
     });
@@ -67,7 +67,7 @@ void DataTableRows::reorder(const std::vector<int>& rows) {
 
 void DataTableRows::clear() {
     std::vector<Row>().swap(m_rows);
-    m_blocks.clear();
+    m_memory.release();
 }
 
 Value DataTableRows::value(int row, int column, const TextPool& texts) const {
@@ -92,12 +92,12 @@ int DataTableRows::find(int column, int first, const Wanted& wanted) const {
 }
 
 std::size_t DataTableRows::memoryInUse() const {
-    return m_rows.capacity() * sizeof(Row) + m_blocks.memoryInUse();
+    return m_rows.capacity() * sizeof(Row) + m_rows.size() * bytes();
 }
 
 DataTableRows::Row DataTableRows::packed(std::span<const Value> cells, TextPool& texts) {
     static const Value null;
-    const Row row = m_blocks.take();
+    const Row row = static_cast<Row>(m_memory.allocate(bytes()));
     for (std::size_t column = 0; column < m_columns; ++column) {
         put(row, static_cast<int>(column), column < cells.size() ? cells[column] : null, texts);
     }

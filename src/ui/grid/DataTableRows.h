@@ -1,9 +1,9 @@
 #pragma once
 
-#include "DataTableBlocks.h"
 #include "TextPool.h"
 #include "Value.h"
 
+#include <memory_resource>
 #include <span>
 
 /// The rows of one table of a grid, without the view. Kept small: nine bytes a cell and a pointer a row;
@@ -25,8 +25,7 @@ public:
     };
 
     explicit DataTableRows(int columns)
-        : m_columns(static_cast<std::size_t>(columns))
-        , m_blocks(words()) {}
+        : m_columns(static_cast<std::size_t>(columns)) {}
 
     int rowCount() const { return static_cast<int>(m_rows.size()); }
     int columnCount() const { return static_cast<int>(m_columns); }
@@ -55,7 +54,7 @@ private:
     /// The cells' contents, a word each, followed by their kinds, a byte each.
     using Row = quint64*;
 
-    std::size_t words() const { return m_columns + (m_columns + 7) / sizeof(quint64); }
+    std::size_t bytes() const { return (m_columns + (m_columns + 7) / sizeof(quint64)) * sizeof(quint64); }
     Row packed(std::span<const Value> cells, TextPool& texts);
     void put(quint64* row, int column, const Value& value, TextPool& texts) const;
     Value::Kind kind(const quint64* row, int column) const;
@@ -63,6 +62,7 @@ private:
     const quint64* rowWith(int row, int column) const;
 
     std::size_t m_columns;
-    DataTableBlocks m_blocks;
+    /// In blocks of rows, since a list of thousands would spend more on single allocations than on its cells.
+    std::pmr::unsynchronized_pool_resource m_memory{{.max_blocks_per_chunk = 1024}};
     std::vector<Row> m_rows;
 };
