@@ -22,8 +22,8 @@ void Benutzer::Form_Load() {
 void Benutzer::Form_Activate() { modBenutzer::LadeGruppenCombo(cboBG); }
 
 void Benutzer::Form_Paint() {
-    lblBAnzahl->setCaption(QString::number(tblBenutzer->rowCount()));
-    lblGAnzahl->setCaption(QString::number(tblZugriff->rowCount()));
+    lblBAnzahl->setText(QString::number(tblBenutzer->rowCount()));
+    lblGAnzahl->setText(QString::number(tblZugriff->rowCount()));
 }
 
 void Benutzer::Form_Deactivate() {

@@ -21,7 +21,7 @@ namespace {
 TextBox* nameBox(const QString& name, QWidget* parent) {
     constexpr int limit = 50;
     auto* box = new TextBox(name, parent);
-    box->setLimit(limit);
+    box->setMaxLength(limit);
     return box;
 }
 

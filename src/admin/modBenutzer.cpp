@@ -42,20 +42,20 @@ constexpr int ersteRechteSpalte = 2;
 constexpr int gruppenSpalte = 3;
 
 void zeigeAnzahl(ValueLabel* label, const DataTable* grid) {
-    label->setCaption(QString::number(grid->rowCount()));
+    label->setText(QString::number(grid->rowCount()));
 }
 
 Datensatz::Felder felderDesBenutzers(ErrorTail& step, const Benutzer& form, qint32 gnr) {
     return [&step, &form, gnr](Recordset& benutzer) {
-        step([&] { benutzer.Collect(u"Name"_qs, form.txtBenutzer->Text()); });
-        step([&] { benutzer.Collect(u"Passwort"_qs, form.txtPassw->Text()); });
+        step([&] { benutzer.Collect(u"Name"_qs, form.txtBenutzer->text()); });
+        step([&] { benutzer.Collect(u"Passwort"_qs, form.txtPassw->text()); });
         step([&] { benutzer.Collect(u"GNr"_qs, gnr); });
     };
 }
 
 Datensatz::Felder felderDerGruppe(ErrorTail& step, const Benutzer& form) {
     return [&](Recordset& gruppe) {
-        step([&] { gruppe.Collect(u"GName"_qs, form.txtGruppe->Text()); });
+        step([&] { gruppe.Collect(u"GName"_qs, form.txtGruppe->text()); });
         step([&] { SichereZugriff(gruppe); });
     };
 }
@@ -67,14 +67,14 @@ Datensatz::Danach liesGruppe(ErrorTail& step, std::vector<Value>& zeile) {
 }
 
 void leereBenutzer(const Benutzer& form) {
-    form.lblBNr->setCaption(QString());
+    form.lblBNr->setText(QString());
     for (TextBox* box : {form.txtBenutzer, form.txtPassw, form.txtPasswBest}) box->setText(QString());
     form.cboBG->setText(QString());
     form.cboBG->setListIndex(-1);
 }
 
 void leereGruppe(const Benutzer& form) {
-    form.lblGNr->setCaption(QString());
+    form.lblGNr->setText(QString());
     form.txtGruppe->setText(QString());
     for (QCheckBox* box : form.Zugriffe()) box->setChecked(false);
 }
@@ -90,7 +90,7 @@ std::vector<Value> gruppenZeile(const Recordset& gruppe) {
 void SpeicherBenutzer() {
     withErrorTail(modul, u"SpeicherBenutzer"_qs, [](ErrorTail& step) {
         const Benutzer& form = screen<Benutzer>();
-        const qint32 gnr = ErmittleGNr(form.cboBG->Text());
+        const qint32 gnr = ErmittleGNr(form.cboBG->currentText());
         if (gnr == 0) return LeereBenutzerEingabe();
         std::vector<Value> zeile;
         QString gruppe;
@@ -112,9 +112,9 @@ void UpdateBenutzer(int row) {
         const Benutzer& form = screen<Benutzer>();
         bool fehlt = false;
         const bool steht = Datensatz::schreibe(step, u"Benutzer"_qs, [&](Recordset& benutzer) {
-            fehlt = !Datensatz::finde(step, benutzer, form.lblBNr->Caption());
+            fehlt = !Datensatz::finde(step, benutzer, form.lblBNr->text());
             if (fehlt) modRun::MeldeNichtVorhanden();
-            const qint32 gnr = fehlt ? 0 : ErmittleGNr(form.cboBG->Text());
+            const qint32 gnr = fehlt ? 0 : ErmittleGNr(form.cboBG->currentText());
             if (gnr == 0) return false;
             step([&] { benutzer.Edit(); });
             felderDesBenutzers(step, form, gnr)(benutzer);
@@ -122,11 +122,11 @@ void UpdateBenutzer(int row) {
         });
         // A user who is gone is shown as typed. Without a number no user stands open but a group, and its row
         // is another user's here.
-        if ((steht || fehlt) && !form.lblBNr->Caption().isEmpty()) {
+        if ((steht || fehlt) && !form.lblBNr->text().isEmpty()) {
             const int zeile = modRun::zeileVon(form.tblBenutzer, form.lblBNr, row);
-            step([&] { form.tblBenutzer->setCell(zeile, 1, form.txtBenutzer->Text()); });
-            step([&] { form.tblBenutzer->setCell(zeile, 2, form.txtPassw->Text()); });
-            step([&] { form.tblBenutzer->setCell(zeile, gruppenSpalte, form.cboBG->Text()); });
+            step([&] { form.tblBenutzer->setCell(zeile, 1, form.txtBenutzer->text()); });
+            step([&] { form.tblBenutzer->setCell(zeile, 2, form.txtPassw->text()); });
+            step([&] { form.tblBenutzer->setCell(zeile, gruppenSpalte, form.cboBG->currentText()); });
             form.tblBenutzer->markRow(zeile);
         }
         LeereBenutzerEingabe();
@@ -136,7 +136,7 @@ void UpdateBenutzer(int row) {
 void LoescheBenutzer(int row) {
     withErrorTail(modul, u"LoescheBenutzer"_qs, [row](ErrorTail& step) {
         const Benutzer& form = screen<Benutzer>();
-        if (Datensatz::loesche(step, u"Benutzer"_qs, form.lblBNr->Caption())) {
+        if (Datensatz::loesche(step, u"Benutzer"_qs, form.lblBNr->text())) {
             step([&] { form.tblBenutzer->removeRow(modRun::zeileVon(form.tblBenutzer, form.lblBNr, row)); });
             zeigeAnzahl(form.lblBAnzahl, form.tblBenutzer);
         }
@@ -163,7 +163,7 @@ void UpdateBG(int row) {
         const Benutzer& form = screen<Benutzer>();
         std::vector<Value> zeile;
         // Without a record there is nothing to take the cells from.
-        if (Datensatz::aendere(step, u"Gruppen"_qs, form.lblGNr->Caption(), felderDerGruppe(step, form),
+        if (Datensatz::aendere(step, u"Gruppen"_qs, form.lblGNr->text(), felderDerGruppe(step, form),
                                liesGruppe(step, zeile)))
             step([&] {
                 const int dort = modRun::zeileVon(form.tblZugriff, form.lblGNr, row);
@@ -178,13 +178,13 @@ void UpdateBG(int row) {
 void LoescheZugriff(int row) {
     withErrorTail(modul, u"LoescheZugriff"_qs, [row](ErrorTail& step) {
         const Benutzer& form = screen<Benutzer>();
-        if (Datensatz::loesche(step, u"Gruppen"_qs, form.lblGNr->Caption())) {
+        if (Datensatz::loesche(step, u"Gruppen"_qs, form.lblGNr->text())) {
             step([&] { form.tblZugriff->removeRow(modRun::zeileVon(form.tblZugriff, form.lblGNr, row)); });
             zeigeAnzahl(form.lblGAnzahl, form.tblZugriff);
             // The number of groups here too, until the next painting.
             zeigeAnzahl(form.lblBAnzahl, form.tblZugriff);
             step([&] {
-                modRun::GridVerweiseAbgleichen(form.tblBenutzer, gruppenSpalte, form.txtGruppe->Text(),
+                modRun::GridVerweiseAbgleichen(form.tblBenutzer, gruppenSpalte, form.txtGruppe->text(),
                                                u"LOESCHEN"_qs, QString());
             });
             LadeGruppenCombo(form.cboBG);
@@ -248,7 +248,7 @@ void LadeBenutzerVorgang() {
         const Benutzer& form = screen<Benutzer>();
         const int row = session().AktZeile;
         LeereBenutzerEingabe();
-        step([&] { form.lblBNr->setCaption(form.tblBenutzer->cellText(row, 0)); });
+        step([&] { form.lblBNr->setText(form.tblBenutzer->cellText(row, 0)); });
         step([&] { form.txtBenutzer->setText(form.tblBenutzer->cellText(row, 1)); });
         step([&] { form.txtPassw->setText(form.tblBenutzer->cellText(row, 2)); });
         step([&] { form.txtPasswBest->setText(form.tblBenutzer->cellText(row, 2)); });
@@ -261,7 +261,7 @@ void LadeGruppenVorgang(int row) {
     withErrorTail(modul, u"LadeGruppenVorgang"_qs, [row](ErrorTail& step) {
         const Benutzer& form = screen<Benutzer>();
         LeereBenutzerEingabe();
-        step([&] { form.lblGNr->setCaption(form.tblZugriff->cellText(row, 0)); });
+        step([&] { form.lblGNr->setText(form.tblZugriff->cellText(row, 0)); });
         step([&] { form.txtGruppe->setText(form.tblZugriff->cellText(row, 1)); });
         LadeZugriff(row);
         modRun::beginneBearbeitung(form.lblGNr, row);
@@ -292,8 +292,8 @@ bool PruefeGruppenEingabe() {
 void LadeGruppenCombo(ComboBox* combo) {
     const DataTable* gruppen = screen<Benutzer>().tblZugriff;
     // What stands in the box belongs to the user who is being entered.
-    const QString text = combo->Text();
-    combo->Clear();
+    const QString text = combo->currentText();
+    combo->clear();
     for (int row = 0; row < gruppen->rowCount(); ++row) combo->AddItem(gruppen->cellText(row, 1));
     combo->setText(text);
 }

@@ -11,7 +11,7 @@ namespace {
 /// Two passwords that differ in anything, capitals too, throw away what was typed.
 bool passwortBestaetigt() {
     const Benutzer& form = screen<Benutzer>();
-    if (form.txtPassw->Text() == form.txtPasswBest->Text()) return true;
+    if (form.txtPassw->text() == form.txtPasswBest->text()) return true;
     MsgBox(u"Passwortbestätigung stimmt nicht mit Passwort überein\n\rBitte versuchen Sie es nochmal !"_qs,
            vbInformation);
     LeereBenutzerEingabe();

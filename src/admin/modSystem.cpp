@@ -46,12 +46,12 @@ struct Parameter {
 };
 
 void writeParameter(Recordset& parameter, const Parameter& which) {
-    const QString text = which.box->Text();
+    const QString text = which.box->text();
     if (!text.isEmpty()) parameter.Collect(which.field, CLng(text));
 }
 
 void showParameter(const Parameter& which) {
-    const QString text = which.box->Text();
+    const QString text = which.box->text();
     DataTable* grid = screen<System>().tblSystem;
     int row = 0;
     if (text.isEmpty() || grid->find(0, row, which.label) < 0) return;
@@ -119,11 +119,11 @@ void UpdateParameter() {
 void UpdateAdresse() {
     Recordset parameter = oeffneTabelle(u"System"_qs);
     parameter.Edit();
-    for (const AddressLine& line : address()) parameter.Collect(line.field, line.box->Text());
+    for (const AddressLine& line : address()) parameter.Collect(line.field, line.box->text());
     parameter.Update();
     parameter.Close();
     auto shown = session().Anschrift.begin();
-    for (const AddressLine& line : address()) *shown++ = line.box->Text();
+    for (const AddressLine& line : address()) *shown++ = line.box->text();
     screen<Info>().zeigeAnschrift();
 }
 

@@ -56,7 +56,7 @@ void Fangauswertung::tbSuch_Click() {
         }
     }
     tblFAusw->clearRows();
-    for (ValueLabel* label : {lblGefDS, lblSumAnz, lblSumGew}) label->setCaption(QString());
+    for (ValueLabel* label : {lblGefDS, lblSumAnz, lblSumGew}) label->setText(QString());
     modFAuswert::LadeAuswahl();
 }
 

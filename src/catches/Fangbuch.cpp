@@ -61,8 +61,8 @@ void Fangbuch::Form_Deactivate() {
 }
 
 void Fangbuch::zeigeAnzahlen() {
-    lblAnzahl->setCaption(QString::number(tblFList->rowCount()));
-    lblGesAnz->setCaption(modFangbuch::Ermittle_DSAnzahl());
+    lblAnzahl->setText(QString::number(tblFList->rowCount()));
+    lblGesAnz->setText(modFangbuch::Ermittle_DSAnzahl());
 }
 
 bool Fangbuch::Form_KeyDown(int key, Qt::KeyboardModifiers) {
@@ -91,13 +91,13 @@ void Fangbuch::Auswahl_Click(bool jahr) {
     if (s.TabelleLaedt) return;
     const qint16 bisher = s.AktJahr;
     // The load takes year and month from the session; they are lent to it and put back.
-    s.AktMonatNr = modRun::ErmittleMonatsNr(cboSelMonat->Text());
-    s.AktJahr = CInt(cboFJahr->Text());
+    s.AktMonatNr = modRun::ErmittleMonatsNr(cboSelMonat->currentText());
+    s.AktJahr = CInt(cboFJahr->currentText());
     modFangbuch::loadTblFList(pb);
     s.AktMonatNr = static_cast<qint16>(today().month());
     s.AktJahr = fangjahrDerParameter(bisher);
-    lblAnzahl->setCaption(QString::number(tblFList->rowCount()));
-    if (jahr) lblGesAnz->setCaption(modFangbuch::Ermittle_DSAnzahl());
+    lblAnzahl->setText(QString::number(tblFList->rowCount()));
+    if (jahr) lblGesAnz->setText(modFangbuch::Ermittle_DSAnzahl());
 }
 
 void Fangbuch::txtMonNr_KeyPress() { ++m_tastenZaehler; }
@@ -109,12 +109,12 @@ void Fangbuch::txtMonNr_KeyDone() {
 
 void Fangbuch::txtMonNr_LostFocus() {
     constexpr int limit = 2;
-    if (!txtMonNr->Text().isEmpty() && txtMonNr->Text().length() <= limit) pruefeMonat();
+    if (!txtMonNr->text().isEmpty() && txtMonNr->text().length() <= limit) pruefeMonat();
     m_tastenZaehler = 0;
 }
 
 void Fangbuch::pruefeMonat() {
-    const QString text = txtMonNr->Text();
+    const QString text = txtMonNr->text();
     // What was pasted past the key filter and is no number is no month either.
     const qint32 month = IsNumeric(text) ? CLng(text) : 0;
     if (text.length() == 1 && month >= 1 && month <= 9) {

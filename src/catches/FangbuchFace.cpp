@@ -68,7 +68,7 @@ void Fangbuch::buildEntry() {
     lblEinheit = Face::label(u"lblEinheit"_qs, u"i. Gramm"_qs, fraNr2);
     lblFMonat = Face::label(u"lblFMonat"_qs, u"Fangmonat:"_qs, fraNr2);
     txtMonNr = new TextBox(u"txtMonNr"_qs, fraNr2);
-    txtMonNr->setLimit(monthLimit);
+    txtMonNr->setMaxLength(monthLimit);
     txtFangMonat = new TextBox(u"txtFangMonat"_qs, fraNr2);
     txtFangMonat->setReadOnly(true);
     txtFangMonat->setFocusPolicy(Qt::ClickFocus);

@@ -52,7 +52,7 @@ private:
 };
 
 QString klausel(const QString& field, const Vergleich& bound) {
-    return u" AND fa."_qs + field + u' ' + bound.zeichen->Text() + u' ' + bound.wert->Text();
+    return u" AND fa."_qs + field + u' ' + bound.zeichen->currentText() + u' ' + bound.wert->text();
 }
 
 QWidget* falscheListe(const QCheckBox* box, ComboBox* list) {
@@ -64,9 +64,9 @@ void zeigeSumme(ErrorTail& step, const Selektion& selektion, Recordset& summe, V
     step([&] { summe = selektion.oeffne(u"SUM(fa.%1)"_qs.arg(field)); });
     const auto wert = [&] { return summe.Collect(u"Expr1000"_qs); };
     if (step.test([&] { return wert().isNull(); }))
-        label->setCaption(u"0"_qs);
+        label->setText(u"0"_qs);
     else
-        step([&] { label->setCaption(CStr(wert())); });
+        step([&] { label->setText(CStr(wert())); });
 }
 
 void fuelleListe(ErrorTail& step, Recordset& liste, Fangauswertung& form) {
@@ -104,10 +104,10 @@ void LadeAuswahl() {
         step([&] { anzahl = selektion.oeffne(u"COUNT(fa.FangNr)"_qs); });
         const auto wert = [&] { return anzahl.Collect(u"Expr1000"_qs); };
         if (step.test([&] { return wert().isNull() || CLng(wert()) == 0; })) {
-            form.lblGefDS->setCaption(u"0"_qs);
+            form.lblGefDS->setText(u"0"_qs);
         } else {
             step([&] { gefunden = CLng(wert()); });
-            form.lblGefDS->setCaption(QString::number(gefunden));
+            form.lblGefDS->setText(QString::number(gefunden));
             form.pb->setMax(gefunden);
         }
         zeigeSumme(step, selektion, summeAnzahl, form.lblSumAnz, u"Anzahl"_qs);
@@ -117,7 +117,7 @@ void LadeAuswahl() {
             MsgBox(u"Keine passenden Einträge gefunden !"_qs, vbInformation);
         else
             fuelleListe(step, liste, form);
-        form.lblGefDS->setCaption(QString::number(form.tblFAusw->rowCount()));
+        form.lblGefDS->setText(QString::number(form.tblFAusw->rowCount()));
         for (Recordset* offen : {&liste, &summeAnzahl, &summeGewicht}) step([&] { offen->Close(); });
     });
 }
@@ -125,12 +125,12 @@ void LadeAuswahl() {
 void ErgaenzeSelektion(QString& filter) {
     const Fangauswertung& form = screen<Fangauswertung>();
     const auto& ticked = session().AuswertFilter;
-    if (ticked[0]) filter += u" AND fa.FangJahr = "_qs + form.cboFJahr->Text();
-    if (ticked[1]) filter += u" AND f.FName = "_qs + quoted(form.cboFArt->Text());
-    if (ticked[2]) filter += u" AND g.GName = "_qs + quoted(form.cboGName->Text());
+    if (ticked[0]) filter += u" AND fa.FangJahr = "_qs + form.cboFJahr->currentText();
+    if (ticked[1]) filter += u" AND f.FName = "_qs + quoted(form.cboFArt->currentText());
+    if (ticked[2]) filter += u" AND g.GName = "_qs + quoted(form.cboGName->currentText());
     if (ticked[3])
-        filter +=
-            u" AND fa.FangMonat = "_qs + QString::number(modRun::ErmittleMonatsNr(form.cboFMonat->Text()));
+        filter += u" AND fa.FangMonat = "_qs +
+                  QString::number(modRun::ErmittleMonatsNr(form.cboFMonat->currentText()));
     if (ticked[4])
         filter += klausel(u"Anzahl"_qs, {form.cboOptAnz01, form.txtAnz01}) +
                   klausel(u"Anzahl"_qs, {form.cboOptAnz02, form.txtAnz02});
@@ -182,7 +182,7 @@ void AuswertAnzeigeLoeschen() {
     leereBounds(form.chkAnzahl, {form.cboOptAnz01, form.txtAnz01}, {form.cboOptAnz02, form.txtAnz02});
     leereBounds(form.chkGewicht, {form.cboOptGew01, form.txtGew01}, {form.cboOptGew02, form.txtGew02});
     form.tblFAusw->clearRows();
-    for (ValueLabel* label : {form.lblGefDS, form.lblSumAnz, form.lblSumGew}) label->setCaption(QString());
+    for (ValueLabel* label : {form.lblGefDS, form.lblSumAnz, form.lblSumGew}) label->setText(QString());
 }
 
 void mnuFangInfo_Click() {

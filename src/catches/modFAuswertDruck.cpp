@@ -37,15 +37,17 @@ void richteEin(ErrorTail& step, Report& report) {
         step([&] { report.control(section, name).setDataField(field); });
     };
     // Year and month go by the tick, kind of fish and water by what stands in their lists.
-    caption(u"Section2"_qs, u"lblFJahr"_qs, oderAlle(form.cboFJahr->isEnabled(), form.cboFJahr->Text()));
-    caption(u"Section2"_qs, u"lblFMonat"_qs, oderAlle(form.cboFMonat->isEnabled(), form.cboFMonat->Text()));
+    caption(u"Section2"_qs, u"lblFJahr"_qs,
+            oderAlle(form.cboFJahr->isEnabled(), form.cboFJahr->currentText()));
+    caption(u"Section2"_qs, u"lblFMonat"_qs,
+            oderAlle(form.cboFMonat->isEnabled(), form.cboFMonat->currentText()));
     bind(u"Section5"_qs, u"SumAnzahl"_qs, u"Anzahl"_qs);
     bind(u"Section5"_qs, u"SumGewicht"_qs, u"Gewicht"_qs);
-    caption(u"Section5"_qs, u"lblGefDS"_qs, form.lblGefDS->Caption());
+    caption(u"Section5"_qs, u"lblGefDS"_qs, form.lblGefDS->text());
     caption(u"Section5"_qs, u"lblFischart"_qs,
-            oderAlle(!form.cboFArt->Text().isEmpty(), form.cboFArt->Text()));
+            oderAlle(!form.cboFArt->currentText().isEmpty(), form.cboFArt->currentText()));
     caption(u"Section5"_qs, u"lblGewässer"_qs,
-            oderAlle(!form.cboGName->Text().isEmpty(), form.cboGName->Text()));
+            oderAlle(!form.cboGName->currentText().isEmpty(), form.cboGName->currentText()));
     const QString fields[] = {u"FangNr"_qs,   u"Name"_qs,   u"Gewässer"_qs, u"Monat"_qs,
                               u"Fangjahr"_qs, u"Anzahl"_qs, u"Gewicht"_qs};
     int number = 0;

@@ -29,17 +29,17 @@ const QString modul = u"modFangbuch"_qs;
 
 /// The seven fields of the form, in the order in which they are written.
 void schreibeFelder(ErrorTail& step, Recordset& fang, const Fangbuch& form, const ArtUndGewaesser& nummern) {
-    step([&] { fang.Collect(u"FangJahr"_qs, CLng(form.cboFJahr->Text())); });
-    step([&] { fang.Collect(u"FangMonat"_qs, CLng(form.txtMonNr->Text())); });
+    step([&] { fang.Collect(u"FangJahr"_qs, CLng(form.cboFJahr->currentText())); });
+    step([&] { fang.Collect(u"FangMonat"_qs, CLng(form.txtMonNr->text())); });
     step([&] { fang.Collect(u"FischNr"_qs, nummern.fisch); });
     step([&] { fang.Collect(u"GNr"_qs, nummern.gewaesser); });
     step([&] { fang.Collect(u"Notiz"_qs, form.txtNotiz->Text()); });
-    step([&] { fang.Collect(u"Anzahl"_qs, CLng(form.txtAnzahl->Text())); });
-    step([&] { fang.Collect(u"Gewicht"_qs, CLng(form.txtGewicht->Text())); });
+    step([&] { fang.Collect(u"Anzahl"_qs, CLng(form.txtAnzahl->text())); });
+    step([&] { fang.Collect(u"Gewicht"_qs, CLng(form.txtGewicht->text())); });
 }
 
 bool imGewaehltenMonat(const Fangbuch& form) {
-    return CLng(form.txtMonNr->Text()) == modRun::ErmittleMonatsNr(form.cboSelMonat->Text());
+    return CLng(form.txtMonNr->text()) == modRun::ErmittleMonatsNr(form.cboSelMonat->currentText());
 }
 
 /// The fields of a record that its row in the grid is made from.
@@ -52,7 +52,7 @@ const QStringList& felderDerZeile() {
 /// The record just made as a row of the grid, if its month is the one on show.
 void zeigeNeuen(ErrorTail& step, std::vector<Value> zeile, const Fangbuch& form) {
     const auto monat = [monat = zeile[3]] { return modRun::ErmittleMonatsname(CLng(monat)); };
-    if (!step.test([&] { return form.cboSelMonat->Text() == monat(); })) return;
+    if (!step.test([&] { return form.cboSelMonat->currentText() == monat(); })) return;
     step([&] { zeile[1] = ErmittleFischname(CLng(zeile[1])); });
     step([&] { zeile[2] = ErmittleGewaessername(CLng(zeile[2])); });
     step([&] { zeile[3] = monat(); });
@@ -79,8 +79,8 @@ void SpeicherFang() {
             zeigeNeuen(step, zeile, form);
         FangAnzeigeLoeschen();
         form.cboFArt->setFocus();
-        form.lblAnzahl->setCaption(QString::number(form.tblFList->rowCount()));
-        step([&] { form.lblGesAnz->setCaption(Ermittle_DSAnzahl()); });
+        form.lblAnzahl->setText(QString::number(form.tblFList->rowCount()));
+        step([&] { form.lblGesAnz->setText(Ermittle_DSAnzahl()); });
     });
 }
 
@@ -90,10 +90,10 @@ void UpdateFang(int row) {
         const auto nummern = ermittleNummern(form.cboFArt, form.cboGName);
         if (!nummern) return;
         const auto felder = [&](Recordset& fang) { schreibeFelder(step, fang, form, *nummern); };
-        if (Datensatz::aendere(step, u"Fang"_qs, form.lblFNr->Caption(), felder)) {
-            const std::vector<Value> zeile = {form.lblFNr->Caption(), form.cboFArt->Text(),
-                                              form.cboGName->Text(),  form.txtFangMonat->Text(),
-                                              form.txtAnzahl->Text(), form.txtGewicht->Text()};
+        if (Datensatz::aendere(step, u"Fang"_qs, form.lblFNr->text(), felder)) {
+            const std::vector<Value> zeile = {form.lblFNr->text(),          form.cboFArt->currentText(),
+                                              form.cboGName->currentText(), form.txtFangMonat->text(),
+                                              form.txtAnzahl->text(),       form.txtGewicht->text()};
             step([&] { form.tblFList->removeRow(row); });
             if (step.test([&] { return imGewaehltenMonat(form); })) {
                 step([&] { form.tblFList->insertRow(row, zeile); });
@@ -107,9 +107,9 @@ void UpdateFang(int row) {
 void LoescheFang(int row) {
     withErrorTail(modul, u"LoescheFang"_qs, [row](ErrorTail& step) {
         const Fangbuch& form = screen<Fangbuch>();
-        if (Datensatz::loesche(step, u"Fang"_qs, form.lblFNr->Caption())) {
+        if (Datensatz::loesche(step, u"Fang"_qs, form.lblFNr->text())) {
             step([&] { form.tblFList->removeRow(row); });
-            form.lblAnzahl->setCaption(QString::number(form.tblFList->rowCount()));
+            form.lblAnzahl->setText(QString::number(form.tblFList->rowCount()));
         }
         FangAnzeigeLoeschen();
         form.cboFArt->setFocus();
@@ -127,7 +127,7 @@ QString zweistellig(qint32 monat) {
 void zeigeFang(ErrorTail& step, const Recordset& fang, Fangbuch& form) {
     const auto text = [&](const QString& field) { return CStr(fang.Collect(field)); };
     const auto monat = [&] { return CLng(fang.Collect(u"FangMonat"_qs)); };
-    step([&] { form.lblFNr->setCaption(text(u"FangNr"_qs)); });
+    step([&] { form.lblFNr->setText(text(u"FangNr"_qs)); });
     step([&] { form.cboFArt->setText(text(u"FName"_qs)); });
     step([&] { form.cboGName->setText(text(u"GName"_qs)); });
     step([&] { form.txtAnzahl->setText(text(u"Anzahl"_qs)); });
@@ -163,7 +163,7 @@ void loadFang(DataTable* grid, int row) {
 
 void FangAnzeigeLoeschen() {
     Fangbuch& form = screen<Fangbuch>();
-    form.lblFNr->setCaption(QString());
+    form.lblFNr->setText(QString());
     form.txtFangMonat->setText(QString());
     form.txtMonNr->setText(QString());
     form.cboFArt->setListIndex(-1);
@@ -188,7 +188,7 @@ QString Ermittle_DSAnzahl() {
     withErrorTail(modul, u"Ermittle_DSAnzahl"_qs, [&](ErrorTail& step) {
         leseWert(step,
                  u"SELECT COUNT(fa.FangNr) FROM Fang fa WHERE fa.FangJahr = "_qs +
-                     screen<Fangbuch>().cboFJahr->Text(),
+                     screen<Fangbuch>().cboFJahr->currentText(),
                  [&](const Value& zahl) { anzahl = zahl.isNull() ? u"0"_qs : CStr(zahl); });
     });
     return anzahl;

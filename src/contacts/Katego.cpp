@@ -61,7 +61,7 @@ void Katego::buildEntry() {
     lblKategoNr = new ValueLabel(u"lblKategoNr"_qs, Frame1);
     Label1 = Face::label(u"Label1"_qs, u"Kategoriebezeichnung:"_qs, Frame1);
     txtKatego = new TextBox(u"txtKatego"_qs, Frame1);
-    txtKatego->setLimit(nameLimit);
+    txtKatego->setMaxLength(nameLimit);
     auto* form = new QGridLayout(Frame1);
     form->setHorizontalSpacing(Face::gap);
     Face::addField(form, 0, lblKatN, lblKategoNr);
@@ -96,11 +96,11 @@ void Katego::Form_Load() {
 void Katego::Form_Deactivate() {
     modRun::vergissOffenen();
     tblKatego->selectRows(0, tblKatego->rowCount(), false);
-    lblKategoNr->setCaption(QString());
+    lblKategoNr->setText(QString());
     txtKatego->setText(QString());
 }
 
-void Katego::Form_Paint() { lblAnzahl->setCaption(QString::number(tblKatego->rowCount())); }
+void Katego::Form_Paint() { lblAnzahl->setText(QString::number(tblKatego->rowCount())); }
 
 bool Katego::Form_KeyDown(int key, Qt::KeyboardModifiers) {
     if (key != Qt::Key_Escape) return false;

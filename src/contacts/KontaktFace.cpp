@@ -78,7 +78,7 @@ void Kontakt::buildToolbar() {
 
 TextBox* Kontakt::field(const QString& name, QWidget* parent, int limit) {
     auto* box = new TextBox(name, parent);
-    box->setLimit(limit);
+    box->setMaxLength(limit);
     return box;
 }
 

@@ -40,7 +40,7 @@ constexpr Textfeld bank[] = {
 template<std::size_t count>
 void schreibeTexte(ErrorTail& step, Recordset& satz, const Kontakt& form, const Textfeld (&felder)[count]) {
     for (const Textfeld& feld : felder)
-        step([&] { satz.Collect(QString::fromUtf16(feld.feld), (form.*feld.box)->Text()); });
+        step([&] { satz.Collect(QString::fromUtf16(feld.feld), (form.*feld.box)->text()); });
 }
 
 template<std::size_t count>
@@ -59,7 +59,7 @@ void waehle(const Recordset::Field& feld, QRadioButton* ja, QRadioButton* nein) 
 
 } // namespace
 
-bool istMitglied(const Kontakt& form) { return modKatego::istSystemkategorie(form.cboKatego->Text()); }
+bool istMitglied(const Kontakt& form) { return modKatego::istSystemkategorie(form.cboKatego->currentText()); }
 
 void schreibeKontakt(ErrorTail& step, Recordset& kontakt, const Kontakt& form) {
     schreibeTexte(step, kontakt, form, person);
@@ -79,7 +79,7 @@ void schreibeMitglied(ErrorTail& step, Recordset& mitglied, const Kontakt& form)
 }
 
 void zeigeKontakt(ErrorTail& step, const Recordset& kontakt, Kontakt& form) {
-    step([&] { form.lblKNr->setCaption(CStr(kontakt.Collect(u"knr"_qs))); });
+    step([&] { form.lblKNr->setText(CStr(kontakt.Collect(u"knr"_qs))); });
     // Choosing the category opens or closes the fields of a member.
     step([&] { form.cboKatego->setText(ErmittleKategoName(CLng(kontakt.Collect(u"kategonr"_qs)))); });
     zeigeTexte(step, kontakt, form, person);
@@ -99,11 +99,11 @@ void zeigeMitglied(ErrorTail& step, const Recordset& mitglied, Kontakt& form) {
 }
 
 std::array<Value, 10> alsZeile(const Kontakt& form) {
-    return {form.lblKNr->Caption(),  QString(),
-            form.txtFirma->Text(),   form.txtAnrede->Text(),
-            form.txtNName->Text(),   form.txtVName->Text(),
-            form.txtTelPriv->Text(), form.txtFax->Text(),
-            form.txtGebDat->Text(),  form.txtEMail->Text()};
+    return {form.lblKNr->text(),     QString(),
+            form.txtFirma->text(),   form.txtAnrede->text(),
+            form.txtNName->text(),   form.txtVName->text(),
+            form.txtTelPriv->text(), form.txtFax->text(),
+            form.txtGebDat->text(),  form.txtEMail->text()};
 }
 
 } // namespace KontaktFelder

@@ -111,16 +111,16 @@ bool SuchKont::Form_KeyDown(int key, Qt::KeyboardModifiers) {
 void SuchKont::cmdSuch_Click() {
     if (!modRun::fehlerfrei(modRun::erstesLeere({txtSuch, cboKatego}))) return;
     // The club may have a category of its own by this name.
-    const bool alle = weg() && weg()->ersterIstAlle && cboKatego->ListIndex() == 0;
-    const qint32 kategonr = alle ? 0 : ErmittleKategoNr(cboKatego->Text());
-    modKontakt::SucheKontakt(txtSuch->Text(), kategonr);
+    const bool alle = weg() && weg()->ersterIstAlle && cboKatego->currentIndex() == 0;
+    const qint32 kategonr = alle ? 0 : ErmittleKategoNr(cboKatego->currentText());
+    modKontakt::SucheKontakt(txtSuch->text(), kategonr);
     if (tblSuch->rowCount() > 0) {
-        lblGefDS->setCaption(QString::number(tblSuch->rowCount()));
+        lblGefDS->setText(QString::number(tblSuch->rowCount()));
         // The rows must be there when the focus comes, so that Enter opens the first one.
         tblSuch->refresh();
         tblSuch->setFocus();
     } else {
-        lblGefDS->setCaption(QString());
+        lblGefDS->setText(QString());
         txtSuch->setFocus();
     }
 }

@@ -16,18 +16,17 @@
 #include "Uebersicht.h"
 #include "ValueLabel.h"
 
-
 namespace modKatego {
 
 namespace {
 
 const QString modul = u"modKatego"_qs;
 
-void zeigeAnzahl(Katego& form) { form.lblAnzahl->setCaption(QString::number(form.tblKatego->rowCount())); }
+void zeigeAnzahl(Katego& form) { form.lblAnzahl->setText(QString::number(form.tblKatego->rowCount())); }
 
 /// The one field of the mask.
 Datensatz::Felder felder(ErrorTail& step, const Katego& form) {
-    return [&](Recordset& katego) { step([&] { katego.Collect(u"kategorie"_qs, form.txtKatego->Text()); }); };
+    return [&](Recordset& katego) { step([&] { katego.Collect(u"kategorie"_qs, form.txtKatego->text()); }); };
 }
 
 QString alsZeile(const QString& name) { return istSystemkategorie(name) ? name + systemMarke : name; }
@@ -63,7 +62,7 @@ void loadKatego(int row, int /*column*/) {
                    })) {
             MsgBox(u"ACHTUNG: Systemkategorie, keine Änderungen oder Löschung erlaubt!"_qs, vbInformation);
         } else {
-            step([&] { form.lblKategoNr->setCaption(CStr(katego.Collect(u"kategonr"_qs))); });
+            step([&] { form.lblKategoNr->setText(CStr(katego.Collect(u"kategonr"_qs))); });
             step([&] { form.txtKatego->setText(modRun::textOderLeer(katego.Fields(u"kategorie"_qs))); });
         }
         step([&] { katego.Close(); });
@@ -88,9 +87,9 @@ void SpeicherKatego() {
 void UpdateKatego(int row) {
     withErrorTail(modul, u"UpdateKatego"_qs, [row](ErrorTail& step) {
         const Katego& form = screen<Katego>();
-        const QString nummer = form.lblKategoNr->Caption();
+        const QString nummer = form.lblKategoNr->text();
         if (Datensatz::aendere(step, u"Katego"_qs, nummer, felder(step, form))) {
-            const QString name = form.txtKatego->Text();
+            const QString name = form.txtKatego->text();
             step([&] { form.tblKatego->setCell(row, 1, name); });
             form.tblKatego->markRow(row);
             step([&] { Uebersicht::benenneKategorieUm(CLng(nummer), name); });
@@ -102,7 +101,7 @@ void UpdateKatego(int row) {
 void LoescheKatego(int row) {
     withErrorTail(modul, u"LoescheKatego"_qs, [row](ErrorTail& step) {
         Katego& form = screen<Katego>();
-        const QString nummer = form.lblKategoNr->Caption();
+        const QString nummer = form.lblKategoNr->text();
         if (Datensatz::loesche(step, u"Katego"_qs, nummer)) {
             step([&] { form.tblKatego->removeRow(row); });
             zeigeAnzahl(form);
@@ -115,7 +114,7 @@ void LoescheKatego(int row) {
 void KategoAnzeigeLoeschen() {
     Katego& form = screen<Katego>();
     form.txtKatego->setText(QString());
-    form.lblKategoNr->setCaption(QString());
+    form.lblKategoNr->setText(QString());
     form.txtKatego->setFocus();
 }
 

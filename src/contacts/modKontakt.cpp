@@ -38,8 +38,8 @@ bool KontaktZugriff_Erlaubt() { return zugriffErlaubt(modul, u"KontaktZugriff_Er
 
 void FuelleKategoCombo(ComboBox* combo) {
     const DataTable* grid = screen<Katego>().tblKatego;
-    if (combo->ListCount() == grid->rowCount()) return;
-    combo->Clear();
+    if (combo->count() == grid->rowCount()) return;
+    combo->clear();
     for (int row = 0; row < grid->rowCount(); ++row) {
         QString name = grid->cellText(row, 1);
         const QString ohneMarke = name.chopped(qMin(name.size(), modKatego::systemMarke.size()));
@@ -111,7 +111,7 @@ bool EingabeKontaktOK() {
 
 void KontaktAnzeigeLoeschen() {
     Kontakt& form = screen<Kontakt>();
-    form.lblKNr->setCaption(QString());
+    form.lblKNr->setText(QString());
     form.cboKatego->setListIndex(-1);
     for (TextBox* box :
          {form.txtAnrede, form.txtNName, form.txtVName, form.txtStrasse, form.txtPLZ, form.txtOrt,

@@ -37,7 +37,7 @@ Datensatz::Felder felder(ErrorTail& step, const Kontakt& form, qint32 kategonr) 
 /// The number that the mask shows; 0, after the box, where it shows none.
 qint32 nummerDerMaske(ErrorTail& step, const Kontakt& form) {
     qint32 knr = 0;
-    step([&] { knr = CLng(form.lblKNr->Caption()); });
+    step([&] { knr = CLng(form.lblKNr->text()); });
     return knr;
 }
 
@@ -84,7 +84,7 @@ void SpeicherKontakt() {
         if (Datensatz::speichere(step, u"Kontakt"_qs, felder(step, form, *kategonr), danach)) {
             // The place of the picture.
             zeile.insert(zeile.begin() + 1, u" "_qs);
-            step([&] { Uebersicht::zeigeNeuen(*kategonr, form.cboKatego->Text(), zeile); });
+            step([&] { Uebersicht::zeigeNeuen(*kategonr, form.cboKatego->currentText(), zeile); });
             step([&] { Uebersicht::markiere(*kategonr, CLng(zeile[0])); });
         }
         KontaktAnzeigeLoeschen();
@@ -124,8 +124,8 @@ using Dazu = bool (*)(ErrorTail& step, const Uebersicht::Umzug& umzug, const Kon
 /// Changes the contact that the mask shows, with what `dazu` writes for it, and then the overview.
 void aendere(ErrorTail& step, bool ausSuche, Dazu dazu) {
     const Kontakt& form = screen<Kontakt>();
-    const QString kategorie = form.cboKatego->Text();
-    const auto neueNr = ermittleNummer(&ErmittleKategoNr, kategorie);
+    const QString kategorie = form.cboKatego->currentText();
+    const auto neueNr = ermittleNummer(&ErmittleKategoNr, form.cboKatego);
     if (!neueNr) return;
     Uebersicht::Umzug umzug{
         .knr = nummerDerMaske(step, form), .neueNr = *neueNr, .neuerName = kategorie, .ausSuche = ausSuche};
@@ -158,14 +158,14 @@ void LoescheKontakt() {
     withErrorTail(modul, u"LoescheKontakt"_qs, [](ErrorTail& step) {
         const Kontakt& form = screen<Kontakt>();
         const qint32 knr = nummerDerMaske(step, form);
-        const qint32 kategonr = ErmittleKategoNr(form.cboKatego->Text());
+        const qint32 kategonr = ErmittleKategoNr(form.cboKatego->currentText());
         const auto mitglied = [&](Recordset&) {
             return Datensatz::schreibe(step, u"Mitglied"_qs, [&](Recordset& satz) {
                 return !Datensatz::finde(step, satz, knr) || step([&] { satz.Delete(); });
             });
         };
         if (Datensatz::loesche(step, u"Kontakt"_qs, knr, mitglied))
-            step([&] { Uebersicht::entferneKontakt(kategonr, form.cboKatego->Text(), knr); });
+            step([&] { Uebersicht::entferneKontakt(kategonr, form.cboKatego->currentText(), knr); });
         unload<Kontakt>();
     });
 }

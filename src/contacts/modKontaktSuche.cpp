@@ -49,7 +49,7 @@ void SuchAnzeigeLoeschen() {
     SuchKont& form = screen<SuchKont>();
     form.tblSuch->clearRows();
     form.txtSuch->setText(QString());
-    form.lblGefDS->setCaption(QString());
+    form.lblGefDS->setText(QString());
 }
 
 void SucheKontakt(const QString& word, qint32 kategonr) {

@@ -149,8 +149,8 @@ void SetzeFensterGroesse() {
 
 void Anmelden() {
     ::Login& form = screen<::Login>();
-    if (form.txtBenutzer->Text().isEmpty()) return form.txtBenutzer->setFocus();
-    if (Login(form.txtBenutzer->Text(), form.txtPassw->Text())) return continueAfterLogin();
+    if (form.txtBenutzer->text().isEmpty()) return form.txtBenutzer->setFocus();
+    if (Login(form.txtBenutzer->text(), form.txtPassw->text())) return continueAfterLogin();
     // If the table of users is damaged, no user would get as far as the menu with the repair.
     if (session().Beschaedigt) return askForRepair();
     form.txtBenutzer->setText(QString());

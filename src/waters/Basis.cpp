@@ -114,7 +114,7 @@ void Basis::buildFishPage() {
     lblFNr = new ValueLabel(u"lblFNr"_qs, Frame1);
     lblFischArt = Face::label(u"lblFischArt"_qs, u"Fischart:"_qs, Frame1);
     txtFArt = new TextBox(u"txtFArt"_qs, Frame1);
-    txtFArt->setLimit(nameLimit);
+    txtFArt->setMaxLength(nameLimit);
     lblFNotiz = Face::label(u"lblFNotiz"_qs, u"Notizen..."_qs, Frame1);
     txtFNotiz = new MemoBox(u"txtFNotiz"_qs, Frame1);
     lblÜberschr = Face::label(u"lblÜberschr"_qs, u"Alle aufgenommen Fischarten..."_qs, Frame1);
@@ -132,7 +132,7 @@ void Basis::buildWaterPage() {
     lblGNr = new ValueLabel(u"lblGNr"_qs, Frame2);
     lblGewBez = Face::label(u"lblGewBez"_qs, u"Gewässer:"_qs, Frame2);
     txtGName = new TextBox(u"txtGName"_qs, Frame2);
-    txtGName->setLimit(nameLimit);
+    txtGName->setMaxLength(nameLimit);
     lblGNotiz = Face::label(u"lblGNotiz"_qs, u"Notizen..."_qs, Frame2);
     txtGNotiz = new MemoBox(u"txtGNotiz"_qs, Frame2);
     lblÜbersch2 = Face::label(u"lblÜbersch2"_qs, u"Alle aufgenommenen Gewässer..."_qs, Frame2);
@@ -150,8 +150,8 @@ void Basis::Form_Load() {
 }
 
 void Basis::Form_Paint() {
-    lblFAnzahl->setCaption(QString::number(tblFBasis->rowCount()));
-    lblGAnzahl->setCaption(QString::number(tblGBasis->rowCount()));
+    lblFAnzahl->setText(QString::number(tblFBasis->rowCount()));
+    lblGAnzahl->setText(QString::number(tblGBasis->rowCount()));
 }
 
 void Basis::Form_Activate() { modRun::nimmOffenenWiederAuf(*this); }

@@ -43,20 +43,20 @@ void Besatzung::Form_Deactivate() {
     modBesatzList::BesatzAnzeigeLoeschen();
 }
 
-void Besatzung::zeigeAnzahl() { lblAnzahl->setCaption(QString::number(tblBList->rowCount())); }
+void Besatzung::zeigeAnzahl() { lblAnzahl->setText(QString::number(tblBList->rowCount())); }
 
 /// As a click on the year, also where it stands there already: the plan is loaded anew.
 void Besatzung::waehleJahr(const QString& jahr) {
-    const int before = cboBJahr->ListIndex();
+    const int before = cboBJahr->currentIndex();
     cboBJahr->setText(jahr);
-    if (cboBJahr->ListIndex() == before) cboBJahr_Click();
+    if (cboBJahr->currentIndex() == before) cboBJahr_Click();
 }
 
 void Besatzung::cboBJahr_Click() {
     Session& s = session();
     if (s.TabelleLaedt) return;
     // The load takes the year from the session; it is lent to it and put back.
-    s.AktJahr = CInt(cboBJahr->Text());
+    s.AktJahr = CInt(cboBJahr->currentText());
     modBesatzList::loadTblBList();
     s.AktJahr = static_cast<qint16>(today().year());
     zeigeAnzahl();
@@ -65,7 +65,7 @@ void Besatzung::cboBJahr_Click() {
 /// A press that puts the plan out ends the editing of an opened stocking, which must not stand there as a new
 /// one afterwards. A new one that is being typed stays.
 void Besatzung::leereOffenen() {
-    if (!lblBNr->Caption().isEmpty()) modBesatzList::BesatzAnzeigeLoeschen();
+    if (!lblBNr->text().isEmpty()) modBesatzList::BesatzAnzeigeLoeschen();
 }
 
 void Besatzung::tbExcel_Click() {

@@ -69,7 +69,7 @@ const Art artInFront() {
 }
 
 void leere(const Art& art) {
-    art.lblNr->setCaption(QString());
+    art.lblNr->setText(QString());
     art.txtName->setText(QString());
     art.txtNotiz->setText(QString());
 }
@@ -78,7 +78,7 @@ void melde(const Art& art, const Basis::Verweis& verweis) {
     if (art.geaendert) art.geaendert(verweis);
 }
 
-void zeigeAnzahl(const Art& art) { art.lblAnzahl->setCaption(QString::number(art.grid->rowCount())); }
+void zeigeAnzahl(const Art& art) { art.lblAnzahl->setText(QString::number(art.grid->rowCount())); }
 
 std::vector<Value> alsZeile(const Recordset& satz, const Art& art) {
     return {satz.Collect(art.feldNr), satz.Collect(art.feldName)};
@@ -91,7 +91,7 @@ void fuelleGrid(const QString& routine, const Art& art, const QString& select) {
 /// The two fields of the form, in the order in which they are written.
 Datensatz::Felder felder(ErrorTail& step, const Art& art) {
     return [&](Recordset& satz) {
-        step([&] { satz.Collect(art.feldName, art.txtName->Text()); });
+        step([&] { satz.Collect(art.feldName, art.txtName->text()); });
         step([&] { satz.Collect(u"Notiz"_qs, art.txtNotiz->Text()); });
     };
 }
@@ -113,8 +113,8 @@ void meldeNichtGefunden() { MsgBox(u"FEHLER: Datensatz nicht vorhanden o. nicht 
 
 void aendere(const QString& routine, const Art& art, int row) {
     withErrorTail(u"modBasis"_qs, routine, [&](ErrorTail& step) {
-        const QString name = art.txtName->Text();
-        if (Datensatz::aendere(step, art.tabelle, art.lblNr->Caption(), felder(step, art), {},
+        const QString name = art.txtName->text();
+        if (Datensatz::aendere(step, art.tabelle, art.lblNr->text(), felder(step, art), {},
                                &meldeNichtGefunden)) {
             const int zeile = modRun::zeileVon(art.grid, art.lblNr, row);
             step([&] { art.grid->setCell(zeile, 1, name); });
@@ -131,10 +131,10 @@ void meldeNichtGeloescht() {
 
 void loesche(const QString& routine, const Art& art, int row) {
     withErrorTail(u"modBasis"_qs, routine, [&](ErrorTail& step) {
-        if (Datensatz::loesche(step, art.tabelle, art.lblNr->Caption(), {}, &meldeNichtGeloescht)) {
+        if (Datensatz::loesche(step, art.tabelle, art.lblNr->text(), {}, &meldeNichtGeloescht)) {
             step([&] { art.grid->removeRow(modRun::zeileVon(art.grid, art.lblNr, row)); });
             zeigeAnzahl(art);
-            step([&] { melde(art, {art.txtName->Text(), u"LOESCHEN"_qs, QString()}); });
+            step([&] { melde(art, {art.txtName->text(), u"LOESCHEN"_qs, QString()}); });
         }
         BasisAnzeigeLoeschen();
     });
@@ -148,7 +148,7 @@ void ladeAuswahl(const QString& routine, const Art& art, int row) {
                                  art.grid->cellText(row, 0));
         });
         if (step.test([&] { return satz.RecordCount() != 0; })) {
-            step([&] { art.lblNr->setCaption(CStr(satz.Collect(art.feldNr))); });
+            step([&] { art.lblNr->setText(CStr(satz.Collect(art.feldNr))); });
             step([&] { art.txtName->setText(CStr(satz.Collect(art.feldName))); });
             step([&] { art.txtNotiz->setText(CStr(satz.Collect(u"Notiz"_qs))); });
             step([&] { alterName = CStr(satz.Collect(art.feldName)); });
@@ -178,7 +178,7 @@ void BasisAnzeigeLoeschen() {
 void BasisAlleAnzeigenLoeschen() {
     for (const Art& art : {fisch(), gewaesser()}) {
         leere(art);
-        art.lblAnzahl->setCaption(QString());
+        art.lblAnzahl->setText(QString());
     }
 }
 
@@ -188,7 +188,7 @@ void loadTblGBasis() { fuelleGrid(u"loadTblGBasis"_qs, gewaesser(), u"SELECT GNr
 namespace {
 
 void fuelleAusGrid(ComboBox* combo, const DataTable* grid) {
-    combo->Clear();
+    combo->clear();
     for (int row = 0; row < grid->rowCount(); ++row) combo->AddItem(grid->cellText(row, 1));
 }
 

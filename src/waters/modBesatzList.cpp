@@ -48,23 +48,23 @@ void fuelleZeile(ErrorTail& step, std::vector<Value>& zeile) {
 
 /// The five fields of the form, in the order in which they are written.
 void schreibeFelder(ErrorTail& step, Recordset& plan, const Besatzung& form, const ArtUndGewaesser& nummern) {
-    step([&] { plan.Collect(u"BJahr"_qs, CLng(form.cboBJahr->Text())); });
+    step([&] { plan.Collect(u"BJahr"_qs, CLng(form.cboBJahr->currentText())); });
     step([&] { plan.Collect(u"FNr"_qs, nummern.fisch); });
     step([&] { plan.Collect(u"GNr"_qs, nummern.gewaesser); });
-    step([&] { plan.Collect(u"Zeit"_qs, form.txtZeit->Text()); });
-    step([&] { plan.Collect(u"Menge"_qs, CDbl(form.txtMenge->Text())); });
+    step([&] { plan.Collect(u"Zeit"_qs, form.txtZeit->text()); });
+    step([&] { plan.Collect(u"Menge"_qs, CDbl(form.txtMenge->text())); });
 }
 
 /// Takes the opened record's row off the grid. Another year may have come to the screen since it was opened:
 /// what stands in its place then is another record's.
 void entferneOffenen(ErrorTail& step, const Besatzung& form, int row) {
     const DataTable& grid = *form.tblBList;
-    const bool dort = row < grid.rowCount() && grid.cellText(row, 0) == form.lblBNr->Caption();
+    const bool dort = row < grid.rowCount() && grid.cellText(row, 0) == form.lblBNr->text();
     if (dort) step([&] { form.tblBList->removeRow(row); });
 }
 
 void zeigeAnzahl(const Besatzung& form) {
-    form.lblAnzahl->setCaption(QString::number(form.tblBList->rowCount()));
+    form.lblAnzahl->setText(QString::number(form.tblBList->rowCount()));
 }
 
 } // namespace
@@ -119,10 +119,10 @@ void UpdateEintrag(int row) {
         const auto nummern = ermittleNummern(form.cboFArt, form.cboGName);
         if (!nummern) return;
         const auto felder = [&](Recordset& plan) { schreibeFelder(step, plan, form, *nummern); };
-        if (Datensatz::aendere(step, u"Besatzung"_qs, form.lblBNr->Caption(), felder)) {
-            const std::array<Value, 5> zeile = {form.lblBNr->Caption(), form.cboFArt->Text(),
-                                                form.cboGName->Text(), form.txtZeit->Text(),
-                                                alsGewicht(form.txtMenge->Text())};
+        if (Datensatz::aendere(step, u"Besatzung"_qs, form.lblBNr->text(), felder)) {
+            const std::array<Value, 5> zeile = {form.lblBNr->text(), form.cboFArt->currentText(),
+                                                form.cboGName->currentText(), form.txtZeit->text(),
+                                                alsGewicht(form.txtMenge->text())};
             entferneOffenen(step, form, row);
             step([&] { form.tblBList->insertRow(row, zeile); });
             form.tblBList->markRow(row);
@@ -136,7 +136,7 @@ void UpdateEintrag(int row) {
 void LoescheEintrag(int row) {
     withErrorTail(modul, u"LoescheEintrag"_qs, [row](ErrorTail& step) {
         const Besatzung& form = screen<Besatzung>();
-        if (Datensatz::loesche(step, u"Besatzung"_qs, form.lblBNr->Caption())) {
+        if (Datensatz::loesche(step, u"Besatzung"_qs, form.lblBNr->text())) {
             entferneOffenen(step, form, row);
             zeigeAnzahl(form);
         }
@@ -148,7 +148,7 @@ namespace {
 
 void zeigeEintrag(ErrorTail& step, const Recordset& plan, Besatzung& form) {
     const auto text = [&](const QString& field) { return CStr(plan.Collect(field)); };
-    step([&] { form.lblBNr->setCaption(text(u"BNr"_qs)); });
+    step([&] { form.lblBNr->setText(text(u"BNr"_qs)); });
     step([&] { form.cboFArt->setText(text(u"FName"_qs)); });
     step([&] { form.cboGName->setText(text(u"GName"_qs)); });
     step([&] { form.txtZeit->setText(modRun::textOderLeer(plan.Fields(u"Zeit"_qs))); });
@@ -167,7 +167,7 @@ void loadEintrag(DataTable* grid, int row) {
                                  u"FROM Besatzung b, Fisch f, Gewaesser g WHERE b.BNr = "_qs +
                                  grid->cellText(row, 0) +
                                  u" AND b.FNr = f.FNr AND b.GNr = g.GNr AND b.BJahr = "_qs +
-                                 form.cboBJahr->Text());
+                                 form.cboBJahr->currentText());
         });
         if (step.test([&] { return plan.RecordCount() != 0; }))
             zeigeEintrag(step, plan, form);
@@ -183,7 +183,7 @@ void BesatzAnzeigeLoeschen() {
     form.txtZeit->setText(QString());
     form.cboFArt->setListIndex(-1);
     form.cboGName->setListIndex(-1);
-    form.lblBNr->setCaption(QString());
+    form.lblBNr->setText(QString());
 }
 
 bool BesatzEingabeVollstaendig() {

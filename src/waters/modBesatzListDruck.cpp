@@ -27,7 +27,8 @@ void richteEin(ErrorTail& step, Report& report) {
     // The title is extended and not replaced: a report that is in use keeps its labels.
     step([&] {
         ReportControl& titel = report.control(u"Section2"_qs, u"lblUeb"_qs);
-        titel.setCaption(titel.caption() + u" für das Fangjahr "_qs + screen<Besatzung>().cboBJahr->Text());
+        titel.setCaption(titel.caption() + u" für das Fangjahr "_qs +
+                         screen<Besatzung>().cboBJahr->currentText());
     });
     int number = 0;
     for (const QString& feld : felder)

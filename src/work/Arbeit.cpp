@@ -41,7 +41,7 @@ void Arbeit::Form_Load() {
     SuchKont::registriere(1, {&bieteMitglieder, false, &uebernehmeTreffer});
     modArbeit::LeereArbEingabe();
     loadcboArbJahre(cboArbJahr);
-    if (cboArbJahr->ListCount() > 0) cboArbJahr->setText(QString::number(session().Startjahr));
+    if (cboArbJahr->count() > 0) cboArbJahr->setText(QString::number(session().Startjahr));
     modRun::beendeVorgang();
     session().AktZeile = 0;
     // From here on a year stands for the wish to see it.
@@ -103,11 +103,11 @@ void soweitMitglied(Statement&& statement) {
 
 void Arbeit::cboArbJahr_Click() {
     const auto lade = [this] {
-        return modArbeit::loadTblArbeit(CLng(lblKNr->Caption()), CLng(cboArbJahr->Text()));
+        return modArbeit::loadTblArbeit(CLng(lblKNr->text()), CLng(cboArbJahr->currentText()));
     };
     try {
         soweitMitglied(lade);
-        soweitMitglied([&] { lblGesStd->setCaption(Format(lade(), stundenMuster())); });
+        soweitMitglied([&] { lblGesStd->setText(Format(lade(), stundenMuster())); });
         soweitMitglied([] { modArbeit::zeigePflichtStd(); });
         soweitMitglied([] { modArbeit::zeigeSaldo(); });
     } catch (const RuntimeError&) {

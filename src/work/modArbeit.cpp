@@ -33,9 +33,9 @@ const QString modul = u"modArbeit"_qs;
 
 /// The fields of a booking that a change writes as well, in the order in which they are written.
 void schreibeFelder(ErrorTail& step, Recordset& arbeit, const Arbeit& form) {
-    step([&] { arbeit.Collect(u"jahr"_qs, CLng(form.cboArbJahr->Text())); });
+    step([&] { arbeit.Collect(u"jahr"_qs, CLng(form.cboArbJahr->currentText())); });
     step([&] { arbeit.Collect(u"Datum"_qs, form.pvDate->date()); });
-    step([&] { arbeit.Collect(u"ArbStd"_qs, CDbl(form.txtArbStd->Text())); });
+    step([&] { arbeit.Collect(u"ArbStd"_qs, CDbl(form.txtArbStd->text())); });
     step([&] { arbeit.Collect(u"Notiz"_qs, form.txtArbNotiz->Text()); });
 }
 
@@ -53,14 +53,14 @@ void haengeAn(ErrorTail& step, std::vector<Value> zeile, const Arbeit& form) {
 /// Another year or another member may have come to the screen since the row was opened: then another booking
 /// stands there, or none.
 bool zeigtOffenen(const Arbeit& form, int row) {
-    return row < form.tblArbStd->rowCount() && form.tblArbStd->cellText(row, 0) == form.lblArbNr->Caption();
+    return row < form.tblArbStd->rowCount() && form.tblArbStd->cellText(row, 0) == form.lblArbNr->text();
 }
 
 /// The hours stand as they were typed until the next load.
 void zeigeGeaenderten(ErrorTail& step, const std::vector<Value>& zeile, const Arbeit& form, int row) {
-    const auto mitglied = [&] { return CLng(zeile[1]) == CLng(form.lblKNr->Caption()); };
+    const auto mitglied = [&] { return CLng(zeile[1]) == CLng(form.lblKNr->text()); };
     if (zeigtOffenen(form, row)) {
-        step([&] { form.tblArbStd->setCell(row, 2, form.txtArbStd->Text()); });
+        step([&] { form.tblArbStd->setCell(row, 2, form.txtArbStd->text()); });
         step([&] { form.tblArbStd->setCell(row, 3, form.pvDate->date()); });
         form.tblArbStd->markRow(row);
     } else if (step.test(mitglied)) {
@@ -73,8 +73,9 @@ Date datumOderLeer(const Value& datum) { return datum.isNull() ? Date() : CDate(
 
 void zeigeNeueSumme(ErrorTail& step, const Arbeit& form) {
     step([&] {
-        const double stunden = ErmittleStunden(CLng(form.lblKNr->Caption()), CLng(form.cboArbJahr->Text()));
-        form.lblGesStd->setCaption(Format(stunden, stundenMuster()));
+        const double stunden =
+            ErmittleStunden(CLng(form.lblKNr->text()), CLng(form.cboArbJahr->currentText()));
+        form.lblGesStd->setText(Format(stunden, stundenMuster()));
     });
     step([] { zeigeSaldo(); });
 }
@@ -88,7 +89,7 @@ void SpeicherStunden() {
         const Arbeit& form = screen<Arbeit>();
         std::vector<Value> zeile;
         const auto felder = [&](Recordset& arbeit) {
-            step([&] { arbeit.Collect(u"knr"_qs, CLng(form.lblKNr->Caption())); });
+            step([&] { arbeit.Collect(u"knr"_qs, CLng(form.lblKNr->text())); });
             schreibeFelder(step, arbeit, form);
         };
         if (Datensatz::speichere(step, u"Arbeit"_qs, felder, lies(step, zeile))) haengeAn(step, zeile, form);
@@ -103,7 +104,7 @@ void UpdateStunden(int row) {
         const Arbeit& form = screen<Arbeit>();
         std::vector<Value> zeile;
         const auto felder = [&](Recordset& arbeit) { schreibeFelder(step, arbeit, form); };
-        if (Datensatz::aendere(step, u"Arbeit"_qs, form.lblArbNr->Caption(), felder, lies(step, zeile)))
+        if (Datensatz::aendere(step, u"Arbeit"_qs, form.lblArbNr->text(), felder, lies(step, zeile)))
             zeigeGeaenderten(step, zeile, form, row);
         zeigeNeueSumme(step, form);
         LeereArbEingabe();
@@ -114,7 +115,7 @@ void UpdateStunden(int row) {
 void LoescheStunden(int row) {
     withErrorTail(modul, u"LoescheStunden"_qs, [row](ErrorTail& step) {
         const Arbeit& form = screen<Arbeit>();
-        if (Datensatz::loesche(step, u"Arbeit"_qs, form.lblArbNr->Caption())) {
+        if (Datensatz::loesche(step, u"Arbeit"_qs, form.lblArbNr->text())) {
             if (zeigtOffenen(form, row)) step([&] { form.tblArbStd->removeRow(row); });
             zeigeNeueSumme(step, form);
         }
@@ -134,7 +135,7 @@ void loadArbeitsVorgang(int row, int /*column*/) {
         // Hours that a failed booking never got stand as an empty text.
         const auto text = [&](const QString& field) { return Format(arbeit.Collect(field), QString()); };
         if (step.test([&] { return arbeit.RecordCount() == 1; })) {
-            step([&] { form.lblArbNr->setCaption(text(u"ArbNr"_qs)); });
+            step([&] { form.lblArbNr->setText(text(u"ArbNr"_qs)); });
             step([&] { form.pvDate->setDate(datumOderLeer(arbeit.Collect(u"Datum"_qs))); });
             step([&] { form.txtArbNotiz->setText(text(u"Notiz"_qs)); });
             step([&] { form.txtArbStd->setText(text(u"ArbStd"_qs)); });
@@ -147,14 +148,14 @@ void loadArbeitsVorgang(int row, int /*column*/) {
 
 void LeereArbEingabe() {
     const Arbeit& form = screen<Arbeit>();
-    form.lblArbNr->setCaption(QString());
+    form.lblArbNr->setText(QString());
     form.pvDate->setDate(Date::fromQDate(today()));
     form.txtArbNotiz->setText(QString());
     form.txtArbStd->setText(QString());
 }
 
 void LeereOffenen() {
-    if (!screen<Arbeit>().lblArbNr->Caption().isEmpty()) LeereArbEingabe();
+    if (!screen<Arbeit>().lblArbNr->text().isEmpty()) LeereArbEingabe();
 }
 
 void LeereArbAnzeige() {
@@ -163,14 +164,14 @@ void LeereArbAnzeige() {
     form.tblArbStd->clearRows();
     for (ValueLabel* label :
          {form.lblVName, form.lblNName, form.lblKNr, form.lblGesStd, form.lblPflStd, form.lblErgStd})
-        label->setCaption(QString());
+        label->setText(QString());
     form.cmdMList->setEnabled(false);
 }
 
 bool PruefeArbEingabe() {
     const Arbeit& form = screen<Arbeit>();
     // A date that nobody can read would be booked as another one.
-    return modRun::fehlerfrei(modRun::erstesLeere({{form.cmdSuch, form.lblKNr->Caption().isEmpty()},
+    return modRun::fehlerfrei(modRun::erstesLeere({{form.cmdSuch, form.lblKNr->text().isEmpty()},
                                                    {form.pvDate, !form.pvDate->isReadable()},
                                                    form.txtArbStd}));
 }

@@ -35,14 +35,15 @@ void richteEin(ErrorTail& step, Report& report) {
     const auto bind = [&](const QString& name, const QString& field) {
         step([&] { report.control(u"Section1"_qs, name).setDataField(field); });
     };
-    caption(u"Section2"_qs, u"lblUebSchrift"_qs, Berichte::titelArbListe() + u' ' + form.cboArbJahr->Text());
+    caption(u"Section2"_qs, u"lblUebSchrift"_qs,
+            Berichte::titelArbListe() + u' ' + form.cboArbJahr->currentText());
     // The sums are those on the screen, whatever the rows come to.
-    caption(u"Section5"_qs, u"lblNName"_qs, form.lblNName->Caption());
-    caption(u"Section5"_qs, u"lblVName"_qs, form.lblVName->Caption());
-    caption(u"Section5"_qs, u"lblMitglNr"_qs, form.lblKNr->Caption());
-    caption(u"Section5"_qs, u"lblGesStd"_qs, form.lblGesStd->Caption());
-    caption(u"Section5"_qs, u"lblPflStd"_qs, form.lblPflStd->Caption());
-    caption(u"Section5"_qs, u"lblSollHaben"_qs, form.lblErgStd->Caption());
+    caption(u"Section5"_qs, u"lblNName"_qs, form.lblNName->text());
+    caption(u"Section5"_qs, u"lblVName"_qs, form.lblVName->text());
+    caption(u"Section5"_qs, u"lblMitglNr"_qs, form.lblKNr->text());
+    caption(u"Section5"_qs, u"lblGesStd"_qs, form.lblGesStd->text());
+    caption(u"Section5"_qs, u"lblPflStd"_qs, form.lblPflStd->text());
+    caption(u"Section5"_qs, u"lblSollHaben"_qs, form.lblErgStd->text());
     bind(u"Text1"_qs, u"ArbNr"_qs);
     bind(u"Text2"_qs, u"GelStd"_qs);
     bind(u"Text3"_qs, u"Datum"_qs);

@@ -69,13 +69,13 @@ void zeigeMitglied(ErrorTail& step, const Mitglied& mitglied) {
     // A booking that stands open is the former member's: it must not be taken for the new one's.
     LeereOffenen();
     modRun::vergissOffenen();
-    form.lblKNr->setCaption(mitglied.knr);
-    form.lblVName->setCaption(mitglied.vorname);
-    form.lblNName->setCaption(mitglied.nachname);
+    form.lblKNr->setText(mitglied.knr);
+    form.lblVName->setText(mitglied.vorname);
+    form.lblNName->setText(mitglied.nachname);
     form.setWindowTitle(u"Arbeitscontrolling - "_qs + mitglied.titel + u" -"_qs);
     step([&] {
-        const double stunden = loadTblArbeit(CLng(form.lblKNr->Caption()), CLng(form.cboArbJahr->Text()));
-        form.lblGesStd->setCaption(Format(stunden, stundenMuster()));
+        const double stunden = loadTblArbeit(CLng(form.lblKNr->text()), CLng(form.cboArbJahr->currentText()));
+        form.lblGesStd->setText(Format(stunden, stundenMuster()));
     });
     step([] { zeigePflichtStd(); });
     step([] { zeigeSaldo(); });
@@ -140,14 +140,12 @@ double loadTblArbeit(qint32 knr, qint32 jahr) {
     return ErmittleStunden(knr, jahr);
 }
 
-void zeigePflichtStd() {
-    screen<Arbeit>().lblPflStd->setCaption(Format(session().PflichtStd, stundenMuster()));
-}
+void zeigePflichtStd() { screen<Arbeit>().lblPflStd->setText(Format(session().PflichtStd, stundenMuster())); }
 
 void zeigeSaldo() {
     const Arbeit& form = screen<Arbeit>();
-    const double saldo = BerechneSaldo(CDbl(form.lblGesStd->Caption()), CDbl(form.lblPflStd->Caption()));
-    form.lblErgStd->setCaption(Format(saldo, stundenMuster()));
+    const double saldo = BerechneSaldo(CDbl(form.lblGesStd->text()), CDbl(form.lblPflStd->text()));
+    form.lblErgStd->setText(Format(saldo, stundenMuster()));
 }
 
 } // namespace modArbeit

@@ -53,7 +53,7 @@ void MitglList::tbSuch_Click() {
         }
     }
     tblMList->clearRows();
-    lblGefDS->setCaption(QString());
+    lblGefDS->setText(QString());
     modMitglList::LadeAuswahl();
 }
 

@@ -55,7 +55,7 @@ void MitglList::buildToolbar() {
 Vergleich MitglList::addBound(const QString& list, const QString& box, const QString& spoken) {
     constexpr int wholeDate = 10;
     const Vergleich bound = Vergleich::neu(list, box, spoken, Frame6);
-    bound.wert->setLimit(wholeDate);
+    bound.wert->setMaxLength(wholeDate);
     bound.wert->setKeyFilter(&modRun::FilterDatum, Refused::WithTheWhole);
     bound.wert->setHoldsDate();
     return bound;
@@ -201,7 +201,7 @@ void MitglList::buildFoot() {
     constexpr int description = 255;
     Label1 = Face::label(u"Label1"_qs, u"Listenbeschreibung: [wird auf Liste gedruckt]"_qs, this);
     txtInfo = new TextBox(u"txtInfo"_qs, this);
-    txtInfo->setLimit(description);
+    txtInfo->setMaxLength(description);
     txtInfo->setAccessibleName(Label1->text());
     Label1->setBuddy(txtInfo);
     pb = new ProgressBar(u"pb"_qs, this);
@@ -244,7 +244,7 @@ void MitglList::connectEvents() {
     });
     // What stands there are the hours of another year.
     on(cboArbJahr, &ComboBox::Click, [this] {
-        if (std::exchange(m_arbJahr, cboArbJahr->Text()) != m_arbJahr) tblMList->clearRows();
+        if (std::exchange(m_arbJahr, cboArbJahr->currentText()) != m_arbJahr) tblMList->clearRows();
     });
     on(tblMList, &DataTable::OnGridCellDown, [this](int row, int) { tblMList_OnGridCellDown(row); });
     on(tblMList, &DataTable::OnGridCellOpen, [this](int row, int) { tblMList_OnGridCellOpen(row); });

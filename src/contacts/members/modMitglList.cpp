@@ -50,7 +50,7 @@ struct Lauf {
 };
 
 void meldeNichts(MitglList& form) {
-    form.lblGefDS->setCaption(u"0"_qs);
+    form.lblGefDS->setText(u"0"_qs);
     MsgBox(u"Keine passenden Einträge gefunden !"_qs, vbInformation);
 }
 
@@ -120,13 +120,13 @@ void LadeAuswahl() {
         if (step.test([&] { return wert().isNull() || CLng(wert()) == 0; })) return meldeNichts(form);
         qint32 gefunden = 0;
         step([&] { gefunden = CLng(wert()); });
-        form.lblGefDS->setCaption(QString::number(gefunden));
+        form.lblGefDS->setText(QString::number(gefunden));
         form.pb->setMax(gefunden);
         Lauf lauf{form};
-        step([&] { lauf.jahr = CLng(form.cboArbJahr->Text()); });
+        step([&] { lauf.jahr = CLng(form.cboArbJahr->currentText()); });
         step([&] { lauf.pfl = zweiStellen(session().PflichtStd); });
         fuelleListe(step, liste, lauf);
-        form.lblGefDS->setCaption(QString::number(form.tblMList->rowCount()));
+        form.lblGefDS->setText(QString::number(form.tblMList->rowCount()));
         for (Recordset* offen : {&liste, &anzahl}) step([&] { offen->Close(); });
     });
 }
@@ -138,11 +138,11 @@ QString wahrheit(const QRadioButton* option) {
 }
 
 QString vergleich(const QString& field, const Vergleich& bound) {
-    const QString day = Format(bound.wert->Text(), u"\\#m\\/d\\/yyyy\\#"_qs);
-    return u" AND "_qs + field + u' ' + bound.zeichen->Text() + u' ' + day;
+    const QString day = Format(bound.wert->text(), u"\\#m\\/d\\/yyyy\\#"_qs);
+    return u" AND "_qs + field + u' ' + bound.zeichen->currentText() + u' ' + day;
 }
 
-QWidget* falschesDatum(TextBox* box) { return box->Text().isEmpty() || IsDate(box->Text()) ? nullptr : box; }
+QWidget* falschesDatum(TextBox* box) { return box->text().isEmpty() || IsDate(box->text()) ? nullptr : box; }
 
 } // namespace
 
@@ -196,7 +196,7 @@ void LeereMListAnzeige() {
           Vergleich{form.cboOptTritt01, form.txtTritt01}, Vergleich{form.cboOptTritt02, form.txtTritt02}})
         bound.leere();
     form.tblMList->clearRows();
-    form.lblGefDS->setCaption(QString());
+    form.lblGefDS->setText(QString());
     form.txtInfo->setText(QString());
     form.setHourView(false);
 }

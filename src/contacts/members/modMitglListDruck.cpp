@@ -42,11 +42,11 @@ Druckauftrag auftrag(const QString& routine, const QString& tabelle, std::shared
         const auto caption = [&](const QString& name, const QString& text) {
             step([&] { bericht.control(u"Section5"_qs, name).setCaption(text); });
         };
-        caption(u"lblGefDS"_qs, form.lblGefDS->Caption());
+        caption(u"lblGefDS"_qs, form.lblGefDS->text());
         int number = 0;
         bind(++number, u"KontaktNr"_qs);
         for (const Spalte& spalte : spalten) bind(++number, spalte.field);
-        const QString info = form.txtInfo->Text();
+        const QString info = form.txtInfo->text();
         caption(u"lblInfo"_qs, info.isEmpty() ? u"keine Beschreibung"_qs : info);
     };
     return {.modul = u"modMitglList"_qs,

@@ -180,7 +180,7 @@ void Vorschau::showPageNumber() {
 }
 
 void Vorschau::cboZoom_Click() {
-    const int chosen = cboZoom->ListIndex();
+    const int chosen = cboZoom->currentIndex();
     if (chosen < 0) return;
     if (chosen < zoomCount)
         pageView->setZoom(zoomLevels[chosen]);

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QWidget>
+#include <QComboBox>
+#include <QLineEdit>
 #include <initializer_list>
 
 // What a form must hold before it is saved.
@@ -9,10 +10,12 @@ namespace modRun {
 
 /// A control of a form and what it holds.
 struct Eingabe {
-    template<typename Control>
-    Eingabe(Control* control)
-        : feld(control)
-        , leer(control->Text().isEmpty()) {}
+    Eingabe(QLineEdit* box)
+        : feld(box)
+        , leer(box->text().isEmpty()) {}
+    Eingabe(QComboBox* list)
+        : feld(list)
+        , leer(list->currentText().isEmpty()) {}
     Eingabe(QWidget* control, bool empty)
         : feld(control)
         , leer(empty) {}

@@ -26,7 +26,7 @@ QString textOderLeer(const Recordset::Field& field) {
 }
 
 Date DatumAusText(const TextBox* box) {
-    const Value text(box->Text());
+    const Value text(box->text());
     return CDate(IsDate(text) ? text : Value(u"00:00:0000"_qs));
 }
 

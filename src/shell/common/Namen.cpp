@@ -79,7 +79,7 @@ QString ErmittleKategoName(qint32 number) {
 }
 
 std::optional<qint32> ermittleNummer(qint32 (*ermittle)(const QString&), ComboBox* name) {
-    const qint32 number = ermittle(name->Text());
+    const qint32 number = ermittle(name->currentText());
     if (number != 0 || session().FehlerZaehler != 0) return number;
     modRun::MeldeEingabeFehler(name);
     return std::nullopt;

@@ -18,7 +18,7 @@ Vergleich Vergleich::neu(const QString& list, const QString& box, const QString&
     return made;
 }
 
-bool Vergleich::isEmpty() const { return zeichen->Text().isEmpty() && wert->Text().isEmpty(); }
+bool Vergleich::isEmpty() const { return zeichen->currentText().isEmpty() && wert->text().isEmpty(); }
 
 void Vergleich::leere() const {
     zeichen->setListIndex(-1);

@@ -20,7 +20,7 @@ namespace modRun {
 
 void beginneBearbeitung(const ValueLabel* nummer, int row) {
     session().AktZeile = row;
-    if (nummer->Caption().isEmpty()) return beendeVorgang();
+    if (nummer->text().isEmpty()) return beendeVorgang();
     session().Modus = u"EDIT"_qs;
 }
 
@@ -45,7 +45,7 @@ void nimmOffenenWiederAuf(const Screen& screen) {
 
 int zeileVon(const DataTable* grid, const ValueLabel* nummer, int row) {
     int gefunden = 0;
-    return grid->find(0, gefunden, nummer->Caption()) < 0 ? row : gefunden;
+    return grid->find(0, gefunden, nummer->text()) < 0 ? row : gefunden;
 }
 
 } // namespace modRun

@@ -114,7 +114,7 @@ void Handbuch::schliesseSuche() {
 }
 
 void Handbuch::suche(QTextDocument::FindFlags richtung) {
-    const QString text = txtSuch->Text().simplified();
+    const QString text = txtSuch->text().simplified();
     lblFund->clear();
     if (text.isEmpty() || Seite->find(text, richtung)) return;
     const QUrl page = seiteMit(text, richtung);

@@ -21,8 +21,6 @@ ComboBox::ComboBox(const QString& name, Order order, Kind kind, QWidget* parent)
     connect(this, &QComboBox::activated, this, &ComboBox::Click);
 }
 
-void ComboBox::Clear() { clear(); }
-
 void ComboBox::AddItem(const QString& text) {
     InsertItem(m_order == Order::Sorted ? placeFor(text) : count(), text);
 }

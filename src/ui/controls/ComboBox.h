@@ -15,14 +15,10 @@ public:
     explicit ComboBox(const QString& name, Order order = Order::AsAdded, Kind kind = Kind::DropDownList,
                       QWidget* parent = nullptr);
 
-    int ListCount() const { return count(); }
-    int ListIndex() const { return currentIndex(); }
-    void Clear(); ///< emits no Click
     /// Adds at the end, or with Order::Sorted at its place in the German order, regardless of case. The
     /// selection stays.
     void AddItem(const QString& text);
     void InsertItem(int index, const QString& text);
-    QString Text() const { return currentText(); }
     /// Selects the entry of this text; an empty text selects none. Error 383 if a drop-down list has no such
     /// entry. An editable one takes any text.
     void setText(const QString& text);

@@ -25,11 +25,8 @@ class TextBox : public QLineEdit {
 public:
     explicit TextBox(const QString& name, QWidget* parent = nullptr);
 
-    QString Text() const { return text(); }
     /// Shows the beginning of a text that is too long for the box, unless the box has the focus.
     void setText(const QString& text);
-    /// Refuses characters beyond the limit.
-    void setLimit(int characters) { setMaxLength(characters); }
     void setKeyFilter(KeyFilter filter, Refused refused = Refused::Dropped);
     void setSelectAllOnFocus(bool on) { m_selectAllOnFocus = on; }
     /// Marks a text that is no date once the box is left. It stays as it is.

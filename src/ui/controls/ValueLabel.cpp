@@ -19,7 +19,3 @@ void ValueLabel::setNumeric() {
     const int digits = fontMetrics().horizontalAdvance(u"123456789"_qs);
     setMinimumWidth(digits + 2 * (frameWidth() + margin() + innerMargin));
 }
-
-void ValueLabel::setCaption(const QString& caption) {
-    if (caption != text()) setText(caption);
-}

@@ -11,8 +11,4 @@ public:
 
     /// For a count or a sum: at the right, with room for nine digits.
     void setNumeric();
-
-    QString Caption() const { return text(); }
-    /// Does nothing if the caption is the same, so it may be called while painting.
-    void setCaption(const QString& caption);
 };

@@ -162,7 +162,7 @@ TEST_F(ReportPreviewTest, ZoomGoesFromTheFittedSizeToTheNextLevel) {
     QTest::keyClick(view, Qt::Key_Plus);
     EXPECT_DOUBLE_EQ(view->shownPercent(), 200);
     QTest::keyClick(view, Qt::Key_Minus);
-    EXPECT_EQ(preview().cboZoom->Text(), u"150 %"_qs);
+    EXPECT_EQ(preview().cboZoom->currentText(), u"150 %"_qs);
 }
 
 TEST_F(ReportPreviewTest, PrintingAndSavingAskFirstAndTellWhatFailed) {

@@ -34,13 +34,13 @@ protected:
 
 TEST_F(ComboBoxTest, FillingSelectsNothingAndDoesNotClick) {
     combo.AddItem(u"Karpfen"_qs);
-    EXPECT_EQ(combo.ListIndex(), -1);
+    EXPECT_EQ(combo.currentIndex(), -1);
     combo.setListIndex(1);
     takeClicks();
     combo.InsertItem(0, u"Barsch"_qs);
-    EXPECT_EQ(combo.Text(), u"Zander"_qs);
-    combo.Clear();
-    EXPECT_EQ(combo.ListCount(), 0);
+    EXPECT_EQ(combo.currentText(), u"Zander"_qs);
+    combo.clear();
+    EXPECT_EQ(combo.count(), 0);
     EXPECT_EQ(takeClicks(), 0);
 }
 
@@ -50,9 +50,9 @@ TEST_F(ComboBoxTest, AChangeByProgramClicksOnce) {
     combo.setText(u"Zander"_qs);
     EXPECT_EQ(takeClicks(), 0) << "nothing has changed";
     combo.setText(u"aal"_qs);
-    EXPECT_EQ(combo.Text(), u"Aal"_qs) << "entries are found regardless of case";
+    EXPECT_EQ(combo.currentText(), u"Aal"_qs) << "entries are found regardless of case";
     combo.setText(QString());
-    EXPECT_EQ(combo.ListIndex(), -1);
+    EXPECT_EQ(combo.currentIndex(), -1);
     EXPECT_EQ(takeClicks(), 2);
 }
 
@@ -60,17 +60,17 @@ TEST_F(ComboBoxTest, AnUnknownTextOrIndexIsAnError) {
     combo.setListIndex(0);
     EXPECT_EQ(errorOf([&] { combo.setText(u"Wal"_qs); }), 383);
     EXPECT_EQ(errorOf([&] { combo.setListIndex(3); }), 380);
-    EXPECT_EQ(combo.Text(), u"Hecht"_qs);
+    EXPECT_EQ(combo.currentText(), u"Hecht"_qs);
 }
 
 TEST_F(ComboBoxTest, APickClicksOnceAlsoOfTheSameEntry) {
     pick(1);
-    EXPECT_EQ(combo.Text(), u"Zander"_qs);
+    EXPECT_EQ(combo.currentText(), u"Zander"_qs);
     EXPECT_EQ(takeClicks(), 1);
     pick(1);
     EXPECT_EQ(takeClicks(), 1);
     QTest::keyClick(&combo, Qt::Key_Down);
-    EXPECT_EQ(combo.Text(), u"Aal"_qs);
+    EXPECT_EQ(combo.currentText(), u"Aal"_qs);
     EXPECT_EQ(takeClicks(), 1);
 }
 
@@ -79,7 +79,7 @@ TEST_F(ComboBoxTest, ANameMayBeTypedSlowlyAndWithItsBlanks) {
     QTest::keyClicks(&combo, u"L"_qs);
     QTest::qWait(400); // Qt's own interval
     QTest::keyClicks(&combo, u"eise (U"_qs);
-    EXPECT_EQ(combo.Text(), u"Leise (Unterlauf)"_qs);
+    EXPECT_EQ(combo.currentText(), u"Leise (Unterlauf)"_qs);
     EXPECT_FALSE(combo.view()->isVisible());
     QApplication::setKeyboardInputInterval(0);
     QTest::qWait(1);
@@ -95,9 +95,9 @@ TEST_F(ComboBoxTest, SortedEntriesStandInGermanOrder) {
         if (name == u"Ohm") sorted.setText(name);
     }
     QStringList entries;
-    for (int i = 0; i < sorted.ListCount(); ++i) entries.append(sorted.itemText(i));
+    for (int i = 0; i < sorted.count(); ++i) entries.append(sorted.itemText(i));
     EXPECT_EQ(entries.join(u' '), u"apfel Äsche Ast öhe Ohm Zander"_qs);
-    EXPECT_EQ(sorted.Text(), u"Ohm"_qs);
+    EXPECT_EQ(sorted.currentText(), u"Ohm"_qs);
 }
 
 TEST_F(ComboBoxTest, TheWheelChangesItOnlyWithTheFocus) {
@@ -107,11 +107,11 @@ TEST_F(ComboBoxTest, TheWheelChangesItOnlyWithTheFocus) {
                      false);
     QApplication::setActiveWindow(nullptr);
     QApplication::sendEvent(&combo, &roll);
-    EXPECT_EQ(combo.ListIndex(), 0);
+    EXPECT_EQ(combo.currentIndex(), 0);
     QApplication::setActiveWindow(&combo);
     combo.setFocus();
     QApplication::sendEvent(&combo, &roll);
-    EXPECT_EQ(combo.ListIndex(), 1);
+    EXPECT_EQ(combo.currentIndex(), 1);
 }
 
 TEST_F(ComboBoxTest, ALongEntryWidensTheOpenListButNotTheScreen) {
@@ -128,8 +128,8 @@ TEST_F(ComboBoxTest, AnEditableOneTakesAnyText) {
     ComboBox free(u"cboFrei"_qs, ComboBox::Order::AsAdded, ComboBox::Kind::Editable);
     free.setText(u"Wal"_qs);
     free.AddItem(u"Hecht"_qs);
-    EXPECT_EQ(free.Text(), u"Wal"_qs);
-    EXPECT_EQ(free.ListCount(), 1);
+    EXPECT_EQ(free.currentText(), u"Wal"_qs);
+    EXPECT_EQ(free.count(), 1);
 }
 
 } // namespace

@@ -21,9 +21,9 @@ protected:
         column->addWidget(other);
         column->addWidget(memo);
         QObject::connect(box, &TextBox::KeyPress,
-                         [this](int code) { log += u"p%1:%2 "_qs.arg(code).arg(box->Text()); });
+                         [this](int code) { log += u"p%1:%2 "_qs.arg(code).arg(box->text()); });
         QObject::connect(box, &TextBox::KeyDone,
-                         [this](int code) { log += u"d%1:%2 "_qs.arg(code).arg(box->Text()); });
+                         [this](int code) { log += u"d%1:%2 "_qs.arg(code).arg(box->text()); });
         QObject::connect(box, &TextBox::GotFocus, [this] { focusLog += u"+box"_qs; });
         QObject::connect(box, &TextBox::LostFocus, [this] { focusLog += u"-box"_qs; });
         window.show();
@@ -58,7 +58,7 @@ TEST_F(TextBoxTest, KeysThatMakeNoCharacterAreNotToldAndNotFiltered) {
     QTest::keyClick(box, Qt::Key_Left);
     QTest::keyClick(box, Qt::Key_V, Qt::ControlModifier);
     QTest::keyClick(box, Qt::Key_Delete);
-    EXPECT_EQ(box->Text(), u"11"_qs) << "pasted between 1 and 2, and the last character deleted";
+    EXPECT_EQ(box->text(), u"11"_qs) << "pasted between 1 and 2, and the last character deleted";
     EXPECT_EQ(log, QString());
 }
 
@@ -68,22 +68,22 @@ TEST_F(TextBoxTest, UmlautsSignsAndComposedCharactersAreCharacters) {
     QInputMethodEvent composed;
     composed.setCommitString(u"é1"_qs);
     QApplication::sendEvent(box, &composed);
-    EXPECT_EQ(box->Text(), u"ä@é1"_qs);
+    EXPECT_EQ(box->text(), u"ä@é1"_qs);
     box->setKeyFilter(digitsOnly);
     QApplication::sendEvent(box, &composed);
-    EXPECT_EQ(box->Text(), u"ä@é11"_qs) << "the filter holds for them, too";
+    EXPECT_EQ(box->text(), u"ä@é11"_qs) << "the filter holds for them, too";
 }
 
 // All ways of pasting, and dropping, in turn: each replaces the whole text, or adds to it.
 TEST_F(TextBoxTest, WhatIsPastedOrDroppedPassesTheFilter) {
     box->setKeyFilter(digitsOnly);
-    box->setLimit(4);
+    box->setMaxLength(4);
     QApplication::clipboard()->setText(u"-1 OR 2=3\n"_qs);
     const auto pasted = [this](const std::function<void()>& way) {
         box->setText(u"7"_qs);
         box->selectAll();
         way();
-        return box->Text();
+        return box->text();
     };
     EXPECT_EQ(pasted([this] { QTest::keyClick(box, Qt::Key_V, Qt::ControlModifier); }), u"123"_qs);
     EXPECT_EQ(pasted([this] {
@@ -107,12 +107,12 @@ TEST_F(TextBoxTest, WhatIsPastedOrDroppedPassesTheFilter) {
     box->setKeyFilter(digitsOnly, Refused::Admitted);
     EXPECT_EQ(pasted([this] { QTest::keyClick(box, Qt::Key_V, Qt::ControlModifier); }), u"-1 O"_qs);
     box->setText(u"-5"_qs);
-    EXPECT_EQ(box->Text(), u"-5"_qs) << "what a routine puts in is its own affair";
+    EXPECT_EQ(box->text(), u"-5"_qs) << "what a routine puts in is its own affair";
 }
 
 TEST_F(TextBoxTest, ADateIsPastedAsAWholeOrNotAtAll) {
     box->setKeyFilter([](int code) { return code == '.' ? code : digitsOnly(code); }, Refused::WithTheWhole);
-    box->setLimit(10);
+    box->setMaxLength(10);
     const std::pair<QString, QString> cases[] = {{u" 01.02.2005\u00a0\r\n"_qs, u"01.02.2005"_qs},
                                                  {u"01.02.20051"_qs, u"9.9.1999"_qs},
                                                  {u"1.12.2005 10:30"_qs, u"9.9.1999"_qs},
@@ -122,7 +122,7 @@ TEST_F(TextBoxTest, ADateIsPastedAsAWholeOrNotAtAll) {
         box->selectAll();
         QApplication::clipboard()->setText(offered);
         QTest::keyClick(box, Qt::Key_V, Qt::ControlModifier);
-        EXPECT_EQ(box->Text(), stands) << offered.toStdString();
+        EXPECT_EQ(box->text(), stands) << offered.toStdString();
     }
 }
 

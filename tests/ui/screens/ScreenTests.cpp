@@ -127,7 +127,7 @@ TEST_F(ScreenTest, EachKeyIsSeenOnceBeforeTheControl) {
     EXPECT_EQ(form.keys, (QList<int>{Qt::Key_F3, Qt::Key_F3}));
     form.swallowed = Qt::Key_X;
     QTest::keyClicks(box, u"axb"_qs);
-    EXPECT_EQ(box->Text(), u"ab"_qs);
+    EXPECT_EQ(box->text(), u"ab"_qs);
     EXPECT_EQ(form.keys.mid(2), (QList<int>{Qt::Key_A, Qt::Key_X, Qt::Key_B}));
 
     form.keys.clear();
