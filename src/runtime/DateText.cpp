@@ -155,20 +155,30 @@ qsizetype timeStart(QStringView text) {
     return start;
 }
 
-/// Written digit by digit, since a list of thousands of birthdays would spend most of its time in Qt's
-/// parsing of the pattern.
+// Written digit by digit: a list of thousands of birthdays would spend most of its time in Qt's parsing of the
+// pattern.
+
+void putDigits(QString& text, int last, int digits, int number) {
+    QChar* place = text.data() + last;
+    for (; digits > 0; --digits, --place, number /= 10)
+        *place = QChar(static_cast<char16_t>(u'0' + number % 10));
+}
+
 QString shortForm(QDate date) {
     int year = 0, month = 0, day = 0;
     date.getDate(&year, &month, &day);
     QString text(10, u'.');
-    QChar* const signs = text.data();
-    const auto put = [signs](int last, int digits, int number) {
-        for (; digits > 0; --digits, --last, number /= 10)
-            signs[last] = QChar(static_cast<char16_t>(u'0' + number % 10));
-    };
-    put(1, 2, day);
-    put(4, 2, month);
-    put(9, 4, year);
+    putDigits(text, 1, 2, day);
+    putDigits(text, 4, 2, month);
+    putDigits(text, 9, 4, year);
+    return text;
+}
+
+QString shortForm(QTime time) {
+    QString text(8, u':');
+    putDigits(text, 1, 2, time.hour());
+    putDigits(text, 4, 2, time.minute());
+    putDigits(text, 7, 2, time.second());
     return text;
 }
 
@@ -181,9 +191,9 @@ QString dateText(Date date) {
     const QTime time = hasTime ? date.toQTime() : QTime(0, 0);
 
     static const QDate ofTheEmptyDate = Date().toQDate();
-    if (day == ofTheEmptyDate) return time.toString(u"hh:mm:ss");
+    if (day == ofTheEmptyDate) return shortForm(time);
     const QString dayText = shortForm(day);
-    return time == QTime(0, 0) ? dayText : dayText + u' ' + time.toString(u"hh:mm:ss");
+    return time == QTime(0, 0) ? dayText : dayText + u' ' + shortForm(time);
 }
 
 std::optional<Date> dateFromText(QStringView text) {

@@ -6,6 +6,7 @@
 #include "NumberText.h"
 #include "RuntimeError.h"
 
+#include <QHash>
 #include <cmath>
 #include <optional>
 
@@ -28,6 +29,14 @@ bool isForDates(QStringView pattern) {
 
 std::optional<double> finite(std::optional<double> number) {
     return number && std::isfinite(*number) ? number : std::nullopt;
+}
+
+/// Parsed once: lists show thousands of numbers in the same pattern.
+const NumberPattern& patternOf(const QString& pattern) {
+    static QHash<QString, NumberPattern> known;
+    auto place = known.find(pattern);
+    if (place == known.end()) place = known.insert(pattern, NumberPattern(pattern));
+    return *place;
 }
 
 /// A text such as "1.2" is both date and number: `preferDate` decides. Empty if it is neither.
@@ -78,7 +87,7 @@ QString Format(const Value& value, const QString& pattern) {
     const bool forDates = isForDates(pattern);
     const auto number = isText ? numberIn(value.text(), forDates) : std::optional(CDbl(value));
     if (!number) return value.text();
-    if (!forDates) return NumberPattern(pattern).textOf(*number);
+    if (!forDates) return patternOf(pattern).textOf(*number);
 
     const QDate day = Date{*number}.toQDate();
     if (day.isValid()) return dateInPattern(day, pattern);

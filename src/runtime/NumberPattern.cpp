@@ -3,6 +3,7 @@
 #include "DecimalDigits.h"
 #include "NumberText.h"
 
+#include <QVarLengthArray>
 #include <algorithm>
 #include <cmath>
 
@@ -72,9 +73,9 @@ QString NumberPattern::textOf(double number) const {
 
     DecimalDigits digits(number);
     digits.roundTo(m_maxDecimals);
-    QString text = digits.isNegative() ? u'-' + m_prefix : m_prefix;
-    constexpr qsizetype most = 24; // enough for nearly all numbers
-    text.reserve(text.size() + most + m_suffix.size());
+    QVarLengthArray<QChar, 24> text; // room for nearly all numbers
+    if (digits.isNegative()) text += u'-';
+    text.append(m_prefix.constData(), m_prefix.size());
     for (int place = std::max(digits.integerDigits(), m_minIntegerDigits) - 1; place >= 0; --place) {
         text += QLatin1Char(digits.digitAt(place));
         if (m_isGrouped && place > 0 && place % 3 == 0) text += u'.';
@@ -82,5 +83,6 @@ QString NumberPattern::textOf(double number) const {
     if (m_hasComma) text += u',';
     for (int place = 1; place <= std::max(digits.decimals(), m_minDecimals); ++place)
         text += QLatin1Char(digits.digitAt(-place));
-    return text + m_suffix;
+    text.append(m_suffix.constData(), m_suffix.size());
+    return QString(text.constData(), text.size());
 }

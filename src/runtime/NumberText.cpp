@@ -2,11 +2,11 @@
 
 #include "DecimalDigits.h"
 
-#include <QByteArray>
 #include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <string>
 
 namespace {
 
@@ -57,17 +57,18 @@ public:
         takeCurrency();
         return m_rest.isEmpty();
     }
-    const QByteArray& plain() const { return m_plain; }
+    const std::string& plain() const { return m_plain; }
 
 private:
     bool takeAny(QStringView signs) {
-        if (m_rest.isEmpty() || !signs.contains(m_rest.front())) return false;
+        if (m_rest.isEmpty() || std::ranges::find(signs, m_rest.front()) == signs.end()) return false;
         m_rest = m_rest.sliced(1);
         return true;
     }
 
     /// Once, with the blanks around it.
     void takeCurrency() {
+        if (m_rest.isEmpty() || isDigit(m_rest.front())) return;
         const QStringView rest = m_rest.trimmed();
         if (m_hasCurrency || !rest.startsWith(u'€')) return;
         m_hasCurrency = true;
@@ -108,25 +109,26 @@ private:
 
     QStringView m_rest;
     bool m_hasCurrency = false;
-    QByteArray m_plain;
+    std::string m_plain; ///< short ones need no memory of their own
 };
 
 /// For a number that is either far too large or far too small for a double.
-bool isTooSmall(const QByteArray& plain) {
-    const auto mantissaEnd = plain.contains('e') ? plain.indexOf('e') : plain.size();
-    const auto point = plain.contains('.') ? plain.indexOf('.') : mantissaEnd;
-    const auto* first = std::find_if(plain.begin(), plain.end(), [](char sign) { return sign > '0'; });
-    const char* exponentText = plain.begin() + std::min(mantissaEnd + 1, plain.size());
+bool isTooSmall(const std::string& plain) {
+    const auto mantissaEnd = std::min(plain.find('e'), plain.size());
+    const auto point = std::min(plain.find('.'), mantissaEnd);
+    const auto first = std::ranges::find_if(plain, [](char sign) { return sign > '0'; });
+    const char* end = plain.data() + plain.size();
+    const char* exponentText = plain.data() + std::min(mantissaEnd + 1, plain.size());
 
     qint64 exponent = 0;
-    const auto read = std::from_chars(exponentText, plain.end(), exponent);
+    const auto read = std::from_chars(exponentText, end, exponent);
     if (read.ec == std::errc::result_out_of_range) return *exponentText == '-';
-    return exponent < first - plain.begin() - point;
+    return exponent < first - plain.begin() - static_cast<qint64>(point);
 }
 
-double valueOf(const QByteArray& plain) {
+double valueOf(const std::string& plain) {
     double value = 0;
-    const auto read = std::from_chars(plain.begin(), plain.end(), value);
+    const auto read = std::from_chars(plain.data(), plain.data() + plain.size(), value);
     if (read.ec != std::errc::result_out_of_range) return value;
     return isTooSmall(plain) ? 0 : std::numeric_limits<double>::infinity();
 }
