@@ -19,6 +19,7 @@ bool commitsFail = false;
 bool isCommitting = false;
 bool isReadOnly = false;
 qint64 brokenPlace = -1;
+int journalsRemoved = 0;
 
 bool isJournal(int file) {
     std::array<char, PATH_MAX> name{};
@@ -54,6 +55,11 @@ int openAsAllowed(const char* path, int flags, int mode) {
     return -1;
 }
 
+int removeCounted(const char* path) {
+    if (std::string_view(path).ends_with("-journal")) ++journalsRemoved;
+    return ::unlink(path);
+}
+
 template<typename Function>
 void replaceCall(const char* name, Function* function) {
     sqlite3_vfs* files = sqlite3_vfs_find(nullptr);
@@ -85,3 +91,7 @@ void forbidWriting(bool forbidden) {
     isReadOnly = forbidden;
     replaceCall("open", &openAsAllowed);
 }
+
+int takeCommits() { return std::exchange(journalsRemoved, 0); }
+
+void countCommits() { replaceCall("unlink", &removeCounted); }

@@ -12,5 +12,9 @@ void fillDiskAtCommits();
 void emptyDisk();
 /// From here on reads of the byte at this place of any file fail; at -1 none.
 void failReadsAt(qint64 place);
+/// How many write transactions have ended since the last call, by the journals that were removed.
+int takeCommits();
+void countCommits();
+
 /// Whether files that are opened from here on may not be written to. The tests' user may write everywhere.
 void forbidWriting(bool forbidden);

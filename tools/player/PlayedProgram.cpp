@@ -1,6 +1,7 @@
 #include "PlayedProgram.h"
 
 #include "CommandFailure.h"
+#include "FullDisk.h"
 #include "Hand.h"
 #include "Program.h"
 #include "ProgramFolder.h"
@@ -72,6 +73,7 @@ void PlayedProgram::start() {
     if (isRunning()) throw CommandFailure{u"the program is running already"_qs};
     m_program.reset();
     m_program = std::make_unique<Program>(folder());
+    countCommits();
     m_program->start();
     Hand::settle();
 }

@@ -2,6 +2,7 @@
 
 #include "LineText.h"
 
+#include <QRegularExpression>
 #include <utility>
 
 namespace {
@@ -35,6 +36,16 @@ MsgBoxResult RecordedBoxes::answer(const QString& box) {
     if (!m_answers.isEmpty()) return m_answers.takeFirst();
     m_unanswered.append(box);
     return vbNo;
+}
+
+QStringList RecordedBoxes::takeKinds() {
+    static const QRegularExpression error(u"^[^·]*· Runtime - Error: (\\d+) ·"_qs);
+    QStringList kinds;
+    for (const QString& box : take()) {
+        const auto match = error.match(box);
+        kinds += match.hasMatch() ? match.captured(1) : box.section(u' ', 0, 0);
+    }
+    return kinds;
 }
 
 QStringList RecordedBoxes::take() { return std::exchange(m_boxes, {}); }

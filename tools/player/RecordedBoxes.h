@@ -14,6 +14,8 @@ public:
 
     /// The boxes since the last call, a line each.
     QStringList take();
+    /// As above, each box by its kind or, where its title names an error, by the error's number.
+    QStringList takeKinds();
     /// The questions since the last call for which no answer was queued; they were answered no.
     QStringList takeUnanswered();
 
