@@ -9,19 +9,11 @@ class Connection;
 
 /// A key of plain bytes: with a password, the tests would spend most of their time on deriving the key.
 QString rawKey();
+
 /// The first cell of a statement's result.
 QString answer(cursors::Connection& file, const QByteArray& select);
 
 enum class End { Done, Failed, Killed };
-
 /// Runs `work` in a process of its own. It returns whether it succeeded.
 End inOwnProcess(const std::function<bool()>& work);
 void killThisProcess();
-
-/// Prepares a process to be killed; a PreparedRun calls it first.
-using Preparation = std::function<void()>;
-using PreparedRun = std::function<End(const Preparation&)>;
-
-/// Repeats a run and kills it at each call by which SQLite changes a file, before the call and within it.
-/// Calls `look` after each. Returns the number of runs.
-int killAtEachFileCall(const PreparedRun& run, const std::function<void()>& look);

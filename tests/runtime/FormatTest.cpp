@@ -72,23 +72,4 @@ TEST(Format, ConvertsTextThatIsANumberOrADate) {
     });
 }
 
-TEST(Format, LeavesTextOfAnyLengthAndKindAlone) {
-    for (const auto* piece : {"9", "x", "1,", "\U0001F41F", "\\", "#"}) {
-        const QString text = QString::fromUtf8(piece).repeated(50'000);
-        EXPECT_EQ(Format(text, QStringLiteral("###0.00")), text);
-        EXPECT_EQ(Format(text, QStringLiteral("dd.MM.yyyy")), text);
-    }
-}
-
-TEST(Format, TakesAnyPattern) {
-    expectTexts({
-        {1.5, "\\", "\\"},
-        {1.5, "\U0001F41F 0", "\xF0\x9F\x90\x9F 2"},
-        {1.5, ",.,", "2,"},
-        {1.5, ".00", "1,50"},
-    });
-    const QString places(400, u'0');
-    EXPECT_EQ(Format(1, places + u'.' + places).size(), 801);
-}
-
 } // namespace

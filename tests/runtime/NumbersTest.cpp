@@ -70,14 +70,6 @@ TEST(Numbers, AreRoundedHalfToEvenWithinTheirRange) {
     EXPECT_EQ(CInt(-32768.5), -32768);
 }
 
-TEST(Numbers, BeyondTheirRangeAreOverflows) {
-    for (const Value& value : {Value(2147483647.5), Value(-2147483649.0), Value(1e300), Value(infinity),
-                               Value(nan), Value(u"2147483648")})
-        EXPECT_EQ(errorOf([&] { CLng(value); }), 6);
-    for (const Value& value : {Value(32767.5), Value(-32769), Value(u"32768")})
-        EXPECT_EQ(errorOf([&] { CInt(value); }), 6);
-}
-
 TEST(Numbers, AreWrittenShortWithAComma) {
     const struct {
         Value value;

@@ -60,12 +60,3 @@ TEST(DemoClub, IsOfTheSizeOfARealClubAndAllInItFitsTogether) {
         EXPECT_TRUE(row.least <= found && found <= row.most) << row.what.constData() << ": " << found;
     }
 }
-
-TEST(DemoClub, IsTheSameEachTime) {
-    const QByteArray contacts =
-        "SELECT group_concat(KNr || coalesce(Nachname, '') || coalesce(Vorname, '') || "
-        "coalesce(Mobil, '') || GebDatum || coalesce(KontoNr, '')) FROM Kontakt";
-    const QString once = DemoFolder().answer(contacts);
-    EXPECT_GT(once.size(), 1000);
-    EXPECT_EQ(once, DemoFolder().answer(contacts));
-}

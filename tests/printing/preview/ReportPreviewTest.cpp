@@ -149,22 +149,6 @@ TEST_F(ReportPreviewTest, PagesTurnByKeysButtonsAndTheirNumber) {
     EXPECT_EQ(enter(u"0"_qs), u"3 von 3"_qs);
 }
 
-TEST_F(ReportPreviewTest, ZoomGoesFromTheFittedSizeToTheNextLevel) {
-    open(5);
-    settle();
-    ReportPageView* view = preview().pageView;
-    const double fitted = view->shownPercent();
-    QTest::keyClick(view, Qt::Key_Plus);
-    EXPECT_GT(view->shownPercent(), fitted);
-    preview().cboZoom->setText(u"ganze Seite"_qs);
-    EXPECT_LT(view->shownPercent(), 75);
-    preview().cboZoom->setText(u"200 %"_qs);
-    QTest::keyClick(view, Qt::Key_Plus);
-    EXPECT_DOUBLE_EQ(view->shownPercent(), 200);
-    QTest::keyClick(view, Qt::Key_Minus);
-    EXPECT_EQ(preview().cboZoom->currentText(), u"150 %"_qs);
-}
-
 TEST_F(ReportPreviewTest, PrintingAndSavingAskFirstAndTellWhatFailed) {
     QTemporaryDir folder;
     open(25);
@@ -224,7 +208,5 @@ TEST(QtPrintDialogsTest, TheNextPdfIsProposedInTheFolderOfTheLast) {
     EXPECT_EQ(ask({}), QString());
     EXPECT_EQ(proposedIn, folder.path());
 }
-
-TEST(QtPrintDialogsTest, ThePdfFileCountsAsAPrinter) { EXPECT_GE(QtPrintDialogs().printerCount(), 1); }
 
 } // namespace

@@ -35,15 +35,6 @@ TEST_F(ReportDocumentTest, ControlsAreFoundWithoutRegardToCaseAndUnknownNamesAre
     EXPECT_EQ(errorOf([&] { report.control(u"Section1"_qs, u"Text1"_qs).setCaption(u"Nr"_qs); }), 438);
 }
 
-TEST_F(ReportDocumentTest, AFieldThatTheDataLackOrThatHasNoNumbersToAddUpIsAnError) {
-    report.bindRows(3);
-    report.control(u"Section1"_qs, u"Text1"_qs).setDataField(u"Monat"_qs);
-    EXPECT_EQ(errorOf([&] { report.document(); }), 3265);
-    report.control(u"Section1"_qs, u"Text1"_qs).setDataField({});
-    report.control(u"Section5"_qs, u"SumGewicht"_qs).setDataField(u"Gewässer"_qs);
-    EXPECT_EQ(errorOf([&] { report.document(); }), 13);
-}
-
 TEST_F(ReportDocumentTest, ValuesOfEveryKindStandInTheirFormat) {
     struct Case {
         Value value;
@@ -83,24 +74,6 @@ TEST_F(ReportDocumentTest, OnlyTheLabelMadeForItHasPageNumbers) {
     EXPECT_EQ(document->text(ReportDocument::PageHeader, 0, {1, today()}), u"50 %p, 20 %d"_qs);
     EXPECT_EQ(document->text(ReportDocument::PageFooter, 0, {1, today()}),
               u"Seite 2 von 3 (gedruckt am 14.03.2026)"_qs);
-}
-
-TEST_F(ReportDocumentTest, WhatWasTakenOutStaysAsItWas) {
-    report.bindRows(2);
-    const auto before = report.document();
-    const QStringList said = reportAsText(*before);
-    report.control(u"Section2"_qs, u"lblOrt"_qs).setCaption(u"Köpenick"_qs);
-    report.bindRows(30);
-    EXPECT_EQ(reportAsText(*before), said);
-    EXPECT_EQ(report.document()->rowCount(), 30);
-}
-
-TEST(ReportRowsTest, AHundredThousandRowsStayLight) {
-    RowList source(100000);
-    const ReportRows rows(source);
-    EXPECT_EQ(rows.value(99999, 0), Value(100000));
-    EXPECT_EQ(rows.value(99999, 1), Value(u"Großer See"));
-    EXPECT_LT(rows.memoryInUse(), std::size_t(3 * 100000 * 10)) << "bytes for three cells a row";
 }
 
 } // namespace

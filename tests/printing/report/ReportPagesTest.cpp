@@ -107,14 +107,6 @@ TEST(ReportPainterTest, NoTextLeavesItsPlaceWhateverItsAlignment) {
     }
 }
 
-TEST(ReportPainterTest, AWrappedLabelTakesTheLinesItHasRoomFor) {
-    const QImage picture = pictureOf(u"Alle, die im Herbst geholfen haben. "_qs.repeated(9), {0, 0, 500, 130},
-                                     [](ReportControl& label) { label.wrapped(); });
-    EXPECT_TRUE(hasInk(picture, {0, 80, 500, 40})) << "the third line";
-    EXPECT_FALSE(hasInk(picture, {0, 130, 500, 200}));
-    EXPECT_FALSE(hasInk(picture, {500, 0, 500, 200}));
-}
-
 TEST(ReportPainterTest, NumbersEndOnOneEdgeAndRulesAreOfOneBreadthAtAnyScale) {
     SampleReport report;
     report.bindRows(11);

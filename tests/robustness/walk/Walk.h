@@ -1,6 +1,5 @@
 #pragma once
 
-#include "KeptGrids.h"
 #include "Player.h"
 #include "RandomUser.h"
 
@@ -23,21 +22,15 @@ protected:
     void reportLeftovers() override {}
 
 private:
-    QString nextLine();
-    bool canCompare() const;
-    void planComparison();
-    void compare();
-    bool lookAtBoxes(const QString& screen);
+    void lookAtBoxes(const QString& screen);
     void lookAtFile();
     void find(const QString& what);
     void write(const QString& line);
 
     RandomUser m_user;
-    KeptGrids m_grids;
     QFile& m_trace;
     int m_steps;
     int m_step = 0;
-    int m_compared = 0; ///< the step at which the grids were last compared
     QStringList m_planned;
     QStringList m_findings;
 };

@@ -20,20 +20,6 @@ TEST_F(StatementCacheTest, PreparesStatementsThatDifferInLiteralsOnlyOnce) {
     EXPECT_EQ(preparedStatements(), once);
 }
 
-TEST_F(StatementCacheTest, KeepsKindsOfLiteralsApart) {
-    EXPECT_EQ(errorOf([&] { rows(u"SELECT FNr FROM Fisch WHERE FNr = '1'"_qs); }), 3464);
-    EXPECT_EQ(rows(u"SELECT FNr FROM Fisch WHERE FNr = 2.0"_qs), u"2");
-}
-
-TEST_F(StatementCacheTest, GivesEachUserOfAStatementHisOwn) {
-    const QString all = u"SELECT FNr FROM Fisch WHERE FNr > 1"_qs;
-    Recordset outer = query(all);
-    Recordset inner = query(all);
-    inner.MoveNext();
-    EXPECT_EQ(outer.Fields(u"FNr"_qs).Value(), Value(2));
-    EXPECT_EQ(inner.Fields(u"FNr"_qs).Value(), Value(3));
-}
-
 TEST_F(StatementCacheTest, StaysBoundedHoweverManyStatementsThereAre) {
     const auto statement = [](int number) {
         return u"SELECT f%1.FNr FROM Fisch f%1 WHERE f%1.FNr = 1"_qs.arg(number);

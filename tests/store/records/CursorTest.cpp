@@ -103,61 +103,6 @@ TEST_F(CursorTest, TouchesNoRowAfterASearchThatFailed) {
     EXPECT_EQ(unordered.RecordCount(), 4);
 }
 
-TEST_F(CursorTest, IsAtItsEndAfterAMoveThatFailed) {
-    for (const bool isTable : {true, false})
-        for (const auto move : {&Recordset::MoveNext, &Recordset::MoveFirst, &Recordset::MoveLast}) {
-            Recordset running = query(u"SELECT * FROM Kontakt"_qs);
-            Recordset fish = cursor(isTable);
-            fish.MoveNext();
-            interrupt();
-            EXPECT_EQ(errorOf([&] { (fish.*move)(); }), 3000);
-            EXPECT_TRUE(fish.Eof());
-            EXPECT_EQ(errorOf([&] { fish.MoveNext(); }), 3021);
-            EXPECT_EQ(errorOf([&] { number(fish, u"FNr"); }), 3021);
-            EXPECT_EQ(errorOf([&] { fish.Delete(); }), 3021);
-            running.Close();
-            fish.MoveLast();
-            EXPECT_EQ(number(fish, u"FNr"), 4);
-            EXPECT_EQ(fish.RecordCount(), 4);
-            fish.MoveFirst();
-            EXPECT_EQ(number(fish, u"FNr"), 1);
-        }
-}
-
-TEST_F(CursorTest, DoesNotSearchAgainForALastRowThatItFailedToRead) {
-    Recordset running = query(u"SELECT * FROM Kontakt"_qs);
-    Recordset fish = cursor(false);
-    fish.MoveLast();
-    interrupt();
-    EXPECT_EQ(errorOf([&] { number(fish, u"FNr"); }), 3000);
-    EXPECT_EQ(errorOf([&] { number(fish, u"FNr"); }), 3021);
-    EXPECT_TRUE(fish.Eof());
-    running.Close();
-
-    fish.MoveLast();
-    for (Recordset gone : {seek(u"Fisch", 4), seek(u"Fisch", 3)}) {
-        gone.Delete();
-        gone.Close();
-    }
-    EXPECT_EQ(errorOf([&] { number(fish, u"FNr"); }), 3021);
-    EXPECT_EQ(place(fish), u"2 -1 eof");
-    fish.MoveLast();
-    EXPECT_EQ(number(fish, u"FNr"), 2);
-}
-
-TEST_F(CursorTest, ReachesEachRowOnceThoughItsPlaceInTheIndexMoves) {
-    Recordset work = query(u"SELECT * FROM Arbeit WHERE Jahr >= 2000"_qs);
-    int changed = 0;
-    for (; !work.Eof() && changed < 100; work.MoveNext(), ++changed) {
-        work.Edit();
-        work.Collect(u"Jahr"_qs, number(work, u"Jahr") + 10);
-        work.Update();
-    }
-    EXPECT_EQ(changed, 4);
-    work.Close();
-    EXPECT_EQ(walk(u"SELECT Jahr FROM Arbeit"_qs, u"Jahr"), u"2015 2015 2015 2014");
-}
-
 TEST_F(CursorTest, HasNoRowAfterADeletionUntilItMoves) {
     for (const bool isTable : {true, false}) {
         Recordset fish = cursor(isTable);
@@ -173,37 +118,4 @@ TEST_F(CursorTest, HasNoRowAfterADeletionUntilItMoves) {
     Recordset rest = table(u"Fisch");
     for (; !rest.Eof(); rest.MoveNext()) rest.Delete();
     EXPECT_EQ(place(table(u"Fisch")), u"0 -1 bof eof");
-}
-
-TEST_F(CursorTest, GoesOnAmongTheRestAfterItDeletedItsFirstRows) {
-    Recordset fish = cursor(false);
-    fish.Delete();
-    EXPECT_EQ(fish.RecordCount(), 1) << "0 would say that nothing is left";
-    fish.MoveFirst();
-    EXPECT_EQ(number(fish, u"FNr"), 2);
-    fish.Delete();
-    fish.MoveLast();
-    EXPECT_EQ(place(fish), u"2 1");
-    EXPECT_EQ(number(fish, u"FNr"), 4);
-    for (fish.MoveFirst(); !fish.Eof(); fish.MoveNext()) fish.Delete();
-    EXPECT_EQ(errorOf([&] { fish.MoveFirst(); }), 3021);
-    EXPECT_EQ(place(fish), u"0 -1 bof eof");
-}
-
-TEST_F(CursorTest, IsOverOnceClosed) {
-    Recordset fish = table(u"Fisch");
-    const Recordset::Field name = fish.Fields(u"FName"_qs);
-    fish.Close();
-    EXPECT_EQ(errorOf([&] { name.Value(); }), 91);
-    EXPECT_EQ(errorOf([&] { fish.Close(); }), 91);
-    EXPECT_EQ(errorOf([&] { fish.Eof(); }), 91);
-    EXPECT_EQ(errorOf([&] { Recordset().MoveFirst(); }), 91);
-    EXPECT_EQ(errorOf([&] { Database().OpenRecordset(u"Fisch"_qs, dbOpenTable); }), 91);
-
-    Recordset open = query(u"SELECT * FROM Fisch"_qs);
-    Database copy = database;
-    database.Close();
-    EXPECT_EQ(errorOf([&] { open.MoveNext(); }), 91);
-    EXPECT_EQ(errorOf([&] { query(u"SELECT * FROM Fisch"_qs); }), 91);
-    EXPECT_EQ(errorOf([&] { copy.Close(); }), 91);
 }

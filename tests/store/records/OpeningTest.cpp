@@ -62,11 +62,6 @@ TEST_F(OpeningTest, TakesAFileThatWasCutShortForDamaged) {
     }
 }
 
-TEST_F(OpeningTest, TakesAFileWithoutOurTablesForDamaged) {
-    execute("DROP TABLE Fang");
-    EXPECT_EQ(errorOfOpening(path()), 3343);
-}
-
 TEST_F(OpeningTest, LeavesAnInterruptedFileAndItsJournalAloneWhenItFails) {
     const QString copy = interruptedCopy();
     const QString journal = copy + u"-journal"_qs;
@@ -82,15 +77,6 @@ TEST_F(OpeningTest, LeavesAnInterruptedFileAndItsJournalAloneWhenItFails) {
     EXPECT_EQ(errorOfOpening(copy), 0) << "though its first page was torn apart";
     EXPECT_EQ(contentOf(copy), contentOf(path()));
     EXPECT_FALSE(QFile::exists(journal));
-}
-
-TEST_F(OpeningTest, LeavesTheJournalOfAnEmptyFileAlone) {
-    const QString copy = interruptedCopy();
-    ASSERT_TRUE(QFile::resize(copy, 0));
-    const QByteArray rest = contentOf(copy + u"-journal"_qs);
-    EXPECT_EQ(errorOfOpening(copy), 3343);
-    EXPECT_EQ(contentOf(copy), QByteArray());
-    EXPECT_EQ(contentOf(copy + u"-journal"_qs), rest);
 }
 
 TEST_F(OpeningTest, TakesAFileBackFromTheModeOfAnotherTool) {

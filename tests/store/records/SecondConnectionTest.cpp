@@ -36,20 +36,3 @@ TEST_F(SecondConnectionTest, ReachesTheFileAtTheCloseWhileTheProgramKeepsAShortR
     staging.Close();
     EXPECT_EQ(staged(), u"");
 }
-
-TEST_F(SecondConnectionTest, ReportsAndTakesBackWhatTheProgramsOwnLocksKeepOut) {
-    Recordset walking = query(u"SELECT * FROM Kontakt"_qs);
-    Recordset rows = stage(5);
-    EXPECT_EQ(errorOf([&] { rows.Close(); }), 3260) << "a walk still reads the file";
-    walking.Close();
-    EXPECT_EQ(staged(), u"");
-
-    Recordset writing = seek(u"Fisch", 1);
-    writing.Delete();
-    EXPECT_EQ(errorOf([&] { stage(6); }), 3260) << "an action still writes";
-    writing.Close();
-    stage(7).Close();
-    EXPECT_EQ(staged(), u"7");
-    EXPECT_EQ(errorOf([&] { staging.Close(); }), 0);
-    EXPECT_EQ(errorOf([&] { staging.Close(); }), 91);
-}

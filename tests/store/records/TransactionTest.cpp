@@ -67,35 +67,6 @@ TEST_F(TransactionTest, FlushesTheFolderBehindTheRemovalOfTheJournal) {
     files->xSetSystemCall(files, nullptr, nullptr);
 }
 
-TEST_F(TransactionTest, KeepsWhatWasWrittenBeforeAnError) {
-    Recordset members = table(u"Mitglied");
-    members.Delete();
-    members.AddNew();
-    members.Collect(u"KNr"_qs, 2);
-    EXPECT_EQ(errorOf([&] { members.Update(); }), 3022);
-    members.Close();
-    EXPECT_EQ(rowsInFile(u"SELECT KNr FROM Mitglied"_qs), u"2;4");
-}
-
-TEST_F(TransactionTest, TakesBackAHalfWrittenFileOfAnySize) {
-    const pid_t child = fork();
-    if (child == 0) {
-        Recordset fish = Database(connectTo(path())).OpenRecordset(u"Fisch"_qs, dbOpenTable);
-        // More than the cache takes, so that SQLite writes pages before the commit and the file grows.
-        for (int i = 0; i < 40; ++i) {
-            fish.AddNew();
-            fish.Collect(u"Notiz"_qs, QString(1'000'000, u'x'));
-            fish.Update();
-        }
-        ::kill(getpid(), SIGKILL);
-    }
-    waitpid(child, nullptr, 0);
-    ASSERT_GT(QFileInfo(path() + u"-journal"_qs).size(), 0);
-    connection->close();
-    EXPECT_EQ(truncate(path().toUtf8().constData(), QFileInfo(path()).size() - 100), 0);
-    EXPECT_EQ(namesInFile(), unchanged);
-}
-
 TEST_F(TransactionTest, LetsOthersWriteWhileAResultThatIsReadToItsEndStaysOpen) {
     const QStringList results{u"SELECT COUNT(FNr) FROM Fisch"_qs, u"SELECT * FROM Fisch WHERE FNr = 1"_qs,
                               u"SELECT fa.FangNr, fi.FName FROM Fang fa, Fisch fi WHERE fa.FischNr = fi.FNr "
@@ -187,23 +158,4 @@ TEST_F(HeldTransactionTest, TakesBackWhatEndsWithoutACommit) {
     EXPECT_EQ(errorOf([&] { stillOpen.Close(); }), 0);
     fishOfAal().Close();
     EXPECT_EQ(namesInFile(), u"Aal;Zander;Äsche;Barsch");
-}
-
-TEST_F(HeldTransactionTest, EndsWithItsDatabase) {
-    const Transaction action(workspace);
-    fishOfAal().Close();
-    held.Close();
-    EXPECT_EQ(namesInFile(), unchanged);
-}
-
-TEST_F(HeldTransactionTest, RefusesWhatHasNoBeginningOrNoRoom) {
-    EXPECT_EQ(errorOf([&] { workspace.CommitTrans(); }), 3034);
-    EXPECT_EQ(errorOf([&] { workspace.Rollback(); }), 3034);
-    const auto other = connectTo(path());
-    other->execute("BEGIN IMMEDIATE");
-    EXPECT_EQ(errorOf([&] { workspace.BeginTrans(); }), 3260);
-    other->execute("ROLLBACK");
-    const Transaction action(workspace);
-    EXPECT_EQ(errorOf([&] { workspace.BeginTrans(); }), 3251);
-    EXPECT_EQ(errorOf([] { Workspace().BeginTrans(); }), 91);
 }

@@ -63,17 +63,6 @@ TEST_F(ComboBoxTest, AnUnknownTextOrIndexIsAnError) {
     EXPECT_EQ(combo.currentText(), u"Hecht"_qs);
 }
 
-TEST_F(ComboBoxTest, APickClicksOnceAlsoOfTheSameEntry) {
-    pick(1);
-    EXPECT_EQ(combo.currentText(), u"Zander"_qs);
-    EXPECT_EQ(takeClicks(), 1);
-    pick(1);
-    EXPECT_EQ(takeClicks(), 1);
-    QTest::keyClick(&combo, Qt::Key_Down);
-    EXPECT_EQ(combo.currentText(), u"Aal"_qs);
-    EXPECT_EQ(takeClicks(), 1);
-}
-
 TEST_F(ComboBoxTest, ANameMayBeTypedSlowlyAndWithItsBlanks) {
     for (const QString& water : {u"Leise (Oberlauf)"_qs, u"Leise (Unterlauf)"_qs}) combo.AddItem(water);
     QTest::keyClicks(&combo, u"L"_qs);
@@ -112,24 +101,6 @@ TEST_F(ComboBoxTest, TheWheelChangesItOnlyWithTheFocus) {
     combo.setFocus();
     QApplication::sendEvent(&combo, &roll);
     EXPECT_EQ(combo.currentIndex(), 1);
-}
-
-TEST_F(ComboBoxTest, ALongEntryWidensTheOpenListButNotTheScreen) {
-    constexpr int room = 250;
-    combo.AddItem(QString(60, u'W'));
-    EXPECT_LT(combo.sizeHint().width(), room);
-    EXPECT_LT(combo.minimumSizeHint().width(), room);
-    combo.resize(combo.sizeHint());
-    combo.showPopup();
-    EXPECT_GT(combo.view()->width(), combo.fontMetrics().horizontalAdvance(combo.itemText(3)));
-}
-
-TEST_F(ComboBoxTest, AnEditableOneTakesAnyText) {
-    ComboBox free(u"cboFrei"_qs, ComboBox::Order::AsAdded, ComboBox::Kind::Editable);
-    free.setText(u"Wal"_qs);
-    free.AddItem(u"Hecht"_qs);
-    EXPECT_EQ(free.currentText(), u"Wal"_qs);
-    EXPECT_EQ(free.count(), 1);
 }
 
 } // namespace

@@ -49,19 +49,6 @@ TEST_F(TextBoxTest, AKeyIsToldThenFilteredThenItWorks) {
     EXPECT_EQ(log, u"p8:12 d8:1 p13:1 d13:1 "_qs);
 }
 
-TEST_F(TextBoxTest, KeysThatMakeNoCharacterAreNotToldAndNotFiltered) {
-    box->setKeyFilter([](int code) { return code == '1' ? code : 0; });
-    box->setText(u"12"_qs);
-    box->selectAll();
-    QTest::keyClick(box, Qt::Key_C, Qt::ControlModifier);
-    QTest::keyClick(box, Qt::Key_End);
-    QTest::keyClick(box, Qt::Key_Left);
-    QTest::keyClick(box, Qt::Key_V, Qt::ControlModifier);
-    QTest::keyClick(box, Qt::Key_Delete);
-    EXPECT_EQ(box->text(), u"11"_qs) << "pasted between 1 and 2, and the last character deleted";
-    EXPECT_EQ(log, QString());
-}
-
 TEST_F(TextBoxTest, UmlautsSignsAndComposedCharactersAreCharacters) {
     QTest::sendKeyEvent(QTest::Click, box, Qt::Key_unknown, u"ä"_qs, Qt::NoModifier);
     QTest::sendKeyEvent(QTest::Click, box, Qt::Key_At, u"@"_qs, Qt::ControlModifier | Qt::AltModifier);
@@ -126,19 +113,6 @@ TEST_F(TextBoxTest, ADateIsPastedAsAWholeOrNotAtAll) {
     }
 }
 
-TEST_F(TextBoxTest, TheWholeTextIsSelectedByKeyAndByMouse) {
-    box->setSelectAllOnFocus(true);
-    box->setText(u"12345"_qs);
-    box->setFocus(Qt::TabFocusReason);
-    EXPECT_EQ(box->selectedText(), u"12345"_qs);
-    other->setFocus();
-    box->deselect();
-    QTest::mouseClick(box, Qt::LeftButton, Qt::NoModifier, QPoint(8, box->height() / 2));
-    EXPECT_EQ(box->selectedText(), u"12345"_qs);
-    QTest::mouseClick(box, Qt::LeftButton, Qt::NoModifier, QPoint(8, box->height() / 2));
-    EXPECT_EQ(box->selectedText(), QString()) << "a second press places the caret";
-}
-
 TEST_F(TextBoxTest, AMenuOrAnotherWindowOnlyBorrowsTheFocus) {
     focusLog.clear();
     box->setFocus();
@@ -156,13 +130,6 @@ TEST_F(TextBoxTest, AMenuOrAnotherWindowOnlyBorrowsTheFocus) {
     EXPECT_EQ(focusLog, u"+box"_qs);
     other->setFocus();
     EXPECT_EQ(focusLog, u"+box-box"_qs);
-}
-
-TEST_F(TextBoxTest, AMemoKeepsLinesAsTheTablesDo) {
-    for (const QString& lineBreak : {u"\r\n"_qs, u"\n"_qs, u"\r"_qs, u"\n\r"_qs}) {
-        memo->setText(u"a"_qs + lineBreak + lineBreak + u"b"_qs);
-        EXPECT_EQ(memo->Text(), u"a\r\n\r\nb"_qs);
-    }
 }
 
 TEST_F(TextBoxTest, AMemoRefusesWhatGoesBeyondItsLimit) {

@@ -72,14 +72,4 @@ TEST_F(NavigationBarTest, OnlyTheBarSaysWhichItemIsCurrent) {
     EXPECT_FALSE(bar.item(u"Arbeit"_qs)->isChecked());
 }
 
-TEST_F(NavigationBarTest, CaptionsHaveTwoLinesAndNoMnemonics) {
-    const BarItem* item = bar.item(u"Zugriff"_qs);
-    EXPECT_EQ(item->caption(), u"Benutzer &\nZugriffsverw."_qs);
-    EXPECT_TRUE(item->shortcut().isEmpty());
-}
-
-TEST_F(NavigationBarTest, EverythingFitsIntoTheFrameAtItsFirstHeight) {
-    EXPECT_LE(bar.sizeHint().height(), 513);
-}
-
 } // namespace

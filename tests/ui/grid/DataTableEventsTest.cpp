@@ -99,27 +99,6 @@ TEST_F(DataTableEventsTest, APressTellsRowAndColumnAndMakesTheRowCurrent) {
     EXPECT_EQ(heard(), "");
 }
 
-TEST_F(DataTableEventsTest, APressOnRowsThatTheViewHasNotSeenYetHitsThem) {
-    showFlat();
-    const QPoint place = m_grid->revealCell({}, 2, 1).center();
-    m_grid->clearRows();
-    for (int row = 0; row < 3; ++row) m_grid->appendRow({row});
-    QTest::mouseClick(m_grid->viewport(), Qt::LeftButton, {}, place);
-    EXPECT_EQ(heard(), "down 2 1");
-}
-
-TEST_F(DataTableEventsTest, DraggingDoesNotMoveTheSelectionOffThePressedRow) {
-    showFlat();
-    const QPoint from = m_grid->revealCell({}, 0, 1).center();
-    const QPoint to = m_grid->revealCell({}, 3, 1).center();
-    QTest::mousePress(m_grid->viewport(), Qt::LeftButton, {}, from);
-    QMouseEvent move(QEvent::MouseMove, to, m_grid->viewport()->mapToGlobal(to), Qt::NoButton, Qt::LeftButton,
-                     {});
-    QCoreApplication::sendEvent(m_grid->viewport(), &move);
-    EXPECT_EQ(m_grid->currentIndex().row(), 0);
-    EXPECT_TRUE(m_grid->selectionModel()->isRowSelected(0));
-}
-
 TEST_F(DataTableEventsTest, ADoubleClickAndEnterOpenTheRow) {
     showFlat();
     doubleClick(1, 2);
@@ -163,20 +142,6 @@ TEST_F(DataTableEventsTest, TheMenuComesAfterThePressAlsoByKey) {
     QTest::mouseRelease(m_grid->viewport(), Qt::RightButton, {}, place);
 }
 
-TEST_F(DataTableEventsTest, KeysMoveTheCurrentRowAndTabLeaves) {
-    showFlat();
-    press(1, 1);
-    const std::vector<std::pair<Qt::Key, int>> moves{
-        {Qt::Key_Down, 2}, {Qt::Key_Up, 1}, {Qt::Key_End, 3}, {Qt::Key_Home, 0}, {Qt::Key_PageDown, 3}};
-    for (const auto& [pressed, row] : moves) {
-        key(pressed);
-        EXPECT_EQ(m_grid->currentIndex().row(), row) << pressed;
-        EXPECT_TRUE(m_grid->selectionModel()->isRowSelected(row)) << pressed;
-    }
-    key(Qt::Key_Tab);
-    EXPECT_TRUE(m_field->hasFocus());
-}
-
 TEST_F(DataTableEventsTest, LettersFindTheNextRowAndKeysCopyItAndOpenItsMenu) {
     showFlat();
     const QStringList names = {u"Aal"_qs, u"Barsch"_qs, u"Brasse"_qs, u"Ärmel"_qs};
@@ -216,17 +181,6 @@ TEST_F(DataTableEventsTest, FocusIsToldButNotWhileAMenuIsOpen) {
     EXPECT_EQ(heard(), "");
 }
 
-TEST_F(DataTableEventsTest, AHandlerMayDestroyTheGrid) {
-    showTwoLevels();
-    QObject::connect(m_grid, &DataTable::OnGridCellDown, m_field, [this] {
-        delete m_grid;
-        m_grid = nullptr;
-    });
-    const QPoint place = m_grid->revealCell({}, 0, DataTable::rowHeaderColumn).center();
-    QTest::mousePress(m_grid->viewport(), Qt::LeftButton, {}, place);
-    EXPECT_EQ(m_grid, nullptr);
-}
-
 TEST_F(DataTableEventsTest, OnlyTheRowHeaderFoldsAndOnlyWhereThereIsAChildTable) {
     showTwoLevels();
     press(0, 0);
@@ -239,21 +193,6 @@ TEST_F(DataTableEventsTest, OnlyTheRowHeaderFoldsAndOnlyWhereThereIsAChildTable)
     doubleClick(0, DataTable::rowHeaderColumn);
     EXPECT_EQ(heard(), "down 0 -5");
     EXPECT_TRUE(isOpen(0));
-}
-
-TEST_F(DataTableEventsTest, AHandlerMaySayWhetherACategoryIsOpen) {
-    showTwoLevels();
-    bool open = true;
-    QObject::connect(m_grid, &DataTable::OnGridCellDown, m_grid,
-                     [&](int row) { m_grid->setOpen(row, open); });
-    // A category that has nothing to show yet shows it as soon as it comes.
-    press(1, DataTable::rowHeaderColumn);
-    EXPECT_TRUE(isOpen(1));
-    press(1, DataTable::rowHeaderColumn);
-    EXPECT_TRUE(isOpen(1));
-    open = false;
-    press(0, DataTable::rowHeaderColumn);
-    EXPECT_FALSE(isOpen(0));
 }
 
 TEST_F(DataTableEventsTest, KeysFoldThroughTheSameEvent) {

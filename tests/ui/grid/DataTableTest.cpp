@@ -43,30 +43,6 @@ TEST_F(DataTableTest, AVisibleGridShowsAppendedRowsInTheNextTurnAndAHiddenOneWhe
     EXPECT_EQ(changed.size(), 1);
 }
 
-TEST_F(DataTableTest, FindReadsAndWritesTheStartRow) {
-    fill(6);
-    m_grid.setCell(1, 1, u"Aal");
-    m_grid.setCell(4, 1, u"Aal");
-    int start = -1;
-    EXPECT_EQ(m_grid.find(1, start, u"Aal"_qs), 1);
-    EXPECT_EQ(start, 1);
-    EXPECT_EQ(m_grid.find(1, ++start, u"Aal"_qs), 4);
-    EXPECT_EQ(start, 4);
-    for (int beyond : {5, 99}) EXPECT_EQ(m_grid.find(1, beyond, u"Aal"_qs), -1);
-}
-
-TEST_F(DataTableTest, SelectionIsSetAndClearedByRange) {
-    fill(10);
-    m_grid.selectRows(2, 3, true);
-    EXPECT_EQ(selectedRows(), 3);
-    m_grid.selectRows(3, 1, false);
-    EXPECT_EQ(selectedRows(), 2);
-    m_grid.selectRows(8, 99, true);
-    EXPECT_EQ(selectedRows(), 4);
-    m_grid.selectRows(-3, 99, false);
-    EXPECT_EQ(selectedRows(), 0);
-}
-
 TEST_F(DataTableTest, ColumnsKeepTheirNumbersHideAtWidthZeroAndFillTheRoom) {
     fill(1);
     m_grid.show();
@@ -142,17 +118,6 @@ protected:
 
     DataTable m_grid;
 };
-
-TEST_F(TwoLevelDataTableTest, RemovingTheCurrentChildTableLeadsBackToTheTop) {
-    fillChild(1, 2);
-    m_grid.enterChild(1);
-    m_grid.removeChild(1);
-    EXPECT_EQ(m_grid.currentTable().parentRow, -1);
-    EXPECT_FALSE(m_grid.hasChild(1));
-    EXPECT_EQ(m_grid.rowCount(), 3);
-    EXPECT_THROW(m_grid.enter({1}), RuntimeError);
-    EXPECT_THROW(m_grid.enterChild(3), RuntimeError);
-}
 
 TEST_F(TwoLevelDataTableTest, AnExpandedCategoryStaysSoWhileItsChildrenAreReplaced) {
     fillChild(0, 2);

@@ -90,30 +90,6 @@ TEST(QtMessageBoxesTest, AKeyCountsOnlyWhenPressedSomeTimeAfterTheBoxCameUp) {
     EXPECT_EQ(log.join(u' '), u"atOnce:open held:open pressed:gone"_qs);
 }
 
-TEST(ToolbarTest, AKeyRunsItsHandlerAndLeavesTheFocusAlone) {
-    QWidget window;
-    auto* column = new QVBoxLayout(&window);
-    auto* toolbar = new Toolbar;
-    auto* box = new QLineEdit;
-    column->addWidget(toolbar);
-    column->addWidget(box);
-    QStringList pressed;
-    Face::addRecordKeys(
-        toolbar, [&] { pressed.append(u"save"_qs); }, [&] { pressed.append(u"delete"_qs); }, {});
-    QToolButton* save = toolbar->key(u"tbSpeichern"_qs);
-    window.show();
-    QApplication::setActiveWindow(&window);
-    box->setFocus();
-    QTest::mouseClick(save, Qt::LeftButton);
-    EXPECT_TRUE(box->hasFocus());
-    QTest::keyClick(box, Qt::Key_L, Qt::AltModifier);
-    QTest::qWait(200);
-    toolbar->setKeyEnabled(u"tbSpeichern"_qs, false);
-    QTest::mouseClick(save, Qt::LeftButton);
-    EXPECT_EQ(pressed.join(u' '), u"save delete"_qs);
-    EXPECT_EQ(toolbar->key(u"tbEsc"_qs), nullptr);
-}
-
 TEST(ProgressBarTest, ItShowsHundredthsOfAnyNumberOfRows) {
     ProgressBar bar(u"pb"_qs);
     int changes = 0;

@@ -136,31 +136,6 @@ TEST_F(ScreenTest, EachKeyIsSeenOnceBeforeTheControl) {
     EXPECT_TRUE(form.keys.isEmpty()) << "a key held down saves once, not thirty times a second";
 }
 
-TEST_F(ScreenTest, EnterPressesTheButtonWithTheFocus) {
-    RecordingScreen form(u"form"_qs, log);
-    QPushButton ok(&form);
-    QPushButton cancel(&form);
-    QStringList pressed;
-    QObject::connect(&ok, &QPushButton::clicked, [&] { pressed.append(u"ok"_qs); });
-    QObject::connect(&cancel, &QPushButton::clicked, [&] { pressed.append(u"cancel"_qs); });
-    form.show();
-    QApplication::setActiveWindow(&form);
-    cancel.setFocus();
-    QTest::keyClick(&cancel, Qt::Key_Return);
-    QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QString(), true);
-    QApplication::sendEvent(&cancel, &held);
-    EXPECT_EQ(pressed.join(u' '), u"cancel"_qs) << "once for each press";
-}
-
-TEST_F(ScreenTest, KeysInABoxAboveTheScreenAreNotTheScreens) {
-    RecordingScreen form(u"form"_qs, log);
-    form.show();
-    QWidget above(&form, Qt::Dialog);
-    above.show();
-    QTest::keyClick(&above, Qt::Key_F3);
-    EXPECT_TRUE(form.keys.isEmpty());
-}
-
 TEST_F(ScreenTest, AnErrorThatNobodyCaughtGoesToTheFailureRoutine) {
     QList<int> numbers;
     setEventFailure([&](const RuntimeError& error) { numbers.append(error.number); });

@@ -51,21 +51,6 @@ TEST_P(ThemeTest, EveryPictureIsDrawnAtAnySize) {
     EXPECT_TRUE(Theme::icon(u"gibtesnicht"_qs).isNull());
 }
 
-TEST_P(ThemeTest, PicturesFollowTheModeAndFadeWhenDisabled) {
-    const QIcon icon = Theme::icon(u"parameter"_qs);
-    const auto shot = [&](QIcon::Mode mode) {
-        QImage image(24, 24, QImage::Format_ARGB32);
-        image.fill(QApplication::palette().color(QPalette::Window));
-        QPainter painter(&image);
-        icon.paint(&painter, image.rect(), Qt::AlignCenter, mode);
-        return image;
-    };
-    const QColor ground = QApplication::palette().color(QPalette::Window);
-    const QColor line = shot(QIcon::Normal).pixelColor(4, 12);
-    EXPECT_GT(contrast(line, ground), 4.5);
-    EXPECT_LT(contrast(shot(QIcon::Disabled).pixelColor(4, 12), ground), contrast(line, ground));
-}
-
 TEST_P(ThemeTest, TextsAreLegible) {
     const QPalette palette = QApplication::palette();
     const auto colour = [&](QPalette::ColorRole role) { return palette.color(QPalette::Active, role); };
@@ -90,12 +75,5 @@ TEST_P(ThemeTest, TextsAreLegible) {
 }
 
 INSTANTIATE_TEST_SUITE_P(BothModes, ThemeTest, ::testing::Values(Theme::Mode::Light, Theme::Mode::Dark));
-
-TEST(DesktopModeTest, DarkIsWhatIsDarkerThanItsText) {
-    for (const auto mode : {Theme::Mode::Dark, Theme::Mode::Light}) {
-        Theme::apply(*qApp, mode);
-        EXPECT_EQ(Theme::desktopMode(*qApp), mode);
-    }
-}
 
 } // namespace
