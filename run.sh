@@ -30,7 +30,7 @@ display_reachable() {
 }
 
 play_tour() {
-  local tour=$top/tests/scenarios/rundgang.txt pictures=$top/bilder begun=$top/build/tour-begun
+  local tour=$top/tools/player/rundgang.txt pictures=$top/bilder begun=$top/build/tour-begun
   say "No display here: running the tour without one, with pictures in bilder/"
   : >"$begun"
   "$top/tests/play" --keep "$pictures" "$tour"
