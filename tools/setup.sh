@@ -19,7 +19,7 @@ build_packages=(
   libsqlcipher-dev libzip-dev libgtest-dev
   fonts-liberation fonts-comic-neue
 )
-test_packages=(sqlcipher appstream desktop-file-utils libglib2.0-bin)
+test_packages=(sqlcipher poppler-utils appstream desktop-file-utils libglib2.0-bin)
 lint_packages=(clang-format clang-tidy)
 
 # os_release FIELD: prints a field of /etc/os-release.

@@ -165,7 +165,7 @@ QString mergingOffice() {
 TEST_F(LibreOfficeLetter, IsMergedByTheOfficeWithTheContactsAsTheyAre) {
     qputenv("PATH", path);
     const QString program = mergingOffice();
-    if (program.isEmpty()) GTEST_SKIP() << "no soffice with writer and base on the PATH";
+    if (program.isEmpty()) GTEST_SKIP() << "needs the packages libreoffice-writer and libreoffice-base";
     useRecordingOffice();
     Recordset contacts = session().AktDatenbank.OpenRecordset(u"Kontakt"_qs, dbOpenTable);
     const auto add = [&](const QStringList& texts) {

@@ -9,7 +9,6 @@
 #include <QTemporaryDir>
 #include <algorithm>
 #include <array>
-#include <sqlite3.h>
 
 namespace {
 
@@ -56,28 +55,8 @@ struct Room {
     FixedClock clock;
 };
 
-int forbidForeignFiles(void*, int action, const char* name, const char*, const char*, const char*) {
-    const bool leadsOut = action == SQLITE_ATTACH || action == SQLITE_CREATE_VTABLE ||
-                          (action == SQLITE_PRAGMA && sqlite3_stricmp(name, "temp_store_directory") == 0);
-    return leadsOut ? SQLITE_DENY : SQLITE_OK;
-}
-
-/// What another tool with the password may do to the file, to its definitions as well.
-void alter(const QString& path, const QByteArray& sql) {
-    sqlite3* file = nullptr;
-    sqlite3_open(path.toUtf8().constData(), &file);
-    const QByteArray unlock = "PRAGMA key = \"" + key().toUtf8() + "\"; PRAGMA cipher_compatibility = 3";
-    sqlite3_exec(file, unlock.constData(), nullptr, nullptr, nullptr);
-    sqlite3_set_authorizer(file, &forbidForeignFiles, nullptr);
-    sqlite3_progress_handler(
-        file, 1'000'000, [](void*) { return 1; }, nullptr);
-    sqlite3_exec(file, "PRAGMA writable_schema = ON", nullptr, nullptr, nullptr);
-    sqlite3_exec(file, sql.constData(), nullptr, nullptr, nullptr);
-    sqlite3_close(file);
-}
-
 /// "@OFFSET TEXT" overwrites, "<SIZE" cuts off, ">TEXT" appends, "%PAGE PAGE" copies a page, "-TEXT" is a
-/// journal and "~TEXT" a log; any other line is SQL.
+/// journal and "~TEXT" a log.
 void damage(const QString& path, const QByteArray& line) {
     QByteArray bytes = fileBytes(path);
     const QByteArray rest = line.mid(1);
@@ -99,7 +78,7 @@ void damage(const QString& path, const QByteArray& line) {
     case '~':
         return writeFile(path + u"-wal"_qs, rest);
     default:
-        alter(path, line);
+        return;
     }
 }
 

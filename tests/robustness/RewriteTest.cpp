@@ -184,23 +184,3 @@ TEST_F(RewriteTest, NobodyWritesBetweenTheCopyAndTheExchange) {
     }
     EXPECT_EQ(inOwnProcess(write), End::Done);
 }
-
-TEST_F(RewriteTest, WhatAKilledProcessLeftBesideTheOldFileIsNotTakenForTheNewOnes) {
-    learn();
-    const QString journal = path() + u"-journal"_qs;
-    // A killed write leaves a journal to undo it.
-    const auto write = [&] {
-        cursors::Connection file(path(), rawKey(), cursors::Connection::Access::ReadWrite);
-        file.execute("PRAGMA cache_size = 1");
-        file.execute("BEGIN");
-        file.execute("UPDATE Fang SET Notiz = 'halb'");
-        killThisProcess();
-        return true;
-    };
-    ASSERT_EQ(inOwnProcess(write), End::Killed);
-    ASSERT_TRUE(QFile::exists(journal));
-    ASSERT_TRUE(QFile::copy(journal, journal + u".kopie"_qs));
-    ASSERT_EQ(rewriteAfter([] {}, [&] { QFile::copy(journal + u".kopie"_qs, journal); }), End::Done);
-    EXPECT_FALSE(QFile::exists(journal));
-    EXPECT_EQ(contentOf(path()), m_rows);
-}

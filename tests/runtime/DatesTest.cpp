@@ -96,16 +96,4 @@ TEST_F(Dates, AreWrittenInTheShortGermanForm) {
     EXPECT_EQ(CDate(CStr(Date{38353.75})), Date{38353.75});
 }
 
-TEST_F(Dates, OutsideTheCalendarAreOverflows) {
-    for (const double days :
-         {-657435.0, 2958466.0, 2958465.9999999, 1e300, -1e300, std::numeric_limits<double>::quiet_NaN(),
-          std::numeric_limits<double>::infinity()}) {
-        EXPECT_FALSE(Date{days}.toQDate().isValid()) << days;
-        EXPECT_FALSE(Date{days}.toQTime().isValid()) << days;
-        EXPECT_EQ(errorOf([&] { CDate(days); }), 6) << days;
-        EXPECT_EQ(errorOf([&] { CStr(Date{days}); }), 6) << days;
-    }
-    EXPECT_EQ(CDate(38353), Date{38353});
-}
-
 } // namespace

@@ -12,11 +12,15 @@
 #include "Toolbar.h"
 #include "Vorschau.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QFile>
 #include <QFileDialog>
 #include <QLabel>
+#include <QLineEdit>
+#include <QPrintDialog>
 #include <QScrollBar>
+#include <QSpinBox>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -94,28 +98,6 @@ protected:
     RecordingScreen other{u"other"_qs, log};
     SampleReport report{u"Besatz - Plan"_qs};
 };
-
-TEST_F(ReportPreviewTest, ItMayBeClosedFromBehindOpenedAnewAndOutliveItsReport) {
-    open(25);
-    other.Show();
-    takeLog();
-    preview().close();
-    settle();
-    EXPECT_FALSE(isLoaded<Vorschau>());
-    EXPECT_EQ(takeLog(), QString()) << "the screen in front is not disturbed";
-    EXPECT_EQ(stage.front(), &other);
-    {
-        SampleReport shortLived;
-        shortLived.bindRows(25);
-        preview().zeige(shortLived.document());
-    }
-    press(u"tbWeiter"_qs);
-    preview().grab();
-    EXPECT_EQ(where(), u"2 von 3"_qs);
-    Screens::removeAll();
-    settle();
-    EXPECT_FALSE(isLoaded<Vorschau>());
-}
 
 TEST_F(ReportPreviewTest, PagesTurnByKeysButtonsAndTheirNumber) {
     open(25);
@@ -207,6 +189,24 @@ TEST(QtPrintDialogsTest, TheNextPdfIsProposedInTheFolderOfTheLast) {
     EXPECT_EQ(ask(folder.filePath(u"b.pdf"_qs)), folder.filePath(u"b.pdf"_qs));
     EXPECT_EQ(ask({}), QString());
     EXPECT_EQ(proposedIn, folder.path());
+}
+
+/// Fills in Qt's own dialog as a user does.
+TEST(QtPrintDialogsTest, ThePagesThatWereChosenArePrinted) {
+    const QTemporaryDir folder;
+    QTimer::singleShot(0, [&] {
+        auto* dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
+        ASSERT_TRUE(dialog);
+        dialog->findChild<QLineEdit*>(u"filename"_qs)->setText(folder.filePath(u"a.pdf"_qs));
+        dialog->findChild<QAbstractButton*>(u"printRange"_qs)->click();
+        dialog->findChild<QSpinBox*>(u"to"_qs)->setValue(3);
+        dialog->findChild<QSpinBox*>(u"from"_qs)->setValue(2);
+        dialog->accept();
+    });
+    const auto target = QtPrintDialogs().choosePrintTarget(u"Liste"_qs, 5, 0);
+    ASSERT_TRUE(target);
+    EXPECT_EQ(target->pages, (QVector<int>{1, 2}));
+    EXPECT_EQ(target->pdfFile, folder.filePath(u"a.pdf"_qs));
 }
 
 } // namespace

@@ -25,16 +25,6 @@ TEST_F(ReportDocumentTest, ItSaysHeadRowsSumAndPageNumberInThisOrder) {
                                    u"Section3.Label9 = Seite 1 von 1 (gedruckt am 14.03.2026)"_qs}));
 }
 
-TEST_F(ReportDocumentTest, ControlsAreFoundWithoutRegardToCaseAndUnknownNamesAreErrors) {
-    report.bindRows(1);
-    report.control(u"section2"_qs, u"LBLORT"_qs).setCaption(u"Köpenick"_qs);
-    EXPECT_EQ(text().value(0), u"Section2.lblOrt = Köpenick"_qs) << "stays until it is set again";
-    EXPECT_EQ(errorOf([&] { report.section(u"Section6"_qs); }), 3265);
-    EXPECT_EQ(errorOf([&] { report.control(u"Section2"_qs, u"lblPLZ"_qs); }), 3265);
-    EXPECT_EQ(errorOf([&] { report.control(u"Section2"_qs, u"lblOrt"_qs).setDataField(u"Nr"_qs); }), 438);
-    EXPECT_EQ(errorOf([&] { report.control(u"Section1"_qs, u"Text1"_qs).setCaption(u"Nr"_qs); }), 438);
-}
-
 TEST_F(ReportDocumentTest, ValuesOfEveryKindStandInTheirFormat) {
     struct Case {
         Value value;

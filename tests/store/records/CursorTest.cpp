@@ -79,30 +79,6 @@ TEST_F(CursorTest, SeeksByKey) {
     EXPECT_EQ(errorOf([&] { table(u"Fische"); }), 3078);
 }
 
-TEST_F(CursorTest, TouchesNoRowAfterASearchThatFailed) {
-    struct Search {
-        QString comparison;
-        Value key;
-        int error;
-    };
-    Recordset fish = table(u"Fisch");
-    fish.Index(u"PrimaryKey"_qs);
-    for (const Search& wrong :
-         {Search{u">"_qs, 1, 3001}, Search{u"="_qs, u"drei"_qs, 13}, Search{u"="_qs, 1e20, 6}}) {
-        fish.Seek(u"="_qs, 1);
-        EXPECT_FALSE(fish.NoMatch());
-        EXPECT_EQ(errorOf([&] { fish.Seek(wrong.comparison, wrong.key); }), wrong.error);
-        EXPECT_TRUE(fish.NoMatch());
-        EXPECT_EQ(errorOf([&] { fish.Edit(); }), 3021);
-        EXPECT_EQ(errorOf([&] { fish.Delete(); }), 3021);
-        EXPECT_EQ(errorOf([&] { number(fish, u"FNr"); }), 3021);
-    }
-    Recordset unordered = table(u"Fisch");
-    EXPECT_EQ(errorOf([&] { unordered.Seek(u"="_qs, 1); }), 3019);
-    EXPECT_EQ(errorOf([&] { unordered.Delete(); }), 3021);
-    EXPECT_EQ(unordered.RecordCount(), 4);
-}
-
 TEST_F(CursorTest, HasNoRowAfterADeletionUntilItMoves) {
     for (const bool isTable : {true, false}) {
         Recordset fish = cursor(isTable);

@@ -113,7 +113,7 @@ TEST_F(OpeningTest, SaysThatAFolderIsNotWritableWhenItsFileIsWrittenTo) {
 
 TEST_F(OpeningTest, MakesFilesThatTheStandardProgramReads) {
     const QString program = QStandardPaths::findExecutable(u"sqlcipher"_qs);
-    if (program.isEmpty()) GTEST_SKIP() << "sqlcipher is not installed";
+    if (program.isEmpty()) GTEST_SKIP() << "needs the package sqlcipher";
     QProcess standard;
     standard.start(program, {path()});
     standard.write("PRAGMA key = 'geheim';\nPRAGMA cipher_compatibility = 3;\n"

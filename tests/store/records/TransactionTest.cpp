@@ -67,22 +67,6 @@ TEST_F(TransactionTest, FlushesTheFolderBehindTheRemovalOfTheJournal) {
     files->xSetSystemCall(files, nullptr, nullptr);
 }
 
-TEST_F(TransactionTest, LetsOthersWriteWhileAResultThatIsReadToItsEndStaysOpen) {
-    const QStringList results{u"SELECT COUNT(FNr) FROM Fisch"_qs, u"SELECT * FROM Fisch WHERE FNr = 1"_qs,
-                              u"SELECT fa.FangNr, fi.FName FROM Fang fa, Fisch fi WHERE fa.FischNr = fi.FNr "
-                              u"AND fa.FangNr = 1"_qs};
-    for (const QString& select : results) {
-        Recordset shown = query(select);
-        shown.MoveLast();
-        const Value before = shown.Fields().front().Value();
-        execute("UPDATE Fisch SET Notiz = Notiz || 'x'");
-        EXPECT_EQ(shown.Fields().front().Value(), before);
-        shown.MoveNext();
-        EXPECT_TRUE(shown.Eof());
-    }
-    EXPECT_EQ(rowsInFile(u"SELECT Notiz FROM Fisch WHERE FNr = 3"_qs), u"seltenxxx");
-}
-
 TEST_F(TransactionTest, ReportsAFailedCommitAtTheCloseAndStaysUsable) {
     const auto other = connectTo(path());
     other->execute("BEGIN");
@@ -111,27 +95,6 @@ TEST_F(TransactionTest, TakesBackTheActionOfACursorThatNobodyCloses) {
     next.Delete();
     next.Close();
     EXPECT_EQ(rowsInFile(u"SELECT COUNT(GNr) FROM Gewaesser"_qs), u"1");
-}
-
-TEST_F(TransactionTest, WritesAndShowsNothingMoreOfAnActionThatAFullDiskHasUndone) {
-    connection->execute("PRAGMA max_page_count = 60");
-    Recordset fish = table(u"Fisch");
-    Recordset waters = table(u"Gewaesser");
-    waters.Delete();
-    rename(fish, u"Aal"_qs);
-    fish.AddNew();
-    fish.Collect(u"Notiz"_qs, QString(1'000'000, u'x'));
-    EXPECT_EQ(errorOf([&] { fish.Update(); }), 3026);
-    fish.Edit();
-    EXPECT_EQ(fish.Fields(u"FName"_qs).Value(), Value(u"Hecht")) << "what is stored, not what was written";
-    EXPECT_EQ(errorOf([&] { rename(fish, u"Barbe"_qs); }), 3026);
-    waters.MoveFirst();
-    EXPECT_EQ(waters.Fields(u"GName"_qs).Value(), Value(u"Waldsee"));
-    EXPECT_EQ(errorOf([&] { fish.Close(); }), 0);
-    EXPECT_EQ(errorOf([&] { waters.Close(); }), 3026);
-    EXPECT_EQ(namesInFile(), unchanged);
-    EXPECT_EQ(rowsInFile(u"SELECT COUNT(GNr) FROM Gewaesser"_qs), u"2");
-    EXPECT_EQ(errorOf([&] { table(u"Gewaesser").Delete(); }), 0) << "the next action is a new one";
 }
 
 class HeldTransactionTest : public TransactionTest {

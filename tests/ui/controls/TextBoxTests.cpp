@@ -97,22 +97,6 @@ TEST_F(TextBoxTest, WhatIsPastedOrDroppedPassesTheFilter) {
     EXPECT_EQ(box->text(), u"-5"_qs) << "what a routine puts in is its own affair";
 }
 
-TEST_F(TextBoxTest, ADateIsPastedAsAWholeOrNotAtAll) {
-    box->setKeyFilter([](int code) { return code == '.' ? code : digitsOnly(code); }, Refused::WithTheWhole);
-    box->setMaxLength(10);
-    const std::pair<QString, QString> cases[] = {{u" 01.02.2005\u00a0\r\n"_qs, u"01.02.2005"_qs},
-                                                 {u"01.02.20051"_qs, u"9.9.1999"_qs},
-                                                 {u"1.12.2005 10:30"_qs, u"9.9.1999"_qs},
-                                                 {u"1. Mai 2005"_qs, u"9.9.1999"_qs}};
-    for (const auto& [offered, stands] : cases) {
-        box->setText(u"9.9.1999"_qs);
-        box->selectAll();
-        QApplication::clipboard()->setText(offered);
-        QTest::keyClick(box, Qt::Key_V, Qt::ControlModifier);
-        EXPECT_EQ(box->text(), stands) << offered.toStdString();
-    }
-}
-
 TEST_F(TextBoxTest, AMenuOrAnotherWindowOnlyBorrowsTheFocus) {
     focusLog.clear();
     box->setFocus();

@@ -63,13 +63,4 @@ TEST_F(NavigationBarTest, ItemsMayGoInTheMiddleOfTheirOwnClick) {
     EXPECT_EQ(bar.findChild<QWidget*>(u"Parameter"_qs), nullptr);
 }
 
-TEST_F(NavigationBarTest, OnlyTheBarSaysWhichItemIsCurrent) {
-    bar.setCurrentItem(bar.item(u"Arbeit"_qs));
-    QTest::mouseClick(bar.item(u"Kontakte"_qs), Qt::LeftButton);
-    EXPECT_TRUE(bar.item(u"Arbeit"_qs)->isChecked());
-    EXPECT_FALSE(bar.item(u"Kontakte"_qs)->isChecked());
-    bar.setCurrentItem(nullptr);
-    EXPECT_FALSE(bar.item(u"Arbeit"_qs)->isChecked());
-}
-
 } // namespace

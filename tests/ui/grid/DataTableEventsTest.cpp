@@ -169,18 +169,6 @@ TEST_F(DataTableEventsTest, AMarkedRowIsTheCurrentOneAndLeavesTheFocusAlone) {
     EXPECT_EQ(heard(), QString());
 }
 
-TEST_F(DataTableEventsTest, FocusIsToldButNotWhileAMenuIsOpen) {
-    showFlat();
-    m_field->setFocus();
-    m_grid->setFocus();
-    EXPECT_EQ(heard(), "lost, got");
-    for (const auto type : {QEvent::FocusOut, QEvent::FocusIn}) {
-        QFocusEvent event(type, Qt::PopupFocusReason);
-        QCoreApplication::sendEvent(m_grid, &event);
-    }
-    EXPECT_EQ(heard(), "");
-}
-
 TEST_F(DataTableEventsTest, OnlyTheRowHeaderFoldsAndOnlyWhereThereIsAChildTable) {
     showTwoLevels();
     press(0, 0);

@@ -72,23 +72,6 @@ TEST_F(DataTableModelTest, CellsComeBackAsTheyWentIn) {
     }
 }
 
-TEST_F(DataTableModelTest, ChangedCellsAreToldTogether) {
-    fill(top, {u"a", u"b", u"c", u"d"});
-    m_model.publish();
-    fill(top, {u"e"});
-    EXPECT_EQ(shownNames(), "a b c d");
-    const QSignalSpy changed(&m_model, &QAbstractItemModel::dataChanged);
-    m_model.set(top, 2, 1, u"C");
-    m_model.set(top, 1, 1, u"B");
-    m_model.set(top, 4, 1, u"E");
-    EXPECT_EQ(changed.size(), 0);
-    m_model.publish();
-    ASSERT_EQ(changed.size(), 1);
-    EXPECT_EQ(changed[0][0].toModelIndex().row(), 1);
-    EXPECT_EQ(changed[0][1].toModelIndex().row(), 2);
-    EXPECT_EQ(shownNames(), "a B C d E");
-}
-
 TEST_F(DataTableModelTest, RowsAreInsertedAndRemovedOnBothSidesOfWhatTheViewKnows) {
     fill(top, {u"a", u"b"});
     m_model.publish();

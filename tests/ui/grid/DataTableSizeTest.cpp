@@ -4,7 +4,6 @@
 #include <QElapsedTimer>
 #include <gtest/gtest.h>
 
-
 namespace {
 
 constexpr int rows = 300'000;

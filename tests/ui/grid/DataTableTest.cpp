@@ -85,6 +85,20 @@ TEST_F(DataTableTest, AClickOnAHeadMovesTheRowsAndTheCurrentOneStaysTheSame) {
     EXPECT_EQ(order(0), u"0 1") << "the first click after new rows";
 }
 
+TEST_F(DataTableTest, NumbersStandAtTheRight) {
+    fill(1);
+    m_grid.show();
+    const QImage cell = m_grid.viewport()->grab(m_grid.revealCell({}, 0, 0).adjusted(2, 2, -2, -2)).toImage();
+    const auto isEmpty = [&](int from, int to) {
+        for (int x = from; x < to; ++x)
+            for (int y = 0; y < cell.height(); ++y)
+                if (cell.pixelColor(x, y).lightness() < 128) return false;
+        return true;
+    };
+    EXPECT_TRUE(isEmpty(0, cell.width() / 2));
+    EXPECT_FALSE(isEmpty(cell.width() / 2, cell.width()));
+}
+
 TEST_F(DataTableTest, SelectedRowsTakeTheColoursThatTheProgramSets) {
     fill(3);
     m_grid.show();
@@ -118,22 +132,6 @@ protected:
 
     DataTable m_grid;
 };
-
-TEST_F(TwoLevelDataTableTest, AnExpandedCategoryStaysSoWhileItsChildrenAreReplaced) {
-    fillChild(0, 2);
-    m_grid.show();
-    m_grid.revealCell({0}, 0, 0);
-    m_grid.createChild(0);
-    QCoreApplication::processEvents();
-    fillChild(0, 4);
-    QCoreApplication::processEvents();
-    const QModelIndex category = m_grid.model()->index(0, 0);
-    EXPECT_TRUE(m_grid.isExpanded(category));
-    EXPECT_FALSE(m_grid.visualRect(m_grid.model()->index(3, 0, category)).isEmpty());
-    EXPECT_EQ(m_grid.removeRowsWithText(0, u"3"_qs), 1);
-    EXPECT_TRUE(m_grid.isExpanded(m_grid.model()->index(0, 0)));
-    EXPECT_FALSE(m_grid.hasChild(2));
-}
 
 TEST_F(TwoLevelDataTableTest, ChildRowsTakeTheirColoursByTurns) {
     fillChild(0, 3);

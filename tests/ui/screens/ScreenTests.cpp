@@ -75,21 +75,6 @@ TEST_F(ScreenTest, AModalScreenReturnsWhenItIsHiddenClosedOrUnloaded) {
     }
 }
 
-TEST_F(ScreenTest, AModalScreenLeavesTheActivationBelowAlone) {
-    QWidget frame;
-    Stage stage(&frame);
-    stage.setActive(true);
-    RecordingScreen below(u"below"_qs, log);
-    RecordingScreen modal(u"modal"_qs, log);
-    below.Show();
-    QTimer::singleShot(0, [&] { modal.Hide(); });
-    modal.ShowModal();
-    EXPECT_EQ(log.join(u' '), u"+below"_qs);
-    EXPECT_EQ(stage.front(), &below);
-    modal.Show();
-    EXPECT_EQ(log.join(u' '), u"+below -below +modal"_qs) << "next time it may stand on the stage";
-}
-
 TEST_F(ScreenTest, TheWholeFacePaintedIsAnEventASmallUpdateIsNot) {
     RecordingScreen face(u"face"_qs, log);
     auto* column = new QVBoxLayout(&face);

@@ -70,17 +70,6 @@ TEST_F(StageTest, NothingIsActivatedWhileTheFrameIsHidden) {
     EXPECT_EQ(takeLog(), u"+a"_qs);
 }
 
-TEST_F(StageTest, AnErrorInAHandlerDoesNotStopTheChange) {
-    int caught = 0;
-    setEventFailure([&](const RuntimeError& error) { caught = error.number; });
-    a.Show();
-    a.onDeactivate = [] { throw runtimeError(RuntimeError::objectNotSet); };
-    b.Show();
-    setEventFailure({});
-    EXPECT_EQ(caught, 91);
-    EXPECT_EQ(takeLog(), u"+a -a +b"_qs);
-}
-
 TEST_F(StageTest, AScreenGetsItsFocusBackWithTheFront) {
     QLineEdit first(&a);
     QLineEdit second(&a);
@@ -93,16 +82,6 @@ TEST_F(StageTest, AScreenGetsItsFocusBackWithTheFront) {
     EXPECT_TRUE(other.hasFocus());
     b.Hide();
     EXPECT_TRUE(second.hasFocus());
-}
-
-TEST_F(StageTest, ScreensOutliveTheFrame) {
-    auto another = std::make_unique<Stage>();
-    another->bringToFront(&a);
-    another.reset();
-    EXPECT_EQ(Stage::current(), nullptr);
-    EXPECT_EQ(a.parentWidget(), nullptr);
-    a.Show();
-    EXPECT_FALSE(a.isVisible()) << "there is no stage for it";
 }
 
 } // namespace
