@@ -156,6 +156,18 @@ TEST_F(RewriteTest, AnExchangeThatFailsLeavesTheOldFile) {
     EXPECT_EQ(bytesOf(path()), m_old);
 }
 
+TEST_F(RewriteTest, ACopyThatTheDiskHasLostIsNoFile) {
+    learn();
+    for (int place = 4; place < 60; place += 4) {
+        loseWrite(place);
+        rewrite([] {});
+        emptyDisk();
+        ASSERT_TRUE(bytesOf(path()) == m_old || contentOf(path()) == m_rows) << place;
+        QFile::remove(work());
+        restore();
+    }
+}
+
 TEST_F(RewriteTest, AReadErrorLeavesTheFileAsItIs) {
     Database open = DBEngine::Workspaces(0).OpenDatabase(path(), false, false, u";pwd="_qs + rawKey());
     failReadsAt(20 * 1024);

@@ -15,6 +15,7 @@
 namespace {
 
 int writesLeft = 0;
+int writesUntilLost = 0;
 bool commitsFail = false;
 bool isCommitting = false;
 bool isReadOnly = false;
@@ -35,6 +36,7 @@ bool isFirstOfCommit(int file) {
 }
 
 ssize_t writeWhileThereIsRoom(int file, const void* bytes, size_t size, off_t place) {
+    if (writesUntilLost > 0 && --writesUntilLost == 0) return static_cast<ssize_t>(size);
     const bool hasRoom = commitsFail ? !isFirstOfCommit(file) : --writesLeft > 0;
     if (hasRoom) return ::pwrite(file, bytes, size, place);
     errno = ENOSPC;
@@ -78,6 +80,11 @@ void fillDiskAtCommits() {
     emptyDisk();
     commitsFail = true;
     isCommitting = false;
+}
+
+void loseWrite(int place) {
+    emptyDisk();
+    writesUntilLost = place;
 }
 
 void emptyDisk() { fillDiskAtWrite(std::numeric_limits<int>::max()); }

@@ -8,6 +8,8 @@
 void fillDiskAtWrite(int place);
 /// From here on the journal finds room and the file does not: each commit fails at its first page.
 void fillDiskAtCommits();
+/// The disk says that it has written, and has not: the `place`th write from here on.
+void loseWrite(int place);
 /// There is room again.
 void emptyDisk();
 /// From here on reads of the byte at this place of any file fail; at -1 none.
