@@ -45,28 +45,6 @@ TEST_F(WritingTest, ConvertsToTheKindOfTheField) {
     EXPECT_EQ(collected(u"System", u"JBeitrag", Value(20.5)), u"20.5d");
 }
 
-TEST_F(WritingTest, GivesTextsBackSignForSign) {
-    const QChar half(0xd83d);
-    const QStringList texts{u"a"_qs + QChar(0) + u"b"_qs, u"\ufeffHecht"_qs, u"\ufeff\ufeff"_qs,
-                            u"\U0001F41F"_qs, u"a\r\n\tb "_qs};
-    Recordset fish = table(u"Fisch");
-    for (const QString& text : texts) {
-        addFish(fish, text);
-        fish.MoveLast();
-        EXPECT_EQ(fish.Fields(u"FName"_qs).Value(), Value(text));
-        EXPECT_EQ(query(u"SELECT FName FROM Fisch WHERE FNr = "_qs + shown(fish.Fields(u"FNr"_qs).Value()))
-                      .Fields(u"FName"_qs)
-                      .Value(),
-                  Value(text));
-    }
-    fish.AddNew();
-    fish.Collect(u"FName"_qs, half + u"x"_qs);
-    EXPECT_EQ(fish.Fields(u"FName"_qs).Value(), Value(u"\ufffdx"_qs)) << "shown as it will be stored";
-    fish.Update();
-    EXPECT_EQ(rows(u"SELECT FName FROM Fisch WHERE FName = '"_qs + half + u"x'"_qs), u"\ufffdx");
-    EXPECT_EQ(rows(u"SELECT FNr FROM Fisch WHERE FName = '\ufeffHecht'"_qs), u"6") << "not Hecht alone";
-}
-
 TEST_F(WritingTest, RefusesKeysThatAreDoubleOrNull) {
     Recordset members = table(u"Mitglied");
     members.AddNew();

@@ -97,25 +97,6 @@ TEST_F(TextBoxTest, WhatIsPastedOrDroppedPassesTheFilter) {
     EXPECT_EQ(box->text(), u"-5"_qs) << "what a routine puts in is its own affair";
 }
 
-TEST_F(TextBoxTest, AMenuOrAnotherWindowOnlyBorrowsTheFocus) {
-    focusLog.clear();
-    box->setFocus();
-    EXPECT_EQ(focusLog, u"+box"_qs);
-    QWidget above(&window, Qt::Dialog);
-    above.show();
-    QApplication::setActiveWindow(&above);
-    ASSERT_FALSE(box->hasFocus());
-    QApplication::setActiveWindow(&window);
-    ASSERT_TRUE(box->hasFocus());
-    QFocusEvent toMenu(QEvent::FocusOut, Qt::PopupFocusReason);
-    QApplication::sendEvent(box, &toMenu);
-    QFocusEvent fromMenu(QEvent::FocusIn, Qt::PopupFocusReason);
-    QApplication::sendEvent(box, &fromMenu);
-    EXPECT_EQ(focusLog, u"+box"_qs);
-    other->setFocus();
-    EXPECT_EQ(focusLog, u"+box-box"_qs);
-}
-
 TEST_F(TextBoxTest, AMemoRefusesWhatGoesBeyondItsLimit) {
     memo->setLimit(6);
     QTest::keyClicks(memo, u"abc"_qs);

@@ -48,19 +48,4 @@ TEST_F(NavigationBarTest, KeysGoFromItemToItemAndClick) {
     EXPECT_EQ(clicked.join(u' '), u"Fangbuch Basisdaten"_qs);
 }
 
-TEST_F(NavigationBarTest, ItemsMayGoInTheMiddleOfTheirOwnClick) {
-    QObject::connect(&bar, &NavigationBar::itemClicked, [this](const QString& key) {
-        for (BarGroup* group : bar.groups()) group->removeItem(key);
-    });
-    bar.group(u"System"_qs)->removeItem(u"Fangbuch"_qs);
-    EXPECT_TRUE(bar.item(u"Fangbuch"_qs)) << "it is in the other group";
-    for (const QString& key : {u"Zugriff"_qs, u"Parameter"_qs, u"Basisdaten"_qs})
-        QTest::mouseClick(bar.item(key), Qt::LeftButton);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    EXPECT_EQ(clicked.size(), 3);
-    EXPECT_TRUE(bar.group(u"System"_qs)->items().isEmpty()) << "the heading stays without items";
-    EXPECT_EQ(bar.item(u"Parameter"_qs), nullptr);
-    EXPECT_EQ(bar.findChild<QWidget*>(u"Parameter"_qs), nullptr);
-}
-
 } // namespace

@@ -108,24 +108,6 @@ TEST_F(DataTableModelTest, RowsOfOneTextGoTogetherAndTheOthersKeepTheirPlaceInTh
     EXPECT_EQ(layouts.size(), 1);
 }
 
-TEST_F(DataTableModelTest, FindComparesTheTextOnScreenWhateverKindTheCellIs) {
-    m_model.setColumns(columns(1));
-    for (const Value& value : std::vector<Value>{u"12", 12, 12.5, Value(), u"Aal", Date{25000}, true})
-        m_model.append(top, {value});
-    const auto found = [this](const char16_t* text, int first = 0) {
-        return m_model.find(top, 0, first, QString::fromUtf16(text));
-    };
-    EXPECT_EQ(found(u"12"), 0);
-    EXPECT_EQ(found(u"12", 1), 1);
-    EXPECT_EQ(found(u"12", 2), -1);
-    EXPECT_EQ(found(u"12,5"), 2);
-    EXPECT_EQ(found(u""), 3);
-    EXPECT_EQ(found(u"aal"), -1);
-    EXPECT_EQ(found(u"Aal"), 4);
-    EXPECT_EQ(found(u"11.06.1968"), 5);
-    EXPECT_EQ(found(u"Wahr"), 6);
-}
-
 TEST_F(DataTableModelTest, ChildTablesMoveWithTheirRow) {
     fillTwoLevels();
     const QPersistentModelIndex child = m_model.index(1, 1, m_model.index(2, 0));

@@ -75,29 +75,6 @@ TEST_F(ScreenTest, AModalScreenReturnsWhenItIsHiddenClosedOrUnloaded) {
     }
 }
 
-TEST_F(ScreenTest, TheWholeFacePaintedIsAnEventASmallUpdateIsNot) {
-    RecordingScreen face(u"face"_qs, log);
-    auto* column = new QVBoxLayout(&face);
-    auto* box = new QLineEdit;
-    column->addWidget(box);
-    face.resize(300, 200);
-    face.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&face));
-    QTest::qWait(20);
-    EXPECT_EQ(face.paints, 1);
-    box->update();
-    face.update(10, 10, 20, 20);
-    QTest::qWait(20);
-    EXPECT_EQ(face.paints, 1);
-    face.resize(320, 220);
-    QTest::qWait(20);
-    EXPECT_EQ(face.paints, 2);
-    face.hide();
-    face.show();
-    QTest::qWait(20);
-    EXPECT_EQ(face.paints, 3);
-}
-
 TEST_F(ScreenTest, EachKeyIsSeenOnceBeforeTheControl) {
     RecordingScreen form(u"form"_qs, log);
     auto* group = new QGroupBox(&form);
