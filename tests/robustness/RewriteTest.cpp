@@ -159,9 +159,7 @@ TEST_F(RewriteTest, AnExchangeThatFailsLeavesTheOldFile) {
 TEST_F(RewriteTest, ACopyThatTheDiskHasLostIsNoFile) {
     learn();
     for (int place = 4; place < 60; place += 4) {
-        loseWrite(place);
-        rewrite([] {});
-        emptyDisk();
+        rewriteAfter([=] { loseWrite(place); });
         ASSERT_TRUE(bytesOf(path()) == m_old || contentOf(path()) == m_rows) << place;
         QFile::remove(work());
         restore();
