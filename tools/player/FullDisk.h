@@ -2,21 +2,22 @@
 
 #include <QtGlobal>
 
-// What may be wrong with the disk, as the database library sees it.
+// Errors of the disk, as SQLite sees them.
 
-/// From here on the disk is full at the `place`th write, counted from 1, and stays so.
+/// The disk is full from the `place`th write on, counted from 1.
 void fillDiskAtWrite(int place);
-/// From here on the journal finds room and the file does not: each commit fails at its first page.
+/// From now on there is room for the journal only: each commit fails at its first page.
 void fillDiskAtCommits();
-/// The disk says that it has written, and has not: the `place`th write from here on.
+/// The `place`th write from now on is reported as done and is not done.
 void loseWrite(int place);
-/// There is room again.
+/// Ends the errors of writing.
 void emptyDisk();
-/// From here on reads of the byte at this place of any file fail; at -1 none.
+/// From now on reads of the byte at this place of any file fail; -1 for none.
 void failReadsAt(qint64 place);
-/// How many write transactions have ended since the last call, by the journals that were removed.
-int takeCommits();
+/// Call before the first connection, so that takeCommits() counts.
 void countCommits();
+/// The number of write transactions since the last call, by the journals that were removed.
+int takeCommits();
 
-/// Whether files that are opened from here on may not be written to. The tests' user may write everywhere.
+/// Whether files opened from now on are read-only. The tests run as root, who may write everywhere.
 void forbidWriting(bool forbidden);
