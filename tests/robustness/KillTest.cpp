@@ -27,7 +27,7 @@ void expectWhole(const QString& path) {
     }
 }
 
-// Random users run one after the other in one program folder. Set UW_KILLS=1000 for a long run.
+// Random users run one after the other in one program folder. UW_KILLS is their number.
 TEST(KillTest, LeavesWholeActionsOnly) {
     QTemporaryDir place;
     const QString folder = place.filePath(u"programm"_qs);
