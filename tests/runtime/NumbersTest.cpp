@@ -1,7 +1,6 @@
 #include "Conversions.h"
 #include "ErrorOf.h"
 
-#include <QLocale>
 #include <gtest/gtest.h>
 #include <limits>
 
@@ -90,14 +89,6 @@ TEST(Numbers, AreWrittenShortWithAComma) {
         {false, "Falsch"},
     };
     for (const auto& [value, text] : cases) EXPECT_EQ(CStr(value).toStdString(), text);
-}
-
-TEST(Numbers, DoNotDependOnTheLocaleInForce) {
-    const QLocale before;
-    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
-    EXPECT_EQ(CStr(1234.5).toStdString(), "1234,5");
-    EXPECT_EQ(CDbl(u"1.234,5"), 1234.5);
-    QLocale::setDefault(before);
 }
 
 TEST(Conversions, RefuseNull) {

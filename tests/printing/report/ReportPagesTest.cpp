@@ -157,7 +157,8 @@ TEST(PrintRunTest, ThePdfHasTheWantedPagesAndItsTextCanBeSearched) {
     printReport(*document, {some, nullptr, {2, 0}, 2});
     EXPECT_EQ(pagesIn(all), 3);
     EXPECT_EQ(pagesIn(some), 4);
-    if (QStandardPaths::findExecutable(u"pdftotext"_qs).isEmpty()) GTEST_SKIP() << "needs the package poppler-utils";
+    if (QStandardPaths::findExecutable(u"pdftotext"_qs).isEmpty())
+        GTEST_SKIP() << "needs the package poppler-utils";
     QProcess reader;
     reader.start(u"pdftotext"_qs, {u"-layout"_qs, u"-f"_qs, u"3"_qs, all, u"-"_qs});
     ASSERT_TRUE(reader.waitForFinished());

@@ -1,30 +1,6 @@
 #include "Transaction.h"
 #include "StoreFixture.h"
 
-#include <QFileInfo>
-#include <csignal>
-#include <functional>
-#include <sqlite3.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
-namespace {
-
-QByteArray lastCall;
-int (*openFolder)(const char*, int*) = nullptr;
-
-int noteRemoval(const char* path) {
-    lastCall = "removal";
-    return ::unlink(path);
-}
-
-int noteFolder(const char* path, int* handle) {
-    lastCall = "folder";
-    return openFolder(path, handle);
-}
-
-} // namespace
-
 class TransactionTest : public StoreTest {
 protected:
     static void rename(Recordset fish, const QString& name) {
@@ -50,21 +26,6 @@ TEST_F(TransactionTest, WritesWhenTheLastWritingCursorIsClosed) {
     EXPECT_EQ(namesInFile(), u"Aal;Zander;Äsche;Barsch");
     reading.MoveNext();
     EXPECT_EQ(reading.Fields(u"KNr"_qs).Value(), Value(2));
-}
-
-TEST_F(TransactionTest, FlushesTheFolderBehindTheRemovalOfTheJournal) {
-    sqlite3_vfs* files = sqlite3_vfs_find(nullptr);
-    const auto replaceCall = [&](const char* name, auto function) {
-        files->xSetSystemCall(files, name, reinterpret_cast<sqlite3_syscall_ptr>(function));
-    };
-    openFolder = reinterpret_cast<decltype(openFolder)>(files->xGetSystemCall(files, "openDirectory"));
-    replaceCall("unlink", &noteRemoval);
-    replaceCall("openDirectory", &noteFolder);
-    Recordset fish = table(u"Fisch");
-    rename(fish, u"Aal"_qs);
-    fish.Close();
-    EXPECT_EQ(lastCall, "folder");
-    files->xSetSystemCall(files, nullptr, nullptr);
 }
 
 TEST_F(TransactionTest, ReportsAFailedCommitAtTheCloseAndStaysUsable) {

@@ -57,21 +57,6 @@ protected:
     QAbstractItemModelTester m_tester;
 };
 
-TEST_F(DataTableModelTest, CellsComeBackAsTheyWentIn) {
-    m_model.setColumns(columns(7));
-    const std::vector<Value> cells{Value(), true, -5, 2.5, Date{25000}, Date{}, u"Hecht"};
-    const QStringList texts = u"|Wahr|-5|2,5|11.06.1968|00:00:00|Hecht"_qs.split(u'|');
-    m_model.append(top, cells);
-    for (int column = 0; column < 7; ++column) {
-        const auto place = static_cast<std::size_t>(column);
-        EXPECT_EQ(m_model.value(top, 0, column), cells[place]) << column;
-        EXPECT_EQ(m_model.text(top, 0, column), texts[column]) << column;
-        m_model.set(top, 0, column, cells[6 - place]);
-        EXPECT_EQ(m_model.value(top, 0, column), cells[6 - place]) << column;
-        m_model.set(top, 0, column, cells[place]);
-    }
-}
-
 TEST_F(DataTableModelTest, RowsAreInsertedAndRemovedOnBothSidesOfWhatTheViewKnows) {
     fill(top, {u"a", u"b"});
     m_model.publish();
