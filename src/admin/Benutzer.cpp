@@ -1,10 +1,8 @@
 #include "Benutzer.h"
 
 #include "DataTable.h"
-#include "Session.h"
 #include "ValueLabel.h"
 #include "modBenutzer.h"
-#include "modRun.h"
 
 #include <QTabWidget>
 
@@ -13,11 +11,7 @@ std::array<QCheckBox*, 10> Benutzer::Zugriffe() const {
             chkArbeit, chkBesatz, chkBasis,      chkBenutzer, chkSystem};
 }
 
-void Benutzer::Form_Load() {
-    tabBV->setCurrentIndex(userPage);
-    modRun::beendeVorgang();
-    session().AktZeile = 0;
-}
+void Benutzer::Form_Load() { tabBV->setCurrentIndex(userPage); }
 
 void Benutzer::Form_Activate() { modBenutzer::LadeGruppenCombo(cboBG); }
 
@@ -26,10 +20,7 @@ void Benutzer::Form_Paint() {
     lblGAnzahl->setText(QString::number(tblZugriff->rowCount()));
 }
 
-void Benutzer::Form_Deactivate() {
-    modRun::vergissOffenen();
-    modBenutzer::LeereBenutzerAnzeige();
-}
+void Benutzer::Form_Deactivate() { modBenutzer::LeereBenutzerAnzeige(); }
 
 void Benutzer::tabBV_Click(int page) {
     // Groups may have come, gone or been renamed on the page that is left.
@@ -41,13 +32,12 @@ void Benutzer::tabBV_Click(int page) {
 
 void Benutzer::tblBenutzer_OnGridCellOpen(int row) {
     if (row < 0) return;
-    session().AktZeile = row;
+    setGridRow(row);
     modBenutzer::LadeBenutzerVorgang();
 }
 
 void Benutzer::tblZugriff_OnGridCellOpen(int row) {
     if (row < 0) return;
-    session().AktZeile = row;
     modBenutzer::LadeGruppenVorgang(row);
 }
 

@@ -8,7 +8,6 @@
 #include "Toolbar.h"
 #include "ValueLabel.h"
 #include "modBenutzer.h"
-#include "modRun.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
@@ -76,9 +75,9 @@ void Benutzer::buildToolbar() {
         return tabBV->currentIndex() == userPage ? modBenutzer::benutzerErfassung()
                                                  : modBenutzer::gruppenErfassung();
     };
-    Toolbar1 = new Toolbar(this, &modRun::beendeVorgang);
+    Toolbar1 = new Toolbar(this);
     Face::addRecordKeys(
-        Toolbar1, [=] { erfassung().sichern(); }, [=] { erfassung().entfernen(); },
+        Toolbar1, [=, this] { erfassung().sichern(*this); }, [=, this] { erfassung().entfernen(*this); },
         &modBenutzer::LeereBenutzerEingabe);
 }
 

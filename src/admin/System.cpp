@@ -4,11 +4,10 @@
 #include "Face.h"
 #include "Gitter.h"
 #include "Heading.h"
-#include "Session.h"
+#include "Screens.h"
 #include "Tastenfilter.h"
 #include "TextBox.h"
 #include "Toolbar.h"
-#include "modRun.h"
 #include "modSystem.h"
 
 #include <QGridLayout>
@@ -18,14 +17,14 @@
 namespace {
 
 // Without a row opened, it is the address that the user has been working on.
-void sichere() { session().Modus == u"EDIT"_qs ? modSystem::UpdateParameter() : modSystem::UpdateAdresse(); }
+void sichere() { screen<System>().isEditing() ? modSystem::UpdateParameter() : modSystem::UpdateAdresse(); }
 
 } // namespace
 
 System::System()
     : Screen(u"System"_qs, u"Systemparameter"_qs) {
     Ueberschrift = new Heading(u"SYSTEMPARAMETER"_qs, this);
-    Toolbar1 = new Toolbar(this, &modRun::beendeVorgang);
+    Toolbar1 = new Toolbar(this);
     Toolbar1->addKeys({{u"tbSpeichern"_qs, u"&Speichern"_qs, u"Speichern"_qs, u"speichern"_qs, &sichere},
                        {u"tbAnzLoeschen"_qs, u"&Anz. löschen"_qs, u"Anzeige löschen"_qs,
                         u"anzeige-loeschen"_qs, &modSystem::LeereParameter}});
@@ -88,15 +87,11 @@ void System::buildParameters() {
     form->setRowStretch(3, 1);
 }
 
-void System::Form_Deactivate() {
-    modRun::vergissOffenen();
-    modSystem::LeereParameter();
-}
+void System::Form_Deactivate() { modSystem::LeereParameter(); }
 
 void System::tblSystem_OnGridCellOpen(int row) {
     if (row < 0) return;
     modSystem::LeereParameter();
     modSystem::LadeParameter(row);
-    session().Modus = u"EDIT"_qs;
-    session().AktZeile = row;
+    openRecord(tblSystem->cellText(row, 0), row);
 }

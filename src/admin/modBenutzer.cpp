@@ -13,11 +13,9 @@
 #include "Meldungen.h"
 #include "MsgBox.h"
 #include "Screens.h"
-#include "Session.h"
 #include "SqlText.h"
 #include "TextBox.h"
 #include "ValueLabel.h"
-#include "modRun.h"
 
 #include <QCheckBox>
 #include <QTabWidget>
@@ -123,7 +121,7 @@ void UpdateBenutzer(int row) {
         // A user who is gone is shown as typed. Without a number no user stands open but a group, and its row
         // is another user's here.
         if ((steht || fehlt) && !form.lblBNr->text().isEmpty()) {
-            const int zeile = modRun::zeileVon(form.tblBenutzer, form.lblBNr, row);
+            const int zeile = form.tblBenutzer->rowOf(form.lblBNr->text(), row);
             step([&] { form.tblBenutzer->setCell(zeile, 1, form.txtBenutzer->text()); });
             step([&] { form.tblBenutzer->setCell(zeile, 2, form.txtPassw->text()); });
             step([&] { form.tblBenutzer->setCell(zeile, gruppenSpalte, form.cboBG->currentText()); });
@@ -137,7 +135,7 @@ void LoescheBenutzer(int row) {
     withErrorTail(modul, u"LoescheBenutzer"_qs, [row](ErrorTail& step) {
         const Benutzer& form = screen<Benutzer>();
         if (Datensatz::loesche(step, u"Benutzer"_qs, form.lblBNr->text())) {
-            step([&] { form.tblBenutzer->removeRow(modRun::zeileVon(form.tblBenutzer, form.lblBNr, row)); });
+            step([&] { form.tblBenutzer->removeRow(form.tblBenutzer->rowOf(form.lblBNr->text(), row)); });
             zeigeAnzahl(form.lblBAnzahl, form.tblBenutzer);
         }
         LeereBenutzerEingabe();
@@ -166,7 +164,7 @@ void UpdateBG(int row) {
         if (Datensatz::aendere(step, u"Gruppen"_qs, form.lblGNr->text(), felderDerGruppe(step, form),
                                liesGruppe(step, zeile)))
             step([&] {
-                const int dort = modRun::zeileVon(form.tblZugriff, form.lblGNr, row);
+                const int dort = form.tblZugriff->rowOf(form.lblGNr->text(), row);
                 for (std::size_t column = 1; column < zeile.size(); ++column)
                     form.tblZugriff->setCell(dort, static_cast<int>(column), zeile[column]);
                 form.tblZugriff->markRow(dort);
@@ -179,7 +177,7 @@ void LoescheZugriff(int row) {
     withErrorTail(modul, u"LoescheZugriff"_qs, [row](ErrorTail& step) {
         const Benutzer& form = screen<Benutzer>();
         if (Datensatz::loesche(step, u"Gruppen"_qs, form.lblGNr->text())) {
-            step([&] { form.tblZugriff->removeRow(modRun::zeileVon(form.tblZugriff, form.lblGNr, row)); });
+            step([&] { form.tblZugriff->removeRow(form.tblZugriff->rowOf(form.lblGNr->text(), row)); });
             zeigeAnzahl(form.lblGAnzahl, form.tblZugriff);
             // The number of groups here too, until the next painting.
             zeigeAnzahl(form.lblBAnzahl, form.tblZugriff);
@@ -245,26 +243,26 @@ void LadeZugriff(int row) {
 
 void LadeBenutzerVorgang() {
     withErrorTail(modul, u"LadeBenutzerVorgang"_qs, [](ErrorTail& step) {
-        const Benutzer& form = screen<Benutzer>();
-        const int row = session().AktZeile;
+        Benutzer& form = screen<Benutzer>();
+        const int row = form.gridRow();
         LeereBenutzerEingabe();
         step([&] { form.lblBNr->setText(form.tblBenutzer->cellText(row, 0)); });
         step([&] { form.txtBenutzer->setText(form.tblBenutzer->cellText(row, 1)); });
         step([&] { form.txtPassw->setText(form.tblBenutzer->cellText(row, 2)); });
         step([&] { form.txtPasswBest->setText(form.tblBenutzer->cellText(row, 2)); });
         step([&] { form.cboBG->setText(form.tblBenutzer->cellText(row, gruppenSpalte)); });
-        modRun::beginneBearbeitung(form.lblBNr, row);
+        form.openRecord(form.lblBNr->text(), row);
     });
 }
 
 void LadeGruppenVorgang(int row) {
     withErrorTail(modul, u"LadeGruppenVorgang"_qs, [row](ErrorTail& step) {
-        const Benutzer& form = screen<Benutzer>();
+        Benutzer& form = screen<Benutzer>();
         LeereBenutzerEingabe();
         step([&] { form.lblGNr->setText(form.tblZugriff->cellText(row, 0)); });
         step([&] { form.txtGruppe->setText(form.tblZugriff->cellText(row, 1)); });
         LadeZugriff(row);
-        modRun::beginneBearbeitung(form.lblGNr, row);
+        form.openRecord(form.lblGNr->text(), row);
     });
 }
 

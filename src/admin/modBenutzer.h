@@ -42,7 +42,7 @@ QString ErmittleGName(qint32 gnr);
 void SichereZugriff(Recordset& gruppe);
 /// Grid row to check boxes.
 void LadeZugriff(int row);
-/// Opens the user of row AktZeile into the form.
+/// Opens the user of the screen's grid row into the form.
 void LadeBenutzerVorgang();
 /// Opens the group of a grid row into the form.
 void LadeGruppenVorgang(int row);

@@ -16,8 +16,8 @@
 #include "modBasis.h"
 #include "modFAuswert.h"
 #include "modFangbuch.h"
-#include "modRun.h"
 
+#include <QCheckBox>
 #include <algorithm>
 
 // The face of the screen is built in FangauswertungFace.cpp; here is what it does.
@@ -42,19 +42,12 @@ void Fangauswertung::Form_Activate() {
 
 void Fangauswertung::tbSuch_Click() {
     if (!modFAuswert::AuswahlGueltig()) return;
-    Session& s = session();
-    const bool filtered =
-        std::find(s.AuswertFilter.begin(), s.AuswertFilter.end(), true) != s.AuswertFilter.end();
-    if (!filtered) {
-        s.MsgAntwort =
-            MsgBox(u"ACHTUNG: Wirklich alle Fangdaten aus der Datenbank laden ?\r\n"_qs
-                   u"Bendenken Sie das die Ladezeit je nach Grösse der Datenbank sehr lange dauern kann !"_qs,
-                   vbYesNo);
-        if (s.MsgAntwort != vbYes) {
-            modRun::MeldeAbgebrochen();
-            return;
-        }
-    }
+    const auto filter = {chkArchiv, chkFArt, chkGName, chkFMonat, chkAnzahl, chkGewicht};
+    if (std::ranges::none_of(filter, &QCheckBox::isChecked) &&
+        !modRun::frage(
+            u"ACHTUNG: Wirklich alle Fangdaten aus der Datenbank laden ?\r\n"_qs
+            u"Bendenken Sie das die Ladezeit je nach Grösse der Datenbank sehr lange dauern kann !"_qs))
+        return modRun::MeldeAbgebrochen();
     tblFAusw->clearRows();
     for (ValueLabel* label : {lblGefDS, lblSumAnz, lblSumGew}) label->setText(QString());
     modFAuswert::LadeAuswahl();
@@ -76,12 +69,11 @@ void Fangauswertung::drucke(const QString& wort) {
 
 void Fangauswertung::tblFAusw_OnGridCellDown(int row) {
     session().KontextZeileOK = row >= 0;
-    if (row >= 0) session().AktZeile = row;
+    if (row >= 0) setGridRow(row);
 }
 
 void Fangauswertung::tblFAusw_OnGridCellMenu() {
-    const Session& s = session();
-    if (s.AktZeile >= 0 && tblFAusw->rowCount() >= 1 && s.KontextZeileOK) rahmen()->loadKontMenu_FAusw();
+    if (tblFAusw->rowCount() >= 1 && session().KontextZeileOK) rahmen()->loadKontMenu_FAusw();
 }
 
 void Fangauswertung::tblFAusw_OnGridCellOpen(int row) {
@@ -91,10 +83,12 @@ void Fangauswertung::tblFAusw_OnGridCellOpen(int row) {
         return;
     }
     modFangbuch::FangAnzeigeLoeschen();
-    session().Modus = u"EDIT"_qs;
-    session().AktZeile = row;
+    setGridRow(row);
+    // Before the catch book comes to the front, which would fill its lists anew for an entry.
+    auto& fangbuch = screen<Fangbuch>();
+    fangbuch.openRecord(tblFAusw->cellText(row, 0), row);
     Hide();
-    screen<Fangbuch>().Show();
+    fangbuch.Show();
     modFangbuch::loadFang(tblFAusw, row);
-    modRun::beginneBearbeitung(screen<Fangbuch>().lblFNr, row);
+    fangbuch.openRecord(fangbuch.lblFNr->text(), row);
 }

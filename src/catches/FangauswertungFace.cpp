@@ -20,6 +20,7 @@
 
 Fangauswertung::Fangauswertung()
     : Screen(u"Fangauswertung"_qs, u"Fangauswertung"_qs) {
+    standForReading();
     Ueberschrift = new Heading(u"FANGAUSWERTUNG"_qs, this);
     buildToolbar();
     Frame1 = Face::frame(u"Frame1"_qs, u"Liste generieren..."_qs, this);

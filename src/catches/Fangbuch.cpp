@@ -18,12 +18,10 @@
 #include "ValueLabel.h"
 #include "modBasis.h"
 #include "modFangbuch.h"
-#include "modRun.h"
 
 // The face of the screen is built in FangbuchFace.cpp; here is what it does.
 
 void Fangbuch::Form_Load() {
-    modFangbuch::InitFangbuch();
     beobachteBasisdaten();
     modBasis::loadcboFArt(cboFArt);
     modBasis::loadcboGName(cboGName);
@@ -46,19 +44,15 @@ void Fangbuch::beobachteBasisdaten() {
 }
 
 void Fangbuch::Form_Activate() {
-    modRun::nimmOffenenWiederAuf(*this);
     // A catch that has just been opened from the evaluation must not lose what it shows.
-    if (session().Modus != u"SAVE"_qs) return;
+    if (isEditing()) return;
     zeigeAnzahlen();
     modBasis::loadcboFArt(cboFArt);
     modBasis::loadcboGName(cboGName);
     cboFArt->setFocus();
 }
 
-void Fangbuch::Form_Deactivate() {
-    modRun::legeOffenenBeiseite(*this);
-    modFangbuch::FangAnzeigeLoeschen();
-}
+void Fangbuch::Form_Deactivate() { modFangbuch::FangAnzeigeLoeschen(); }
 
 void Fangbuch::zeigeAnzahlen() {
     lblAnzahl->setText(QString::number(tblFList->rowCount()));
@@ -132,5 +126,5 @@ void Fangbuch::tblFList_OnGridCellOpen(int row) {
     if (row < 0) return;
     modFangbuch::FangAnzeigeLoeschen();
     modFangbuch::loadFang(tblFList, row);
-    modRun::beginneBearbeitung(lblFNr, row);
+    openRecord(lblFNr->text(), row);
 }

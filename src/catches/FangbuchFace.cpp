@@ -13,7 +13,6 @@
 #include "Toolbar.h"
 #include "ValueLabel.h"
 #include "modFangbuch.h"
-#include "modRun.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
@@ -21,6 +20,7 @@
 
 Fangbuch::Fangbuch()
     : Screen(u"Fangbuch"_qs, u"Fangbuch"_qs) {
+    keepRecord();
     Ueberschrift = new Heading(u"FANGBUCH"_qs, this);
     buildToolbar();
     buildEntry();
@@ -43,13 +43,13 @@ void Fangbuch::buildToolbar() {
     const auto sichere = [=, this] {
         // F3 and the toolbar leave the caret where it is, so the month may not have been checked yet.
         txtMonNr_LostFocus();
-        faenge.sichern();
+        faenge.sichern(*this);
     };
-    Toolbar1 = new Toolbar(this, &modRun::beendeVorgang);
+    Toolbar1 = new Toolbar(this);
     Toolbar1->addKeys({{u"tbSpeichern"_qs, u"&Speichern [ F3 ]"_qs,
                         u"Speichern des Eintrages ins Fangbuch"_qs, u"speichern"_qs, sichere},
                        {u"tbLoeschen"_qs, u"&Löschen [ F8 ]"_qs, u"Löschen des Eintrages"_qs, u"loeschen"_qs,
-                        [=] { faenge.entfernen(); }},
+                        [=, this] { faenge.entfernen(*this); }},
                        {u"tbAnzLoeschen"_qs, u"&Anz. löschen [ F2 ]"_qs, u"Anzeige löschen"_qs,
                         u"anzeige-loeschen"_qs, &FangAnzeigeLoeschen}});
 }

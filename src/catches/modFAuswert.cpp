@@ -20,7 +20,6 @@
 #include "TextBox.h"
 #include "ValueLabel.h"
 #include "modFangbuch.h"
-#include "modRun.h"
 
 #include <QCheckBox>
 #include <QScopeGuard>
@@ -188,10 +187,11 @@ void AuswertAnzeigeLoeschen() {
 void mnuFangInfo_Click() {
     Fangauswertung& form = screen<Fangauswertung>();
     modFangbuch::FangAnzeigeLoeschen();
-    modFangbuch::loadFang(form.tblFAusw, session().AktZeile);
-    modRun::beginneBearbeitung(screen<Fangbuch>().lblFNr, session().AktZeile);
+    modFangbuch::loadFang(form.tblFAusw, form.gridRow());
+    auto& fangbuch = screen<Fangbuch>();
+    fangbuch.openRecord(fangbuch.lblFNr->text(), form.gridRow());
     form.Hide();
-    screen<Fangbuch>().Show();
+    fangbuch.Show();
 }
 
 } // namespace modFAuswert

@@ -19,7 +19,6 @@
 #include "ValueLabel.h"
 #include "Zugriff.h"
 #include "modBasis.h"
-#include "modRun.h"
 
 namespace modFangbuch {
 
@@ -62,11 +61,6 @@ void zeigeNeuen(ErrorTail& step, std::vector<Value> zeile, const Fangbuch& form)
 }
 
 } // namespace
-
-void InitFangbuch() {
-    modRun::beendeVorgang();
-    session().AktZeile = 0;
-}
 
 void SpeicherFang() {
     withErrorTail(modul, u"SpeicherFang"_qs, [](ErrorTail& step) {

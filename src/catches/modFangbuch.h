@@ -10,8 +10,6 @@ class ProgressBar;
 /// The record routines of the catch book.
 namespace modFangbuch {
 
-void InitFangbuch();
-
 /// The entry form as a new record.
 void SpeicherFang();
 /// The entry form over the record whose number the form shows; `row` is its grid row.

@@ -8,13 +8,11 @@
 #include "KontaktUebers.h"
 #include "Rahmen.h"
 #include "Screens.h"
-#include "Session.h"
 #include "TextBox.h"
 #include "Toolbar.h"
 #include "ValueLabel.h"
 #include "modFangbuch.h"
 #include "modKatego.h"
-#include "modRun.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
@@ -46,9 +44,9 @@ void Katego::buildToolbar() {
                  u"Trotzdem löschen ?"_qs,
         // A no clears the catch book; the name stays here, to be saved again if wanted.
         .beiNein = &modFangbuch::FangAnzeigeLoeschen};
-    Toolbar1 = new Toolbar(this, &modRun::beendeVorgang);
+    Toolbar1 = new Toolbar(this);
     Face::addRecordKeys(
-        Toolbar1, [=] { kategorien.sichern(); }, [=] { kategorien.entfernen(); },
+        Toolbar1, [=, this] { kategorien.sichern(*this); }, [=, this] { kategorien.entfernen(*this); },
         &modKatego::KategoAnzeigeLoeschen);
     Toolbar1->addKeys({{u"tbEsc"_qs, u"&Schließen"_qs, u"Zurück zur Kontakt - Übersicht"_qs, u"schliessen"_qs,
                         [this] { Schliessen(); }}});
@@ -88,13 +86,7 @@ void Katego::buildTable() {
     column->addWidget(tblKatego, 1);
 }
 
-void Katego::Form_Load() {
-    modRun::beendeVorgang();
-    session().AktZeile = 0;
-}
-
 void Katego::Form_Deactivate() {
-    modRun::vergissOffenen();
     tblKatego->selectRows(0, tblKatego->rowCount(), false);
     lblKategoNr->setText(QString());
     txtKatego->setText(QString());
@@ -119,5 +111,5 @@ void Katego::tblKatego_OnGridCellOpen(int row, int column) {
     if (row < 0) return;
     modKatego::KategoAnzeigeLoeschen();
     modKatego::loadKatego(row, column);
-    modRun::beginneBearbeitung(lblKategoNr, row);
+    openRecord(lblKategoNr->text(), row);
 }

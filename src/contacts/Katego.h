@@ -17,7 +17,6 @@ class Katego : public Screen {
 public:
     Katego();
 
-    void Form_Load() override;
     void Form_Deactivate() override;
     void Form_Paint() override;
     bool Form_KeyDown(int key, Qt::KeyboardModifiers modifiers) override;

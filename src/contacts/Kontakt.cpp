@@ -6,7 +6,6 @@
 #include "MemoBox.h"
 #include "MsgBox.h"
 #include "Screens.h"
-#include "Session.h"
 #include "TextBox.h"
 #include "modKontakt.h"
 
@@ -39,11 +38,10 @@ void Kontakt::sperre() {
 }
 
 void Kontakt::Speichern() {
-    const Session& s = session();
-    if (s.Modus == u"EDIT"_qs) {
+    if (isEditing()) {
         // An incomplete mask is left as it is, without a word; the next press takes it for a new contact.
         if (!modKontakt::EingabeKontaktOK()) return;
-        s.AusSuche ? modKontakt::UpdateSQLKontakt() : modKontakt::UpdateKontakt();
+        AusSuche ? modKontakt::UpdateSQLKontakt() : modKontakt::UpdateKontakt();
     } else if (modKontakt::EingabeKontaktOK()) {
         modKontakt::SpeicherKontakt();
     } else {

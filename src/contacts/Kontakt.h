@@ -28,6 +28,9 @@ public:
     void sperre();
     bool istGesperrt() const { return m_gesperrt; }
 
+    /// Opened from the search. The overview's grid then has no row that is known to be the contact's.
+    bool AusSuche = false;
+
     Toolbar* Toolbar1;
     QTabWidget* TabKont;
 

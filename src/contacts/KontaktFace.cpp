@@ -7,7 +7,6 @@
 #include "Toolbar.h"
 #include "ValueLabel.h"
 #include "modKontakt.h"
-#include "modRun.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
@@ -71,7 +70,7 @@ Kontakt::Kontakt()
 }
 
 void Kontakt::buildToolbar() {
-    Toolbar1 = new Toolbar(this, &modRun::beendeVorgang);
+    Toolbar1 = new Toolbar(this);
     Face::addRecordKeys(
         Toolbar1, [this] { Speichern(); }, [this] { Loeschen(); }, &modKontakt::KontaktAnzeigeLoeschen);
 }

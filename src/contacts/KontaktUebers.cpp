@@ -11,12 +11,10 @@
 #include "MsgBox.h"
 #include "Rahmen.h"
 #include "Screens.h"
-#include "Session.h"
 #include "SuchKont.h"
 #include "Toolbar.h"
 #include "Uebersicht.h"
 #include "modKontakt.h"
-#include "modRun.h"
 #include "modSerienbrief.h"
 
 #include <QBoxLayout>
@@ -31,17 +29,23 @@ void bieteAlleKategorien(ComboBox* combo) {
     combo->InsertItem(0, u"Alle"_qs);
 }
 
+/// Opens the contact of a row in the mask, and on the overview too, which lies below the mask.
+void oeffneMaske(DataTable* grid, int row, int column, bool ausSuche) {
+    const QString nummer = grid->cellText(row, 0);
+    Kontakt& maske = screen<Kontakt>();
+    for (Screen* offen : std::initializer_list<Screen*>{&screen<KontaktUebers>(), &maske})
+        offen->openRecord(nummer, row);
+    maske.AusSuche = ausSuche;
+    modKontakt::loadKontakt(grid, row, column);
+}
+
 void oeffneTreffer(SuchKont& suche, int row, int column) {
     if (!modKontakt::KontaktZugriff_Erlaubt()) {
         modRun::MeldeKeinZugriff();
         return;
     }
-    Session& s = session();
-    s.Modus = u"EDIT"_qs;
-    s.AktZeile = row;
-    s.AusSuche = true;
-    modKontakt::loadKontakt(suche.tblSuch, row, column);
-    s.AusSuche = false;
+    // Until a press in the mask the hit stands open, and the search leaves the focus on it.
+    oeffneMaske(suche.tblSuch, row, column, true);
 }
 
 } // namespace
@@ -70,10 +74,10 @@ KontaktUebers::KontaktUebers()
 }
 
 void KontaktUebers::buildToolbar() {
-    Toolbar1 = new Toolbar(this, &modRun::beendeVorgang);
+    Toolbar1 = new Toolbar(this);
     Toolbar1->addKeys(
         {{u"tbKontakt"_qs, u"Neuer Kontakt"_qs, u"Neuer Kontakt oder neues Mitglied..."_qs, u"kontakt"_qs,
-          [this] { NeuerKontakt(); }},
+          [] { screen<Kontakt>().ShowModal(); }},
          {u"tbKatego"_qs, u"Kategorien bearb."_qs, u"Kategorien bearbeiten..."_qs, u"kategorie"_qs,
           [this] { BearbeiteKategorien(); }},
          {u"tbWord"_qs, u"Word-Datei"_qs, u"Serienbrief - Datei für Word erzeugen..."_qs, u"word"_qs,
@@ -83,11 +87,7 @@ void KontaktUebers::buildToolbar() {
           [] { rahmen()->zeigeMitgliederliste(); }}});
 }
 
-void KontaktUebers::Form_Load() {
-    SuchKont::registriere(0, {&bieteAlleKategorien, true, &oeffneTreffer});
-    modRun::beendeVorgang();
-    session().AktZeile = 0;
-}
+void KontaktUebers::Form_Load() { SuchKont::registriere(0, {&bieteAlleKategorien, true, &oeffneTreffer}); }
 
 void KontaktUebers::Form_Deactivate() { unload<SuchKont>(); }
 
@@ -95,11 +95,6 @@ bool KontaktUebers::Form_KeyDown(int key, Qt::KeyboardModifiers modifiers) {
     if (key != Qt::Key_F || modifiers != Qt::ControlModifier) return false;
     Toolbar1->key(u"tbSuch"_qs)->click();
     return true;
-}
-
-void KontaktUebers::NeuerKontakt() {
-    modRun::beendeVorgang();
-    screen<Kontakt>().ShowModal();
 }
 
 void KontaktUebers::BearbeiteKategorien() {
@@ -113,19 +108,14 @@ void KontaktUebers::Suchen() {
 }
 
 void KontaktUebers::ErzeugeSerienbriefDatei() {
-    Session& s = session();
-    s.MsgAntwort = MsgBox(u"Wollen Sie eine Serienbrief - Datei für Word mit der Bezeichnung - SERI.txt - "_qs
-                          u"erzeugen ?"_qs,
-                          vbYesNo);
-    if (s.MsgAntwort != vbYes) {
-        modRun::MeldeAbgebrochen();
-        return;
-    }
+    if (!modRun::frage(u"Wollen Sie eine Serienbrief - Datei für Word mit der Bezeichnung - SERI.txt - "_qs
+                       u"erzeugen ?"_qs))
+        return modRun::MeldeAbgebrochen();
     tblKUebers->enter({});
     if (tblKUebers->rowCount() < 1) {
         MsgBox(u"Keine Daten zum erzeugen der Datei - SERI.txt - gefunden, der Vorgang wird abgebrochen !"_qs,
                vbInformation);
-    } else if (std::ranges::count(s.KategoOffen, true) < 1) {
+    } else if (std::ranges::count(KategoOffen, true) < 1) {
         // So it is also before the first press in the grid, when nothing is known of any category.
         MsgBox(u"Um eine Serienbrief - Datei erzeugen zu können, müssen Sie die gewünschten Kategorien "_qs
                u"vorher aufklappen !"_qs,
@@ -136,9 +126,8 @@ void KontaktUebers::ErzeugeSerienbriefDatei() {
 }
 
 void KontaktUebers::tblKUebers_OnGridCellDown(int row, int column) {
-    Session& s = session();
     const TableHandle gedrueckt = tblKUebers->enter({});
-    s.KategoOffen.resize(std::size_t(tblKUebers->rowCount()));
+    KategoOffen.resize(std::size_t(tblKUebers->rowCount()));
     // The gutter of a contact's row is none of a category's.
     if (gedrueckt.parentRow >= 0) {
         tblKUebers->enter(gedrueckt);
@@ -148,14 +137,13 @@ void KontaktUebers::tblKUebers_OnGridCellDown(int row, int column) {
 }
 
 void KontaktUebers::klappe(int row) {
-    Session& s = session();
-    const bool oeffnet = !s.KategoOffen[std::size_t(row)];
+    const bool oeffnet = !KategoOffen[std::size_t(row)];
     tblKUebers->setCell(row, Uebersicht::spalteZustand, oeffnet ? u"-"_qs : u"+"_qs);
     if (oeffnet) modKontakt::KategorieAufklappen(row, CLng(tblKUebers->cell(row, Uebersicht::spalteNr)));
     // What stands open on the screen is what gets into the file for serial letters.
     tblKUebers->setOpen(row, oeffnet);
-    s.KategoOffen[std::size_t(row)] = oeffnet;
-    s.LetzterKlappZustand = oeffnet;
+    KategoOffen[std::size_t(row)] = oeffnet;
+    LetzterKlappZustand = oeffnet;
 }
 
 void KontaktUebers::tblKUebers_OnGridCellOpen(int row, int column) {
@@ -164,8 +152,6 @@ void KontaktUebers::tblKUebers_OnGridCellOpen(int row, int column) {
         modRun::MeldeKeinZugriff();
         return;
     }
-    session().Modus = u"EDIT"_qs;
-    session().AktZeile = row;
-    modKontakt::loadKontakt(tblKUebers, row, column);
-    modRun::beendeVorgang();
+    oeffneMaske(tblKUebers, row, column, false);
+    Screens::giveUpRecords();
 }

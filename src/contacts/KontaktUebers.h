@@ -2,6 +2,8 @@
 
 #include "Screen.h"
 
+#include <vector>
+
 class DataTable;
 class Heading;
 class QLabel;
@@ -20,6 +22,9 @@ public:
     bool Form_KeyDown(int key, Qt::KeyboardModifiers modifiers) override;
 
     Heading* Ueberschrift;
+    /// What the last press on a category has left behind, of any category: true if it opened one.
+    bool LetzterKlappZustand = false;
+
     Toolbar* Toolbar1;
     DataTable* tblKUebers;
     QLabel* Label2;
@@ -27,7 +32,6 @@ public:
 
 private:
     void buildToolbar();
-    void NeuerKontakt();
     void BearbeiteKategorien();
     void ErzeugeSerienbriefDatei();
     void Suchen();
@@ -35,4 +39,7 @@ private:
     void klappe(int row);
     void tblKUebers_OnGridCellDown(int row, int column);
     void tblKUebers_OnGridCellOpen(int row, int column);
+
+    /// By the row of the moment: true if the category is open. Empty until the first press.
+    std::vector<bool> KategoOffen;
 };

@@ -6,6 +6,7 @@
 #include "Face.h"
 #include "Gitter.h"
 #include "Namen.h"
+#include "Screens.h"
 #include "Session.h"
 #include "Tastenfilter.h"
 #include "TextBox.h"
@@ -94,7 +95,7 @@ void SuchKont::Form_Load() {
 }
 
 void SuchKont::Form_Paint() {
-    if (session().Modus == u"SAVE"_qs) txtSuch->setFocus();
+    if (!Screens::editing()) txtSuch->setFocus();
 }
 
 bool SuchKont::Form_KeyDown(int key, Qt::KeyboardModifiers) {

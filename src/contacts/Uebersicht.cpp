@@ -3,7 +3,6 @@
 #include "DataTable.h"
 #include "KontaktUebers.h"
 #include "Screens.h"
-#include "Session.h"
 
 #include <array>
 
@@ -124,7 +123,7 @@ void zeigeNeuen(qint32 kategonr, const QString& name, std::span<const Value> zei
     const int row = findeKategorie(kategonr);
     if (row < 0) return;
     const qint32 vorher = anzahl(row);
-    if (session().LetzterKlappZustand && vorher >= 1)
+    if (screen<KontaktUebers>().LetzterKlappZustand && vorher >= 1)
         fuegeKontaktAn(row, zeile);
     else
         legeKindMitPlatzhalterAn(row);

@@ -10,7 +10,6 @@
 #include "Namen.h"
 #include "Recordset.h"
 #include "Screens.h"
-#include "Session.h"
 #include "TextBox.h"
 #include "Uebersicht.h"
 #include "ValueLabel.h"

@@ -5,6 +5,7 @@
 #include "DataTable.h"
 #include "Datenbank.h"
 #include "KontaktUebers.h"
+#include "Meldungen.h"
 #include "MsgBox.h"
 #include "Namen.h"
 #include "OtherProgram.h"
@@ -190,12 +191,10 @@ void ErzeugeSeriendatei() {
         return;
     }
     MsgBox(u" - SERI.txt - wurde erfolgreich im Pfad: ..\\uferwart\\seqdata\\ erstellt !"_qs, vbInformation);
-    session().MsgAntwort =
-        MsgBox(u"Möchten Sie jetzt Word starten ? Dabei wird Ihnen von Uferwart automatisch ein "_qs
-               u"Std.- Serienbrief Dokument\n\r"_qs
-               u"erstellt. Möchten Sie Word starten um einen Seriendruck zu erstellen ? "_qs,
-               vbYesNo);
-    if (session().MsgAntwort == vbYes) StarteWordSerienbrief();
+    if (modRun::frage(u"Möchten Sie jetzt Word starten ? Dabei wird Ihnen von Uferwart automatisch ein "_qs
+                      u"Std.- Serienbrief Dokument\n\r"_qs
+                      u"erstellt. Möchten Sie Word starten um einen Seriendruck zu erstellen ? "_qs))
+        StarteWordSerienbrief();
 }
 
 void StarteWordSerienbrief() {

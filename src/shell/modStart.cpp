@@ -10,6 +10,7 @@
 #include "KontaktUebers.h"
 #include "Login.h"
 #include "Main.h"
+#include "Meldungen.h"
 #include "MsgBox.h"
 #include "NavigationBar.h"
 #include "ProgressBar.h"
@@ -132,11 +133,9 @@ void StarteUferwart() {
 }
 
 bool RepariereAufWunsch() {
-    session().MsgAntwort =
-        MsgBox(u"ACHTUNG: Datenbank konnte nicht geöffnet werden. Soll Uferwart versuchen die "_qs +
-                   u"Datenbank zu reparieren?"_qs,
-               vbYesNo);
-    if (session().MsgAntwort != vbYes) return false;
+    if (!modRun::frage(u"ACHTUNG: Datenbank konnte nicht geöffnet werden. Soll Uferwart versuchen die "_qs
+                       u"Datenbank zu reparieren?"_qs))
+        return false;
     modTools::RepariereDatenbank();
     return true;
 }

@@ -1,6 +1,7 @@
 #include "Conversions.h"
 #include "Datenbank.h"
 #include "ErrorTail.h"
+#include "Meldungen.h"
 #include "MsgBox.h"
 #include "Session.h"
 #include "Transaction.h"
@@ -18,7 +19,7 @@ namespace modStart {
 
 namespace {
 
-int frageNachSystemjahr() {
+bool frageNachSystemjahr() {
     constexpr int blanks = 66;
     const QStringList lines = {
         u"WICHTIG: Akt. Systemjahr hat sich geändert ! Akt. Systemjahr = %1"_qs.arg(session().AktJahr),
@@ -27,16 +28,15 @@ int frageNachSystemjahr() {
         QString(blanks, u' '),
         u"Wollen Sie das Systemjahr als Fangjahr übernehmen?"_qs,
     };
-    return session().MsgAntwort = MsgBox(lines.join(u"\n\r"_qs), vbYesNo);
+    return modRun::frage(lines.join(u"\n\r"_qs));
 }
 
 void schalteVor(qint32 altesJahr) {
-    session().MsgAntwort = MsgBox(u"ACHTUNG: Mehrleistungen der Arb.-Std ins neue Fangjahr übernehmen !"_qs,
-                                  vbYesNo, u"Uferwart [Arbeitscontrolling]"_qs);
-    if (session().MsgAntwort == vbNo)
-        MsgBox(u"Mehrleistungs - Übernahme durch User verhindert !"_qs, vbInformation);
-    else
+    if (modRun::frage(u"ACHTUNG: Mehrleistungen der Arb.-Std ins neue Fangjahr übernehmen !"_qs,
+                      u"Uferwart [Arbeitscontrolling]"_qs))
         modArbeit::UebernehmeStunden(altesJahr);
+    else
+        MsgBox(u"Mehrleistungs - Übernahme durch User verhindert !"_qs, vbInformation);
     MsgBox(u"ACHTUNG: Jahresbeitragsflags der Mitglieder werden auf - nicht bezahlt - gesetzt !"_qs,
            vbInformation);
     modKontakt::ReinitialisiereJB();
@@ -70,10 +70,8 @@ std::optional<qint32> uebernehmeJahr(ErrorTail& step, Recordset& system, std::op
 /// Copies the database. False if that failed and the user does not want to go on without a copy.
 bool istGesichert() {
     if (modSicherung::SichereDatenbank()) return true;
-    session().MsgAntwort = MsgBox(modSicherung::Fehlschlag() +
-                                      u"\n\rSoll das neue Jahr trotzdem ohne Sicherungskopie beginnen ?"_qs,
-                                  vbYesNo);
-    return session().MsgAntwort == vbYes;
+    return modRun::frage(modSicherung::Fehlschlag() +
+                         u"\n\rSoll das neue Jahr trotzdem ohne Sicherungskopie beginnen ?"_qs);
 }
 
 /// Changes the year in one transaction, so that all of it is written or, if the program is ended in the
@@ -105,7 +103,7 @@ bool KontrolliereSystemJahr() {
         // Closed before the question, so that a user who takes his time does not keep others from saving.
         step([&] { system.Close(); });
         result = fangjahr == session().AktJahr;
-        if (!result && frageNachSystemjahr() == vbYes && istGesichert()) wechsleJahr(step, result);
+        if (!result && frageNachSystemjahr() && istGesichert()) wechsleJahr(step, result);
     });
     return result;
 }

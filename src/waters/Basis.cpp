@@ -9,7 +9,6 @@
 #include "Toolbar.h"
 #include "ValueLabel.h"
 #include "modBasis.h"
-#include "modRun.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
@@ -75,6 +74,7 @@ QWidget* asTab(QGroupBox* frame) {
 
 Basis::Basis()
     : Screen(u"Basis"_qs, u"Basisdaten"_qs) {
+    keepRecord();
     Ueberschrift = new Heading(u"BASISDATEN"_qs, this);
     buildToolbar();
     buildFishPage();
@@ -99,13 +99,13 @@ void Basis::buildToolbar() {
         return TabBasis->currentIndex() == fishPage ? modBasis::fischErfassung()
                                                     : modBasis::gewaesserErfassung();
     };
-    Toolbar1 = new Toolbar(this, &modRun::beendeVorgang);
-    Toolbar1->addKeys(
-        {{u"tbSpeichern"_qs, u"&Speichern "_qs, u"Speichern"_qs, u"speichern"_qs,
-          [=] { erfassung().sichern(); }},
-         {u"tbLoeschen"_qs, u"&Löschen "_qs, u"Löschen"_qs, u"loeschen"_qs, [=] { erfassung().entfernen(); }},
-         {u"tbAnzLoeschen"_qs, u"&Anz. löschen"_qs, u"Anzeige löschen"_qs, u"anzeige-loeschen"_qs,
-          &modBasis::BasisAnzeigeLoeschen}});
+    Toolbar1 = new Toolbar(this);
+    Toolbar1->addKeys({{u"tbSpeichern"_qs, u"&Speichern "_qs, u"Speichern"_qs, u"speichern"_qs,
+                        [=, this] { erfassung().sichern(*this); }},
+                       {u"tbLoeschen"_qs, u"&Löschen "_qs, u"Löschen"_qs, u"loeschen"_qs,
+                        [=, this] { erfassung().entfernen(*this); }},
+                       {u"tbAnzLoeschen"_qs, u"&Anz. löschen"_qs, u"Anzeige löschen"_qs,
+                        u"anzeige-loeschen"_qs, &modBasis::BasisAnzeigeLoeschen}});
 }
 
 void Basis::buildFishPage() {
@@ -154,23 +154,18 @@ void Basis::Form_Paint() {
     lblGAnzahl->setText(QString::number(tblGBasis->rowCount()));
 }
 
-void Basis::Form_Activate() { modRun::nimmOffenenWiederAuf(*this); }
-
-void Basis::Form_Deactivate() {
-    modRun::legeOffenenBeiseite(*this);
-    modBasis::BasisAlleAnzeigenLoeschen();
-}
+void Basis::Form_Deactivate() { modBasis::BasisAlleAnzeigenLoeschen(); }
 
 void Basis::tblFBasis_OnGridCellOpen(int row, int column) {
     if (row < 0) return;
     modBasis::BasisAnzeigeLoeschen();
     modBasis::loadFAuswahl(row, column);
-    modRun::beginneBearbeitung(lblFNr, row);
+    openRecord(lblFNr->text(), row);
 }
 
 void Basis::tblGBasis_OnGridCellOpen(int row, int column) {
     if (row < 0) return;
     modBasis::BasisAnzeigeLoeschen();
     modBasis::loadGAuswahl(row, column);
-    modRun::beginneBearbeitung(lblGNr, row);
+    openRecord(lblGNr->text(), row);
 }

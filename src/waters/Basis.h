@@ -23,7 +23,6 @@ public:
 
     void Form_Load() override;
     void Form_Paint() override;
-    void Form_Activate() override;
     void Form_Deactivate() override;
 
     /// Told when a name in the file has become another ("UPDATE") or is gone ("LOESCHEN"), so that a list

@@ -11,13 +11,10 @@
 #include "ValueLabel.h"
 #include "modBasis.h"
 #include "modBesatzList.h"
-#include "modRun.h"
 
 // The face of the screen is built in BesatzungFace.cpp; here is what it does.
 
 void Besatzung::Form_Load() {
-    modRun::beendeVorgang();
-    session().AktZeile = 0;
     modBasis::loadcboFArt(cboFArt);
     modBasis::loadcboGName(cboGName);
 }
@@ -28,8 +25,7 @@ void Besatzung::Form_Activate() {
         session().NachReport = false;
         return;
     }
-    modRun::nimmOffenenWiederAuf(*this);
-    if (session().Modus != u"SAVE"_qs) return;
+    if (isEditing()) return;
     modBasis::loadcboFArt(cboFArt);
     modBasis::loadcboGName(cboGName);
     loadcboFJahr(cboBJahr);
@@ -38,9 +34,7 @@ void Besatzung::Form_Activate() {
 }
 
 void Besatzung::Form_Deactivate() {
-    if (session().NachReport) return;
-    modRun::legeOffenenBeiseite(*this);
-    modBesatzList::BesatzAnzeigeLoeschen();
+    if (!session().NachReport) modBesatzList::BesatzAnzeigeLoeschen();
 }
 
 void Besatzung::zeigeAnzahl() { lblAnzahl->setText(QString::number(tblBList->rowCount())); }
@@ -88,6 +82,6 @@ void Besatzung::tblBList_OnGridCellOpen(int row) {
     if (row < 0) return;
     modBesatzList::BesatzAnzeigeLoeschen();
     modBesatzList::loadEintrag(tblBList, row);
-    modRun::beginneBearbeitung(lblBNr, row);
+    openRecord(lblBNr->text(), row);
     cboFArt->setFocus();
 }

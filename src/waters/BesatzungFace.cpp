@@ -10,7 +10,6 @@
 #include "Toolbar.h"
 #include "ValueLabel.h"
 #include "modBesatzList.h"
-#include "modRun.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
@@ -18,6 +17,7 @@
 
 Besatzung::Besatzung()
     : Screen(u"Besatzung"_qs, u"Besatz - Plan"_qs) {
+    keepRecord();
     Ueberschrift = new Heading(u"BESATZ - PLAN"_qs, this);
     buildToolbar();
     buildEntry();
@@ -38,20 +38,20 @@ void Besatzung::buildToolbar() {
                             .loesche = &LoescheEintrag,
                             .frage = u"ACHTUNG: Besatzungseintrag wirklich löschen ?"_qs,
                             .beiNein = &BesatzAnzeigeLoeschen};
-    Toolbar1 = new Toolbar(this, &modRun::beendeVorgang);
+    Toolbar1 = new Toolbar(this);
     // The tool tip of tbExcel does not name the file that is written; the users know it so.
-    Toolbar1->addKeys(
-        {{u"tbSpeichern"_qs, u"Speichern"_qs, u"Eintrag speichern"_qs, u"speichern"_qs,
-          [=] { plan.sichern(); }},
-         {u"tbLoeschen"_qs, u"Löschen"_qs, u"Eintrag löschen"_qs, u"loeschen"_qs, [=] { plan.entfernen(); }},
-         {u"tbAnzLoeschen"_qs, u"Anz. löschen"_qs, u"Anzeige löschen"_qs, u"anzeige-loeschen"_qs,
-          &BesatzAnzeigeLoeschen},
-         {u"tbExcel"_qs, u"&Excel"_qs, u"Excel - Datei - BLIST.csv - erzeugen..."_qs, u"excel"_qs,
-          [this] { tbExcel_Click(); }},
-         {u"tbVorschau"_qs, u"&Druck - Vorsch."_qs, u"Druckvorschau des Besatzungsplan"_qs, u"vorschau"_qs,
-          [this] { drucke(u"vorschau"_qs); }},
-         {u"tbDruck"_qs, u"Drucken"_qs, u"Aktuelle Auswahl drucken..."_qs, u"drucken"_qs,
-          [this] { drucke(u"drucken"_qs); }}});
+    Toolbar1->addKeys({{u"tbSpeichern"_qs, u"Speichern"_qs, u"Eintrag speichern"_qs, u"speichern"_qs,
+                        [=, this] { plan.sichern(*this); }},
+                       {u"tbLoeschen"_qs, u"Löschen"_qs, u"Eintrag löschen"_qs, u"loeschen"_qs,
+                        [=, this] { plan.entfernen(*this); }},
+                       {u"tbAnzLoeschen"_qs, u"Anz. löschen"_qs, u"Anzeige löschen"_qs,
+                        u"anzeige-loeschen"_qs, &BesatzAnzeigeLoeschen},
+                       {u"tbExcel"_qs, u"&Excel"_qs, u"Excel - Datei - BLIST.csv - erzeugen..."_qs,
+                        u"excel"_qs, [this] { tbExcel_Click(); }},
+                       {u"tbVorschau"_qs, u"&Druck - Vorsch."_qs, u"Druckvorschau des Besatzungsplan"_qs,
+                        u"vorschau"_qs, [this] { drucke(u"vorschau"_qs); }},
+                       {u"tbDruck"_qs, u"Drucken"_qs, u"Aktuelle Auswahl drucken..."_qs, u"drucken"_qs,
+                        [this] { drucke(u"drucken"_qs); }}});
 }
 
 void Besatzung::buildEntry() {

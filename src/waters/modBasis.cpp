@@ -12,10 +12,8 @@
 #include "MsgBox.h"
 #include "Recordset.h"
 #include "Screens.h"
-#include "Session.h"
 #include "TextBox.h"
 #include "ValueLabel.h"
-#include "modRun.h"
 
 #include <QTabWidget>
 
@@ -116,7 +114,7 @@ void aendere(const QString& routine, const Art& art, int row) {
         const QString name = art.txtName->text();
         if (Datensatz::aendere(step, art.tabelle, art.lblNr->text(), felder(step, art), {},
                                &meldeNichtGefunden)) {
-            const int zeile = modRun::zeileVon(art.grid, art.lblNr, row);
+            const int zeile = art.grid->rowOf(art.lblNr->text(), row);
             step([&] { art.grid->setCell(zeile, 1, name); });
             art.grid->markRow(zeile);
             step([&] { melde(art, {name, u"UPDATE"_qs, alterName}); });
@@ -132,7 +130,7 @@ void meldeNichtGeloescht() {
 void loesche(const QString& routine, const Art& art, int row) {
     withErrorTail(u"modBasis"_qs, routine, [&](ErrorTail& step) {
         if (Datensatz::loesche(step, art.tabelle, art.lblNr->text(), {}, &meldeNichtGeloescht)) {
-            step([&] { art.grid->removeRow(modRun::zeileVon(art.grid, art.lblNr, row)); });
+            step([&] { art.grid->removeRow(art.grid->rowOf(art.lblNr->text(), row)); });
             zeigeAnzahl(art);
             step([&] { melde(art, {art.txtName->text(), u"LOESCHEN"_qs, QString()}); });
         }
@@ -163,11 +161,7 @@ bool vollstaendig(const Art& art) { return modRun::fehlerfrei(modRun::erstesLeer
 
 } // namespace
 
-void InitBasis() {
-    modRun::beendeVorgang();
-    session().AktZeile = 0;
-    alterName.clear();
-}
+void InitBasis() { alterName.clear(); }
 
 void BasisAnzeigeLoeschen() {
     const Art art = artInFront();

@@ -29,11 +29,11 @@ bool GewaesserEingabeVollstaendig();
 /// A new record from the form.
 void SpeicherFisch();
 void SpeicherGewaesser();
-/// Changes the open record, its grid row, and its name in the catch book's grid.
+/// Changes the record whose number the page shows, its grid row, and its name in the catch book's grid.
 void UpdateFisch(int row);
 void UpdateGewaesser(int row);
-/// Deletes the open record, its grid row, and the rows of the catch book's grid that show its name. The
-/// catches themselves stay in the file.
+/// Deletes the record whose number the page shows, its grid row, and the rows of the catch book's grid that
+/// show its name. The catches themselves stay in the file.
 void LoescheFisch(int row);
 void LoescheGewaesser(int row);
 /// Fill the form from a grid row.

@@ -55,14 +55,6 @@ void schreibeFelder(ErrorTail& step, Recordset& plan, const Besatzung& form, con
     step([&] { plan.Collect(u"Menge"_qs, CDbl(form.txtMenge->text())); });
 }
 
-/// Takes the opened record's row off the grid. Another year may have come to the screen since it was opened:
-/// what stands in its place then is another record's.
-void entferneOffenen(ErrorTail& step, const Besatzung& form, int row) {
-    const DataTable& grid = *form.tblBList;
-    const bool dort = row < grid.rowCount() && grid.cellText(row, 0) == form.lblBNr->text();
-    if (dort) step([&] { form.tblBList->removeRow(row); });
-}
-
 void zeigeAnzahl(const Besatzung& form) {
     form.lblAnzahl->setText(QString::number(form.tblBList->rowCount()));
 }
@@ -123,9 +115,12 @@ void UpdateEintrag(int row) {
             const std::array<Value, 5> zeile = {form.lblBNr->text(), form.cboFArt->currentText(),
                                                 form.cboGName->currentText(), form.txtZeit->text(),
                                                 alsGewicht(form.txtMenge->text())};
-            entferneOffenen(step, form, row);
-            step([&] { form.tblBList->insertRow(row, zeile); });
-            form.tblBList->markRow(row);
+            // Another year may have come to the screen, where the record has no row yet.
+            const int bisher = form.tblBList->rowOf(form.lblBNr->text());
+            const int neu = bisher >= 0 ? bisher : row;
+            if (bisher >= 0) step([&] { form.tblBList->removeRow(bisher); });
+            step([&] { form.tblBList->insertRow(neu, zeile); });
+            form.tblBList->markRow(neu);
             zeigeAnzahl(form);
         }
         BesatzAnzeigeLoeschen();
@@ -133,11 +128,12 @@ void UpdateEintrag(int row) {
     });
 }
 
-void LoescheEintrag(int row) {
-    withErrorTail(modul, u"LoescheEintrag"_qs, [row](ErrorTail& step) {
+void LoescheEintrag(int /*row*/) {
+    withErrorTail(modul, u"LoescheEintrag"_qs, [](ErrorTail& step) {
         const Besatzung& form = screen<Besatzung>();
         if (Datensatz::loesche(step, u"Besatzung"_qs, form.lblBNr->text())) {
-            entferneOffenen(step, form, row);
+            const int zeile = form.tblBList->rowOf(form.lblBNr->text());
+            if (zeile >= 0) step([&] { form.tblBList->removeRow(zeile); });
             zeigeAnzahl(form);
         }
         BesatzAnzeigeLoeschen();

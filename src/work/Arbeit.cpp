@@ -7,7 +7,6 @@
 #include "Drucklauf.h"
 #include "Format.h"
 #include "Jahre.h"
-#include "MsgBox.h"
 #include "Rahmen.h"
 #include "RuntimeError.h"
 #include "Screens.h"
@@ -17,7 +16,6 @@
 #include "ValueLabel.h"
 #include "modArbeit.h"
 #include "modKontakt.h"
-#include "modRun.h"
 
 #include <QPushButton>
 
@@ -42,8 +40,8 @@ void Arbeit::Form_Load() {
     modArbeit::LeereArbEingabe();
     loadcboArbJahre(cboArbJahr);
     if (cboArbJahr->count() > 0) cboArbJahr->setText(QString::number(session().Startjahr));
-    modRun::beendeVorgang();
-    session().AktZeile = 0;
+    // The first way to the hours ends what stands open elsewhere, as a press in a toolbar does.
+    Screens::giveUpRecords();
     // From here on a year stands for the wish to see it.
     on(cboArbJahr, &ComboBox::Click, [this] { cboArbJahr_Click(); });
 }
@@ -58,10 +56,7 @@ void Arbeit::Form_Activate() {
 }
 
 void Arbeit::Form_Deactivate() {
-    if (!session().NachReport) {
-        modRun::vergissOffenen();
-        modArbeit::LeereArbAnzeige();
-    }
+    if (!session().NachReport) modArbeit::LeereArbAnzeige();
     unload<SuchKont>();
 }
 
@@ -119,6 +114,6 @@ void Arbeit::tblArbStd_OnGridCellOpen(int row, int column) {
     if (row < 0) return;
     modArbeit::LeereArbEingabe();
     modArbeit::loadArbeitsVorgang(row, column);
-    modRun::beginneBearbeitung(lblArbNr, row);
+    openRecord(lblArbNr->text(), row);
     pvDate->setFocus();
 }

@@ -13,7 +13,6 @@
 #include "Toolbar.h"
 #include "ValueLabel.h"
 #include "modArbeit.h"
-#include "modRun.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
@@ -52,12 +51,12 @@ void Arbeit::buildToolbar() {
                                  .loesche = &LoescheStunden,
                                  .frage = u"ACHTUNG: Arbeitvorgang wirklich löschen ?"_qs,
                                  .beiNein = &LeereArbEingabe};
-    Toolbar1 = new Toolbar(this, &modRun::beendeVorgang);
+    Toolbar1 = new Toolbar(this);
     Toolbar1->addKeys(
         {{u"tbBuchen"_qs, u"&Buchen / Mindern"_qs, u"Buchen v. Arb. - Std. oder Jahresbeitr."_qs,
-          u"buchen"_qs, [=] { buchungen.sichern(); }},
+          u"buchen"_qs, [=, this] { buchungen.sichern(*this); }},
          {u"tbLoeschen"_qs, u"&Löschen"_qs, u"Löscht den ausgewählten Arbeitsvorgang"_qs, u"loeschen"_qs,
-          [=] { buchungen.entfernen(); }},
+          [=, this] { buchungen.entfernen(*this); }},
          {u"tbAnzLoeschen"_qs, u"&Anz. löschen"_qs, u"Anzeige löschen"_qs, u"anzeige-loeschen"_qs,
           &LeereArbEingabe},
          {u"tbVorschau"_qs, u"&Vorschau"_qs, u"Druckvorschau anzeigen..."_qs, u"vorschau"_qs,

@@ -50,16 +50,12 @@ void haengeAn(ErrorTail& step, std::vector<Value> zeile, const Arbeit& form) {
     form.tblArbStd->markRow(form.tblArbStd->rowCount());
 }
 
-/// Another year or another member may have come to the screen since the row was opened: then another booking
-/// stands there, or none.
-bool zeigtOffenen(const Arbeit& form, int row) {
-    return row < form.tblArbStd->rowCount() && form.tblArbStd->cellText(row, 0) == form.lblArbNr->text();
-}
-
-/// The hours stand as they were typed until the next load.
-void zeigeGeaenderten(ErrorTail& step, const std::vector<Value>& zeile, const Arbeit& form, int row) {
+/// The hours stand as they were typed until the next load. Another year or another member may have come to
+/// the screen since the booking was opened: then it has no row here.
+void zeigeGeaenderten(ErrorTail& step, const std::vector<Value>& zeile, const Arbeit& form) {
+    const int row = form.tblArbStd->rowOf(form.lblArbNr->text());
     const auto mitglied = [&] { return CLng(zeile[1]) == CLng(form.lblKNr->text()); };
-    if (zeigtOffenen(form, row)) {
+    if (row >= 0) {
         step([&] { form.tblArbStd->setCell(row, 2, form.txtArbStd->text()); });
         step([&] { form.tblArbStd->setCell(row, 3, form.pvDate->date()); });
         form.tblArbStd->markRow(row);
@@ -99,24 +95,25 @@ void SpeicherStunden() {
     });
 }
 
-void UpdateStunden(int row) {
-    withErrorTail(modul, u"UpdateStunden"_qs, [row](ErrorTail& step) {
+void UpdateStunden(int /*row*/) {
+    withErrorTail(modul, u"UpdateStunden"_qs, [](ErrorTail& step) {
         const Arbeit& form = screen<Arbeit>();
         std::vector<Value> zeile;
         const auto felder = [&](Recordset& arbeit) { schreibeFelder(step, arbeit, form); };
         if (Datensatz::aendere(step, u"Arbeit"_qs, form.lblArbNr->text(), felder, lies(step, zeile)))
-            zeigeGeaenderten(step, zeile, form, row);
+            zeigeGeaenderten(step, zeile, form);
         zeigeNeueSumme(step, form);
         LeereArbEingabe();
         form.pvDate->setFocus();
     });
 }
 
-void LoescheStunden(int row) {
-    withErrorTail(modul, u"LoescheStunden"_qs, [row](ErrorTail& step) {
+void LoescheStunden(int /*row*/) {
+    withErrorTail(modul, u"LoescheStunden"_qs, [](ErrorTail& step) {
         const Arbeit& form = screen<Arbeit>();
         if (Datensatz::loesche(step, u"Arbeit"_qs, form.lblArbNr->text())) {
-            if (zeigtOffenen(form, row)) step([&] { form.tblArbStd->removeRow(row); });
+            const int row = form.tblArbStd->rowOf(form.lblArbNr->text());
+            if (row >= 0) step([&] { form.tblArbStd->removeRow(row); });
             zeigeNeueSumme(step, form);
         }
         LeereArbEingabe();

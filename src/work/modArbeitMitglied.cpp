@@ -19,7 +19,6 @@
 #include "SuchKont.h"
 #include "ValueLabel.h"
 #include "modArbeit.h"
-#include "modRun.h"
 
 #include <QPushButton>
 #include <array>
@@ -68,7 +67,7 @@ void zeigeMitglied(ErrorTail& step, const Mitglied& mitglied) {
     Arbeit& form = screen<Arbeit>();
     // A booking that stands open is the former member's: it must not be taken for the new one's.
     LeereOffenen();
-    modRun::vergissOffenen();
+    form.giveUpRecord();
     form.lblKNr->setText(mitglied.knr);
     form.lblVName->setText(mitglied.vorname);
     form.lblNName->setText(mitglied.nachname);
@@ -104,7 +103,8 @@ void mnuArbContr_Click() {
         std::array<QString, 4> zeile;
         step([&] {
             for (int column = 0; column < 4; ++column)
-                zeile[static_cast<std::size_t>(column)] = grid->cellText(session().AktZeile, column);
+                zeile[static_cast<std::size_t>(column)] =
+                    grid->cellText(screen<MitglList>().gridRow(), column);
         });
         const auto& [knr, nachname, vorname, strasse] = zeile;
         if (!schuldetStunden(step, knr)) return;

@@ -1,9 +1,25 @@
 #include "SessionValue.h"
 
 #include "Conversions.h"
+#include "Kontakt.h"
+#include "KontaktUebers.h"
+#include "NavigationBar.h"
+#include "Screens.h"
 #include "Session.h"
+#include "Stage.h"
 
 #include <QHash>
+
+namespace {
+
+/// The grid row of the record that stands open, otherwise of the screen in front.
+qint32 gridRow() {
+    if (const Screen* editing = Screens::editing()) return editing->gridRow();
+    const Screen* front = Stage::current() ? Stage::current()->front() : nullptr;
+    return front ? front->gridRow() : 0;
+}
+
+} // namespace
 
 QString sessionValue(const QString& name) {
     const Session& s = session();
@@ -14,15 +30,15 @@ QString sessionValue(const QString& name) {
         {u"AktMonat"_qs, s.AktMonat},
         {u"AktJahr"_qs, qint32(s.AktJahr)},
         {u"MsgAntwort"_qs, qint32(s.MsgAntwort)},
-        {u"Modus"_qs, s.Modus},
-        {u"AktZeile"_qs, s.AktZeile},
+        {u"Modus"_qs, Screens::editing() ? u"EDIT"_qs : u"SAVE"_qs},
+        {u"AktZeile"_qs, gridRow()},
         {u"FehlerZaehler"_qs, qint32(s.FehlerZaehler)},
         {u"TabelleLaedt"_qs, s.TabelleLaedt},
         {u"SuchAufrufer"_qs, qint32(s.SuchAufrufer)},
         {u"KontextZeileOK"_qs, s.KontextZeileOK},
         {u"NachReport"_qs, s.NachReport},
-        {u"AusSuche"_qs, s.AusSuche},
-        {u"LetzterKlappZustand"_qs, s.LetzterKlappZustand},
+        {u"AusSuche"_qs, isLoaded<Kontakt>() && screen<Kontakt>().AusSuche},
+        {u"LetzterKlappZustand"_qs, isLoaded<KontaktUebers>() && screen<KontaktUebers>().LetzterKlappZustand},
         {u"AktBarItem"_qs, s.AktBarItem ? s.AktBarItem->key() : QString()},
     };
     const auto found = values.find(name);

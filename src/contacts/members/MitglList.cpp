@@ -43,15 +43,12 @@ bool MitglList::Form_KeyDown(int key, Qt::KeyboardModifiers) {
 
 void MitglList::tbSuch_Click() {
     if (!modMitglList::PruefeMListEingabe()) return;
-    Session& s = session();
     // The list of hours is no filter: it alone asks as well.
-    if (std::find(s.MListFilter.begin(), s.MListFilter.end(), true) == s.MListFilter.end()) {
-        s.MsgAntwort = MsgBox(u"ACHTUNG: Wirklich alle Mitglieder aus der Datenbank laden ?"_qs, vbYesNo);
-        if (s.MsgAntwort != vbYes) {
-            modRun::MeldeAbgebrochen();
-            return;
-        }
-    }
+    const auto filter = {chkGebDat,  chkEintritt,  chkGeschl, chkJBeitrag, chkStatus,
+                         chkBefreit, chkAusgMitgl, chkJG,     chkArbStd};
+    if (std::ranges::none_of(filter, &QCheckBox::isChecked) &&
+        !modRun::frage(u"ACHTUNG: Wirklich alle Mitglieder aus der Datenbank laden ?"_qs))
+        return modRun::MeldeAbgebrochen();
     tblMList->clearRows();
     lblGefDS->setText(QString());
     modMitglList::LadeAuswahl();
@@ -72,12 +69,11 @@ void MitglList::drucke(const QString& wort) {
 
 void MitglList::tblMList_OnGridCellDown(int row) {
     session().KontextZeileOK = row >= 0;
-    if (row >= 0) session().AktZeile = row;
+    if (row >= 0) setGridRow(row);
 }
 
 void MitglList::tblMList_OnGridCellMenu() {
-    const Session& s = session();
-    if (s.AktZeile >= 0 && tblMList->rowCount() >= 1 && s.KontextZeileOK) rahmen()->loadKontMenu_Mitgl();
+    if (tblMList->rowCount() >= 1 && session().KontextZeileOK) rahmen()->loadKontMenu_Mitgl();
 }
 
 void MitglList::tblMList_OnGridCellOpen(int row) {

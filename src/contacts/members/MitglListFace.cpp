@@ -22,6 +22,7 @@
 
 MitglList::MitglList()
     : Screen(u"MitglList"_qs, u"Mitglieder - Listen"_qs) {
+    standForReading();
     Ueberschrift = new Heading(u"MITGLIEDER-LISTE"_qs, this);
     buildToolbar();
     Frame6 = Face::frame(u"Frame6"_qs, u"Liste generieren..."_qs, this);

@@ -148,25 +148,24 @@ QWidget* falschesDatum(TextBox* box) { return box->text().isEmpty() || IsDate(bo
 
 QString ErstelleFilter(const QString& sql) {
     const MitglList& form = screen<MitglList>();
-    const auto& ticked = session().MListFilter;
     const QString status = form.optAktiv->isChecked() ? u"Mitglieder (aktiv)"_qs : u"Mitglieder (passiv)"_qs;
     const KeptErrorCount kept;
     const qint32 kategoNr = ErmittleKategoNr(status);
     QString filter = sql;
-    if (ticked[0])
+    if (form.chkGebDat->isChecked())
         filter += vergleich(u"k.GebDatum"_qs, {form.cboOptGeb01, form.txtGeb01}) +
                   vergleich(u"k.GebDatum"_qs, {form.cboOptGeb02, form.txtGeb02});
-    if (ticked[1])
+    if (form.chkEintritt->isChecked())
         filter += vergleich(u"m.Eintritt"_qs, {form.cboOptTritt01, form.txtTritt01}) +
                   vergleich(u"m.Eintritt"_qs, {form.cboOptTritt02, form.txtTritt02});
-    if (ticked[2]) filter += u" AND m.Geschlecht = "_qs + wahrheit(form.optMann);
-    if (ticked[3]) filter += u" AND m.Bezahlt = "_qs + wahrheit(form.optBezahlt);
-    if (ticked[4]) filter += u" AND k.KategoNr = "_qs + QString::number(kategoNr);
-    if (ticked[5]) filter += u" AND m.Befreit = "_qs + wahrheit(form.optBefrJa);
+    if (form.chkGeschl->isChecked()) filter += u" AND m.Geschlecht = "_qs + wahrheit(form.optMann);
+    if (form.chkJBeitrag->isChecked()) filter += u" AND m.Bezahlt = "_qs + wahrheit(form.optBezahlt);
+    if (form.chkStatus->isChecked()) filter += u" AND k.KategoNr = "_qs + QString::number(kategoNr);
+    if (form.chkBefreit->isChecked()) filter += u" AND m.Befreit = "_qs + wahrheit(form.optBefrJa);
     // Who has not left has the empty date.
-    if (ticked[6])
+    if (form.chkAusgMitgl->isChecked())
         filter += form.optAusgJa->isChecked() ? u" AND m.Austritt <> 0"_qs : u" AND m.Austritt = 0"_qs;
-    if (ticked[7]) filter += u" AND m.JG = "_qs + wahrheit(form.optJGJa);
+    if (form.chkJG->isChecked()) filter += u" AND m.JG = "_qs + wahrheit(form.optJGJa);
     return filter;
 }
 
@@ -207,6 +206,6 @@ void zeigeKontakt(int row) {
     modKontakt::SetzeKontaktToolbar(1);
 }
 
-void mnuMitglInfo_Click() { zeigeKontakt(session().AktZeile); }
+void mnuMitglInfo_Click() { zeigeKontakt(screen<MitglList>().gridRow()); }
 
 } // namespace modMitglList

@@ -36,6 +36,7 @@ Vorschau::Vorschau()
     , Ueberschrift(new Heading(u"Vorschau"_qs, this))
     , Toolbar1(new Toolbar(this))
     , pageView(new ReportPageView(this)) {
+    standForReading();
     buildToolbar();
     buildNotice();
     auto* whole = new QVBoxLayout(this);

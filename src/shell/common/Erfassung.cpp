@@ -1,17 +1,14 @@
 #include "Erfassung.h"
 
-#include "MsgBox.h"
-#include "Session.h"
+#include "Meldungen.h"
+#include "Screen.h"
 
-void Erfassung::sichern() const {
-    const Session& s = session();
-    if (s.Modus == u"EDIT"_qs && vollstaendig()) aendere(s.AktZeile);
-    if (s.Modus == u"SAVE"_qs && vollstaendig()) speichere();
+void Erfassung::sichern(const Screen& form) const {
+    if (!vollstaendig()) return;
+    form.isEditing() ? aendere(form.gridRow()) : speichere();
 }
 
-void Erfassung::entfernen() const {
-    Session& s = session();
-    if (s.Modus != u"EDIT"_qs) return;
-    s.MsgAntwort = MsgBox(frage, vbYesNo);
-    s.MsgAntwort == vbYes ? loesche(s.AktZeile) : beiNein();
+void Erfassung::entfernen(const Screen& form) const {
+    if (!form.isEditing()) return;
+    modRun::frage(frage) ? loesche(form.gridRow()) : beiNein();
 }

@@ -5,13 +5,11 @@
 #include "MsgBox.h"
 #include "OtherProgram.h"
 #include "RuntimeError.h"
-#include "Session.h"
 #include "Spreadsheet.h"
 
 void erzeugeAufWunsch(const DataTable& grid, const QString& frage, const QString& keineDaten,
                       void (*erzeuge)()) {
-    session().MsgAntwort = MsgBox(frage, vbYesNo);
-    if (session().MsgAntwort != vbYes)
+    if (!modRun::frage(frage))
         modRun::MeldeAbgebrochen();
     else if (grid.rowCount() == 0)
         MsgBox(keineDaten, vbInformation);
@@ -30,8 +28,7 @@ void schreibeFuerExcel(const std::function<void()>& schreibe, const QString& feh
         return;
     }
     MsgBox(erfolg, vbInformation);
-    session().MsgAntwort = MsgBox(u"Möchten Sie jetzt Excel starten ?"_qs, vbYesNo);
-    if (session().MsgAntwort == vbYes) starte();
+    if (modRun::frage(u"Möchten Sie jetzt Excel starten ?"_qs)) starte();
 }
 
 void zeigeInExcel(const QString& path, std::initializer_list<QString> columns) {

@@ -1,7 +1,7 @@
 #include "Meldungen.h"
 
-#include "Meldungen.h"
 #include "MsgBox.h"
+#include "Session.h"
 
 #include <QWidget>
 
@@ -26,6 +26,12 @@ void MeldeAbgebrochen() { MsgBox(u"Vorgang von User abgebrochen !"_qs, vbInforma
 
 void MeldeKeinZugriff() {
     MsgBox(u"Sie haben keine Zugriffsberechtigung auf diese Funktion !"_qs, vbInformation);
+}
+
+bool frage(const QString& text, const QString& title) {
+    const int antwort = MsgBox(text, vbYesNo, title);
+    session().MsgAntwort = antwort;
+    return antwort == vbYes;
 }
 
 } // namespace modRun

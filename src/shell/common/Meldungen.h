@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 class QWidget;
 
 // The message boxes that several screens show.
@@ -12,5 +14,8 @@ void MeldeNichtsGefunden();
 void MeldeEingabeFehler(QWidget* schuld);
 void MeldeAbgebrochen();
 void MeldeKeinZugriff();
+
+/// A box with yes and no. MsgAntwort keeps the answer; true if it is yes.
+bool frage(const QString& text, const QString& title = QStringLiteral("Uferwart"));
 
 } // namespace modRun

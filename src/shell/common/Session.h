@@ -6,9 +6,6 @@
 #include <QPointer>
 #include <QString>
 #include <array>
-#include <vector>
-
-class Screen;
 
 /// What all routines share while the program runs: plain values that any routine may read and write. Safe
 /// because there is one thread.
@@ -23,21 +20,14 @@ struct Session {
     qint16 AktJahr = 0;   ///< the year on which a change of year has been settled; lent to the selectors
     qint16 Startjahr = 0; ///< calendar year at login, whatever a selector has left in AktJahr
 
-    int MsgAntwort = 0;               ///< answer of the last question: 6 yes, 7 no
-    QString Modus;                    ///< "SAVE" a new record, "EDIT" the record of row AktZeile
-    const Screen* OffenAuf = nullptr; ///< the screen that was left while a record stood open there
-    qint32 AktZeile = 0;              ///< grid row of the record being edited
-    qint16 FehlerZaehler = 0;         ///< errors in the current routine
-    bool TabelleLaedt = false;        ///< LadeStammdaten is running: screens stay quiet
-    qint16 SuchAufrufer = 0;          ///< who opened the search: 0 the contact overview, 1 the work ledger
-    bool KontextZeileOK = false;      ///< the last press on a grid hit a data row
-    bool NachReport = false;          ///< a report was shown: the next activation leaves the lists alone
-    bool AusSuche = false;            ///< the contact mask was opened from the search
-    /// Of the contact overview, by row: true if the category is open. Empty until the first press there.
-    std::vector<bool> KategoOffen;
-    bool LetzterKlappZustand = false; ///< what the last press on a category left behind, of any category
-    bool NurZaehlen = false;          ///< the overview is being filled: categories are counted, not listed
-    QPointer<BarItem> AktBarItem;     ///< navigation item last made current
+    int MsgAntwort = 0;           ///< answer of the last question: 6 yes, 7 no
+    qint16 FehlerZaehler = 0;     ///< errors in the current routine
+    bool TabelleLaedt = false;    ///< LadeStammdaten is running: screens stay quiet
+    qint16 SuchAufrufer = 0;      ///< who opened the search: 0 the contact overview, 1 the work ledger
+    bool KontextZeileOK = false;  ///< the last press on a grid hit a data row
+    bool NachReport = false;      ///< a report was shown: the next activation leaves the lists alone
+    bool NurZaehlen = false;      ///< the overview is being filled: categories are counted, not listed
+    QPointer<BarItem> AktBarItem; ///< navigation item last made current
 
     QString Benutzer;         ///< name of the user who is logged in; the status bar shows it
     bool Angemeldet = false;  ///< the start-up has come to its end: the data is loaded and can be seen

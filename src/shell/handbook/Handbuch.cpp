@@ -42,6 +42,7 @@ Handbuch::Handbuch()
     , txtSuch(new TextBox(u"txtSuch"_qs, Suchzeile))
     , lblFund(Face::label(u"lblFund"_qs, {}, Suchzeile)) {
     standAlone();
+    standForReading();
     buildToolbar();
     buildSuchzeile();
     Seite->setObjectName(u"Seite"_qs);

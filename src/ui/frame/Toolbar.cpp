@@ -31,10 +31,9 @@ protected:
 
 } // namespace
 
-Toolbar::Toolbar(QWidget* parent, Handler afterPress)
+Toolbar::Toolbar(QWidget* parent)
     : QWidget(parent)
-    , m_row(new QHBoxLayout(this))
-    , m_afterPress(std::move(afterPress)) {
+    , m_row(new QHBoxLayout(this)) {
     setObjectName(u"Toolbar1"_qs);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     m_row->setContentsMargins(margin, gap, margin, gap);
@@ -66,7 +65,7 @@ QToolButton* Toolbar::addKey(const QString& key, const QString& caption, const Q
     connect(button, &QToolButton::clicked, this, [this, handler] {
         runEvent([&] {
             handler();
-            if (m_afterPress) m_afterPress();
+            Q_EMIT Pressed();
         });
     });
     m_row->insertWidget(m_row->count() - 1, button);

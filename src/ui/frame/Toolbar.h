@@ -25,8 +25,7 @@ public:
         Handler handler; ///< runs guarded (see runEvent)
     };
 
-    /// `afterPress` runs after the handler of each key, unless that has thrown.
-    explicit Toolbar(QWidget* parent = nullptr, Handler afterPress = {});
+    explicit Toolbar(QWidget* parent = nullptr);
 
     QToolButton* addKey(const QString& key, const QString& caption, const QString& tip, const QString& icon,
                         const Handler& handler);
@@ -41,6 +40,9 @@ public:
     /// button shows no letter underlined.
     void yieldLetters(const QVector<QKeySequence>& letters);
 
+Q_SIGNALS:
+    void Pressed(); ///< the handler of a key has run
+
 protected:
     void paintEvent(QPaintEvent* event) override;
 
@@ -49,5 +51,4 @@ private:
     static void setCaption(QToolButton* key, const QString& caption);
 
     QHBoxLayout* m_row;
-    Handler m_afterPress;
 };

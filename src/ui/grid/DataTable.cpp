@@ -145,6 +145,11 @@ int DataTable::find(int column, int& startRow, const QString& text) const {
     return row;
 }
 
+int DataTable::rowOf(const QString& number, int otherwise) const {
+    int row = 0;
+    return find(0, row, number) < 0 ? otherwise : row;
+}
+
 void DataTable::markRow(int row) {
     publish();
     QModelIndex index = m_model->indexOf(m_current.parentRow, std::min(row, rowCount() - 1), 0);

@@ -80,6 +80,8 @@ public:
     /// Finds a cell of exactly this text from `startRow` on (-1 counts as the first row). Returns the row and
     /// sets `startRow` to it, or returns -1.
     int find(int column, int& startRow, const QString& text) const;
+    /// The row of the record of this number, which stands in the first column; `otherwise` if there is none.
+    int rowOf(const QString& number, int otherwise = -1) const;
 
     /// Scrolls the row into view, makes it the current one, so that Enter opens it, and tints it until the
     /// grid gets the focus or is left. Takes no focus. A row beyond the end is the last one; of a row in a

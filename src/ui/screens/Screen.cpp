@@ -126,6 +126,13 @@ void Screen::hideEvent(QHideEvent* event) {
     m_modalLoop = nullptr;
 }
 
+void Screen::openRecord(const QString& number, int row) {
+    // A user who comes back finds one record open, the last one, not one on each screen.
+    if (number.isEmpty() || m_keepsRecord) Screens::giveUpRecords();
+    m_openNumber = number;
+    m_gridRow = row;
+}
+
 void Screen::setHourglass(bool on) {
     m_hourglass = on;
     if (on)

@@ -50,6 +50,21 @@ public:
     template<typename T>
     static T& screen();
 
+    // The record that stands open: what is saved changes it instead of adding one. It is given up after each
+    // press in a toolbar and when another screen comes to the front; no screen does anything for that.
+
+    /// Opens the record of this number, which stands in this row of the grid. An empty number opens none:
+    /// what was not loaded cannot be changed.
+    void openRecord(const QString& number, int row);
+    /// What is saved next is a new record.
+    void giveUpRecord() { m_openNumber.clear(); }
+    bool isEditing() const { return !m_openNumber.isEmpty(); }
+    bool keepsRecord() const { return m_keepsRecord; }
+    bool isForReading() const { return m_forReading; }
+    /// The row of the grid that was last opened or pressed.
+    int gridRow() const { return m_gridRow; }
+    void setGridRow(int row) { m_gridRow = row; }
+
     /// Sets the pointer over the screen to an hourglass or back to the arrow.
     void setHourglass(bool on);
     bool hasHourglass() const { return m_hourglass; }
@@ -58,6 +73,12 @@ protected:
     /// Gives the screen a window of its own. Call in the constructor of a screen that needs no frame, or that
     /// must not cover the screens in the frame.
     void standAlone() { m_ownWindow = true; }
+    /// Keeps the record open while other screens are in front, until a press in a toolbar or a record opened
+    /// on another screen that keeps its own. Call in the constructor.
+    void keepRecord() { m_keepsRecord = true; }
+    /// Lets a press in the toolbar leave the records of other screens open. Call in the constructor of a
+    /// screen that only shows.
+    void standForReading() { m_forReading = true; }
 
     /// Connects a control's signal to a handler that runs guarded.
     template<typename Sender, typename Signal, typename Handler>
@@ -84,6 +105,10 @@ private:
     QEventLoop* m_modalLoop = nullptr;
     bool m_ownWindow = false;
     bool m_hourglass = false;
+    bool m_keepsRecord = false;
+    bool m_forReading = false;
+    QString m_openNumber; ///< of the record that stands open; empty if none does
+    int m_gridRow = 0;
     bool m_paintPending = false;
     bool m_placed = false;
     const QKeyEvent* m_key = nullptr; ///< the key on its way up from the focused control; never dereferenced

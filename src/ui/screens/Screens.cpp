@@ -1,5 +1,8 @@
 #include "Screens.h"
 
+#include "Stage.h"
+#include "Toolbar.h"
+
 #include <algorithm>
 
 namespace {
@@ -38,7 +41,12 @@ Screen* latestToGo() {
 namespace Screens {
 
 void add(Screen* screen) {
-    if (find(screen) == entries().end()) entries().append({screen, false});
+    if (find(screen) != entries().end()) return;
+    entries().append({screen, false});
+    for (const Toolbar* toolbar : screen->findChildren<Toolbar*>())
+        QObject::connect(toolbar, &Toolbar::Pressed, screen, [screen] {
+            if (!screen->isForReading()) giveUpRecords();
+        });
 }
 
 void remove(Screen* screen) {
@@ -73,6 +81,19 @@ Screen* byName(const QString& name) {
         if (entry.screen->objectName() == name) return entry.screen;
     }
     return nullptr;
+}
+
+Screen* editing() {
+    for (const Entry& entry : entries()) {
+        const bool inSight =
+            entry.screen->isModalNow() || (Stage::current() && Stage::current()->front() == entry.screen);
+        if (inSight && entry.screen->isEditing()) return entry.screen;
+    }
+    return nullptr;
+}
+
+void giveUpRecords() {
+    for (Screen* screen : all()) screen->giveUpRecord();
 }
 
 void removeAll() {

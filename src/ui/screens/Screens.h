@@ -8,6 +8,7 @@
 /// The screens that are alive, in the order of their making.
 namespace Screens {
 
+/// Call when the screen has its toolbars: it looks for them.
 void add(Screen* screen);
 /// Runs Form_Unload, takes the screen off the stage and destroys it. A screen may unload itself: it is
 /// destroyed only after all handlers have returned. During Form_Unload screen<T>() still returns it.
@@ -18,6 +19,11 @@ void forget(const Screen* screen);
 bool isAlive(const Screen* screen);
 QVector<Screen*> all();
 Screen* byName(const QString& name); ///< null if there is none
+/// The screen in sight on which a record stands open: a modal one, or the one in front of the stage. Null if
+/// there is none.
+Screen* editing();
+/// Gives up the record of every screen, as a press in a toolbar does when its handler has run.
+void giveUpRecords();
 /// Removes every screen, the latest first. Call at the program's end.
 void removeAll();
 

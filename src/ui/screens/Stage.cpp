@@ -96,6 +96,7 @@ void Stage::settle() {
     const QPointer<Stage> alive(this);
     const QPointer<Screen> before = m_activated;
     m_activated.clear();
+    if (before && !before->keepsRecord()) before->giveUpRecord();
     if (before) runEvent([&] { before->Form_Deactivate(); });
     // Form_Deactivate may have changed the front, which has activated a screen already.
     if (!alive || !m_active || m_activated || !front()) return;

@@ -8,7 +8,8 @@ class Screen;
 
 /// The inside of the frame. The screens lie one upon the other; the front one fills the stage. The stage, not
 /// the window system, activates screens: a screen is activated when it comes to the front, and deactivated
-/// when another one does or when it is hidden while in front.
+/// when another one does or when it is hidden while in front. A record that stands open on it is given up
+/// then (see Screen::keepRecord).
 ///
 /// Form_Activate and Form_Deactivate run after the stage has changed, so they may bring forward, withdraw or
 /// unload screens. Then only the screen in front at last is activated.
