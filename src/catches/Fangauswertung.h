@@ -69,8 +69,8 @@ private:
 
     ComboBox* addList(const QString& name, QCheckBox* captionedBy);
     Vergleich addBound(const QString& list, const QString& box, const QString& spoken);
-    /// A click on the check box enables its controls and sets its flag, or the reverse.
-    void connectFilter(QCheckBox* box, std::size_t flag, const QVector<QWidget*>& controls);
+    /// A click on the check box enables or disables its controls.
+    void connectFilter(QCheckBox* box, const QVector<QWidget*>& controls);
 
     void tbSuch_Click();
     void tbExcel_Click();

@@ -6,7 +6,6 @@
 #include "Heading.h"
 #include "Kalendernamen.h"
 #include "ProgressBar.h"
-#include "Session.h"
 #include "Tastenfilter.h"
 #include "TextBox.h"
 #include "Toolbar.h"
@@ -164,20 +163,19 @@ QWidget* Fangauswertung::layOutSums() {
     return row->parentWidget();
 }
 
-void Fangauswertung::connectFilter(QCheckBox* box, std::size_t flag, const QVector<QWidget*>& controls) {
-    on(box, &QCheckBox::toggled, [flag, controls](bool ticked) {
+void Fangauswertung::connectFilter(QCheckBox* box, const QVector<QWidget*>& controls) {
+    on(box, &QCheckBox::toggled, [controls](bool ticked) {
         for (QWidget* control : controls) control->setEnabled(ticked);
-        session().AuswertFilter[flag] = ticked;
     });
 }
 
 void Fangauswertung::connectEvents() {
-    connectFilter(chkArchiv, 0, {cboFJahr});
-    connectFilter(chkFArt, 1, {cboFArt});
-    connectFilter(chkGName, 2, {cboGName});
-    connectFilter(chkFMonat, 3, {cboFMonat});
-    connectFilter(chkAnzahl, 4, {cboOptAnz01, txtAnz01, cboOptAnz02, txtAnz02});
-    connectFilter(chkGewicht, 5, {cboOptGew01, txtGew01, cboOptGew02, txtGew02});
+    connectFilter(chkArchiv, {cboFJahr});
+    connectFilter(chkFArt, {cboFArt});
+    connectFilter(chkGName, {cboGName});
+    connectFilter(chkFMonat, {cboFMonat});
+    connectFilter(chkAnzahl, {cboOptAnz01, txtAnz01, cboOptAnz02, txtAnz02});
+    connectFilter(chkGewicht, {cboOptGew01, txtGew01, cboOptGew02, txtGew02});
     on(tblFAusw, &DataTable::OnGridCellDown, [this](int row, int) { tblFAusw_OnGridCellDown(row); });
     on(tblFAusw, &DataTable::OnGridCellOpen, [this](int row, int) { tblFAusw_OnGridCellOpen(row); });
     on(tblFAusw, &DataTable::OnGridCellMenu, [this] { tblFAusw_OnGridCellMenu(); });

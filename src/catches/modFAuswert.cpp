@@ -123,17 +123,16 @@ void LadeAuswahl() {
 
 void ErgaenzeSelektion(QString& filter) {
     const Fangauswertung& form = screen<Fangauswertung>();
-    const auto& ticked = session().AuswertFilter;
-    if (ticked[0]) filter += u" AND fa.FangJahr = "_qs + form.cboFJahr->currentText();
-    if (ticked[1]) filter += u" AND f.FName = "_qs + quoted(form.cboFArt->currentText());
-    if (ticked[2]) filter += u" AND g.GName = "_qs + quoted(form.cboGName->currentText());
-    if (ticked[3])
+    if (form.chkArchiv->isChecked()) filter += u" AND fa.FangJahr = "_qs + form.cboFJahr->currentText();
+    if (form.chkFArt->isChecked()) filter += u" AND f.FName = "_qs + quoted(form.cboFArt->currentText());
+    if (form.chkGName->isChecked()) filter += u" AND g.GName = "_qs + quoted(form.cboGName->currentText());
+    if (form.chkFMonat->isChecked())
         filter += u" AND fa.FangMonat = "_qs +
                   QString::number(modRun::ErmittleMonatsNr(form.cboFMonat->currentText()));
-    if (ticked[4])
+    if (form.chkAnzahl->isChecked())
         filter += klausel(u"Anzahl"_qs, {form.cboOptAnz01, form.txtAnz01}) +
                   klausel(u"Anzahl"_qs, {form.cboOptAnz02, form.txtAnz02});
-    if (ticked[5])
+    if (form.chkGewicht->isChecked())
         filter += klausel(u"Gewicht"_qs, {form.cboOptGew01, form.txtGew01}) +
                   klausel(u"Gewicht"_qs, {form.cboOptGew02, form.txtGew02});
 }

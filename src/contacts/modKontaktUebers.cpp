@@ -58,6 +58,17 @@ void zaehleKontakte(int row, Recordset& kontakte) {
     Uebersicht::legeKindMitPlatzhalterAn(row);
 }
 
+void liesKategorie(int row, qint32 kategonr, void (*zeige)(int, Recordset&)) {
+    Recordset kontakte =
+        oeffneAbfrage(u"SELECT * FROM Kontakt WHERE KategoNr = "_qs + QString::number(kategonr));
+    if (kontakte.RecordCount() == 0) {
+        // What an earlier opening has left there is nobody's any more.
+        screen<KontaktUebers>().tblKUebers->removeChild(row);
+        return;
+    }
+    zeige(row, kontakte);
+}
+
 } // namespace
 
 void InitTblKUebers() {
@@ -90,24 +101,10 @@ void FuelleKontaktUebersicht() {
     InitTblKUebers();
     tblKUebersfüllen();
     const DataTable* grid = screen<KontaktUebers>().tblKUebers;
-    session().NurZaehlen = true;
     for (int row = 0; row < grid->rowCount(); ++row)
-        KategorieAufklappen(row, CLng(grid->cell(row, Uebersicht::spalteNr)));
-    session().NurZaehlen = false;
+        liesKategorie(row, CLng(grid->cell(row, Uebersicht::spalteNr)), &zaehleKontakte);
 }
 
-void KategorieAufklappen(int row, qint32 kategonr) {
-    Recordset kontakte =
-        oeffneAbfrage(u"SELECT * FROM Kontakt WHERE KategoNr = "_qs + QString::number(kategonr));
-    if (kontakte.RecordCount() == 0) {
-        // What an earlier opening has left there is nobody's any more.
-        screen<KontaktUebers>().tblKUebers->removeChild(row);
-        return;
-    }
-    if (session().NurZaehlen)
-        zaehleKontakte(row, kontakte);
-    else
-        zeigeKontakte(row, kontakte);
-}
+void KategorieAufklappen(int row, qint32 kategonr) { liesKategorie(row, kategonr, &zeigeKontakte); }
 
 } // namespace modKontakt

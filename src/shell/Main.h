@@ -3,6 +3,7 @@
 #include "Rahmen.h"
 #include "Screen.h"
 
+class BarGroup;
 class NavigationBar;
 class QAction;
 class QMenu;
@@ -32,6 +33,8 @@ public:
 
     QMenuBar* menuBar;
     NavigationBar* ButtnBar;
+    BarGroup* GruppeSystem = nullptr;
+    BarGroup* GruppeOrganisation = nullptr;
     Stage* stage;
     StatusBar* StatusBar1;
 

@@ -101,8 +101,8 @@ void showScreen(const QString& key) {
 } // namespace
 
 void InitButtnBar() {
-    session().GruppeSystem = addGroup(u"System"_qs, systemItems);
-    session().GruppeOrganisation = addGroup(u"Organisation"_qs, organisationItems);
+    screen<Main>().GruppeSystem = addGroup(u"System"_qs, systemItems);
+    screen<Main>().GruppeOrganisation = addGroup(u"Organisation"_qs, organisationItems);
     constexpr int organisation = 1;
     constexpr int itemSpacing = 80;
     screen<Main>().ButtnBar->setCurrentGroup(organisation);
@@ -153,7 +153,7 @@ void zeigeErstesFenster() {
     NavigationBar* bar = screen<Main>().ButtnBar;
     if (bar->item(u"Fangbuch"_qs)) return showScreen(u"Fangbuch"_qs);
     // A user without the right to the catch book begins on his first screen, or in an empty frame.
-    for (BarGroup* group : {session().GruppeOrganisation, session().GruppeSystem})
+    for (BarGroup* group : {screen<Main>().GruppeOrganisation, screen<Main>().GruppeSystem})
         if (!group->items().isEmpty()) return zeigeBereich(group->items().first()->key());
 }
 

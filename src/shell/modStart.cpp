@@ -182,8 +182,8 @@ bool Login(const QString& name, const QString& passwort) {
 
 void WendeRechteAn(const Recordset& gruppe) {
     const auto denied = [&](const QString& right) { return gruppe.Fields(right).Value() != Value(true); };
-    BarGroup* organisation = session().GruppeOrganisation;
-    BarGroup* system = session().GruppeSystem;
+    BarGroup* organisation = screen<Main>().GruppeOrganisation;
+    BarGroup* system = screen<Main>().GruppeSystem;
     if (denied(u"Fangbuch"_qs)) removeItem(organisation, u"Fangbuch"_qs);
     if (denied(u"Fangauswertung"_qs)) removeItem(organisation, u"Fangauswertung"_qs);
     if (denied(u"KontUebers"_qs)) removeItem(organisation, u"Kontakte"_qs);

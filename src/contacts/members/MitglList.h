@@ -92,8 +92,8 @@ private:
     void addOptions(const QCheckBox* spoken, QRadioButton*& first, const QString& firstName,
                     const QString& firstCaption, QRadioButton*& second, const QString& secondName,
                     const QString& secondCaption);
-    /// A click on the check box enables its controls, sets its flag and empties the grid.
-    void connectFilter(QCheckBox* box, std::size_t flag, const QVector<QWidget*>& controls);
+    /// A click on the check box enables or disables its controls and empties the grid.
+    void connectFilter(QCheckBox* box, const QVector<QWidget*>& controls);
 
     void tbSuch_Click();
     void tbEsc_Click();

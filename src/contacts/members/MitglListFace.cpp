@@ -5,7 +5,6 @@
 #include "Heading.h"
 #include "MitglList.h"
 #include "ProgressBar.h"
-#include "Session.h"
 #include "Tastenfilter.h"
 #include "TextBox.h"
 #include "Toolbar.h"
@@ -221,24 +220,23 @@ QWidget* MitglList::layOutFoot() {
     return row->parentWidget();
 }
 
-void MitglList::connectFilter(QCheckBox* box, std::size_t flag, const QVector<QWidget*>& controls) {
-    on(box, &QCheckBox::toggled, [this, flag, controls](bool ticked) {
+void MitglList::connectFilter(QCheckBox* box, const QVector<QWidget*>& controls) {
+    on(box, &QCheckBox::toggled, [this, controls](bool ticked) {
         for (QWidget* control : controls) control->setEnabled(ticked);
-        session().MListFilter[flag] = ticked;
         tblMList->clearRows();
     });
 }
 
 void MitglList::connectEvents() {
-    connectFilter(chkGebDat, 0, {cboOptGeb01, txtGeb01, cboOptGeb02, txtGeb02});
-    connectFilter(chkEintritt, 1, {cboOptTritt01, txtTritt01, cboOptTritt02, txtTritt02});
-    connectFilter(chkGeschl, 2, {optMann, optFrau});
-    connectFilter(chkJBeitrag, 3, {optBezahlt, optNBezahlt});
-    connectFilter(chkStatus, 4, {optAktiv, optPassiv});
-    connectFilter(chkBefreit, 5, {optBefrJa, optBefrNein});
-    connectFilter(chkAusgMitgl, 6, {optAusgJa, optAusgNein});
-    connectFilter(chkJG, 7, {optJGJa, optJGNein});
-    connectFilter(chkArbStd, 8, {optStdJa, optStdNein});
+    connectFilter(chkGebDat, {cboOptGeb01, txtGeb01, cboOptGeb02, txtGeb02});
+    connectFilter(chkEintritt, {cboOptTritt01, txtTritt01, cboOptTritt02, txtTritt02});
+    connectFilter(chkGeschl, {optMann, optFrau});
+    connectFilter(chkJBeitrag, {optBezahlt, optNBezahlt});
+    connectFilter(chkStatus, {optAktiv, optPassiv});
+    connectFilter(chkBefreit, {optBefrJa, optBefrNein});
+    connectFilter(chkAusgMitgl, {optAusgJa, optAusgNein});
+    connectFilter(chkJG, {optJGJa, optJGNein});
+    connectFilter(chkArbStd, {optStdJa, optStdNein});
     on(chkArbAnz, &QCheckBox::toggled, [this](bool ticked) {
         tblMList->clearRows();
         cboArbJahr->setEnabled(ticked);

@@ -183,7 +183,7 @@ bool PruefeMListEingabe() {
 
 void LeereMListAnzeige() {
     MitglList& form = screen<MitglList>();
-    // A check box that goes off disables what belongs to it and clears its flag.
+    // A check box that goes off disables what belongs to it.
     for (QCheckBox* box : {form.chkGebDat, form.chkEintritt, form.chkGeschl, form.chkJBeitrag, form.chkStatus,
                            form.chkBefreit, form.chkAusgMitgl, form.chkJG, form.chkArbStd, form.chkArbAnz})
         box->setChecked(false);

@@ -1,11 +1,12 @@
 #pragma once
 
 #include "DBEngine.h"
-#include "NavigationBar.h"
 
 #include <QPointer>
 #include <QString>
 #include <array>
+
+class BarItem;
 
 /// What all routines share while the program runs: plain values that any routine may read and write. Safe
 /// because there is one thread.
@@ -26,7 +27,6 @@ struct Session {
     qint16 SuchAufrufer = 0;      ///< who opened the search: 0 the contact overview, 1 the work ledger
     bool KontextZeileOK = false;  ///< the last press on a grid hit a data row
     bool NachReport = false;      ///< a report was shown: the next activation leaves the lists alone
-    bool NurZaehlen = false;      ///< the overview is being filled: categories are counted, not listed
     QPointer<BarItem> AktBarItem; ///< navigation item last made current
 
     QString Benutzer;         ///< name of the user who is logged in; the status bar shows it
@@ -40,15 +40,6 @@ struct Session {
     /// The club's name, street, postal code, town and telephone as last saved: what Info and the reports
     /// show.
     std::array<QString, 5> Anschrift;
-
-    /// The filters of the evaluation that are ticked: year, kind of fish, water, month, number, weight.
-    std::array<bool, 6> AuswertFilter{};
-    /// The filters of the member list that are ticked: birthday, entry, sex, fee, status, exemption, left
-    /// members, youth group, hours worked.
-    std::array<bool, 9> MListFilter{};
-
-    BarGroup* GruppeSystem = nullptr;
-    BarGroup* GruppeOrganisation = nullptr;
 };
 
 Session& session();
