@@ -21,7 +21,7 @@ using Program = PlayedProgram&;
 using Words = const QStringList&;
 using Run = PlayerCommand::Run;
 
-/// What prints nothing. A menu that stands open goes before what acts elsewhere.
+/// A command that prints nothing.
 template<typename Action>
 Run quietly(Action action) {
     return [action](Program program, Words words) -> QStringList {
@@ -30,6 +30,7 @@ Run quietly(Action action) {
     };
 }
 
+/// As above, for what a user does. Closes an open menu first.
 template<typename Action>
 Run act(Action action) {
     return quietly([action](Program, Words words) {
@@ -45,7 +46,7 @@ Run act(Action action) {
     });
 }
 
-/// What prints what a function gives for the words behind its name.
+/// A command that prints the result of a function. The function takes the first argument, or none.
 template<typename Answer>
 Run tell(Answer answer) {
     return [answer](Program, Words words) -> QStringList {
@@ -81,7 +82,7 @@ void queueDialog(Program program, Words words) {
     program.dialogs().queue(file ? program.outputPath(words[1]) : QString());
 }
 
-/// The write from which on there is no room: the first one, or the one that is named.
+/// `full` fills the disk at the first write, `full N` at the Nth, `full commit` at each commit.
 void fillDisk(Words words) {
     if (words.size() == 1) return fillDiskAtWrite(1);
     if (words[1] == u"commit") return fillDiskAtCommits();

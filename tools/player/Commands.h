@@ -5,17 +5,17 @@
 
 class PlayedProgram;
 
-/// A word of the scenarios' language.
+/// A command of the language of scenarios.
 struct PlayerCommand {
-    /// What it acts upon, and the words behind its name; gives what it prints.
+    /// Takes the program and the arguments. Returns the lines to print.
     using Run = std::function<QStringList(PlayedProgram&, const QStringList&)>;
     enum class Needs { Nothing, RunningProgram };
 
     const char16_t* name;
-    int words; ///< how many must stand behind the name; below zero any number
+    int words; ///< number of arguments; below zero for any number
     Needs needs;
     Run run;
 };
 
-/// Null for a name that there is not.
+/// Null if no command has this name.
 const PlayerCommand* findCommand(const QString& name);

@@ -31,7 +31,7 @@ void clickOn(QWidget* widget, QPoint place, const QString& name) {
     Hand::click(widget, place);
 }
 
-/// Where a check box or an option can be clicked whatever its width.
+/// The centre of the mark of a check box or an option. A click there works whatever the width of the control.
 QPoint markOf(const QAbstractButton* button, QStyle::SubElement mark) {
     QStyleOptionButton look;
     look.initFrom(button);
@@ -46,7 +46,7 @@ QPoint placeOn(const QAbstractButton* button) {
 
 void clickButton(QAbstractButton* button, const QString& name) { clickOn(button, placeOn(button), name); }
 
-/// The part of a control that a text is typed into; null if it takes none.
+/// The text field of a control, also that inside an editable combo box. Null if there is none.
 QWidget* textField(QWidget* control) {
     if (auto* combo = qobject_cast<QComboBox*>(control)) return combo->lineEdit();
     if (qobject_cast<QLineEdit*>(control) || qobject_cast<QPlainTextEdit*>(control)) return control;
@@ -58,7 +58,7 @@ bool hasSelection(const QWidget* field) {
     return qobject_cast<const QPlainTextEdit*>(field)->textCursor().hasSelection();
 }
 
-/// A click behind the text; a long text still needs the key that goes to its end.
+/// Clicks behind the text, then presses End, since a long text ends outside the field.
 void clickBehindText(QWidget* field, const QString& name) {
     constexpr int margin = 6;
     clickOn(field, {std::max(field->width() - margin, field->width() / 2), field->height() / 2}, name);
@@ -73,8 +73,8 @@ QWidget* requireTextField(const QString& name) {
     return field;
 }
 
-/// A handler may send the focus elsewhere at the first click (leaving the catch book's note does); a user
-/// clicks again.
+/// Clicks a second time if the first click does not give the focus. A handler may move it elsewhere at the
+/// first click, as on leaving the note of the catch book, and a user would click again.
 QWidget* enterField(const QString& name) {
     QWidget* field = requireTextField(name);
     constexpr int clicks = 2;
@@ -88,7 +88,7 @@ bool isEmpty(const QWidget* field) {
     return qobject_cast<const QPlainTextEdit*>(field)->document()->isEmpty();
 }
 
-/// The year first and the day last: in between, no date may come up that there is not.
+/// Types the year first and the day last, so that every date in between exists.
 void typeSections(QDateTimeEdit* edit, QDate date) {
     const std::pair<QDateTimeEdit::Section, QString> parts[] = {{QDateTimeEdit::YearSection, u"yyyy"_qs},
                                                                 {QDateTimeEdit::MonthSection, u"MM"_qs},
@@ -109,7 +109,7 @@ QPoint arrowOf(const QComboBox* combo) {
         .center();
 }
 
-/// The list takes a release for a choice only after the mouse has moved in it.
+/// Moves the mouse inside the list first. Without that the list does not take the release as a choice.
 void clickEntry(QComboBox* combo, int entry, const QString& name) {
     QAbstractItemView* list = combo->view();
     if (!list->isVisible()) throw CommandFailure{u"the list of %1 did not open"_qs.arg(name)};
@@ -210,7 +210,7 @@ void selectTab(const QString& name, int page) {
     clickOn(tabs, tabs->tabRect(page).center(), name);
 }
 
-// A click on anything but a text field would do more than move the focus.
+// Clicks text fields only. Other controls get the focus directly, since a click would do more than that.
 void focus(const QString& name) {
     QWidget* control = Controls::find(name);
     Controls::requireUsable(control, name);
@@ -230,7 +230,7 @@ void pressKey(const QString& screenName, const QString& key) {
     if (!Hand::namedKey(key)) throw CommandFailure{u"there is no key %1"_qs.arg(key)};
 }
 
-// A screen on the stage has no border of its own.
+// A screen on the stage has no border to close it by: its Form_QueryUnload is called directly.
 void close(const QString& screenName) {
     Screen* screen = Controls::findScreen(screenName);
     Controls::requireUsable(screen, screenName);

@@ -3,8 +3,7 @@
 #include <QDate>
 #include <QString>
 
-/// What a user does to a control. A control that is missing, of another kind or out of reach is a
-/// CommandFailure.
+/// Actions of a user on controls. CommandFailure if a control is missing, of another kind or out of reach.
 namespace ControlActions {
 
 void type(const QString& name, const QString& text);

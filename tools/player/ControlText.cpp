@@ -23,7 +23,7 @@ namespace {
 
 QString onOrOff(bool on) { return on ? u"on"_qs : u"off"_qs; }
 
-/// A caption without the marks of its mnemonics.
+/// A caption without the & of its mnemonic.
 QString withoutMnemonic(QString caption) {
     for (qsizetype at = caption.indexOf(u'&'); at >= 0; at = caption.indexOf(u'&', at + 1))
         caption.remove(at, 1);
@@ -76,7 +76,7 @@ bool isEnabled(const QString& name) {
 bool isVisible(const QString& name) {
     if (MenuItems::isItem(name)) return MenuItems::isVisible(MenuItems::find(name));
     const bool isScreen = !name.contains(u'.');
-    // A screen that is not there is one that nobody sees.
+    // A screen that is not loaded is no error: it is invisible.
     if (isScreen && !Screens::byName(name)) return false;
     return Controls::find(name)->isVisible();
 }

@@ -2,17 +2,17 @@
 
 #include <QStringList>
 
-/// What a user sees of a control or a menu item, as text.
+/// Controls and menu items as text, as a user sees them. CommandFailure if one is missing or of another kind.
 namespace ControlText {
 
-/// Text of a box, label, combo box or cell; on or off; value of a progress bar.
+/// The text of a box, label, combo box or cell; `on` or `off` for a mark; the value of a progress bar.
 QString shown(const QString& name);
 bool isEnabled(const QString& name);
 bool isVisible(const QString& name);
 
 QStringList entries(const QString& comboName);
 QString heads(const QString& gridName);
-/// Rows of a grid or of a child table, entries of a combo box.
+/// The number of rows of a grid or a child table, or of entries of a combo box.
 int count(const QString& name);
 
 } // namespace ControlText

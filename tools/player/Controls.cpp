@@ -17,7 +17,7 @@ QWidget* findOn(const Screen* screen, const QString& name) {
     return nullptr;
 }
 
-// The toolkit's own parts of a control bear names of that kind.
+// Names that begin with qt_ belong to Qt's own parts of a control.
 bool isNamed(const QWidget* widget) {
     return !widget->objectName().isEmpty() && !widget->objectName().startsWith(u"qt_"_qs);
 }

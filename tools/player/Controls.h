@@ -6,27 +6,26 @@ class QPoint;
 class QWidget;
 class Screen;
 
-/// Finds what a scenario names `Screen.control`. Everything that is missing or can't be used is a
-/// CommandFailure.
+/// Finds controls by the name `Screen.control`. CommandFailure if one is missing or can't be used.
 namespace Controls {
 
-/// The screen itself for a name without a control.
+/// A name without a control gives the screen itself.
 QWidget* find(const QString& name);
 Screen* findScreen(const QString& name);
 
 template<typename T>
 T* find(const QString& name, const QString& kind);
 
-/// The screen that a control stands on; null for none.
+/// The screen around a control; null if there is none.
 Screen* screenOf(const QWidget* control);
-/// `Screen.control` of a widget or of the nearest control around it.
+/// The name `Screen.control` of a widget, or of the nearest named one around it; `none` if there is none.
 QString nameOf(const QWidget* widget);
 
-/// Fails unless a user could click the control now.
+/// CommandFailure unless a user could click the control now.
 void requireUsable(QWidget* control, const QString& name);
-/// The same for a place on it; scrolls it into view where it lies in a scroll area.
+/// As requireUsable(), for a place on the control. Scrolls the control into view if it is in a scroll area.
 void requireReachable(QWidget* control, QPoint place, const QString& name);
-/// Fails if a modal screen stands in front of the window.
+/// CommandFailure if a modal screen locks the widget's window.
 void requireNotBlocked(const QWidget* widget, const QString& name);
 
 [[noreturn]] void refuseKind(const QString& name, const QString& kind);

@@ -14,7 +14,7 @@
 
 namespace {
 
-/// Tells a file from another one that was put in its place.
+/// Changes when another file is put in the place of this one.
 QString identity(const QString& path) {
 #ifndef Q_OS_WIN
     struct stat status = {};

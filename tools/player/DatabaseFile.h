@@ -6,8 +6,8 @@
 
 struct sqlite3;
 
-/// The database file of a program folder through a connection of our own, beside that of the program. The
-/// connection stays open as long as the same file lies there, since unlocking takes a while.
+/// A connection to the database file of a program folder, beside the program's own. It stays open until the
+/// file is replaced by another, since deriving the key takes a while.
 class DatabaseFile {
 public:
     explicit DatabaseFile(QString path);
@@ -15,9 +15,9 @@ public:
     DatabaseFile(const DatabaseFile&) = delete;
     DatabaseFile& operator=(const DatabaseFile&) = delete;
 
-    /// Throws CommandFailure with SQLite's words.
+    /// Runs SQLite statements. CommandFailure with SQLite's message if one fails.
     void run(const QString& statements);
-    /// A line a row, cells joined by |, Null as empty.
+    /// A line for each row, cells joined by |, Null as empty. Errors as for run().
     QStringList query(const QString& statement);
     void close();
 
@@ -30,6 +30,6 @@ private:
     void open();
 
     QString m_path;
-    QString m_opened; ///< which file the connection is to
+    QString m_opened; ///< the identity of the open file
     std::unique_ptr<sqlite3, Closer> m_handle;
 };

@@ -29,7 +29,8 @@ bool isJournal(int file) {
     return size > 0 && std::string_view(name.data(), static_cast<size_t>(size)).ends_with("-journal");
 }
 
-/// The first page of a commit comes after the journal's last; those of the rollback follow it.
+/// True for the first page of a commit: the first write after the journal's last one. Pages written by a
+/// rollback come after that page.
 bool isFirstOfCommit(int file) {
     const bool journal = isJournal(file);
     return std::exchange(isCommitting, journal) && !journal;

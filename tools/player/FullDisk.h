@@ -2,22 +2,23 @@
 
 #include <QtGlobal>
 
-// Errors of the disk, as SQLite sees them.
+// Makes the disk fail, as seen by SQLite.
 
-/// The disk is full from the `place`th write on, counted from 1.
+/// Fails each write from the `place`th on, counted from 1, for want of space.
 void fillDiskAtWrite(int place);
-/// From now on there is room for the journal only: each commit fails at its first page.
+/// Leaves space for the journal only: each commit fails at its first page.
 void fillDiskAtCommits();
-/// The `place`th write from now on is reported as done and is not done.
+/// Drops the `place`th write from now on, but reports it as done.
 void loseWrite(int place);
 /// Ends the errors of writing.
 void emptyDisk();
-/// From now on reads of the byte at this place of any file fail; -1 for none.
+/// Fails reads of the byte at this place, in any file. -1 ends that.
 void failReadsAt(qint64 place);
 /// Call before the first connection, so that takeCommits() counts.
 void countCommits();
-/// The number of write transactions since the last call, by the journals that were removed.
+/// The number of write transactions since the last call. Counts the journals that were removed.
 int takeCommits();
 
-/// Whether files opened from now on are read-only. The tests run as root, who may write everywhere.
+/// Makes the files opened from now on read-only. File permissions would not do: the tests run as root, who
+/// may write everywhere.
 void forbidWriting(bool forbidden);

@@ -25,7 +25,7 @@ Mouse& mouse() {
     return one;
 }
 
-/// Longer than what makes a double click of two.
+/// Milliseconds between two clicks, more than Qt takes for a double click.
 constexpr int breather = 1000;
 
 QPoint inWindow(const QWidget* widget, QPoint place) { return widget->mapTo(widget->window(), place); }
@@ -98,7 +98,7 @@ Qt::KeyboardModifiers takeModifiers(QStringList& words) {
 
 namespace Hand {
 
-// Bounded, since a timer without a breather would keep the loop busy for ever.
+// Stops after some turns: a timer without an interval would keep the loop busy for ever.
 void settle() {
     constexpr int turns = 50;
     for (int turn = 0; turn < turns; ++turn) {

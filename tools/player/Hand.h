@@ -6,17 +6,17 @@
 class QPoint;
 class QWidget;
 
-/// The user's hand: mouse and keyboard, through the window system's way into the program, so that grabs,
-/// popups, modal screens and mnemonics work as they do for a user.
+/// The mouse and keyboard of the user. Events enter the program where those of the window system do, so that
+/// grabs, popups, modal screens and mnemonics work as they do for a user.
 namespace Hand {
 
-/// Lets the program catch up with all that is on its way: painting, focus, queued calls.
+/// Lets the program handle all that is pending: painting, focus, queued calls.
 void settle();
-/// Does what a window manager would: one of the windows that can be used is the active one.
+/// Activates the window in front, as a window manager would.
 void activateWindow();
-/// As a click into it does.
+/// Activates the widget's window, as a click into it does.
 void activateWindowOf(QWidget* widget);
-/// Behind a modal window, and none of its own.
+/// True if a modal window is open and the window does not belong to it.
 bool isLocked(const QWidget* window);
 /// The window in front that a user can use; null if there is none.
 QWidget* windowInFront();
@@ -25,13 +25,13 @@ QWidget* windowInFront();
 void move(QWidget* widget, QPoint place);
 void click(QWidget* widget, QPoint place, Qt::MouseButton button = Qt::LeftButton);
 void doubleClick(QWidget* widget, QPoint place);
-/// A modal screen may open while a button is down; a user lets it go then.
+/// Releases the mouse button if it is down. A modal screen that opens at a press leaves it so.
 void releaseButton();
 
 void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
-/// Types a text, a line break of any kind as Enter and a tabulator as Tab.
+/// Types a text. Any line break becomes Enter, a tabulator Tab.
 void type(const QString& text);
-/// A key by its name in the toolkit, with modifiers before it ("F3", "Ctrl+V"); false if there is none such.
+/// Presses a key by its name in Qt, with modifiers before it ("F3", "Ctrl+V"). False if there is no such key.
 bool namedKey(const QString& name);
 
 } // namespace Hand

@@ -2,5 +2,5 @@
 
 #include <QString>
 
-/// A text as it is printed on one line: its line breaks as \r and \n.
+/// A text on one line, with its line breaks as \r and \n.
 QString lineText(const QString& text);

@@ -15,7 +15,7 @@ namespace {
 
 QString plainName(const QString& name) { return name.mid(name.indexOf(u'.') + 1); }
 
-/// The menu or the bar in which it stands; null if it is in none.
+/// The menu or the menu bar that holds the item; null if there is none.
 template<typename Holder>
 Holder* holding(const QAction* item) {
     for (QObject* place : item->associatedObjects()) {
@@ -24,7 +24,7 @@ Holder* holding(const QAction* item) {
     return nullptr;
 }
 
-// The menus themselves bear names as well; what a user clicks for one is its title.
+// The name may be that of a menu. A user clicks its title.
 QAction* named(const QString& name) {
     for (Screen* screen : Screens::all()) {
         if (auto* item = screen->findChild<QAction*>(name)) return item;
@@ -44,7 +44,7 @@ void clickInBar(QMenuBar* bar, QAction* title, const QString& name) {
     Hand::click(bar, place);
 }
 
-/// Opens the menu by way of the menu bar unless it stands open.
+/// Opens the menu through the menu bar. Does nothing if it is open.
 void open(QMenu* menu, const QString& name) {
     if (menu->isVisible()) return;
     QAction* title = menu->menuAction();

@@ -4,17 +4,17 @@
 
 class QAction;
 
-/// The items of the frame's menus and of the context menu that stands open, by their names.
+/// The items of the frame's menus and of an open context menu, by name.
 namespace MenuItems {
 
 bool isItem(const QString& name);
-/// CommandFailure if there is none.
+/// CommandFailure if there is no such item.
 QAction* find(const QString& name);
-/// True if a user could see it: in a menu of the bar, or in a context menu that stands open.
+/// True for a visible item of the menus of the bar, open or not, or of an open context menu.
 bool isVisible(const QAction* item);
-/// Clicks it, and what leads to it before.
+/// Opens the menus that lead to the item and clicks it.
 void click(const QString& name);
-/// A click beside an open menu, or Esc: it goes without a choice.
+/// Closes an open menu by Esc, without a choice.
 void dismissOpenMenu();
 
 } // namespace MenuItems

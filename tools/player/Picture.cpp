@@ -35,7 +35,7 @@ QWidgetList windowsFromBack() {
     return windows;
 }
 
-/// A window manager would set a window off from the one below.
+/// Draws a border round a window above another one, as a window manager would.
 void paintWindow(QPainter& painter, QWidget* window, QPoint origin) {
     const QRect place = placeOf(window).translated(-origin);
     painter.drawPixmap(place.topLeft(), window->grab());

@@ -11,7 +11,7 @@ void settleEnvironment() {
     const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
     if (platform.isEmpty() || platform == "offscreen")
         qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" UW_PLAYER_SCREEN);
-    // Only Qt's own event loop says when it has nothing left to do.
+    // Only Qt's own event loop reports when it has nothing left to do.
     qputenv("QT_NO_GLIB", "1");
     qputenv("TZ", "UTC");
     QHashSeed::setDeterministicGlobalSeed();

@@ -5,14 +5,14 @@
 class QApplication;
 class QString;
 
-/// What must be the same on every machine on which the program is played.
+/// Settings that make a scenario give the same on every machine.
 namespace Platform {
 
-/// Before the toolkit looks at it.
+/// Call before the QApplication is made.
 void settleEnvironment();
 void settleApplication(QApplication& application, Theme::Mode mode);
-/// True for what the platform without a screen says of each window that it can't do, and where it has no
-/// session of its own.
+/// True for messages that say nothing of the program: Qt's offscreen platform can't do some things for a
+/// window, and there may be no session.
 bool isUsual(const QString& message);
 
 } // namespace Platform

@@ -10,17 +10,19 @@
 
 class Program;
 
-/// The program under play: its folder, what stands around it, and its lives one after the other.
+/// The program that a scenario runs: its folder, clock, message boxes and dialogs. It may be started several
+/// times.
 class PlayedProgram {
 public:
-    /// The folder is made when it is first needed, unless there is a database in it already. Relative names
-    /// of pictures and PDFs lead to the other one.
+    /// Makes `folder` when it is first needed, unless it has a database already. Relative names of pictures
+    /// and PDF files are relative to `pictures`.
     PlayedProgram(QString folder, QString pictures);
     ~PlayedProgram();
     PlayedProgram(const PlayedProgram&) = delete;
     PlayedProgram& operator=(const PlayedProgram&) = delete;
 
     void setToday(QDate day) { m_clock.setDay(day); }
+    // For the new folder. CommandFailure if it has been made already.
     void setFishingYear(int year);
     void wantDemoClub();
 
@@ -30,9 +32,9 @@ public:
 
     void start();
     bool isRunning() const;
-    /// CommandFailure unless it runs.
+    /// CommandFailure unless the program is running.
     void requireRunning() const;
-    /// Ends it without asking or storing anything.
+    /// Ends the program without asking or storing anything.
     void end();
 
     RecordedBoxes& boxes() { return m_boxes; }

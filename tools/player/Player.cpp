@@ -40,8 +40,8 @@ int Player::play() {
     return m_failures;
 }
 
-// Inside a command, only a loop that the program has opened there lets the next one begin: what the command
-// itself does to let the program catch up does not.
+// While a command runs, the next one begins only in an event loop that the program has opened. Hand::settle()
+// opens none, so it starts no command.
 void Player::programIsIdle() {
     if (m_stepPosted || loopLevel() <= m_level) return;
     m_stepPosted = true;

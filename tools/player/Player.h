@@ -7,8 +7,8 @@
 #include <QPointer>
 #include <optional>
 
-/// Plays a scenario. A command begins when the program has nothing left to do, also while an earlier one
-/// still stands in a modal screen that it has opened: the loop of that screen drives the player on.
+/// Runs a scenario. A command begins when the program has nothing left to do. If a command opens a modal
+/// screen, the next commands run inside the event loop of that screen.
 class Player : public QObject {
     Q_OBJECT
 
@@ -20,16 +20,17 @@ public:
 
     Player(std::vector<ScriptCommand> script, PlayedProgram& program, Options options);
 
-    /// Plays to the end and gives the number of failures, which it has told on the standard error output.
+    /// Runs the scenario to its end. Writes each failure to the standard error output and returns their
+    /// number.
     int play();
 
 protected:
-    /// What is played next; nothing at the end.
+    /// The next command; nothing at the end.
     virtual std::optional<ScriptCommand> next();
     virtual void carryOut(const ScriptCommand& command);
-    /// Carries it out and gives what it prints. CommandFailure if it can't be done.
+    /// Runs the command and returns what it prints. CommandFailure if it can't be done.
     QStringList output(const ScriptCommand& command);
-    /// At the end: boxes, answers and dialogs that nobody has asked for.
+    /// Called at the end. Reports message boxes, answers and dialogs that were not used.
     virtual void reportLeftovers();
     PlayedProgram& program() { return m_program; }
 
@@ -47,8 +48,8 @@ private:
     Options m_options;
     std::size_t m_next = 0;
     int m_line = 0;    ///< of the command last begun
-    QString m_command; ///< as it stands in the scenario
-    int m_level = 0;   ///< of the event loop in which the command in progress was begun
+    QString m_command; ///< its line in the scenario
+    int m_level = 0;   ///< of the event loop in which the running command began
     bool m_stepPosted = false;
     int m_failures = 0;
 };

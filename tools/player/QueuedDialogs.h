@@ -4,11 +4,11 @@
 
 #include <QStringList>
 
-/// Stands in for the print and the save dialog and the machine's printers. A dialog gets the next queued
-/// file, and is called off where none is queued.
+/// Replaces the print dialog, the save dialog and the list of printers. A dialog returns the next queued
+/// file. It is cancelled if none is queued.
 class QueuedDialogs final : public PrintDialogs {
 public:
-    /// An empty name calls the dialog off.
+    /// An empty name cancels the dialog.
     void queue(const QString& file) { m_files.append(file); }
     qsizetype unused() const { return m_files.size(); }
     void setPrinters(int count) { m_printers = count; }

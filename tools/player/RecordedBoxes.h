@@ -4,7 +4,7 @@
 
 #include <QStringList>
 
-/// Takes the boxes of the program instead of showing them, and answers its questions from a queue.
+/// Records the message boxes of the program instead of showing them, and answers its questions from a queue.
 class RecordedBoxes final : public MessageBoxes {
 public:
     MsgBoxResult show(const QString& text, int style, const QString& title) override;
@@ -12,11 +12,11 @@ public:
     void queueAnswer(MsgBoxResult answer) { m_answers.append(answer); }
     qsizetype unusedAnswers() const { return m_answers.size(); }
 
-    /// The boxes since the last call, a line each.
+    /// The message boxes since the last call, a line each.
     QStringList take();
-    /// As above, each box by its kind or, where its title names an error, by the error's number.
+    /// As above, but only the kind of each box or, if its title names an error, the number of the error.
     QStringList takeKinds();
-    /// The questions since the last call for which no answer was queued; they were answered no.
+    /// The questions since the last call without a queued answer. They were answered No.
     QStringList takeUnanswered();
 
 private:

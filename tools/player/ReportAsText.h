@@ -4,6 +4,6 @@
 
 class ReportDocument;
 
-/// What the report says, line by line: report header and page header as "Section.control = text", the detail
+/// The texts of a report, line by line: report header and page header as "Section.control = text", the detail
 /// rows with their texts joined by "|", then the report footer, and the page footer as on page 1.
 QStringList reportAsText(const ReportDocument& document);

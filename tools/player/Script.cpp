@@ -45,7 +45,7 @@ private:
         return word;
     }
 
-    // A backslash before any other character is one itself, so that paths read as they are.
+    // A backslash before any other character is an ordinary one, so that paths need no doubled ones.
     QString escaped() {
         const QChar next = m_at + 1 < m_line.size() ? m_line[m_at + 1] : QChar();
         QString meant;

@@ -2,5 +2,5 @@
 
 #include <QString>
 
-/// A session value by its name as text; a null text for a name that there is not.
+/// A session value as text. A null text if there is no value of this name.
 QString sessionValue(const QString& name);

@@ -28,11 +28,11 @@ struct Arguments {
 
 Arguments readArguments(const QApplication& application) {
     QCommandLineParser parser;
-    parser.setApplicationDescription(u"Plays a scenario against the program."_qs);
+    parser.setApplicationDescription(u"Runs a scenario against the program."_qs);
     parser.addHelpOption();
     parser.addPositionalArgument(u"FILE"_qs, u"the scenario"_qs);
     parser.addOptions({{u"keep"_qs, u"keeps pictures and the program folder there"_qs, u"DIR"_qs},
-                       {u"folder"_qs, u"plays on this program folder, which stays"_qs, u"DIR"_qs},
+                       {u"folder"_qs, u"uses this program folder and keeps it"_qs, u"DIR"_qs},
                        {u"verbose"_qs, u"prints every command and its output"_qs},
                        {u"theme"_qs, u"dark or light"_qs, u"THEME"_qs, u"light"_qs}});
     parser.process(application);
@@ -67,7 +67,7 @@ int main(int argc, char* argv[]) {
         std::fprintf(stderr, "%s can't be read\n", qPrintable(arguments.file));
         return wrongArguments;
     }
-    // Officers put the program into folders with blanks and umlauts; so does each scenario.
+    // A folder with spaces and umlauts in its path, as clubs have them.
     const QTemporaryDir passing(QDir::tempPath() + u"/uw Verein Äsche & Söhne XXXXXX"_qs);
     const QString keep = arguments.keep.isEmpty() ? passing.path() : arguments.keep;
     return play(arguments, keep, QString::fromUtf8(file.readAll()));
