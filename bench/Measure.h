@@ -19,14 +19,14 @@ double secondsOf(Work&& work) {
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
 }
 
-/// How often a work must be done until the clock can tell what it takes: for a millisecond.
+/// How often to run `work` for a duration that the clock can measure: a millisecond.
 template<typename Work>
 int timesForClock(Work&& work) {
     constexpr double enough = 1e-3;
     return 1 + static_cast<int>(enough / secondsOf(work));
 }
 
-/// In seconds, the mean of so many.
+/// The mean duration of `times` runs, in seconds.
 template<typename Work>
 double secondsOfOne(int times, Work&& work) {
     return secondsOf([&] {
@@ -35,7 +35,7 @@ double secondsOfOne(int times, Work&& work) {
            times;
 }
 
-/// Median of several runs, in seconds.
+/// The median duration of `runs` runs, in seconds.
 template<typename Work>
 double medianSeconds(int runs, Work&& work) {
     const int times = timesForClock(work);

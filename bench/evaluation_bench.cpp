@@ -208,7 +208,8 @@ void benchPdf(const QString& folder) {
         process.start(office, words);
         process.waitForFinished(-1);
     });
-    // One that hands over to another that runs already ends at once, with success and without a file.
+    // An office that finds another one running hands over to it and ends at once, with success but without a
+    // file.
     if (QFileInfo(written).size() == 0) {
         std::fprintf(stderr, "LibreOffice has not written %s\n", qUtf8Printable(written));
         std::exit(1);
