@@ -53,16 +53,11 @@ QWidget* textField(QWidget* control) {
     return nullptr;
 }
 
-bool hasSelection(const QWidget* field) {
-    if (const auto* line = qobject_cast<const QLineEdit*>(field)) return line->hasSelectedText();
-    return qobject_cast<const QPlainTextEdit*>(field)->textCursor().hasSelection();
-}
-
 /// Clicks behind the text, then presses End, since a long text ends outside the field.
 void clickBehindText(QWidget* field, const QString& name) {
     constexpr int margin = 6;
     clickOn(field, {std::max(field->width() - margin, field->width() / 2), field->height() / 2}, name);
-    if (field->hasFocus() && !hasSelection(field))
+    if (field->hasFocus() && field->inputMethodQuery(Qt::ImCurrentSelection).toString().isEmpty())
         Hand::key(Qt::Key_End, qobject_cast<QLineEdit*>(field) ? Qt::NoModifier : Qt::ControlModifier);
 }
 
@@ -75,17 +70,11 @@ QWidget* requireTextField(const QString& name) {
 
 /// Clicks a second time if the first click does not give the focus. A handler may move it elsewhere at the
 /// first click, as on leaving the note of the catch book, and a user would click again.
-QWidget* enterField(const QString& name) {
+void enterField(const QString& name) {
     QWidget* field = requireTextField(name);
     constexpr int clicks = 2;
     for (int click = 0; click < clicks && !field->hasFocus(); ++click) clickBehindText(field, name);
     if (!field->hasFocus()) throw CommandFailure{u"%1 does not take the focus"_qs.arg(name)};
-    return field;
-}
-
-bool isEmpty(const QWidget* field) {
-    if (const auto* line = qobject_cast<const QLineEdit*>(field)) return line->text().isEmpty();
-    return qobject_cast<const QPlainTextEdit*>(field)->document()->isEmpty();
 }
 
 /// Types the year first and the day last, so that every date in between exists.
@@ -148,8 +137,8 @@ void type(const QString& name, const QString& text) {
 }
 
 void set(const QString& name, const QString& text) {
-    const QWidget* field = enterField(name);
-    const bool nothingToReplace = isEmpty(field);
+    enterField(name);
+    const bool nothingToReplace = ControlText::shown(name).isEmpty();
     if (!nothingToReplace) Hand::key(Qt::Key_A, Qt::ControlModifier);
     if (!text.isEmpty())
         Hand::type(text);
@@ -158,8 +147,8 @@ void set(const QString& name, const QString& text) {
 }
 
 void paste(const QString& name, const QString& text) {
-    const QWidget* field = enterField(name);
-    if (!isEmpty(field)) Hand::key(Qt::Key_A, Qt::ControlModifier);
+    enterField(name);
+    if (!ControlText::shown(name).isEmpty()) Hand::key(Qt::Key_A, Qt::ControlModifier);
     QGuiApplication::clipboard()->setText(text);
     Hand::key(Qt::Key_V, Qt::ControlModifier);
 }

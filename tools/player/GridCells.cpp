@@ -2,13 +2,14 @@
 
 #include "CommandFailure.h"
 #include "Controls.h"
+#include "DataTableModel.h"
 #include "LineText.h"
 #include "RuntimeError.h"
 #include "Session.h"
 
 namespace {
 
-/// What stands before the bracket and between the brackets.
+/// The parts of `grid[inner]`.
 struct Name {
     QString grid;
     QString inner;
@@ -21,55 +22,43 @@ Name split(const QString& name) {
     return {name.left(open), name.mid(open + 1, name.size() - open - 2)};
 }
 
-DataTable* findGrid(const QString& name) { return Controls::find<DataTable>(name, u"grid"_qs); }
-
-/// Looks into one table of a grid. The table that the program has entered is the current one again
-/// afterwards.
-class TableOnLook {
+/// Reads one table of a grid from its model, whatever table the program has entered.
+class Cells {
 public:
-    TableOnLook(DataTable* grid, TableHandle table)
-        : m_grid(grid) {
-        if (table.parentRow >= 0 && !grid->hasChild(table.parentRow))
-            throw CommandFailure{u"row %1 has no child table"_qs.arg(table.parentRow)};
-        m_before = grid->enter(table);
+    Cells(const QString& grid, TableHandle table)
+        : m_model(qobject_cast<DataTableModel*>(Controls::find<DataTable>(grid, u"grid"_qs)->model()))
+        , m_owner(table.parentRow) {
+        if (m_owner != DataTableModel::top && !m_model->hasChild(m_owner))
+            throw CommandFailure{u"row %1 has no child table"_qs.arg(m_owner)};
     }
-    ~TableOnLook() { m_grid->enter(m_before); }
-    TableOnLook(const TableOnLook&) = delete;
-    TableOnLook& operator=(const TableOnLook&) = delete;
 
-    int rowCount() const { return m_grid->rowCount(); }
+    int rowCount() const { return m_model->rows(m_owner); }
 
-    QString cell(int row, int column) const {
-        const QString text = m_grid->cellText(row, column);
-        // A picture is told by its path, which is another one each time.
+    QString text(int row, int column) const {
+        const QString text = m_model->text(m_owner, row, column);
+        // The cell of a picture is its path. The program folder differs each time.
         const QString folder = programFolder() + u'/';
         return lineText(text.startsWith(folder) ? text.mid(folder.size()) : text);
     }
 
-    /// The grid does not tell how many columns its top level has.
-    int columnCount() const {
-        int columns = 0;
+    /// All cells of a row joined by |. The model ends them with an error.
+    QString line(int row) const {
+        QStringList cells;
         try {
-            while (rowCount() > 0) {
-                m_grid->cellText(0, columns);
-                ++columns;
-            }
+            for (int column = 0;; ++column) cells.append(text(row, column));
         } catch (const RuntimeError&) {
-            return columns;
+            return cells.join(u'|');
         }
-        return columns;
     }
 
 private:
-    DataTable* m_grid;
-    TableHandle m_before;
+    const DataTableModel* m_model;
+    int m_owner;
 };
 
-TableOnLook look(const QString& tableName) {
+Cells look(const QString& tableName) {
     const Name name = split(tableName);
-    TableHandle table;
-    if (!name.inner.isEmpty()) table.parentRow = GridCells::parseNumber(name.inner);
-    return {findGrid(name.grid), table};
+    return {name.grid, {name.inner.isEmpty() ? DataTableModel::top : GridCells::parseNumber(name.inner)}};
 }
 
 } // namespace
@@ -96,19 +85,13 @@ QString cellText(const QString& name) {
     const QStringList place = parts.inner.split(u',');
     if (place.size() != 2) throw CommandFailure{u"%1 is no cell"_qs.arg(name)};
     const Row row = parseRow(place[0]);
-    const TableOnLook table(findGrid(parts.grid), row.table);
-    return table.cell(row.row, parseNumber(place[1]));
+    return Cells(parts.grid, row.table).text(row.row, parseNumber(place[1]));
 }
 
 QStringList rows(const QString& tableName) {
-    const TableOnLook table = look(tableName);
-    const int columns = table.columnCount();
+    const Cells cells = look(tableName);
     QStringList lines;
-    for (int row = 0; row < table.rowCount(); ++row) {
-        QStringList cells;
-        for (int column = 0; column < columns; ++column) cells.append(table.cell(row, column));
-        lines.append(cells.join(u'|'));
-    }
+    for (int row = 0; row < cells.rowCount(); ++row) lines.append(cells.line(row));
     return lines;
 }
 
