@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-/// The number of the error that a statement ends with, 0 if it ends well.
+/// The number of the error of a statement, 0 if it succeeds.
 template<typename Statement>
 int errorOf(Statement statement) {
     try {

@@ -1,4 +1,4 @@
-// The beginning of every test program that shows widgets.
+// main() of all test programs that show widgets.
 
 #include "FixedClock.h"
 #include "ThemeSetup.h"

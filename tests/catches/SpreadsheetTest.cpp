@@ -17,7 +17,7 @@
 
 namespace {
 
-/// A spreadsheet that only writes down what it is asked for.
+/// A spreadsheet program that records the calls.
 class RecordingProgram final : public OfficeProgram<Spreadsheet> {
 public:
     QStringList steps;
@@ -85,7 +85,7 @@ TEST(CsvDatei, FailsLoudlyAndKeepsWhatIsThereWhenItCannotBegin) {
                   full.close();
               }),
               61);
-    // Unclosed because of an error, which the caller tells.
+    // Not closed, as after an error that the caller reports.
     const QString path = folder.filePath(u"FANG.csv"_qs);
     CsvDatei(path).writeText(u"Hecht", 50);
     EXPECT_EQ(QFileInfo(path).size(), 6);
@@ -99,20 +99,20 @@ TEST(CsvDatei, LeavesAFileAloneThatARunningOfficeHolds) {
     office.start(folder.filePath(u"soffice.bin"_qs), {u"60"_qs});
     ASSERT_TRUE(office.waitForStarted());
     const auto held = [&] { return errorOf([&] { CsvDatei(folder.filePath(u"FANG.csv"_qs)); }) == 70; };
-    // A process has its name a moment after it has started.
+    // A process gets its name a moment after its start.
     for (int look = 0; look < 100 && !held(); ++look) QThread::msleep(10);
     EXPECT_TRUE(held());
     office.kill();
     office.waitForFinished();
-    // It has crashed and left its lock. Any other office counts as the one that holds the file: that of
-    // another test soon ends, somebody's own does not.
+    // The killed office has left its lock. Any other running office seems to hold it: that of another test
+    // ends soon, that of a user does not.
     for (int look = 0; look < 100 && held(); ++look) QThread::msleep(100);
     if (held() && QProcess::execute(u"pgrep"_qs, {u"-x"_qs, u"soffice.bin"_qs}) == 0)
         GTEST_SKIP() << "needs an end of the office that runs here";
     EXPECT_FALSE(held());
 }
 
-/// What the office makes of the file: read with the very filter that opens it for the user.
+/// Converts the file with the filter that opens it for the user.
 TEST(LibreOfficeCalc, ReadsFieldsAsWritten) {
     const QString office = QStandardPaths::findExecutable(u"soffice"_qs);
     if (office.isEmpty()) GTEST_SKIP() << "needs the package libreoffice-calc";

@@ -9,7 +9,7 @@
 
 #include <QTemporaryDir>
 
-/// A program folder and the overview of its contacts, as far as the serial letter looks at them.
+/// A program folder, and the part of the contact overview that the serial letter reads.
 class Club {
 public:
     Club() {

@@ -11,7 +11,7 @@
 
 namespace {
 
-/// The LibreOffice adapter over an office that only writes down what it is to open.
+/// The LibreOffice adapter with an office that only records the file to open.
 class LibreOfficeLetter : public ::testing::Test {
 protected:
     LibreOfficeLetter() {
@@ -68,7 +68,7 @@ TEST_F(LibreOfficeLetter, NeverOverwritesOneThatTheUserHasChanged) {
 
 TEST_F(LibreOfficeLetter, TellsWhatKeepsItFromBeingMerged) {
     place(u"office/libfilelo.so"_qs, "x");
-    // An office without its word processor is none.
+    // An office without its word processor counts as missing.
     modSerienbrief::StarteWordSerienbrief();
     EXPECT_EQ(boxes.texts, QStringList{u"64 Uferwart: Es ist kein Word verfügbar !"_qs});
     boxes.texts.clear();
@@ -101,7 +101,7 @@ public:
                                              "]]></script:module>");
     }
 
-    /// The merged letters, or what the office says against it.
+    /// The merged letters, or the office's error message.
     QString merged(const QString& letter, const QString& target) const {
         run(u"macro:///Standard.Brief.Main(file://%1,file://%2)"_qs.arg(letter, target));
         QFile file(target + u"/brief0.txt"_qs);
@@ -155,7 +155,7 @@ End Sub
     QString m_profile;
 };
 
-/// Empty if the machine has none that can merge.
+/// The path of an office that can merge letters, empty if there is none.
 QString mergingOffice() {
     const QString program = QStandardPaths::findExecutable(u"soffice"_qs);
     const QDir parts = QFileInfo(QFileInfo(program).canonicalFilePath()).dir();

@@ -4,8 +4,7 @@
 
 #include <QStringList>
 
-/// Keeps the texts of the boxes, with their icon's number in front, and answers no question with yes unless
-/// told so.
+/// Records the message boxes, each with its style's number in front. Answers questions with `answer`.
 class RecordedDialogue final : public MessageBoxes {
 public:
     RecordedDialogue() { setMessageBoxes(this); }

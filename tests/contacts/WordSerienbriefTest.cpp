@@ -8,7 +8,7 @@
 
 namespace {
 
-/// A word processor that only writes down what it is asked for.
+/// A word processor that records the calls.
 class RecordingProgram final : public OfficeProgram<WordProcessor> {
 public:
     QStringList steps;

@@ -30,7 +30,7 @@ public:
         sqlite3_progress_handler(m_connection->handle(), steps, &Club::isTooLong, this);
     }
 
-    /// What the statement finds. A join of many tables may be left early.
+    /// The kinds of the found values. Stops after `mostRows` of them, since a join may find many.
     QStringList rows(const QString& select) {
         m_steps = 0;
         QStringList found;
@@ -73,7 +73,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size) {
     const int number = errorOf([&] { first = club.rows(select); });
     if (club.wasTooLong()) return 0;
     require(refused == 0 || number == refused, "what is not rewritten is not run");
-    // Short ones can't be too much for the library: what was rewritten is SQL.
+    // A short statement can't exceed SQLite's limits. Rewritten, it is SQL and must be prepared.
     if (refused == 0 && size < 500)
         for (const int fault : notPrepared) require(number != fault, "what is rewritten is prepared");
     require(number != interrupted, "each failure has a number of its own");

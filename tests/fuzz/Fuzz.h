@@ -7,7 +7,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-/// Feeds one input to the code under test. Does not return if the code does what it must not.
+/// Feeds one input to the code under test. Aborts if the code breaks a promise.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size);
 
 inline void require(bool holds, const char* what) {
@@ -16,8 +16,7 @@ inline void require(bool holds, const char* what) {
     std::abort();
 }
 
-/// The number of the error that the work ends with, 0 if it ends well. Nothing but a RuntimeError may escape
-/// it, and that must tell the user something.
+/// The number of the work's error, 0 if it succeeds. Aborts for an error without a number or a text.
 template<typename Work>
 int errorOf(Work work) {
     try {

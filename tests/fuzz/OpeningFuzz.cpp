@@ -12,7 +12,7 @@
 
 namespace {
 
-/// The bytes of the key themselves: deriving them from a password would be most of the time.
+/// A key of plain bytes: deriving one from a password would take most of the time.
 QString key() { return u"x'"_qs + QString(64, u'7') + u'\''; }
 
 QByteArray fileBytes(const QString& path) {
@@ -25,7 +25,7 @@ void writeFile(const QString& path, const QByteArray& bytes) {
     require(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size(), "the file can be written");
 }
 
-/// The folder in which all inputs are played, in memory where there is such a one, and the file they damage.
+/// The folder for the damaged files, in memory if possible, and the bytes of the sound file.
 struct Room {
     Room() {
         qputenv("TMPDIR", folder.path().toUtf8());
@@ -55,8 +55,8 @@ struct Room {
     FixedClock clock;
 };
 
-/// "@OFFSET TEXT" overwrites, "<SIZE" cuts off, ">TEXT" appends, "%PAGE PAGE" copies a page, "-TEXT" is a
-/// journal and "~TEXT" a log.
+/// Damages the file: "@OFFSET TEXT" overwrites, "<SIZE" cuts off, ">TEXT" appends, "%PAGE PAGE" copies a
+/// page, "-TEXT" writes a journal, "~TEXT" a log.
 void damage(const QString& path, const QByteArray& line) {
     QByteArray bytes = fileBytes(path);
     const QByteArray rest = line.mid(1);
@@ -82,7 +82,7 @@ void damage(const QString& path, const QByteArray& line) {
     }
 }
 
-/// All rows of a file that opens; the error of one that doesn't.
+/// Opens the file and reads all rows. Returns the number of the error of opening or closing it, or 0.
 int read(const QString& path, bool& sound, int& rows) {
     Database database;
     const int refused = errorOf(
@@ -107,7 +107,7 @@ bool isWhole(const QString& path) {
 
 } // namespace
 
-/// Behind a "!" stands a whole file, else lines that damage one.
+/// An input that begins with "!" is a whole file. The lines of any other input are for damage().
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size) {
     static const Room room;
     const QByteArray input(reinterpret_cast<const char*>(bytes), static_cast<qsizetype>(size));

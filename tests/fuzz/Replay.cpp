@@ -3,7 +3,7 @@
 #include <QDirIterator>
 #include <QFile>
 
-/// Feeds every file of the folders that it is given.
+/// Feeds every file of the given folders. Fails if there is none.
 int main(int argc, char** argv) {
     int fed = 0;
     for (int i = 1; i < argc; ++i) {

@@ -71,7 +71,7 @@ void checkCodePage(const QByteArray& bytes, const QString& text) {
 
 } // namespace
 
-/// Three lines are three texts; the first bytes are a number as well.
+/// Takes the input as three lines of text, and its first bytes as a number.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size) {
     static const FixedClock clock;
     const QByteArray input(reinterpret_cast<const char*>(bytes), static_cast<qsizetype>(size));

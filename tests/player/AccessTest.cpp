@@ -33,7 +33,7 @@
 
 namespace {
 
-/// What a user works with, and a screen reader has to name.
+/// True for what a user operates and a screen reader must name.
 bool isControl(const QWidget* widget) {
     const bool isPart = widget->objectName().startsWith(u"qt_"_qs) || widget->objectName().isEmpty();
     return !isPart &&
@@ -46,7 +46,7 @@ QString nameOf(QWidget* widget) {
     return interface ? interface->text(QAccessible::Name) : QString();
 }
 
-/// The letter with Alt that goes to a widget; empty if none does.
+/// The shortcut of Alt and a letter that goes to the widget; empty if there is none.
 QKeySequence letterOf(const QWidget* widget) {
     if (const auto* button = qobject_cast<const QAbstractButton*>(widget)) return button->shortcut();
     const auto* label = qobject_cast<const QLabel*>(widget);
@@ -81,12 +81,12 @@ void expectAccess(Screen& screen) {
 TEST(Access, EveryControlHasANameAndNoTwoShareALetter) {
     const QTemporaryDir folder;
     PlayedProgram program(folder.path() + u"/programm"_qs, folder.path());
-    setEventsEnded(false); // the program of the test before has ended them
+    setEventsEnded(false); // an earlier test has ended them
     program.start();
     expectAccess(screen<Login>());
     screen<Login>().txtBenutzer->setText(u"Admin"_qs);
     screen<Login>().cmdOK->click();
-    // The work hours ask for their member first.
+    // The work ledger opens the search for a member first.
     QTimer search;
     QObject::connect(&search, &QTimer::timeout, [] {
         if (screen<SuchKont>().isModalNow()) screen<SuchKont>().Hide();

@@ -5,26 +5,25 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
-// What a scenario does when all goes well is seen in tests/scenarios; here is what it tells when something
-// fails.
+// tests/scenarios have the commands that succeed. These are the failures and their messages.
 
 namespace {
 
-/// What the player tells on the standard error output of a scenario that begins in the login.
+/// Runs a scenario that begins at the login. Returns what it writes to the standard error output.
 std::string told(const QString& script) {
     const QTemporaryDir folder;
-    QLoggingCategory::setFilterRules(u"default.warning=false"_qs); // of the platform without a display
+    QLoggingCategory::setFilterRules(u"default.warning=false"_qs); // Qt's, of the offscreen platform
     testing::internal::CaptureStderr();
     {
         PlayedProgram program(folder.path() + u"/programm"_qs, folder.path());
-        setEventsEnded(false); // the program of the test before has ended them
+        setEventsEnded(false); // an earlier test has ended them
         Player player(parseScript(u"start\n"_qs + script), program, {u"probe.txt"_qs, false});
         player.play();
     }
     return testing::internal::GetCapturedStderr();
 }
 
-/// A command that fails, with what the player tells of it.
+/// A command that fails, and its message.
 struct Fault {
     QString line;
     QString got;

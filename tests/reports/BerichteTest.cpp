@@ -7,7 +7,7 @@ namespace {
 using namespace Berichte;
 using Align = ReportControl::Align;
 
-/// Whether a bold head has the column's place and alignment.
+/// True if a bold head has the column's place, width and alignment.
 bool hasHead(Report& report, const ReportControl& column) {
     for (const ReportControl& head : report.section(u"Section2"_qs).controls())
         if (head.place().left() == column.place().left() && head.place().width() == column.place().width() &&

@@ -7,7 +7,7 @@
 
 namespace {
 
-/// All dates without a year are read in 2005, no leap year.
+/// The clock is in 2005, no leap year. Dates without a year are read in it.
 class Dates : public testing::Test {
 protected:
     Dates() { m_clock.setDay(QDate(2005, 6, 15)); }
@@ -46,7 +46,7 @@ TEST_F(Dates, AreReadAsGermansTypeThem) {
 }
 
 TEST_F(Dates, AreNotReadFromOtherText) {
-    // What is no number or not in its place; days that there are not; what stands before, between and behind.
+    // Parts that are no number or misplaced; missing days; characters before, between and after.
     for (const QString& text :
          QStringLiteral(
              "|  |.|5|38353|1..2|1.2.3.4|1/2/|1.2/2005|1 2 2005|1,2,2005|-1.2.2005|001.2.2005|"

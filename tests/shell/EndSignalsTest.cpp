@@ -11,7 +11,7 @@
 
 namespace {
 
-/// The process has its handler by then.
+/// Waits until the process has a handler for the signal. False if it gets none.
 bool waitUntilCaught(qint64 process, int signal) {
     constexpr int patienceMilliseconds = 30'000;
     QElapsedTimer waited;
@@ -25,7 +25,7 @@ bool waitUntilCaught(qint64 process, int signal) {
     return false;
 }
 
-/// The program looks for its folder beside itself.
+/// Starts a copy of the program in the folder, since it looks for its files beside itself.
 void startIn(const QString& folder, QProcess& program) {
     const QString file = folder + u"/uferwart"_qs;
     ASSERT_TRUE(QFile::copy(QStringLiteral(UW_PROGRAM), file));

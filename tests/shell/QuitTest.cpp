@@ -19,7 +19,7 @@ namespace {
 
 constexpr int oldYear = 2025;
 
-/// A folder with one member who has paid and worked, in last year's state.
+/// A folder in last year's state, with one member who has paid and worked.
 class QuitTest : public ::testing::Test {
 protected:
     QuitTest() {
@@ -41,7 +41,7 @@ protected:
         row.Close();
     }
 
-    /// Logs in, says yes to every box, and quits the application while this one stands, counted from 1.
+    /// Logs in, answers message boxes with Yes, and quits the application at the `last`th one.
     void playAndQuitAtBox(int last) {
         Program program(m_folder.path());
         QTimer hand;
@@ -49,7 +49,7 @@ protected:
         QObject::connect(&hand, &QTimer::timeout, [&] {
             auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
             if (!box) return;
-            // Whoever thinks about the question after the year keeps nobody else from saving.
+            // The open question about the year locks nothing: others can save.
             if (++boxes == 1) {
                 EXPECT_NO_THROW(add(u"Fisch"_qs, {{u"FName"_qs, u"Aal"_qs}}));
             }

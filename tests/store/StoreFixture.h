@@ -42,5 +42,5 @@ protected:
 
 QString shown(const Value& value);
 
-// GoogleTest prints an unexpected text by this.
+// GoogleTest calls this to print a text that differs.
 inline void PrintTo(const QString& text, std::ostream* stream) { *stream << text.toStdString(); }

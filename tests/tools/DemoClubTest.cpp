@@ -38,7 +38,7 @@ TEST(DemoClub, IsOfTheSizeOfARealClubAndAllInItFitsTogether) {
         {"Kontakt WHERE KategoNr = 1", 190, 230},
         {"Besatzung WHERE BJahr = 2026", 10, 30},
         {"Arbeit WHERE Jahr = 2026 AND Datum = 46023", 80, 250},
-        // References into the void.
+        // References to missing records.
         {"Fang WHERE FischNr NOT IN (SELECT FNr FROM Fisch) OR GNr NOT IN (SELECT GNr FROM Gewaesser)"},
         {"Besatzung WHERE FNr NOT IN (SELECT FNr FROM Fisch) OR GNr NOT IN (SELECT GNr FROM Gewaesser)"},
         {"Kontakt WHERE KategoNr NOT IN (SELECT KategoNr FROM Katego)"},
@@ -51,7 +51,7 @@ TEST(DemoClub, IsOfTheSizeOfARealClubAndAllInItFitsTogether) {
          "WHERE KNr = a.KNr AND Jahr = 2025)) > 0.001"},
         {"Arbeit WHERE Datum = 46023 AND Notiz <> CASE WHEN ArbStd > 0 THEN 'Mehr' ELSE 'Minder' END || "
          "'leistungsübertrag aus Arbeitsjahr 2025'"},
-        // Names that a lookup would stumble over.
+        // Names with an apostrophe, which break a lookup.
         {"Kontakt WHERE instr(coalesce(Nachname, '') || coalesce(Vorname, '') || coalesce(Firma, ''), '''')"},
     };
     const DemoFolder club;

@@ -10,7 +10,7 @@ inline Database openFolder(const QString& folder) {
     return DBEngine::Workspaces(0).OpenDatabase(folder + QStringLiteral("/uw01.mdb"), false, false, connect);
 }
 
-/// The one number that a SELECT of one COUNT, SUM, MIN or MAX gives.
+/// The result of a SELECT of one COUNT, SUM, MIN or MAX.
 inline Value only(Database& database, const QString& select) {
     return database.OpenRecordset(select, dbOpenDynaset).Collect(QStringLiteral("Expr1000"));
 }

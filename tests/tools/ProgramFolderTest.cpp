@@ -52,7 +52,7 @@ TEST(ProgramFolder, NeverTouchesADatabaseThatIsAlreadyThere) {
 TEST(ProgramFolder, LeavesNothingBehindWhenItFails) {
     QTemporaryDir place;
     QDir inside(place.path());
-    // A file stands where the last of the folders should be.
+    // A file has the place of the last folder.
     ASSERT_TRUE(inside.mkpath(QStringLiteral("alt")));
     QFile obstacle(place.filePath(QStringLiteral("alt/Graphics")));
     ASSERT_TRUE(obstacle.open(QIODevice::WriteOnly));

@@ -26,7 +26,7 @@ lacks() { ! grep -q "$@"; }
 untouched() { (cd "$folder" && sha256sum --check --status share/uw01.mdb.sha256); }
 menu() { "$folder/ins-menue.sh" "$@"; }
 
-# The program that runs from the folder: with its database open it waits at the login.
+# True if the program runs from the folder and has its database open: it waits at the login.
 runs() {
   for _ in {1..100}; do
     for program in $(pidof uferwart); do
@@ -39,7 +39,7 @@ runs() {
   return 1
 }
 
-# CMake reads a quotation mark or a backslash in a prefix as its own; the club gives the folder its name later.
+# Renames the folder after installing: CMake takes a quotation mark or a backslash in a prefix for syntax.
 holds 'the installing' "$1" --install "$2" --strip --prefix "$place/Unser Verein für Angler"
 mv "$place/Unser Verein für Angler" "$folder" || exit 1
 
@@ -50,7 +50,7 @@ holds 'a delivered file' untouched
 
 holds 'the way into the menu' menu
 holds 'the entry in the menu' desktop-file-validate "$entry"
-holds 'an untouched file, made anew for this year' test ! "$(untouched && echo old)"
+holds 'an untouched file, made again for this year' test ! "$(untouched && echo old)"
 before=$(sha256sum "$folder/uw01.mdb")
 holds 'the way into the menu once more' menu
 holds 'a file with data in it, kept' test "$before" = "$(sha256sum "$folder/uw01.mdb")"

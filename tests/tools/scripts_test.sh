@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# What the scripts answer to wrong words, to a foreign platform and to missing packages; nothing is built here.
+# Tests the scripts with invalid arguments, a foreign platform and missing packages. Builds nothing.
 # shellcheck disable=SC2016
 set -uo pipefail
 top=$(cd "$(dirname "$0")/../.." && pwd)

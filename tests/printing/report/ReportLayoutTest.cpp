@@ -4,7 +4,7 @@
 
 namespace {
 
-// Room for ten rows on a page, eight on the first.
+// Space for ten rows on a page, for eight on the first.
 constexpr ReportHeights heights{
     .body = 160, .reportHeader = 20, .pageHeader = 40, .detail = 10, .pageFooter = 20, .reportFooter = 30};
 

@@ -19,7 +19,7 @@ namespace {
 
 const QDate someDay(2026, 3, 14);
 
-// A pixel a tenth of a millimetre.
+// A page, with one pixel for each tenth of a millimetre.
 QImage pictureOf(const Report& report, int page) {
     QImage picture(ReportPaper::width, ReportPaper::height, QImage::Format_RGB32);
     picture.fill(Qt::white);
@@ -29,7 +29,7 @@ QImage pictureOf(const Report& report, int page) {
     return picture;
 }
 
-// An area told from the body's corner.
+// The area counts from the corner of the page's body.
 bool hasInk(const QImage& picture, const QRect& area) {
     const QRect there = area.translated(ReportPaper::left, ReportPaper::top);
     for (int y = there.top(); y <= there.bottom(); ++y) {

@@ -4,7 +4,7 @@
 
 #include <QVector>
 
-/// Rows told one by one, or as many as wanted: their number, a name, a weight.
+/// The given rows, or `rows` rows of a number, a name and a weight.
 class RowList : public ReportRowSource {
 public:
     explicit RowList(int rows)
@@ -28,7 +28,7 @@ private:
     qsizetype m_next = 0;
 };
 
-/// A report of three columns, ten rows a page (nine on the last, below which the sum stands).
+/// A report of three columns and ten rows a page. The last page has nine and the sum below them.
 class SampleReport : public Report {
 public:
     explicit SampleReport(const QString& caption = u"Probe"_qs)

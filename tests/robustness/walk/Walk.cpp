@@ -59,7 +59,7 @@ void Walk::carryOut(const ScriptCommand& command) {
         find(u"error %1: %2"_qs.arg(error.number).arg(error.description));
     }
     lookAtBoxes(screen);
-    for (const QString& message : std::exchange(heard(), {})) find(u"the toolkit says: "_qs + message);
+    for (const QString& message : std::exchange(heard(), {})) find(u"Qt says: "_qs + message);
 }
 
 /// Writes the message boxes into the trace, so that the scenario expects them.

@@ -18,14 +18,14 @@ void write(const QString& path, const QString& title) {
     file.write(u"<title>%1</title>"_qs.arg(title).toUtf8());
 }
 
-/// As the window system delivers it: a locked window gets nothing.
+/// Clicks as the window system does: a locked window gets no click.
 void clickKey(const QString& name) {
     const QWidget* key = screen<Handbuch>().Toolbar1->key(name);
     QTest::mouseClick(key->window()->windowHandle(), Qt::LeftButton, {},
                       key->mapTo(key->window(), key->rect().center()));
 }
 
-/// Runs `meanwhile` while a question is open over everything.
+/// Runs `meanwhile` while a question locks all windows.
 template<typename Work>
 void duringQuestion(Work meanwhile) {
     QMessageBox question;

@@ -14,7 +14,7 @@ QString contentOf(const QString& page) {
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
-/// Pages, pictures and the style file that a page names, each with the mark behind "#" if it names one.
+/// The pages, pictures and style files that a page names, with the mark after "#" if there is one.
 QStringList targetsOf(const QString& page) {
     static const QRegularExpression target(QStringLiteral("(?:href|src)=\"([^\"]*)\""));
     QStringList targets;

@@ -21,7 +21,7 @@ protected:
         QAbstractItemView* list = combo.view();
         const QModelIndex entry = combo.model()->index(row, 0);
         QTest::mouseMove(list->viewport(), list->visualRect(entry).center());
-        // The list takes a release right after its opening for the end of the press that opened it.
+        // Waits, since the list takes an early release for the end of the press that opened it.
         QTest::qWait(QApplication::doubleClickInterval() + 50);
         QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, list->visualRect(entry).center());
     }

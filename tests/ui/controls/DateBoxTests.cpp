@@ -10,7 +10,7 @@
 
 namespace {
 
-/// A box in a window beside another control, in February, where many a day is missing.
+/// A date box beside another control, set to February, which lacks some days.
 class DateBoxTest : public testing::Test {
 protected:
     DateBoxTest() {

@@ -61,7 +61,7 @@ TEST_F(TextBoxTest, UmlautsSignsAndComposedCharactersAreCharacters) {
     EXPECT_EQ(box->text(), u"ä@é11"_qs) << "the filter holds for them, too";
 }
 
-// All ways of pasting, and dropping, in turn: each replaces the whole text, or adds to it.
+// Each way of pasting and dropping, in turn. It replaces the whole text, or adds to it.
 TEST_F(TextBoxTest, WhatIsPastedOrDroppedPassesTheFilter) {
     box->setKeyFilter(digitsOnly);
     box->setMaxLength(4);

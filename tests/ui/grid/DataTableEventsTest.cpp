@@ -14,7 +14,7 @@
 
 namespace {
 
-/// A grid beside a field, with what its handlers hear: "down 1 2".
+/// A grid beside a field. Records the events of the grid as "down 1 2".
 class DataTableEventsTest : public testing::Test {
 protected:
     DataTableEventsTest()
@@ -59,7 +59,7 @@ protected:
         QTest::mouseClick(m_grid->viewport(), button, {}, m_grid->revealCell({}, row, column).center());
     }
 
-    /// As the window system does: the second press comes as the double click.
+    /// As the window system does: a double click replaces the second press.
     void doubleClick(int row, int column) {
         press(row, column);
         QTest::mouseDClick(m_grid->viewport(), Qt::LeftButton, {},
@@ -76,7 +76,7 @@ protected:
         return all;
     }
 
-    QStringList m_heard; // before the screen, whose end the grid may still tell of
+    QStringList m_heard; // outlives the screen, whose end may still record
     QWidget m_screen;
     DataTable* m_grid;
     QLineEdit* m_field;

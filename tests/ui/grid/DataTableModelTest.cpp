@@ -15,7 +15,7 @@ QVector<GridColumn> columns(int count) {
     return made;
 }
 
-/// Every change below also runs past the toolkit's own checks of what a model may tell its views.
+/// Qt's model tester checks what each change below reports to the views.
 class DataTableModelTest : public testing::Test {
 protected:
     DataTableModelTest()

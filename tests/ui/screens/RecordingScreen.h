@@ -5,7 +5,7 @@
 #include <QStringList>
 #include <functional>
 
-/// Writes down which of its events have run; the log is shared, so that the order among screens shows.
+/// Logs its events. Several screens share a log, so that it shows their order.
 class RecordingScreen : public Screen {
 public:
     RecordingScreen(const QString& name, QStringList& log)

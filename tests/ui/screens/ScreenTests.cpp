@@ -83,7 +83,7 @@ TEST_F(ScreenTest, EachKeyIsSeenOnceBeforeTheControl) {
     inner->setParent(group);
     auto* box = new TextBox(u"txt"_qs, inner);
     form.show();
-    // Neither the button nor its parents have a use for F3, so it climbs through all of them.
+    // Neither the button nor its parents handle F3, so it passes through all of them.
     QTest::keyClick(key, Qt::Key_F3);
     QTest::keyClick(key, Qt::Key_F3);
     EXPECT_EQ(form.keys, (QList<int>{Qt::Key_F3, Qt::Key_F3}));
