@@ -91,8 +91,6 @@ void Toolbar::setCaption(QToolButton* key, const QString& caption) {
 
 void Toolbar::addSeparator() { m_row->insertWidget(m_row->count() - 1, new Separator(this)); }
 
-void Toolbar::addAtEnd(QWidget* control) { m_row->addWidget(control); }
-
 QToolButton* Toolbar::key(const QString& key) const {
     return findChild<QToolButton*>(key, Qt::FindDirectChildrenOnly);
 }

@@ -32,8 +32,6 @@ public:
     /// Adds keys with separators between them, and before the first one if it is not the toolbar's first.
     void addKeys(std::initializer_list<Key> keys);
     void addSeparator();
-    /// A control at the right end.
-    void addAtEnd(QWidget* control);
     QToolButton* key(const QString& key) const; ///< null if there is none
     void setKeyEnabled(const QString& key, bool on);
     /// Takes these shortcut letters from the buttons, since controls around the toolbar have them. Such a
