@@ -12,10 +12,6 @@
 #include <QToolTip>
 #include <QTranslator>
 
-// The icons are in a static library: the linker drops them unless this macro names them. The macro does not
-// work inside a namespace.
-static void loadPictures() { Q_INIT_RESOURCE(assets); }
-
 namespace {
 
 constexpr double bodyPoints = 9.75;
@@ -52,7 +48,6 @@ void loadFonts(const QString& folder) {
 }
 
 void apply(QApplication& application, Mode mode) {
-    loadPictures();
     setMode(mode);
     loadGermanWords(application);
     QApplication::setStyle(new HouseStyle);
