@@ -67,8 +67,14 @@ void seedCategories(cursors::Connection& file) {
 }
 
 void seedGroup(cursors::Connection& file) {
-    file.execute(
-        "INSERT OR IGNORE INTO \"Gruppen\" VALUES (1, 'Administratoren', 1, 1, 1, 1, 1, 1, 1, 1, 1, 1)");
+    QByteArray fields = "\"GNr\", \"GName\"";
+    QByteArray values = "1, 'Administratoren'";
+    for (const FieldSpec& field : findTable(u"Gruppen")->fields) {
+        if (field.kind != FieldKind::Boolean) continue;
+        fields += ", " + quotedName(field.name);
+        values += ", 1";
+    }
+    file.execute("INSERT OR IGNORE INTO \"Gruppen\" (" + fields + ") VALUES (" + values + ')');
 }
 
 void seedUser(cursors::Connection& file) {

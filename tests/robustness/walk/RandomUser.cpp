@@ -226,8 +226,10 @@ QStringList RandomUser::comeBack() {
     QString name = m_program.file().query(find).value(0);
     if (name.isEmpty()) {
         name = u"Nachfolger"_qs;
-        lines.prepend(u"sql \"INSERT INTO Gruppen VALUES (NULL,'Alle',1,1,1,1,1,1,1,1,1,1); "_qs +
-                      u"INSERT INTO Benutzer VALUES (NULL,'Nachfolger','',last_insert_rowid())\""_qs);
+        const int rights = m_program.file().query(u"PRAGMA table_info(Gruppen)"_qs).size() - 2;
+        lines.prepend(
+            u"sql \"INSERT INTO Gruppen VALUES (NULL,'Alle'%1); "_qs.arg(u",1"_qs.repeated(rights)) +
+            u"INSERT INTO Benutzer VALUES (NULL,'Nachfolger','',last_insert_rowid())\""_qs);
     }
     lines.append(u"login %1 \"\""_qs.arg(name));
     return lines;
