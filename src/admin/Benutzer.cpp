@@ -6,11 +6,6 @@
 
 #include <QTabWidget>
 
-std::array<QCheckBox*, 10> Benutzer::Zugriffe() const {
-    return {chkFBuch,  chkFAusw,  chkKontUebers, chkKontList, chkKontakt,
-            chkArbeit, chkBesatz, chkBasis,      chkBenutzer, chkSystem};
-}
-
 void Benutzer::Form_Load() { tabBV->setCurrentIndex(userPage); }
 
 void Benutzer::Form_Activate() { modBenutzer::LadeGruppenCombo(cboBG); }

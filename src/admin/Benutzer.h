@@ -2,7 +2,7 @@
 
 #include "Screen.h"
 
-#include <array>
+#include <QVector>
 
 class ComboBox;
 class DataTable;
@@ -31,9 +31,6 @@ public:
     void Form_Paint() override;
     void Form_Deactivate() override;
 
-    /// The check boxes in the order of the rights' columns, in the table and in the grid.
-    std::array<QCheckBox*, 10> Zugriffe() const;
-
     Heading* Ueberschrift;
     Toolbar* Toolbar1;
     QTabWidget* tabBV;
@@ -60,16 +57,7 @@ public:
     QLabel* lblBGru;
     TextBox* txtGruppe;
     QLabel* lblZA;
-    QCheckBox* chkFBuch;
-    QCheckBox* chkFAusw;
-    QCheckBox* chkKontUebers;
-    QCheckBox* chkKontList;
-    QCheckBox* chkKontakt;
-    QCheckBox* chkArbeit;
-    QCheckBox* chkBesatz;
-    QCheckBox* chkBasis;
-    QCheckBox* chkBenutzer;
-    QCheckBox* chkSystem;
+    QVector<QCheckBox*> Zugriffe; ///< one for each right, in the order of rechte()
     QGroupBox* Frame1;
     DataTable* tblZugriff;
     QLabel* Label1;

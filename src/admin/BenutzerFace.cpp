@@ -4,6 +4,7 @@
 #include "Face.h"
 #include "Gitter.h"
 #include "Heading.h"
+#include "Rechte.h"
 #include "TextBox.h"
 #include "Toolbar.h"
 #include "ValueLabel.h"
@@ -149,29 +150,18 @@ void Benutzer::buildGroupEntry() {
     form->addWidget(lblZA, 2, 0, Qt::AlignTop);
     addRights(form, 2);
     // On one line with the first row of boxes.
-    lblZA->setMinimumHeight(chkFBuch->sizeHint().height());
+    lblZA->setMinimumHeight(Zugriffe.first()->sizeHint().height());
     form->setColumnStretch(1, 1);
 }
 
 void Benutzer::addRights(QGridLayout* form, int row) {
-    chkFBuch = Face::checkBox(u"chkFBuch"_qs, u"Fangbuch"_qs, Frame4);
-    chkFAusw = Face::checkBox(u"chkFAusw"_qs, u"Fangauswertg."_qs, Frame4);
-    chkKontUebers = Face::checkBox(u"chkKontUebers"_qs, u"Kont.-Übers."_qs, Frame4);
-    chkKontList = Face::checkBox(u"chkKontList"_qs, u"Kontaktliste"_qs, Frame4);
-    chkKontakt = Face::checkBox(u"chkKontakt"_qs, u"Kontakt"_qs, Frame4);
-    chkArbeit = Face::checkBox(u"chkArbeit"_qs, u"ArbStd-Contr."_qs, Frame4);
-    chkBesatz = Face::checkBox(u"chkBesatz"_qs, u"Besatz.-Liste"_qs, Frame4);
-    chkBasis = Face::checkBox(u"chkBasis"_qs, u"Basisdaten"_qs, Frame4);
-    chkBenutzer = Face::checkBox(u"chkBenutzer"_qs, u"Benutzer- && Zugriff"_qs, Frame4);
-    chkSystem = Face::checkBox(u"chkSystem"_qs, u"Systempar."_qs, Frame4);
-
     constexpr int perRow = 5;
     auto* boxes = new QGridLayout;
     boxes->setHorizontalSpacing(2 * Face::gap);
-    int place = 0;
-    for (QCheckBox* box : Zugriffe()) {
-        boxes->addWidget(box, place / perRow, place % perRow);
-        ++place;
+    for (const Recht& recht : rechte()) {
+        const int place = int(Zugriffe.size());
+        Zugriffe.append(Face::checkBox(recht.kasten, recht.aufschrift, Frame4));
+        boxes->addWidget(Zugriffe.last(), place / perRow, place % perRow);
     }
     boxes->setColumnStretch(perRow, 1);
     form->addLayout(boxes, row, 1);
@@ -183,19 +173,12 @@ void Benutzer::buildGroupGrid() {
     QVector<GridColumn> columns = {{.head = u"Gruppen-Nr."_qs, .width = 60, .numeric = true, .firm = true},
                                    {.head = u"Gruppe \\ Forms"_qs, .width = 150, .minimumWidth = 108}};
     columns[0].headLines = u"Gruppen-\nNr."_qs;
-    const auto addRight = [&](const QString& head, const QString& lines, int width) {
-        columns.append({.head = head, .width = width, .tick = true, .fixed = true, .headLines = lines});
-    };
-    addRight(u"Fangbuch"_qs, u"Fang-\nbuch"_qs, 46);
-    addRight(u"Fangauswertg."_qs, u"Fang-\nauswertg."_qs, 60);
-    addRight(u"Kontakt-Übers."_qs, u"Kontakt-\nÜbers."_qs, 54);
-    addRight(u"Kontakt-Liste"_qs, u"Kontakt-\nListe"_qs, 54);
-    addRight(u"Kontakt"_qs, u"Kontakt"_qs, 52);
-    addRight(u"Arbeitscontrolling"_qs, u"Arbeits-\ncontrolling"_qs, 64);
-    addRight(u"Besatz.-Liste"_qs, u"Besatz.-\nListe"_qs, 54);
-    addRight(u"Basisdaten"_qs, u"Basis-\ndaten"_qs, 46);
-    addRight(u"Benutzerverwltg."_qs, u"Benutzer-\nverwltg."_qs, 62);
-    addRight(u"Systempar."_qs, u"System-\npar."_qs, 54);
+    for (const Recht& recht : rechte())
+        columns.append({.head = recht.kopf,
+                        .width = recht.breite,
+                        .tick = true,
+                        .fixed = true,
+                        .headLines = recht.kopfZeilen});
     tblZugriff->setColumns(columns);
     Label1 = Face::label(u"Label1"_qs, u"Anzahl:"_qs, Frame1);
     lblGAnzahl = new ValueLabel(u"lblGAnzahl"_qs, Frame1);

@@ -12,6 +12,7 @@
 #include "Gitter.h"
 #include "Meldungen.h"
 #include "MsgBox.h"
+#include "Rechte.h"
 #include "Screens.h"
 #include "SqlText.h"
 #include "TextBox.h"
@@ -25,14 +26,6 @@ namespace modBenutzer {
 namespace {
 
 const QString modul = u"modBenutzer"_qs;
-
-/// The columns of Gruppen that are rights, in the order of the check boxes and of the grid.
-const std::array<QString, 10>& rechte() {
-    static const std::array<QString, 10> columns = {
-        u"Fangbuch"_qs, u"Fangauswertung"_qs, u"KontUebers"_qs, u"KontListe"_qs,          u"Kontakt"_qs,
-        u"Arbeit"_qs,   u"Besatz"_qs,         u"Basis"_qs,      u"Benutzerverwaltung"_qs, u"System"_qs};
-    return columns;
-}
 
 /// Where the rights begin in the grid of groups; before them stand number and name.
 constexpr int ersteRechteSpalte = 2;
@@ -60,8 +53,9 @@ Datensatz::Felder felderDerGruppe(ErrorTail& step, const Benutzer& form) {
 
 /// The fields of a group that its row in the grid is made from.
 Datensatz::Danach liesGruppe(ErrorTail& step, std::vector<Value>& zeile) {
-    return Datensatz::lies(
-        step, zeile, QStringList{u"GNr"_qs, u"GName"_qs} + QStringList(rechte().begin(), rechte().end()));
+    QStringList felder = {u"GNr"_qs, u"GName"_qs};
+    for (const Recht& recht : rechte()) felder.append(recht.feld);
+    return Datensatz::lies(step, zeile, felder);
 }
 
 void leereBenutzer(const Benutzer& form) {
@@ -74,14 +68,14 @@ void leereBenutzer(const Benutzer& form) {
 void leereGruppe(const Benutzer& form) {
     form.lblGNr->setText(QString());
     form.txtGruppe->setText(QString());
-    for (QCheckBox* box : form.Zugriffe()) box->setChecked(false);
+    for (QCheckBox* box : form.Zugriffe) box->setChecked(false);
 }
 
 } // namespace
 
 std::vector<Value> gruppenZeile(const Recordset& gruppe) {
     std::vector<Value> zeile = {gruppe.Collect(u"GNr"_qs), gruppe.Collect(u"GName"_qs)};
-    for (const QString& recht : rechte()) zeile.push_back(gruppe.Collect(recht));
+    for (const Recht& recht : rechte()) zeile.push_back(gruppe.Collect(recht.feld));
     return zeile;
 }
 
@@ -224,9 +218,9 @@ QString ErmittleGName(qint32 gnr) {
 
 void SichereZugriff(Recordset& gruppe) {
     withErrorTail(modul, u"SichereZugriff"_qs, [&](ErrorTail& step) {
-        const auto boxes = screen<Benutzer>().Zugriffe();
-        for (std::size_t recht = 0; recht < boxes.size(); ++recht)
-            step([&] { gruppe.Collect(rechte()[recht], modRun::WertAusCheckBox(boxes[recht])); });
+        auto box = screen<Benutzer>().Zugriffe.cbegin();
+        for (const Recht& recht : rechte())
+            step([&] { gruppe.Collect(recht.feld, modRun::WertAusCheckBox(*box++)); });
     });
 }
 
@@ -234,7 +228,7 @@ void LadeZugriff(int row) {
     withErrorTail(modul, u"LadeZugriff"_qs, [row](ErrorTail& step) {
         const Benutzer& form = screen<Benutzer>();
         int column = ersteRechteSpalte;
-        for (QCheckBox* box : form.Zugriffe()) {
+        for (QCheckBox* box : form.Zugriffe) {
             step([&] { box->setChecked(form.tblZugriff->cell(row, column) == Value(true)); });
             ++column;
         }

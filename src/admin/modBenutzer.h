@@ -12,7 +12,7 @@ class ComboBox;
 /// (modStart), and changed here along with each write.
 namespace modBenutzer {
 
-/// The grid row of the group on which the cursor stands: number, name and the ten rights.
+/// The grid row of the group on which the cursor stands: number, name and the rights.
 std::vector<Value> gruppenZeile(const Recordset& gruppe);
 
 /// Fill the grids at the start: users with a group, and groups with their rights.
