@@ -130,7 +130,7 @@ void Main::buildPanels() {
 
 /// Ctrl with a digit shows the area that stands at this place of the bar.
 void Main::buildAreaKeys() {
-    for (int place = 1; place <= 8; ++place) {
+    for (int place = 1; place <= 9; ++place) {
         auto* key = new QShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_0 + place)), this);
         on(key, &QShortcut::activated, [this, place] {
             if (const BarItem* item = ButtnBar->items().value(place - 1)) zeigeBereich(item->key());

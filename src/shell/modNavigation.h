@@ -9,10 +9,12 @@ class Screen;
 /// The navigation bar and the screens behind it.
 namespace modNavigation {
 
-/// Builds the two groups of the bar.
+/// Builds the bar.
 void InitButtnBar();
 /// Removes all items. Call when no user is logged in.
 void LeereButtnBar();
+/// Removes the item of this key, if it is still there.
+void entferne(const QString& key);
 /// Gives the item the screen's window. Does not show the screen.
 void binde(BarItem* item, Screen& screen);
 /// Shows in the bar to which item the screen in front belongs, whichever way it came there. One of no item,

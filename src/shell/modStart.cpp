@@ -1,11 +1,10 @@
 #include "modStart.h"
 
+#include "Bereiche.h"
 #include "Clock.h"
-#include "DataTable.h"
 #include "Datenbank.h"
 #include "Eroef.h"
 #include "ErrorTail.h"
-#include "Fangbuch.h"
 #include "Kalendernamen.h"
 #include "KontaktUebers.h"
 #include "Login.h"
@@ -13,22 +12,14 @@
 #include "Meldungen.h"
 #include "MsgBox.h"
 #include "NavigationBar.h"
-#include "ProgressBar.h"
 #include "Screens.h"
 #include "Session.h"
 #include "SqlText.h"
 #include "StatusBar.h"
 #include "TextBox.h"
 #include "Toolbar.h"
-#include "modBasis.h"
-#include "modBenutzer.h"
-#include "modBesatzList.h"
-#include "modFangbuch.h"
-#include "modKatego.h"
-#include "modKontakt.h"
 #include "modNavigation.h"
 #include "modSicherung.h"
-#include "modSystem.h"
 #include "modTools.h"
 
 #include <QCoreApplication>
@@ -75,12 +66,6 @@ void startFailed(const RuntimeError& error) {
     default:
         return askForRepair();
     }
-}
-
-/// Removes an item of the bar, if it is still there.
-void removeItem(BarGroup* group, const QString& key) {
-    session().AktBarItem = group->item(key);
-    group->removeItem(key);
 }
 
 /// Shows the start-up picture and waits until the window system has painted it.
@@ -182,17 +167,9 @@ bool Login(const QString& name, const QString& passwort) {
 
 void WendeRechteAn(const Recordset& gruppe) {
     const auto denied = [&](const QString& right) { return gruppe.Fields(right).Value() != Value(true); };
-    BarGroup* organisation = screen<Main>().GruppeOrganisation;
-    BarGroup* system = screen<Main>().GruppeSystem;
-    if (denied(u"Fangbuch"_qs)) removeItem(organisation, u"Fangbuch"_qs);
-    if (denied(u"Fangauswertung"_qs)) removeItem(organisation, u"Fangauswertung"_qs);
-    if (denied(u"KontUebers"_qs)) removeItem(organisation, u"Kontakte"_qs);
-    if (denied(u"Arbeit"_qs)) removeItem(organisation, u"Arbeit"_qs);
-    if (denied(u"Besatz"_qs)) removeItem(organisation, u"Besatzung"_qs);
-    if (denied(u"Basis"_qs)) removeItem(system, u"Basisdaten"_qs);
+    for (const Bereich& bereich : bereiche())
+        if (bereich.hatTaste() && denied(bereich.recht)) modNavigation::entferne(bereich.key);
     if (denied(u"KontListe"_qs)) screen<KontaktUebers>().Toolbar1->setKeyEnabled(u"tbMitglList"_qs, false);
-    if (denied(u"Benutzerverwaltung"_qs)) removeItem(system, u"Zugriff"_qs);
-    if (denied(u"System"_qs)) removeItem(system, u"Parameter"_qs);
 }
 
 void SetzeDatumsVariablen() {
@@ -208,15 +185,7 @@ void SetzeDatumsVariablen() {
 
 void LadeStammdaten() {
     session().TabelleLaedt = true;
-    modBasis::loadTblFBasis();
-    modBasis::loadTblGBasis();
-    modBenutzer::loadTblBenutzer();
-    modBenutzer::loadTblZugriff();
-    modKontakt::FuelleKontaktUebersicht();
-    modSystem::loadTblSystem();
-    modBesatzList::loadTblBList();
-    modKatego::loadTblKatego();
-    modFangbuch::loadTblFList(screen<Eroef>().pb);
+    for (const Bereich& bereich : ladefolge()) bereich.lade();
     session().TabelleLaedt = false;
 }
 

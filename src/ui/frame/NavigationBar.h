@@ -80,6 +80,8 @@ public:
     QVector<BarGroup*> groups() const { return m_groups; }
     BarItem* item(const QString& key) const; ///< in whichever group; null if there is none
     QVector<BarItem*> items() const;         ///< of all groups, as they stand
+    /// The first item of the current group, or of the bar if that group is empty; null if there is none.
+    BarItem* firstItem() const;
     /// The group whose first item takes the focus when the bar does.
     void setCurrentGroup(int index);
     /// Sets the height of all items in per cent of their natural height, but never less than their text
@@ -98,7 +100,6 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    BarItem* firstItem() const;
     void setTabStop(BarItem* item);
     void renewTabStop();
     void goToNeighbour(BarItem* from, int step);
