@@ -11,25 +11,22 @@ namespace modHandbuch {
 
 namespace {
 
+/// The pages that are named otherwise than their screen.
 const std::map<QString, QString>& pages() {
     static const std::map<QString, QString> byScreen = {
         {u"Arbeit"_qs, u"arbeitsstunden"_qs},
         {u"Basis"_qs, u"basisdaten"_qs},
-        {u"Benutzer"_qs, u"benutzer"_qs},
-        {u"Besatzung"_qs, u"besatzung"_qs},
         // The questions of a start in a new year come above the start-up picture.
         {u"Eroef"_qs, u"jahreswechsel"_qs},
-        {u"Fangauswertung"_qs, u"fangauswertung"_qs},
-        {u"Fangbuch"_qs, u"fangbuch"_qs},
-        {u"Info"_qs, u"info"_qs},
+        {u"Handbuch"_qs, u"index"_qs},
+        {u"Hinter"_qs, u"index"_qs},
         {u"Katego"_qs, u"kategorien"_qs},
-        {u"Kontakt"_qs, u"kontakt"_qs},
         {u"KontaktUebers"_qs, u"kontakte"_qs},
         {u"Login"_qs, u"anmeldung"_qs},
+        {u"Main"_qs, u"index"_qs},
         {u"MitglList"_qs, u"mitgliederliste"_qs},
         {u"SuchKont"_qs, u"kontaktsuche"_qs},
         {u"System"_qs, u"parameter"_qs},
-        {u"Vorschau"_qs, u"vorschau"_qs},
     };
     return byScreen;
 }
@@ -62,13 +59,7 @@ QString pageFor(const Screen* screen) { return screen ? SeiteFuer(screen->object
 
 QString SeiteFuer(const QString& screen) {
     const auto found = pages().find(screen);
-    return found == pages().end() ? u"index"_qs : found->second;
-}
-
-QStringList BeschriebeneMasken() {
-    QStringList screens;
-    for (const auto& [screen, page] : pages()) screens.append(screen);
-    return screens;
+    return found == pages().end() ? screen.toLower() : found->second;
 }
 
 void ZeigeHandbuch(const QWidget* focused) {

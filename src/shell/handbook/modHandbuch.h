@@ -1,17 +1,14 @@
 #pragma once
 
-#include <QStringList>
+#include <QString>
 
 class QWidget;
 
 /// The key F1: opens the handbook at the page of the user's screen.
 namespace modHandbuch {
 
-/// The page for the screen of this name, without folder and ending. A screen without a page gives the list of
-/// all pages.
+/// The page for the screen of this name, without folder and ending.
 QString SeiteFuer(const QString& screen);
-/// The screens that have a page.
-QStringList BeschriebeneMasken();
 
 /// Opens the handbook at the page of the screen that contains `focused`. For a message box this is the screen
 /// below it.

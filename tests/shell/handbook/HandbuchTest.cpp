@@ -33,10 +33,9 @@ bool leadsSomewhere(const QString& target) {
 
 } // namespace
 
-TEST(Handbook, HasAPageForEachScreen) {
-    for (const QString& screen : modHandbuch::BeschriebeneMasken())
+TEST(Handbook, HasAPageForStartFrameAndPreview) {
+    for (const QString& screen : {u"Eroef"_qs, u"Main"_qs, u"Vorschau"_qs})
         EXPECT_TRUE(handbook.exists(modHandbuch::SeiteFuer(screen) + u".html"_qs)) << screen.toStdString();
-    EXPECT_TRUE(handbook.exists(modHandbuch::SeiteFuer(u"Main"_qs) + u".html"_qs));
     EXPECT_TRUE(handbook.exists(u"hilfe.html"_qs));
 }
 
