@@ -3,7 +3,6 @@
 #include "Rahmen.h"
 #include "Screen.h"
 
-class BarGroup;
 class NavigationBar;
 class QAction;
 class QMenu;
@@ -33,8 +32,6 @@ public:
 
     QMenuBar* menuBar;
     NavigationBar* ButtnBar;
-    BarGroup* GruppeSystem = nullptr;
-    BarGroup* GruppeOrganisation = nullptr;
     Stage* stage;
     StatusBar* StatusBar1;
 

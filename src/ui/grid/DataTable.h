@@ -104,9 +104,6 @@ public:
     /// current before; pass it to enter() to return.
     TableHandle enterChild(int row);
     TableHandle enter(TableHandle table);
-    /// During an event: the table in which it happened. Stays so until another table is entered or another
-    /// event comes.
-    TableHandle currentTable() const { return m_current; }
     /// Gives the row an empty child table in place of any it has. Does not expand or collapse the row.
     void createChild(int row);
     /// If the child is the current table, the top level becomes the current one.
