@@ -4,6 +4,8 @@
 #include "ProgramUnderTest.h"
 #include "RawFile.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Runs an INSERT that selects from n, a table of the numbers from 1 to `count`. %1, %2 ... are `numbers`.
@@ -11,7 +13,7 @@ template<typename... Numbers>
 void addRows(RawFile& file, int count, const char* insert, Numbers... numbers) {
     if (count == 0) return;
     const QString counting =
-        u"WITH RECURSIVE n(i) AS (VALUES (1) UNION ALL SELECT i + 1 FROM n WHERE i < %1) "_qs.arg(count);
+        u"WITH RECURSIVE n(i) AS (VALUES (1) UNION ALL SELECT i + 1 FROM n WHERE i < %1) "_s.arg(count);
     QString filled = QString::fromUtf8(insert);
     ((filled = filled.arg(numbers)), ...);
     file.execute((counting + filled).toUtf8().constData());
@@ -47,8 +49,8 @@ void addCatches(RawFile& file, ClubSize size) {
         addRows(file, count, insert, year, month, clubKinds, clubWaters);
     };
     add(size.catchesOfThisMonth(), QString::number(benchYear), QString::number(benchMonth));
-    add(size.catches() - size.catchesOfThisMonth(), u"%1 - i % %2"_qs.arg(benchYear - 1).arg(clubYears),
-        u"1 + i / %1 % 12"_qs.arg(clubYears));
+    add(size.catches() - size.catchesOfThisMonth(), u"%1 - i % %2"_s.arg(benchYear - 1).arg(clubYears),
+        u"1 + i / %1 % 12"_s.arg(clubYears));
 }
 
 /// Adds bookings year by year with all members mixed, as they come in, so that one member's bookings are far
@@ -64,7 +66,7 @@ void addBookings(RawFile& file, ClubSize size) {
 
 void makeClub(const QString& folder, ClubSize size) {
     makeProgramFolder(folder, benchYear, false);
-    RawFile file(folder + u"/uw01.mdb"_qs);
+    RawFile file(folder + u"/uw01.mdb"_s);
     file.execute("BEGIN; UPDATE System SET PflichtStd = 20");
     addNames(file);
     addContacts(file, size);

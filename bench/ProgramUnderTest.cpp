@@ -13,13 +13,15 @@
 #include <cstdio>
 #include <cstdlib>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 int timesInForce = 1;
 
 /// The memory of the process in MiB.
 double residentMegabytes() {
-    QFile status(u"/proc/self/statm"_qs);
+    QFile status(u"/proc/self/statm"_s);
     if (!status.open(QIODevice::ReadOnly)) return 0;
     constexpr double pagesAMegabyte = 256;
     return status.readAll().split(' ').value(1).toDouble() / pagesAMegabyte;
@@ -77,6 +79,6 @@ QString BenchDesk::club(ClubSize size) {
 }
 
 void logIn() {
-    screen<Login>().txtBenutzer->setText(u"Admin"_qs);
-    screen<Login>().cmdOK->click();
+    the<Login>().txtBenutzer->setText(u"Admin"_s);
+    the<Login>().cmdOK->click();
 }

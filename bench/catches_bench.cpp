@@ -13,22 +13,24 @@
 
 #include <QApplication>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void benchMonthList(const QString& folder) {
-    RawFile file(folder + u"/uw01.mdb"_qs);
+    RawFile file(folder + u"/uw01.mdb"_s);
     RawCatches rows;
     Program program(folder);
     program.start();
     logIn();
-    Fangbuch& form = screen<Fangbuch>();
+    Fangbuch& screen = the<Fangbuch>();
     const auto fill = [&] {
-        modFangbuch::loadTblFList(form.pb);
-        form.tblFList->publish();
+        modFangbuch::loadTblFList(screen.pb);
+        screen.tblFList->publish();
     };
     printRow("loadTblFList, catches of a month", byTurns(5, fill, [&] { rawJoin(file, rows); }),
              "join stepped, cells copied", 2.0);
-    printGrid(double(form.tblFList->memoryInUse()), form.tblFList->rowCount(), mostBytesARow);
+    printGrid(double(screen.tblFList->memoryInUse()), screen.tblFList->rowCount(), mostBytesARow);
 }
 
 struct Start {
@@ -52,14 +54,14 @@ Start startOnce(const QString& folder) {
 /// Deletes the contacts and the catches of the clock's month. The start fills no screen from the other rows,
 /// however many there are.
 void keepOldCatches(const QString& folder) {
-    RawFile file(folder + u"/uw01.mdb"_qs);
+    RawFile file(folder + u"/uw01.mdb"_s);
     file.execute("BEGIN; DELETE FROM Fang WHERE FangJahr = 2026 AND FangMonat = 3; DELETE FROM Kontakt; "
                  "DELETE FROM Mitglied; DELETE FROM Arbeit; COMMIT");
 }
 
 /// The time for reading what every login must read, with no pages in memory.
 double rawFills(const QString& folder) {
-    RawFile file(folder + u"/uw01.mdb"_qs);
+    RawFile file(folder + u"/uw01.mdb"_s);
     RawCatches rows;
     return secondsOf([&] {
         rawCounts(file);

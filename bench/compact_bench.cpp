@@ -7,11 +7,13 @@
 
 #include <QFile>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int runs = 3;
 
-QString connectText() { return u";pwd=qx-1987-nkr"_qs; }
+QString connectText() { return u";pwd=qx-1987-nkr"_s; }
 
 void exportTo(const QString& path, const QString& target) {
     QFile::remove(target);
@@ -26,10 +28,10 @@ void compactTo(const QString& path, const QString& target, const QString& keptIn
 }
 
 void benchCompaction(const QString& folder) {
-    const QString path = folder + u"/uw01.mdb"_qs;
+    const QString path = folder + u"/uw01.mdb"_s;
     const Pair seconds = byTurns(
-        runs, [&] { compactTo(path, folder + u"/own.mdb"_qs); },
-        [&] { exportTo(path, folder + u"/floor.mdb"_qs); });
+        runs, [&] { compactTo(path, folder + u"/own.mdb"_s); },
+        [&] { exportTo(path, folder + u"/floor.mdb"_s); });
     printRow("CompactDatabase, verified", seconds, "sqlcipher_export", 1.5);
 }
 
@@ -62,11 +64,11 @@ void damage(const QString& path) {
 
 /// The median time of saving the rows of a file with one damaged page.
 double salvage(const QString& folder, int times) {
-    const QString damaged = folder + u"/damaged.mdb"_qs;
-    QFile::copy(folder + u"/uw01.mdb"_qs, damaged);
+    const QString damaged = folder + u"/damaged.mdb"_s;
+    QFile::copy(folder + u"/uw01.mdb"_s, damaged);
     damage(damaged);
     const double seconds =
-        medianSeconds(times, [&] { compactTo(damaged, folder + u"/saved.mdb"_qs, folder); });
+        medianSeconds(times, [&] { compactTo(damaged, folder + u"/saved.mdb"_s, folder); });
     QFile::remove(damaged);
     return seconds;
 }

@@ -12,6 +12,8 @@
 #include <array>
 #include <charconv>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Writes the field as SQLite gives it, a date as its number of days.
@@ -43,14 +45,14 @@ void writeRaw(RawFile& file, const QString& path) {
 }
 
 void benchSerialLetter(const QString& folder) {
-    RawFile file(folder + u"/uw01.mdb"_qs);
-    DataTable& overview = *screen<KontaktUebers>().tblKUebers;
+    RawFile file(folder + u"/uw01.mdb"_s);
+    DataTable& overview = *the<KontaktUebers>().tblKUebers;
     overview.clearRows();
-    overview.appendRow({1, u"-"_qs, u"Mitglieder (aktiv)"_qs});
+    overview.appendRow({1, u"-"_s, u"Mitglieder (aktiv)"_s});
     printRow("SERI.txt, active members",
              byTurns(
                  5, [] { modSerienbrief::ErzeugeSeriendatei(); },
-                 [&] { writeRaw(file, folder + u"/floor.txt"_qs); }),
+                 [&] { writeRaw(file, folder + u"/floor.txt"_s); }),
              "bare query, buffered file", 3.0);
 }
 

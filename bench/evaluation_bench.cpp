@@ -22,6 +22,8 @@
 #include <QStandardPaths>
 #include <string>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct RawRow {
@@ -62,16 +64,16 @@ qint64 rawEvaluation(RawFile& file, std::vector<RawRow>& rows) {
 }
 
 void benchEvaluation(const QString& folder) {
-    RawFile file(folder + u"/uw01.mdb"_qs);
+    RawFile file(folder + u"/uw01.mdb"_s);
     std::vector<RawRow> rows;
-    Fangauswertung& form = screen<Fangauswertung>();
+    Fangauswertung& screen = the<Fangauswertung>();
     const auto fill = [&] {
         modFAuswert::LadeAuswahl();
-        form.tblFAusw->publish();
+        screen.tblFAusw->publish();
     };
     printRow("evaluation of all catches", byTurns(3, fill, [&] { rawEvaluation(file, rows); }),
              "four statements, cells copied", 2.0);
-    printGrid(double(form.tblFAusw->memoryInUse()), form.tblFAusw->rowCount(), mostBytesARow);
+    printGrid(double(screen.tblFAusw->memoryInUse()), screen.tblFAusw->rowCount(), mostBytesARow);
 }
 
 void writeBuffered(const QString& path, const QByteArray& bytes) {
@@ -85,18 +87,18 @@ void writeBuffered(const QString& path, const QByteArray& bytes) {
 void benchExport(const QString& folder) {
     constexpr int runs = 7;
     modFAuswert::ErzeugeFangDatei();
-    QFile written(folder + u"/SeqData/FANG.csv"_qs);
+    QFile written(folder + u"/SeqData/FANG.csv"_s);
     if (!written.open(QIODevice::ReadOnly)) return;
     const QByteArray bytes = written.readAll();
     const Pair seconds = byTurns(
         runs, [] { modFAuswert::ErzeugeFangDatei(); },
-        [&] { writeBuffered(folder + u"/floor.csv"_qs, bytes); });
+        [&] { writeBuffered(folder + u"/floor.csv"_s, bytes); });
     printRow("FANG.csv, catches of a month", seconds, "the same bytes, buffered", 3.0);
 }
 
 /// Opens the file for this, as the program does.
 void rawStaging(const QString& folder, int rows) {
-    RawFile file(folder + u"/uw01.mdb"_qs);
+    RawFile file(folder + u"/uw01.mdb"_s);
     file.execute("BEGIN; DELETE FROM Druck_Fangliste");
     sqlite3_stmt* insert = file.prepare("INSERT INTO Druck_Fangliste VALUES (?1, ?2, ?3, ?4, ?5, ?6, ?7)");
     for (int i = 0; i < rows; ++i) {
@@ -115,7 +117,7 @@ void rawStaging(const QString& folder, int rows) {
 }
 
 void clearStaging(const QString& folder) {
-    RawFile(folder + u"/uw01.mdb"_qs).execute("DELETE FROM Druck_Fangliste");
+    RawFile(folder + u"/uw01.mdb"_s).execute("DELETE FROM Druck_Fangliste");
 }
 
 /// Stages all rows without a report: "nichts" neither prints nor previews.
@@ -126,7 +128,7 @@ void benchStaging(const QString& folder, int rows) {
         clearStaging(folder);
         floors.push_back(secondsOf([&] { rawStaging(folder, rows); }));
         clearStaging(folder);
-        stagings.push_back(secondsOf([] { modFAuswert::DruckeFangListe(u"nichts"_qs); }));
+        stagings.push_back(secondsOf([] { modFAuswert::DruckeFangListe(u"nichts"_s); }));
     }
     printRow("staging and binding them", {median(stagings), median(floors)}, "file opened, one transaction",
              3.0);
@@ -138,13 +140,12 @@ public:
     explicit SampleRows(int rows)
         : m_rows(rows) {}
     QStringList fields() const override {
-        return {u"FangNr"_qs,   u"Name"_qs,   u"Gewässer"_qs, u"Monat"_qs,
-                u"FangJahr"_qs, u"Anzahl"_qs, u"Gewicht"_qs};
+        return {u"FangNr"_s, u"Name"_s, u"Gewässer"_s, u"Monat"_s, u"FangJahr"_s, u"Anzahl"_s, u"Gewicht"_s};
     }
     bool next(std::vector<Value>& row) override {
         if (m_next == m_rows) return false;
-        row = {++m_next,  u"Fischart 12"_qs, u"Gewässer 7"_qs, u"September"_qs,
-               benchYear, m_next % 5,        m_next % 4000};
+        row = {++m_next,  u"Fischart 12"_s, u"Gewässer 7"_s, u"September"_s,
+               benchYear, m_next % 5,       m_next % 4000};
         return true;
     }
 
@@ -154,7 +155,7 @@ private:
 };
 
 void showPreview() {
-    screen<Vorschau>().zeige(Berichte::rpt_Fangliste()->document());
+    the<Vorschau>().zeige(Berichte::rpt_Fangliste()->document());
     QApplication::processEvents();
 }
 
@@ -188,21 +189,21 @@ void benchPreview(int rows) {
 }
 
 void benchPdf(const QString& folder) {
-    const QString pdf = folder + u"/liste.pdf"_qs;
+    const QString pdf = folder + u"/liste.pdf"_s;
     const auto report = Berichte::rpt_Fangliste(); // keeps the rows of the run
-    modFAuswert::DruckeFangListe(u"nichts"_qs);
+    modFAuswert::DruckeFangListe(u"nichts"_s);
     const double own = secondsOf([&] { saveReportAsPdf(*report->document(), pdf); });
-    const QString office = QStandardPaths::findExecutable(u"soffice"_qs);
+    const QString office = QStandardPaths::findExecutable(u"soffice"_s);
     if (office.isEmpty())
         return (void)std::printf("PDF of them: %.3f ms; no soffice here to hold it against\n", own * 1e3);
-    const QStringList words = {u"--headless"_qs,
-                               u"--infilter=Text - txt - csv (StarCalc):59,34,1,1,,1031,true,true"_qs,
-                               u"--convert-to"_qs,
-                               u"pdf"_qs,
-                               u"--outdir"_qs,
+    const QStringList words = {u"--headless"_s,
+                               u"--infilter=Text - txt - csv (StarCalc):59,34,1,1,,1031,true,true"_s,
+                               u"--convert-to"_s,
+                               u"pdf"_s,
+                               u"--outdir"_s,
                                folder,
-                               folder + u"/SeqData/FANG.csv"_qs};
-    const QString written = folder + u"/FANG.pdf"_qs;
+                               folder + u"/SeqData/FANG.csv"_s};
+    const QString written = folder + u"/FANG.pdf"_s;
     const double theirs = secondsOf([&] {
         QProcess process;
         process.start(office, words);
@@ -219,9 +220,9 @@ void benchPdf(const QString& folder) {
 
 /// Fills the grid with the catches of the clock's month.
 void chooseMonth() {
-    Fangauswertung& form = screen<Fangauswertung>();
-    form.chkArchiv->setChecked(true);
-    form.chkFMonat->setChecked(true);
+    Fangauswertung& screen = the<Fangauswertung>();
+    screen.chkArchiv->setChecked(true);
+    screen.chkFMonat->setChecked(true);
     modFAuswert::LadeAuswahl();
 }
 

@@ -15,14 +15,14 @@ constexpr int found = 5;
 
 /// Puts five members into the search's grid, spread from the first to the last in the file.
 void findMembers(ClubSize size) {
-    DataTable& grid = *screen<SuchKont>().tblSuch;
+    DataTable& grid = *the<SuchKont>().tblSuch;
     for (int i = 1; i <= found; ++i)
         grid.appendRow({size.members() * i / found, u"Mitglieder (aktiv)", u"", u"Nachname", u"Vorname"});
 }
 
 void bringIn(int row) {
     modArbeit::UebernehmeKontakt(row);
-    screen<Arbeit>().tblArbStd->publish();
+    the<Arbeit>().tblArbStd->publish();
 }
 
 double medianOf(const QString& folder, ClubSize size) {

@@ -13,6 +13,8 @@
 #include <QCheckBox>
 #include <string>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct RawRow {
@@ -60,15 +62,15 @@ void fill(DataTable& grid) {
 
 void benchLists(const QString& folder) {
     constexpr int runs = 7;
-    RawFile file(folder + u"/uw01.mdb"_qs);
+    RawFile file(folder + u"/uw01.mdb"_s);
     std::vector<RawRow> rows;
     const auto floor = [&] { rawList(file, rows); };
-    MitglList& form = screen<MitglList>();
-    const auto list = [&] { fill(*form.tblMList); };
-    form.chkArbAnz->setChecked(true);
+    MitglList& screen = the<MitglList>();
+    const auto list = [&] { fill(*screen.tblMList); };
+    screen.chkArbAnz->setChecked(true);
     printRow("member list with hours", byTurns(runs, list, floor), "a prepared sum a member", 3.0);
-    printGrid(double(form.tblMList->memoryInUse()), form.tblMList->rowCount());
-    form.chkArbStd->setChecked(true);
+    printGrid(double(screen.tblMList->memoryInUse()), screen.tblMList->rowCount());
+    screen.chkArbStd->setChecked(true);
     printRow("  only those below their hours", byTurns(runs, list, floor), "a prepared sum a member", 3.0);
 }
 

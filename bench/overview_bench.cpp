@@ -16,6 +16,8 @@
 
 #include <string>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The category with the most contacts.
@@ -83,7 +85,7 @@ void benchFill(RawFile& file) {
 
 void benchOpening(RawFile& file) {
     std::vector<RawContact> rows;
-    DataTable* grid = screen<KontaktUebers>().tblKUebers;
+    DataTable* grid = the<KontaktUebers>().tblKUebers;
     const auto open = [&] {
         modKontakt::KategorieAufklappen(crowdedNumber - 1, crowdedNumber);
         grid->publish();
@@ -98,7 +100,7 @@ void benchSearch(RawFile& file, const char* what, const QByteArray& word) {
         5, [&] { modKontakt::SucheKontakt(QString::fromUtf8(word), 0); },
         [&] { rawSearch(file, word, rows); });
     printRow(what, seconds, "bare query, same comparison", 2.0);
-    if (screen<SuchKont>().tblSuch->rowCount() != int(rows.size())) std::abort();
+    if (the<SuchKont>().tblSuch->rowCount() != int(rows.size())) std::abort();
 }
 
 } // namespace
@@ -106,7 +108,7 @@ void benchSearch(RawFile& file, const char* what, const QByteArray& word) {
 int main(int argc, char* argv[]) {
     NoBoxes boxes;
     BenchDesk desk(argc, argv, boxes);
-    RawFile file(desk.club() + u"/uw01.mdb"_qs);
+    RawFile file(desk.club() + u"/uw01.mdb"_s);
     engine::registerSqlFunctions(file.handle());
     Program program(desk.club());
     program.start();

@@ -9,6 +9,8 @@
 
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int species = clubKinds;
@@ -17,7 +19,7 @@ constexpr int runs = 5;
 
 std::array<QString, species> speciesNames() {
     std::array<QString, species> names;
-    for (int i = 0; i < species; ++i) names[static_cast<std::size_t>(i)] = u"Fischart %1"_qs.arg(i + 1);
+    for (int i = 0; i < species; ++i) names[static_cast<std::size_t>(i)] = u"Fischart %1"_s.arg(i + 1);
     return names;
 }
 
@@ -40,10 +42,10 @@ double rawLookups(RawFile& file, const std::array<QString, species>& names) {
 double storeLookups(Database& database, const std::array<QString, species>& names) {
     return medianSeconds(runs, [&] {
         for (int i = 0; i < rounds; ++i) {
-            Recordset fish = database.OpenRecordset(u"SELECT FNr FROM Fisch WHERE FName = "_qs +
+            Recordset fish = database.OpenRecordset(u"SELECT FNr FROM Fisch WHERE FName = "_s +
                                                         quoted(names[static_cast<std::size_t>(i % species)]),
                                                     dbOpenDynaset);
-            if (fish.RecordCount() == 0 || fish.Fields(u"FNr"_qs).Value().number() == 0) std::abort();
+            if (fish.RecordCount() == 0 || fish.Fields(u"FNr"_s).Value().number() == 0) std::abort();
             fish.Close();
         }
     });
@@ -61,12 +63,12 @@ double rawSeeks(RawFile& file, int entries) {
 }
 
 double storeSeeks(Database& database, int entries) {
-    Recordset entry = database.OpenRecordset(u"Fang"_qs, dbOpenTable);
-    entry.Index(u"PrimaryKey"_qs);
+    Recordset entry = database.OpenRecordset(u"Fang"_s, dbOpenTable);
+    entry.Index(u"PrimaryKey"_s);
     return medianSeconds(runs, [&] {
         for (int i = 0; i < rounds; ++i) {
-            entry.Seek(u"="_qs, scatteredKey(i, entries));
-            if (entry.NoMatch() || entry.Fields(u"Anzahl"_qs).Value().number() > 5) std::abort();
+            entry.Seek(u"="_s, scatteredKey(i, entries));
+            if (entry.NoMatch() || entry.Fields(u"Anzahl"_s).Value().number() > 5) std::abort();
         }
     });
 }
@@ -87,10 +89,10 @@ double rawWalk(RawFile& file, int entries) {
 double storeWalk(Database& database, int entries) {
     return medianSeconds(runs, [&] {
         qint64 sum = 0;
-        Recordset all = database.OpenRecordset(u"SELECT FangNr, Anzahl, Notiz FROM Fang"_qs, dbOpenDynaset);
-        const Recordset::Field number = all.Fields(u"FangNr"_qs);
-        const Recordset::Field count = all.Fields(u"Anzahl"_qs);
-        const Recordset::Field note = all.Fields(u"Notiz"_qs);
+        Recordset all = database.OpenRecordset(u"SELECT FangNr, Anzahl, Notiz FROM Fang"_s, dbOpenDynaset);
+        const Recordset::Field number = all.Fields(u"FangNr"_s);
+        const Recordset::Field count = all.Fields(u"Anzahl"_s);
+        const Recordset::Field note = all.Fields(u"Notiz"_s);
         for (; !all.Eof(); all.MoveNext())
             sum += number.Value().number() + count.Value().number() + note.Value().text().size();
         if (sum < entries) std::abort();
@@ -103,11 +105,11 @@ double storeWalk(Database& database, int entries) {
 int main(int argc, char* argv[]) {
     NoBoxes boxes;
     BenchDesk desk(argc, argv, boxes);
-    const QString path = desk.club() + u"/uw01.mdb"_qs;
+    const QString path = desk.club() + u"/uw01.mdb"_s;
     const int catches = desk.size().catches();
     RawFile file(path);
     engine::registerSqlFunctions(file.handle());
-    Database database = DBEngine::Workspaces(0).OpenDatabase(path, false, false, u";pwd=qx-1987-nkr"_qs);
+    Database database = DBEngine::Workspaces(0).OpenDatabase(path, false, false, u";pwd=qx-1987-nkr"_s);
     const auto names = speciesNames();
     printRow("20,000 lookups among 30 names", {storeLookups(database, names), rawLookups(file, names)},
              "bound and stepped", 4.0);

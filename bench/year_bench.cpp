@@ -10,6 +10,8 @@
 #include <QFile>
 #include <cstdio>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int runs = 5;
@@ -63,11 +65,11 @@ void rawChange(RawFile& file) {
 /// time starts.
 template<typename Change>
 double measure(const QString& folder, Change change) {
-    const QString path = folder + u"/uw01.mdb"_qs;
+    const QString path = folder + u"/uw01.mdb"_s;
     std::vector<double> seconds;
     for (int run = 0; run < runs; ++run) {
         QFile::remove(path);
-        QFile::copy(folder + u"/alt.mdb"_qs, path);
+        QFile::copy(folder + u"/alt.mdb"_s, path);
         seconds.push_back(change());
     }
     return median(seconds);
@@ -108,9 +110,9 @@ int main(int argc, char* argv[]) {
     Yes boxes;
     BenchDesk desk(argc, argv, boxes);
     const QString folder = desk.club();
-    const QString path = folder + u"/uw01.mdb"_qs;
+    const QString path = folder + u"/uw01.mdb"_s;
     RawFile(path).execute("UPDATE System SET FJahr = 2025");
-    QFile::copy(path, folder + u"/alt.mdb"_qs);
+    QFile::copy(path, folder + u"/alt.mdb"_s);
 
     const double floor = measure(folder, [&] { return rawSeconds(path); });
     const QByteArray expected = result(path);

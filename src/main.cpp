@@ -9,6 +9,8 @@
 
 #include <QApplication>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The real clock, boxes, print dialogs and office programs.
@@ -36,8 +38,8 @@ int main(int argc, char* argv[]) {
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     // By this name the desktop finds the menu entry, and with it the icon, of a window.
-    QApplication::setDesktopFileName(u"uferwart"_qs);
-    Theme::loadFonts(QApplication::applicationDirPath() + u"/fonts"_qs);
+    QApplication::setDesktopFileName(u"uferwart"_s);
+    Theme::loadFonts(QApplication::applicationDirPath() + u"/fonts"_s);
     Theme::apply(application, Theme::desktopMode(application));
     static Surroundings surroundings; // static, as the libraries keep pointers into it
 

@@ -108,8 +108,8 @@ QString landline(DemoDice& dice) {
 }
 
 QString mobile(DemoDice& dice) {
-    const QString form = dice.chance(50) ? QStringLiteral("0171 39200%1") : QStringLiteral("0176 040690%1");
-    return form.arg(dice.below(100), 2, 10, QLatin1Char('0'));
+    const QString screen = dice.chance(50) ? QStringLiteral("0171 39200%1") : QStringLiteral("0176 040690%1");
+    return screen.arg(dice.below(100), 2, 10, QLatin1Char('0'));
 }
 
 QString mailAddress(const Person& person) {

@@ -70,7 +70,7 @@ private:
     void buildUserGrid();
     QWidget* buildGroupPage();
     void buildGroupEntry();
-    void addRights(QGridLayout* form, int row);
+    void addRights(QGridLayout* screen, int row);
     void buildGroupGrid();
     void connectEvents();
 

@@ -1,6 +1,6 @@
 #include "Info.h"
 
-#include "Face.h"
+#include "Layout.h"
 #include "Screens.h"
 #include "Session.h"
 #include "modSysInfo.h"
@@ -10,39 +10,41 @@
 #include <QLabel>
 #include <QPushButton>
 
+using namespace Qt::StringLiterals;
+
 Info::Info()
-    : Screen(u"Info"_qs, u"Info"_qs) {
+    : Screen(u"Info"_s, u"Info"_s) {
     // Who looks something up here in the middle of an entry finds the entry as it was.
     standAlone();
-    lblTitle = Face::label(u"lblTitle"_qs, u"Uferwart Version 2.0"_qs, this);
-    QFont titleFont(u"Comic Sans MS"_qs);
+    lblTitle = Layout::label(u"lblTitle"_s, u"Uferwart Version 2.0"_s, this);
+    QFont titleFont(u"Comic Sans MS"_s);
     titleFont.setPointSize(16);
     lblTitle->setFont(titleFont);
-    lblDescription = Face::label(u"lblDescription"_qs,
-                                 u"Software für Angelsportvereine.\n"
-                                 u"- Professionelle Fangaufnahme\n"
-                                 u"- Fangauswertung mit Datenexport zu EXCEL\n"
-                                 u"- Fanglistendruck\n"
-                                 u"- Verwaltungsmöglichkeiten v. Mitgliedern u. Kontakten\n"
-                                 u"- Softwareunterstützes Verwalten der Arbeitsstunden u.s.w"_qs,
-                                 this);
-    fraVerein = Face::frame(u"fraVerein"_qs, u"Lizenziert für..."_qs, this);
+    lblDescription = Layout::label(u"lblDescription"_s,
+                                   u"Software für Angelsportvereine.\n"
+                                   u"- Professionelle Fangaufnahme\n"
+                                   u"- Fangauswertung mit Datenexport zu EXCEL\n"
+                                   u"- Fanglistendruck\n"
+                                   u"- Verwaltungsmöglichkeiten v. Mitgliedern u. Kontakten\n"
+                                   u"- Softwareunterstützes Verwalten der Arbeitsstunden u.s.w"_s,
+                                   this);
+    fraVerein = Layout::frame(u"fraVerein"_s, u"Lizenziert für..."_s, this);
     new QVBoxLayout(fraVerein);
-    lblVerein = addValue(u"lblVerein"_qs);
-    lblStrasse = addValue(u"lblStrasse"_qs);
-    lblPLZ = addValue(u"lblPLZ"_qs);
-    lblOrt = addValue(u"lblOrt"_qs);
-    lblTelefon = addValue(u"lblTelefon"_qs);
-    lblHersteller = Face::label(u"lblHersteller"_qs, u"Uferwart - die Gründer"_qs, this);
-    lblRechte = Face::label(u"lblRechte"_qs, u"Freie Software unter der MIT-Lizenz, ohne Gewähr."_qs, this);
-    cmdSysInfo = Face::button(u"cmdSysInfo"_qs, u"&System Info..."_qs, this);
-    cmdOK = Face::button(u"cmdOK"_qs, u"OK"_qs, this);
+    lblVerein = addValue(u"lblVerein"_s);
+    lblStrasse = addValue(u"lblStrasse"_s);
+    lblPLZ = addValue(u"lblPLZ"_s);
+    lblOrt = addValue(u"lblOrt"_s);
+    lblTelefon = addValue(u"lblTelefon"_s);
+    lblHersteller = Layout::label(u"lblHersteller"_s, u"Uferwart - die Gründer"_s, this);
+    lblRechte = Layout::label(u"lblRechte"_s, u"Freie Software unter der MIT-Lizenz, ohne Gewähr."_s, this);
+    cmdSysInfo = Layout::button(u"cmdSysInfo"_s, u"&System Info..."_s, this);
+    cmdOK = Layout::button(u"cmdOK"_s, u"OK"_s, this);
 
     auto* keys = new QHBoxLayout;
     keys->addWidget(cmdSysInfo);
     keys->addStretch();
     keys->addWidget(cmdOK);
-    auto* column = Face::column(this);
+    auto* column = Layout::column(this);
     for (QWidget* widget :
          std::initializer_list<QWidget*>{lblTitle, lblDescription, fraVerein, lblHersteller, lblRechte})
         column->addWidget(widget);
@@ -54,7 +56,7 @@ Info::Info()
 }
 
 QLabel* Info::addValue(const QString& name) {
-    QLabel* value = Face::label(name, QString(), fraVerein);
+    QLabel* value = Layout::label(name, QString(), fraVerein);
     value->setWordWrap(true);
     fraVerein->layout()->addWidget(value);
     return value;

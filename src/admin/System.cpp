@@ -1,9 +1,9 @@
 #include "System.h"
 
 #include "DataTable.h"
-#include "Face.h"
 #include "Gitter.h"
 #include "Heading.h"
+#include "Layout.h"
 #include "Screens.h"
 #include "Tastenfilter.h"
 #include "TextBox.h"
@@ -14,27 +14,29 @@
 #include <QGroupBox>
 #include <QLabel>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Without a row opened, it is the address that the user has been working on.
-void sichere() { screen<System>().isEditing() ? modSystem::UpdateParameter() : modSystem::UpdateAdresse(); }
+void sichere() { the<System>().isEditing() ? modSystem::UpdateParameter() : modSystem::UpdateAdresse(); }
 
 } // namespace
 
 System::System()
-    : Screen(u"System"_qs, u"Systemparameter"_qs) {
-    Ueberschrift = new Heading(u"SYSTEMPARAMETER"_qs, this);
+    : Screen(u"System"_s, u"Systemparameter"_s) {
+    Ueberschrift = new Heading(u"SYSTEMPARAMETER"_s, this);
     Toolbar1 = new Toolbar(this);
-    Toolbar1->addKeys({{u"tbSpeichern"_qs, u"&Speichern"_qs, u"Speichern"_qs, u"speichern"_qs, &sichere},
-                       {u"tbAnzLoeschen"_qs, u"&Anz. löschen"_qs, u"Anzeige löschen"_qs,
-                        u"anzeige-loeschen"_qs, &modSystem::LeereParameter}});
+    Toolbar1->addKeys({{u"tbSpeichern"_s, u"&Speichern"_s, u"Speichern"_s, u"speichern"_s, &sichere},
+                       {u"tbAnzLoeschen"_s, u"&Anz. löschen"_s, u"Anzeige löschen"_s, u"anzeige-loeschen"_s,
+                        &modSystem::LeereParameter}});
     buildAddress();
     buildGrid();
     buildParameters();
 
-    QVBoxLayout* rest = Face::column(this, Ueberschrift, Toolbar1);
+    QVBoxLayout* rest = Layout::column(this, Ueberschrift, Toolbar1);
     auto* halves = new QHBoxLayout;
-    halves->setSpacing(Face::gap);
+    halves->setSpacing(Layout::gap);
     halves->addWidget(Frame3, 1);
     halves->addWidget(Frame1, 1);
     rest->addLayout(halves);
@@ -45,12 +47,13 @@ System::System()
 }
 
 void System::buildAddress() {
-    Frame3 = Face::frame(u"Frame3"_qs, u"Ihre Adressdaten..."_qs, this);
-    auto* form = new QGridLayout(Frame3);
+    Frame3 = Layout::frame(u"Frame3"_s, u"Ihre Adressdaten..."_s, this);
+    auto* screen = new QGridLayout(Frame3);
     const auto add = [&](const char16_t* name, const char16_t* text) {
         auto* box = new TextBox(QString::fromUtf16(name), Frame3);
-        const int row = form->rowCount();
-        Face::addField(form, row, Face::label(u"lbl%1"_qs.arg(row), QString::fromUtf16(text), Frame3), box);
+        const int row = screen->rowCount();
+        Layout::addField(screen, row, Layout::label(u"lbl%1"_s.arg(row), QString::fromUtf16(text), Frame3),
+                         box);
         return box;
     };
     txtVerein = add(u"txtVerein", u"(Vereins-) Name:");
@@ -61,30 +64,30 @@ void System::buildAddress() {
 }
 
 void System::buildGrid() {
-    Frame2 = Face::frame(u"Frame2"_qs, u"Aktuelle Systemparameter..."_qs, this);
-    tblSystem = new DataTable(u"tblSystem"_qs, Frame2);
-    tblSystem->setColumns({{u"Parameter"_qs, 240}, {u"Wert"_qs, 120, true}});
+    Frame2 = Layout::frame(u"Frame2"_s, u"Aktuelle Systemparameter..."_s, this);
+    tblSystem = new DataTable(u"tblSystem"_s, Frame2);
+    tblSystem->setColumns({{u"Parameter"_s, 240}, {u"Wert"_s, 120, true}});
     auto* column = new QVBoxLayout(Frame2);
     column->addWidget(tblSystem);
 }
 
 void System::buildParameters() {
-    Frame1 = Face::frame(u"Frame1"_qs, u"Systemparameter editieren..."_qs, this);
-    auto* form = new QGridLayout(Frame1);
+    Frame1 = Layout::frame(u"Frame1"_s, u"Systemparameter editieren..."_s, this);
+    auto* screen = new QGridLayout(Frame1);
     const auto add = [&](int row, const char16_t* name, const char16_t* text) {
         auto* box = new TextBox(QString::fromUtf16(name), Frame1);
         // A comma can be typed into the fee, after a beep.
         box->setKeyFilter(&modRun::FilterZiffern, Refused::Admitted);
-        Face::addField(form, row, Face::label(u"lblParam%1"_qs.arg(row), QString::fromUtf16(text), Frame1),
-                       box);
+        Layout::addField(screen, row,
+                         Layout::label(u"lblParam%1"_s.arg(row), QString::fromUtf16(text), Frame1), box);
         return box;
     };
     txtJB = add(0, u"txtJB", u"Jahresbeitrag:");
     txtFJahr = add(1, u"txtFJahr", u"Akt. Fangjahr:");
     txtArbStd = add(2, u"txtArbStd", u"Arb.- Pflichtstunden:");
-    lblStd = Face::label(u"lblStd"_qs, u"Std."_qs, Frame1);
-    form->addWidget(lblStd, 2, 2);
-    form->setRowStretch(3, 1);
+    lblStd = Layout::label(u"lblStd"_s, u"Std."_s, Frame1);
+    screen->addWidget(lblStd, 2, 2);
+    screen->setRowStretch(3, 1);
 }
 
 void System::Form_Deactivate() { modSystem::LeereParameter(); }

@@ -21,11 +21,13 @@
 #include <QCheckBox>
 #include <QTabWidget>
 
+using namespace Qt::StringLiterals;
+
 namespace modBenutzer {
 
 namespace {
 
-const QString modul = u"modBenutzer"_qs;
+const QString modul = u"modBenutzer"_s;
 
 /// Where the rights begin in the grid of groups; before them stand number and name.
 constexpr int ersteRechteSpalte = 2;
@@ -36,150 +38,153 @@ void zeigeAnzahl(ValueLabel* label, const DataTable* grid) {
     label->setText(QString::number(grid->rowCount()));
 }
 
-Datensatz::Felder felderDesBenutzers(ErrorTail& step, const Benutzer& form, qint32 gnr) {
-    return [&step, &form, gnr](Recordset& benutzer) {
-        step([&] { benutzer.Collect(u"Name"_qs, form.txtBenutzer->text()); });
-        step([&] { benutzer.Collect(u"Passwort"_qs, form.txtPassw->text()); });
-        step([&] { benutzer.Collect(u"GNr"_qs, gnr); });
+Datensatz::Felder felderDesBenutzers(ErrorTail& step, const Benutzer& screen, qint32 gnr) {
+    return [&step, &screen, gnr](Recordset& benutzer) {
+        step([&] { benutzer.Collect(u"Name"_s, screen.txtBenutzer->text()); });
+        step([&] { benutzer.Collect(u"Passwort"_s, screen.txtPassw->text()); });
+        step([&] { benutzer.Collect(u"GNr"_s, gnr); });
     };
 }
 
-Datensatz::Felder felderDerGruppe(ErrorTail& step, const Benutzer& form) {
+Datensatz::Felder felderDerGruppe(ErrorTail& step, const Benutzer& screen) {
     return [&](Recordset& gruppe) {
-        step([&] { gruppe.Collect(u"GName"_qs, form.txtGruppe->text()); });
+        step([&] { gruppe.Collect(u"GName"_s, screen.txtGruppe->text()); });
         step([&] { SichereZugriff(gruppe); });
     };
 }
 
 /// The fields of a group that its row in the grid is made from.
 Datensatz::Danach liesGruppe(ErrorTail& step, std::vector<Value>& zeile) {
-    QStringList felder = {u"GNr"_qs, u"GName"_qs};
+    QStringList felder = {u"GNr"_s, u"GName"_s};
     for (const Recht& recht : rechte()) felder.append(recht.feld);
     return Datensatz::lies(step, zeile, felder);
 }
 
-void leereBenutzer(const Benutzer& form) {
-    form.lblBNr->setText(QString());
-    for (TextBox* box : {form.txtBenutzer, form.txtPassw, form.txtPasswBest}) box->setText(QString());
-    form.cboBG->setText(QString());
-    form.cboBG->setListIndex(-1);
+void leereBenutzer(const Benutzer& screen) {
+    screen.lblBNr->setText(QString());
+    for (TextBox* box : {screen.txtBenutzer, screen.txtPassw, screen.txtPasswBest}) box->setText(QString());
+    screen.cboBG->setText(QString());
+    screen.cboBG->setListIndex(-1);
 }
 
-void leereGruppe(const Benutzer& form) {
-    form.lblGNr->setText(QString());
-    form.txtGruppe->setText(QString());
-    for (QCheckBox* box : form.Zugriffe) box->setChecked(false);
+void leereGruppe(const Benutzer& screen) {
+    screen.lblGNr->setText(QString());
+    screen.txtGruppe->setText(QString());
+    for (QCheckBox* box : screen.Zugriffe) box->setChecked(false);
 }
 
 } // namespace
 
 std::vector<Value> gruppenZeile(const Recordset& gruppe) {
-    std::vector<Value> zeile = {gruppe.Collect(u"GNr"_qs), gruppe.Collect(u"GName"_qs)};
+    std::vector<Value> zeile = {gruppe.Collect(u"GNr"_s), gruppe.Collect(u"GName"_s)};
     for (const Recht& recht : rechte()) zeile.push_back(gruppe.Collect(recht.feld));
     return zeile;
 }
 
 void SpeicherBenutzer() {
-    withErrorTail(modul, u"SpeicherBenutzer"_qs, [](ErrorTail& step) {
-        const Benutzer& form = screen<Benutzer>();
-        const qint32 gnr = ErmittleGNr(form.cboBG->currentText());
+    withErrorTail(modul, u"SpeicherBenutzer"_s, [](ErrorTail& step) {
+        const Benutzer& screen = the<Benutzer>();
+        const qint32 gnr = ErmittleGNr(screen.cboBG->currentText());
         if (gnr == 0) return LeereBenutzerEingabe();
         std::vector<Value> zeile;
         QString gruppe;
         if (Datensatz::speichere(
-                step, u"Benutzer"_qs, felderDesBenutzers(step, form, gnr),
-                Datensatz::lies(step, zeile, {u"BNr"_qs, u"Name"_qs, u"Passwort"_qs, u"GNr"_qs})))
+                step, u"Benutzer"_s, felderDesBenutzers(step, screen, gnr),
+                Datensatz::lies(step, zeile, {u"BNr"_s, u"Name"_s, u"Passwort"_s, u"GNr"_s})))
             step([&] { gruppe = ErmittleGName(CLng(zeile[gruppenSpalte])); });
         if (gruppe.isEmpty()) return LeereBenutzerEingabe();
         zeile[gruppenSpalte] = gruppe;
-        step([&] { form.tblBenutzer->appendRow(zeile); });
-        form.tblBenutzer->markRow(form.tblBenutzer->rowCount());
+        step([&] { screen.tblBenutzer->appendRow(zeile); });
+        screen.tblBenutzer->markRow(screen.tblBenutzer->rowCount());
         LeereBenutzerEingabe();
-        zeigeAnzahl(form.lblBAnzahl, form.tblBenutzer);
+        zeigeAnzahl(screen.lblBAnzahl, screen.tblBenutzer);
     });
 }
 
 void UpdateBenutzer(int row) {
-    withErrorTail(modul, u"UpdateBenutzer"_qs, [row](ErrorTail& step) {
-        const Benutzer& form = screen<Benutzer>();
+    withErrorTail(modul, u"UpdateBenutzer"_s, [row](ErrorTail& step) {
+        const Benutzer& screen = the<Benutzer>();
         bool fehlt = false;
-        const bool steht = Datensatz::schreibe(step, u"Benutzer"_qs, [&](Recordset& benutzer) {
-            fehlt = !Datensatz::finde(step, benutzer, form.lblBNr->text());
+        const bool steht = Datensatz::schreibe(step, u"Benutzer"_s, [&](Recordset& benutzer) {
+            fehlt = !Datensatz::finde(step, benutzer, screen.lblBNr->text());
             if (fehlt) modRun::MeldeNichtVorhanden();
-            const qint32 gnr = fehlt ? 0 : ErmittleGNr(form.cboBG->currentText());
+            const qint32 gnr = fehlt ? 0 : ErmittleGNr(screen.cboBG->currentText());
             if (gnr == 0) return false;
             step([&] { benutzer.Edit(); });
-            felderDesBenutzers(step, form, gnr)(benutzer);
+            felderDesBenutzers(step, screen, gnr)(benutzer);
             return step([&] { benutzer.Update(); });
         });
         // A user who is gone is shown as typed. Without a number no user stands open but a group, and its row
         // is another user's here.
-        if ((steht || fehlt) && !form.lblBNr->text().isEmpty()) {
-            const int zeile = form.tblBenutzer->rowOf(form.lblBNr->text(), row);
-            step([&] { form.tblBenutzer->setCell(zeile, 1, form.txtBenutzer->text()); });
-            step([&] { form.tblBenutzer->setCell(zeile, 2, form.txtPassw->text()); });
-            step([&] { form.tblBenutzer->setCell(zeile, gruppenSpalte, form.cboBG->currentText()); });
-            form.tblBenutzer->markRow(zeile);
+        if ((steht || fehlt) && !screen.lblBNr->text().isEmpty()) {
+            const int zeile = screen.tblBenutzer->rowOf(screen.lblBNr->text(), row);
+            step([&] { screen.tblBenutzer->setCell(zeile, 1, screen.txtBenutzer->text()); });
+            step([&] { screen.tblBenutzer->setCell(zeile, 2, screen.txtPassw->text()); });
+            step([&] { screen.tblBenutzer->setCell(zeile, gruppenSpalte, screen.cboBG->currentText()); });
+            screen.tblBenutzer->markRow(zeile);
         }
         LeereBenutzerEingabe();
     });
 }
 
 void LoescheBenutzer(int row) {
-    withErrorTail(modul, u"LoescheBenutzer"_qs, [row](ErrorTail& step) {
-        const Benutzer& form = screen<Benutzer>();
-        if (Datensatz::loesche(step, u"Benutzer"_qs, form.lblBNr->text())) {
-            step([&] { form.tblBenutzer->removeRow(form.tblBenutzer->rowOf(form.lblBNr->text(), row)); });
-            zeigeAnzahl(form.lblBAnzahl, form.tblBenutzer);
+    withErrorTail(modul, u"LoescheBenutzer"_s, [row](ErrorTail& step) {
+        const Benutzer& screen = the<Benutzer>();
+        if (Datensatz::loesche(step, u"Benutzer"_s, screen.lblBNr->text())) {
+            step([&] {
+                screen.tblBenutzer->removeRow(screen.tblBenutzer->rowOf(screen.lblBNr->text(), row));
+            });
+            zeigeAnzahl(screen.lblBAnzahl, screen.tblBenutzer);
         }
         LeereBenutzerEingabe();
     });
 }
 
 void SpeicherBG() {
-    withErrorTail(modul, u"SpeicherBG"_qs, [](ErrorTail& step) {
-        const Benutzer& form = screen<Benutzer>();
+    withErrorTail(modul, u"SpeicherBG"_s, [](ErrorTail& step) {
+        const Benutzer& screen = the<Benutzer>();
         std::vector<Value> zeile;
-        if (Datensatz::speichere(step, u"Gruppen"_qs, felderDerGruppe(step, form), liesGruppe(step, zeile))) {
-            step([&] { form.tblZugriff->appendRow(zeile); });
-            form.tblZugriff->markRow(form.tblZugriff->rowCount());
+        if (Datensatz::speichere(step, u"Gruppen"_s, felderDerGruppe(step, screen),
+                                 liesGruppe(step, zeile))) {
+            step([&] { screen.tblZugriff->appendRow(zeile); });
+            screen.tblZugriff->markRow(screen.tblZugriff->rowCount());
         }
         LeereBenutzerEingabe();
-        zeigeAnzahl(form.lblGAnzahl, form.tblZugriff);
-        LadeGruppenCombo(form.cboBG);
+        zeigeAnzahl(screen.lblGAnzahl, screen.tblZugriff);
+        LadeGruppenCombo(screen.cboBG);
     });
 }
 
 void UpdateBG(int row) {
-    withErrorTail(modul, u"UpdateBG"_qs, [row](ErrorTail& step) {
-        const Benutzer& form = screen<Benutzer>();
+    withErrorTail(modul, u"UpdateBG"_s, [row](ErrorTail& step) {
+        const Benutzer& screen = the<Benutzer>();
         std::vector<Value> zeile;
         // Without a record there is nothing to take the cells from.
-        if (Datensatz::aendere(step, u"Gruppen"_qs, form.lblGNr->text(), felderDerGruppe(step, form),
+        if (Datensatz::aendere(step, u"Gruppen"_s, screen.lblGNr->text(), felderDerGruppe(step, screen),
                                liesGruppe(step, zeile)))
             step([&] {
-                const int dort = form.tblZugriff->rowOf(form.lblGNr->text(), row);
+                const int dort = screen.tblZugriff->rowOf(screen.lblGNr->text(), row);
                 for (std::size_t column = 1; column < zeile.size(); ++column)
-                    form.tblZugriff->setCell(dort, static_cast<int>(column), zeile[column]);
-                form.tblZugriff->markRow(dort);
+                    screen.tblZugriff->setCell(dort, static_cast<int>(column), zeile[column]);
+                screen.tblZugriff->markRow(dort);
             });
         LeereBenutzerEingabe();
     });
 }
 
 void LoescheZugriff(int row) {
-    withErrorTail(modul, u"LoescheZugriff"_qs, [row](ErrorTail& step) {
-        const Benutzer& form = screen<Benutzer>();
-        if (Datensatz::loesche(step, u"Gruppen"_qs, form.lblGNr->text())) {
-            step([&] { form.tblZugriff->removeRow(form.tblZugriff->rowOf(form.lblGNr->text(), row)); });
-            zeigeAnzahl(form.lblGAnzahl, form.tblZugriff);
+    withErrorTail(modul, u"LoescheZugriff"_s, [row](ErrorTail& step) {
+        const Benutzer& screen = the<Benutzer>();
+        if (Datensatz::loesche(step, u"Gruppen"_s, screen.lblGNr->text())) {
+            step([&] { screen.tblZugriff->removeRow(screen.tblZugriff->rowOf(screen.lblGNr->text(), row)); });
+            zeigeAnzahl(screen.lblGAnzahl, screen.tblZugriff);
             // The number of groups here too, until the next painting.
-            zeigeAnzahl(form.lblBAnzahl, form.tblZugriff);
+            zeigeAnzahl(screen.lblBAnzahl, screen.tblZugriff);
             step([&] {
-                modRun::GridVerweiseAbgleichen(form.tblBenutzer, gruppenSpalte, form.txtGruppe->text(),
-                                               u"LOESCHEN"_qs, QString());
+                modRun::GridVerweiseAbgleichen(screen.tblBenutzer, gruppenSpalte, screen.txtGruppe->text(),
+                                               u"LOESCHEN"_s, QString());
             });
-            LadeGruppenCombo(form.cboBG);
+            LadeGruppenCombo(screen.cboBG);
         }
         LeereBenutzerEingabe();
     });
@@ -187,13 +192,13 @@ void LoescheZugriff(int row) {
 
 qint32 ErmittleGNr(const QString& name) {
     qint32 gnr = 0;
-    withErrorTail(modul, u"ErmittleGNr"_qs, [&](ErrorTail& step) {
+    withErrorTail(modul, u"ErmittleGNr"_s, [&](ErrorTail& step) {
         Recordset gruppe;
-        step([&] { gruppe = oeffneAbfrage(u"SELECT GNr FROM Gruppen WHERE GName = "_qs + quoted(name)); });
+        step([&] { gruppe = oeffneAbfrage(u"SELECT GNr FROM Gruppen WHERE GName = "_s + quoted(name)); });
         if (step.test([&] { return gruppe.RecordCount() != 1; }))
-            MsgBox(u"Keine Benutzergruppe angelegt! Bitte legen Sie zuerst eine Gruppe an."_qs, vbCritical);
+            MsgBox(u"Keine Benutzergruppe angelegt! Bitte legen Sie zuerst eine Gruppe an."_s, vbCritical);
         else
-            step([&] { gnr = CLng(gruppe.Collect(u"GNr"_qs)); });
+            step([&] { gnr = CLng(gruppe.Collect(u"GNr"_s)); });
         step([&] { gruppe.Close(); });
     });
     return gnr;
@@ -202,87 +207,85 @@ qint32 ErmittleGNr(const QString& name) {
 QString ErmittleGName(qint32 gnr) {
     QString name;
     // The names in the box are another routine's, and users know them so.
-    withErrorTail(u"modBasis"_qs, u"SpeicherFisch"_qs, [&](ErrorTail& step) {
+    withErrorTail(u"modBasis"_s, u"SpeicherFisch"_s, [&](ErrorTail& step) {
         Recordset gruppe;
         step([&] {
-            gruppe = oeffneAbfrage(u"SELECT GName FROM Gruppen WHERE GNr = "_qs + QString::number(gnr));
+            gruppe = oeffneAbfrage(u"SELECT GName FROM Gruppen WHERE GNr = "_s + QString::number(gnr));
         });
         if (step.test([&] { return gruppe.RecordCount() == 1; }))
-            step([&] { name = CStr(gruppe.Collect(u"GName"_qs)); });
+            step([&] { name = CStr(gruppe.Collect(u"GName"_s)); });
         else
-            name = u"0"_qs;
+            name = u"0"_s;
         step([&] { gruppe.Close(); });
     });
     return name;
 }
 
 void SichereZugriff(Recordset& gruppe) {
-    withErrorTail(modul, u"SichereZugriff"_qs, [&](ErrorTail& step) {
-        auto box = screen<Benutzer>().Zugriffe.cbegin();
+    withErrorTail(modul, u"SichereZugriff"_s, [&](ErrorTail& step) {
+        auto box = the<Benutzer>().Zugriffe.cbegin();
         for (const Recht& recht : rechte())
             step([&] { gruppe.Collect(recht.feld, modRun::WertAusCheckBox(*box++)); });
     });
 }
 
 void LadeZugriff(int row) {
-    withErrorTail(modul, u"LadeZugriff"_qs, [row](ErrorTail& step) {
-        const Benutzer& form = screen<Benutzer>();
+    withErrorTail(modul, u"LadeZugriff"_s, [row](ErrorTail& step) {
+        const Benutzer& screen = the<Benutzer>();
         int column = ersteRechteSpalte;
-        for (QCheckBox* box : form.Zugriffe) {
-            step([&] { box->setChecked(form.tblZugriff->cell(row, column) == Value(true)); });
+        for (QCheckBox* box : screen.Zugriffe) {
+            step([&] { box->setChecked(screen.tblZugriff->cell(row, column) == Value(true)); });
             ++column;
         }
     });
 }
 
 void LadeBenutzerVorgang() {
-    withErrorTail(modul, u"LadeBenutzerVorgang"_qs, [](ErrorTail& step) {
-        Benutzer& form = screen<Benutzer>();
-        const int row = form.gridRow();
+    withErrorTail(modul, u"LadeBenutzerVorgang"_s, [](ErrorTail& step) {
+        Benutzer& screen = the<Benutzer>();
+        const int row = screen.gridRow();
         LeereBenutzerEingabe();
-        step([&] { form.lblBNr->setText(form.tblBenutzer->cellText(row, 0)); });
-        step([&] { form.txtBenutzer->setText(form.tblBenutzer->cellText(row, 1)); });
-        step([&] { form.txtPassw->setText(form.tblBenutzer->cellText(row, 2)); });
-        step([&] { form.txtPasswBest->setText(form.tblBenutzer->cellText(row, 2)); });
-        step([&] { form.cboBG->setText(form.tblBenutzer->cellText(row, gruppenSpalte)); });
-        form.openRecord(form.lblBNr->text(), row);
+        step([&] { screen.lblBNr->setText(screen.tblBenutzer->cellText(row, 0)); });
+        step([&] { screen.txtBenutzer->setText(screen.tblBenutzer->cellText(row, 1)); });
+        step([&] { screen.txtPassw->setText(screen.tblBenutzer->cellText(row, 2)); });
+        step([&] { screen.txtPasswBest->setText(screen.tblBenutzer->cellText(row, 2)); });
+        step([&] { screen.cboBG->setText(screen.tblBenutzer->cellText(row, gruppenSpalte)); });
+        screen.openRecord(screen.lblBNr->text(), row);
     });
 }
 
 void LadeGruppenVorgang(int row) {
-    withErrorTail(modul, u"LadeGruppenVorgang"_qs, [row](ErrorTail& step) {
-        Benutzer& form = screen<Benutzer>();
+    withErrorTail(modul, u"LadeGruppenVorgang"_s, [row](ErrorTail& step) {
+        Benutzer& screen = the<Benutzer>();
         LeereBenutzerEingabe();
-        step([&] { form.lblGNr->setText(form.tblZugriff->cellText(row, 0)); });
-        step([&] { form.txtGruppe->setText(form.tblZugriff->cellText(row, 1)); });
+        step([&] { screen.lblGNr->setText(screen.tblZugriff->cellText(row, 0)); });
+        step([&] { screen.txtGruppe->setText(screen.tblZugriff->cellText(row, 1)); });
         LadeZugriff(row);
-        form.openRecord(form.lblGNr->text(), row);
+        screen.openRecord(screen.lblGNr->text(), row);
     });
 }
 
 void LeereBenutzerEingabe() {
-    const Benutzer& form = screen<Benutzer>();
-    const bool benutzer = form.tabBV->currentIndex() == Benutzer::userPage;
-    benutzer ? leereBenutzer(form) : leereGruppe(form);
-    (benutzer ? form.txtBenutzer : form.txtGruppe)->setFocus();
+    const Benutzer& screen = the<Benutzer>();
+    const bool benutzer = screen.tabBV->currentIndex() == Benutzer::userPage;
+    benutzer ? leereBenutzer(screen) : leereGruppe(screen);
+    (benutzer ? screen.txtBenutzer : screen.txtGruppe)->setFocus();
 }
 
 void LeereBenutzerAnzeige() {
-    leereBenutzer(screen<Benutzer>());
-    leereGruppe(screen<Benutzer>());
+    leereBenutzer(the<Benutzer>());
+    leereGruppe(the<Benutzer>());
 }
 
 bool PruefeBenutzerEingabe() {
-    const Benutzer& form = screen<Benutzer>();
-    return modRun::fehlerfrei(modRun::erstesLeere({form.txtBenutzer, form.cboBG}));
+    const Benutzer& screen = the<Benutzer>();
+    return modRun::fehlerfrei(modRun::erstesLeere({screen.txtBenutzer, screen.cboBG}));
 }
 
-bool PruefeGruppenEingabe() {
-    return modRun::fehlerfrei(modRun::erstesLeere({screen<Benutzer>().txtGruppe}));
-}
+bool PruefeGruppenEingabe() { return modRun::fehlerfrei(modRun::erstesLeere({the<Benutzer>().txtGruppe})); }
 
 void LadeGruppenCombo(ComboBox* combo) {
-    const DataTable* gruppen = screen<Benutzer>().tblZugriff;
+    const DataTable* gruppen = the<Benutzer>().tblZugriff;
     // What stands in the box belongs to the user who is being entered.
     const QString text = combo->currentText();
     combo->clear();

@@ -4,18 +4,20 @@
 #include "TextBox.h"
 #include "modBenutzer.h"
 
+using namespace Qt::StringLiterals;
+
 namespace modBenutzer {
 
 namespace {
 
 /// Two passwords that differ in anything, capitals too, throw away what was typed.
 bool passwortBestaetigt() {
-    const Benutzer& form = screen<Benutzer>();
-    if (form.txtPassw->text() == form.txtPasswBest->text()) return true;
-    MsgBox(u"Passwortbestätigung stimmt nicht mit Passwort überein\n\rBitte versuchen Sie es nochmal !"_qs,
+    const Benutzer& screen = the<Benutzer>();
+    if (screen.txtPassw->text() == screen.txtPasswBest->text()) return true;
+    MsgBox(u"Passwortbestätigung stimmt nicht mit Passwort überein\n\rBitte versuchen Sie es nochmal !"_s,
            vbInformation);
     LeereBenutzerEingabe();
-    form.txtBenutzer->setFocus();
+    screen.txtBenutzer->setFocus();
     return false;
 }
 
@@ -28,7 +30,7 @@ Erfassung benutzerErfassung() {
             .speichere = &SpeicherBenutzer,
             .aendere = &UpdateBenutzer,
             .loesche = &LoescheBenutzer,
-            .frage = u"Achtung: Benutzer wirklich löschen ?"_qs,
+            .frage = u"Achtung: Benutzer wirklich löschen ?"_s,
             .beiNein = &LeereBenutzerEingabe};
 }
 
@@ -38,8 +40,8 @@ Erfassung gruppenErfassung() {
             .aendere = &UpdateBG,
             .loesche = &LoescheZugriff,
             .frage =
-                u"Achtung: Benutzer - Referenzen in der Benutzertabelle werden ebenfalls gelöscht !\r\n"_qs
-                u"Trotzdem löschen ?"_qs,
+                u"Achtung: Benutzer - Referenzen in der Benutzertabelle werden ebenfalls gelöscht !\r\n"_s
+                u"Trotzdem löschen ?"_s,
             .beiNein = &LeereBenutzerEingabe};
 }
 

@@ -5,6 +5,8 @@
 #include <QProcess>
 #include <QStandardPaths>
 
+using namespace Qt::StringLiterals;
+
 namespace modSysInfo {
 
 namespace {
@@ -19,18 +21,18 @@ struct Tool {
 
 /// Where desktops keep what they tell about the machine, the settings programs' own pages first.
 QVector<Tool> placesToLook() {
-    const QString gnome = u"gnome-control-center"_qs;
-    return {{gnome, {u"info-overview"_qs}, u"gnome-info-overview-panel.desktop"_qs},
-            {gnome, {u"system"_qs, u"about"_qs}, u"gnome-system-panel.desktop"_qs},
-            {gnome, {u"about"_qs}, u"gnome-about-panel.desktop"_qs},
-            {u"kinfocenter"_qs, {}},
-            {u"cinnamon-settings"_qs, {u"info"_qs}},
-            {u"mate-system-monitor"_qs, {u"--show-system-tab"_qs}},
-            {u"xfce4-about"_qs, {}},
-            {u"lxqt-about"_qs, {}},
-            {u"hardinfo2"_qs, {}},
-            {u"hardinfo"_qs, {}},
-            {u"msinfo32"_qs, {}}};
+    const QString gnome = u"gnome-control-center"_s;
+    return {{gnome, {u"info-overview"_s}, u"gnome-info-overview-panel.desktop"_s},
+            {gnome, {u"system"_s, u"about"_s}, u"gnome-system-panel.desktop"_s},
+            {gnome, {u"about"_s}, u"gnome-about-panel.desktop"_s},
+            {u"kinfocenter"_s, {}},
+            {u"cinnamon-settings"_s, {u"info"_s}},
+            {u"mate-system-monitor"_s, {u"--show-system-tab"_s}},
+            {u"xfce4-about"_s, {}},
+            {u"lxqt-about"_s, {}},
+            {u"hardinfo2"_s, {}},
+            {u"hardinfo"_s, {}},
+            {u"msinfo32"_s, {}}};
 }
 
 bool isThere(const QString& page) {
@@ -45,7 +47,7 @@ void StartSysInfo() {
         if (path.isEmpty() || !isThere(tool.page)) continue;
         if (QProcess::startDetached(path, tool.arguments)) return;
     }
-    MsgBox(u"System Information Is Unavailable At This Time"_qs);
+    MsgBox(u"System Information Is Unavailable At This Time"_s);
 }
 
 } // namespace modSysInfo

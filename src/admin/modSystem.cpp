@@ -15,14 +15,16 @@
 #include <QLabel>
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace modSystem {
 
 namespace {
 
-const QString twoDecimals = u"###0.00"_qs;
-const QString labelJahresbeitrag = u"Jahresbeitrag"_qs;
-const QString labelFangjahr = u"akt. Fangjahr"_qs;
-const QString labelPflichtStd = u"Pflicht-Std. (Arbeit)"_qs;
+const QString twoDecimals = u"###0.00"_s;
+const QString labelJahresbeitrag = u"Jahresbeitrag"_s;
+const QString labelFangjahr = u"akt. Fangjahr"_s;
+const QString labelPflichtStd = u"Pflicht-Std. (Arbeit)"_s;
 
 /// A line of the address: its field and its box.
 struct AddressLine {
@@ -31,12 +33,12 @@ struct AddressLine {
 };
 
 std::array<AddressLine, 5> address() {
-    const System& form = screen<System>();
-    return {{{u"Verein"_qs, form.txtVerein},
-             {u"Strasse"_qs, form.txtStrasse},
-             {u"PLZ"_qs, form.txtPLZ},
-             {u"Ort"_qs, form.txtOrt},
-             {u"Tel"_qs, form.txtTelefon}}};
+    const System& screen = the<System>();
+    return {{{u"Verein"_s, screen.txtVerein},
+             {u"Strasse"_s, screen.txtStrasse},
+             {u"PLZ"_s, screen.txtPLZ},
+             {u"Ort"_s, screen.txtOrt},
+             {u"Tel"_s, screen.txtTelefon}}};
 }
 
 struct Parameter {
@@ -52,7 +54,7 @@ void writeParameter(Recordset& parameter, const Parameter& which) {
 
 void showParameter(const Parameter& which) {
     const QString text = which.box->text();
-    DataTable* grid = screen<System>().tblSystem;
+    DataTable* grid = the<System>().tblSystem;
     int row = 0;
     if (text.isEmpty() || grid->find(0, row, which.label) < 0) return;
     grid->setCell(row, 1, text);
@@ -77,23 +79,23 @@ void showAddress(ErrorTail& step, const Recordset& parameter) {
         QString& label = *shown++;
         step([&] { label = text(line); });
     }
-    screen<Info>().zeigeAnschrift();
+    the<Info>().zeigeAnschrift();
     for (const AddressLine& line : address()) step([&] { line.box->setText(text(line)); });
 }
 
 } // namespace
 
 void loadTblSystem() {
-    withErrorTail(u"modStart"_qs, u"loadTblSystem"_qs, [](ErrorTail& step) {
+    withErrorTail(u"modStart"_s, u"loadTblSystem"_s, [](ErrorTail& step) {
         Recordset parameter;
-        DataTable* grid = screen<System>().tblSystem;
-        step([&] { parameter = oeffneAbfrage(u"SELECT * FROM System"_qs); });
+        DataTable* grid = the<System>().tblSystem;
+        step([&] { parameter = oeffneAbfrage(u"SELECT * FROM System"_s); });
         if (step.test([&] { return parameter.RecordCount() != 0; })) step([&] { parameter.MoveFirst(); });
         step.forEachRow(parameter, [&] {
             const auto value = [&](const QString& field) { return parameter.Fields(field).Value(); };
-            step([&] { grid->appendRow({labelJahresbeitrag, Format(value(u"JBeitrag"_qs), twoDecimals)}); });
-            step([&] { grid->appendRow({labelFangjahr, value(u"FJahr"_qs)}); });
-            step([&] { grid->appendRow({labelPflichtStd, Format(value(u"PflichtStd"_qs), twoDecimals)}); });
+            step([&] { grid->appendRow({labelJahresbeitrag, Format(value(u"JBeitrag"_s), twoDecimals)}); });
+            step([&] { grid->appendRow({labelFangjahr, value(u"FJahr"_s)}); });
+            step([&] { grid->appendRow({labelPflichtStd, Format(value(u"PflichtStd"_s), twoDecimals)}); });
             merkeParameter(*grid);
             showAddress(step, parameter);
         });
@@ -102,42 +104,42 @@ void loadTblSystem() {
 }
 
 void UpdateParameter() {
-    const System& form = screen<System>();
-    const Parameter changed[] = {{u"FJahr"_qs, form.txtFJahr, labelFangjahr},
-                                 {u"JBeitrag"_qs, form.txtJB, labelJahresbeitrag},
-                                 {u"PflichtStd"_qs, form.txtArbStd, labelPflichtStd}};
-    Recordset parameter = oeffneTabelle(u"System"_qs);
+    const System& screen = the<System>();
+    const Parameter changed[] = {{u"FJahr"_s, screen.txtFJahr, labelFangjahr},
+                                 {u"JBeitrag"_s, screen.txtJB, labelJahresbeitrag},
+                                 {u"PflichtStd"_s, screen.txtArbStd, labelPflichtStd}};
+    Recordset parameter = oeffneTabelle(u"System"_s);
     parameter.Edit();
     for (const Parameter& which : changed) writeParameter(parameter, which);
     parameter.Update();
     parameter.Close();
     for (const Parameter& which : changed) showParameter(which);
-    merkeParameter(*form.tblSystem);
+    merkeParameter(*screen.tblSystem);
     LeereParameter();
 }
 
 void UpdateAdresse() {
-    Recordset parameter = oeffneTabelle(u"System"_qs);
+    Recordset parameter = oeffneTabelle(u"System"_s);
     parameter.Edit();
     for (const AddressLine& line : address()) parameter.Collect(line.field, line.box->text());
     parameter.Update();
     parameter.Close();
     auto shown = session().Anschrift.begin();
     for (const AddressLine& line : address()) *shown++ = line.box->text();
-    screen<Info>().zeigeAnschrift();
+    the<Info>().zeigeAnschrift();
 }
 
 void LeereParameter() {
-    System& form = screen<System>();
-    for (TextBox* box : {form.txtJB, form.txtFJahr, form.txtArbStd}) box->setText(QString());
+    System& screen = the<System>();
+    for (TextBox* box : {screen.txtJB, screen.txtFJahr, screen.txtArbStd}) box->setText(QString());
 }
 
 void LadeParameter(int row) {
-    System& form = screen<System>();
-    const std::array<TextBox*, 3> boxes = {form.txtJB, form.txtFJahr, form.txtArbStd};
+    System& screen = the<System>();
+    const std::array<TextBox*, 3> boxes = {screen.txtJB, screen.txtFJahr, screen.txtArbStd};
     if (row >= static_cast<int>(boxes.size())) return;
     TextBox* box = boxes[static_cast<std::size_t>(row)];
-    box->setText(form.tblSystem->cellText(row, 1));
+    box->setText(screen.tblSystem->cellText(row, 1));
     box->setFocus();
     box->selectAll();
 }

@@ -11,6 +11,8 @@
 #include <QApplication>
 #include <QScopeGuard>
 
+using namespace Qt::StringLiterals;
+
 namespace modTools {
 
 namespace {
@@ -24,14 +26,14 @@ struct Words {
 void rewriteFile(const QString& keptIn) {
     QApplication::setOverrideCursor(Qt::WaitCursor);
     const auto arrow = qScopeGuard(&QApplication::restoreOverrideCursor);
-    const QString work = programFolder() + u"/temp/uwtmp.mdb"_qs;
+    const QString work = programFolder() + u"/temp/uwtmp.mdb"_s;
     SchliesseDatenbank();
     const FileHold alone = DBEngine::CompactDatabase(datenbankDatei(), work, datenbankVerbindung(), keptIn);
     Upkeep::replaceDatabase(work, datenbankDatei());
 }
 
 void tellFailure(const RuntimeError& error, const Words& words) {
-    const QString title = u"Runtime - Error: %1"_qs.arg(error.number);
+    const QString title = u"Runtime - Error: %1"_s.arg(error.number);
     if (error.is(RuntimeError::cannotBeRepaired)) {
         MsgBox(words.cannotBeRepaired, vbCritical, title);
         // A file that can't be repaired can't be copied either, which need not be told as well.
@@ -56,16 +58,16 @@ void rewriteDatabase(const Words& words, const QString& keptIn = {}) {
 
 void KomprimiereDatenbank() {
     rewriteDatabase(
-        {u"Komprimierung der Datenbank erfolgreich durchgeführt !"_qs,
-         u"ACHTUNG: Ein Fehler trat beim Komprimieren der Datenbank auf, die Komprimierung war nicht erfolgreich !"_qs,
-         u"ACHTUNG: Datenbank konnte nicht erfolgreich komprimiert werden ! Uferwart beendet sich jetzt !"_qs});
+        {u"Komprimierung der Datenbank erfolgreich durchgeführt !"_s,
+         u"ACHTUNG: Ein Fehler trat beim Komprimieren der Datenbank auf, die Komprimierung war nicht erfolgreich !"_s,
+         u"ACHTUNG: Datenbank konnte nicht erfolgreich komprimiert werden ! Uferwart beendet sich jetzt !"_s});
 }
 
 void RepariereDatenbank() {
     rewriteDatabase(
-        {u"Datenbank wurde erfolgreich repariert !"_qs,
-         u"ACHTUNG: Ein Fehler trat beim Reparieren der Datenbank auf, die Reparatur war nicht erfolgreich !"_qs,
-         u"ACHTUNG: Datenbank konnte nicht erfolgreich repariert werden ! Uferwart beendet sich jetzt !"_qs},
+        {u"Datenbank wurde erfolgreich repariert !"_s,
+         u"ACHTUNG: Ein Fehler trat beim Reparieren der Datenbank auf, die Reparatur war nicht erfolgreich !"_s,
+         u"ACHTUNG: Datenbank konnte nicht erfolgreich repariert werden ! Uferwart beendet sich jetzt !"_s},
         sicherungsOrdner());
 }
 

@@ -20,7 +20,9 @@
 #include <QCheckBox>
 #include <algorithm>
 
-// The face of the screen is built in FangauswertungFace.cpp; here is what it does.
+using namespace Qt::StringLiterals;
+
+// The layout of the screen is in FangauswertungLayout.cpp; its behaviour is here.
 
 void Fangauswertung::Form_Load() {
     modBasis::loadcboFArt(cboFArt);
@@ -45,8 +47,8 @@ void Fangauswertung::tbSuch_Click() {
     const auto filter = {chkArchiv, chkFArt, chkGName, chkFMonat, chkAnzahl, chkGewicht};
     if (std::ranges::none_of(filter, &QCheckBox::isChecked) &&
         !modRun::frage(
-            u"ACHTUNG: Wirklich alle Fangdaten aus der Datenbank laden ?\r\n"_qs
-            u"Bendenken Sie das die Ladezeit je nach Grösse der Datenbank sehr lange dauern kann !"_qs))
+            u"ACHTUNG: Wirklich alle Fangdaten aus der Datenbank laden ?\r\n"_s
+            u"Bendenken Sie das die Ladezeit je nach Grösse der Datenbank sehr lange dauern kann !"_s))
         return modRun::MeldeAbgebrochen();
     tblFAusw->clearRows();
     for (ValueLabel* label : {lblGefDS, lblSumAnz, lblSumGew}) label->setText(QString());
@@ -56,10 +58,10 @@ void Fangauswertung::tbSuch_Click() {
 void Fangauswertung::tbExcel_Click() {
     erzeugeAufWunsch(
         *tblFAusw,
-        u"Wollen Sie eine in Excel zu importierende Datei mit der Bezeichnung - FANG.csv - erzeugen ?\n\r"_qs
-        u"ACHTUNG: Der Datei liegen die gerade erzeugten Fangdaten zugrunde ! "_qs
-        u"Wollen Sie die Datei jetzt erzeugen ?"_qs,
-        u"Keine Daten zum erzeugen der Datei - FANG.csv - gefunden, der Vorgang wird abgebrochen !"_qs,
+        u"Wollen Sie eine in Excel zu importierende Datei mit der Bezeichnung - FANG.csv - erzeugen ?\n\r"_s
+        u"ACHTUNG: Der Datei liegen die gerade erzeugten Fangdaten zugrunde ! "_s
+        u"Wollen Sie die Datei jetzt erzeugen ?"_s,
+        u"Keine Daten zum erzeugen der Datei - FANG.csv - gefunden, der Vorgang wird abgebrochen !"_s,
         &modFAuswert::ErzeugeFangDatei);
 }
 
@@ -85,7 +87,7 @@ void Fangauswertung::tblFAusw_OnGridCellOpen(int row) {
     modFangbuch::FangAnzeigeLoeschen();
     setGridRow(row);
     // Before the catch book comes to the front, which would fill its lists anew for an entry.
-    auto& fangbuch = screen<Fangbuch>();
+    auto& fangbuch = the<Fangbuch>();
     fangbuch.openRecord(tblFAusw->cellText(row, 0), row);
     Hide();
     fangbuch.Show();

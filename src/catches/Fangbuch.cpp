@@ -19,7 +19,9 @@
 #include "modBasis.h"
 #include "modFangbuch.h"
 
-// The face of the screen is built in FangbuchFace.cpp; here is what it does.
+using namespace Qt::StringLiterals;
+
+// The layout of the screen is in FangbuchLayout.cpp; its behaviour is here.
 
 void Fangbuch::Form_Load() {
     beobachteBasisdaten();
@@ -39,8 +41,8 @@ void Fangbuch::beobachteBasisdaten() {
                 modRun::GridVerweiseAbgleichen(grid, column, verweis.name, verweis.modus, verweis.alterName);
         };
     };
-    screen<Basis>().fischGeaendert = gleicheAb(1);
-    screen<Basis>().gewaesserGeaendert = gleicheAb(2);
+    the<Basis>().fischGeaendert = gleicheAb(1);
+    the<Basis>().gewaesserGeaendert = gleicheAb(2);
 }
 
 void Fangbuch::Form_Activate() {
@@ -61,7 +63,7 @@ void Fangbuch::zeigeAnzahlen() {
 
 bool Fangbuch::Form_KeyDown(int key, Qt::KeyboardModifiers) {
     static const QHash<int, QString> keys = {
-        {Qt::Key_F2, u"tbAnzLoeschen"_qs}, {Qt::Key_F3, u"tbSpeichern"_qs}, {Qt::Key_F8, u"tbLoeschen"_qs}};
+        {Qt::Key_F2, u"tbAnzLoeschen"_s}, {Qt::Key_F3, u"tbSpeichern"_s}, {Qt::Key_F8, u"tbLoeschen"_s}};
     if (!keys.contains(key)) return false;
     Toolbar1->key(keys[key])->click();
     return true;
@@ -112,10 +114,10 @@ void Fangbuch::pruefeMonat() {
     // What was pasted past the key filter and is no number is no month either.
     const qint32 month = IsNumeric(text) ? CLng(text) : 0;
     if (text.length() == 1 && month >= 1 && month <= 9) {
-        txtMonNr->setText(u"0"_qs + text);
+        txtMonNr->setText(u"0"_s + text);
         txtFangMonat->setText(modRun::ErmittleMonatsname(month));
     } else if (month < 1 || month > 12) {
-        MsgBox(u"ACHTUNG: Unzulässige Monatsangabe, die Eingabe wird gelöscht !"_qs, vbInformation);
+        MsgBox(u"ACHTUNG: Unzulässige Monatsangabe, die Eingabe wird gelöscht !"_s, vbInformation);
         txtMonNr->setText(QString());
     } else {
         txtFangMonat->setText(modRun::ErmittleMonatsname(month));

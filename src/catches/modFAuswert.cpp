@@ -24,6 +24,8 @@
 #include <QCheckBox>
 #include <QScopeGuard>
 
+using namespace Qt::StringLiterals;
+
 namespace modFAuswert {
 
 namespace {
@@ -42,16 +44,16 @@ public:
 
     Recordset oeffne(const QString& was) const {
         if (m_fehler) throw *m_fehler;
-        return oeffneAbfrage(u"SELECT "_qs + was + m_text);
+        return oeffneAbfrage(u"SELECT "_s + was + m_text);
     }
 
 private:
-    QString m_text = u" FROM Fang fa , Fisch f, Gewaesser g WHERE fa.FischNr = f.FNr AND fa.GNr = g.GNr"_qs;
+    QString m_text = u" FROM Fang fa , Fisch f, Gewaesser g WHERE fa.FischNr = f.FNr AND fa.GNr = g.GNr"_s;
     std::optional<RuntimeError> m_fehler;
 };
 
 QString klausel(const QString& field, const Vergleich& bound) {
-    return u" AND fa."_qs + field + u' ' + bound.zeichen->currentText() + u' ' + bound.wert->text();
+    return u" AND fa."_s + field + u' ' + bound.zeichen->currentText() + u' ' + bound.wert->text();
 }
 
 QWidget* falscheListe(const QCheckBox* box, ComboBox* list) {
@@ -60,19 +62,19 @@ QWidget* falscheListe(const QCheckBox* box, ComboBox* list) {
 
 void zeigeSumme(ErrorTail& step, const Selektion& selektion, Recordset& summe, ValueLabel* label,
                 const QString& field) {
-    step([&] { summe = selektion.oeffne(u"SUM(fa.%1)"_qs.arg(field)); });
-    const auto wert = [&] { return summe.Collect(u"Expr1000"_qs); };
+    step([&] { summe = selektion.oeffne(u"SUM(fa.%1)"_s.arg(field)); });
+    const auto wert = [&] { return summe.Collect(u"Expr1000"_s); };
     if (step.test([&] { return wert().isNull(); }))
-        label->setText(u"0"_qs);
+        label->setText(u"0"_s);
     else
         step([&] { label->setText(CStr(wert())); });
 }
 
-void fuelleListe(ErrorTail& step, Recordset& liste, Fangauswertung& form) {
+void fuelleListe(ErrorTail& step, Recordset& liste, Fangauswertung& screen) {
     qint64 count = 0;
     std::array<Value, 7> zeile;
     std::vector<Recordset::Field> felder;
-    form.pb->show();
+    screen.pb->show();
     step([&] { liste.MoveFirst(); });
     step([&] { felder = liste.Fields(); });
     step.forEachRow(liste, [&] {
@@ -80,71 +82,72 @@ void fuelleListe(ErrorTail& step, Recordset& liste, Fangauswertung& form) {
         // The grid has the month, by its name, before the year.
         std::swap(zeile[3], zeile[4]);
         step([&] { zeile[3] = modRun::ErmittleMonatsname(CLng(zeile[3])); });
-        step([&] { form.tblFAusw->appendRow(zeile); });
-        form.pb->setProgress(++count);
+        step([&] { screen.tblFAusw->appendRow(zeile); });
+        screen.pb->setProgress(++count);
     });
 }
 
 } // namespace
 
 void LadeAuswahl() {
-    withErrorTail(u"modFAuswert"_qs, u"LadeAuswahl"_qs, [](ErrorTail& step) {
-        Fangauswertung& form = screen<Fangauswertung>();
-        const Hourglass hourglass(form);
+    withErrorTail(u"modFAuswert"_s, u"LadeAuswahl"_s, [](ErrorTail& step) {
+        Fangauswertung& screen = the<Fangauswertung>();
+        const Hourglass hourglass(screen);
         // Also where a fifth error ends it.
-        const auto ruhe = qScopeGuard([&] { form.pb->hide(); });
+        const auto ruhe = qScopeGuard([&] { screen.pb->hide(); });
         Recordset liste, anzahl, summeAnzahl, summeGewicht;
         const Selektion selektion;
         step([&] {
             liste = selektion.oeffne(
-                u"fa.FangNr, f.FName, g.GName, fa.FangJahr, fa.FangMonat, fa.Anzahl, fa.Gewicht"_qs);
+                u"fa.FangNr, f.FName, g.GName, fa.FangJahr, fa.FangMonat, fa.Anzahl, fa.Gewicht"_s);
         });
         qint32 gefunden = 0;
-        step([&] { anzahl = selektion.oeffne(u"COUNT(fa.FangNr)"_qs); });
-        const auto wert = [&] { return anzahl.Collect(u"Expr1000"_qs); };
+        step([&] { anzahl = selektion.oeffne(u"COUNT(fa.FangNr)"_s); });
+        const auto wert = [&] { return anzahl.Collect(u"Expr1000"_s); };
         if (step.test([&] { return wert().isNull() || CLng(wert()) == 0; })) {
-            form.lblGefDS->setText(u"0"_qs);
+            screen.lblGefDS->setText(u"0"_s);
         } else {
             step([&] { gefunden = CLng(wert()); });
-            form.lblGefDS->setText(QString::number(gefunden));
-            form.pb->setMax(gefunden);
+            screen.lblGefDS->setText(QString::number(gefunden));
+            screen.pb->setMax(gefunden);
         }
-        zeigeSumme(step, selektion, summeAnzahl, form.lblSumAnz, u"Anzahl"_qs);
-        zeigeSumme(step, selektion, summeGewicht, form.lblSumGew, u"Gewicht"_qs);
-        form.tblFAusw->clearRows();
+        zeigeSumme(step, selektion, summeAnzahl, screen.lblSumAnz, u"Anzahl"_s);
+        zeigeSumme(step, selektion, summeGewicht, screen.lblSumGew, u"Gewicht"_s);
+        screen.tblFAusw->clearRows();
         if (gefunden <= 0)
-            MsgBox(u"Keine passenden Einträge gefunden !"_qs, vbInformation);
+            MsgBox(u"Keine passenden Einträge gefunden !"_s, vbInformation);
         else
-            fuelleListe(step, liste, form);
-        form.lblGefDS->setText(QString::number(form.tblFAusw->rowCount()));
+            fuelleListe(step, liste, screen);
+        screen.lblGefDS->setText(QString::number(screen.tblFAusw->rowCount()));
         for (Recordset* offen : {&liste, &summeAnzahl, &summeGewicht}) step([&] { offen->Close(); });
     });
 }
 
 void ErgaenzeSelektion(QString& filter) {
-    const Fangauswertung& form = screen<Fangauswertung>();
-    if (form.chkArchiv->isChecked()) filter += u" AND fa.FangJahr = "_qs + form.cboFJahr->currentText();
-    if (form.chkFArt->isChecked()) filter += u" AND f.FName = "_qs + quoted(form.cboFArt->currentText());
-    if (form.chkGName->isChecked()) filter += u" AND g.GName = "_qs + quoted(form.cboGName->currentText());
-    if (form.chkFMonat->isChecked())
-        filter += u" AND fa.FangMonat = "_qs +
-                  QString::number(modRun::ErmittleMonatsNr(form.cboFMonat->currentText()));
-    if (form.chkAnzahl->isChecked())
-        filter += klausel(u"Anzahl"_qs, {form.cboOptAnz01, form.txtAnz01}) +
-                  klausel(u"Anzahl"_qs, {form.cboOptAnz02, form.txtAnz02});
-    if (form.chkGewicht->isChecked())
-        filter += klausel(u"Gewicht"_qs, {form.cboOptGew01, form.txtGew01}) +
-                  klausel(u"Gewicht"_qs, {form.cboOptGew02, form.txtGew02});
+    const Fangauswertung& screen = the<Fangauswertung>();
+    if (screen.chkArchiv->isChecked()) filter += u" AND fa.FangJahr = "_s + screen.cboFJahr->currentText();
+    if (screen.chkFArt->isChecked()) filter += u" AND f.FName = "_s + quoted(screen.cboFArt->currentText());
+    if (screen.chkGName->isChecked()) filter += u" AND g.GName = "_s + quoted(screen.cboGName->currentText());
+    if (screen.chkFMonat->isChecked())
+        filter += u" AND fa.FangMonat = "_s +
+                  QString::number(modRun::ErmittleMonatsNr(screen.cboFMonat->currentText()));
+    if (screen.chkAnzahl->isChecked())
+        filter += klausel(u"Anzahl"_s, {screen.cboOptAnz01, screen.txtAnz01}) +
+                  klausel(u"Anzahl"_s, {screen.cboOptAnz02, screen.txtAnz02});
+    if (screen.chkGewicht->isChecked())
+        filter += klausel(u"Gewicht"_s, {screen.cboOptGew01, screen.txtGew01}) +
+                  klausel(u"Gewicht"_s, {screen.cboOptGew02, screen.txtGew02});
 }
 
 bool AuswahlGueltig() {
-    const Fangauswertung& form = screen<Fangauswertung>();
+    const Fangauswertung& screen = the<Fangauswertung>();
     for (QWidget* falsch :
-         {falscheListe(form.chkArchiv, form.cboFJahr), falscheListe(form.chkFMonat, form.cboFMonat),
-          falscheListe(form.chkFArt, form.cboFArt), falscheListe(form.chkGName, form.cboGName),
-          erstesFalsche(form.chkAnzahl, {form.cboOptAnz01, form.txtAnz01}, {form.cboOptAnz02, form.txtAnz02}),
-          erstesFalsche(form.chkGewicht, {form.cboOptGew01, form.txtGew01},
-                        {form.cboOptGew02, form.txtGew02})})
+         {falscheListe(screen.chkArchiv, screen.cboFJahr), falscheListe(screen.chkFMonat, screen.cboFMonat),
+          falscheListe(screen.chkFArt, screen.cboFArt), falscheListe(screen.chkGName, screen.cboGName),
+          erstesFalsche(screen.chkAnzahl, {screen.cboOptAnz01, screen.txtAnz01},
+                        {screen.cboOptAnz02, screen.txtAnz02}),
+          erstesFalsche(screen.chkGewicht, {screen.cboOptGew01, screen.txtGew01},
+                        {screen.cboOptGew02, screen.txtGew02})})
         if (!modRun::fehlerfrei(falsch)) return false;
     return true;
 }
@@ -167,29 +170,31 @@ void leereBounds(QCheckBox* box, const Vergleich& low, const Vergleich& high) {
 } // namespace
 
 void AuswertAnzeigeLoeschen() {
-    Fangauswertung& form = screen<Fangauswertung>();
+    Fangauswertung& screen = the<Fangauswertung>();
     // The parameters may meanwhile name a year that the list, made at the start, does not hold.
-    form.cboFJahr->setListIndex(form.cboFJahr->findText(QString::number(session().AktJahr)));
-    leereFilter(form.chkArchiv, form.cboFJahr);
-    form.cboFArt->setListIndex(-1);
-    leereFilter(form.chkFArt, form.cboFArt);
-    form.cboFMonat->setText(modRun::ErmittleMonatsname(session().AktMonatNr));
-    leereFilter(form.chkFMonat, form.cboFMonat);
-    form.cboGName->setListIndex(-1);
-    leereFilter(form.chkGName, form.cboGName);
-    leereBounds(form.chkAnzahl, {form.cboOptAnz01, form.txtAnz01}, {form.cboOptAnz02, form.txtAnz02});
-    leereBounds(form.chkGewicht, {form.cboOptGew01, form.txtGew01}, {form.cboOptGew02, form.txtGew02});
-    form.tblFAusw->clearRows();
-    for (ValueLabel* label : {form.lblGefDS, form.lblSumAnz, form.lblSumGew}) label->setText(QString());
+    screen.cboFJahr->setListIndex(screen.cboFJahr->findText(QString::number(session().AktJahr)));
+    leereFilter(screen.chkArchiv, screen.cboFJahr);
+    screen.cboFArt->setListIndex(-1);
+    leereFilter(screen.chkFArt, screen.cboFArt);
+    screen.cboFMonat->setText(modRun::ErmittleMonatsname(session().AktMonatNr));
+    leereFilter(screen.chkFMonat, screen.cboFMonat);
+    screen.cboGName->setListIndex(-1);
+    leereFilter(screen.chkGName, screen.cboGName);
+    leereBounds(screen.chkAnzahl, {screen.cboOptAnz01, screen.txtAnz01},
+                {screen.cboOptAnz02, screen.txtAnz02});
+    leereBounds(screen.chkGewicht, {screen.cboOptGew01, screen.txtGew01},
+                {screen.cboOptGew02, screen.txtGew02});
+    screen.tblFAusw->clearRows();
+    for (ValueLabel* label : {screen.lblGefDS, screen.lblSumAnz, screen.lblSumGew}) label->setText(QString());
 }
 
 void mnuFangInfo_Click() {
-    Fangauswertung& form = screen<Fangauswertung>();
+    Fangauswertung& screen = the<Fangauswertung>();
     modFangbuch::FangAnzeigeLoeschen();
-    modFangbuch::loadFang(form.tblFAusw, form.gridRow());
-    auto& fangbuch = screen<Fangbuch>();
-    fangbuch.openRecord(fangbuch.lblFNr->text(), form.gridRow());
-    form.Hide();
+    modFangbuch::loadFang(screen.tblFAusw, screen.gridRow());
+    auto& fangbuch = the<Fangbuch>();
+    fangbuch.openRecord(fangbuch.lblFNr->text(), screen.gridRow());
+    screen.Hide();
     fangbuch.Show();
 }
 

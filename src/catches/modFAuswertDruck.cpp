@@ -9,6 +9,8 @@
 #include "ValueLabel.h"
 #include "modFAuswert.h"
 
+using namespace Qt::StringLiterals;
+
 // The catch list on paper.
 
 namespace modFAuswert {
@@ -17,19 +19,19 @@ namespace {
 
 void schreibeZeile(ErrorTail& step, Recordset& zeile, const DataTable& grid, int row) {
     const auto number = [&](int column) { return Value(CLng(grid.cell(row, column))); };
-    step([&] { zeile.Collect(u"FangNr"_qs, number(0)); });
-    step([&] { zeile.Collect(u"Name"_qs, grid.cellText(row, 1)); });
-    step([&] { zeile.Collect(u"Gewässer"_qs, grid.cellText(row, 2)); });
-    step([&] { zeile.Collect(u"Monat"_qs, grid.cellText(row, 3)); });
-    step([&] { zeile.Collect(u"FangJahr"_qs, number(4)); });
-    step([&] { zeile.Collect(u"Anzahl"_qs, number(5)); });
-    step([&] { zeile.Collect(u"Gewicht"_qs, number(6)); });
+    step([&] { zeile.Collect(u"FangNr"_s, number(0)); });
+    step([&] { zeile.Collect(u"Name"_s, grid.cellText(row, 1)); });
+    step([&] { zeile.Collect(u"Gewässer"_s, grid.cellText(row, 2)); });
+    step([&] { zeile.Collect(u"Monat"_s, grid.cellText(row, 3)); });
+    step([&] { zeile.Collect(u"FangJahr"_s, number(4)); });
+    step([&] { zeile.Collect(u"Anzahl"_s, number(5)); });
+    step([&] { zeile.Collect(u"Gewicht"_s, number(6)); });
 }
 
-QString oderAlle(bool chosen, const QString& text) { return chosen ? text : u"alle"_qs; }
+QString oderAlle(bool chosen, const QString& text) { return chosen ? text : u"alle"_s; }
 
 void richteEin(ErrorTail& step, Report& report) {
-    const Fangauswertung& form = screen<Fangauswertung>();
+    const Fangauswertung& screen = the<Fangauswertung>();
     const auto caption = [&](const QString& section, const QString& name, const QString& text) {
         step([&] { report.control(section, name).setCaption(text); });
     };
@@ -37,32 +39,32 @@ void richteEin(ErrorTail& step, Report& report) {
         step([&] { report.control(section, name).setDataField(field); });
     };
     // Year and month go by the tick, kind of fish and water by what stands in their lists.
-    caption(u"Section2"_qs, u"lblFJahr"_qs,
-            oderAlle(form.cboFJahr->isEnabled(), form.cboFJahr->currentText()));
-    caption(u"Section2"_qs, u"lblFMonat"_qs,
-            oderAlle(form.cboFMonat->isEnabled(), form.cboFMonat->currentText()));
-    bind(u"Section5"_qs, u"SumAnzahl"_qs, u"Anzahl"_qs);
-    bind(u"Section5"_qs, u"SumGewicht"_qs, u"Gewicht"_qs);
-    caption(u"Section5"_qs, u"lblGefDS"_qs, form.lblGefDS->text());
-    caption(u"Section5"_qs, u"lblFischart"_qs,
-            oderAlle(!form.cboFArt->currentText().isEmpty(), form.cboFArt->currentText()));
-    caption(u"Section5"_qs, u"lblGewässer"_qs,
-            oderAlle(!form.cboGName->currentText().isEmpty(), form.cboGName->currentText()));
-    const QString fields[] = {u"FangNr"_qs,   u"Name"_qs,   u"Gewässer"_qs, u"Monat"_qs,
-                              u"Fangjahr"_qs, u"Anzahl"_qs, u"Gewicht"_qs};
+    caption(u"Section2"_s, u"lblFJahr"_s,
+            oderAlle(screen.cboFJahr->isEnabled(), screen.cboFJahr->currentText()));
+    caption(u"Section2"_s, u"lblFMonat"_s,
+            oderAlle(screen.cboFMonat->isEnabled(), screen.cboFMonat->currentText()));
+    bind(u"Section5"_s, u"SumAnzahl"_s, u"Anzahl"_s);
+    bind(u"Section5"_s, u"SumGewicht"_s, u"Gewicht"_s);
+    caption(u"Section5"_s, u"lblGefDS"_s, screen.lblGefDS->text());
+    caption(u"Section5"_s, u"lblFischart"_s,
+            oderAlle(!screen.cboFArt->currentText().isEmpty(), screen.cboFArt->currentText()));
+    caption(u"Section5"_s, u"lblGewässer"_s,
+            oderAlle(!screen.cboGName->currentText().isEmpty(), screen.cboGName->currentText()));
+    const QString fields[] = {u"FangNr"_s,   u"Name"_s,   u"Gewässer"_s, u"Monat"_s,
+                              u"Fangjahr"_s, u"Anzahl"_s, u"Gewicht"_s};
     int number = 0;
-    for (const QString& field : fields) bind(u"Section1"_qs, u"Text%1"_qs.arg(++number), field);
+    for (const QString& field : fields) bind(u"Section1"_s, u"Text%1"_s.arg(++number), field);
 }
 
 } // namespace
 
 void DruckeFangListe(const QString& wort) {
-    Fangauswertung& form = screen<Fangauswertung>();
-    drucke({.modul = u"modFAuswert"_qs,
-            .routine = u"DruckeFangListe"_qs,
-            .aufrufer = form,
-            .grid = *form.tblFAusw,
-            .tabelle = u"Druck_Fangliste"_qs,
+    Fangauswertung& screen = the<Fangauswertung>();
+    drucke({.modul = u"modFAuswert"_s,
+            .routine = u"DruckeFangListe"_s,
+            .aufrufer = screen,
+            .grid = *screen.tblFAusw,
+            .tabelle = u"Druck_Fangliste"_s,
             .report = &Berichte::rpt_Fangliste,
             .schreibeZeile = &schreibeZeile,
             .richteEin = &richteEin},

@@ -10,6 +10,8 @@
 
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 // The evaluation as a file for the spreadsheet.
 
 namespace modFAuswert {
@@ -18,9 +20,9 @@ namespace {
 
 /// Year, point and two digits of the month: sorts and reads as a number with two decimals.
 QString fangdatum(const QString& jahr, const QString& monatsname) {
-    static const std::array<QString, 12> endungen = {u".01"_qs, u".02"_qs, u".03"_qs, u".04"_qs,
-                                                     u".05"_qs, u".06"_qs, u".07"_qs, u".08"_qs,
-                                                     u".09"_qs, u".10"_qs, u".11"_qs, u".12"_qs};
+    static const std::array<QString, 12> endungen = {u".01"_s, u".02"_s, u".03"_s, u".04"_s,
+                                                     u".05"_s, u".06"_s, u".07"_s, u".08"_s,
+                                                     u".09"_s, u".10"_s, u".11"_s, u".12"_s};
     return jahr + endungen[static_cast<std::size_t>(modRun::ErmittleMonatsNr(monatsname) - 1)];
 }
 
@@ -35,9 +37,9 @@ void schreibeZeile(CsvDatei& datei, const DataTable& grid, int row) {
 }
 
 void schreibeDatei(const DataTable& grid) {
-    CsvDatei datei(SeqData::path(programFolder(), u"FANG.csv"_qs));
+    CsvDatei datei(SeqData::path(programFolder(), u"FANG.csv"_s));
     for (const QString& head :
-         {u"FangNr"_qs, u"Fischart"_qs, u"Gewässer"_qs, u"Fangdatum(jjjj.m)"_qs, u"Anzahl"_qs, u"Gewicht"_qs})
+         {u"FangNr"_s, u"Fischart"_s, u"Gewässer"_s, u"Fangdatum(jjjj.m)"_s, u"Anzahl"_s, u"Gewicht"_s})
         datei.writeHead(head);
     datei.endLine();
     for (int row = 0; row < grid.rowCount(); ++row) schreibeZeile(datei, grid, row);
@@ -48,15 +50,15 @@ void schreibeDatei(const DataTable& grid) {
 
 void ErzeugeFangDatei() {
     schreibeFuerExcel(
-        [] { schreibeDatei(*screen<Fangauswertung>().tblFAusw); },
-        u"ACHTUNG: Ein unerwarteter Fehler trat beim Erzeugen der Fangdatei - FANG.csv - auf !"_qs,
-        u"Datei - FANG.CSV - wurde erfolgreich im Pfad: ..\\uferwart\\seqdata\\ erstellt !"_qs,
+        [] { schreibeDatei(*the<Fangauswertung>().tblFAusw); },
+        u"ACHTUNG: Ein unerwarteter Fehler trat beim Erzeugen der Fangdatei - FANG.csv - auf !"_s,
+        u"Datei - FANG.CSV - wurde erfolgreich im Pfad: ..\\uferwart\\seqdata\\ erstellt !"_s,
         &StarteExcelFang);
 }
 
 void StarteExcelFang() {
-    zeigeInExcel(SeqData::path(programFolder(), u"Fang.csv"_qs),
-                 {u"A:A"_qs, u"B:B"_qs, u"C:C"_qs, u"D:D"_qs, u"E:E"_qs, u"F:F"_qs});
+    zeigeInExcel(SeqData::path(programFolder(), u"Fang.csv"_s),
+                 {u"A:A"_s, u"B:B"_s, u"C:C"_s, u"D:D"_s, u"E:E"_s, u"F:F"_s});
 }
 
 } // namespace modFAuswert

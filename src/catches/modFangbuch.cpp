@@ -20,78 +20,81 @@
 #include "Zugriff.h"
 #include "modBasis.h"
 
+using namespace Qt::StringLiterals;
+
 namespace modFangbuch {
 
 namespace {
 
-const QString modul = u"modFangbuch"_qs;
+const QString modul = u"modFangbuch"_s;
 
 /// The seven fields of the form, in the order in which they are written.
-void schreibeFelder(ErrorTail& step, Recordset& fang, const Fangbuch& form, const ArtUndGewaesser& nummern) {
-    step([&] { fang.Collect(u"FangJahr"_qs, CLng(form.cboFJahr->currentText())); });
-    step([&] { fang.Collect(u"FangMonat"_qs, CLng(form.txtMonNr->text())); });
-    step([&] { fang.Collect(u"FischNr"_qs, nummern.fisch); });
-    step([&] { fang.Collect(u"GNr"_qs, nummern.gewaesser); });
-    step([&] { fang.Collect(u"Notiz"_qs, form.txtNotiz->Text()); });
-    step([&] { fang.Collect(u"Anzahl"_qs, CLng(form.txtAnzahl->text())); });
-    step([&] { fang.Collect(u"Gewicht"_qs, CLng(form.txtGewicht->text())); });
+void schreibeFelder(ErrorTail& step, Recordset& fang, const Fangbuch& screen,
+                    const ArtUndGewaesser& nummern) {
+    step([&] { fang.Collect(u"FangJahr"_s, CLng(screen.cboFJahr->currentText())); });
+    step([&] { fang.Collect(u"FangMonat"_s, CLng(screen.txtMonNr->text())); });
+    step([&] { fang.Collect(u"FischNr"_s, nummern.fisch); });
+    step([&] { fang.Collect(u"GNr"_s, nummern.gewaesser); });
+    step([&] { fang.Collect(u"Notiz"_s, screen.txtNotiz->Text()); });
+    step([&] { fang.Collect(u"Anzahl"_s, CLng(screen.txtAnzahl->text())); });
+    step([&] { fang.Collect(u"Gewicht"_s, CLng(screen.txtGewicht->text())); });
 }
 
-bool imGewaehltenMonat(const Fangbuch& form) {
-    return CLng(form.txtMonNr->text()) == modRun::ErmittleMonatsNr(form.cboSelMonat->currentText());
+bool imGewaehltenMonat(const Fangbuch& screen) {
+    return CLng(screen.txtMonNr->text()) == modRun::ErmittleMonatsNr(screen.cboSelMonat->currentText());
 }
 
 /// The fields of a record that its row in the grid is made from.
 const QStringList& felderDerZeile() {
-    static const QStringList felder = {u"FangNr"_qs,    u"FischNr"_qs, u"GNr"_qs,
-                                       u"FangMonat"_qs, u"Anzahl"_qs,  u"Gewicht"_qs};
+    static const QStringList felder = {u"FangNr"_s,    u"FischNr"_s, u"GNr"_s,
+                                       u"FangMonat"_s, u"Anzahl"_s,  u"Gewicht"_s};
     return felder;
 }
 
 /// The record just made as a row of the grid, if its month is the one on show.
-void zeigeNeuen(ErrorTail& step, std::vector<Value> zeile, const Fangbuch& form) {
+void zeigeNeuen(ErrorTail& step, std::vector<Value> zeile, const Fangbuch& screen) {
     const auto monat = [monat = zeile[3]] { return modRun::ErmittleMonatsname(CLng(monat)); };
-    if (!step.test([&] { return form.cboSelMonat->currentText() == monat(); })) return;
+    if (!step.test([&] { return screen.cboSelMonat->currentText() == monat(); })) return;
     step([&] { zeile[1] = ErmittleFischname(CLng(zeile[1])); });
     step([&] { zeile[2] = ErmittleGewaessername(CLng(zeile[2])); });
     step([&] { zeile[3] = monat(); });
-    if (!step.test([&] { return imGewaehltenMonat(form); })) return;
-    step([&] { form.tblFList->appendRow(zeile); });
-    form.tblFList->markRow(form.tblFList->rowCount());
+    if (!step.test([&] { return imGewaehltenMonat(screen); })) return;
+    step([&] { screen.tblFList->appendRow(zeile); });
+    screen.tblFList->markRow(screen.tblFList->rowCount());
 }
 
 } // namespace
 
 void SpeicherFang() {
-    withErrorTail(modul, u"SpeicherFang"_qs, [](ErrorTail& step) {
-        const Fangbuch& form = screen<Fangbuch>();
-        const auto nummern = ermittleNummern(form.cboFArt, form.cboGName);
+    withErrorTail(modul, u"SpeicherFang"_s, [](ErrorTail& step) {
+        const Fangbuch& screen = the<Fangbuch>();
+        const auto nummern = ermittleNummern(screen.cboFArt, screen.cboGName);
         if (!nummern) return;
         std::vector<Value> zeile;
-        const auto felder = [&](Recordset& fang) { schreibeFelder(step, fang, form, *nummern); };
-        if (Datensatz::speichere(step, u"Fang"_qs, felder, Datensatz::lies(step, zeile, felderDerZeile())))
-            zeigeNeuen(step, zeile, form);
+        const auto felder = [&](Recordset& fang) { schreibeFelder(step, fang, screen, *nummern); };
+        if (Datensatz::speichere(step, u"Fang"_s, felder, Datensatz::lies(step, zeile, felderDerZeile())))
+            zeigeNeuen(step, zeile, screen);
         FangAnzeigeLoeschen();
-        form.cboFArt->setFocus();
-        form.lblAnzahl->setText(QString::number(form.tblFList->rowCount()));
-        step([&] { form.lblGesAnz->setText(Ermittle_DSAnzahl()); });
+        screen.cboFArt->setFocus();
+        screen.lblAnzahl->setText(QString::number(screen.tblFList->rowCount()));
+        step([&] { screen.lblGesAnz->setText(Ermittle_DSAnzahl()); });
     });
 }
 
 void UpdateFang(int row) {
-    withErrorTail(modul, u"UpdateFang"_qs, [row](ErrorTail& step) {
-        const Fangbuch& form = screen<Fangbuch>();
-        const auto nummern = ermittleNummern(form.cboFArt, form.cboGName);
+    withErrorTail(modul, u"UpdateFang"_s, [row](ErrorTail& step) {
+        const Fangbuch& screen = the<Fangbuch>();
+        const auto nummern = ermittleNummern(screen.cboFArt, screen.cboGName);
         if (!nummern) return;
-        const auto felder = [&](Recordset& fang) { schreibeFelder(step, fang, form, *nummern); };
-        if (Datensatz::aendere(step, u"Fang"_qs, form.lblFNr->text(), felder)) {
-            const std::vector<Value> zeile = {form.lblFNr->text(),          form.cboFArt->currentText(),
-                                              form.cboGName->currentText(), form.txtFangMonat->text(),
-                                              form.txtAnzahl->text(),       form.txtGewicht->text()};
-            step([&] { form.tblFList->removeRow(row); });
-            if (step.test([&] { return imGewaehltenMonat(form); })) {
-                step([&] { form.tblFList->insertRow(row, zeile); });
-                form.tblFList->markRow(row);
+        const auto felder = [&](Recordset& fang) { schreibeFelder(step, fang, screen, *nummern); };
+        if (Datensatz::aendere(step, u"Fang"_s, screen.lblFNr->text(), felder)) {
+            const std::vector<Value> zeile = {screen.lblFNr->text(),          screen.cboFArt->currentText(),
+                                              screen.cboGName->currentText(), screen.txtFangMonat->text(),
+                                              screen.txtAnzahl->text(),       screen.txtGewicht->text()};
+            step([&] { screen.tblFList->removeRow(row); });
+            if (step.test([&] { return imGewaehltenMonat(screen); })) {
+                step([&] { screen.tblFList->insertRow(row, zeile); });
+                screen.tblFList->markRow(row);
             }
         }
         FangAnzeigeLoeschen();
@@ -99,14 +102,14 @@ void UpdateFang(int row) {
 }
 
 void LoescheFang(int row) {
-    withErrorTail(modul, u"LoescheFang"_qs, [row](ErrorTail& step) {
-        const Fangbuch& form = screen<Fangbuch>();
-        if (Datensatz::loesche(step, u"Fang"_qs, form.lblFNr->text())) {
-            step([&] { form.tblFList->removeRow(row); });
-            form.lblAnzahl->setText(QString::number(form.tblFList->rowCount()));
+    withErrorTail(modul, u"LoescheFang"_s, [row](ErrorTail& step) {
+        const Fangbuch& screen = the<Fangbuch>();
+        if (Datensatz::loesche(step, u"Fang"_s, screen.lblFNr->text())) {
+            step([&] { screen.tblFList->removeRow(row); });
+            screen.lblAnzahl->setText(QString::number(screen.tblFList->rowCount()));
         }
         FangAnzeigeLoeschen();
-        form.cboFArt->setFocus();
+        screen.cboFArt->setFocus();
     });
 }
 
@@ -115,40 +118,40 @@ namespace {
 /// The month as the form writes it: always two digits.
 QString zweistellig(qint32 monat) {
     constexpr qint32 lastOfOneDigit = 9;
-    return (monat <= lastOfOneDigit ? u"0"_qs : QString()) + QString::number(monat);
+    return (monat <= lastOfOneDigit ? u"0"_s : QString()) + QString::number(monat);
 }
 
-void zeigeFang(ErrorTail& step, const Recordset& fang, Fangbuch& form) {
+void zeigeFang(ErrorTail& step, const Recordset& fang, Fangbuch& screen) {
     const auto text = [&](const QString& field) { return CStr(fang.Collect(field)); };
-    const auto monat = [&] { return CLng(fang.Collect(u"FangMonat"_qs)); };
-    step([&] { form.lblFNr->setText(text(u"FangNr"_qs)); });
-    step([&] { form.cboFArt->setText(text(u"FName"_qs)); });
-    step([&] { form.cboGName->setText(text(u"GName"_qs)); });
-    step([&] { form.txtAnzahl->setText(text(u"Anzahl"_qs)); });
-    step([&] { form.txtGewicht->setText(text(u"Gewicht"_qs)); });
-    step([&] { form.txtNotiz->setText(text(u"Notiz"_qs)); });
-    step([&] { form.txtMonNr->setText(zweistellig(monat())); });
-    step([&] { form.txtFangMonat->setText(modRun::ErmittleMonatsname(monat())); });
-    if (!session().KontextZeileOK) form.cboFArt->setFocus();
+    const auto monat = [&] { return CLng(fang.Collect(u"FangMonat"_s)); };
+    step([&] { screen.lblFNr->setText(text(u"FangNr"_s)); });
+    step([&] { screen.cboFArt->setText(text(u"FName"_s)); });
+    step([&] { screen.cboGName->setText(text(u"GName"_s)); });
+    step([&] { screen.txtAnzahl->setText(text(u"Anzahl"_s)); });
+    step([&] { screen.txtGewicht->setText(text(u"Gewicht"_s)); });
+    step([&] { screen.txtNotiz->setText(text(u"Notiz"_s)); });
+    step([&] { screen.txtMonNr->setText(zweistellig(monat())); });
+    step([&] { screen.txtFangMonat->setText(modRun::ErmittleMonatsname(monat())); });
+    if (!session().KontextZeileOK) screen.cboFArt->setFocus();
 }
 
 } // namespace
 
 void loadFang(DataTable* grid, int row) {
-    withErrorTail(modul, u"loadFang"_qs, [grid, row](ErrorTail& step) {
-        Fangbuch& form = screen<Fangbuch>();
+    withErrorTail(modul, u"loadFang"_s, [grid, row](ErrorTail& step) {
+        Fangbuch& screen = the<Fangbuch>();
         // Opened from the evaluation, the catch book comes up in EDIT, and its activation fills no lists.
-        step([&] { modBasis::loadcboFArt(form.cboFArt); });
-        step([&] { modBasis::loadcboGName(form.cboGName); });
+        step([&] { modBasis::loadcboFArt(screen.cboFArt); });
+        step([&] { modBasis::loadcboGName(screen.cboGName); });
         Recordset fang;
         step([&] {
             fang = oeffneAbfrage(
                 u"SELECT fa.FangNr, f.FName, g.GName, fa.FangMonat, fa.Anzahl, "
-                u"fa.Gewicht, fa.Notiz FROM Fang fa , Fisch f, Gewaesser g WHERE fa.FangNr = "_qs +
-                grid->cellText(row, 0) + u" AND fa.FischNr = f.FNr AND fa.GNr = g.GNr"_qs);
+                u"fa.Gewicht, fa.Notiz FROM Fang fa , Fisch f, Gewaesser g WHERE fa.FangNr = "_s +
+                grid->cellText(row, 0) + u" AND fa.FischNr = f.FNr AND fa.GNr = g.GNr"_s);
         });
         if (step.test([&] { return fang.RecordCount() != 0; }))
-            zeigeFang(step, fang, form);
+            zeigeFang(step, fang, screen);
         else
             modRun::MeldeNichtVorhanden();
         step([&] { fang.Close(); });
@@ -156,34 +159,32 @@ void loadFang(DataTable* grid, int row) {
 }
 
 void FangAnzeigeLoeschen() {
-    Fangbuch& form = screen<Fangbuch>();
-    form.lblFNr->setText(QString());
-    form.txtFangMonat->setText(QString());
-    form.txtMonNr->setText(QString());
-    form.cboFArt->setListIndex(-1);
-    form.cboGName->setListIndex(-1);
-    form.txtAnzahl->setText(QString());
-    form.txtGewicht->setText(QString());
-    form.txtNotiz->setText(QString());
+    Fangbuch& screen = the<Fangbuch>();
+    screen.lblFNr->setText(QString());
+    screen.txtFangMonat->setText(QString());
+    screen.txtMonNr->setText(QString());
+    screen.cboFArt->setListIndex(-1);
+    screen.cboGName->setListIndex(-1);
+    screen.txtAnzahl->setText(QString());
+    screen.txtGewicht->setText(QString());
+    screen.txtNotiz->setText(QString());
 }
 
 bool FangEingabeVollstaendig() {
-    const Fangbuch& form = screen<Fangbuch>();
-    return modRun::fehlerfrei(
-        modRun::erstesLeere({form.cboFArt, form.cboGName, form.txtAnzahl, form.txtGewicht, form.txtMonNr}));
+    const Fangbuch& screen = the<Fangbuch>();
+    return modRun::fehlerfrei(modRun::erstesLeere(
+        {screen.cboFArt, screen.cboGName, screen.txtAnzahl, screen.txtGewicht, screen.txtMonNr}));
 }
 
-bool FangbuchZugriff_Erlaubt() {
-    return zugriffErlaubt(modul, u"FangbuchZugriff_Erlaubt"_qs, u"Fangbuch"_qs);
-}
+bool FangbuchZugriff_Erlaubt() { return zugriffErlaubt(modul, u"FangbuchZugriff_Erlaubt"_s, u"Fangbuch"_s); }
 
 QString Ermittle_DSAnzahl() {
-    QString anzahl = u"0"_qs;
-    withErrorTail(modul, u"Ermittle_DSAnzahl"_qs, [&](ErrorTail& step) {
+    QString anzahl = u"0"_s;
+    withErrorTail(modul, u"Ermittle_DSAnzahl"_s, [&](ErrorTail& step) {
         leseWert(step,
-                 u"SELECT COUNT(fa.FangNr) FROM Fang fa WHERE fa.FangJahr = "_qs +
-                     screen<Fangbuch>().cboFJahr->currentText(),
-                 [&](const Value& zahl) { anzahl = zahl.isNull() ? u"0"_qs : CStr(zahl); });
+                 u"SELECT COUNT(fa.FangNr) FROM Fang fa WHERE fa.FangJahr = "_s +
+                     the<Fangbuch>().cboFJahr->currentText(),
+                 [&](const Value& zahl) { anzahl = zahl.isNull() ? u"0"_s : CStr(zahl); });
     });
     return anzahl;
 }

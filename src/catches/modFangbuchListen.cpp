@@ -16,6 +16,8 @@
 
 #include <QScopeGuard>
 
+using namespace Qt::StringLiterals;
+
 // The lists of the catch book: its grid, the combo boxes, and the way from a name to its number and back.
 
 namespace modFangbuch {
@@ -40,36 +42,36 @@ void fuelleListe(ErrorTail& step, Recordset& liste, DataTable* grid, ProgressBar
 } // namespace
 
 void loadTblFList(ProgressBar* pb) {
-    withErrorTail(u"modStart"_qs, u"loadTblFList"_qs, [pb](ErrorTail& step) {
+    withErrorTail(u"modStart"_s, u"loadTblFList"_s, [pb](ErrorTail& step) {
         const QString jahr = QString::number(session().AktJahr);
         const QString monat = QString::number(session().AktMonatNr);
         Recordset liste;
         Recordset anzahl;
         step([&] {
             liste = oeffneAbfrage(u"SELECT fa.FangNr, f.FName, g.GName, fa.FangMonat, fa.Anzahl, "
-                                  u"fa.Gewicht FROM Fang fa , Fisch f, Gewaesser g WHERE fa.FangJahr = "_qs +
-                                  jahr + u"AND fa.FangMonat = "_qs + monat +
-                                  u" AND fa.FischNr = f.FNr AND fa.GNr = g.GNr"_qs);
+                                  u"fa.Gewicht FROM Fang fa , Fisch f, Gewaesser g WHERE fa.FangJahr = "_s +
+                                  jahr + u"AND fa.FangMonat = "_s + monat +
+                                  u" AND fa.FischNr = f.FNr AND fa.GNr = g.GNr"_s);
         });
         step([&] {
             anzahl = oeffneAbfrage(u"SELECT COUNT(fa.FangNr) FROM Fang fa, Fisch f, Gewaesser g WHERE "
-                                   u"fa.FangJahr = "_qs +
-                                   jahr + u" AND fa.FangMonat = "_qs + monat +
-                                   u" AND fa.FischNr = f.FNr AND fa.GNr = g.GNr"_qs);
+                                   u"fa.FangJahr = "_s +
+                                   jahr + u" AND fa.FangMonat = "_s + monat +
+                                   u" AND fa.FischNr = f.FNr AND fa.GNr = g.GNr"_s);
         });
         pb->show();
         // Also where a fifth error ends it.
         const auto ruhe = qScopeGuard([pb] { pb->hide(); });
         step([&] {
-            const Value count = anzahl.Collect(u"Expr1000"_qs);
+            const Value count = anzahl.Collect(u"Expr1000"_s);
             pb->setMax(count.isNull() ? 1 : CLng(count));
         });
-        DataTable* grid = screen<Fangbuch>().tblFList;
+        DataTable* grid = the<Fangbuch>().tblFList;
         step([&] { grid->clearRows(); });
         if (step.test([&] { return liste.RecordCount() != 0; }))
             fuelleListe(step, liste, grid, pb);
         else if (!session().TabelleLaedt)
-            MsgBox(u"Keine Einträge für diesen Monat vorhanden !"_qs, vbInformation);
+            MsgBox(u"Keine Einträge für diesen Monat vorhanden !"_s, vbInformation);
         step([&] { liste.Close(); });
         step([&] { anzahl.Close(); });
     });

@@ -2,10 +2,10 @@
 
 #include "DataTable.h"
 #include "Erfassung.h"
-#include "Face.h"
 #include "Gitter.h"
 #include "Heading.h"
 #include "KontaktUebers.h"
+#include "Layout.h"
 #include "Rahmen.h"
 #include "Screens.h"
 #include "TextBox.h"
@@ -19,13 +19,15 @@
 #include <QLabel>
 #include <QToolButton>
 
+using namespace Qt::StringLiterals;
+
 Katego::Katego()
-    : Screen(u"Katego"_qs, u"Kontakt - Kategorien"_qs) {
-    Ueberschrift = new Heading(u"KONTAKT-KATEGORIEN"_qs, this);
+    : Screen(u"Katego"_s, u"Kontakt - Kategorien"_s) {
+    Ueberschrift = new Heading(u"KONTAKT-KATEGORIEN"_s, this);
     buildToolbar();
     buildEntry();
     buildTable();
-    QVBoxLayout* rest = Face::column(this, Ueberschrift, Toolbar1);
+    QVBoxLayout* rest = Layout::column(this, Ueberschrift, Toolbar1);
     rest->addWidget(Frame1);
     rest->addWidget(Frame2, 1);
 
@@ -40,42 +42,42 @@ void Katego::buildToolbar() {
         .speichere = &modKatego::SpeicherKatego,
         .aendere = &modKatego::UpdateKatego,
         .loesche = &modKatego::LoescheKatego,
-        .frage = u"ACHTUNG: Kontakt - Referenzen in Kontaktliste werden ebenfalls gelöscht !\r\n"_qs
-                 u"Trotzdem löschen ?"_qs,
+        .frage = u"ACHTUNG: Kontakt - Referenzen in Kontaktliste werden ebenfalls gelöscht !\r\n"_s
+                 u"Trotzdem löschen ?"_s,
         // A no clears the catch book; the name stays here, to be saved again if wanted.
         .beiNein = &modFangbuch::FangAnzeigeLoeschen};
     Toolbar1 = new Toolbar(this);
-    Face::addRecordKeys(
+    Layout::addRecordKeys(
         Toolbar1, [=, this] { kategorien.sichern(*this); }, [=, this] { kategorien.entfernen(*this); },
         &modKatego::KategoAnzeigeLoeschen);
-    Toolbar1->addKeys({{u"tbEsc"_qs, u"&Schließen"_qs, u"Zurück zur Kontakt - Übersicht"_qs, u"schliessen"_qs,
+    Toolbar1->addKeys({{u"tbEsc"_s, u"&Schließen"_s, u"Zurück zur Kontakt - Übersicht"_s, u"schliessen"_s,
                         [this] { Schliessen(); }}});
 }
 
 void Katego::buildEntry() {
     constexpr int nameLimit = 50;
-    Frame1 = Face::frame(u"Frame1"_qs, u"Kategorien hinzuf. o. editieren..."_qs, this);
-    lblKatN = Face::label(u"lblKatN"_qs, u"Katego. - Nr:"_qs, Frame1);
-    lblKategoNr = new ValueLabel(u"lblKategoNr"_qs, Frame1);
-    Label1 = Face::label(u"Label1"_qs, u"Kategoriebezeichnung:"_qs, Frame1);
-    txtKatego = new TextBox(u"txtKatego"_qs, Frame1);
+    Frame1 = Layout::frame(u"Frame1"_s, u"Kategorien hinzuf. o. editieren..."_s, this);
+    lblKatN = Layout::label(u"lblKatN"_s, u"Katego. - Nr:"_s, Frame1);
+    lblKategoNr = new ValueLabel(u"lblKategoNr"_s, Frame1);
+    Label1 = Layout::label(u"Label1"_s, u"Kategoriebezeichnung:"_s, Frame1);
+    txtKatego = new TextBox(u"txtKatego"_s, Frame1);
     txtKatego->setMaxLength(nameLimit);
-    auto* form = new QGridLayout(Frame1);
-    form->setHorizontalSpacing(Face::gap);
-    Face::addField(form, 0, lblKatN, lblKategoNr);
-    Face::addField(form, 1, Label1, txtKatego);
-    form->setColumnStretch(1, 1);
+    auto* screen = new QGridLayout(Frame1);
+    screen->setHorizontalSpacing(Layout::gap);
+    Layout::addField(screen, 0, lblKatN, lblKategoNr);
+    Layout::addField(screen, 1, Label1, txtKatego);
+    screen->setColumnStretch(1, 1);
     Frame1->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
 }
 
 void Katego::buildTable() {
-    Frame2 = Face::frame(u"Frame2"_qs, u"Aufgenommene Kategorien..."_qs, this);
-    tblKatego = new DataTable(u"tblKatego"_qs, Frame2);
-    tblKatego->setColumns({{u"Katego.-Nr."_qs, 96, true}, {u"Kategorien"_qs, 400}});
-    tblKatego->setAccessibleName(u"Aufgenommene Kategorien"_qs);
-    Label2 = Face::label(u"Label2"_qs, u"Anzahl:"_qs, Frame2);
-    lblAnzahl = new ValueLabel(u"lblAnzahl"_qs, Frame2);
-    lblAnzahl->setAccessibleName(u"Anzahl"_qs);
+    Frame2 = Layout::frame(u"Frame2"_s, u"Aufgenommene Kategorien..."_s, this);
+    tblKatego = new DataTable(u"tblKatego"_s, Frame2);
+    tblKatego->setColumns({{u"Katego.-Nr."_s, 96, true}, {u"Kategorien"_s, 400}});
+    tblKatego->setAccessibleName(u"Aufgenommene Kategorien"_s);
+    Label2 = Layout::label(u"Label2"_s, u"Anzahl:"_s, Frame2);
+    lblAnzahl = new ValueLabel(u"lblAnzahl"_s, Frame2);
+    lblAnzahl->setAccessibleName(u"Anzahl"_s);
     lblAnzahl->setNumeric();
     auto* count = new QHBoxLayout;
     count->addStretch();
@@ -96,15 +98,15 @@ void Katego::Form_Paint() { lblAnzahl->setText(QString::number(tblKatego->rowCou
 
 bool Katego::Form_KeyDown(int key, Qt::KeyboardModifiers) {
     if (key != Qt::Key_Escape) return false;
-    Toolbar1->key(u"tbEsc"_qs)->click();
+    Toolbar1->key(u"tbEsc"_s)->click();
     return true;
 }
 
 void Katego::Schliessen() {
     modKatego::KategoAnzeigeLoeschen();
     Hide();
-    rahmen()->binde(screen<KontaktUebers>());
-    screen<KontaktUebers>().Show();
+    rahmen()->binde(the<KontaktUebers>());
+    the<KontaktUebers>().Show();
 }
 
 void Katego::tblKatego_OnGridCellOpen(int row, int column) {

@@ -13,7 +13,9 @@
 #include <QRadioButton>
 #include <QTabWidget>
 
-// The face of the mask is built in KontaktFace.cpp; here is what it does.
+using namespace Qt::StringLiterals;
+
+// The face of the mask is built in KontaktLayout.cpp; its behaviour is here.
 
 void Kontakt::Form_Load() {
     TabKont->setCurrentIndex(0);
@@ -52,8 +54,8 @@ void Kontakt::Speichern() {
 
 void Kontakt::Loeschen() {
     // The question announces; the answer changes nothing.
-    MsgBox(u"ACHTUNG: Bei Mitgliederkontakt werden auch alle Referenzen des Kontaktes im "_qs
-           u"Arbeitscontrolling gelöscht !\r\nKontakt wirklich löschen ?"_qs,
+    MsgBox(u"ACHTUNG: Bei Mitgliederkontakt werden auch alle Referenzen des Kontaktes im "_s
+           u"Arbeitscontrolling gelöscht !\r\nKontakt wirklich löschen ?"_s,
            vbYesNo);
     modKontakt::LoescheKontakt();
 }

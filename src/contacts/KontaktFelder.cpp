@@ -14,6 +14,8 @@
 #include <QCheckBox>
 #include <QRadioButton>
 
+using namespace Qt::StringLiterals;
+
 namespace KontaktFelder {
 
 namespace {
@@ -38,17 +40,17 @@ constexpr Textfeld bank[] = {
 };
 
 template<std::size_t count>
-void schreibeTexte(ErrorTail& step, Recordset& satz, const Kontakt& form, const Textfeld (&felder)[count]) {
+void schreibeTexte(ErrorTail& step, Recordset& satz, const Kontakt& screen, const Textfeld (&felder)[count]) {
     for (const Textfeld& feld : felder)
-        step([&] { satz.Collect(QString::fromUtf16(feld.feld), (form.*feld.box)->text()); });
+        step([&] { satz.Collect(QString::fromUtf16(feld.feld), (screen.*feld.box)->text()); });
 }
 
 template<std::size_t count>
-void zeigeTexte(ErrorTail& step, const Recordset& satz, const Kontakt& form,
+void zeigeTexte(ErrorTail& step, const Recordset& satz, const Kontakt& screen,
                 const Textfeld (&felder)[count]) {
     for (const Textfeld& feld : felder)
         step([&] {
-            (form.*feld.box)->setText(modRun::textOderLeer(satz.Fields(QString::fromUtf16(feld.feld))));
+            (screen.*feld.box)->setText(modRun::textOderLeer(satz.Fields(QString::fromUtf16(feld.feld))));
         });
 }
 
@@ -59,51 +61,54 @@ void waehle(const Recordset::Field& feld, QRadioButton* ja, QRadioButton* nein) 
 
 } // namespace
 
-bool istMitglied(const Kontakt& form) { return modKatego::istSystemkategorie(form.cboKatego->currentText()); }
-
-void schreibeKontakt(ErrorTail& step, Recordset& kontakt, const Kontakt& form) {
-    schreibeTexte(step, kontakt, form, person);
-    step([&] { kontakt.Collect(u"GebDatum"_qs, modRun::DatumAusText(form.txtGebDat)); });
-    step([&] { kontakt.Collect(u"Bankeinzug"_qs, modRun::WertAusCheckBox(form.chkEinzug)); });
-    schreibeTexte(step, kontakt, form, bank);
-    step([&] { kontakt.Collect(u"Notiz"_qs, form.txtNotiz->Text()); });
+bool istMitglied(const Kontakt& screen) {
+    return modKatego::istSystemkategorie(screen.cboKatego->currentText());
 }
 
-void schreibeMitglied(ErrorTail& step, Recordset& mitglied, const Kontakt& form) {
-    step([&] { mitglied.Collect(u"Geschlecht"_qs, modRun::WertAusOption(form.optMann)); });
-    step([&] { mitglied.Collect(u"Befreit"_qs, modRun::WertAusOption(form.optBefreit)); });
-    step([&] { mitglied.Collect(u"Bezahlt"_qs, modRun::WertAusOption(form.optBezahlt)); });
-    step([&] { mitglied.Collect(u"Eintritt"_qs, modRun::DatumAusText(form.txtEintritt)); });
-    step([&] { mitglied.Collect(u"Austritt"_qs, modRun::DatumAusText(form.txtAustritt)); });
-    step([&] { mitglied.Collect(u"JG"_qs, modRun::WertAusCheckBox(form.chkJG)); });
+void schreibeKontakt(ErrorTail& step, Recordset& kontakt, const Kontakt& screen) {
+    schreibeTexte(step, kontakt, screen, person);
+    step([&] { kontakt.Collect(u"GebDatum"_s, modRun::DatumAusText(screen.txtGebDat)); });
+    step([&] { kontakt.Collect(u"Bankeinzug"_s, modRun::WertAusCheckBox(screen.chkEinzug)); });
+    schreibeTexte(step, kontakt, screen, bank);
+    step([&] { kontakt.Collect(u"Notiz"_s, screen.txtNotiz->Text()); });
 }
 
-void zeigeKontakt(ErrorTail& step, const Recordset& kontakt, Kontakt& form) {
-    step([&] { form.lblKNr->setText(CStr(kontakt.Collect(u"knr"_qs))); });
+void schreibeMitglied(ErrorTail& step, Recordset& mitglied, const Kontakt& screen) {
+    step([&] { mitglied.Collect(u"Geschlecht"_s, modRun::WertAusOption(screen.optMann)); });
+    step([&] { mitglied.Collect(u"Befreit"_s, modRun::WertAusOption(screen.optBefreit)); });
+    step([&] { mitglied.Collect(u"Bezahlt"_s, modRun::WertAusOption(screen.optBezahlt)); });
+    step([&] { mitglied.Collect(u"Eintritt"_s, modRun::DatumAusText(screen.txtEintritt)); });
+    step([&] { mitglied.Collect(u"Austritt"_s, modRun::DatumAusText(screen.txtAustritt)); });
+    step([&] { mitglied.Collect(u"JG"_s, modRun::WertAusCheckBox(screen.chkJG)); });
+}
+
+void zeigeKontakt(ErrorTail& step, const Recordset& kontakt, Kontakt& screen) {
+    step([&] { screen.lblKNr->setText(CStr(kontakt.Collect(u"knr"_s))); });
     // Choosing the category opens or closes the fields of a member.
-    step([&] { form.cboKatego->setText(ErmittleKategoName(CLng(kontakt.Collect(u"kategonr"_qs)))); });
-    zeigeTexte(step, kontakt, form, person);
-    step([&] { form.txtGebDat->setText(modRun::TextAusDatum(kontakt.Fields(u"GebDatum"_qs))); });
-    step([&] { form.chkEinzug->setChecked(modRun::CheckBoxAusWert(kontakt.Fields(u"Bankeinzug"_qs)) != 0); });
-    zeigeTexte(step, kontakt, form, bank);
-    step([&] { form.txtNotiz->setText(modRun::textOderLeer(kontakt.Fields(u"Notiz"_qs))); });
+    step([&] { screen.cboKatego->setText(ErmittleKategoName(CLng(kontakt.Collect(u"kategonr"_s)))); });
+    zeigeTexte(step, kontakt, screen, person);
+    step([&] { screen.txtGebDat->setText(modRun::TextAusDatum(kontakt.Fields(u"GebDatum"_s))); });
+    step(
+        [&] { screen.chkEinzug->setChecked(modRun::CheckBoxAusWert(kontakt.Fields(u"Bankeinzug"_s)) != 0); });
+    zeigeTexte(step, kontakt, screen, bank);
+    step([&] { screen.txtNotiz->setText(modRun::textOderLeer(kontakt.Fields(u"Notiz"_s))); });
 }
 
-void zeigeMitglied(ErrorTail& step, const Recordset& mitglied, Kontakt& form) {
-    step([&] { waehle(mitglied.Fields(u"Geschlecht"_qs), form.optMann, form.optFrau); });
-    step([&] { waehle(mitglied.Fields(u"Befreit"_qs), form.optBefreit, form.optNBefreit); });
-    step([&] { waehle(mitglied.Fields(u"Bezahlt"_qs), form.optBezahlt, form.optNBezahlt); });
-    step([&] { form.chkJG->setChecked(modRun::CheckBoxAusWert(mitglied.Fields(u"JG"_qs)) != 0); });
-    step([&] { form.txtEintritt->setText(modRun::TextAusDatum(mitglied.Fields(u"Eintritt"_qs))); });
-    step([&] { form.txtAustritt->setText(modRun::TextAusDatum(mitglied.Fields(u"Austritt"_qs))); });
+void zeigeMitglied(ErrorTail& step, const Recordset& mitglied, Kontakt& screen) {
+    step([&] { waehle(mitglied.Fields(u"Geschlecht"_s), screen.optMann, screen.optFrau); });
+    step([&] { waehle(mitglied.Fields(u"Befreit"_s), screen.optBefreit, screen.optNBefreit); });
+    step([&] { waehle(mitglied.Fields(u"Bezahlt"_s), screen.optBezahlt, screen.optNBezahlt); });
+    step([&] { screen.chkJG->setChecked(modRun::CheckBoxAusWert(mitglied.Fields(u"JG"_s)) != 0); });
+    step([&] { screen.txtEintritt->setText(modRun::TextAusDatum(mitglied.Fields(u"Eintritt"_s))); });
+    step([&] { screen.txtAustritt->setText(modRun::TextAusDatum(mitglied.Fields(u"Austritt"_s))); });
 }
 
-std::array<Value, 10> alsZeile(const Kontakt& form) {
-    return {form.lblKNr->text(),     QString(),
-            form.txtFirma->text(),   form.txtAnrede->text(),
-            form.txtNName->text(),   form.txtVName->text(),
-            form.txtTelPriv->text(), form.txtFax->text(),
-            form.txtGebDat->text(),  form.txtEMail->text()};
+std::array<Value, 10> alsZeile(const Kontakt& screen) {
+    return {screen.lblKNr->text(),     QString(),
+            screen.txtFirma->text(),   screen.txtAnrede->text(),
+            screen.txtNName->text(),   screen.txtVName->text(),
+            screen.txtTelPriv->text(), screen.txtFax->text(),
+            screen.txtGebDat->text(),  screen.txtEMail->text()};
 }
 
 } // namespace KontaktFelder

@@ -3,10 +3,10 @@
 #include "ComboBox.h"
 #include "Conversions.h"
 #include "DataTable.h"
-#include "Face.h"
 #include "Heading.h"
 #include "Katego.h"
 #include "Kontakt.h"
+#include "Layout.h"
 #include "Meldungen.h"
 #include "MsgBox.h"
 #include "Rahmen.h"
@@ -22,18 +22,20 @@
 #include <QToolButton>
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void bieteAlleKategorien(ComboBox* combo) {
     modKontakt::FuelleKategoCombo(combo);
-    combo->InsertItem(0, u"Alle"_qs);
+    combo->InsertItem(0, u"Alle"_s);
 }
 
 /// Opens the contact of a row in the mask, and on the overview too, which lies below the mask.
 void oeffneMaske(DataTable* grid, int row, int column, bool ausSuche) {
     const QString nummer = grid->cellText(row, 0);
-    Kontakt& maske = screen<Kontakt>();
-    for (Screen* offen : std::initializer_list<Screen*>{&screen<KontaktUebers>(), &maske})
+    Kontakt& maske = the<Kontakt>();
+    for (Screen* offen : std::initializer_list<Screen*>{&the<KontaktUebers>(), &maske})
         offen->openRecord(nummer, row);
     maske.AusSuche = ausSuche;
     modKontakt::loadKontakt(grid, row, column);
@@ -51,19 +53,19 @@ void oeffneTreffer(SuchKont& suche, int row, int column) {
 } // namespace
 
 KontaktUebers::KontaktUebers()
-    : Screen(u"KontaktUebers"_qs, u"Kontakt - Übersicht"_qs) {
-    Ueberschrift = new Heading(u"KONTAKT - ÜBERSICHT"_qs, this);
+    : Screen(u"KontaktUebers"_s, u"Kontakt - Übersicht"_s) {
+    Ueberschrift = new Heading(u"KONTAKT - ÜBERSICHT"_s, this);
     buildToolbar();
-    tblKUebers = new DataTable(u"tblKUebers"_qs, this);
-    tblKUebers->setAccessibleName(u"Kontakte nach Kategorien"_qs);
-    Label2 = Face::label(u"Label2"_qs, u"Gefunden:"_qs, this);
-    Label1 = Face::label(u"Label1"_qs, QString(), this);
+    tblKUebers = new DataTable(u"tblKUebers"_s, this);
+    tblKUebers->setAccessibleName(u"Kontakte nach Kategorien"_s);
+    Label2 = Layout::label(u"Label2"_s, u"Gefunden:"_s, this);
+    Label1 = Layout::label(u"Label1"_s, QString(), this);
     auto* found = new QHBoxLayout;
-    found->setSpacing(Face::gap);
+    found->setSpacing(Layout::gap);
     found->addWidget(Label2);
     found->addWidget(Label1);
     found->addStretch();
-    QVBoxLayout* rest = Face::column(this, Ueberschrift, Toolbar1);
+    QVBoxLayout* rest = Layout::column(this, Ueberschrift, Toolbar1);
     rest->addWidget(tblKUebers, 1);
     rest->addLayout(found);
 
@@ -75,16 +77,15 @@ KontaktUebers::KontaktUebers()
 
 void KontaktUebers::buildToolbar() {
     Toolbar1 = new Toolbar(this);
-    Toolbar1->addKeys(
-        {{u"tbKontakt"_qs, u"Neuer Kontakt"_qs, u"Neuer Kontakt oder neues Mitglied..."_qs, u"kontakt"_qs,
-          [] { screen<Kontakt>().ShowModal(); }},
-         {u"tbKatego"_qs, u"Kategorien bearb."_qs, u"Kategorien bearbeiten..."_qs, u"kategorie"_qs,
-          [this] { BearbeiteKategorien(); }},
-         {u"tbWord"_qs, u"Word-Datei"_qs, u"Serienbrief - Datei für Word erzeugen..."_qs, u"word"_qs,
-          [this] { ErzeugeSerienbriefDatei(); }},
-         {u"tbSuch"_qs, u"Suchen"_qs, u"Mitglied suchen..."_qs, u"suchen"_qs, [this] { Suchen(); }},
-         {u"tbMitglList"_qs, u"Mitglieder - Liste"_qs, u"Mitglieder - Listen erzeugen..."_qs, u"liste"_qs,
-          [] { rahmen()->zeigeMitgliederliste(); }}});
+    Toolbar1->addKeys({{u"tbKontakt"_s, u"Neuer Kontakt"_s, u"Neuer Kontakt oder neues Mitglied..."_s,
+                        u"kontakt"_s, [] { the<Kontakt>().ShowModal(); }},
+                       {u"tbKatego"_s, u"Kategorien bearb."_s, u"Kategorien bearbeiten..."_s, u"kategorie"_s,
+                        [this] { BearbeiteKategorien(); }},
+                       {u"tbWord"_s, u"Word-Datei"_s, u"Serienbrief - Datei für Word erzeugen..."_s,
+                        u"word"_s, [this] { ErzeugeSerienbriefDatei(); }},
+                       {u"tbSuch"_s, u"Suchen"_s, u"Mitglied suchen..."_s, u"suchen"_s, [this] { Suchen(); }},
+                       {u"tbMitglList"_s, u"Mitglieder - Liste"_s, u"Mitglieder - Listen erzeugen..."_s,
+                        u"liste"_s, [] { rahmen()->zeigeMitgliederliste(); }}});
 }
 
 void KontaktUebers::Form_Load() { SuchKont::registriere(0, {&bieteAlleKategorien, true, &oeffneTreffer}); }
@@ -93,32 +94,32 @@ void KontaktUebers::Form_Deactivate() { unload<SuchKont>(); }
 
 bool KontaktUebers::Form_KeyDown(int key, Qt::KeyboardModifiers modifiers) {
     if (key != Qt::Key_F || modifiers != Qt::ControlModifier) return false;
-    Toolbar1->key(u"tbSuch"_qs)->click();
+    Toolbar1->key(u"tbSuch"_s)->click();
     return true;
 }
 
 void KontaktUebers::BearbeiteKategorien() {
-    rahmen()->binde(screen<Katego>());
-    screen<Katego>().Show();
+    rahmen()->binde(the<Katego>());
+    the<Katego>().Show();
 }
 
 void KontaktUebers::Suchen() {
     modKontakt::SuchAnzeigeLoeschen();
-    screen<SuchKont>().ShowModal();
+    the<SuchKont>().ShowModal();
 }
 
 void KontaktUebers::ErzeugeSerienbriefDatei() {
-    if (!modRun::frage(u"Wollen Sie eine Serienbrief - Datei für Word mit der Bezeichnung - SERI.txt - "_qs
-                       u"erzeugen ?"_qs))
+    if (!modRun::frage(u"Wollen Sie eine Serienbrief - Datei für Word mit der Bezeichnung - SERI.txt - "_s
+                       u"erzeugen ?"_s))
         return modRun::MeldeAbgebrochen();
     tblKUebers->enter({});
     if (tblKUebers->rowCount() < 1) {
-        MsgBox(u"Keine Daten zum erzeugen der Datei - SERI.txt - gefunden, der Vorgang wird abgebrochen !"_qs,
+        MsgBox(u"Keine Daten zum erzeugen der Datei - SERI.txt - gefunden, der Vorgang wird abgebrochen !"_s,
                vbInformation);
     } else if (std::ranges::count(KategoOffen, true) < 1) {
         // So it is also before the first press in the grid, when nothing is known of any category.
-        MsgBox(u"Um eine Serienbrief - Datei erzeugen zu können, müssen Sie die gewünschten Kategorien "_qs
-               u"vorher aufklappen !"_qs,
+        MsgBox(u"Um eine Serienbrief - Datei erzeugen zu können, müssen Sie die gewünschten Kategorien "_s
+               u"vorher aufklappen !"_s,
                vbInformation);
     } else {
         modSerienbrief::ErzeugeSeriendatei();
@@ -138,7 +139,7 @@ void KontaktUebers::tblKUebers_OnGridCellDown(int row, int column) {
 
 void KontaktUebers::klappe(int row) {
     const bool oeffnet = !KategoOffen[std::size_t(row)];
-    tblKUebers->setCell(row, Uebersicht::spalteZustand, oeffnet ? u"-"_qs : u"+"_qs);
+    tblKUebers->setCell(row, Uebersicht::spalteZustand, oeffnet ? u"-"_s : u"+"_s);
     if (oeffnet) modKontakt::KategorieAufklappen(row, CLng(tblKUebers->cell(row, Uebersicht::spalteNr)));
     // What stands open on the screen is what gets into the file for serial letters.
     tblKUebers->setOpen(row, oeffnet);

@@ -3,8 +3,8 @@
 #include "ComboBox.h"
 #include "DataTable.h"
 #include "Eingaben.h"
-#include "Face.h"
 #include "Gitter.h"
+#include "Layout.h"
 #include "Namen.h"
 #include "Screens.h"
 #include "Session.h"
@@ -18,6 +18,8 @@
 #include <QLabel>
 #include <QPushButton>
 #include <map>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -34,21 +36,21 @@ const Suchweg* weg() {
 } // namespace
 
 SuchKont::SuchKont()
-    : Screen(u"SuchKont"_qs, u"Suche Kontakt oder Mitglied..."_qs) {
+    : Screen(u"SuchKont"_s, u"Suche Kontakt oder Mitglied..."_s) {
     build();
-    auto* form = new QGridLayout;
-    form->setHorizontalSpacing(Face::gap);
-    Face::addField(form, 0, Label1, txtSuch);
-    Face::addField(form, 1, Label2, cboKatego);
-    form->addWidget(cmdSuch, 0, 2, 2, 1);
-    form->setColumnStretch(1, 1);
+    auto* screen = new QGridLayout;
+    screen->setHorizontalSpacing(Layout::gap);
+    Layout::addField(screen, 0, Label1, txtSuch);
+    Layout::addField(screen, 1, Label2, cboKatego);
+    screen->addWidget(cmdSuch, 0, 2, 2, 1);
+    screen->setColumnStretch(1, 1);
     auto* found = new QHBoxLayout;
-    found->setSpacing(Face::gap);
+    found->setSpacing(Layout::gap);
     found->addWidget(Label3);
     found->addWidget(lblGefDS);
     found->addStretch();
-    QVBoxLayout* whole = Face::column(this);
-    whole->addLayout(form);
+    QVBoxLayout* whole = Layout::column(this);
+    whole->addLayout(screen);
     whole->addWidget(tblSuch, 1);
     whole->addLayout(found);
     resize(720, 440);
@@ -60,29 +62,29 @@ SuchKont::SuchKont()
 }
 
 void SuchKont::build() {
-    Label1 = Face::label(u"Label1"_qs, u"Suchbegriff:"_qs, this);
-    txtSuch = new TextBox(u"txtSuch"_qs, this);
+    Label1 = Layout::label(u"Label1"_s, u"Suchbegriff:"_s, this);
+    txtSuch = new TextBox(u"txtSuch"_s, this);
     txtSuch->setKeyFilter(&modRun::FilterSuche);
-    txtSuch->setPlaceholderText(u"Anfang eines Namens; für ä, ö, ü und ß ein * wie in M*ller"_qs);
-    Label2 = Face::label(u"Label2"_qs, u"Kategorie:"_qs, this);
-    cboKatego = new ComboBox(u"cboKatego"_qs, ComboBox::Order::AsAdded, ComboBox::Kind::DropDownList, this);
-    cmdSuch = Face::button(u"cmdSuch"_qs, QString(), this);
-    cmdSuch->setIcon(Theme::icon(u"suchen"_qs));
+    txtSuch->setPlaceholderText(u"Anfang eines Namens; für ä, ö, ü und ß ein * wie in M*ller"_s);
+    Label2 = Layout::label(u"Label2"_s, u"Kategorie:"_s, this);
+    cboKatego = new ComboBox(u"cboKatego"_s, ComboBox::Order::AsAdded, ComboBox::Kind::DropDownList, this);
+    cmdSuch = Layout::button(u"cmdSuch"_s, QString(), this);
+    cmdSuch->setIcon(Theme::icon(u"suchen"_s));
     cmdSuch->setIconSize(QSize(32, 32));
-    cmdSuch->setToolTip(u"Suchen"_qs);
-    cmdSuch->setAccessibleName(u"Suchen"_qs);
+    cmdSuch->setToolTip(u"Suchen"_s);
+    cmdSuch->setAccessibleName(u"Suchen"_s);
     cmdSuch->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
-    tblSuch = new DataTable(u"tblSuch"_qs, this);
-    tblSuch->setColumns({{u"KontaktNr"_qs, 80, true},
-                         {u"Kategorie"_qs, 160},
-                         {u"Firma"_qs, 160},
-                         {.head = u"Nachname"_qs, .width = 140, .name = true},
-                         {u"Vorname"_qs, 120}});
-    tblSuch->setAccessibleName(u"Gefundene Kontakte"_qs);
-    tblSuch->setEmptyHint(u"Schreiben Sie oben den Anfang eines Namens und drücken Sie die Eingabetaste."_qs);
-    Label3 = Face::label(u"Label3"_qs, u"Gefunden:"_qs, this);
-    lblGefDS = new ValueLabel(u"lblGefDS"_qs, this);
-    lblGefDS->setAccessibleName(u"Gefunden"_qs);
+    tblSuch = new DataTable(u"tblSuch"_s, this);
+    tblSuch->setColumns({{u"KontaktNr"_s, 80, true},
+                         {u"Kategorie"_s, 160},
+                         {u"Firma"_s, 160},
+                         {.head = u"Nachname"_s, .width = 140, .name = true},
+                         {u"Vorname"_s, 120}});
+    tblSuch->setAccessibleName(u"Gefundene Kontakte"_s);
+    tblSuch->setEmptyHint(u"Schreiben Sie oben den Anfang eines Namens und drücken Sie die Eingabetaste."_s);
+    Label3 = Layout::label(u"Label3"_s, u"Gefunden:"_s, this);
+    lblGefDS = new ValueLabel(u"lblGefDS"_s, this);
+    lblGefDS->setAccessibleName(u"Gefunden"_s);
     lblGefDS->setNumeric();
 }
 

@@ -6,11 +6,13 @@
 
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace Uebersicht {
 
 namespace {
 
-DataTable& grid() { return *screen<KontaktUebers>().tblKUebers; }
+DataTable& grid() { return *the<KontaktUebers>().tblKUebers; }
 
 /// The grid at the category level, whatever table was entered before.
 DataTable& kategorien() {
@@ -24,7 +26,7 @@ int findeKategorie(qint32 nummer) {
     return kategorien().find(spalteNr, row, QString::number(nummer)) < 0 ? -1 : row;
 }
 
-bool istOffen(int row) { return kategorien().cellText(row, spalteZustand) == u"-"_qs; }
+bool istOffen(int row) { return kategorien().cellText(row, spalteZustand) == u"-"_s; }
 
 /// The number between the brackets of the row's text; 0 if there is none.
 qint32 anzahl(int row) {
@@ -95,20 +97,20 @@ ImKind::ImKind(int row)
 ImKind::~ImKind() { m_grid.enter({}); }
 
 void schreibeMarke(int row, const QString& name, qint32 anzahl) {
-    kategorien().setCell(row, spalteName, anzahl == 0 ? name : name + u"  [%1]"_qs.arg(anzahl));
+    kategorien().setCell(row, spalteName, anzahl == 0 ? name : name + u"  [%1]"_s.arg(anzahl));
 }
 
 void SetzeKontaktSpalten() {
-    grid().setChildColumns({{u"Kontakt.-Nr"_qs, 80, true},
+    grid().setChildColumns({{u"Kontakt.-Nr"_s, 80, true},
                             {QString(), 16, false, 16, true},
-                            {u"Firma"_qs, 153, false, 50},
-                            {u"Anrede"_qs, 67, false, 50},
-                            {.head = u"Nachname"_qs, .width = 100, .minimumWidth = 50, .name = true},
-                            {u"Vorname"_qs, 100, false, 50},
-                            {.head = u"Tel (priv.)"_qs, .width = 100, .minimumWidth = 30, .firm = true},
-                            {u"Fax (geschftl.)"_qs, 100, false, 30},
-                            {.head = u"Geb-Datum"_qs, .width = 100, .minimumWidth = 30, .fixed = true},
-                            {u"EMail"_qs, 132, false, 30}},
+                            {u"Firma"_s, 153, false, 50},
+                            {u"Anrede"_s, 67, false, 50},
+                            {.head = u"Nachname"_s, .width = 100, .minimumWidth = 50, .name = true},
+                            {u"Vorname"_s, 100, false, 50},
+                            {.head = u"Tel (priv.)"_s, .width = 100, .minimumWidth = 30, .firm = true},
+                            {u"Fax (geschftl.)"_s, 100, false, 30},
+                            {.head = u"Geb-Datum"_s, .width = 100, .minimumWidth = 30, .fixed = true},
+                            {u"EMail"_s, 132, false, 30}},
                            spalteName);
 }
 
@@ -123,12 +125,12 @@ void zeigeNeuen(qint32 kategonr, const QString& name, std::span<const Value> zei
     const int row = findeKategorie(kategonr);
     if (row < 0) return;
     const qint32 vorher = anzahl(row);
-    if (screen<KontaktUebers>().LetzterKlappZustand && vorher >= 1)
+    if (the<KontaktUebers>().LetzterKlappZustand && vorher >= 1)
         fuegeKontaktAn(row, zeile);
     else
         legeKindMitPlatzhalterAn(row);
     // One blank here, where the other routines write two.
-    kategorien().setCell(row, spalteName, name + u" [%1]"_qs.arg(vorher + 1));
+    kategorien().setCell(row, spalteName, name + u" [%1]"_s.arg(vorher + 1));
 }
 
 void zeigeGeaenderten(const Umzug& umzug, std::span<const Value> zeile) {

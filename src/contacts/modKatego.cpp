@@ -16,68 +16,71 @@
 #include "Uebersicht.h"
 #include "ValueLabel.h"
 
+using namespace Qt::StringLiterals;
+
 namespace modKatego {
 
 namespace {
 
-const QString modul = u"modKatego"_qs;
+const QString modul = u"modKatego"_s;
 
-void zeigeAnzahl(Katego& form) { form.lblAnzahl->setText(QString::number(form.tblKatego->rowCount())); }
+void zeigeAnzahl(Katego& screen) { screen.lblAnzahl->setText(QString::number(screen.tblKatego->rowCount())); }
 
 /// The one field of the mask.
-Datensatz::Felder felder(ErrorTail& step, const Katego& form) {
-    return [&](Recordset& katego) { step([&] { katego.Collect(u"kategorie"_qs, form.txtKatego->text()); }); };
+Datensatz::Felder felder(ErrorTail& step, const Katego& screen) {
+    return
+        [&](Recordset& katego) { step([&] { katego.Collect(u"kategorie"_s, screen.txtKatego->text()); }); };
 }
 
 QString alsZeile(const QString& name) { return istSystemkategorie(name) ? name + systemMarke : name; }
 
 } // namespace
 
-const QString systemMarke = u" -> Systemkategorie <-"_qs;
+const QString systemMarke = u" -> Systemkategorie <-"_s;
 
 bool istSystemkategorie(const QString& name) {
-    return name == u"Mitglieder (aktiv)"_qs || name == u"Mitglieder (passiv)"_qs;
+    return name == u"Mitglieder (aktiv)"_s || name == u"Mitglieder (passiv)"_s;
 }
 
 void loadTblKatego() {
-    ::fuelleGrid(u"loadTblKatego"_qs, screen<Katego>().tblKatego, u"SELECT * FROM Katego"_qs,
+    ::fuelleGrid(u"loadTblKatego"_s, the<Katego>().tblKatego, u"SELECT * FROM Katego"_s,
                  [](const Recordset& katego) {
-                     const QString name = modRun::textOderLeer(katego.Fields(u"kategorie"_qs));
-                     return std::vector<Value>{katego.Collect(u"kategonr"_qs), alsZeile(name)};
+                     const QString name = modRun::textOderLeer(katego.Fields(u"kategorie"_s));
+                     return std::vector<Value>{katego.Collect(u"kategonr"_s), alsZeile(name)};
                  });
 }
 
 void loadKatego(int row, int /*column*/) {
-    withErrorTail(modul, u"loadKatego"_qs, [row](ErrorTail& step) {
-        Katego& form = screen<Katego>();
+    withErrorTail(modul, u"loadKatego"_s, [row](ErrorTail& step) {
+        Katego& screen = the<Katego>();
         Recordset katego;
         step([&] {
-            katego = oeffneAbfrage(u"SELECT * FROM Katego WHERE KategoNr = "_qs +
-                                   QString::number(CLng(form.tblKatego->cell(row, 0))));
+            katego = oeffneAbfrage(u"SELECT * FROM Katego WHERE KategoNr = "_s +
+                                   QString::number(CLng(screen.tblKatego->cell(row, 0))));
         });
         if (!step.test([&] { return katego.RecordCount() == 1; })) {
             modRun::MeldeNichtVorhanden();
         } else if (step.test([&] {
-                       return istSystemkategorie(modRun::textOderLeer(katego.Fields(u"kategorie"_qs)));
+                       return istSystemkategorie(modRun::textOderLeer(katego.Fields(u"kategorie"_s)));
                    })) {
-            MsgBox(u"ACHTUNG: Systemkategorie, keine Änderungen oder Löschung erlaubt!"_qs, vbInformation);
+            MsgBox(u"ACHTUNG: Systemkategorie, keine Änderungen oder Löschung erlaubt!"_s, vbInformation);
         } else {
-            step([&] { form.lblKategoNr->setText(CStr(katego.Collect(u"kategonr"_qs))); });
-            step([&] { form.txtKatego->setText(modRun::textOderLeer(katego.Fields(u"kategorie"_qs))); });
+            step([&] { screen.lblKategoNr->setText(CStr(katego.Collect(u"kategonr"_s))); });
+            step([&] { screen.txtKatego->setText(modRun::textOderLeer(katego.Fields(u"kategorie"_s))); });
         }
         step([&] { katego.Close(); });
     });
 }
 
 void SpeicherKatego() {
-    withErrorTail(modul, u"SpeicherKatego"_qs, [](ErrorTail& step) {
-        Katego& form = screen<Katego>();
+    withErrorTail(modul, u"SpeicherKatego"_s, [](ErrorTail& step) {
+        Katego& screen = the<Katego>();
         std::vector<Value> neue;
-        if (Datensatz::speichere(step, u"Katego"_qs, felder(step, form),
-                                 Datensatz::lies(step, neue, {u"kategonr"_qs, u"kategorie"_qs}))) {
-            step([&] { form.tblKatego->appendRow(neue); });
-            form.tblKatego->markRow(form.tblKatego->rowCount());
-            zeigeAnzahl(form);
+        if (Datensatz::speichere(step, u"Katego"_s, felder(step, screen),
+                                 Datensatz::lies(step, neue, {u"kategonr"_s, u"kategorie"_s}))) {
+            step([&] { screen.tblKatego->appendRow(neue); });
+            screen.tblKatego->markRow(screen.tblKatego->rowCount());
+            zeigeAnzahl(screen);
             step([&] { Uebersicht::nehmeKategorieAuf(neue[0], neue[1]); });
         }
         KategoAnzeigeLoeschen();
@@ -85,13 +88,13 @@ void SpeicherKatego() {
 }
 
 void UpdateKatego(int row) {
-    withErrorTail(modul, u"UpdateKatego"_qs, [row](ErrorTail& step) {
-        const Katego& form = screen<Katego>();
-        const QString nummer = form.lblKategoNr->text();
-        if (Datensatz::aendere(step, u"Katego"_qs, nummer, felder(step, form))) {
-            const QString name = form.txtKatego->text();
-            step([&] { form.tblKatego->setCell(row, 1, name); });
-            form.tblKatego->markRow(row);
+    withErrorTail(modul, u"UpdateKatego"_s, [row](ErrorTail& step) {
+        const Katego& screen = the<Katego>();
+        const QString nummer = screen.lblKategoNr->text();
+        if (Datensatz::aendere(step, u"Katego"_s, nummer, felder(step, screen))) {
+            const QString name = screen.txtKatego->text();
+            step([&] { screen.tblKatego->setCell(row, 1, name); });
+            screen.tblKatego->markRow(row);
             step([&] { Uebersicht::benenneKategorieUm(CLng(nummer), name); });
         }
         KategoAnzeigeLoeschen();
@@ -99,12 +102,12 @@ void UpdateKatego(int row) {
 }
 
 void LoescheKatego(int row) {
-    withErrorTail(modul, u"LoescheKatego"_qs, [row](ErrorTail& step) {
-        Katego& form = screen<Katego>();
-        const QString nummer = form.lblKategoNr->text();
-        if (Datensatz::loesche(step, u"Katego"_qs, nummer)) {
-            step([&] { form.tblKatego->removeRow(row); });
-            zeigeAnzahl(form);
+    withErrorTail(modul, u"LoescheKatego"_s, [row](ErrorTail& step) {
+        Katego& screen = the<Katego>();
+        const QString nummer = screen.lblKategoNr->text();
+        if (Datensatz::loesche(step, u"Katego"_s, nummer)) {
+            step([&] { screen.tblKatego->removeRow(row); });
+            zeigeAnzahl(screen);
             step([&] { Uebersicht::entferneKategorie(CLng(nummer)); });
         }
         KategoAnzeigeLoeschen();
@@ -112,12 +115,12 @@ void LoescheKatego(int row) {
 }
 
 void KategoAnzeigeLoeschen() {
-    Katego& form = screen<Katego>();
-    form.txtKatego->setText(QString());
-    form.lblKategoNr->setText(QString());
-    form.txtKatego->setFocus();
+    Katego& screen = the<Katego>();
+    screen.txtKatego->setText(QString());
+    screen.lblKategoNr->setText(QString());
+    screen.txtKatego->setFocus();
 }
 
-bool KategoEingabeOK() { return modRun::fehlerfrei(modRun::erstesLeere({screen<Katego>().txtKatego})); }
+bool KategoEingabeOK() { return modRun::fehlerfrei(modRun::erstesLeere({the<Katego>().txtKatego})); }
 
 } // namespace modKatego

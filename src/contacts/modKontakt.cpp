@@ -24,20 +24,22 @@
 #include <QScopeGuard>
 #include <QTabWidget>
 
+using namespace Qt::StringLiterals;
+
 // The mask of a contact and the lookups around it. What writes stands in modKontaktSpeichern.cpp.
 
 namespace modKontakt {
 
 namespace {
 
-const QString modul = u"modKontakt"_qs;
+const QString modul = u"modKontakt"_s;
 
 } // namespace
 
-bool KontaktZugriff_Erlaubt() { return zugriffErlaubt(modul, u"KontaktZugriff_Erlaubt"_qs, u"Kontakt"_qs); }
+bool KontaktZugriff_Erlaubt() { return zugriffErlaubt(modul, u"KontaktZugriff_Erlaubt"_s, u"Kontakt"_s); }
 
 void FuelleKategoCombo(ComboBox* combo) {
-    const DataTable* grid = screen<Katego>().tblKatego;
+    const DataTable* grid = the<Katego>().tblKatego;
     if (combo->count() == grid->rowCount()) return;
     combo->clear();
     for (int row = 0; row < grid->rowCount(); ++row) {
@@ -51,11 +53,11 @@ void FuelleKategoCombo(ComboBox* combo) {
 
 namespace {
 
-void zeigeMitgliedZu(ErrorTail& step, qint32 knr, Kontakt& form) {
+void zeigeMitgliedZu(ErrorTail& step, qint32 knr, Kontakt& screen) {
     Recordset mitglied;
-    step([&] { mitglied = oeffneAbfrage(u"SELECT * FROM Mitglied WHERE KNr = "_qs + QString::number(knr)); });
+    step([&] { mitglied = oeffneAbfrage(u"SELECT * FROM Mitglied WHERE KNr = "_s + QString::number(knr)); });
     if (step.test([&] { return mitglied.RecordCount() == 1; }))
-        KontaktFelder::zeigeMitglied(step, mitglied, form);
+        KontaktFelder::zeigeMitglied(step, mitglied, screen);
     step([&] { mitglied.Close(); });
 }
 
@@ -64,20 +66,19 @@ void zeigeMitgliedZu(ErrorTail& step, qint32 knr, Kontakt& form) {
 void loadKontakt(DataTable* grid, int row, int /*column*/) {
     // A fifth error may leave the mask filled and hidden. "Neuer Kontakt" would then open with this contact.
     const auto schliesse = qScopeGuard([] { unload<Kontakt>(); });
-    withErrorTail(modul, u"loadKontakt"_qs, [grid, row](ErrorTail& step) {
+    withErrorTail(modul, u"loadKontakt"_s, [grid, row](ErrorTail& step) {
         qint32 knr = 0;
         Recordset kontakt;
         step([&] { knr = CLng(grid->cell(row, 0)); });
-        step([&] {
-            kontakt = oeffneAbfrage(u"SELECT * FROM Kontakt WHERE KNr = "_qs + QString::number(knr));
-        });
+        step(
+            [&] { kontakt = oeffneAbfrage(u"SELECT * FROM Kontakt WHERE KNr = "_s + QString::number(knr)); });
         if (step.test([&] { return kontakt.RecordCount() == 1; })) {
-            Kontakt& form = screen<Kontakt>();
-            KontaktFelder::zeigeKontakt(step, kontakt, form);
-            if (KontaktFelder::istMitglied(form)) zeigeMitgliedZu(step, knr, form);
+            Kontakt& screen = the<Kontakt>();
+            KontaktFelder::zeigeKontakt(step, kontakt, screen);
+            if (KontaktFelder::istMitglied(screen)) zeigeMitgliedZu(step, knr, screen);
             // The mask stays open for long; nothing in the file waits for it.
             step([&] { kontakt.Close(); });
-            form.ShowModal();
+            screen.ShowModal();
         } else {
             modRun::MeldeNichtVorhanden();
             step([&] { kontakt.Close(); });
@@ -89,40 +90,41 @@ void SetzeKontaktToolbar(int enabled) {
     if (enabled != 0 && enabled != 1) return;
     // A mask that has been closed in the meantime comes back with all its keys.
     if (enabled == 1 && !isLoaded<Kontakt>()) return;
-    for (const QString& key : {u"tbSpeichern"_qs, u"tbLoeschen"_qs, u"tbAnzLoeschen"_qs})
-        screen<Kontakt>().Toolbar1->setKeyEnabled(key, enabled == 1);
-    if (enabled == 0) screen<Kontakt>().sperre();
+    for (const QString& key : {u"tbSpeichern"_s, u"tbLoeschen"_s, u"tbAnzLoeschen"_s})
+        the<Kontakt>().Toolbar1->setKeyEnabled(key, enabled == 1);
+    if (enabled == 0) the<Kontakt>().sperre();
 }
 
 void SetzeMitglFelder() {
-    Kontakt& form = screen<Kontakt>();
-    if (form.istGesperrt()) return;
-    const bool mitglied = KontaktFelder::istMitglied(form);
+    Kontakt& screen = the<Kontakt>();
+    if (screen.istGesperrt()) return;
+    const bool mitglied = KontaktFelder::istMitglied(screen);
     for (QWidget* control : std::initializer_list<QWidget*>{
-             form.optMann, form.optFrau, form.optBefreit, form.optNBefreit, form.optBezahlt, form.optNBezahlt,
-             form.txtEintritt, form.txtAustritt, form.chkJG})
+             screen.optMann, screen.optFrau, screen.optBefreit, screen.optNBefreit, screen.optBezahlt,
+             screen.optNBezahlt, screen.txtEintritt, screen.txtAustritt, screen.chkJG})
         control->setEnabled(mitglied);
 }
 
 bool EingabeKontaktOK() {
-    const Kontakt& form = screen<Kontakt>();
-    return !modRun::erstesLeere({form.cboKatego, form.txtNName, form.txtVName});
+    const Kontakt& screen = the<Kontakt>();
+    return !modRun::erstesLeere({screen.cboKatego, screen.txtNName, screen.txtVName});
 }
 
 void KontaktAnzeigeLoeschen() {
-    Kontakt& form = screen<Kontakt>();
-    form.lblKNr->setText(QString());
-    form.cboKatego->setListIndex(-1);
-    for (TextBox* box :
-         {form.txtAnrede, form.txtNName, form.txtVName, form.txtStrasse, form.txtPLZ, form.txtOrt,
-          form.txtTelPriv, form.txtTelGesch, form.txtMobil, form.txtFax, form.txtEMail, form.txtFirma,
-          form.txtGebDat, form.txtBLZ, form.txtKInst, form.txtKontoNr, form.txtEintritt, form.txtAustritt})
+    Kontakt& screen = the<Kontakt>();
+    screen.lblKNr->setText(QString());
+    screen.cboKatego->setListIndex(-1);
+    for (TextBox* box : {screen.txtAnrede, screen.txtNName, screen.txtVName, screen.txtStrasse, screen.txtPLZ,
+                         screen.txtOrt, screen.txtTelPriv, screen.txtTelGesch, screen.txtMobil, screen.txtFax,
+                         screen.txtEMail, screen.txtFirma, screen.txtGebDat, screen.txtBLZ, screen.txtKInst,
+                         screen.txtKontoNr, screen.txtEintritt, screen.txtAustritt})
         box->setText(QString());
-    for (QRadioButton* option : {form.optMann, form.optNBefreit, form.optNBezahlt}) option->setChecked(true);
-    form.chkEinzug->setChecked(false);
-    form.txtNotiz->setText(QString());
-    form.TabKont->setCurrentIndex(0);
-    form.cboKatego->setFocus();
+    for (QRadioButton* option : {screen.optMann, screen.optNBefreit, screen.optNBezahlt})
+        option->setChecked(true);
+    screen.chkEinzug->setChecked(false);
+    screen.txtNotiz->setText(QString());
+    screen.TabKont->setCurrentIndex(0);
+    screen.cboKatego->setFocus();
 }
 
 } // namespace modKontakt

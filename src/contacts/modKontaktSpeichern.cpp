@@ -16,6 +16,8 @@
 #include "modKatego.h"
 #include "modKontakt.h"
 
+using namespace Qt::StringLiterals;
+
 // What writes a contact: the tables `Kontakt` and `Mitglied`, and the overview, which is kept in step cell by
 // cell since it is never loaded anew.
 
@@ -23,36 +25,36 @@ namespace modKontakt {
 
 namespace {
 
-const QString modul = u"modKontakt"_qs;
+const QString modul = u"modKontakt"_s;
 
 /// The category and the fields of the mask, in the order in which they are written.
-Datensatz::Felder felder(ErrorTail& step, const Kontakt& form, qint32 kategonr) {
-    return [&step, &form, kategonr](Recordset& kontakt) {
-        step([&] { kontakt.Collect(u"kategonr"_qs, kategonr); });
-        KontaktFelder::schreibeKontakt(step, kontakt, form);
+Datensatz::Felder felder(ErrorTail& step, const Kontakt& screen, qint32 kategonr) {
+    return [&step, &screen, kategonr](Recordset& kontakt) {
+        step([&] { kontakt.Collect(u"kategonr"_s, kategonr); });
+        KontaktFelder::schreibeKontakt(step, kontakt, screen);
     };
 }
 
 /// The number that the mask shows; 0, after the box, where it shows none.
-qint32 nummerDerMaske(ErrorTail& step, const Kontakt& form) {
+qint32 nummerDerMaske(ErrorTail& step, const Kontakt& screen) {
     qint32 knr = 0;
-    step([&] { knr = CLng(form.lblKNr->text()); });
+    step([&] { knr = CLng(screen.lblKNr->text()); });
     return knr;
 }
 
-void fuelleMitglied(ErrorTail& step, Recordset& mitglied, const Value& knr, const Kontakt& form) {
-    step([&] { mitglied.Collect(u"knr"_qs, knr); });
-    KontaktFelder::schreibeMitglied(step, mitglied, form);
+void fuelleMitglied(ErrorTail& step, Recordset& mitglied, const Value& knr, const Kontakt& screen) {
+    step([&] { mitglied.Collect(u"knr"_s, knr); });
+    KontaktFelder::schreibeMitglied(step, mitglied, screen);
 }
 
 /// A member's row as the mask has it; one that is missing is added.
-bool schreibeMitglied(ErrorTail& step, Recordset& mitglied, qint32 knr, const Kontakt& form) {
+bool schreibeMitglied(ErrorTail& step, Recordset& mitglied, qint32 knr, const Kontakt& screen) {
     if (Datensatz::finde(step, mitglied, knr)) {
         step([&] { mitglied.Edit(); });
-        KontaktFelder::schreibeMitglied(step, mitglied, form);
+        KontaktFelder::schreibeMitglied(step, mitglied, screen);
     } else {
         step([&] { mitglied.AddNew(); });
-        fuelleMitglied(step, mitglied, knr, form);
+        fuelleMitglied(step, mitglied, knr, screen);
     }
     return step([&] { mitglied.Update(); });
 }
@@ -61,29 +63,29 @@ bool schreibeMitglied(ErrorTail& step, Recordset& mitglied, qint32 knr, const Ko
 /// has it.
 Datensatz::Danach liesZeile(ErrorTail& step, std::vector<Value>& zeile) {
     return Datensatz::lies(step, zeile,
-                           {u"knr"_qs, u"Firma"_qs, u"Anrede"_qs, u"Nachname"_qs, u"Vorname"_qs, u"Tel1"_qs,
-                            u"Fax"_qs, u"GebDatum"_qs, u"EMail"_qs});
+                           {u"knr"_s, u"Firma"_s, u"Anrede"_s, u"Nachname"_s, u"Vorname"_s, u"Tel1"_s,
+                            u"Fax"_s, u"GebDatum"_s, u"EMail"_s});
 }
 
 } // namespace
 
 void SpeicherKontakt() {
-    withErrorTail(modul, u"SpeicherKontakt"_qs, [](ErrorTail& step) {
-        const Kontakt& form = screen<Kontakt>();
-        const auto kategonr = ermittleNummer(&ErmittleKategoNr, form.cboKatego);
+    withErrorTail(modul, u"SpeicherKontakt"_s, [](ErrorTail& step) {
+        const Kontakt& screen = the<Kontakt>();
+        const auto kategonr = ermittleNummer(&ErmittleKategoNr, screen.cboKatego);
         if (!kategonr) return;
         std::vector<Value> zeile;
         const auto danach = [&](Recordset& kontakt) {
             liesZeile(step, zeile)(kontakt);
-            return !KontaktFelder::istMitglied(form) ||
+            return !KontaktFelder::istMitglied(screen) ||
                    Datensatz::speichere(
-                       step, u"Mitglied"_qs,
-                       [&](Recordset& mitglied) { fuelleMitglied(step, mitglied, zeile[0], form); }, {});
+                       step, u"Mitglied"_s,
+                       [&](Recordset& mitglied) { fuelleMitglied(step, mitglied, zeile[0], screen); }, {});
         };
-        if (Datensatz::speichere(step, u"Kontakt"_qs, felder(step, form, *kategonr), danach)) {
+        if (Datensatz::speichere(step, u"Kontakt"_s, felder(step, screen, *kategonr), danach)) {
             // The place of the picture.
-            zeile.insert(zeile.begin() + 1, u" "_qs);
-            step([&] { Uebersicht::zeigeNeuen(*kategonr, form.cboKatego->currentText(), zeile); });
+            zeile.insert(zeile.begin() + 1, u" "_s);
+            step([&] { Uebersicht::zeigeNeuen(*kategonr, screen.cboKatego->currentText(), zeile); });
             step([&] { Uebersicht::markiere(*kategonr, CLng(zeile[0])); });
         }
         KontaktAnzeigeLoeschen();
@@ -100,42 +102,42 @@ bool loescheMitglied(ErrorTail& step, Recordset& mitglied, qint32 knr) {
 }
 
 /// Writes the member's row that belongs to the changed contact.
-bool zieheMitgliedNach(ErrorTail& step, const Uebersicht::Umzug& umzug, const Kontakt& form) {
+bool zieheMitgliedNach(ErrorTail& step, const Uebersicht::Umzug& umzug, const Kontakt& screen) {
     const bool verlaesst = umzug.wechselt() && modKatego::istSystemkategorie(umzug.alterName);
-    const bool istMitglied = KontaktFelder::istMitglied(form);
+    const bool istMitglied = KontaktFelder::istMitglied(screen);
     if (!verlaesst && !istMitglied) return true;
-    return Datensatz::schreibe(step, u"Mitglied"_qs, [&](Recordset& mitglied) {
+    return Datensatz::schreibe(step, u"Mitglied"_s, [&](Recordset& mitglied) {
         if (verlaesst && !loescheMitglied(step, mitglied, umzug.knr)) return false;
-        return !istMitglied || schreibeMitglied(step, mitglied, umzug.knr, form);
+        return !istMitglied || schreibeMitglied(step, mitglied, umzug.knr, screen);
     });
 }
 
 /// After a save from the search the category alone decides whether there is a member's row.
-bool richteMitglied(ErrorTail& step, const Uebersicht::Umzug& umzug, const Kontakt& form) {
-    return Datensatz::schreibe(step, u"Mitglied"_qs, [&](Recordset& mitglied) {
-        if (KontaktFelder::istMitglied(form)) return schreibeMitglied(step, mitglied, umzug.knr, form);
+bool richteMitglied(ErrorTail& step, const Uebersicht::Umzug& umzug, const Kontakt& screen) {
+    return Datensatz::schreibe(step, u"Mitglied"_s, [&](Recordset& mitglied) {
+        if (KontaktFelder::istMitglied(screen)) return schreibeMitglied(step, mitglied, umzug.knr, screen);
         return !Datensatz::finde(step, mitglied, umzug.knr) || step([&] { mitglied.Delete(); });
     });
 }
 
-using Dazu = bool (*)(ErrorTail& step, const Uebersicht::Umzug& umzug, const Kontakt& form);
+using Dazu = bool (*)(ErrorTail& step, const Uebersicht::Umzug& umzug, const Kontakt& screen);
 
 /// Changes the contact that the mask shows, with what `dazu` writes for it, and then the overview.
 void aendere(ErrorTail& step, bool ausSuche, Dazu dazu) {
-    const Kontakt& form = screen<Kontakt>();
-    const QString kategorie = form.cboKatego->currentText();
-    const auto neueNr = ermittleNummer(&ErmittleKategoNr, form.cboKatego);
+    const Kontakt& screen = the<Kontakt>();
+    const QString kategorie = screen.cboKatego->currentText();
+    const auto neueNr = ermittleNummer(&ErmittleKategoNr, screen.cboKatego);
     if (!neueNr) return;
     Uebersicht::Umzug umzug{
-        .knr = nummerDerMaske(step, form), .neueNr = *neueNr, .neuerName = kategorie, .ausSuche = ausSuche};
+        .knr = nummerDerMaske(step, screen), .neueNr = *neueNr, .neuerName = kategorie, .ausSuche = ausSuche};
     const auto schreibe = [&](Recordset& kontakt) {
-        step([&] { umzug.alteNr = CLng(kontakt.Collect(u"kategonr"_qs)); });
+        step([&] { umzug.alteNr = CLng(kontakt.Collect(u"kategonr"_s)); });
         umzug.alterName = ErmittleKategoName(umzug.alteNr);
-        felder(step, form, umzug.neueNr)(kontakt);
+        felder(step, screen, umzug.neueNr)(kontakt);
     };
-    if (Datensatz::aendere(step, u"Kontakt"_qs, umzug.knr, schreibe,
-                           [&](Recordset&) { return dazu(step, umzug, form); })) {
-        step([&] { Uebersicht::zeigeGeaenderten(umzug, KontaktFelder::alsZeile(form)); });
+    if (Datensatz::aendere(step, u"Kontakt"_s, umzug.knr, schreibe,
+                           [&](Recordset&) { return dazu(step, umzug, screen); })) {
+        step([&] { Uebersicht::zeigeGeaenderten(umzug, KontaktFelder::alsZeile(screen)); });
         step([&] { Uebersicht::markiere(umzug.neueNr, umzug.knr); });
     }
     unload<Kontakt>();
@@ -144,27 +146,27 @@ void aendere(ErrorTail& step, bool ausSuche, Dazu dazu) {
 } // namespace
 
 void UpdateKontakt() {
-    withErrorTail(modul, u"UpdateKontakt"_qs,
+    withErrorTail(modul, u"UpdateKontakt"_s,
                   [](ErrorTail& step) { aendere(step, false, &zieheMitgliedNach); });
 }
 
 void UpdateSQLKontakt() {
-    withErrorTail(modul, u"UpdateSQLKontakt"_qs,
+    withErrorTail(modul, u"UpdateSQLKontakt"_s,
                   [](ErrorTail& step) { aendere(step, true, &richteMitglied); });
 }
 
 void LoescheKontakt() {
-    withErrorTail(modul, u"LoescheKontakt"_qs, [](ErrorTail& step) {
-        const Kontakt& form = screen<Kontakt>();
-        const qint32 knr = nummerDerMaske(step, form);
-        const qint32 kategonr = ErmittleKategoNr(form.cboKatego->currentText());
+    withErrorTail(modul, u"LoescheKontakt"_s, [](ErrorTail& step) {
+        const Kontakt& screen = the<Kontakt>();
+        const qint32 knr = nummerDerMaske(step, screen);
+        const qint32 kategonr = ErmittleKategoNr(screen.cboKatego->currentText());
         const auto mitglied = [&](Recordset&) {
-            return Datensatz::schreibe(step, u"Mitglied"_qs, [&](Recordset& satz) {
+            return Datensatz::schreibe(step, u"Mitglied"_s, [&](Recordset& satz) {
                 return !Datensatz::finde(step, satz, knr) || step([&] { satz.Delete(); });
             });
         };
-        if (Datensatz::loesche(step, u"Kontakt"_qs, knr, mitglied))
-            step([&] { Uebersicht::entferneKontakt(kategonr, form.cboKatego->currentText(), knr); });
+        if (Datensatz::loesche(step, u"Kontakt"_s, knr, mitglied))
+            step([&] { Uebersicht::entferneKontakt(kategonr, screen.cboKatego->currentText(), knr); });
         unload<Kontakt>();
     });
 }

@@ -12,6 +12,8 @@
 #include "ValueLabel.h"
 #include "modKontakt.h"
 
+using namespace Qt::StringLiterals;
+
 // The search for a contact by a word.
 
 namespace modKontakt {
@@ -21,16 +23,16 @@ namespace {
 QString sucheNach(const QString& word, qint32 kategonr) {
     const QString muster = quoted(word + u'*');
     const QString treffer =
-        u"Vorname LIKE "_qs + muster + u" Or Nachname LIKE "_qs + muster + u" Or Firma LIKE "_qs + muster;
-    if (kategonr == 0) return u"SELECT * FROM Kontakt WHERE "_qs + treffer;
-    return u"SELECT * FROM Kontakt WHERE ("_qs + treffer + u") AND (KategoNr = "_qs +
+        u"Vorname LIKE "_s + muster + u" Or Nachname LIKE "_s + muster + u" Or Firma LIKE "_s + muster;
+    if (kategonr == 0) return u"SELECT * FROM Kontakt WHERE "_s + treffer;
+    return u"SELECT * FROM Kontakt WHERE ("_s + treffer + u") AND (KategoNr = "_s +
            QString::number(kategonr) + u')';
 }
 
 void zeigeTreffer(ErrorTail& step, Recordset& kontakte, DataTable* grid) {
-    const Recordset::Field knr = kontakte.Fields(u"knr"_qs), kategonr = kontakte.Fields(u"kategonr"_qs),
-                           firma = kontakte.Fields(u"Firma"_qs), nachname = kontakte.Fields(u"Nachname"_qs),
-                           vorname = kontakte.Fields(u"Vorname"_qs);
+    const Recordset::Field knr = kontakte.Fields(u"knr"_s), kategonr = kontakte.Fields(u"kategonr"_s),
+                           firma = kontakte.Fields(u"Firma"_s), nachname = kontakte.Fields(u"Nachname"_s),
+                           vorname = kontakte.Fields(u"Vorname"_s);
     step([&] { grid->clearRows(); });
     step([&] { kontakte.MoveFirst(); });
     step.forEachRow(kontakte, [&] {
@@ -46,20 +48,20 @@ void zeigeTreffer(ErrorTail& step, Recordset& kontakte, DataTable* grid) {
 } // namespace
 
 void SuchAnzeigeLoeschen() {
-    SuchKont& form = screen<SuchKont>();
-    form.tblSuch->clearRows();
-    form.txtSuch->setText(QString());
-    form.lblGefDS->setText(QString());
+    SuchKont& screen = the<SuchKont>();
+    screen.tblSuch->clearRows();
+    screen.txtSuch->setText(QString());
+    screen.lblGefDS->setText(QString());
 }
 
 void SucheKontakt(const QString& word, qint32 kategonr) {
-    withErrorTail(u"modKontakt"_qs, u"SucheKontakt"_qs, [&](ErrorTail& step) {
+    withErrorTail(u"modKontakt"_s, u"SucheKontakt"_s, [&](ErrorTail& step) {
         Recordset kontakte;
         step([&] { kontakte = oeffneAbfrage(sucheNach(word, kategonr)); });
         if (step.test([&] { return kontakte.RecordCount() < 1; }))
             modRun::MeldeNichtsGefunden();
         else
-            zeigeTreffer(step, kontakte, screen<SuchKont>().tblSuch);
+            zeigeTreffer(step, kontakte, the<SuchKont>().tblSuch);
         step([&] { kontakte.Close(); });
     });
 }

@@ -11,6 +11,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 // The overview's grid: filled with the categories once, and with the contacts of a category at each opening.
 
 namespace modKontakt {
@@ -37,11 +39,11 @@ Value geburtstag(const Recordset::Field& feld) {
 }
 
 void zeigeKontakte(int row, Recordset& kontakte) {
-    const QString picture = programFolder() + u"/Graphics/bmp/Cut.bmp"_qs;
+    const QString picture = programFolder() + u"/Graphics/bmp/Cut.bmp"_s;
     const std::array quellen = {
-        kontakte.Fields(u"knr"_qs),      kontakte.Fields(u"Firma"_qs),   kontakte.Fields(u"Anrede"_qs),
-        kontakte.Fields(u"Nachname"_qs), kontakte.Fields(u"Vorname"_qs), kontakte.Fields(u"Tel1"_qs),
-        kontakte.Fields(u"Fax"_qs),      kontakte.Fields(u"EMail"_qs),   kontakte.Fields(u"GebDatum"_qs)};
+        kontakte.Fields(u"knr"_s),      kontakte.Fields(u"Firma"_s),   kontakte.Fields(u"Anrede"_s),
+        kontakte.Fields(u"Nachname"_s), kontakte.Fields(u"Vorname"_s), kontakte.Fields(u"Tel1"_s),
+        kontakte.Fields(u"Fax"_s),      kontakte.Fields(u"EMail"_s),   kontakte.Fields(u"GebDatum"_s)};
     const auto [knr, firma, anrede, nachname, vorname, tel1, fax, email, gebDatum] = quellen;
     Uebersicht::ImKind kind(row);
     kind->clearRows();
@@ -53,17 +55,17 @@ void zeigeKontakte(int row, Recordset& kontakte) {
 /// The count behind the name, and something to open.
 void zaehleKontakte(int row, Recordset& kontakte) {
     kontakte.MoveLast();
-    const QString name = screen<KontaktUebers>().tblKUebers->cellText(row, Uebersicht::spalteName);
+    const QString name = the<KontaktUebers>().tblKUebers->cellText(row, Uebersicht::spalteName);
     Uebersicht::schreibeMarke(row, name, kontakte.AbsolutePosition() + 1);
     Uebersicht::legeKindMitPlatzhalterAn(row);
 }
 
 void liesKategorie(int row, qint32 kategonr, void (*zeige)(int, Recordset&)) {
     Recordset kontakte =
-        oeffneAbfrage(u"SELECT * FROM Kontakt WHERE KategoNr = "_qs + QString::number(kategonr));
+        oeffneAbfrage(u"SELECT * FROM Kontakt WHERE KategoNr = "_s + QString::number(kategonr));
     if (kontakte.RecordCount() == 0) {
         // What an earlier opening has left there is nobody's any more.
-        screen<KontaktUebers>().tblKUebers->removeChild(row);
+        the<KontaktUebers>().tblKUebers->removeChild(row);
         return;
     }
     zeige(row, kontakte);
@@ -72,7 +74,7 @@ void liesKategorie(int row, qint32 kategonr, void (*zeige)(int, Recordset&)) {
 } // namespace
 
 void InitTblKUebers() {
-    DataTable* grid = screen<KontaktUebers>().tblKUebers;
+    DataTable* grid = the<KontaktUebers>().tblKUebers;
     grid->enter({});
     grid->clearRows();
     grid->setColumns({{QString(), 40}, {QString(), 40}, {QString(), 400, false, 50}});
@@ -80,16 +82,15 @@ void InitTblKUebers() {
 }
 
 void tblKUebersfüllen() {
-    withErrorTail(u"modKontakt"_qs, u"tblKUebersfüllen"_qs, [](ErrorTail& step) {
-        DataTable* grid = screen<KontaktUebers>().tblKUebers;
+    withErrorTail(u"modKontakt"_s, u"tblKUebersfüllen"_s, [](ErrorTail& step) {
+        DataTable* grid = the<KontaktUebers>().tblKUebers;
         Recordset katego;
-        step([&] { katego = oeffneTabelle(u"katego"_qs); });
+        step([&] { katego = oeffneTabelle(u"katego"_s); });
         if (step.test([&] { return katego.RecordCount() != 0; })) {
             step([&] { katego.MoveFirst(); });
             step.forEachRow(katego, [&] {
                 step([&] {
-                    grid->appendRow(
-                        {katego.Collect(u"kategonr"_qs), u"+"_qs, katego.Collect(u"kategorie"_qs)});
+                    grid->appendRow({katego.Collect(u"kategonr"_s), u"+"_s, katego.Collect(u"kategorie"_s)});
                 });
             });
         }
@@ -100,7 +101,7 @@ void tblKUebersfüllen() {
 void FuelleKontaktUebersicht() {
     InitTblKUebers();
     tblKUebersfüllen();
-    const DataTable* grid = screen<KontaktUebers>().tblKUebers;
+    const DataTable* grid = the<KontaktUebers>().tblKUebers;
     for (int row = 0; row < grid->rowCount(); ++row)
         liesKategorie(row, CLng(grid->cell(row, Uebersicht::spalteNr)), &zaehleKontakte);
 }

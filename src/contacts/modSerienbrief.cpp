@@ -18,6 +18,8 @@
 #include <QDir>
 #include <QFileInfo>
 
+using namespace Qt::StringLiterals;
+
 namespace modSerienbrief {
 
 namespace {
@@ -30,39 +32,39 @@ bool istMitglied(qint32 kategorie) { return kategorie == aktiv || kategorie == p
 
 /// What a category's contacts are chosen by; members only with their row in Mitglied.
 QString herkunft(qint32 kategorie) {
-    const QString wahl = u"k.KategoNr = "_qs + QString::number(kategorie);
-    if (istMitglied(kategorie)) return u" FROM Kontakt k, Mitglied m WHERE k.KNr = m.KNr AND "_qs + wahl;
-    return u" FROM Kontakt k WHERE "_qs + wahl;
+    const QString wahl = u"k.KategoNr = "_s + QString::number(kategorie);
+    if (istMitglied(kategorie)) return u" FROM Kontakt k, Mitglied m WHERE k.KNr = m.KNr AND "_s + wahl;
+    return u" FROM Kontakt k WHERE "_s + wahl;
 }
 
 QString datenabfrage(qint32 kategorie) {
-    return u"SELECT k.KNr, k.Firma, k.Anrede, k.Nachname, k.Vorname, k.Strasse, k.PLZ, k.Ort, k.Tel1, "_qs
-           u"k.Tel2, k.Fax, k.Mobil, k.GebDatum, "_qs +
-           (istMitglied(kategorie) ? u"m.Eintritt, k.EMail"_qs : u"k.EMail"_qs) + herkunft(kategorie);
+    return u"SELECT k.KNr, k.Firma, k.Anrede, k.Nachname, k.Vorname, k.Strasse, k.PLZ, k.Ort, k.Tel1, "_s
+           u"k.Tel2, k.Fax, k.Mobil, k.GebDatum, "_s +
+           (istMitglied(kategorie) ? u"m.Eintritt, k.EMail"_s : u"k.EMail"_s) + herkunft(kategorie);
 }
 
-QString anzahlabfrage(qint32 kategorie) { return u"SELECT COUNT(k.KNr)"_qs + herkunft(kategorie); }
+QString anzahlabfrage(qint32 kategorie) { return u"SELECT COUNT(k.KNr)"_s + herkunft(kategorie); }
 
 QString leermeldung(qint32 kategorie) {
     if (kategorie == aktiv)
-        return u"ACHTUNG: Kategorie - Mitglieder (aktiv) - enthält noch keine Mitgliederdaten !"_qs;
+        return u"ACHTUNG: Kategorie - Mitglieder (aktiv) - enthält noch keine Mitgliederdaten !"_s;
     if (kategorie == passiv)
-        return u"ACHTUNG: Kategorie - Mitglieder (passiv) - enthält noch keine Mitgliederdaten !"_qs;
-    return u"ACHTUNG: Kontakt - Kategorie - "_qs + ErmittleKategoName(kategorie) +
-           u" - enthält noch keine Kontaktdaten !"_qs;
+        return u"ACHTUNG: Kategorie - Mitglieder (passiv) - enthält noch keine Mitgliederdaten !"_s;
+    return u"ACHTUNG: Kontakt - Kategorie - "_s + ErmittleKategoName(kategorie) +
+           u" - enthält noch keine Kontaktdaten !"_s;
 }
 
 void meldeLeereKategorie(qint32 kategorie) {
     MsgBox(leermeldung(kategorie) +
-               u"\n\rKategorie wird daher bei der Erzeugung der Serienbriefdatei übergangen !"_qs,
+               u"\n\rKategorie wird daher bei der Erzeugung der Serienbriefdatei übergangen !"_s,
            vbInformation);
 }
 
 void schreibeKopf(CsvDatei& datei) {
     for (const QString& kopf :
-         {u"Mitgl.-Nr"_qs, u"Firma"_qs, u"Anrede"_qs, u"Nachname"_qs, u"Vorname"_qs, u"Strasse"_qs, u"PLZ"_qs,
-          u"Ort"_qs, u"Telefon [privat]"_qs, u"Telefon [geschftl.]"_qs, u"Fax"_qs, u"Mobil"_qs,
-          u"Geb.-Datum"_qs, u"Eintritt"_qs, u"EMail"_qs})
+         {u"Mitgl.-Nr"_s, u"Firma"_s, u"Anrede"_s, u"Nachname"_s, u"Vorname"_s, u"Strasse"_s, u"PLZ"_s,
+          u"Ort"_s, u"Telefon [privat]"_s, u"Telefon [geschftl.]"_s, u"Fax"_s, u"Mobil"_s, u"Geb.-Datum"_s,
+          u"Eintritt"_s, u"EMail"_s})
         datei.writeHead(kopf);
     datei.endLine();
 }
@@ -86,14 +88,14 @@ void schreibeKategorie(CsvDatei& datei, DataTable& uebersicht, int zeile) {
     Recordset kontakte = oeffneAbfrage(datenabfrage(kategorie));
     Recordset zaehlung = oeffneAbfrage(anzahlabfrage(kategorie));
     if (zaehlung.RecordCount() != 1) return;
-    if (hatGezaehlt(zaehlung.Collect(u"Expr1000"_qs)))
+    if (hatGezaehlt(zaehlung.Collect(u"Expr1000"_s)))
         schreibeKontakte(datei, kontakte, istMitglied(kategorie));
     else
         meldeLeereKategorie(kategorie);
 }
 
 void schreibeDatei(DataTable& uebersicht) {
-    CsvDatei datei(SeqData::path(programFolder(), u"SERI.txt"_qs));
+    CsvDatei datei(SeqData::path(programFolder(), u"SERI.txt"_s));
     schreibeKopf(datei);
     uebersicht.enter({}); // a press may have left a child table current
     for (int zeile = 0; zeile < uebersicht.rowCount(); ++zeile)
@@ -101,7 +103,7 @@ void schreibeDatei(DataTable& uebersicht) {
     datei.close();
 }
 
-void meldeKeinWord() { MsgBox(u"Es ist kein Word verfügbar !"_qs, vbInformation); }
+void meldeKeinWord() { MsgBox(u"Es ist kein Word verfügbar !"_s, vbInformation); }
 
 /// Null after the box that says there is none.
 std::unique_ptr<WordProcessor> erreicheWord() {
@@ -114,7 +116,7 @@ std::unique_ptr<WordProcessor> erreicheWord() {
 }
 
 MailMergeSource datenquelle() {
-    return {.name = SeqData::path(programFolder(), u"SERI.txt"_qs),
+    return {.name = SeqData::path(programFolder(), u"SERI.txt"_s),
             .confirmConversions = false,
             .readOnly = false,
             .linkToSource = true,
@@ -131,22 +133,22 @@ MailMergeSource datenquelle() {
 }
 
 void schreibeAnschrift(WordProcessor& word) {
-    word.typeText(u"An"_qs);
+    word.typeText(u"An"_s);
     word.typeParagraph();
-    word.insertField(u"Firma"_qs);
+    word.insertField(u"Firma"_s);
     word.typeParagraph();
-    word.insertField(u"Anrede"_qs);
-    word.typeText(u" "_qs);
-    word.insertField(u"Vorname"_qs);
-    word.typeText(u" "_qs);
-    word.insertField(u"Nachname"_qs);
+    word.insertField(u"Anrede"_s);
+    word.typeText(u" "_s);
+    word.insertField(u"Vorname"_s);
+    word.typeText(u" "_s);
+    word.insertField(u"Nachname"_s);
     word.typeParagraph();
-    word.insertField(u"Strasse"_qs);
+    word.insertField(u"Strasse"_s);
     word.typeParagraph();
     word.typeParagraph();
-    word.insertField(u"PLZ"_qs);
-    word.typeText(u" "_qs);
-    word.insertField(u"Ort"_qs);
+    word.insertField(u"PLZ"_s);
+    word.typeText(u" "_s);
+    word.insertField(u"Ort"_s);
 }
 
 /// False after the box that tells why the letter could not be stored.
@@ -155,8 +157,8 @@ bool vollende(WordProcessor& word, const QString& datendatei) {
     try {
         hinweis = word.complete();
     } catch (const RuntimeError& error) {
-        MsgBox(u"Der Serienbrief konnte nicht im Ordner der Datendatei angelegt werden:\r\n"_qs +
-                   QDir::toNativeSeparators(QFileInfo(datendatei).dir().path()) + u"\r\n"_qs +
+        MsgBox(u"Der Serienbrief konnte nicht im Ordner der Datendatei angelegt werden:\r\n"_s +
+                   QDir::toNativeSeparators(QFileInfo(datendatei).dir().path()) + u"\r\n"_s +
                    error.description,
                vbCritical);
         return false;
@@ -183,17 +185,17 @@ void beginneBrief(WordProcessor& word) {
 
 void ErzeugeSeriendatei() {
     try {
-        schreibeDatei(*screen<KontaktUebers>().tblKUebers);
+        schreibeDatei(*the<KontaktUebers>().tblKUebers);
     } catch (const RuntimeError&) {
-        MsgBox(u"ACHTUNG: Ein unerwarteter Fehler trat beim Erzeugen der Datei - SERI.txt - auf !\r\n"_qs
-               u"Bitte überprüfen Sie ob noch genug Speicher auf den Datenträger verfügbar ist."_qs,
+        MsgBox(u"ACHTUNG: Ein unerwarteter Fehler trat beim Erzeugen der Datei - SERI.txt - auf !\r\n"_s
+               u"Bitte überprüfen Sie ob noch genug Speicher auf den Datenträger verfügbar ist."_s,
                vbCritical);
         return;
     }
-    MsgBox(u" - SERI.txt - wurde erfolgreich im Pfad: ..\\uferwart\\seqdata\\ erstellt !"_qs, vbInformation);
-    if (modRun::frage(u"Möchten Sie jetzt Word starten ? Dabei wird Ihnen von Uferwart automatisch ein "_qs
-                      u"Std.- Serienbrief Dokument\n\r"_qs
-                      u"erstellt. Möchten Sie Word starten um einen Seriendruck zu erstellen ? "_qs))
+    MsgBox(u" - SERI.txt - wurde erfolgreich im Pfad: ..\\uferwart\\seqdata\\ erstellt !"_s, vbInformation);
+    if (modRun::frage(u"Möchten Sie jetzt Word starten ? Dabei wird Ihnen von Uferwart automatisch ein "_s
+                      u"Std.- Serienbrief Dokument\n\r"_s
+                      u"erstellt. Möchten Sie Word starten um einen Seriendruck zu erstellen ? "_s))
         StarteWordSerienbrief();
 }
 

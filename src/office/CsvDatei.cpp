@@ -10,6 +10,8 @@
 #include <array>
 #include <charconv>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int bufferSize = 64 * 1024;
@@ -32,11 +34,11 @@ void appendEncoded(std::string& buffer, QStringView text) {
 
 /// Assumes that the office program is running if the platform has no /proc.
 bool isOfficeRunning() {
-    const QDir processes(u"/proc"_qs);
-    if (!processes.exists(u"self"_qs)) return true;
+    const QDir processes(u"/proc"_s);
+    if (!processes.exists(u"self"_s)) return true;
     const QStringList numbers = processes.entryList(QDir::Dirs | QDir::NoDotAndDotDot);
     return std::any_of(numbers.begin(), numbers.end(), [&](const QString& number) {
-        QFile name(processes.filePath(number + u"/comm"_qs));
+        QFile name(processes.filePath(number + u"/comm"_s));
         return name.open(QIODevice::ReadOnly) && name.readAll().startsWith("soffice");
     });
 }
@@ -45,7 +47,7 @@ bool isOfficeRunning() {
 /// content. A lock left by a crash must not block the file for ever.
 bool isHeldOpen(const QString& path) {
     const QFileInfo file(path);
-    return QFileInfo::exists(file.path() + u"/.~lock."_qs + file.fileName() + u'#') && isOfficeRunning();
+    return QFileInfo::exists(file.path() + u"/.~lock."_s + file.fileName() + u'#') && isOfficeRunning();
 }
 
 } // namespace

@@ -5,6 +5,8 @@
 #include <QProcess>
 #include <QStandardPaths>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class Calc final : public Spreadsheet {
@@ -32,12 +34,12 @@ std::unique_ptr<Spreadsheet> LibreOfficeCalc::running() {
 }
 
 std::unique_ptr<Spreadsheet> LibreOfficeCalc::start() {
-    const QString program = QStandardPaths::findExecutable(u"soffice"_qs);
+    const QString program = QStandardPaths::findExecutable(u"soffice"_s);
     if (program.isEmpty()) throw runtimeError(RuntimeError::programNotReached);
     return std::make_unique<Calc>(program);
 }
 
 QStringList LibreOfficeCalc::arguments(const QString& fileName) {
-    return {u"--calc"_qs, u"--infilter=Text - txt - csv (StarCalc):59,,1,1,,1031,true,true,,,,,false"_qs,
+    return {u"--calc"_s, u"--infilter=Text - txt - csv (StarCalc):59,,1,1,,1031,true,true,,,,,false"_s,
             fileName};
 }

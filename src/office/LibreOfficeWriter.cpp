@@ -9,6 +9,8 @@
 #include <QSaveFile>
 #include <QStandardPaths>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 bool holds(const QString& path, const QByteArray& content) {
@@ -25,10 +27,10 @@ void write(const QString& path, const QByteArray& content) {
 
 /// Writes the letter unless a file with just this content exists. Returns the path. Overwrites no file.
 QString storedLetter(const QDir& folder, const QByteArray& letter) {
-    QString path = folder.filePath(u"Serienbrief.odt"_qs);
+    QString path = folder.filePath(u"Serienbrief.odt"_s);
     for (int number = 2; QFileInfo::exists(path); ++number) {
         if (holds(path, letter)) return path;
-        path = folder.filePath(u"Serienbrief %1.odt"_qs.arg(number));
+        path = folder.filePath(u"Serienbrief %1.odt"_s.arg(number));
     }
     write(path, letter);
     return path;
@@ -38,22 +40,22 @@ QString storedLetter(const QDir& folder, const QByteArray& letter) {
 /// installation without that base is divided differently and counts as complete.
 bool lacksDatabasePart(const QString& program) {
     const QDir parts = QFileInfo(QFileInfo(program).canonicalFilePath()).dir();
-    return parts.exists(u"libfilelo.so"_qs) &&
-           !(parts.exists(u"libflatlo.so"_qs) && parts.exists(u"libdbalo.so"_qs) &&
-             parts.exists(u"libdbaxmllo.so"_qs));
+    return parts.exists(u"libfilelo.so"_s) &&
+           !(parts.exists(u"libflatlo.so"_s) && parts.exists(u"libdbalo.so"_s) &&
+             parts.exists(u"libdbaxmllo.so"_s));
 }
 
 /// LibreOffice without Writer can't open a letter.
 bool lacksWriter(const QString& program) {
     const QDir parts = QFileInfo(QFileInfo(program).canonicalFilePath()).dir();
-    return parts.exists(u"libfilelo.so"_qs) && !parts.exists(u"libswlo.so"_qs);
+    return parts.exists(u"libfilelo.so"_s) && !parts.exists(u"libswlo.so"_s);
 }
 
 QString lackOfDatabasePart(const QString& letter) {
-    return u"Ihrem LibreOffice fehlt der Datenbankteil (Base). Ohne ihn kann der Serienbrief zwar "_qs
-           u"bearbeitet, aber nicht mit den Daten zusammengeführt werden.\r\n"_qs
-           u"Bitte installieren Sie LibreOffice Base (unter Debian und Ubuntu das Paket libreoffice-base) "_qs
-           u"und öffnen Sie danach den Serienbrief noch einmal:\r\n"_qs +
+    return u"Ihrem LibreOffice fehlt der Datenbankteil (Base). Ohne ihn kann der Serienbrief zwar "_s
+           u"bearbeitet, aber nicht mit den Daten zusammengeführt werden.\r\n"_s
+           u"Bitte installieren Sie LibreOffice Base (unter Debian und Ubuntu das Paket libreoffice-base) "_s
+           u"und öffnen Sie danach den Serienbrief noch einmal:\r\n"_s +
            QDir::toNativeSeparators(letter);
 }
 
@@ -98,7 +100,7 @@ std::unique_ptr<WordProcessor> LibreOfficeWriter::running() {
 }
 
 std::unique_ptr<WordProcessor> LibreOfficeWriter::start() {
-    const QString program = QStandardPaths::findExecutable(u"soffice"_qs);
+    const QString program = QStandardPaths::findExecutable(u"soffice"_s);
     if (program.isEmpty() || lacksWriter(program)) throw runtimeError(RuntimeError::programNotReached);
     return std::make_unique<Writer>(program);
 }

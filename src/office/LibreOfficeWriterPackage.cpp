@@ -6,6 +6,8 @@
 #include <memory>
 #include <zip.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void require(bool succeeded) {
@@ -68,19 +70,19 @@ private:
 constexpr const char* manifestNamespace = "urn:oasis:names:tc:opendocument:xmlns:manifest:1.0";
 
 void writeEntry(QXmlStreamWriter& xml, const QString& path, const QString& mediaType) {
-    xml.writeEmptyElement(u"manifest:file-entry"_qs);
-    xml.writeAttribute(u"manifest:full-path"_qs, path);
-    xml.writeAttribute(u"manifest:media-type"_qs, mediaType);
+    xml.writeEmptyElement(u"manifest:file-entry"_s);
+    xml.writeAttribute(u"manifest:full-path"_s, path);
+    xml.writeAttribute(u"manifest:media-type"_s, mediaType);
 }
 
 QByteArray manifest(const QByteArray& mediaType, const std::vector<PackagePart>& parts) {
     QByteArray bytes;
     QXmlStreamWriter xml(&bytes);
     xml.writeStartDocument();
-    xml.writeStartElement(u"manifest:manifest"_qs);
-    xml.writeAttribute(u"xmlns:manifest"_qs, QLatin1String(manifestNamespace));
-    xml.writeAttribute(u"manifest:version"_qs, u"1.3"_qs);
-    writeEntry(xml, u"/"_qs, QString::fromLatin1(mediaType));
+    xml.writeStartElement(u"manifest:manifest"_s);
+    xml.writeAttribute(u"xmlns:manifest"_s, QLatin1String(manifestNamespace));
+    xml.writeAttribute(u"manifest:version"_s, u"1.3"_s);
+    writeEntry(xml, u"/"_s, QString::fromLatin1(mediaType));
     for (const PackagePart& part : parts)
         writeEntry(xml, QString::fromLatin1(part.name), QString::fromLatin1(part.mediaType));
     xml.writeEndDocument();
@@ -88,16 +90,16 @@ QByteArray manifest(const QByteArray& mediaType, const std::vector<PackagePart>&
 }
 
 void writeNamespaces(QXmlStreamWriter& xml) {
-    const QString odf = u"urn:oasis:names:tc:opendocument:xmlns:%1:1.0"_qs;
-    xml.writeAttribute(u"xmlns:office"_qs, odf.arg(u"office"_qs));
-    xml.writeAttribute(u"xmlns:text"_qs, odf.arg(u"text"_qs));
-    xml.writeAttribute(u"xmlns:style"_qs, odf.arg(u"style"_qs));
-    xml.writeAttribute(u"xmlns:fo"_qs, odf.arg(u"xsl-fo-compatible"_qs));
-    xml.writeAttribute(u"xmlns:svg"_qs, odf.arg(u"svg-compatible"_qs));
-    xml.writeAttribute(u"xmlns:config"_qs, odf.arg(u"config"_qs));
-    xml.writeAttribute(u"xmlns:db"_qs, odf.arg(u"database"_qs));
-    xml.writeAttribute(u"xmlns:ooo"_qs, u"http://openoffice.org/2004/office"_qs);
-    xml.writeAttribute(u"xmlns:xlink"_qs, u"http://www.w3.org/1999/xlink"_qs);
+    const QString odf = u"urn:oasis:names:tc:opendocument:xmlns:%1:1.0"_s;
+    xml.writeAttribute(u"xmlns:office"_s, odf.arg(u"office"_s));
+    xml.writeAttribute(u"xmlns:text"_s, odf.arg(u"text"_s));
+    xml.writeAttribute(u"xmlns:style"_s, odf.arg(u"style"_s));
+    xml.writeAttribute(u"xmlns:fo"_s, odf.arg(u"xsl-fo-compatible"_s));
+    xml.writeAttribute(u"xmlns:svg"_s, odf.arg(u"svg-compatible"_s));
+    xml.writeAttribute(u"xmlns:config"_s, odf.arg(u"config"_s));
+    xml.writeAttribute(u"xmlns:db"_s, odf.arg(u"database"_s));
+    xml.writeAttribute(u"xmlns:ooo"_s, u"http://openoffice.org/2004/office"_s);
+    xml.writeAttribute(u"xmlns:xlink"_s, u"http://www.w3.org/1999/xlink"_s);
 }
 
 } // namespace
@@ -108,7 +110,7 @@ QByteArray packageXml(const QString& root, const std::function<void(QXmlStreamWr
     xml.writeStartDocument();
     xml.writeStartElement(root);
     writeNamespaces(xml);
-    xml.writeAttribute(u"office:version"_qs, u"1.3"_qs);
+    xml.writeAttribute(u"office:version"_s, u"1.3"_s);
     fill(xml);
     xml.writeEndDocument();
     return bytes;

@@ -2,6 +2,8 @@
 
 #include "ReportPaper.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int bodyWidth = ReportPaper::bodyWidth;
@@ -41,10 +43,10 @@ constexpr QRgb grey = 0xff505866;
 } // namespace
 
 Briefkopf::Briefkopf(Report& report)
-    : m_head(report.section(u"Section2"_qs))
-    , m_detail(report.section(u"Section1"_qs))
-    , m_foot(report.section(u"Section3"_qs))
-    , m_summary(report.section(u"Section5"_qs))
+    : m_head(report.section(u"Section2"_s))
+    , m_detail(report.section(u"Section1"_s))
+    , m_foot(report.section(u"Section3"_s))
+    , m_summary(report.section(u"Section5"_s))
     , m_tablePoints(bodyPoints)
     , m_cellPadding(cellPadding)
     , m_rowHeight(rowHeight) {
@@ -53,20 +55,20 @@ Briefkopf::Briefkopf(Report& report)
 }
 
 void Briefkopf::addAddress() {
-    m_head.addLabel(u"Label13"_qs, u"Anschrift:"_qs, {0, 0, addressBreadth, 54})
+    m_head.addLabel(u"Label13"_s, u"Anschrift:"_s, {0, 0, addressBreadth, 54})
         .points(11)
         .bold()
         .ink(clubBlue);
     constexpr int codeEnd = captionBreadth + codeBreadth;
-    addAddressLine(u"Label10"_qs, u"Name   :"_qs, 0);
-    addAddressValue(u"lblVerein"_qs, 0, captionBreadth, addressBreadth).bold();
-    addAddressLine(u"Label11"_qs, u"Strasse :"_qs, 1);
-    addAddressValue(u"lblStrasse"_qs, 1, captionBreadth, addressBreadth);
-    addAddressLine(u"Label12"_qs, u"PLZ /Ort:"_qs, 2);
-    addAddressValue(u"lblPLZ"_qs, 2, captionBreadth, codeEnd).growing(leastCodePoints);
-    addAddressValue(u"lblOrt"_qs, 2, codeEnd + codeSpace, addressBreadth);
-    addAddressLine(u"Label15"_qs, u"Tel         :"_qs, 3);
-    addAddressValue(u"lblTelefon"_qs, 3, captionBreadth, addressBreadth);
+    addAddressLine(u"Label10"_s, u"Name   :"_s, 0);
+    addAddressValue(u"lblVerein"_s, 0, captionBreadth, addressBreadth).bold();
+    addAddressLine(u"Label11"_s, u"Strasse :"_s, 1);
+    addAddressValue(u"lblStrasse"_s, 1, captionBreadth, addressBreadth);
+    addAddressLine(u"Label12"_s, u"PLZ /Ort:"_s, 2);
+    addAddressValue(u"lblPLZ"_s, 2, captionBreadth, codeEnd).growing(leastCodePoints);
+    addAddressValue(u"lblOrt"_s, 2, codeEnd + codeSpace, addressBreadth);
+    addAddressLine(u"Label15"_s, u"Tel         :"_s, 3);
+    addAddressValue(u"lblTelefon"_s, 3, captionBreadth, addressBreadth);
 }
 
 void Briefkopf::addCaption(const QString& label, const QString& caption, const QRect& place) {
@@ -84,7 +86,7 @@ ReportControl& Briefkopf::addAddressValue(const QString& value, int line, int le
 
 void Briefkopf::addFooter() {
     m_foot.setHeight(footHeight);
-    m_foot.addLabel(u"Label9"_qs, u"Seite %p von %P (gedruckt am %d)"_qs, {0, footHeight - 44, bodyWidth, 44})
+    m_foot.addLabel(u"Label9"_s, u"Seite %p von %P (gedruckt am %d)"_s, {0, footHeight - 44, bodyWidth, 44})
         .points(8.5)
         .align(ReportControl::Align::Right)
         .ink(grey)
@@ -121,18 +123,18 @@ void Briefkopf::addColumns(std::initializer_list<ReportColumn> columns) {
     if (whole <= 0) return; // no column, no table
     m_head.setHeight(headTop + headHeight);
     m_detail.setHeight(m_rowHeight);
-    m_head.addShape(u"Shape1"_qs, {0, headTop, bodyWidth, headHeight}).ground(paleBlue).ink(clubBlue);
+    m_head.addShape(u"Shape1"_s, {0, headTop, bodyWidth, headHeight}).ground(paleBlue).ink(clubBlue);
     int passed = 0;
     int number = 0;
     for (const ReportColumn& column : columns) {
         const int left = bodyWidth * passed / whole + m_cellPadding;
         passed += column.breadth;
         const int width = bodyWidth * passed / whole - m_cellPadding - left;
-        addColumn(column, u"Text%1"_qs.arg(++number), left, width);
+        addColumn(column, u"Text%1"_s.arg(++number), left, width);
     }
-    m_detail.addLine(u"Line1"_qs, {0, m_rowHeight, bodyWidth, 0}).ink(faint).breadth(1).closing(clubBlue);
-    m_detail.addLine(u"Line2"_qs, {0, 0, 0, m_rowHeight}).ink(clubBlue);
-    m_detail.addLine(u"Line3"_qs, {bodyWidth, 0, 0, m_rowHeight}).ink(clubBlue);
+    m_detail.addLine(u"Line1"_s, {0, m_rowHeight, bodyWidth, 0}).ink(faint).breadth(1).closing(clubBlue);
+    m_detail.addLine(u"Line2"_s, {0, 0, 0, m_rowHeight}).ink(clubBlue);
+    m_detail.addLine(u"Line3"_s, {bodyWidth, 0, 0, m_rowHeight}).ink(clubBlue);
 }
 
 void Briefkopf::addColumn(const ReportColumn& column, const QString& text, int left, int width) {
@@ -192,7 +194,7 @@ ReportControl& Briefkopf::addSum(const QString& label, const QString& caption, c
     return m_summary.addSum(sum, place)
         .points(bodyPoints)
         .bold()
-        .format(u"#.##0"_qs)
+        .format(u"#.##0"_s)
         .align(ReportControl::Align::Right);
 }
 
@@ -210,6 +212,6 @@ void Briefkopf::addSummaryRule(const QString& name) {
 }
 
 void Briefkopf::addListDescription() {
-    addSummary(u"Label16"_qs, u"Anzahl der Mitglieder     :"_qs, u"lblGefDS"_qs);
-    addSummary(u"Label17"_qs, u"Listenbeschreibung:"_qs, u"lblInfo"_qs);
+    addSummary(u"Label16"_s, u"Anzahl der Mitglieder     :"_s, u"lblGefDS"_s);
+    addSummary(u"Label17"_s, u"Listenbeschreibung:"_s, u"lblInfo"_s);
 }

@@ -13,6 +13,8 @@
 #include "Stage.h"
 #include "Vorschau.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The rows of a staging table as the source of a report.
@@ -68,21 +70,20 @@ bool fuelle(ErrorTail& step, const Druckauftrag& auftrag, Recordset& rows) {
 
 void setzeAnschrift(ErrorTail& step, Report& report) {
     auto line = session().Anschrift.begin();
-    for (const QString& label :
-         {u"lblVerein"_qs, u"lblStrasse"_qs, u"lblPLZ"_qs, u"lblOrt"_qs, u"lblTelefon"_qs})
-        step([&] { report.control(u"Section2"_qs, label).setCaption(*line++); });
+    for (const QString& label : {u"lblVerein"_s, u"lblStrasse"_s, u"lblPLZ"_s, u"lblOrt"_s, u"lblTelefon"_s})
+        step([&] { report.control(u"Section2"_s, label).setCaption(*line++); });
 }
 
 void gibAus(ErrorTail& step, Hourglass& hourglass, const std::shared_ptr<Report>& report,
             const QString& wort) {
-    if (wort == u"drucken"_qs) {
+    if (wort == u"drucken"_s) {
         step([&] { printAfterDialog(*report->document()); });
-    } else if (wort == u"vorschau"_qs) {
+    } else if (wort == u"vorschau"_s) {
         hourglass.end();
-        step([&] { rahmen()->binde(screen<Vorschau>()); });
+        step([&] { rahmen()->binde(the<Vorschau>()); });
         step([&] {
             const auto document = report->document();
-            screen<Vorschau>().zeige(document, report);
+            the<Vorschau>().zeige(document, report);
         });
     }
 }
@@ -91,7 +92,7 @@ void stelleDar(ErrorTail& step, const Druckauftrag& auftrag, Recordset& rows, co
                Hourglass& hourglass) {
     if (step.test([] { return printDialogs().printerCount() <= 0; })) {
         hourglass.leave();
-        MsgBox(u"ACHTUNG: Kein Drucker installiert, Vorgang wird abgebrochen !"_qs, vbInformation);
+        MsgBox(u"ACHTUNG: Kein Drucker installiert, Vorgang wird abgebrochen !"_s, vbInformation);
         return;
     }
     const std::shared_ptr<Report> report = auftrag.report();
@@ -118,7 +119,7 @@ void drucke(const Druckauftrag& auftrag, const QString& wort) {
             hourglass.end();
             step([&] { rows.Close(); });
             step([&] { connection.Close(); });
-            MsgBox(u"Keine Daten zum Drucken vorhanden, Vorgang wird abgebrochen !"_qs, vbInformation);
+            MsgBox(u"Keine Daten zum Drucken vorhanden, Vorgang wird abgebrochen !"_s, vbInformation);
             return;
         }
         // A refused write restores the rows of the last run, perhaps those of another member.

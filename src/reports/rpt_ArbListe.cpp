@@ -1,25 +1,27 @@
 #include "Berichte.h"
 #include "Briefkopf.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 Berichte::Bericht makeArbListe() {
     using Align = ReportControl::Align;
-    auto report = std::make_shared<Report>(u"Arbeitsliste"_qs);
+    auto report = std::make_shared<Report>(u"Arbeitsliste"_s);
     Briefkopf face(*report);
-    face.addTitle(u"lblUebSchrift"_qs, Berichte::titelArbListe());
-    face.addColumns({{u"Label1"_qs, u"Arb.-Nr:"_qs, 30, Align::Right},
-                     {u"Label2"_qs, u"Geleistete Arb.-Std:"_qs, 60, Align::Right, u"#.##0,00"_qs},
-                     {u"Label3"_qs, u"Datum:"_qs, 80, Align::Centre, u"dd.MM.yyyy"_qs}});
-    face.addSummaryHeading(u"Label4"_qs, u"Mitglied:"_qs);
-    face.addSummary(u"Label5"_qs, u"Name       :"_qs, u"lblNName"_qs).bold();
-    face.addSummary(u"Label6"_qs, u"Vorname:"_qs, u"lblVName"_qs).bold();
-    face.addSummary(u"Label7"_qs, u"Mitgl.-Nr  :"_qs, u"lblMitglNr"_qs);
-    face.addSummaryHeading(u"Label8"_qs, u"Endaufstellung:"_qs);
-    face.addNumber(u"Label14"_qs, u"Ges.-Std. geleistet:"_qs, u"lblGesStd"_qs);
-    face.addNumber(u"Label16"_qs, u"-                   Pfl.-Std:"_qs, u"lblPflStd"_qs);
-    face.addSummaryRule(u"Line4"_qs);
-    face.addNumber(u"Label17"_qs, u" Erg. SOLL / HABEN:"_qs, u"lblSollHaben"_qs).bold();
+    face.addTitle(u"lblUebSchrift"_s, Berichte::titelArbListe());
+    face.addColumns({{u"Label1"_s, u"Arb.-Nr:"_s, 30, Align::Right},
+                     {u"Label2"_s, u"Geleistete Arb.-Std:"_s, 60, Align::Right, u"#.##0,00"_s},
+                     {u"Label3"_s, u"Datum:"_s, 80, Align::Centre, u"dd.MM.yyyy"_s}});
+    face.addSummaryHeading(u"Label4"_s, u"Mitglied:"_s);
+    face.addSummary(u"Label5"_s, u"Name       :"_s, u"lblNName"_s).bold();
+    face.addSummary(u"Label6"_s, u"Vorname:"_s, u"lblVName"_s).bold();
+    face.addSummary(u"Label7"_s, u"Mitgl.-Nr  :"_s, u"lblMitglNr"_s);
+    face.addSummaryHeading(u"Label8"_s, u"Endaufstellung:"_s);
+    face.addNumber(u"Label14"_s, u"Ges.-Std. geleistet:"_s, u"lblGesStd"_s);
+    face.addNumber(u"Label16"_s, u"-                   Pfl.-Std:"_s, u"lblPflStd"_s);
+    face.addSummaryRule(u"Line4"_s);
+    face.addNumber(u"Label17"_s, u" Erg. SOLL / HABEN:"_s, u"lblSollHaben"_s).bold();
     return report;
 }
 
@@ -27,7 +29,7 @@ Berichte::Bericht makeArbListe() {
 
 namespace Berichte {
 
-QString titelArbListe() { return u"Arbeitsliste [Einzelaufstellung] für Jahr"_qs; }
+QString titelArbListe() { return u"Arbeitsliste [Einzelaufstellung] für Jahr"_s; }
 
 Bericht rpt_ArbListe() { return bericht(&makeArbListe); }
 

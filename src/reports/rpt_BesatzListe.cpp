@@ -1,18 +1,20 @@
 #include "Berichte.h"
 #include "Briefkopf.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 Berichte::Bericht makeBesatzListe() {
     using Align = ReportControl::Align;
-    auto report = std::make_shared<Report>(u"Besatz - Plan"_qs);
+    auto report = std::make_shared<Report>(u"Besatz - Plan"_s);
     Briefkopf face(*report);
-    face.addTitle(u"lblUeb"_qs, u"Besatz - Plan"_qs);
-    face.addColumns({{u"Label1"_qs, u"B-Nr:"_qs, 15, Align::Right},
-                     {u"Label2"_qs, u"Fischart:"_qs, 47},
-                     {u"Label3"_qs, u"Gewässer:"_qs, 50},
-                     {u"Label4"_qs, u"Zeitpunkt:"_qs, 51},
-                     {u"Label5"_qs, u"Menge i. Kg:"_qs, 27, Align::Right, u"0,00"_qs}});
+    face.addTitle(u"lblUeb"_s, u"Besatz - Plan"_s);
+    face.addColumns({{u"Label1"_s, u"B-Nr:"_s, 15, Align::Right},
+                     {u"Label2"_s, u"Fischart:"_s, 47},
+                     {u"Label3"_s, u"Gewässer:"_s, 50},
+                     {u"Label4"_s, u"Zeitpunkt:"_s, 51},
+                     {u"Label5"_s, u"Menge i. Kg:"_s, 27, Align::Right, u"0,00"_s}});
     return report;
 }
 

@@ -1,30 +1,32 @@
 #include "Berichte.h"
 #include "Briefkopf.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 Berichte::Bericht makeFangliste() {
     using Align = ReportControl::Align;
-    auto report = std::make_shared<Report>(u"Fangliste"_qs);
+    auto report = std::make_shared<Report>(u"Fangliste"_s);
     Briefkopf face(*report);
-    face.addTitle(u"Label8"_qs, u"Fangliste"_qs);
-    face.addSetting(u"Label23"_qs, u"Fangjahr    :"_qs, u"lblFJahr"_qs);
-    face.addSetting(u"Label24"_qs, u"Fangmonat:"_qs, u"lblFMonat"_qs);
-    face.addColumns({{u"Label1"_qs, u"FangNr:"_qs, 19, Align::Right},
-                     {u"Label2"_qs, u"Fischart:"_qs, 42},
-                     {u"Label3"_qs, u"Gewässer:"_qs, 45},
-                     {u"Label4"_qs, u"Monat:"_qs, 24},
-                     {u"Label5"_qs, u"Fangjahr:"_qs, 21, Align::Right},
-                     {u"Label6"_qs, u"Anzahl:"_qs, 18, Align::Right},
-                     {u"Label7"_qs, u"Gewicht:"_qs, 21, Align::Right}});
-    face.addSummaryHeading(u"Label14"_qs, u"Endaufstellung:"_qs);
-    face.addSum(u"Label16"_qs, u"Fischanzahl [gesamt]    :"_qs, u"SumAnzahl"_qs);
-    face.addSum(u"Label17"_qs, u"Fischgewicht [gesamt] :"_qs, u"SumGewicht"_qs);
-    face.addUnit(u"Label18"_qs, u"i.Gramm"_qs);
-    face.addSummaryHeading(u"Label19"_qs, u"Settings der Fangliste:"_qs);
-    face.addSummary(u"Label20"_qs, u"gewählte Fischart        :"_qs, u"lblFischart"_qs);
-    face.addSummary(u"Label21"_qs, u"gewähltes Gewässer :"_qs, u"lblGewässer"_qs);
-    face.addSummary(u"Label22"_qs, u"Anzahl d. gef. Einträge:"_qs, u"lblGefDS"_qs);
+    face.addTitle(u"Label8"_s, u"Fangliste"_s);
+    face.addSetting(u"Label23"_s, u"Fangjahr    :"_s, u"lblFJahr"_s);
+    face.addSetting(u"Label24"_s, u"Fangmonat:"_s, u"lblFMonat"_s);
+    face.addColumns({{u"Label1"_s, u"FangNr:"_s, 19, Align::Right},
+                     {u"Label2"_s, u"Fischart:"_s, 42},
+                     {u"Label3"_s, u"Gewässer:"_s, 45},
+                     {u"Label4"_s, u"Monat:"_s, 24},
+                     {u"Label5"_s, u"Fangjahr:"_s, 21, Align::Right},
+                     {u"Label6"_s, u"Anzahl:"_s, 18, Align::Right},
+                     {u"Label7"_s, u"Gewicht:"_s, 21, Align::Right}});
+    face.addSummaryHeading(u"Label14"_s, u"Endaufstellung:"_s);
+    face.addSum(u"Label16"_s, u"Fischanzahl [gesamt]    :"_s, u"SumAnzahl"_s);
+    face.addSum(u"Label17"_s, u"Fischgewicht [gesamt] :"_s, u"SumGewicht"_s);
+    face.addUnit(u"Label18"_s, u"i.Gramm"_s);
+    face.addSummaryHeading(u"Label19"_s, u"Settings der Fangliste:"_s);
+    face.addSummary(u"Label20"_s, u"gewählte Fischart        :"_s, u"lblFischart"_s);
+    face.addSummary(u"Label21"_s, u"gewähltes Gewässer :"_s, u"lblGewässer"_s);
+    face.addSummary(u"Label22"_s, u"Anzahl d. gef. Einträge:"_s, u"lblGefDS"_s);
     return report;
 }
 

@@ -21,6 +21,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void ladeBenutzer() {
@@ -33,30 +35,29 @@ void ladeBasis() {
     modBasis::loadTblGBasis();
 }
 
-void ladeFangbuch() { modFangbuch::loadTblFList(screen<Eroef>().pb); }
+void ladeFangbuch() { modFangbuch::loadTblFList(the<Eroef>().pb); }
 
 } // namespace
 
 const std::vector<Bereich>& bereiche() {
-    static const QString system = u"System"_qs;
-    static const QString organisation = u"Organisation"_qs;
+    static const QString system = u"System"_s;
+    static const QString organisation = u"Organisation"_s;
     static const std::vector<Bereich> all = {
-        {Maske::von<Benutzer>(), u"Zugriff"_qs, system, u"Benutzer &&\r\nZugriffsverw."_qs,
-         u"Benutzerverwaltung"_qs, 2, &ladeBenutzer},
-        {Maske::von<System>(), u"Parameter"_qs, system, u"Systempar."_qs, u"System"_qs, 4,
+        {Maske::von<Benutzer>(), u"Zugriff"_s, system, u"Benutzer &&\r\nZugriffsverw."_s,
+         u"Benutzerverwaltung"_s, 2, &ladeBenutzer},
+        {Maske::von<System>(), u"Parameter"_s, system, u"Systempar."_s, u"System"_s, 4,
          &modSystem::loadTblSystem},
-        {Maske::von<Basis>(), u"Basisdaten"_qs, system, u"Basisdaten"_qs, u"Basis"_qs, 1, &ladeBasis},
-        {Maske::von<Fangbuch>(), u"Fangbuch"_qs, organisation, u"Fangbuch"_qs, u"Fangbuch"_qs, 7,
-         &ladeFangbuch},
-        {Maske::von<Fangauswertung>(), u"Fangauswertung"_qs, organisation, u"Fangauswertung"_qs,
-         u"Fangauswertung"_qs},
-        {Maske::von<KontaktUebers>(), u"Kontakte"_qs, organisation, u"Kontakte u.\r\nMitgl."_qs,
-         u"KontUebers"_qs, 3, &modKontakt::FuelleKontaktUebersicht},
-        {Maske::von<Arbeit>(), u"Arbeit"_qs, organisation, u"Arb.-Std.-\r\nControlling"_qs, u"Arbeit"_qs},
-        {Maske::von<Besatzung>(), u"Besatzung"_qs, organisation, u"Besatz.-Liste"_qs, u"Besatz"_qs, 5,
+        {Maske::von<Basis>(), u"Basisdaten"_s, system, u"Basisdaten"_s, u"Basis"_s, 1, &ladeBasis},
+        {Maske::von<Fangbuch>(), u"Fangbuch"_s, organisation, u"Fangbuch"_s, u"Fangbuch"_s, 7, &ladeFangbuch},
+        {Maske::von<Fangauswertung>(), u"Fangauswertung"_s, organisation, u"Fangauswertung"_s,
+         u"Fangauswertung"_s},
+        {Maske::von<KontaktUebers>(), u"Kontakte"_s, organisation, u"Kontakte u.\r\nMitgl."_s,
+         u"KontUebers"_s, 3, &modKontakt::FuelleKontaktUebersicht},
+        {Maske::von<Arbeit>(), u"Arbeit"_s, organisation, u"Arb.-Std.-\r\nControlling"_s, u"Arbeit"_s},
+        {Maske::von<Besatzung>(), u"Besatzung"_s, organisation, u"Besatz.-Liste"_s, u"Besatz"_s, 5,
          &modBesatzList::loadTblBList},
-        {Maske::von<MitglList>(), u"Kontakte"_qs},
-        {Maske::von<Katego>(), u"Kontakte"_qs, {}, {}, {}, 6, &modKatego::loadTblKatego},
+        {Maske::von<MitglList>(), u"Kontakte"_s},
+        {Maske::von<Katego>(), u"Kontakte"_s, {}, {}, {}, 6, &modKatego::loadTblKatego},
     };
     return all;
 }

@@ -12,8 +12,8 @@ struct Maske {
 
     template<typename T>
     static Maske von() {
-        return {[]() -> Screen& { return screen<T>(); },
-                []() -> Screen* { return isLoaded<T>() ? &screen<T>() : nullptr; }};
+        return {[]() -> Screen& { return the<T>(); },
+                []() -> Screen* { return isLoaded<T>() ? &the<T>() : nullptr; }};
     }
 };
 

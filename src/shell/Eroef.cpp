@@ -1,6 +1,6 @@
 #include "Eroef.h"
 
-#include "Face.h"
+#include "Layout.h"
 #include "ProgressBar.h"
 #include "Theme.h"
 
@@ -8,13 +8,15 @@
 #include <QIcon>
 #include <QLabel>
 
+using namespace Qt::StringLiterals;
+
 Eroef::Eroef()
-    : Screen(u"Eroef"_qs, u"Uferwart"_qs) {
+    : Screen(u"Eroef"_s, u"Uferwart"_s) {
     standAlone();
     setWindowFlags(Qt::SplashScreen);
-    Picture1 = Face::label(u"Picture1"_qs, QString(), this);
-    Picture1->setPixmap(Theme::icon(u"eroef"_qs).pixmap(QSize(480, 300), devicePixelRatio()));
-    pb = new ProgressBar(u"pb"_qs, this);
+    Picture1 = Layout::label(u"Picture1"_s, QString(), this);
+    Picture1->setPixmap(Theme::icon(u"eroef"_s).pixmap(QSize(480, 300), devicePixelRatio()));
+    pb = new ProgressBar(u"pb"_s, this);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);

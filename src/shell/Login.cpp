@@ -1,7 +1,7 @@
 #include "Login.h"
 
-#include "Face.h"
 #include "Heading.h"
+#include "Layout.h"
 #include "Main.h"
 #include "Screens.h"
 #include "TextBox.h"
@@ -14,24 +14,26 @@
 #include <QIcon>
 #include <QPushButton>
 
+using namespace Qt::StringLiterals;
+
 Login::Login()
-    : Screen(u"Login"_qs, u"Uferwart - ANMELDUNG -"_qs) {
+    : Screen(u"Login"_s, u"Uferwart - ANMELDUNG -"_s) {
     standAlone();
-    Picture1 = Face::label(u"Picture1"_qs, QString(), this);
-    Picture1->setPixmap(Theme::icon(u"login"_qs).pixmap(QSize(64, 64), devicePixelRatio()));
-    Ueberschrift = new Heading(u"ANMELDUNG"_qs, this);
-    Frame1 = Face::frame(u"Frame1"_qs, QString(), this);
-    lblB = Face::label(u"lblB"_qs, u"Benutername:"_qs, Frame1);
-    txtBenutzer = new TextBox(u"txtBenutzer"_qs, Frame1);
-    lblP = Face::label(u"lblP"_qs, u"Passwort:"_qs, Frame1);
-    txtPassw = new TextBox(u"txtPassw"_qs, Frame1);
+    Picture1 = Layout::label(u"Picture1"_s, QString(), this);
+    Picture1->setPixmap(Theme::icon(u"login"_s).pixmap(QSize(64, 64), devicePixelRatio()));
+    Ueberschrift = new Heading(u"ANMELDUNG"_s, this);
+    Frame1 = Layout::frame(u"Frame1"_s, QString(), this);
+    lblB = Layout::label(u"lblB"_s, u"Benutername:"_s, Frame1);
+    txtBenutzer = new TextBox(u"txtBenutzer"_s, Frame1);
+    lblP = Layout::label(u"lblP"_s, u"Passwort:"_s, Frame1);
+    txtPassw = new TextBox(u"txtPassw"_s, Frame1);
     txtPassw->setEchoMode(QLineEdit::Password);
-    cmdOK = Face::button(u"cmdOK"_qs, u"OK"_qs, this);
-    cmdEsc = Face::button(u"cmdEsc"_qs, u"Abbrechen"_qs, this);
+    cmdOK = Layout::button(u"cmdOK"_s, u"OK"_s, this);
+    cmdEsc = Layout::button(u"cmdEsc"_s, u"Abbrechen"_s, this);
 
     auto* fields = new QGridLayout(Frame1);
-    Face::addField(fields, 0, lblB, txtBenutzer);
-    Face::addField(fields, 1, lblP, txtPassw);
+    Layout::addField(fields, 0, lblB, txtBenutzer);
+    Layout::addField(fields, 1, lblP, txtPassw);
     auto* head = new QHBoxLayout;
     head->addWidget(Picture1);
     head->addWidget(Ueberschrift, 1);
@@ -39,7 +41,7 @@ Login::Login()
     keys->addStretch();
     keys->addWidget(cmdOK);
     keys->addWidget(cmdEsc);
-    auto* column = Face::column(this);
+    auto* column = Layout::column(this);
     column->addLayout(head);
     column->addWidget(Frame1);
     column->addLayout(keys);

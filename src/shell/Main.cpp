@@ -29,6 +29,8 @@
 #include <QMenuBar>
 #include <QShortcut>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QAction* addItem(QMenu* menu, const char* name, const QString& caption) {
@@ -57,13 +59,13 @@ QMenu* popup(QWidget* parent, const char* name, const QString& caption) {
 } // namespace
 
 Main::Main()
-    : Screen(u"Main"_qs, u"Uferwart"_qs) {
+    : Screen(u"Main"_s, u"Uferwart"_s) {
     standAlone();
     setRahmen(this);
     menuBar = new QMenuBar(this);
-    ButtnBar = new NavigationBar(u"ButtnBar"_qs, this);
+    ButtnBar = new NavigationBar(u"ButtnBar"_s, this);
     stage = new Stage(this);
-    StatusBar1 = new StatusBar(u"StatusBar1"_qs, this);
+    StatusBar1 = new StatusBar(u"StatusBar1"_s, this);
     buildMenus();
     buildPanels();
     buildAreaKeys();
@@ -90,19 +92,19 @@ Main::~Main() {
 }
 
 void Main::buildMenus() {
-    mnuDatei = addMenu(menuBar, "mnuDatei", u"&Datei"_qs);
-    mnuBeenden = addItem(mnuDatei, "mnuBeenden", u"&Beenden"_qs);
-    mnuKontMenu_Mitgl = popup(this, "mnuKontMenu_Mitgl", u"Kontextmenü_Mitgl"_qs);
-    mnuArbContr = addItem(mnuKontMenu_Mitgl, "mnuArbContr", u"&Übernahme i. Arb.-Controlling"_qs);
-    mnuMitglInfo = addItem(mnuKontMenu_Mitgl, "mnuMitglInfo", u"&Mitgliederinformationen anzeigen"_qs);
-    mnuKontMenu_FAusw = popup(this, "mnuKontMenu_FAusw", u"Kontextmenü_FAusw"_qs);
-    mnuFangInfo = addItem(mnuKontMenu_FAusw, "mnuFangInfo", u"&Fang anzeigen"_qs);
-    mnuTools = addMenu(menuBar, "mnuTools", u"&Tools"_qs);
-    mnuKomprimiere = addItem(mnuTools, "mnuKomprimiere", u"&Datenbank komprimieren"_qs);
-    mnuRepariere = addItem(mnuTools, "mnuRepariere", u"&Datenbank reparieren"_qs);
-    mnuHilf = addMenu(menuBar, "mnuHilf", u"&?"_qs);
-    mnuHandbuch = addItem(mnuHilf, "mnuHandbuch", u"&Handbuch\tF1"_qs);
-    mnuInfo = addItem(mnuHilf, "mnuInfo", u"&Info"_qs);
+    mnuDatei = addMenu(menuBar, "mnuDatei", u"&Datei"_s);
+    mnuBeenden = addItem(mnuDatei, "mnuBeenden", u"&Beenden"_s);
+    mnuKontMenu_Mitgl = popup(this, "mnuKontMenu_Mitgl", u"Kontextmenü_Mitgl"_s);
+    mnuArbContr = addItem(mnuKontMenu_Mitgl, "mnuArbContr", u"&Übernahme i. Arb.-Controlling"_s);
+    mnuMitglInfo = addItem(mnuKontMenu_Mitgl, "mnuMitglInfo", u"&Mitgliederinformationen anzeigen"_s);
+    mnuKontMenu_FAusw = popup(this, "mnuKontMenu_FAusw", u"Kontextmenü_FAusw"_s);
+    mnuFangInfo = addItem(mnuKontMenu_FAusw, "mnuFangInfo", u"&Fang anzeigen"_s);
+    mnuTools = addMenu(menuBar, "mnuTools", u"&Tools"_s);
+    mnuKomprimiere = addItem(mnuTools, "mnuKomprimiere", u"&Datenbank komprimieren"_s);
+    mnuRepariere = addItem(mnuTools, "mnuRepariere", u"&Datenbank reparieren"_s);
+    mnuHilf = addMenu(menuBar, "mnuHilf", u"&?"_s);
+    mnuHandbuch = addItem(mnuHilf, "mnuHandbuch", u"&Handbuch\tF1"_s);
+    mnuInfo = addItem(mnuHilf, "mnuInfo", u"&Info"_s);
 
     on(mnuBeenden, &QAction::triggered, [](bool) { modEnde::mnuBeenden_Click(); });
     on(mnuKomprimiere, &QAction::triggered, [](bool) { modTools::KomprimiereDatenbank(); });
@@ -118,14 +120,14 @@ void Main::buildMenus() {
 
 void Main::buildPanels() {
     using Style = StatusBar::Style;
-    StatusBar1->addPanel(Style::Date, QString(), u"Datum"_qs);
-    StatusBar1->addPanel(Style::Time, QString(), u"Zeit"_qs);
-    StatusBar1->addPanel(Style::Text, u"Benutzer:"_qs, u"Benutzer:"_qs);
-    StatusBar1->addPanel(Style::Text, QString(), u"Angemeldeter Benutzer"_qs);
+    StatusBar1->addPanel(Style::Date, QString(), u"Datum"_s);
+    StatusBar1->addPanel(Style::Time, QString(), u"Zeit"_s);
+    StatusBar1->addPanel(Style::Text, u"Benutzer:"_s, u"Benutzer:"_s);
+    StatusBar1->addPanel(Style::Text, QString(), u"Angemeldeter Benutzer"_s);
     StatusBar1->addPanel(Style::Text, QString(), QString());
-    StatusBar1->addPanel(Style::Text, QString(), u"Statusinformationen..."_qs, true);
-    StatusBar1->addPanel(Style::Text, u"Fangjahr:"_qs, u"Fangjahr:"_qs);
-    StatusBar1->addPanel(Style::Text, QString(), u"Akt. Fangjahr..."_qs);
+    StatusBar1->addPanel(Style::Text, QString(), u"Statusinformationen..."_s, true);
+    StatusBar1->addPanel(Style::Text, u"Fangjahr:"_s, u"Fangjahr:"_s);
+    StatusBar1->addPanel(Style::Text, QString(), u"Akt. Fangjahr..."_s);
 }
 
 /// Ctrl with a digit shows the area that stands at this place of the bar.
@@ -166,15 +168,15 @@ void Main::zeigeBereich(const QString& key) { modNavigation::zeigeBereich(key); 
 void Main::binde(Screen& screen) { modNavigation::binde(session().AktBarItem, screen); }
 
 void Main::zeigeMitgliederliste() {
-    binde(screen<MitglList>());
-    screen<MitglList>().Show();
+    binde(the<MitglList>());
+    the<MitglList>().Show();
 }
 
 void Main::beendeStill() { Program::current().finishUnseen(); }
 
 void Main::mnuInfo_Click() {
-    binde(screen<Info>());
-    screen<Info>().ShowAbove(this);
+    binde(the<Info>());
+    the<Info>().ShowAbove(this);
 }
 
 void Main::loadKontMenu_Mitgl() {

@@ -13,6 +13,8 @@
 #include <QApplication>
 #include <QKeyEvent>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 Program* running = nullptr;
@@ -69,7 +71,7 @@ Program& Program::current() { return *running; }
 void Program::start() {
     m_running = true;
     setEventsEnded(false);
-    screen<Main>();
+    the<Main>();
 }
 
 void Program::finish() {
@@ -101,7 +103,7 @@ void Program::letGo() {
 /// normal end makes one.
 void Program::fail(const RuntimeError& error) {
     if (!m_running) return;
-    MsgBox(u"Laufzeitfehler '%1':\r\n\r\n%2"_qs.arg(error.number).arg(error.description), vbCritical);
+    MsgBox(u"Laufzeitfehler '%1':\r\n\r\n%2"_s.arg(error.number).arg(error.description), vbCritical);
     // Damage found at the start calls for the repair after any error: each start would fail and never reach
     // the menu with the repair. Damage found later does not: it may be repaired already, and need not be the
     // cause of this error.

@@ -15,6 +15,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace modNavigation {
 
 namespace {
@@ -28,13 +30,13 @@ QString keyOf(const Screen* screen) {
 
 /// Closes the preview when the user leaves it by the bar, so that its list is left like any other screen.
 void schliesseVorschau() {
-    if (isLoaded<Vorschau>() && Stage::current()->front() == &screen<Vorschau>()) unload<Vorschau>();
+    if (isLoaded<Vorschau>() && Stage::current()->front() == &the<Vorschau>()) unload<Vorschau>();
 }
 
 /// Makes the item the current one, then binds and shows its screen.
 void showScreen(const QString& key) {
     Screen& target = std::ranges::find(bereiche(), key, &Bereich::key)->maske.zeig();
-    session().AktBarItem = screen<Main>().ButtnBar->item(key);
+    session().AktBarItem = the<Main>().ButtnBar->item(key);
     binde(session().AktBarItem, target);
     target.Show();
 }
@@ -42,7 +44,7 @@ void showScreen(const QString& key) {
 } // namespace
 
 void InitButtnBar() {
-    NavigationBar* bar = screen<Main>().ButtnBar;
+    NavigationBar* bar = the<Main>().ButtnBar;
     for (const Bereich& bereich : bereiche()) {
         if (!bereich.hatTaste()) continue;
         BarGroup* group = bar->group(bereich.gruppe);
@@ -56,12 +58,12 @@ void InitButtnBar() {
 }
 
 void LeereButtnBar() {
-    for (const BarItem* item : screen<Main>().ButtnBar->items()) entferne(item->key());
+    for (const BarItem* item : the<Main>().ButtnBar->items()) entferne(item->key());
     session().AktBarItem = nullptr;
 }
 
 void entferne(const QString& key) {
-    NavigationBar* bar = screen<Main>().ButtnBar;
+    NavigationBar* bar = the<Main>().ButtnBar;
     session().AktBarItem = bar->item(key);
     for (BarGroup* group : bar->groups()) group->removeItem(key);
 }
@@ -80,21 +82,21 @@ void VersteckeFormen() {
     for (const Bereich& bereich : bereiche())
         if (Screen* screen = bereich.maske.geladen()) screen->Hide();
     if (isLoaded<MitglList>()) modMitglList::LeereMListAnzeige();
-    if (isLoaded<Hinter>()) screen<Hinter>().Hide();
+    if (isLoaded<Hinter>()) the<Hinter>().Hide();
 }
 
 void zeigeBereich(const QString& key) {
-    if (key == u"Kontakte"_qs) session().SuchAufrufer = 0;
-    if (key == u"Arbeit"_qs) session().SuchAufrufer = 1;
+    if (key == u"Kontakte"_s) session().SuchAufrufer = 0;
+    if (key == u"Arbeit"_s) session().SuchAufrufer = 1;
     schliesseVorschau();
     VersteckeFormen();
     showScreen(key);
-    if (key == u"Fangbuch"_qs) screen<Fangbuch>().cboFArt->setFocus();
+    if (key == u"Fangbuch"_s) the<Fangbuch>().cboFArt->setFocus();
 }
 
 void zeigeErstesFenster() {
-    NavigationBar* bar = screen<Main>().ButtnBar;
-    if (bar->item(u"Fangbuch"_qs)) return showScreen(u"Fangbuch"_qs);
+    NavigationBar* bar = the<Main>().ButtnBar;
+    if (bar->item(u"Fangbuch"_s)) return showScreen(u"Fangbuch"_s);
     // A user without the right to the catch book begins on his first screen, or in an empty frame.
     if (const BarItem* first = bar->firstItem()) zeigeBereich(first->key());
 }

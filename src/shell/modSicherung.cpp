@@ -6,6 +6,8 @@
 #include "Session.h"
 #include "Upkeep.h"
 
+using namespace Qt::StringLiterals;
+
 namespace modSicherung {
 
 bool SichereDatenbank() {
@@ -19,9 +21,9 @@ bool SichereDatenbank() {
 }
 
 QString Fehlschlag() {
-    return u"ACHTUNG: Die Sicherungskopie der Datenbank konnte nicht angelegt werden !\n\r"_qs
-           u"Bitte prüfen Sie den Ordner - Sicherung - und den freien Speicherplatz. Eine beschädigte Datenbank "_qs
-           u"meldet Uferwart beim nächsten Start."_qs;
+    return u"ACHTUNG: Die Sicherungskopie der Datenbank konnte nicht angelegt werden !\n\r"_s
+           u"Bitte prüfen Sie den Ordner - Sicherung - und den freien Speicherplatz. Eine beschädigte Datenbank "_s
+           u"meldet Uferwart beim nächsten Start."_s;
 }
 
 bool DatenbankIstHeil() {

@@ -26,19 +26,21 @@
 #include <QElapsedTimer>
 #include <QWindow>
 
+using namespace Qt::StringLiterals;
+
 namespace modStart {
 
 namespace {
 
 void setzeBenutzer(const QString& name) {
     session().Benutzer = name;
-    screen<Main>().StatusBar1->setPanelText(4, name);
+    the<Main>().StatusBar1->setPanelText(4, name);
 }
 
 /// Sizes were given in twips, fifteen to a pixel.
 constexpr int twips(int count) { return count / 15; }
 
-void tellEnd(const QString& text, const QString& title = u"Uferwart"_qs) {
+void tellEnd(const QString& text, const QString& title = u"Uferwart"_s) {
     MsgBox(text, vbCritical, title);
     unload<Main>();
 }
@@ -49,20 +51,20 @@ void askForRepair() {
     unload<::Login>();
     modNavigation::LeereButtnBar();
     setzeBenutzer(QString());
-    if (!RepariereAufWunsch()) return tellEnd(u"Uferwart beendet sich jetzt !"_qs);
-    if (isLoaded<Main>()) screen<Main>().Show();
+    if (!RepariereAufWunsch()) return tellEnd(u"Uferwart beendet sich jetzt !"_s);
+    if (isLoaded<Main>()) the<Main>().Show();
 }
 
 void startFailed(const RuntimeError& error) {
     switch (error.number) {
     case RuntimeError::databaseNotFound.number:
         return tellEnd(
-            u"ACHTUNG: Datenbank nicht gefunden ! Bitte stellen Sie sicher das sich die Datenbank im \n\r"_qs +
-                u"im Root - Verzeichnis von Uferwart befindet (z.B: C:\\...\\Uferwart\\uw01.mdb) ! "_qs +
-                u"Uferwart beendet sich jetzt !"_qs,
-            u"Runtime - Error: %1"_qs.arg(error.number));
+            u"ACHTUNG: Datenbank nicht gefunden ! Bitte stellen Sie sicher das sich die Datenbank im \n\r"_s +
+                u"im Root - Verzeichnis von Uferwart befindet (z.B: C:\\...\\Uferwart\\uw01.mdb) ! "_s +
+                u"Uferwart beendet sich jetzt !"_s,
+            u"Runtime - Error: %1"_s.arg(error.number));
     case RuntimeError::wrongPassword.number:
-        return tellEnd(u"ACHTUNG: Datenbank - Passwort nicht korrekt ! Uferwart beendet sich jetzt !"_qs);
+        return tellEnd(u"ACHTUNG: Datenbank - Passwort nicht korrekt ! Uferwart beendet sich jetzt !"_s);
     default:
         return askForRepair();
     }
@@ -71,7 +73,7 @@ void startFailed(const RuntimeError& error) {
 /// Shows the start-up picture and waits until the window system has painted it.
 void zeigeEroef() {
     constexpr int longestMilliseconds = 300;
-    Eroef& picture = screen<Eroef>();
+    Eroef& picture = the<Eroef>();
     picture.Show();
     QElapsedTimer waited;
     waited.start();
@@ -82,7 +84,7 @@ void zeigeEroef() {
 }
 
 void continueAfterLogin() {
-    screen<::Login>().Hide();
+    the<::Login>().Hide();
     zeigeEroef();
     SetzeDatumsVariablen();
     if (!KontrolliereSystemJahr()) {
@@ -96,7 +98,7 @@ void continueAfterLogin() {
     LadeStammdaten();
     ZeigeFangjahr();
     unload<Eroef>();
-    screen<Main>().Show();
+    the<Main>().Show();
     modNavigation::zeigeErstesFenster();
     unload<::Login>();
     session().Angemeldet = true;
@@ -107,19 +109,19 @@ void continueAfterLogin() {
 void StarteUferwart() {
     try {
         OeffneDatenbank();
-        if (!modSicherung::DatenbankIstHeil()) throw runtimeError(RuntimeError::damagedFile, u"uw01.mdb"_qs);
+        if (!modSicherung::DatenbankIstHeil()) throw runtimeError(RuntimeError::damagedFile, u"uw01.mdb"_s);
         modNavigation::InitButtnBar();
         SetzeFensterGroesse();
-        screen<Main>().Hide();
-        screen<::Login>().Show();
+        the<Main>().Hide();
+        the<::Login>().Show();
     } catch (const RuntimeError& error) {
         startFailed(error);
     }
 }
 
 bool RepariereAufWunsch() {
-    if (!modRun::frage(u"ACHTUNG: Datenbank konnte nicht geöffnet werden. Soll Uferwart versuchen die "_qs
-                       u"Datenbank zu reparieren?"_qs))
+    if (!modRun::frage(u"ACHTUNG: Datenbank konnte nicht geöffnet werden. Soll Uferwart versuchen die "_s
+                       u"Datenbank zu reparieren?"_s))
         return false;
     modTools::RepariereDatenbank();
     return true;
@@ -127,33 +129,32 @@ bool RepariereAufWunsch() {
 
 void SetzeFensterGroesse() {
     constexpr int firstWidth = 1000;
-    screen<Main>().resize(firstWidth, twips(8625));
-    screen<Main>().ButtnBar->resize(screen<Main>().ButtnBar->width(), twips(7695));
+    the<Main>().resize(firstWidth, twips(8625));
+    the<Main>().ButtnBar->resize(the<Main>().ButtnBar->width(), twips(7695));
 }
 
 void Anmelden() {
-    ::Login& form = screen<::Login>();
-    if (form.txtBenutzer->text().isEmpty()) return form.txtBenutzer->setFocus();
-    if (Login(form.txtBenutzer->text(), form.txtPassw->text())) return continueAfterLogin();
+    ::Login& screen = the<::Login>();
+    if (screen.txtBenutzer->text().isEmpty()) return screen.txtBenutzer->setFocus();
+    if (Login(screen.txtBenutzer->text(), screen.txtPassw->text())) return continueAfterLogin();
     // If the table of users is damaged, no user would get as far as the menu with the repair.
     if (session().Beschaedigt) return askForRepair();
-    form.txtBenutzer->setText(QString());
-    form.txtPassw->setText(QString());
-    form.txtBenutzer->setFocus();
+    screen.txtBenutzer->setText(QString());
+    screen.txtPassw->setText(QString());
+    screen.txtBenutzer->setFocus();
 }
 
 bool Login(const QString& name, const QString& passwort) {
     bool valid = false;
-    withErrorTail(u"modStart"_qs, u"Login"_qs, [&](ErrorTail& step) {
+    withErrorTail(u"modStart"_s, u"Login"_s, [&](ErrorTail& step) {
         Recordset gruppe;
         step([&] {
-            gruppe = oeffneAbfrage(
-                u"SELECT * FROM Gruppen WHERE GNr = (SELECT GNr FROM Benutzer WHERE Name = "_qs +
-                quoted(name) + u" AND Passwort = "_qs + quotedSecret(passwort) + u")"_qs);
+            gruppe =
+                oeffneAbfrage(u"SELECT * FROM Gruppen WHERE GNr = (SELECT GNr FROM Benutzer WHERE Name = "_s +
+                              quoted(name) + u" AND Passwort = "_s + quotedSecret(passwort) + u")"_s);
         });
         if (step.test([&] { return gruppe.RecordCount() == 0; })) {
-            MsgBox(u"Anmeldung fehlgeschlagen, bitte versuchen Sie es erneut!"_qs, vbCritical,
-                   u"UFERWART"_qs);
+            MsgBox(u"Anmeldung fehlgeschlagen, bitte versuchen Sie es erneut!"_s, vbCritical, u"UFERWART"_s);
             valid = false;
         } else {
             setzeBenutzer(name);
@@ -169,7 +170,7 @@ void WendeRechteAn(const Recordset& gruppe) {
     const auto denied = [&](const QString& right) { return gruppe.Fields(right).Value() != Value(true); };
     for (const Bereich& bereich : bereiche())
         if (bereich.hatTaste() && denied(bereich.recht)) modNavigation::entferne(bereich.key);
-    if (denied(u"KontListe"_qs)) screen<KontaktUebers>().Toolbar1->setKeyEnabled(u"tbMitglList"_qs, false);
+    if (denied(u"KontListe"_s)) the<KontaktUebers>().Toolbar1->setKeyEnabled(u"tbMitglList"_s, false);
 }
 
 void SetzeDatumsVariablen() {
@@ -189,6 +190,6 @@ void LadeStammdaten() {
     session().TabelleLaedt = false;
 }
 
-void ZeigeFangjahr() { screen<Main>().StatusBar1->setPanelText(8, QString::number(session().AktJahr)); }
+void ZeigeFangjahr() { the<Main>().StatusBar1->setPanelText(8, QString::number(session().AktJahr)); }
 
 } // namespace modStart

@@ -13,6 +13,8 @@
 #include <QStringList>
 #include <optional>
 
+using namespace Qt::StringLiterals;
+
 // The change of the fishing year.
 
 namespace modStart {
@@ -22,30 +24,30 @@ namespace {
 bool frageNachSystemjahr() {
     constexpr int blanks = 66;
     const QStringList lines = {
-        u"WICHTIG: Akt. Systemjahr hat sich geändert ! Akt. Systemjahr = %1"_qs.arg(session().AktJahr),
-        u"Soll das Systemjahr als Fangjahr in die Systemparameter von Uferwart übernommen werden ?"_qs,
-        u"Wenn Sie die Frage mit NEIN beantworten, wird Uferwart beendet. "_qs,
+        u"WICHTIG: Akt. Systemjahr hat sich geändert ! Akt. Systemjahr = %1"_s.arg(session().AktJahr),
+        u"Soll das Systemjahr als Fangjahr in die Systemparameter von Uferwart übernommen werden ?"_s,
+        u"Wenn Sie die Frage mit NEIN beantworten, wird Uferwart beendet. "_s,
         QString(blanks, u' '),
-        u"Wollen Sie das Systemjahr als Fangjahr übernehmen?"_qs,
+        u"Wollen Sie das Systemjahr als Fangjahr übernehmen?"_s,
     };
-    return modRun::frage(lines.join(u"\n\r"_qs));
+    return modRun::frage(lines.join(u"\n\r"_s));
 }
 
 void schalteVor(qint32 altesJahr) {
-    if (modRun::frage(u"ACHTUNG: Mehrleistungen der Arb.-Std ins neue Fangjahr übernehmen !"_qs,
-                      u"Uferwart [Arbeitscontrolling]"_qs))
+    if (modRun::frage(u"ACHTUNG: Mehrleistungen der Arb.-Std ins neue Fangjahr übernehmen !"_s,
+                      u"Uferwart [Arbeitscontrolling]"_s))
         modArbeit::UebernehmeStunden(altesJahr);
     else
-        MsgBox(u"Mehrleistungs - Übernahme durch User verhindert !"_qs, vbInformation);
-    MsgBox(u"ACHTUNG: Jahresbeitragsflags der Mitglieder werden auf - nicht bezahlt - gesetzt !"_qs,
+        MsgBox(u"Mehrleistungs - Übernahme durch User verhindert !"_s, vbInformation);
+    MsgBox(u"ACHTUNG: Jahresbeitragsflags der Mitglieder werden auf - nicht bezahlt - gesetzt !"_s,
            vbInformation);
     modKontakt::ReinitialisiereJB();
 }
 
 void schalteZurueck(qint32 altesJahr) {
     MsgBox(
-        u"ACHTUNG: Mehrleistung der Arb.Std. ins neue Jahr kann nicht übernommen werden, da akt. Jahr\r\n"_qs
-        u" kleiner ist als altes Fangjahr. Bitte überprüfen Sie ihre Systemzeit !"_qs,
+        u"ACHTUNG: Mehrleistung der Arb.Std. ins neue Jahr kann nicht übernommen werden, da akt. Jahr\r\n"_s
+        u" kleiner ist als altes Fangjahr. Bitte überprüfen Sie ihre Systemzeit !"_s,
         vbCritical);
     modArbeit::Ueberpruefe_auf_Uebertrag(altesJahr);
 }
@@ -53,7 +55,7 @@ void schalteZurueck(qint32 altesJahr) {
 /// Writes the new year into the record; true if it could be saved.
 bool schreibeJahr(ErrorTail& step, Recordset& system) {
     step([&] { system.Edit(); });
-    step([&] { system.Collect(u"FJahr"_qs, qint32(session().AktJahr)); });
+    step([&] { system.Collect(u"FJahr"_s, qint32(session().AktJahr)); });
     return step([&] { system.Update(); });
 }
 
@@ -61,7 +63,7 @@ bool schreibeJahr(ErrorTail& step, Recordset& system) {
 /// leave out the rest of the change: the next start asks again, and would do it a second time.
 std::optional<qint32> uebernehmeJahr(ErrorTail& step, Recordset& system, std::optional<Transaction>& change) {
     qint32 altesJahr = 0;
-    step([&] { altesJahr = CLng(system.Collect(u"FJahr"_qs)); });
+    step([&] { altesJahr = CLng(system.Collect(u"FJahr"_s)); });
     step([&] { change.emplace(session().AktWorkspace); });
     if (!change || !schreibeJahr(step, system)) return std::nullopt;
     return altesJahr;
@@ -71,14 +73,14 @@ std::optional<qint32> uebernehmeJahr(ErrorTail& step, Recordset& system, std::op
 bool istGesichert() {
     if (modSicherung::SichereDatenbank()) return true;
     return modRun::frage(modSicherung::Fehlschlag() +
-                         u"\n\rSoll das neue Jahr trotzdem ohne Sicherungskopie beginnen ?"_qs);
+                         u"\n\rSoll das neue Jahr trotzdem ohne Sicherungskopie beginnen ?"_s);
 }
 
 /// Changes the year in one transaction, so that all of it is written or, if the program is ended in the
 /// middle, nothing.
 void wechsleJahr(ErrorTail& step, bool& result) {
     Recordset system;
-    step([&] { system = oeffneTabelle(u"System"_qs); });
+    step([&] { system = oeffneTabelle(u"System"_s); });
     std::optional<Transaction> change;
     const std::optional<qint32> altesJahr = uebernehmeJahr(step, system, change);
     result = true;
@@ -92,14 +94,14 @@ void wechsleJahr(ErrorTail& step, bool& result) {
 
 bool KontrolliereSystemJahr() {
     bool result = false;
-    withErrorTail(u"modStart"_qs, u"KontrolliereSystemJahr"_qs, [&](ErrorTail& step) {
+    withErrorTail(u"modStart"_s, u"KontrolliereSystemJahr"_s, [&](ErrorTail& step) {
         Recordset system;
         qint16 fangjahr = 0;
         step([&] {
-            system = oeffneTabelle(u"System"_qs);
+            system = oeffneTabelle(u"System"_s);
             if (system.RecordCount() == 0) session().Beschaedigt = true;
         });
-        step([&] { fangjahr = CInt(system.Collect(u"FJahr"_qs)); });
+        step([&] { fangjahr = CInt(system.Collect(u"FJahr"_s)); });
         // Closed before the question, so that a user who takes his time does not keep others from saving.
         step([&] { system.Close(); });
         result = fangjahr == session().AktJahr;

@@ -1,9 +1,9 @@
 #include "Basis.h"
 
 #include "DataTable.h"
-#include "Face.h"
 #include "Gitter.h"
 #include "Heading.h"
+#include "Layout.h"
 #include "MemoBox.h"
 #include "TextBox.h"
 #include "Toolbar.h"
@@ -14,6 +14,8 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QTabWidget>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -36,12 +38,12 @@ struct Page {
 };
 
 void layOut(const Page& page) {
-    auto* form = new QGridLayout;
-    Face::addField(form, 0, page.numberLabel, page.number);
-    Face::addField(form, 1, page.nameLabel, page.name);
-    Face::addField(form, 2, page.noteLabel, page.note);
-    form->setAlignment(page.noteLabel, Qt::AlignTop);
-    form->setColumnStretch(1, 1);
+    auto* screen = new QGridLayout;
+    Layout::addField(screen, 0, page.numberLabel, page.number);
+    Layout::addField(screen, 1, page.nameLabel, page.name);
+    Layout::addField(screen, 2, page.noteLabel, page.note);
+    screen->setAlignment(page.noteLabel, Qt::AlignTop);
+    screen->setColumnStretch(1, 1);
     page.note->setMaximumHeight(88);
 
     auto* head = new QHBoxLayout;
@@ -50,14 +52,14 @@ void layOut(const Page& page) {
     head->addWidget(page.countLabel);
     head->addWidget(page.count);
     page.grid->setAccessibleName(page.gridLabel->text());
-    page.grid->setEmptyHint(u"Hier steht noch nichts.\n"_qs
-                            u"Schreiben Sie oben einen Namen und drücken Sie „Speichern“."_qs);
+    page.grid->setEmptyHint(u"Hier steht noch nichts.\n"_s
+                            u"Schreiben Sie oben einen Namen und drücken Sie „Speichern“."_s);
     page.count->setAccessibleName(page.countLabel->text());
     page.count->setNumeric();
 
     auto* column = new QVBoxLayout(page.frame);
-    column->setSpacing(Face::gap);
-    column->addLayout(form);
+    column->setSpacing(Layout::gap);
+    column->addLayout(screen);
     column->addLayout(head);
     column->addWidget(page.grid, 1);
 }
@@ -65,7 +67,7 @@ void layOut(const Page& page) {
 QWidget* asTab(QGroupBox* frame) {
     auto* tab = new QWidget;
     auto* column = new QVBoxLayout(tab);
-    column->setContentsMargins(Face::gap, Face::gap, Face::gap, Face::gap);
+    column->setContentsMargins(Layout::gap, Layout::gap, Layout::gap, Layout::gap);
     column->addWidget(frame);
     return tab;
 }
@@ -73,17 +75,17 @@ QWidget* asTab(QGroupBox* frame) {
 } // namespace
 
 Basis::Basis()
-    : Screen(u"Basis"_qs, u"Basisdaten"_qs) {
+    : Screen(u"Basis"_s, u"Basisdaten"_s) {
     keepRecord();
-    Ueberschrift = new Heading(u"BASISDATEN"_qs, this);
+    Ueberschrift = new Heading(u"BASISDATEN"_s, this);
     buildToolbar();
     buildFishPage();
     buildWaterPage();
     TabBasis = new QTabWidget(this);
-    TabBasis->setObjectName(u"TabBasis"_qs);
-    TabBasis->addTab(asTab(Frame1), u"Fischarten"_qs);
-    TabBasis->addTab(asTab(Frame2), u"Gewässer"_qs);
-    Face::column(this, Ueberschrift, Toolbar1)->addWidget(TabBasis, 1);
+    TabBasis->setObjectName(u"TabBasis"_s);
+    TabBasis->addTab(asTab(Frame1), u"Fischarten"_s);
+    TabBasis->addTab(asTab(Frame2), u"Gewässer"_s);
+    Layout::column(this, Ueberschrift, Toolbar1)->addWidget(TabBasis, 1);
 
     on(tblFBasis, &DataTable::OnGridCellOpen,
        [this](int row, int column) { tblFBasis_OnGridCellOpen(row, column); });
@@ -100,46 +102,46 @@ void Basis::buildToolbar() {
                                                     : modBasis::gewaesserErfassung();
     };
     Toolbar1 = new Toolbar(this);
-    Toolbar1->addKeys({{u"tbSpeichern"_qs, u"&Speichern "_qs, u"Speichern"_qs, u"speichern"_qs,
+    Toolbar1->addKeys({{u"tbSpeichern"_s, u"&Speichern "_s, u"Speichern"_s, u"speichern"_s,
                         [=, this] { erfassung().sichern(*this); }},
-                       {u"tbLoeschen"_qs, u"&Löschen "_qs, u"Löschen"_qs, u"loeschen"_qs,
+                       {u"tbLoeschen"_s, u"&Löschen "_s, u"Löschen"_s, u"loeschen"_s,
                         [=, this] { erfassung().entfernen(*this); }},
-                       {u"tbAnzLoeschen"_qs, u"&Anz. löschen"_qs, u"Anzeige löschen"_qs,
-                        u"anzeige-loeschen"_qs, &modBasis::BasisAnzeigeLoeschen}});
+                       {u"tbAnzLoeschen"_s, u"&Anz. löschen"_s, u"Anzeige löschen"_s, u"anzeige-loeschen"_s,
+                        &modBasis::BasisAnzeigeLoeschen}});
 }
 
 void Basis::buildFishPage() {
-    Frame1 = Face::frame(u"Frame1"_qs, u"Fische"_qs, nullptr);
-    lblFischNr = Face::label(u"lblFischNr"_qs, u"Fisch-Nr:"_qs, Frame1);
-    lblFNr = new ValueLabel(u"lblFNr"_qs, Frame1);
-    lblFischArt = Face::label(u"lblFischArt"_qs, u"Fischart:"_qs, Frame1);
-    txtFArt = new TextBox(u"txtFArt"_qs, Frame1);
+    Frame1 = Layout::frame(u"Frame1"_s, u"Fische"_s, nullptr);
+    lblFischNr = Layout::label(u"lblFischNr"_s, u"Fisch-Nr:"_s, Frame1);
+    lblFNr = new ValueLabel(u"lblFNr"_s, Frame1);
+    lblFischArt = Layout::label(u"lblFischArt"_s, u"Fischart:"_s, Frame1);
+    txtFArt = new TextBox(u"txtFArt"_s, Frame1);
     txtFArt->setMaxLength(nameLimit);
-    lblFNotiz = Face::label(u"lblFNotiz"_qs, u"Notizen..."_qs, Frame1);
-    txtFNotiz = new MemoBox(u"txtFNotiz"_qs, Frame1);
-    lblÜberschr = Face::label(u"lblÜberschr"_qs, u"Alle aufgenommen Fischarten..."_qs, Frame1);
-    tblFBasis = new DataTable(u"tblFBasis"_qs, Frame1);
-    tblFBasis->setColumns({{u"Fisch-Nr."_qs, 88, true}, {u"Fischart"_qs, 320}});
-    lblFAnz = Face::label(u"lblFAnz"_qs, u"Anzahl:"_qs, Frame1);
-    lblFAnzahl = new ValueLabel(u"lblFAnzahl"_qs, Frame1);
+    lblFNotiz = Layout::label(u"lblFNotiz"_s, u"Notizen..."_s, Frame1);
+    txtFNotiz = new MemoBox(u"txtFNotiz"_s, Frame1);
+    lblÜberschr = Layout::label(u"lblÜberschr"_s, u"Alle aufgenommen Fischarten..."_s, Frame1);
+    tblFBasis = new DataTable(u"tblFBasis"_s, Frame1);
+    tblFBasis->setColumns({{u"Fisch-Nr."_s, 88, true}, {u"Fischart"_s, 320}});
+    lblFAnz = Layout::label(u"lblFAnz"_s, u"Anzahl:"_s, Frame1);
+    lblFAnzahl = new ValueLabel(u"lblFAnzahl"_s, Frame1);
     layOut({Frame1, lblFischNr, lblFNr, lblFischArt, txtFArt, lblFNotiz, txtFNotiz, lblÜberschr, tblFBasis,
             lblFAnz, lblFAnzahl});
 }
 
 void Basis::buildWaterPage() {
-    Frame2 = Face::frame(u"Frame2"_qs, u"Gewässer"_qs, nullptr);
-    lblGewNr = Face::label(u"lblGewNr"_qs, u"Gew.- Nr:"_qs, Frame2);
-    lblGNr = new ValueLabel(u"lblGNr"_qs, Frame2);
-    lblGewBez = Face::label(u"lblGewBez"_qs, u"Gewässer:"_qs, Frame2);
-    txtGName = new TextBox(u"txtGName"_qs, Frame2);
+    Frame2 = Layout::frame(u"Frame2"_s, u"Gewässer"_s, nullptr);
+    lblGewNr = Layout::label(u"lblGewNr"_s, u"Gew.- Nr:"_s, Frame2);
+    lblGNr = new ValueLabel(u"lblGNr"_s, Frame2);
+    lblGewBez = Layout::label(u"lblGewBez"_s, u"Gewässer:"_s, Frame2);
+    txtGName = new TextBox(u"txtGName"_s, Frame2);
     txtGName->setMaxLength(nameLimit);
-    lblGNotiz = Face::label(u"lblGNotiz"_qs, u"Notizen..."_qs, Frame2);
-    txtGNotiz = new MemoBox(u"txtGNotiz"_qs, Frame2);
-    lblÜbersch2 = Face::label(u"lblÜbersch2"_qs, u"Alle aufgenommenen Gewässer..."_qs, Frame2);
-    tblGBasis = new DataTable(u"tblGBasis"_qs, Frame2);
-    tblGBasis->setColumns({{u"Gew.-Nr"_qs, 88, true}, {u"Gewässer"_qs, 320}});
-    lblGAnz = Face::label(u"lblGAnz"_qs, u"Anzahl:"_qs, Frame2);
-    lblGAnzahl = new ValueLabel(u"lblGAnzahl"_qs, Frame2);
+    lblGNotiz = Layout::label(u"lblGNotiz"_s, u"Notizen..."_s, Frame2);
+    txtGNotiz = new MemoBox(u"txtGNotiz"_s, Frame2);
+    lblÜbersch2 = Layout::label(u"lblÜbersch2"_s, u"Alle aufgenommenen Gewässer..."_s, Frame2);
+    tblGBasis = new DataTable(u"tblGBasis"_s, Frame2);
+    tblGBasis->setColumns({{u"Gew.-Nr"_s, 88, true}, {u"Gewässer"_s, 320}});
+    lblGAnz = Layout::label(u"lblGAnz"_s, u"Anzahl:"_s, Frame2);
+    lblGAnzahl = new ValueLabel(u"lblGAnzahl"_s, Frame2);
     layOut({Frame2, lblGewNr, lblGNr, lblGewBez, txtGName, lblGNotiz, txtGNotiz, lblÜbersch2, tblGBasis,
             lblGAnz, lblGAnzahl});
 }

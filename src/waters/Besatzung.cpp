@@ -12,7 +12,9 @@
 #include "modBasis.h"
 #include "modBesatzList.h"
 
-// The face of the screen is built in BesatzungFace.cpp; here is what it does.
+using namespace Qt::StringLiterals;
+
+// The layout of the screen is in BesatzungLayout.cpp; its behaviour is here.
 
 void Besatzung::Form_Load() {
     modBasis::loadcboFArt(cboFArt);
@@ -66,10 +68,10 @@ void Besatzung::tbExcel_Click() {
     leereOffenen();
     erzeugeAufWunsch(
         *tblBList,
-        u"Wollen Sie eine in Excel zu importierende Datei mit der Bezeichnung - BPLAN.csv - erzeugen ?\n\r"_qs
-        u"ACHTUNG: Der Datei liegen die in der Tabelle angezeigten Daten zugrunde ! "_qs
-        u"Wollen Sie die Datei jetzt erzeugen ?"_qs,
-        u"Keine Daten zum erzeugen der Datei - BPLAN.csv - gefunden, der Vorgang wird abgebrochen !"_qs,
+        u"Wollen Sie eine in Excel zu importierende Datei mit der Bezeichnung - BPLAN.csv - erzeugen ?\n\r"_s
+        u"ACHTUNG: Der Datei liegen die in der Tabelle angezeigten Daten zugrunde ! "_s
+        u"Wollen Sie die Datei jetzt erzeugen ?"_s,
+        u"Keine Daten zum erzeugen der Datei - BPLAN.csv - gefunden, der Vorgang wird abgebrochen !"_s,
         &modBesatzList::ErzeugeBPlanDatei);
 }
 

@@ -17,6 +17,8 @@
 
 #include <QTabWidget>
 
+using namespace Qt::StringLiterals;
+
 namespace modBasis {
 
 namespace {
@@ -36,35 +38,38 @@ struct Art {
 };
 
 Art fisch() {
-    const Basis& form = screen<Basis>();
-    return {u"Fisch"_qs,         u"FNr"_qs,
-            u"FName"_qs,         form.lblFNr,
-            form.txtFArt,        form.txtFNotiz,
-            form.tblFBasis,      form.lblFAnzahl,
-            form.fischGeaendert, u"FEHLER: Datensatz nicht vorhanden o. nicht gefunden !"_qs};
+    const Basis& screen = the<Basis>();
+    return {u"Fisch"_s,
+            u"FNr"_s,
+            u"FName"_s,
+            screen.lblFNr,
+            screen.txtFArt,
+            screen.txtFNotiz,
+            screen.tblFBasis,
+            screen.lblFAnzahl,
+            screen.fischGeaendert,
+            u"FEHLER: Datensatz nicht vorhanden o. nicht gefunden !"_s};
 }
 
 Art gewaesser() {
-    const Basis& form = screen<Basis>();
-    return {u"Gewaesser"_qs,
-            u"GNr"_qs,
-            u"GName"_qs,
-            form.lblGNr,
-            form.txtGName,
-            form.txtGNotiz,
-            form.tblGBasis,
-            form.lblGAnzahl,
-            form.gewaesserGeaendert,
-            u"Fehler: Datensatz nicht vorhanden o. nicht gefunden !"_qs};
+    const Basis& screen = the<Basis>();
+    return {u"Gewaesser"_s,
+            u"GNr"_s,
+            u"GName"_s,
+            screen.lblGNr,
+            screen.txtGName,
+            screen.txtGNotiz,
+            screen.tblGBasis,
+            screen.lblGAnzahl,
+            screen.gewaesserGeaendert,
+            u"Fehler: Datensatz nicht vorhanden o. nicht gefunden !"_s};
 }
 
 /// The name of the record that was last opened; one for both pages.
 QString alterName;
 
 constexpr int fishPage = 0;
-const Art artInFront() {
-    return screen<Basis>().TabBasis->currentIndex() == fishPage ? fisch() : gewaesser();
-}
+const Art artInFront() { return the<Basis>().TabBasis->currentIndex() == fishPage ? fisch() : gewaesser(); }
 
 void leere(const Art& art) {
     art.lblNr->setText(QString());
@@ -90,12 +95,12 @@ void fuelleGrid(const QString& routine, const Art& art, const QString& select) {
 Datensatz::Felder felder(ErrorTail& step, const Art& art) {
     return [&](Recordset& satz) {
         step([&] { satz.Collect(art.feldName, art.txtName->text()); });
-        step([&] { satz.Collect(u"Notiz"_qs, art.txtNotiz->Text()); });
+        step([&] { satz.Collect(u"Notiz"_s, art.txtNotiz->Text()); });
     };
 }
 
 void speichere(const QString& routine, const Art& art) {
-    withErrorTail(u"modBasis"_qs, routine, [&](ErrorTail& step) {
+    withErrorTail(u"modBasis"_s, routine, [&](ErrorTail& step) {
         std::vector<Value> zeile;
         if (Datensatz::speichere(step, art.tabelle, felder(step, art),
                                  Datensatz::lies(step, zeile, {art.feldNr, art.feldName}))) {
@@ -107,48 +112,48 @@ void speichere(const QString& routine, const Art& art) {
     });
 }
 
-void meldeNichtGefunden() { MsgBox(u"FEHLER: Datensatz nicht vorhanden o. nicht gefunden !"_qs, vbCritical); }
+void meldeNichtGefunden() { MsgBox(u"FEHLER: Datensatz nicht vorhanden o. nicht gefunden !"_s, vbCritical); }
 
 void aendere(const QString& routine, const Art& art, int row) {
-    withErrorTail(u"modBasis"_qs, routine, [&](ErrorTail& step) {
+    withErrorTail(u"modBasis"_s, routine, [&](ErrorTail& step) {
         const QString name = art.txtName->text();
         if (Datensatz::aendere(step, art.tabelle, art.lblNr->text(), felder(step, art), {},
                                &meldeNichtGefunden)) {
             const int zeile = art.grid->rowOf(art.lblNr->text(), row);
             step([&] { art.grid->setCell(zeile, 1, name); });
             art.grid->markRow(zeile);
-            step([&] { melde(art, {name, u"UPDATE"_qs, alterName}); });
+            step([&] { melde(art, {name, u"UPDATE"_s, alterName}); });
         }
         BasisAnzeigeLoeschen();
     });
 }
 
 void meldeNichtGeloescht() {
-    MsgBox(u"FEHLER: Datensatz kann nicht gelöscht oder gefunden werden !"_qs, vbCritical);
+    MsgBox(u"FEHLER: Datensatz kann nicht gelöscht oder gefunden werden !"_s, vbCritical);
 }
 
 void loesche(const QString& routine, const Art& art, int row) {
-    withErrorTail(u"modBasis"_qs, routine, [&](ErrorTail& step) {
+    withErrorTail(u"modBasis"_s, routine, [&](ErrorTail& step) {
         if (Datensatz::loesche(step, art.tabelle, art.lblNr->text(), {}, &meldeNichtGeloescht)) {
             step([&] { art.grid->removeRow(art.grid->rowOf(art.lblNr->text(), row)); });
             zeigeAnzahl(art);
-            step([&] { melde(art, {art.txtName->text(), u"LOESCHEN"_qs, QString()}); });
+            step([&] { melde(art, {art.txtName->text(), u"LOESCHEN"_s, QString()}); });
         }
         BasisAnzeigeLoeschen();
     });
 }
 
 void ladeAuswahl(const QString& routine, const Art& art, int row) {
-    withErrorTail(u"modBasis"_qs, routine, [&](ErrorTail& step) {
+    withErrorTail(u"modBasis"_s, routine, [&](ErrorTail& step) {
         Recordset satz;
         step([&] {
-            satz = oeffneAbfrage(u"SELECT * FROM "_qs + art.tabelle + u" WHERE "_qs + art.feldNr + u" = "_qs +
+            satz = oeffneAbfrage(u"SELECT * FROM "_s + art.tabelle + u" WHERE "_s + art.feldNr + u" = "_s +
                                  art.grid->cellText(row, 0));
         });
         if (step.test([&] { return satz.RecordCount() != 0; })) {
             step([&] { art.lblNr->setText(CStr(satz.Collect(art.feldNr))); });
             step([&] { art.txtName->setText(CStr(satz.Collect(art.feldName))); });
-            step([&] { art.txtNotiz->setText(CStr(satz.Collect(u"Notiz"_qs))); });
+            step([&] { art.txtNotiz->setText(CStr(satz.Collect(u"Notiz"_s))); });
             step([&] { alterName = CStr(satz.Collect(art.feldName)); });
         } else {
             MsgBox(art.nichtGefunden, vbCritical);
@@ -176,8 +181,8 @@ void BasisAlleAnzeigenLoeschen() {
     }
 }
 
-void loadTblFBasis() { fuelleGrid(u"loadTblFBasis"_qs, fisch(), u"SELECT * FROM Fisch"_qs); }
-void loadTblGBasis() { fuelleGrid(u"loadTblGBasis"_qs, gewaesser(), u"SELECT GNr, GName FROM Gewaesser"_qs); }
+void loadTblFBasis() { fuelleGrid(u"loadTblFBasis"_s, fisch(), u"SELECT * FROM Fisch"_s); }
+void loadTblGBasis() { fuelleGrid(u"loadTblGBasis"_s, gewaesser(), u"SELECT GNr, GName FROM Gewaesser"_s); }
 
 namespace {
 
@@ -188,27 +193,27 @@ void fuelleAusGrid(ComboBox* combo, const DataTable* grid) {
 
 } // namespace
 
-void loadcboFArt(ComboBox* combo) { fuelleAusGrid(combo, screen<Basis>().tblFBasis); }
-void loadcboGName(ComboBox* combo) { fuelleAusGrid(combo, screen<Basis>().tblGBasis); }
+void loadcboFArt(ComboBox* combo) { fuelleAusGrid(combo, the<Basis>().tblFBasis); }
+void loadcboGName(ComboBox* combo) { fuelleAusGrid(combo, the<Basis>().tblGBasis); }
 
 bool FischEingabeVollstaendig() { return vollstaendig(fisch()); }
 bool GewaesserEingabeVollstaendig() { return vollstaendig(gewaesser()); }
-void SpeicherFisch() { speichere(u"SpeicherFisch"_qs, fisch()); }
-void SpeicherGewaesser() { speichere(u"SpeicherGewaesser"_qs, gewaesser()); }
-void UpdateFisch(int row) { aendere(u"UpdateFisch"_qs, fisch(), row); }
-void UpdateGewaesser(int row) { aendere(u"UpdateGewaesser"_qs, gewaesser(), row); }
-void LoescheFisch(int row) { loesche(u"LoescheFisch"_qs, fisch(), row); }
-void LoescheGewaesser(int row) { loesche(u"LoescheGewaesser"_qs, gewaesser(), row); }
-void loadFAuswahl(int row, int /*column*/) { ladeAuswahl(u"loadFAuswahl"_qs, fisch(), row); }
-void loadGAuswahl(int row, int /*column*/) { ladeAuswahl(u"loadGAuswahl"_qs, gewaesser(), row); }
+void SpeicherFisch() { speichere(u"SpeicherFisch"_s, fisch()); }
+void SpeicherGewaesser() { speichere(u"SpeicherGewaesser"_s, gewaesser()); }
+void UpdateFisch(int row) { aendere(u"UpdateFisch"_s, fisch(), row); }
+void UpdateGewaesser(int row) { aendere(u"UpdateGewaesser"_s, gewaesser(), row); }
+void LoescheFisch(int row) { loesche(u"LoescheFisch"_s, fisch(), row); }
+void LoescheGewaesser(int row) { loesche(u"LoescheGewaesser"_s, gewaesser(), row); }
+void loadFAuswahl(int row, int /*column*/) { ladeAuswahl(u"loadFAuswahl"_s, fisch(), row); }
+void loadGAuswahl(int row, int /*column*/) { ladeAuswahl(u"loadGAuswahl"_s, gewaesser(), row); }
 
 Erfassung fischErfassung() {
     return {.vollstaendig = &FischEingabeVollstaendig,
             .speichere = &SpeicherFisch,
             .aendere = &UpdateFisch,
             .loesche = &LoescheFisch,
-            .frage = u"ACHTUNG: Fisch - Referenzen im Fangbuch werden ebenfalls gelöscht !\r\n"_qs
-                     u"Trotzdem löschen ?"_qs,
+            .frage = u"ACHTUNG: Fisch - Referenzen im Fangbuch werden ebenfalls gelöscht !\r\n"_s
+                     u"Trotzdem löschen ?"_s,
             .beiNein = &BasisAnzeigeLoeschen};
 }
 
@@ -217,8 +222,8 @@ Erfassung gewaesserErfassung() {
             .speichere = &SpeicherGewaesser,
             .aendere = &UpdateGewaesser,
             .loesche = &LoescheGewaesser,
-            .frage = u"ACHTUNG: Gewässer - Referenzen im Fangbuch werden ebenfalls gelöscht !\r\n"_qs
-                     u"Trotzdem löschen ?"_qs,
+            .frage = u"ACHTUNG: Gewässer - Referenzen im Fangbuch werden ebenfalls gelöscht !\r\n"_s
+                     u"Trotzdem löschen ?"_s,
             .beiNein = &BasisAnzeigeLoeschen};
 }
 

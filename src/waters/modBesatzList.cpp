@@ -21,17 +21,19 @@
 
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace modBesatzList {
 
 namespace {
 
-const QString modul = u"modBesatzList"_qs;
+const QString modul = u"modBesatzList"_s;
 
-QString alsGewicht(const Value& menge) { return Format(menge, u"###0.00"_qs); }
+QString alsGewicht(const Value& menge) { return Format(menge, u"###0.00"_s); }
 
 /// The fields of a record that its row in the grid is made from.
 const QStringList& felderDerZeile() {
-    static const QStringList felder = {u"BNr"_qs, u"FNr"_qs, u"GNr"_qs, u"Zeit"_qs, u"Menge"_qs};
+    static const QStringList felder = {u"BNr"_s, u"FNr"_s, u"GNr"_s, u"Zeit"_s, u"Menge"_s};
     return felder;
 }
 
@@ -47,32 +49,33 @@ void fuelleZeile(ErrorTail& step, std::vector<Value>& zeile) {
 }
 
 /// The five fields of the form, in the order in which they are written.
-void schreibeFelder(ErrorTail& step, Recordset& plan, const Besatzung& form, const ArtUndGewaesser& nummern) {
-    step([&] { plan.Collect(u"BJahr"_qs, CLng(form.cboBJahr->currentText())); });
-    step([&] { plan.Collect(u"FNr"_qs, nummern.fisch); });
-    step([&] { plan.Collect(u"GNr"_qs, nummern.gewaesser); });
-    step([&] { plan.Collect(u"Zeit"_qs, form.txtZeit->text()); });
-    step([&] { plan.Collect(u"Menge"_qs, CDbl(form.txtMenge->text())); });
+void schreibeFelder(ErrorTail& step, Recordset& plan, const Besatzung& screen,
+                    const ArtUndGewaesser& nummern) {
+    step([&] { plan.Collect(u"BJahr"_s, CLng(screen.cboBJahr->currentText())); });
+    step([&] { plan.Collect(u"FNr"_s, nummern.fisch); });
+    step([&] { plan.Collect(u"GNr"_s, nummern.gewaesser); });
+    step([&] { plan.Collect(u"Zeit"_s, screen.txtZeit->text()); });
+    step([&] { plan.Collect(u"Menge"_s, CDbl(screen.txtMenge->text())); });
 }
 
-void zeigeAnzahl(const Besatzung& form) {
-    form.lblAnzahl->setText(QString::number(form.tblBList->rowCount()));
+void zeigeAnzahl(const Besatzung& screen) {
+    screen.lblAnzahl->setText(QString::number(screen.tblBList->rowCount()));
 }
 
 } // namespace
 
 void loadTblBList() {
-    withErrorTail(u"modStart"_qs, u"loadTblBList"_qs, [](ErrorTail& step) {
+    withErrorTail(u"modStart"_s, u"loadTblBList"_s, [](ErrorTail& step) {
         Recordset plan;
         step([&] {
-            plan = oeffneAbfrage(u"SELECT * FROM Besatzung WHERE BJahr = "_qs +
+            plan = oeffneAbfrage(u"SELECT * FROM Besatzung WHERE BJahr = "_s +
                                  QString::number(session().AktJahr));
         });
-        DataTable* grid = screen<Besatzung>().tblBList;
+        DataTable* grid = the<Besatzung>().tblBList;
         step([&] { grid->clearRows(); });
         if (step.test([&] { return plan.RecordCount() == 0; })) {
             if (!session().TabelleLaedt)
-                MsgBox(u"Keine Einträge für dieses Jahr vorhanden !"_qs, vbInformation);
+                MsgBox(u"Keine Einträge für dieses Jahr vorhanden !"_s, vbInformation);
         } else {
             step([&] { plan.MoveFirst(); });
             step.forEachRow(plan, [&] {
@@ -87,54 +90,54 @@ void loadTblBList() {
 }
 
 void SpeicherEintrag() {
-    withErrorTail(modul, u"SpeicherEintrag"_qs, [](ErrorTail& step) {
-        const Besatzung& form = screen<Besatzung>();
-        const auto nummern = ermittleNummern(form.cboFArt, form.cboGName);
+    withErrorTail(modul, u"SpeicherEintrag"_s, [](ErrorTail& step) {
+        const Besatzung& screen = the<Besatzung>();
+        const auto nummern = ermittleNummern(screen.cboFArt, screen.cboGName);
         if (!nummern) return;
         std::vector<Value> zeile;
-        const auto felder = [&](Recordset& plan) { schreibeFelder(step, plan, form, *nummern); };
-        if (Datensatz::speichere(step, u"Besatzung"_qs, felder,
+        const auto felder = [&](Recordset& plan) { schreibeFelder(step, plan, screen, *nummern); };
+        if (Datensatz::speichere(step, u"Besatzung"_s, felder,
                                  Datensatz::lies(step, zeile, felderDerZeile()))) {
             fuelleZeile(step, zeile);
-            step([&] { form.tblBList->appendRow(zeile); });
-            form.tblBList->markRow(form.tblBList->rowCount());
+            step([&] { screen.tblBList->appendRow(zeile); });
+            screen.tblBList->markRow(screen.tblBList->rowCount());
         }
         BesatzAnzeigeLoeschen();
-        zeigeAnzahl(form);
-        form.cboFArt->setFocus();
+        zeigeAnzahl(screen);
+        screen.cboFArt->setFocus();
     });
 }
 
 void UpdateEintrag(int row) {
-    withErrorTail(modul, u"UpdateEintrag"_qs, [row](ErrorTail& step) {
-        const Besatzung& form = screen<Besatzung>();
-        const auto nummern = ermittleNummern(form.cboFArt, form.cboGName);
+    withErrorTail(modul, u"UpdateEintrag"_s, [row](ErrorTail& step) {
+        const Besatzung& screen = the<Besatzung>();
+        const auto nummern = ermittleNummern(screen.cboFArt, screen.cboGName);
         if (!nummern) return;
-        const auto felder = [&](Recordset& plan) { schreibeFelder(step, plan, form, *nummern); };
-        if (Datensatz::aendere(step, u"Besatzung"_qs, form.lblBNr->text(), felder)) {
-            const std::array<Value, 5> zeile = {form.lblBNr->text(), form.cboFArt->currentText(),
-                                                form.cboGName->currentText(), form.txtZeit->text(),
-                                                alsGewicht(form.txtMenge->text())};
+        const auto felder = [&](Recordset& plan) { schreibeFelder(step, plan, screen, *nummern); };
+        if (Datensatz::aendere(step, u"Besatzung"_s, screen.lblBNr->text(), felder)) {
+            const std::array<Value, 5> zeile = {screen.lblBNr->text(), screen.cboFArt->currentText(),
+                                                screen.cboGName->currentText(), screen.txtZeit->text(),
+                                                alsGewicht(screen.txtMenge->text())};
             // Another year may have come to the screen, where the record has no row yet.
-            const int bisher = form.tblBList->rowOf(form.lblBNr->text());
+            const int bisher = screen.tblBList->rowOf(screen.lblBNr->text());
             const int neu = bisher >= 0 ? bisher : row;
-            if (bisher >= 0) step([&] { form.tblBList->removeRow(bisher); });
-            step([&] { form.tblBList->insertRow(neu, zeile); });
-            form.tblBList->markRow(neu);
-            zeigeAnzahl(form);
+            if (bisher >= 0) step([&] { screen.tblBList->removeRow(bisher); });
+            step([&] { screen.tblBList->insertRow(neu, zeile); });
+            screen.tblBList->markRow(neu);
+            zeigeAnzahl(screen);
         }
         BesatzAnzeigeLoeschen();
-        form.cboFArt->setFocus();
+        screen.cboFArt->setFocus();
     });
 }
 
 void LoescheEintrag(int /*row*/) {
-    withErrorTail(modul, u"LoescheEintrag"_qs, [](ErrorTail& step) {
-        const Besatzung& form = screen<Besatzung>();
-        if (Datensatz::loesche(step, u"Besatzung"_qs, form.lblBNr->text())) {
-            const int zeile = form.tblBList->rowOf(form.lblBNr->text());
-            if (zeile >= 0) step([&] { form.tblBList->removeRow(zeile); });
-            zeigeAnzahl(form);
+    withErrorTail(modul, u"LoescheEintrag"_s, [](ErrorTail& step) {
+        const Besatzung& screen = the<Besatzung>();
+        if (Datensatz::loesche(step, u"Besatzung"_s, screen.lblBNr->text())) {
+            const int zeile = screen.tblBList->rowOf(screen.lblBNr->text());
+            if (zeile >= 0) step([&] { screen.tblBList->removeRow(zeile); });
+            zeigeAnzahl(screen);
         }
         BesatzAnzeigeLoeschen();
     });
@@ -142,31 +145,31 @@ void LoescheEintrag(int /*row*/) {
 
 namespace {
 
-void zeigeEintrag(ErrorTail& step, const Recordset& plan, Besatzung& form) {
+void zeigeEintrag(ErrorTail& step, const Recordset& plan, Besatzung& screen) {
     const auto text = [&](const QString& field) { return CStr(plan.Collect(field)); };
-    step([&] { form.lblBNr->setText(text(u"BNr"_qs)); });
-    step([&] { form.cboFArt->setText(text(u"FName"_qs)); });
-    step([&] { form.cboGName->setText(text(u"GName"_qs)); });
-    step([&] { form.txtZeit->setText(modRun::textOderLeer(plan.Fields(u"Zeit"_qs))); });
-    step([&] { form.txtMenge->setText(alsGewicht(plan.Collect(u"Menge"_qs))); });
+    step([&] { screen.lblBNr->setText(text(u"BNr"_s)); });
+    step([&] { screen.cboFArt->setText(text(u"FName"_s)); });
+    step([&] { screen.cboGName->setText(text(u"GName"_s)); });
+    step([&] { screen.txtZeit->setText(modRun::textOderLeer(plan.Fields(u"Zeit"_s))); });
+    step([&] { screen.txtMenge->setText(alsGewicht(plan.Collect(u"Menge"_s))); });
 }
 
 } // namespace
 
 void loadEintrag(DataTable* grid, int row) {
     // The names of the box are the catch book's.
-    withErrorTail(u"modFangbuch"_qs, u"loadFang"_qs, [grid, row](ErrorTail& step) {
-        Besatzung& form = screen<Besatzung>();
+    withErrorTail(u"modFangbuch"_s, u"loadFang"_s, [grid, row](ErrorTail& step) {
+        Besatzung& screen = the<Besatzung>();
         Recordset plan;
         step([&] {
-            plan = oeffneAbfrage(u"SELECT b.BNr, f.FName, g.GName, b.Zeit, b.Menge "_qs
-                                 u"FROM Besatzung b, Fisch f, Gewaesser g WHERE b.BNr = "_qs +
+            plan = oeffneAbfrage(u"SELECT b.BNr, f.FName, g.GName, b.Zeit, b.Menge "_s
+                                 u"FROM Besatzung b, Fisch f, Gewaesser g WHERE b.BNr = "_s +
                                  grid->cellText(row, 0) +
-                                 u" AND b.FNr = f.FNr AND b.GNr = g.GNr AND b.BJahr = "_qs +
-                                 form.cboBJahr->currentText());
+                                 u" AND b.FNr = f.FNr AND b.GNr = g.GNr AND b.BJahr = "_s +
+                                 screen.cboBJahr->currentText());
         });
         if (step.test([&] { return plan.RecordCount() != 0; }))
-            zeigeEintrag(step, plan, form);
+            zeigeEintrag(step, plan, screen);
         else
             modRun::MeldeNichtVorhanden();
         step([&] { plan.Close(); });
@@ -174,18 +177,18 @@ void loadEintrag(DataTable* grid, int row) {
 }
 
 void BesatzAnzeigeLoeschen() {
-    Besatzung& form = screen<Besatzung>();
-    form.txtMenge->setText(QString());
-    form.txtZeit->setText(QString());
-    form.cboFArt->setListIndex(-1);
-    form.cboGName->setListIndex(-1);
-    form.lblBNr->setText(QString());
+    Besatzung& screen = the<Besatzung>();
+    screen.txtMenge->setText(QString());
+    screen.txtZeit->setText(QString());
+    screen.cboFArt->setListIndex(-1);
+    screen.cboGName->setListIndex(-1);
+    screen.lblBNr->setText(QString());
 }
 
 bool BesatzEingabeVollstaendig() {
-    const Besatzung& form = screen<Besatzung>();
+    const Besatzung& screen = the<Besatzung>();
     return modRun::fehlerfrei(
-        modRun::erstesLeere({form.cboBJahr, form.cboFArt, form.cboGName, form.txtMenge}));
+        modRun::erstesLeere({screen.cboBJahr, screen.cboFArt, screen.cboGName, screen.txtMenge}));
 }
 
 } // namespace modBesatzList

@@ -9,6 +9,8 @@
 
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 // The stocking plan on paper.
 
 namespace modBesatzList {
@@ -16,7 +18,7 @@ namespace modBesatzList {
 namespace {
 
 /// Of the staging table, in the order of the grid's columns and of the report's texts.
-const std::array felder = {u"BNr"_qs, u"FName"_qs, u"GName"_qs, u"Zeit"_qs, u"Menge"_qs};
+const std::array felder = {u"BNr"_s, u"FName"_s, u"GName"_s, u"Zeit"_s, u"Menge"_s};
 
 void schreibeZeile(ErrorTail& step, Recordset& zeile, const DataTable& grid, int row) {
     int column = 0;
@@ -26,24 +28,24 @@ void schreibeZeile(ErrorTail& step, Recordset& zeile, const DataTable& grid, int
 void richteEin(ErrorTail& step, Report& report) {
     // The title is extended and not replaced: a report that is in use keeps its labels.
     step([&] {
-        ReportControl& titel = report.control(u"Section2"_qs, u"lblUeb"_qs);
-        titel.setCaption(titel.caption() + u" für das Fangjahr "_qs +
-                         screen<Besatzung>().cboBJahr->currentText());
+        ReportControl& titel = report.control(u"Section2"_s, u"lblUeb"_s);
+        titel.setCaption(titel.caption() + u" für das Fangjahr "_s +
+                         the<Besatzung>().cboBJahr->currentText());
     });
     int number = 0;
     for (const QString& feld : felder)
-        step([&] { report.control(u"Section1"_qs, u"Text%1"_qs.arg(++number)).setDataField(feld); });
+        step([&] { report.control(u"Section1"_s, u"Text%1"_s.arg(++number)).setDataField(feld); });
 }
 
 } // namespace
 
 void DruckeBPlanListe(const QString& wort) {
-    Besatzung& form = screen<Besatzung>();
-    drucke({.modul = u"modBesatzung"_qs,
-            .routine = u"DruckeBPlanListe"_qs,
-            .aufrufer = form,
-            .grid = *form.tblBList,
-            .tabelle = u"Druck_Besatzliste"_qs,
+    Besatzung& screen = the<Besatzung>();
+    drucke({.modul = u"modBesatzung"_s,
+            .routine = u"DruckeBPlanListe"_s,
+            .aufrufer = screen,
+            .grid = *screen.tblBList,
+            .tabelle = u"Druck_Besatzliste"_s,
             .report = &Berichte::rpt_BesatzListe,
             .schreibeZeile = &schreibeZeile,
             .richteEin = &richteEin},

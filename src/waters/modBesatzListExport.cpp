@@ -7,6 +7,8 @@
 #include "Session.h"
 #include "modBesatzList.h"
 
+using namespace Qt::StringLiterals;
+
 // The stocking plan as a file for the spreadsheet.
 
 namespace modBesatzList {
@@ -21,9 +23,9 @@ void schreibeZeile(CsvDatei& datei, const DataTable& grid, int row) {
 }
 
 void schreibeDatei(const DataTable& grid) {
-    CsvDatei datei(SeqData::path(programFolder(), u"BPLAN.csv"_qs));
+    CsvDatei datei(SeqData::path(programFolder(), u"BPLAN.csv"_s));
     for (const QString& head :
-         {u"Besatz.- Nr"_qs, u"Fischart"_qs, u"Gewässer"_qs, u"Zeitpunkt"_qs, u"Menge i. KG"_qs})
+         {u"Besatz.- Nr"_s, u"Fischart"_s, u"Gewässer"_s, u"Zeitpunkt"_s, u"Menge i. KG"_s})
         datei.writeHead(head);
     datei.endLine();
     for (int row = 0; row < grid.rowCount(); ++row) schreibeZeile(datei, grid, row);
@@ -34,15 +36,15 @@ void schreibeDatei(const DataTable& grid) {
 
 void ErzeugeBPlanDatei() {
     schreibeFuerExcel(
-        [] { schreibeDatei(*screen<Besatzung>().tblBList); },
-        u"ACHTUNG: Ein unerwarteter Fehler trat beim Erzeugen des Besatzungsplanes - BPLAN.csv - auf !"_qs,
-        u"Datei - BPLAN.CSV - wurde erfolgreich im Pfad: ..\\uferwart\\seqdata\\ erstellt !"_qs,
+        [] { schreibeDatei(*the<Besatzung>().tblBList); },
+        u"ACHTUNG: Ein unerwarteter Fehler trat beim Erzeugen des Besatzungsplanes - BPLAN.csv - auf !"_s,
+        u"Datei - BPLAN.CSV - wurde erfolgreich im Pfad: ..\\uferwart\\seqdata\\ erstellt !"_s,
         &StarteExcelBPlan);
 }
 
 void StarteExcelBPlan() {
-    zeigeInExcel(SeqData::path(programFolder(), u"BPLAN.csv"_qs),
-                 {u"A:A"_qs, u"B:B"_qs, u"C:C"_qs, u"D:D"_qs, u"E:E"_qs});
+    zeigeInExcel(SeqData::path(programFolder(), u"BPLAN.csv"_s),
+                 {u"A:A"_s, u"B:B"_s, u"C:C"_s, u"D:D"_s, u"E:E"_s});
 }
 
 } // namespace modBesatzList

@@ -19,13 +19,15 @@
 
 #include <QPushButton>
 
-// The face of the screen is built in ArbeitFace.cpp; here is what it does.
+using namespace Qt::StringLiterals;
+
+// The layout of the screen is in ArbeitLayout.cpp; its behaviour is here.
 
 namespace {
 
 void bieteMitglieder(ComboBox* combo) {
-    combo->AddItem(u"Mitglieder (aktiv)"_qs);
-    combo->AddItem(u"Mitglieder (passiv)"_qs);
+    combo->AddItem(u"Mitglieder (aktiv)"_s);
+    combo->AddItem(u"Mitglieder (passiv)"_s);
 }
 
 void uebernehmeTreffer(SuchKont& suche, int row, int /*column*/) {
@@ -52,7 +54,7 @@ void Arbeit::Form_Activate() {
     else if (session().NachReport)
         session().NachReport = false;
     else
-        screen<SuchKont>().ShowModal();
+        the<SuchKont>().ShowModal();
 }
 
 void Arbeit::Form_Deactivate() {
@@ -74,7 +76,7 @@ void Arbeit::drucke(const QString& wort) {
 
 void Arbeit::cmdSuch_Click() {
     modKontakt::SuchAnzeigeLoeschen();
-    screen<SuchKont>().ShowModal();
+    the<SuchKont>().ShowModal();
 }
 
 void Arbeit::cmdMList_Click() {

@@ -22,6 +22,8 @@
 
 #include <QPushButton>
 
+using namespace Qt::StringLiterals;
+
 // The bookings: reading, writing and deleting single ones. What belongs to a member as a whole is in
 // modArbeitMitglied.cpp.
 
@@ -29,113 +31,113 @@ namespace modArbeit {
 
 namespace {
 
-const QString modul = u"modArbeit"_qs;
+const QString modul = u"modArbeit"_s;
 
 /// The fields of a booking that a change writes as well, in the order in which they are written.
-void schreibeFelder(ErrorTail& step, Recordset& arbeit, const Arbeit& form) {
-    step([&] { arbeit.Collect(u"jahr"_qs, CLng(form.cboArbJahr->currentText())); });
-    step([&] { arbeit.Collect(u"Datum"_qs, form.pvDate->date()); });
-    step([&] { arbeit.Collect(u"ArbStd"_qs, CDbl(form.txtArbStd->text())); });
-    step([&] { arbeit.Collect(u"Notiz"_qs, form.txtArbNotiz->Text()); });
+void schreibeFelder(ErrorTail& step, Recordset& arbeit, const Arbeit& screen) {
+    step([&] { arbeit.Collect(u"jahr"_s, CLng(screen.cboArbJahr->currentText())); });
+    step([&] { arbeit.Collect(u"Datum"_s, screen.pvDate->date()); });
+    step([&] { arbeit.Collect(u"ArbStd"_s, CDbl(screen.txtArbStd->text())); });
+    step([&] { arbeit.Collect(u"Notiz"_s, screen.txtArbNotiz->Text()); });
 }
 
 /// The fields of a booking that its row in the grid is made from.
 Datensatz::Danach lies(ErrorTail& step, std::vector<Value>& zeile) {
-    return Datensatz::lies(step, zeile, {u"ArbNr"_qs, u"knr"_qs, u"ArbStd"_qs, u"Datum"_qs});
+    return Datensatz::lies(step, zeile, {u"ArbNr"_s, u"knr"_s, u"ArbStd"_s, u"Datum"_s});
 }
 
-void haengeAn(ErrorTail& step, std::vector<Value> zeile, const Arbeit& form) {
+void haengeAn(ErrorTail& step, std::vector<Value> zeile, const Arbeit& screen) {
     step([&] { zeile[2] = Format(zeile[2], stundenMuster()); });
-    step([&] { form.tblArbStd->appendRow(zeile); });
-    form.tblArbStd->markRow(form.tblArbStd->rowCount());
+    step([&] { screen.tblArbStd->appendRow(zeile); });
+    screen.tblArbStd->markRow(screen.tblArbStd->rowCount());
 }
 
 /// The hours stand as they were typed until the next load. Another year or another member may have come to
 /// the screen since the booking was opened: then it has no row here.
-void zeigeGeaenderten(ErrorTail& step, const std::vector<Value>& zeile, const Arbeit& form) {
-    const int row = form.tblArbStd->rowOf(form.lblArbNr->text());
-    const auto mitglied = [&] { return CLng(zeile[1]) == CLng(form.lblKNr->text()); };
+void zeigeGeaenderten(ErrorTail& step, const std::vector<Value>& zeile, const Arbeit& screen) {
+    const int row = screen.tblArbStd->rowOf(screen.lblArbNr->text());
+    const auto mitglied = [&] { return CLng(zeile[1]) == CLng(screen.lblKNr->text()); };
     if (row >= 0) {
-        step([&] { form.tblArbStd->setCell(row, 2, form.txtArbStd->text()); });
-        step([&] { form.tblArbStd->setCell(row, 3, form.pvDate->date()); });
-        form.tblArbStd->markRow(row);
+        step([&] { screen.tblArbStd->setCell(row, 2, screen.txtArbStd->text()); });
+        step([&] { screen.tblArbStd->setCell(row, 3, screen.pvDate->date()); });
+        screen.tblArbStd->markRow(row);
     } else if (step.test(mitglied)) {
-        haengeAn(step, zeile, form);
+        haengeAn(step, zeile, screen);
     }
 }
 
 /// A booking that came without a date opens with the empty one.
 Date datumOderLeer(const Value& datum) { return datum.isNull() ? Date() : CDate(datum); }
 
-void zeigeNeueSumme(ErrorTail& step, const Arbeit& form) {
+void zeigeNeueSumme(ErrorTail& step, const Arbeit& screen) {
     step([&] {
         const double stunden =
-            ErmittleStunden(CLng(form.lblKNr->text()), CLng(form.cboArbJahr->currentText()));
-        form.lblGesStd->setText(Format(stunden, stundenMuster()));
+            ErmittleStunden(CLng(screen.lblKNr->text()), CLng(screen.cboArbJahr->currentText()));
+        screen.lblGesStd->setText(Format(stunden, stundenMuster()));
     });
     step([] { zeigeSaldo(); });
 }
 
 } // namespace
 
-bool ArbeitsZugriff_Erlaubt() { return zugriffErlaubt(modul, u"ArbeitsZugriff_Erlaubt"_qs, u"Arbeit"_qs); }
+bool ArbeitsZugriff_Erlaubt() { return zugriffErlaubt(modul, u"ArbeitsZugriff_Erlaubt"_s, u"Arbeit"_s); }
 
 void SpeicherStunden() {
-    withErrorTail(modul, u"SpeicherStunden"_qs, [](ErrorTail& step) {
-        const Arbeit& form = screen<Arbeit>();
+    withErrorTail(modul, u"SpeicherStunden"_s, [](ErrorTail& step) {
+        const Arbeit& screen = the<Arbeit>();
         std::vector<Value> zeile;
         const auto felder = [&](Recordset& arbeit) {
-            step([&] { arbeit.Collect(u"knr"_qs, CLng(form.lblKNr->text())); });
-            schreibeFelder(step, arbeit, form);
+            step([&] { arbeit.Collect(u"knr"_s, CLng(screen.lblKNr->text())); });
+            schreibeFelder(step, arbeit, screen);
         };
-        if (Datensatz::speichere(step, u"Arbeit"_qs, felder, lies(step, zeile))) haengeAn(step, zeile, form);
-        zeigeNeueSumme(step, form);
+        if (Datensatz::speichere(step, u"Arbeit"_s, felder, lies(step, zeile))) haengeAn(step, zeile, screen);
+        zeigeNeueSumme(step, screen);
         LeereArbEingabe();
-        form.pvDate->setFocus();
+        screen.pvDate->setFocus();
     });
 }
 
 void UpdateStunden(int /*row*/) {
-    withErrorTail(modul, u"UpdateStunden"_qs, [](ErrorTail& step) {
-        const Arbeit& form = screen<Arbeit>();
+    withErrorTail(modul, u"UpdateStunden"_s, [](ErrorTail& step) {
+        const Arbeit& screen = the<Arbeit>();
         std::vector<Value> zeile;
-        const auto felder = [&](Recordset& arbeit) { schreibeFelder(step, arbeit, form); };
-        if (Datensatz::aendere(step, u"Arbeit"_qs, form.lblArbNr->text(), felder, lies(step, zeile)))
-            zeigeGeaenderten(step, zeile, form);
-        zeigeNeueSumme(step, form);
+        const auto felder = [&](Recordset& arbeit) { schreibeFelder(step, arbeit, screen); };
+        if (Datensatz::aendere(step, u"Arbeit"_s, screen.lblArbNr->text(), felder, lies(step, zeile)))
+            zeigeGeaenderten(step, zeile, screen);
+        zeigeNeueSumme(step, screen);
         LeereArbEingabe();
-        form.pvDate->setFocus();
+        screen.pvDate->setFocus();
     });
 }
 
 void LoescheStunden(int /*row*/) {
-    withErrorTail(modul, u"LoescheStunden"_qs, [](ErrorTail& step) {
-        const Arbeit& form = screen<Arbeit>();
-        if (Datensatz::loesche(step, u"Arbeit"_qs, form.lblArbNr->text())) {
-            const int row = form.tblArbStd->rowOf(form.lblArbNr->text());
-            if (row >= 0) step([&] { form.tblArbStd->removeRow(row); });
-            zeigeNeueSumme(step, form);
+    withErrorTail(modul, u"LoescheStunden"_s, [](ErrorTail& step) {
+        const Arbeit& screen = the<Arbeit>();
+        if (Datensatz::loesche(step, u"Arbeit"_s, screen.lblArbNr->text())) {
+            const int row = screen.tblArbStd->rowOf(screen.lblArbNr->text());
+            if (row >= 0) step([&] { screen.tblArbStd->removeRow(row); });
+            zeigeNeueSumme(step, screen);
         }
         LeereArbEingabe();
-        form.pvDate->setFocus();
+        screen.pvDate->setFocus();
     });
 }
 
 void loadArbeitsVorgang(int row, int /*column*/) {
-    withErrorTail(modul, u"loadArbeitsVorgang"_qs, [row](ErrorTail& step) {
-        const Arbeit& form = screen<Arbeit>();
+    withErrorTail(modul, u"loadArbeitsVorgang"_s, [row](ErrorTail& step) {
+        const Arbeit& screen = the<Arbeit>();
         Recordset arbeit;
         step([&] {
-            arbeit = oeffneAbfrage(u"SELECT ArbNr, Datum, ArbStd, Notiz FROM Arbeit WHERE ArbNr = "_qs +
-                                   form.tblArbStd->cellText(row, 0));
+            arbeit = oeffneAbfrage(u"SELECT ArbNr, Datum, ArbStd, Notiz FROM Arbeit WHERE ArbNr = "_s +
+                                   screen.tblArbStd->cellText(row, 0));
         });
         // Hours that a failed booking never got stand as an empty text.
         const auto text = [&](const QString& field) { return Format(arbeit.Collect(field), QString()); };
         if (step.test([&] { return arbeit.RecordCount() == 1; })) {
-            step([&] { form.lblArbNr->setText(text(u"ArbNr"_qs)); });
-            step([&] { form.pvDate->setDate(datumOderLeer(arbeit.Collect(u"Datum"_qs))); });
-            step([&] { form.txtArbNotiz->setText(text(u"Notiz"_qs)); });
-            step([&] { form.txtArbStd->setText(text(u"ArbStd"_qs)); });
+            step([&] { screen.lblArbNr->setText(text(u"ArbNr"_s)); });
+            step([&] { screen.pvDate->setDate(datumOderLeer(arbeit.Collect(u"Datum"_s))); });
+            step([&] { screen.txtArbNotiz->setText(text(u"Notiz"_s)); });
+            step([&] { screen.txtArbStd->setText(text(u"ArbStd"_s)); });
         } else {
             modRun::MeldeNichtVorhanden();
         }
@@ -144,33 +146,33 @@ void loadArbeitsVorgang(int row, int /*column*/) {
 }
 
 void LeereArbEingabe() {
-    const Arbeit& form = screen<Arbeit>();
-    form.lblArbNr->setText(QString());
-    form.pvDate->setDate(Date::fromQDate(today()));
-    form.txtArbNotiz->setText(QString());
-    form.txtArbStd->setText(QString());
+    const Arbeit& screen = the<Arbeit>();
+    screen.lblArbNr->setText(QString());
+    screen.pvDate->setDate(Date::fromQDate(today()));
+    screen.txtArbNotiz->setText(QString());
+    screen.txtArbStd->setText(QString());
 }
 
 void LeereOffenen() {
-    if (!screen<Arbeit>().lblArbNr->text().isEmpty()) LeereArbEingabe();
+    if (!the<Arbeit>().lblArbNr->text().isEmpty()) LeereArbEingabe();
 }
 
 void LeereArbAnzeige() {
-    const Arbeit& form = screen<Arbeit>();
+    const Arbeit& screen = the<Arbeit>();
     LeereArbEingabe();
-    form.tblArbStd->clearRows();
-    for (ValueLabel* label :
-         {form.lblVName, form.lblNName, form.lblKNr, form.lblGesStd, form.lblPflStd, form.lblErgStd})
+    screen.tblArbStd->clearRows();
+    for (ValueLabel* label : {screen.lblVName, screen.lblNName, screen.lblKNr, screen.lblGesStd,
+                              screen.lblPflStd, screen.lblErgStd})
         label->setText(QString());
-    form.cmdMList->setEnabled(false);
+    screen.cmdMList->setEnabled(false);
 }
 
 bool PruefeArbEingabe() {
-    const Arbeit& form = screen<Arbeit>();
+    const Arbeit& screen = the<Arbeit>();
     // A date that nobody can read would be booked as another one.
-    return modRun::fehlerfrei(modRun::erstesLeere({{form.cmdSuch, form.lblKNr->text().isEmpty()},
-                                                   {form.pvDate, !form.pvDate->isReadable()},
-                                                   form.txtArbStd}));
+    return modRun::fehlerfrei(modRun::erstesLeere({{screen.cmdSuch, screen.lblKNr->text().isEmpty()},
+                                                   {screen.pvDate, !screen.pvDate->isReadable()},
+                                                   screen.txtArbStd}));
 }
 
 } // namespace modArbeit

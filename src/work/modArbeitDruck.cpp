@@ -9,6 +9,8 @@
 #include "ValueLabel.h"
 #include "modArbeit.h"
 
+using namespace Qt::StringLiterals;
+
 // The work sheet of a member on paper.
 
 namespace modArbeit {
@@ -22,42 +24,42 @@ Value stundenWieGezeigt(const DataTable& grid, int row) {
 }
 
 void schreibeZeile(ErrorTail& step, Recordset& zeile, const DataTable& grid, int row) {
-    step([&] { zeile.Collect(u"ArbNr"_qs, CLng(grid.cell(row, 0))); });
-    step([&] { zeile.Collect(u"GelStd"_qs, stundenWieGezeigt(grid, row)); });
-    step([&] { zeile.Collect(u"Datum"_qs, grid.cell(row, 3)); });
+    step([&] { zeile.Collect(u"ArbNr"_s, CLng(grid.cell(row, 0))); });
+    step([&] { zeile.Collect(u"GelStd"_s, stundenWieGezeigt(grid, row)); });
+    step([&] { zeile.Collect(u"Datum"_s, grid.cell(row, 3)); });
 }
 
 void richteEin(ErrorTail& step, Report& report) {
-    const Arbeit& form = screen<Arbeit>();
+    const Arbeit& screen = the<Arbeit>();
     const auto caption = [&](const QString& section, const QString& name, const QString& text) {
         step([&] { report.control(section, name).setCaption(text); });
     };
     const auto bind = [&](const QString& name, const QString& field) {
-        step([&] { report.control(u"Section1"_qs, name).setDataField(field); });
+        step([&] { report.control(u"Section1"_s, name).setDataField(field); });
     };
-    caption(u"Section2"_qs, u"lblUebSchrift"_qs,
-            Berichte::titelArbListe() + u' ' + form.cboArbJahr->currentText());
+    caption(u"Section2"_s, u"lblUebSchrift"_s,
+            Berichte::titelArbListe() + u' ' + screen.cboArbJahr->currentText());
     // The sums are those on the screen, whatever the rows come to.
-    caption(u"Section5"_qs, u"lblNName"_qs, form.lblNName->text());
-    caption(u"Section5"_qs, u"lblVName"_qs, form.lblVName->text());
-    caption(u"Section5"_qs, u"lblMitglNr"_qs, form.lblKNr->text());
-    caption(u"Section5"_qs, u"lblGesStd"_qs, form.lblGesStd->text());
-    caption(u"Section5"_qs, u"lblPflStd"_qs, form.lblPflStd->text());
-    caption(u"Section5"_qs, u"lblSollHaben"_qs, form.lblErgStd->text());
-    bind(u"Text1"_qs, u"ArbNr"_qs);
-    bind(u"Text2"_qs, u"GelStd"_qs);
-    bind(u"Text3"_qs, u"Datum"_qs);
+    caption(u"Section5"_s, u"lblNName"_s, screen.lblNName->text());
+    caption(u"Section5"_s, u"lblVName"_s, screen.lblVName->text());
+    caption(u"Section5"_s, u"lblMitglNr"_s, screen.lblKNr->text());
+    caption(u"Section5"_s, u"lblGesStd"_s, screen.lblGesStd->text());
+    caption(u"Section5"_s, u"lblPflStd"_s, screen.lblPflStd->text());
+    caption(u"Section5"_s, u"lblSollHaben"_s, screen.lblErgStd->text());
+    bind(u"Text1"_s, u"ArbNr"_s);
+    bind(u"Text2"_s, u"GelStd"_s);
+    bind(u"Text3"_s, u"Datum"_s);
 }
 
 } // namespace
 
 void DruckeArbListe(const QString& wort) {
-    Arbeit& form = screen<Arbeit>();
-    drucke({.modul = u"modArbeit"_qs,
-            .routine = u"DruckeArbListe"_qs,
-            .aufrufer = form,
-            .grid = *form.tblArbStd,
-            .tabelle = u"Druck_ArbListe"_qs,
+    Arbeit& screen = the<Arbeit>();
+    drucke({.modul = u"modArbeit"_s,
+            .routine = u"DruckeArbListe"_s,
+            .aufrufer = screen,
+            .grid = *screen.tblArbStd,
+            .tabelle = u"Druck_ArbListe"_s,
             .report = &Berichte::rpt_ArbListe,
             .schreibeZeile = &schreibeZeile,
             .richteEin = &richteEin},

@@ -24,13 +24,15 @@
 #include <array>
 #include <optional>
 
+using namespace Qt::StringLiterals;
+
 // How a member comes into the ledger, and what his year comes to.
 
 namespace modArbeit {
 
 namespace {
 
-const QString modul = u"modArbeit"_qs;
+const QString modul = u"modArbeit"_s;
 
 /// What a list tells of the member in one of its rows.
 struct Mitglied {
@@ -42,9 +44,9 @@ struct Mitglied {
 
 void meldeBefreit() {
     MsgBox(
-        u"Mitglied ist von Arb.-Std. befreit ! Übernahme ins Arbeitscontrolling wurde abgebrochen !\r\n\r\n"_qs
-        u"Um eine Stundenverwaltung zu ermöglichen, müssen Sie erst den Status auf - nicht Befreit - "_qs
-        u"setzen.\r\n\r\nNähere Angaben dazu enthält die Online - Hilfe !"_qs,
+        u"Mitglied ist von Arb.-Std. befreit ! Übernahme ins Arbeitscontrolling wurde abgebrochen !\r\n\r\n"_s
+        u"Um eine Stundenverwaltung zu ermöglichen, müssen Sie erst den Status auf - nicht Befreit - "_s
+        u"setzen.\r\n\r\nNähere Angaben dazu enthält die Online - Hilfe !"_s,
         vbInformation);
 }
 
@@ -52,11 +54,11 @@ void meldeBefreit() {
 bool schuldetStunden(ErrorTail& step, const QString& knr) {
     Recordset mitglied;
     bool befreit = false;
-    step([&] { mitglied = oeffneTabelle(u"Mitglied"_qs); });
+    step([&] { mitglied = oeffneTabelle(u"Mitglied"_s); });
     const bool gefunden = Datensatz::finde(step, mitglied, knr);
     if (!gefunden)
         modRun::MeldeNichtVorhanden();
-    else if (step.test([&] { return mitglied.Collect(u"Befreit"_qs) == Value(true); }))
+    else if (step.test([&] { return mitglied.Collect(u"Befreit"_s) == Value(true); }))
         befreit = true;
     if (befreit) meldeBefreit();
     step([&] { mitglied.Close(); });
@@ -64,28 +66,29 @@ bool schuldetStunden(ErrorTail& step, const QString& knr) {
 }
 
 void zeigeMitglied(ErrorTail& step, const Mitglied& mitglied) {
-    Arbeit& form = screen<Arbeit>();
+    Arbeit& screen = the<Arbeit>();
     // A booking that stands open is the former member's: it must not be taken for the new one's.
     LeereOffenen();
-    form.giveUpRecord();
-    form.lblKNr->setText(mitglied.knr);
-    form.lblVName->setText(mitglied.vorname);
-    form.lblNName->setText(mitglied.nachname);
-    form.setWindowTitle(u"Arbeitscontrolling - "_qs + mitglied.titel + u" -"_qs);
+    screen.giveUpRecord();
+    screen.lblKNr->setText(mitglied.knr);
+    screen.lblVName->setText(mitglied.vorname);
+    screen.lblNName->setText(mitglied.nachname);
+    screen.setWindowTitle(u"Arbeitscontrolling - "_s + mitglied.titel + u" -"_s);
     step([&] {
-        const double stunden = loadTblArbeit(CLng(form.lblKNr->text()), CLng(form.cboArbJahr->currentText()));
-        form.lblGesStd->setText(Format(stunden, stundenMuster()));
+        const double stunden =
+            loadTblArbeit(CLng(screen.lblKNr->text()), CLng(screen.cboArbJahr->currentText()));
+        screen.lblGesStd->setText(Format(stunden, stundenMuster()));
     });
     step([] { zeigePflichtStd(); });
     step([] { zeigeSaldo(); });
-    form.pvDate->setFocus();
+    screen.pvDate->setFocus();
 }
 
 } // namespace
 
 void UebernehmeKontakt(int row) {
-    withErrorTail(modul, u"UebernehmeKontakt"_qs, [row](ErrorTail& step) {
-        const DataTable* grid = screen<SuchKont>().tblSuch;
+    withErrorTail(modul, u"UebernehmeKontakt"_s, [row](ErrorTail& step) {
+        const DataTable* grid = the<SuchKont>().tblSuch;
         std::array<QString, 5> zeile;
         step([&] {
             for (int column = 0; column < 5; ++column)
@@ -98,33 +101,32 @@ void UebernehmeKontakt(int row) {
 }
 
 void mnuArbContr_Click() {
-    withErrorTail(modul, u"mnuArbContr_Click"_qs, [](ErrorTail& step) {
-        const DataTable* grid = screen<MitglList>().tblMList;
+    withErrorTail(modul, u"mnuArbContr_Click"_s, [](ErrorTail& step) {
+        const DataTable* grid = the<MitglList>().tblMList;
         std::array<QString, 4> zeile;
         step([&] {
             for (int column = 0; column < 4; ++column)
-                zeile[static_cast<std::size_t>(column)] =
-                    grid->cellText(screen<MitglList>().gridRow(), column);
+                zeile[static_cast<std::size_t>(column)] = grid->cellText(the<MitglList>().gridRow(), column);
         });
         const auto& [knr, nachname, vorname, strasse] = zeile;
         if (!schuldetStunden(step, knr)) return;
         // On this way the caption reads street and first name; the labels below it read correctly.
         zeigeMitglied(step, {knr, nachname, vorname, strasse + u' ' + vorname});
-        Arbeit& form = screen<Arbeit>();
-        form.cmdMList->setEnabled(true);
-        form.erwarteMitglied();
-        rahmen()->zeigeBereich(u"Arbeit"_qs);
-        form.pvDate->setFocus();
+        Arbeit& screen = the<Arbeit>();
+        screen.cmdMList->setEnabled(true);
+        screen.erwarteMitglied();
+        rahmen()->zeigeBereich(u"Arbeit"_s);
+        screen.pvDate->setFocus();
     });
 }
 
 double loadTblArbeit(qint32 knr, qint32 jahr) {
-    withErrorTail(modul, u"loadTblArbeit"_qs, [=](ErrorTail& step) {
-        DataTable* grid = screen<Arbeit>().tblArbStd;
+    withErrorTail(modul, u"loadTblArbeit"_s, [=](ErrorTail& step) {
+        DataTable* grid = the<Arbeit>().tblArbStd;
         Recordset liste;
         step([&] {
-            liste = oeffneAbfrage(u"SELECT ArbNr, KNr, ArbStd, Datum FROM Arbeit WHERE KNr = "_qs +
-                                  QString::number(knr) + u" AND Jahr = "_qs + QString::number(jahr));
+            liste = oeffneAbfrage(u"SELECT ArbNr, KNr, ArbStd, Datum FROM Arbeit WHERE KNr = "_s +
+                                  QString::number(knr) + u" AND Jahr = "_s + QString::number(jahr));
         });
         step([&] { grid->clearRows(); });
         std::vector<Recordset::Field> felder;
@@ -140,12 +142,12 @@ double loadTblArbeit(qint32 knr, qint32 jahr) {
     return ErmittleStunden(knr, jahr);
 }
 
-void zeigePflichtStd() { screen<Arbeit>().lblPflStd->setText(Format(session().PflichtStd, stundenMuster())); }
+void zeigePflichtStd() { the<Arbeit>().lblPflStd->setText(Format(session().PflichtStd, stundenMuster())); }
 
 void zeigeSaldo() {
-    const Arbeit& form = screen<Arbeit>();
-    const double saldo = BerechneSaldo(CDbl(form.lblGesStd->text()), CDbl(form.lblPflStd->text()));
-    form.lblErgStd->setText(Format(saldo, stundenMuster()));
+    const Arbeit& screen = the<Arbeit>();
+    const double saldo = BerechneSaldo(CDbl(screen.lblGesStd->text()), CDbl(screen.lblPflStd->text()));
+    screen.lblErgStd->setText(Format(saldo, stundenMuster()));
 }
 
 } // namespace modArbeit

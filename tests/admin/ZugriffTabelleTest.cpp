@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 bool isMarked(DataTable& grid, int row) {
@@ -14,16 +16,16 @@ bool isMarked(DataTable& grid, int row) {
 
 TEST(GroupsGrid, KeepsTheMarkOfARowBelowTheCountOfUsersWhenItLosesTheFocus) {
     beginSession(QString());
-    Benutzer& form = screen<Benutzer>();
-    form.tblBenutzer->appendRow({1, u"Admin"_qs, u""_qs, u"Gruppe"_qs});
-    for (const int gnr : {1, 2}) form.tblZugriff->appendRow({gnr, u"Gruppe"_qs});
-    form.tblZugriff->setSelectionMode(QAbstractItemView::MultiSelection);
-    form.tblZugriff->selectRows(0, 2, true);
+    Benutzer& screen = the<Benutzer>();
+    screen.tblBenutzer->appendRow({1, u"Admin"_s, u""_s, u"Gruppe"_s});
+    for (const int gnr : {1, 2}) screen.tblZugriff->appendRow({gnr, u"Gruppe"_s});
+    screen.tblZugriff->setSelectionMode(QAbstractItemView::MultiSelection);
+    screen.tblZugriff->selectRows(0, 2, true);
 
-    Q_EMIT form.tblZugriff->OnGridLostFocus();
+    Q_EMIT screen.tblZugriff->OnGridLostFocus();
 
-    EXPECT_FALSE(isMarked(*form.tblZugriff, 0));
-    EXPECT_TRUE(isMarked(*form.tblZugriff, 1));
+    EXPECT_FALSE(isMarked(*screen.tblZugriff, 0));
+    EXPECT_TRUE(isMarked(*screen.tblZugriff, 1));
     unload<Benutzer>();
 }
 

@@ -15,6 +15,8 @@
 #include <QThread>
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// A spreadsheet program that records the calls.
@@ -23,19 +25,19 @@ public:
     QStringList steps;
     int errorOfRunning = 429;
 
-    std::unique_ptr<Spreadsheet> running() override { return reached(u"running"_qs, errorOfRunning); }
-    std::unique_ptr<Spreadsheet> start() override { return reached(u"start"_qs, 0); }
+    std::unique_ptr<Spreadsheet> running() override { return reached(u"running"_s, errorOfRunning); }
+    std::unique_ptr<Spreadsheet> start() override { return reached(u"start"_s, 0); }
 
 private:
     class Sheet final : public Spreadsheet {
     public:
         explicit Sheet(QStringList& steps)
             : m_steps(steps) {}
-        void setVisible(bool on) override { m_steps += on ? u"visible"_qs : u"hidden"_qs; }
+        void setVisible(bool on) override { m_steps += on ? u"visible"_s : u"hidden"_s; }
         void openWorkbook(const QString& file) override {
-            m_steps += u"open "_qs + QFileInfo(file).fileName();
+            m_steps += u"open "_s + QFileInfo(file).fileName();
         }
-        void autoFitColumns(const QString& range) override { m_steps += u"fit "_qs + range; }
+        void autoFitColumns(const QString& range) override { m_steps += u"fit "_s + range; }
 
     private:
         QStringList& m_steps;
@@ -51,7 +53,7 @@ private:
 class StarteExcelFang : public ::testing::Test {
 protected:
     StarteExcelFang() {
-        QDir(folder.path()).mkdir(u"SeqData"_qs);
+        QDir(folder.path()).mkdir(u"SeqData"_s);
         beginSession(folder.path());
         setOfficeProgram<Spreadsheet>(&program);
     }
@@ -61,44 +63,44 @@ protected:
     RecordingProgram program;
 };
 
-const QStringList work = {u"visible"_qs, u"open Fang.csv"_qs, u"fit A:A"_qs, u"fit B:B"_qs,
-                          u"fit C:C"_qs, u"fit D:D"_qs,       u"fit E:E"_qs, u"fit F:F"_qs};
+const QStringList work = {u"visible"_s, u"open Fang.csv"_s, u"fit A:A"_s, u"fit B:B"_s,
+                          u"fit C:C"_s, u"fit D:D"_s,       u"fit E:E"_s, u"fit F:F"_s};
 
 TEST_F(StarteExcelFang, UsesTheRunningSpreadsheetElseStartsOne) {
     program.errorOfRunning = 0;
     modFAuswert::StarteExcelFang();
-    EXPECT_EQ(program.steps, QStringList{u"running"_qs} + work);
+    EXPECT_EQ(program.steps, QStringList{u"running"_s} + work);
 
     program.steps.clear();
     program.errorOfRunning = 429;
     modFAuswert::StarteExcelFang();
-    EXPECT_EQ(program.steps, (QStringList{u"running"_qs, u"start"_qs} + work));
+    EXPECT_EQ(program.steps, (QStringList{u"running"_s, u"start"_s} + work));
 }
 
 TEST(CsvDatei, FailsLoudlyAndKeepsWhatIsThereWhenItCannotBegin) {
     QTemporaryDir folder;
-    EXPECT_EQ(errorOf([&] { CsvDatei(folder.filePath(u"fehlt/FANG.csv"_qs)); }), 76);
+    EXPECT_EQ(errorOf([&] { CsvDatei(folder.filePath(u"fehlt/FANG.csv"_s)); }), 76);
     EXPECT_EQ(errorOf([&] { CsvDatei(folder.path()); }), 70);
     EXPECT_EQ(errorOf([] {
-                  CsvDatei full(u"/dev/full"_qs);
+                  CsvDatei full(u"/dev/full"_s);
                   full.writeText(u"Hecht", 50);
                   full.close();
               }),
               61);
     // Not closed, as after an error that the caller reports.
-    const QString path = folder.filePath(u"FANG.csv"_qs);
+    const QString path = folder.filePath(u"FANG.csv"_s);
     CsvDatei(path).writeText(u"Hecht", 50);
     EXPECT_EQ(QFileInfo(path).size(), 6);
 }
 
 TEST(CsvDatei, LeavesAFileAloneThatARunningOfficeHolds) {
     QTemporaryDir folder;
-    QFile(folder.filePath(u".~lock.FANG.csv#"_qs)).open(QIODevice::WriteOnly);
+    QFile(folder.filePath(u".~lock.FANG.csv#"_s)).open(QIODevice::WriteOnly);
     QProcess office;
-    ASSERT_TRUE(QFile::copy(u"/bin/sleep"_qs, folder.filePath(u"soffice.bin"_qs)));
-    office.start(folder.filePath(u"soffice.bin"_qs), {u"60"_qs});
+    ASSERT_TRUE(QFile::copy(u"/bin/sleep"_s, folder.filePath(u"soffice.bin"_s)));
+    office.start(folder.filePath(u"soffice.bin"_s), {u"60"_s});
     ASSERT_TRUE(office.waitForStarted());
-    const auto held = [&] { return errorOf([&] { CsvDatei(folder.filePath(u"FANG.csv"_qs)); }) == 70; };
+    const auto held = [&] { return errorOf([&] { CsvDatei(folder.filePath(u"FANG.csv"_s)); }) == 70; };
     // A process gets its name a moment after its start.
     for (int look = 0; look < 100 && !held(); ++look) QThread::msleep(10);
     EXPECT_TRUE(held());
@@ -107,20 +109,20 @@ TEST(CsvDatei, LeavesAFileAloneThatARunningOfficeHolds) {
     // The killed office has left its lock. Any other running office seems to hold it: that of another test
     // ends soon, that of a user does not.
     for (int look = 0; look < 100 && held(); ++look) QThread::msleep(100);
-    if (held() && QProcess::execute(u"pgrep"_qs, {u"-x"_qs, u"soffice.bin"_qs}) == 0)
+    if (held() && QProcess::execute(u"pgrep"_s, {u"-x"_s, u"soffice.bin"_s}) == 0)
         GTEST_SKIP() << "needs an end of the office that runs here";
     EXPECT_FALSE(held());
 }
 
 /// Converts the file with the filter that opens it for the user.
 TEST(LibreOfficeCalc, ReadsFieldsAsWritten) {
-    const QString office = QStandardPaths::findExecutable(u"soffice"_qs);
+    const QString office = QStandardPaths::findExecutable(u"soffice"_s);
     if (office.isEmpty()) GTEST_SKIP() << "needs the package libreoffice-calc";
     QTemporaryDir folder;
-    const QString path = folder.filePath(u"FANG.csv"_qs);
+    const QString path = folder.filePath(u"FANG.csv"_s);
     CsvDatei file(path);
-    for (const QString& fish : {u"\"Äsche"_qs, u"Zander\""_qs, u"=1+1"_qs}) {
-        for (const QString& text : {u"1              "_qs, fish, u"Mühlteich"_qs, u"2026.03"_qs})
+    for (const QString& fish : {u"\"Äsche"_s, u"Zander\""_s, u"=1+1"_s}) {
+        for (const QString& text : {u"1              "_s, fish, u"Mühlteich"_s, u"2026.03"_s})
             file.writeText(text, 50);
         file.endLine();
     }
@@ -128,20 +130,20 @@ TEST(LibreOfficeCalc, ReadsFieldsAsWritten) {
     QStringList words = LibreOfficeCalc::arguments(path);
     words.removeFirst();
     words.removeLast();
-    words += {u"-env:UserInstallation=file://"_qs + folder.path() + u"/profil"_qs,
-              u"--headless"_qs,
-              u"--convert-to"_qs,
-              u"html"_qs,
-              u"--outdir"_qs,
+    words += {u"-env:UserInstallation=file://"_s + folder.path() + u"/profil"_s,
+              u"--headless"_s,
+              u"--convert-to"_s,
+              u"html"_s,
+              u"--outdir"_s,
               folder.path(),
               path};
     ASSERT_EQ(QProcess::execute(office, words), 0);
-    QFile page(folder.filePath(u"FANG.html"_qs));
+    QFile page(folder.filePath(u"FANG.html"_s));
     ASSERT_TRUE(page.open(QIODevice::ReadOnly));
     const QString html = QString::fromUtf8(page.readAll());
-    EXPECT_TRUE(html.contains(u"Äsche"_qs) || html.contains(u"&Auml;sche"_qs)) << qPrintable(html);
-    EXPECT_TRUE(html.contains(u">=1+1<"_qs)) << qPrintable(html);
-    EXPECT_EQ(html.count(u"<td"_qs), 3 * 4) << qPrintable(html);
+    EXPECT_TRUE(html.contains(u"Äsche"_s) || html.contains(u"&Auml;sche"_s)) << qPrintable(html);
+    EXPECT_TRUE(html.contains(u">=1+1<"_s)) << qPrintable(html);
+    EXPECT_EQ(html.count(u"<td"_s), 3 * 4) << qPrintable(html);
 }
 
 } // namespace

@@ -4,6 +4,8 @@
 
 #include <QStringList>
 
+using namespace Qt::StringLiterals;
+
 /// Records the message boxes, each with its style's number in front. Answers questions with `answer`.
 class RecordedDialogue final : public MessageBoxes {
 public:
@@ -14,7 +16,7 @@ public:
     MsgBoxResult answer = vbNo;
 
     MsgBoxResult show(const QString& text, int style, const QString& title) override {
-        texts += u"%1 %2: %3"_qs.arg(style).arg(title, text);
+        texts += u"%1 %2: %3"_s.arg(style).arg(title, text);
         return style == vbYesNo ? answer : vbOK;
     }
 };

@@ -9,13 +9,15 @@
 #include <QTemporaryDir>
 #include <sqlite3.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// A small club. Nothing in it is ever changed.
 class Club {
 public:
     Club() {
-        const QString path = m_folder.filePath(u"uw01.mdb"_qs);
+        const QString path = m_folder.filePath(u"uw01.mdb"_s);
         createDatabase(path, m_key, 2005);
         m_connection =
             std::make_shared<cursors::Connection>(path, m_key, cursors::Connection::Access::ReadWrite);
@@ -51,7 +53,7 @@ private:
     static int isTooLong(void* club) { return ++static_cast<Club*>(club)->m_steps > mostSteps ? 1 : 0; }
 
     QTemporaryDir m_folder;
-    QString m_key = u"x'"_qs + QString(64, u'7') + u'\'';
+    QString m_key = u"x'"_s + QString(64, u'7') + u'\'';
     std::shared_ptr<cursors::Connection> m_connection;
     int m_steps = 0;
 };

@@ -10,10 +10,12 @@
 #include <algorithm>
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// A key of plain bytes: deriving one from a password would take most of the time.
-QString key() { return u"x'"_qs + QString(64, u'7') + u'\''; }
+QString key() { return u"x'"_s + QString(64, u'7') + u'\''; }
 
 QByteArray fileBytes(const QString& path) {
     QFile file(path);
@@ -41,16 +43,16 @@ struct Room {
         whole = fileBytes(path());
     }
 
-    QString path() const { return folder.filePath(u"uw01.mdb"_qs); }
-    QString copy() const { return folder.filePath(u"uwtmp.mdb"_qs); }
+    QString path() const { return folder.filePath(u"uw01.mdb"_s); }
+    QString copy() const { return folder.filePath(u"uwtmp.mdb"_s); }
 
     void clear() const {
         for (const QString& name : QDir(folder.path()).entryList(QDir::Files))
             QFile::remove(folder.filePath(name));
     }
 
-    QTemporaryDir folder{(QDir(u"/dev/shm"_qs).exists() ? u"/dev/shm"_qs : QDir::tempPath()) +
-                         u"/fuzz-XXXXXX"_qs};
+    QTemporaryDir folder{(QDir(u"/dev/shm"_s).exists() ? u"/dev/shm"_s : QDir::tempPath()) +
+                         u"/fuzz-XXXXXX"_s};
     QByteArray whole;
     FixedClock clock;
 };
@@ -74,9 +76,9 @@ void damage(const QString& path, const QByteArray& line) {
         return writeFile(path, bytes.replace(place / 1024 * 1024, 1024,
                                              bytes.mid(words.value(1).toUInt() % 64 * 1024, 1024)));
     case '-':
-        return writeFile(path + u"-journal"_qs, rest);
+        return writeFile(path + u"-journal"_s, rest);
     case '~':
-        return writeFile(path + u"-wal"_qs, rest);
+        return writeFile(path + u"-wal"_s, rest);
     default:
         return;
     }
@@ -86,7 +88,7 @@ void damage(const QString& path, const QByteArray& line) {
 int read(const QString& path, bool& sound, int& rows) {
     Database database;
     const int refused = errorOf(
-        [&] { database = DBEngine::Workspaces(0).OpenDatabase(path, false, false, u";pwd="_qs + key()); });
+        [&] { database = DBEngine::Workspaces(0).OpenDatabase(path, false, false, u";pwd="_s + key()); });
     if (refused != 0) return refused;
     sound = true;
     for (const TableSpec& table : schemaTables())

@@ -14,6 +14,8 @@
 #include <cmath>
 #include <cstring>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void checkLike(const QString& text, const QString& pattern) {
@@ -35,7 +37,7 @@ void checkDate(const QString& text) {
     require(date.has_value() == IsDate(text), "IsDate tells what is read");
     require(date.has_value() == (errorOf([&] { CDate(text); }) == 0), "CDate takes what IsDate tells");
     if (const auto literal = dialect::readDateLiteral(text)) {
-        const auto again = dialect::readDateLiteral(Format(*literal, u"m\\/d\\/yyyy"_qs));
+        const auto again = dialect::readDateLiteral(Format(*literal, u"m\\/d\\/yyyy"_s));
         require(again && again->toQDate() == literal->toQDate(), "a date of a statement is written back");
     }
     if (!date) return;
@@ -50,7 +52,7 @@ void checkNumber(double number) {
     const auto again = numberFromText(numberText(number));
     require(again && numberText(*again) == numberText(number), "a written number is read back");
     if (std::abs(number) > 1e9) return;
-    const auto rounded = numberFromText(Format(number, u"#,##0.00"_qs));
+    const auto rounded = numberFromText(Format(number, u"#,##0.00"_s));
     require(rounded && std::abs(*rounded - number) < 0.0051, "two decimals are near the number");
 }
 

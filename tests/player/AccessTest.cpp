@@ -25,11 +25,13 @@
 #include <QToolButton>
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// True for what a user operates and a screen reader must name.
 bool isControl(const QWidget* widget) {
-    const bool isPart = widget->objectName().startsWith(u"qt_"_qs) || widget->objectName().isEmpty();
+    const bool isPart = widget->objectName().startsWith(u"qt_"_s) || widget->objectName().isEmpty();
     return !isPart &&
            (qobject_cast<const QAbstractButton*>(widget) || qobject_cast<const QLineEdit*>(widget) ||
             qobject_cast<const QComboBox*>(widget) || qobject_cast<const QAbstractScrollArea*>(widget));
@@ -48,8 +50,8 @@ QKeySequence letterOf(const QWidget* widget) {
 }
 
 void expectAccess(Screen& screen) {
-    const QString page = modHandbuch::SeiteFuer(screen.objectName()) + u".html"_qs;
-    EXPECT_TRUE(QFile::exists(programFolder() + u"/Handbuch/"_qs + page)) << page.toStdString();
+    const QString page = modHandbuch::SeiteFuer(screen.objectName()) + u".html"_s;
+    EXPECT_TRUE(QFile::exists(programFolder() + u"/Handbuch/"_s + page)) << page.toStdString();
     screen.Show();
     QMap<QKeySequence, QString> letters;
     const auto take = [&](const QKeySequence& letter, const QString& who) {
@@ -60,7 +62,7 @@ void expectAccess(Screen& screen) {
         letters[letter] = who;
     };
     if (!screen.isOwnWindow())
-        for (const QAction* menu : ::screen<Main>().menuBar->actions())
+        for (const QAction* menu : the<Main>().menuBar->actions())
             take(QKeySequence::mnemonic(menu->text()), menu->text());
     for (QWidget* widget : screen.findChildren<QWidget*>()) {
         const auto* key = qobject_cast<QToolButton*>(widget);
@@ -76,21 +78,20 @@ void expectAccess(Screen& screen) {
 
 TEST(Access, EveryScreenHasAPageAndItsControlsNamesAndLettersOfTheirOwn) {
     const QTemporaryDir folder;
-    PlayedProgram program(folder.path() + u"/programm"_qs, folder.path());
+    PlayedProgram program(folder.path() + u"/programm"_s, folder.path());
     setEventsEnded(false); // an earlier test has ended them
     program.start();
-    expectAccess(screen<Login>());
-    screen<Login>().txtBenutzer->setText(u"Admin"_qs);
-    screen<Login>().cmdOK->click();
+    expectAccess(the<Login>());
+    the<Login>().txtBenutzer->setText(u"Admin"_s);
+    the<Login>().cmdOK->click();
     // The work ledger opens the search for a member first.
     QTimer search;
     QObject::connect(&search, &QTimer::timeout, [] {
-        if (screen<SuchKont>().isModalNow()) screen<SuchKont>().Hide();
+        if (the<SuchKont>().isModalNow()) the<SuchKont>().Hide();
     });
     search.start(1);
     for (const Bereich& bereich : bereiche()) expectAccess(bereich.maske.zeig());
-    for (Screen* screen :
-         std::initializer_list<Screen*>{&screen<Kontakt>(), &screen<SuchKont>(), &screen<Info>()})
+    for (Screen* screen : std::initializer_list<Screen*>{&the<Kontakt>(), &the<SuchKont>(), &the<Info>()})
         expectAccess(*screen);
 }
 

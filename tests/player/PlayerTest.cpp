@@ -5,6 +5,8 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 // tests/scenarios have the commands that succeed. These are the failures and their messages.
 
 namespace {
@@ -12,12 +14,12 @@ namespace {
 /// Runs a scenario that begins at the login. Returns what it writes to the standard error output.
 std::string told(const QString& script) {
     const QTemporaryDir folder;
-    QLoggingCategory::setFilterRules(u"default.warning=false"_qs); // Qt's, of the offscreen platform
+    QLoggingCategory::setFilterRules(u"default.warning=false"_s); // Qt's, of the offscreen platform
     testing::internal::CaptureStderr();
     {
-        PlayedProgram program(folder.path() + u"/programm"_qs, folder.path());
+        PlayedProgram program(folder.path() + u"/programm"_s, folder.path());
         setEventsEnded(false); // an earlier test has ended them
-        Player player(parseScript(u"start\n"_qs + script), program, {u"probe.txt"_qs, false});
+        Player player(parseScript(u"start\n"_s + script), program, {u"probe.txt"_s, false});
         player.play();
     }
     return testing::internal::GetCapturedStderr();
@@ -32,21 +34,21 @@ struct Fault {
 std::string tale(const std::vector<Fault>& faults, int firstLine) {
     QString text;
     for (const Fault& fault : faults)
-        text += u"probe.txt:%1: %2\n  expected: that it can be done\n  got:      %3\n"_qs.arg(firstLine++)
+        text += u"probe.txt:%1: %2\n  expected: that it can be done\n  got:      %3\n"_s.arg(firstLine++)
                     .arg(fault.line, fault.got);
     return text.toStdString();
 }
 
 TEST(Player, TellsEveryFailureAndPlaysTheRest) {
     const std::vector<Fault> faults = {
-        {u"nope 1"_qs, u"there is no such command"_qs},
-        {u"click Nirgends.cmd"_qs, u"there is no screen Nirgends"_qs},
-        {u"press Fangbuch.tbSpeichern"_qs, u"Fangbuch.tbSpeichern is not visible"_qs},
-        {u"press Fangauswertung.tbSuch zweimal"_qs, u"2 words behind the name, which it does not take"_qs},
-        {u"click \"Fangauswertung.tbSuch"_qs, u"a quote that is not closed"_qs},
-        {u"sh \"echo weh; exit 3\""_qs, u"the shell gave 3: weh"_qs},
+        {u"nope 1"_s, u"there is no such command"_s},
+        {u"click Nirgends.cmd"_s, u"there is no screen Nirgends"_s},
+        {u"press Fangbuch.tbSpeichern"_s, u"Fangbuch.tbSpeichern is not visible"_s},
+        {u"press Fangauswertung.tbSuch zweimal"_s, u"2 words behind the name, which it does not take"_s},
+        {u"click \"Fangauswertung.tbSuch"_s, u"a quote that is not closed"_s},
+        {u"sh \"echo weh; exit 3\""_s, u"the shell gave 3: weh"_s},
     };
-    QString script = u"login Admin \"\"\nnav Fangauswertung\n"_qs;
+    QString script = u"login Admin \"\"\nnav Fangauswertung\n"_s;
     for (const Fault& fault : faults) script += fault.line + u'\n';
     EXPECT_EQ(told(script), tale(faults, 4));
 }
@@ -56,12 +58,12 @@ TEST(Player, FailsForWhatIsLeftOver) {
         const std::string said = told(script);
         EXPECT_NE(said.find(what), std::string::npos) << said;
     };
-    const QString asked = u"login Admin \"\"\nnav Fangauswertung\npress Fangauswertung.tbSuch"_qs;
+    const QString asked = u"login Admin \"\"\nnav Fangauswertung\npress Fangauswertung.tbSuch"_s;
     tells(asked, "no question without a queued answer");
-    tells(u"answer no\n"_qs + asked, "no box that has not been printed");
-    tells(asked + u"\nbox information"_qs, "the boxes were: yesno information");
-    tells(u"answer no"_qs, "no answer left over");
-    tells(u"dialog cancel"_qs, "no dialog left over");
+    tells(u"answer no\n"_s + asked, "no box that has not been printed");
+    tells(asked + u"\nbox information"_s, "the boxes were: yesno information");
+    tells(u"answer no"_s, "no answer left over");
+    tells(u"dialog cancel"_s, "no dialog left over");
 }
 
 TEST(Player, ReachesNothingBehindAModalScreenNorAfterTheEnd) {
@@ -74,7 +76,7 @@ close SuchKont
 close Main
 show Arbeit.lblKNr
 running
-= no)"_qs),
+= no)"_s),
               R"(probe.txt:6: press Arbeit.tbBuchen
   expected: that it can be done
   got:      Arbeit.tbBuchen lies behind the modal screen SuchKont

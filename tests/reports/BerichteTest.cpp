@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using namespace Berichte;
@@ -9,7 +11,7 @@ using Align = ReportControl::Align;
 
 /// True if a bold head has the column's place, width and alignment.
 bool hasHead(Report& report, const ReportControl& column) {
-    for (const ReportControl& head : report.section(u"Section2"_qs).controls())
+    for (const ReportControl& head : report.section(u"Section2"_s).controls())
         if (head.place().left() == column.place().left() && head.place().width() == column.place().width() &&
             head.align() == column.align() && head.isBold())
             return true;
@@ -22,7 +24,7 @@ TEST(BerichteTest, EachColumnStandsBelowItsHeadAndBesideTheNextOne) {
         SCOPED_TRACE(qPrintable(report->caption()));
         int columns = 0;
         int end = 0;
-        for (const ReportControl& text : report->section(u"Section1"_qs).controls()) {
+        for (const ReportControl& text : report->section(u"Section1"_s).controls()) {
             if (text.kind() != ReportControl::Kind::Text) continue;
             EXPECT_TRUE(hasHead(*report, text)) << qPrintable(text.name());
             EXPECT_GT(text.place().left(), end);

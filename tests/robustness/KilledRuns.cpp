@@ -6,7 +6,9 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-QString rawKey() { return u"x'"_qs + QString(64, u'7') + u'\''; }
+using namespace Qt::StringLiterals;
+
+QString rawKey() { return u"x'"_s + QString(64, u'7') + u'\''; }
 
 QString answer(cursors::Connection& file, const QByteArray& select) {
     engine::Statement statement = file.prepare(select);

@@ -14,6 +14,8 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QByteArray bytesOf(const QString& path) {
@@ -31,8 +33,8 @@ QString contentOf(const QString& path) {
 
 /// In memory if possible: the tests would wait for a disk thousands of times.
 QString testFolder() {
-    const QString memory = u"/dev/shm"_qs;
-    return (QDir(memory).exists() ? memory : QDir::tempPath()) + u"/uferwart-XXXXXX"_qs;
+    const QString memory = u"/dev/shm"_s;
+    return (QDir(memory).exists() ? memory : QDir::tempPath()) + u"/uferwart-XXXXXX"_s;
 }
 
 } // namespace
@@ -44,7 +46,7 @@ class RewriteTest : public ::testing::Test {
 
 protected:
     RewriteTest() {
-        QDir(m_folder.path()).mkdir(u"temp"_qs);
+        QDir(m_folder.path()).mkdir(u"temp"_s);
         createDatabase(path(), rawKey(), 2005);
         cursors::Connection file(path(), rawKey(), cursors::Connection::Access::ReadWrite);
         const QByteArray numbers =
@@ -55,10 +57,10 @@ protected:
         file.execute("DELETE FROM Kontakt WHERE KNr > 50");
     }
 
-    QString path() const { return m_folder.filePath(u"uw01.mdb"_qs); }
-    QString work() const { return m_folder.filePath(u"temp/uwtmp.mdb"_qs); }
+    QString path() const { return m_folder.filePath(u"uw01.mdb"_s); }
+    QString work() const { return m_folder.filePath(u"temp/uwtmp.mdb"_s); }
 
-    QString kept() const { return m_folder.filePath(u"Sicherung"_qs); }
+    QString kept() const { return m_folder.filePath(u"Sicherung"_s); }
 
     void damage(qint64 page) const {
         QFile file(path());
@@ -167,7 +169,7 @@ TEST_F(RewriteTest, ACopyThatTheDiskHasLostIsNoFile) {
 }
 
 TEST_F(RewriteTest, AReadErrorLeavesTheFileAsItIs) {
-    Database open = DBEngine::Workspaces(0).OpenDatabase(path(), false, false, u";pwd="_qs + rawKey());
+    Database open = DBEngine::Workspaces(0).OpenDatabase(path(), false, false, u";pwd="_s + rawKey());
     failReadsAt(20 * 1024);
     EXPECT_TRUE(open.isSound()) << "what can't be read is not damaged";
     open.Close();

@@ -9,6 +9,8 @@
 #include <csignal>
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Waits until the process has a handler for the signal. False if it gets none.
@@ -16,10 +18,10 @@ bool waitUntilCaught(qint64 process, int signal) {
     constexpr int patienceMilliseconds = 30'000;
     QElapsedTimer waited;
     for (waited.start(); !waited.hasExpired(patienceMilliseconds); QThread::msleep(10)) {
-        QFile status(u"/proc/%1/status"_qs.arg(process));
+        QFile status(u"/proc/%1/status"_s.arg(process));
         if (!status.open(QIODevice::ReadOnly)) continue;
         const QString text = QString::fromLatin1(status.readAll());
-        const QString caught = text.section(u"SigCgt:"_qs, 1).section(u'\n', 0, 0).trimmed();
+        const QString caught = text.section(u"SigCgt:"_s, 1).section(u'\n', 0, 0).trimmed();
         if (caught.toULongLong(nullptr, 16) >> (signal - 1) & 1U) return true;
     }
     return false;
@@ -27,7 +29,7 @@ bool waitUntilCaught(qint64 process, int signal) {
 
 /// Starts a copy of the program in the folder, since it looks for its files beside itself.
 void startIn(const QString& folder, QProcess& program) {
-    const QString file = folder + u"/uferwart"_qs;
+    const QString file = folder + u"/uferwart"_s;
     ASSERT_TRUE(QFile::copy(QStringLiteral(UW_PROGRAM), file));
     program.start(file, QStringList());
     ASSERT_TRUE(program.waitForStarted());
@@ -44,7 +46,7 @@ TEST(EndSignalsTest, EndTheProgramWithItsSafetyCopy) {
         ASSERT_TRUE(program.waitForFinished());
         EXPECT_EQ(program.exitStatus(), QProcess::NormalExit) << signal;
         EXPECT_EQ(program.exitCode(), 0) << signal;
-        EXPECT_EQ(QDir(folder.path() + u"/Sicherung"_qs).count(), 2U + 1U) << signal;
+        EXPECT_EQ(QDir(folder.path() + u"/Sicherung"_s).count(), 2U + 1U) << signal;
     }
 }
 

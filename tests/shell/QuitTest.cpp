@@ -15,6 +15,8 @@
 #include <QTimer>
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int oldYear = 2025;
@@ -24,8 +26,8 @@ class QuitTest : public ::testing::Test {
 protected:
     QuitTest() {
         makeProgramFolder(m_folder.path(), oldYear, false);
-        add(u"Kontakt"_qs, {{u"KategoNr"_qs, 1}, {u"Nachname"_qs, u"Aal"_qs}});
-        add(u"Mitglied"_qs, {{u"knr"_qs, 1}, {u"Bezahlt"_qs, true}, {u"Befreit"_qs, false}});
+        add(u"Kontakt"_s, {{u"KategoNr"_s, 1}, {u"Nachname"_s, u"Aal"_s}});
+        add(u"Mitglied"_s, {{u"knr"_s, 1}, {u"Bezahlt"_s, true}, {u"Befreit"_s, false}});
         m_clock.setDay(QDate(oldYear + 1, 1, 1));
         setMessageBoxes(&m_boxes);
     }
@@ -51,15 +53,15 @@ protected:
             if (!box) return;
             // The open question about the year locks nothing: others can save.
             if (++boxes == 1) {
-                EXPECT_NO_THROW(add(u"Fisch"_qs, {{u"FName"_qs, u"Aal"_qs}}));
+                EXPECT_NO_THROW(add(u"Fisch"_s, {{u"FName"_s, u"Aal"_s}}));
             }
             if (boxes == last) return QCoreApplication::quit();
             QAbstractButton* yes = box->button(QMessageBox::Yes);
             (yes ? yes : box->button(QMessageBox::Ok))->click();
         });
         program.start();
-        screen<Login>().txtBenutzer->setText(u"Admin"_qs);
-        QTimer::singleShot(0, [] { screen<Login>().cmdOK->click(); });
+        the<Login>().txtBenutzer->setText(u"Admin"_s);
+        QTimer::singleShot(0, [] { the<Login>().cmdOK->click(); });
         hand.start(5);
         QApplication::exec();
         EXPECT_EQ(boxes, last);
@@ -69,8 +71,8 @@ protected:
     QString content() {
         Database file = openFolder(m_folder.path());
         const auto one = [&](const QString& select) { return CStr(only(file, select)); };
-        return one(u"SELECT MAX(FJahr) FROM System"_qs) + u' ' + one(u"SELECT COUNT(ArbNr) FROM Arbeit"_qs) +
-               u' ' + one(u"SELECT COUNT(KNr) FROM Mitglied WHERE Bezahlt = True"_qs);
+        return one(u"SELECT MAX(FJahr) FROM System"_s) + u' ' + one(u"SELECT COUNT(ArbNr) FROM Arbeit"_s) +
+               u' ' + one(u"SELECT COUNT(KNr) FROM Mitglied WHERE Bezahlt = True"_s);
     }
 
     QTemporaryDir m_folder;
@@ -82,7 +84,7 @@ TEST_F(QuitTest, OverABoxOfTheYearChangeLeavesTheOldYear) {
     constexpr int boxes = 4;
     for (int box = 1; box <= boxes; ++box) {
         playAndQuitAtBox(box);
-        EXPECT_EQ(content(), u"2025 0 1"_qs) << box;
+        EXPECT_EQ(content(), u"2025 0 1"_s) << box;
     }
 }
 

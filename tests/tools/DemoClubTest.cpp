@@ -4,6 +4,8 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// A program folder with the invented club of 2026, and its file.
@@ -12,7 +14,7 @@ public:
     DemoFolder() { makeProgramFolder(m_place.path(), 2026, true); }
 
     QString answer(const QByteArray& select) const {
-        cursors::Connection file(m_place.filePath(u"uw01.mdb"_qs), u"qx-1987-nkr"_qs,
+        cursors::Connection file(m_place.filePath(u"uw01.mdb"_s), u"qx-1987-nkr"_s,
                                  cursors::Connection::Access::ReadOnly);
         engine::Statement statement = file.prepare(select);
         statement.step();

@@ -15,6 +15,8 @@
 #include <QDate>
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using Program = PlayedProgram&;
@@ -57,18 +59,18 @@ Run tell(Answer answer) {
     };
 }
 
-QString yesOrNo(bool yes) { return yes ? u"yes"_qs : u"no"_qs; }
+QString yesOrNo(bool yes) { return yes ? u"yes"_s : u"no"_s; }
 
-QString nameOrNone(const QObject* object) { return object ? object->objectName() : u"none"_qs; }
+QString nameOrNone(const QObject* object) { return object ? object->objectName() : u"none"_s; }
 
 bool parseChoice(const QString& word, const QString& yes, const QString& no) {
-    if (word != yes && word != no) throw CommandFailure{u"%1 is neither %2 nor %3"_qs.arg(word, yes, no)};
+    if (word != yes && word != no) throw CommandFailure{u"%1 is neither %2 nor %3"_s.arg(word, yes, no)};
     return word == yes;
 }
 
 QDate parseDate(const QString& word) {
     const QDate day = QDate::fromString(word, Qt::ISODate);
-    if (!day.isValid()) throw CommandFailure{u"%1 is no date"_qs.arg(word)};
+    if (!day.isValid()) throw CommandFailure{u"%1 is no date"_s.arg(word)};
     return day;
 }
 
@@ -77,8 +79,8 @@ Run press(Qt::MouseButton button) {
 }
 
 void queueDialog(Program program, Words words) {
-    const bool file = parseChoice(words.value(0), u"pdf"_qs, u"cancel"_qs);
-    if (words.size() != (file ? 2 : 1)) throw CommandFailure{u"a file belongs to pdf, and none to cancel"_qs};
+    const bool file = parseChoice(words.value(0), u"pdf"_s, u"cancel"_s);
+    if (words.size() != (file ? 2 : 1)) throw CommandFailure{u"a file belongs to pdf, and none to cancel"_s};
     program.dialogs().queue(file ? program.outputPath(words[1]) : QString());
 }
 
@@ -93,14 +95,14 @@ void changeDisk(Program, Words words) {
     const QString state = words.value(0);
     const bool full = state == u"full";
     if (words.size() > (full ? 2 : 1) || (!full && state != u"readonly" && state != u"fine"))
-        throw CommandFailure{u"%1 is nothing that a disk can be"_qs.arg(words.join(u' '))};
+        throw CommandFailure{u"%1 is nothing that a disk can be"_s.arg(words.join(u' '))};
     full ? fillDisk(words) : emptyDisk();
     forbidWriting(state == u"readonly");
 }
 
 void requireBoxes(Program program, Words words) {
     const QStringList came = program.boxes().takeKinds();
-    if (came != words) throw CommandFailure{u"the boxes were: "_qs + came.join(u' ')};
+    if (came != words) throw CommandFailure{u"the boxes were: "_s + came.join(u' ')};
 }
 
 QStringList show(Program, Words words) {
@@ -131,7 +133,7 @@ const QList<PlayerCommand>& commands() {
         {u"set", 2, runs, act(&set)},
         {u"paste", 2, runs, act(&paste)},
         {u"choose", 2, runs, act(&choose)},
-        {u"tick", 2, runs, act([](Words w) { tick(w[0], parseChoice(w[1], u"on"_qs, u"off"_qs)); })},
+        {u"tick", 2, runs, act([](Words w) { tick(w[0], parseChoice(w[1], u"on"_s, u"off"_s)); })},
         {u"option", 1, runs, act(&option)},
         {u"click", 1, runs, act(&click)},
         {u"press", 1, runs, act(&click)},
@@ -145,7 +147,7 @@ const QList<PlayerCommand>& commands() {
         {u"down", 3, runs, press(Qt::LeftButton)},
         {u"context", 3, runs, press(Qt::RightButton)},
         {u"answer", 1, any, quietly([](Program p, Words w) {
-             p.boxes().queueAnswer(parseChoice(w[0], u"yes"_qs, u"no"_qs) ? vbYes : vbNo);
+             p.boxes().queueAnswer(parseChoice(w[0], u"yes"_s, u"no"_s) ? vbYes : vbNo);
          })},
         {u"dialog", -1, any, quietly(&queueDialog)},
         {u"close", 1, runs, act(&ControlActions::close)},

@@ -24,6 +24,8 @@
 #include <QTabBar>
 #include <QTabWidget>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void clickOn(QWidget* widget, QPoint place, const QString& name) {
@@ -63,7 +65,7 @@ void clickBehindText(QWidget* field, const QString& name) {
 
 QWidget* requireTextField(const QString& name) {
     QWidget* field = textField(Controls::find(name));
-    if (!field) Controls::refuseKind(name, u"text field"_qs);
+    if (!field) Controls::refuseKind(name, u"text field"_s);
     Controls::requireUsable(field, name);
     return field;
 }
@@ -74,14 +76,14 @@ void enterField(const QString& name) {
     QWidget* field = requireTextField(name);
     constexpr int clicks = 2;
     for (int click = 0; click < clicks && !field->hasFocus(); ++click) clickBehindText(field, name);
-    if (!field->hasFocus()) throw CommandFailure{u"%1 does not take the focus"_qs.arg(name)};
+    if (!field->hasFocus()) throw CommandFailure{u"%1 does not take the focus"_s.arg(name)};
 }
 
 /// Types the year first and the day last, so that every date in between exists.
 void typeSections(QDateTimeEdit* edit, QDate date) {
-    const std::pair<QDateTimeEdit::Section, QString> parts[] = {{QDateTimeEdit::YearSection, u"yyyy"_qs},
-                                                                {QDateTimeEdit::MonthSection, u"MM"_qs},
-                                                                {QDateTimeEdit::DaySection, u"dd"_qs}};
+    const std::pair<QDateTimeEdit::Section, QString> parts[] = {{QDateTimeEdit::YearSection, u"yyyy"_s},
+                                                                {QDateTimeEdit::MonthSection, u"MM"_s},
+                                                                {QDateTimeEdit::DaySection, u"dd"_s}};
     for (const auto& [section, format] : parts) {
         edit->setSelectedSection(section);
         Hand::type(date.toString(format));
@@ -101,7 +103,7 @@ QPoint arrowOf(const QComboBox* combo) {
 /// Moves the mouse inside the list first. Without that the list does not take the release as a choice.
 void clickEntry(QComboBox* combo, int entry, const QString& name) {
     QAbstractItemView* list = combo->view();
-    if (!list->isVisible()) throw CommandFailure{u"the list of %1 did not open"_qs.arg(name)};
+    if (!list->isVisible()) throw CommandFailure{u"the list of %1 did not open"_s.arg(name)};
     const QModelIndex index = combo->model()->index(entry, combo->modelColumn(), combo->rootModelIndex());
     list->scrollTo(index);
     QWidget* face = list->viewport();
@@ -111,7 +113,7 @@ void clickEntry(QComboBox* combo, int entry, const QString& name) {
 }
 
 std::pair<QWidget*, QPoint> reachCell(const QString& grid, const QString& row, const QString& column) {
-    auto* table = Controls::find<DataTable>(grid, u"grid"_qs);
+    auto* table = Controls::find<DataTable>(grid, u"grid"_s);
     Controls::requireUsable(table, grid);
     const GridCells::Row there = GridCells::parseRow(row);
     const QPoint place = GridCells::placeOf(table, grid, there, GridCells::parseNumber(column));
@@ -119,7 +121,7 @@ std::pair<QWidget*, QPoint> reachCell(const QString& grid, const QString& row, c
     return {table->viewport(), place};
 }
 
-NavigationBar* bar() { return qobject_cast<Main*>(Controls::findScreen(u"Main"_qs))->ButtnBar; }
+NavigationBar* bar() { return qobject_cast<Main*>(Controls::findScreen(u"Main"_s))->ButtnBar; }
 
 QWidget* keyReceiver(Screen* screen) {
     QWidget* focused = QApplication::focusWidget();
@@ -154,23 +156,23 @@ void paste(const QString& name, const QString& text) {
 }
 
 void choose(const QString& name, const QString& entry) {
-    auto* combo = Controls::find<QComboBox>(name, u"combo box"_qs);
+    auto* combo = Controls::find<QComboBox>(name, u"combo box"_s);
     const int place = combo->findText(entry, Qt::MatchExactly | Qt::MatchCaseSensitive);
     if (place < 0)
         throw CommandFailure{
-            u"%1 has only the entries %2"_qs.arg(name, ControlText::entries(name).join(u'|'))};
+            u"%1 has only the entries %2"_s.arg(name, ControlText::entries(name).join(u'|'))};
     clickOn(combo, arrowOf(combo), name);
     clickEntry(combo, place, name);
 }
 
 void tick(const QString& name, bool on) {
-    auto* box = Controls::find<QCheckBox>(name, u"check box"_qs);
+    auto* box = Controls::find<QCheckBox>(name, u"check box"_s);
     Controls::requireUsable(box, name);
     if (box->isChecked() != on) clickButton(box, name);
 }
 
 void option(const QString& name) {
-    clickButton(Controls::find<QRadioButton>(name, u"option button"_qs), name);
+    clickButton(Controls::find<QRadioButton>(name, u"option button"_s), name);
 }
 
 void click(const QString& name) {
@@ -182,20 +184,20 @@ void click(const QString& name) {
 void setDate(const QString& name, QDate date) {
     QWidget* control = Controls::find(name);
     auto* field = control->findChild<QLineEdit*>();
-    if (!field) Controls::refuseKind(name, u"date control"_qs);
+    if (!field) Controls::refuseKind(name, u"date control"_s);
     clickOn(field, {field->width() / 2, field->height() / 2}, name);
     if (auto* edit = qobject_cast<QDateTimeEdit*>(control)) return typeSections(edit, date);
     Hand::key(Qt::Key_A, Qt::ControlModifier);
-    Hand::type(date.toString(u"dd.MM.yyyy"_qs));
+    Hand::type(date.toString(u"dd.MM.yyyy"_s));
 }
 
 void selectTab(const QString& name, int page) {
     QWidget* control = Controls::find(name);
     const auto* pages = qobject_cast<QTabWidget*>(control);
     QTabBar* tabs = pages ? pages->tabBar() : qobject_cast<QTabBar*>(control);
-    if (!tabs) Controls::refuseKind(name, u"tab control"_qs);
-    if (page < 0 || page >= tabs->count()) throw CommandFailure{u"%1 has no page %2"_qs.arg(name).arg(page)};
-    if (!tabs->isTabEnabled(page)) throw CommandFailure{u"page %1 is not enabled"_qs.arg(page)};
+    if (!tabs) Controls::refuseKind(name, u"tab control"_s);
+    if (page < 0 || page >= tabs->count()) throw CommandFailure{u"%1 has no page %2"_s.arg(name).arg(page)};
+    if (!tabs->isTabEnabled(page)) throw CommandFailure{u"page %1 is not enabled"_s.arg(page)};
     clickOn(tabs, tabs->tabRect(page).center(), name);
 }
 
@@ -205,7 +207,7 @@ void focus(const QString& name) {
     Controls::requireUsable(control, name);
     if (QWidget* field = textField(control)) return clickBehindText(field, name);
     if (!(control->focusPolicy() & Qt::ClickFocus))
-        throw CommandFailure{u"%1 takes no focus by a click"_qs.arg(name)};
+        throw CommandFailure{u"%1 takes no focus by a click"_s.arg(name)};
     Hand::activateWindowOf(control);
     control->setFocus(Qt::MouseFocusReason);
     Hand::settle();
@@ -216,7 +218,7 @@ void pressKey(const QString& screenName, const QString& key) {
     Controls::requireUsable(screen, screenName);
     Hand::activateWindowOf(screen);
     if (QWidget* receiver = keyReceiver(screen)) receiver->setFocus(Qt::OtherFocusReason);
-    if (!Hand::namedKey(key)) throw CommandFailure{u"there is no key %1"_qs.arg(key)};
+    if (!Hand::namedKey(key)) throw CommandFailure{u"there is no key %1"_s.arg(key)};
 }
 
 // A screen on the stage has no border to close it by: its Form_QueryUnload is called directly.
@@ -232,7 +234,7 @@ void close(const QString& screenName) {
 
 void clickBarItem(const QString& key) {
     BarItem* item = bar()->item(key);
-    if (!item) throw CommandFailure{u"the bar has no item %1"_qs.arg(key)};
+    if (!item) throw CommandFailure{u"the bar has no item %1"_s.arg(key)};
     clickButton(item, key);
 }
 
@@ -247,9 +249,9 @@ void pressCell(const QString& grid, const QString& row, const QString& column, Q
 }
 
 void logIn(const QString& name, const QString& password) {
-    set(u"Login.txtBenutzer"_qs, name);
-    set(u"Login.txtPassw"_qs, password);
-    pressKey(u"Login"_qs, u"Return"_qs);
+    set(u"Login.txtBenutzer"_s, name);
+    set(u"Login.txtPassw"_s, password);
+    pressKey(u"Login"_s, u"Return"_s);
 }
 
 } // namespace ControlActions

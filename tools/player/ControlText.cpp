@@ -19,9 +19,11 @@
 #include <QTabWidget>
 #include <optional>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-QString onOrOff(bool on) { return on ? u"on"_qs : u"off"_qs; }
+QString onOrOff(bool on) { return on ? u"on"_s : u"off"_s; }
 
 /// A caption without the & of its mnemonic.
 QString withoutMnemonic(QString caption) {
@@ -65,7 +67,7 @@ QString shown(const QString& name) {
     if (GridCells::isCell(name)) return GridCells::cellText(name);
     const QWidget* control = Controls::find(name);
     const auto text = textOf(control);
-    if (!text) Controls::refuseKind(name, u"control with a text"_qs);
+    if (!text) Controls::refuseKind(name, u"control with a text"_s);
     return lineText(*text);
 }
 
@@ -82,14 +84,14 @@ bool isVisible(const QString& name) {
 }
 
 QStringList entries(const QString& comboName) {
-    const auto* combo = Controls::find<QComboBox>(comboName, u"combo box"_qs);
+    const auto* combo = Controls::find<QComboBox>(comboName, u"combo box"_s);
     QStringList entries;
     for (int entry = 0; entry < combo->count(); ++entry) entries.append(combo->itemText(entry));
     return entries;
 }
 
 QString heads(const QString& gridName) {
-    const QVector<QString> heads = Controls::find<DataTable>(gridName, u"grid"_qs)->visibleHeads();
+    const QVector<QString> heads = Controls::find<DataTable>(gridName, u"grid"_s)->visibleHeads();
     return QStringList(heads.begin(), heads.end()).join(u'|');
 }
 

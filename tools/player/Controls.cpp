@@ -7,6 +7,8 @@
 #include <QApplication>
 #include <QScrollArea>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QWidget* findOn(const Screen* screen, const QString& name) {
@@ -19,7 +21,7 @@ QWidget* findOn(const Screen* screen, const QString& name) {
 
 // Names that begin with qt_ belong to Qt's own parts of a control.
 bool isNamed(const QWidget* widget) {
-    return !widget->objectName().isEmpty() && !widget->objectName().startsWith(u"qt_"_qs);
+    return !widget->objectName().isEmpty() && !widget->objectName().startsWith(u"qt_"_s);
 }
 
 void scrollIntoView(QWidget* control) {
@@ -34,7 +36,7 @@ namespace Controls {
 
 Screen* findScreen(const QString& name) {
     Screen* screen = Screens::byName(name);
-    if (!screen) throw CommandFailure{u"there is no screen %1"_qs.arg(name)};
+    if (!screen) throw CommandFailure{u"there is no screen %1"_s.arg(name)};
     return screen;
 }
 
@@ -43,7 +45,7 @@ QWidget* find(const QString& name) {
     Screen* screen = findScreen(name.left(point));
     if (point < 0) return screen;
     QWidget* control = findOn(screen, name.mid(point + 1));
-    if (!control) throw CommandFailure{u"there is no control %1"_qs.arg(name)};
+    if (!control) throw CommandFailure{u"there is no control %1"_s.arg(name)};
     return control;
 }
 
@@ -55,7 +57,7 @@ Screen* screenOf(const QWidget* control) {
 
 QString nameOf(const QWidget* widget) {
     while (widget && !isNamed(widget)) widget = widget->parentWidget();
-    if (!widget) return u"none"_qs;
+    if (!widget) return u"none"_s;
     const Screen* screen = screenOf(widget);
     if (qobject_cast<const Screen*>(widget) || !screen) return widget->objectName();
     return screen->objectName() + u'.' + widget->objectName();
@@ -64,13 +66,13 @@ QString nameOf(const QWidget* widget) {
 void requireNotBlocked(const QWidget* widget, const QString& name) {
     if (!Hand::isLocked(widget->window())) return;
     const QString modal = QApplication::activeModalWidget()->objectName();
-    throw CommandFailure{u"%1 lies behind the modal screen %2"_qs.arg(name, modal)};
+    throw CommandFailure{u"%1 lies behind the modal screen %2"_s.arg(name, modal)};
 }
 
 void requireUsable(QWidget* control, const QString& name) {
-    if (!control->isVisible()) throw CommandFailure{u"%1 is not visible"_qs.arg(name)};
+    if (!control->isVisible()) throw CommandFailure{u"%1 is not visible"_s.arg(name)};
     requireNotBlocked(control, name);
-    if (!control->isEnabled()) throw CommandFailure{u"%1 is not enabled"_qs.arg(name)};
+    if (!control->isEnabled()) throw CommandFailure{u"%1 is not enabled"_s.arg(name)};
 }
 
 void requireReachable(QWidget* control, QPoint place, const QString& name) {
@@ -79,11 +81,11 @@ void requireReachable(QWidget* control, QPoint place, const QString& name) {
     QWidget* window = control->window();
     const QWidget* hit = window->childAt(control->mapTo(window, place));
     if (hit == control || control->isAncestorOf(hit) || (!hit && control == window)) return;
-    throw CommandFailure{u"%1 is covered by %2"_qs.arg(name, hit ? nameOf(hit) : u"the window's edge"_qs)};
+    throw CommandFailure{u"%1 is covered by %2"_s.arg(name, hit ? nameOf(hit) : u"the window's edge"_s)};
 }
 
 void refuseKind(const QString& name, const QString& kind) {
-    throw CommandFailure{u"%1 is no %2"_qs.arg(name, kind)};
+    throw CommandFailure{u"%1 is no %2"_s.arg(name, kind)};
 }
 
 } // namespace Controls

@@ -10,6 +10,8 @@
 
 #ifndef Q_OS_WIN
 #include <sys/stat.h>
+
+using namespace Qt::StringLiterals;
 #endif
 
 namespace {
@@ -58,7 +60,7 @@ void DatabaseFile::close() {
 
 void DatabaseFile::open() {
     close();
-    if (!QFileInfo::exists(m_path)) throw CommandFailure{u"there is no file %1"_qs.arg(m_path)};
+    if (!QFileInfo::exists(m_path)) throw CommandFailure{u"there is no file %1"_s.arg(m_path)};
     sqlite3* opened = nullptr;
     const int code = sqlite3_open_v2(m_path.toUtf8().constData(), &opened, SQLITE_OPEN_READWRITE, nullptr);
     m_handle.reset(opened);

@@ -7,6 +7,8 @@
 #include "RuntimeError.h"
 #include "Session.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The parts of `grid[inner]`.
@@ -18,7 +20,7 @@ struct Name {
 Name split(const QString& name) {
     const qsizetype open = name.indexOf(u'[');
     if (open < 0) return {name, {}};
-    if (!name.endsWith(u']')) throw CommandFailure{u"%1 lacks its closing bracket"_qs.arg(name)};
+    if (!name.endsWith(u']')) throw CommandFailure{u"%1 lacks its closing bracket"_s.arg(name)};
     return {name.left(open), name.mid(open + 1, name.size() - open - 2)};
 }
 
@@ -26,10 +28,10 @@ Name split(const QString& name) {
 class Cells {
 public:
     Cells(const QString& grid, TableHandle table)
-        : m_model(qobject_cast<DataTableModel*>(Controls::find<DataTable>(grid, u"grid"_qs)->model()))
+        : m_model(qobject_cast<DataTableModel*>(Controls::find<DataTable>(grid, u"grid"_s)->model()))
         , m_owner(table.parentRow) {
         if (m_owner != DataTableModel::top && !m_model->hasChild(m_owner))
-            throw CommandFailure{u"row %1 has no child table"_qs.arg(m_owner)};
+            throw CommandFailure{u"row %1 has no child table"_s.arg(m_owner)};
     }
 
     int rowCount() const { return m_model->rows(m_owner); }
@@ -68,7 +70,7 @@ namespace GridCells {
 int parseNumber(const QString& text) {
     bool isNumber = false;
     const int number = text.toInt(&isNumber);
-    if (!isNumber) throw CommandFailure{u"%1 is no number"_qs.arg(text)};
+    if (!isNumber) throw CommandFailure{u"%1 is no number"_s.arg(text)};
     return number;
 }
 
@@ -83,7 +85,7 @@ bool isCell(const QString& name) { return name.endsWith(u']'); }
 QString cellText(const QString& name) {
     const Name parts = split(name);
     const QStringList place = parts.inner.split(u',');
-    if (place.size() != 2) throw CommandFailure{u"%1 is no cell"_qs.arg(name)};
+    if (place.size() != 2) throw CommandFailure{u"%1 is no cell"_s.arg(name)};
     const Row row = parseRow(place[0]);
     return Cells(parts.grid, row.table).text(row.row, parseNumber(place[1]));
 }
@@ -99,7 +101,7 @@ int count(const QString& tableName) { return look(tableName).rowCount(); }
 
 QPoint placeOf(DataTable* grid, const QString& name, Row row, int column) {
     const QRect place = grid->revealCell(row.table, row.row, column);
-    if (place.isEmpty()) throw CommandFailure{u"%1 has no such place to press on"_qs.arg(name)};
+    if (place.isEmpty()) throw CommandFailure{u"%1 has no such place to press on"_s.arg(name)};
     return place.center();
 }
 

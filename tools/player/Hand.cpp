@@ -10,6 +10,8 @@
 #include <QtTest/qtestkeyboard.h>
 #include <QtTest/qtestmouse.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The mouse as the window system sees it.
@@ -51,11 +53,11 @@ QString textOf(Qt::Key key, Qt::KeyboardModifiers modifiers) {
     switch (key) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        return u"\r"_qs;
+        return u"\r"_s;
     case Qt::Key_Tab:
-        return u"\t"_qs;
+        return u"\t"_s;
     case Qt::Key_Backspace:
-        return u"\b"_qs;
+        return u"\b"_s;
     case Qt::Key_Escape:
         return QChar(0x1b);
     case Qt::Key_Delete:
@@ -85,10 +87,10 @@ void typeCharacter(const QString& character) {
 }
 
 Qt::KeyboardModifiers takeModifiers(QStringList& words) {
-    static const QHash<QString, Qt::KeyboardModifier> modifiers = {{u"Ctrl"_qs, Qt::ControlModifier},
-                                                                   {u"Shift"_qs, Qt::ShiftModifier},
-                                                                   {u"Alt"_qs, Qt::AltModifier},
-                                                                   {u"Meta"_qs, Qt::MetaModifier}};
+    static const QHash<QString, Qt::KeyboardModifier> modifiers = {{u"Ctrl"_s, Qt::ControlModifier},
+                                                                   {u"Shift"_s, Qt::ShiftModifier},
+                                                                   {u"Alt"_s, Qt::AltModifier},
+                                                                   {u"Meta"_s, Qt::MetaModifier}};
     Qt::KeyboardModifiers taken;
     while (words.size() > 1 && modifiers.contains(words.first())) taken |= modifiers[words.takeFirst()];
     return taken;
@@ -184,7 +186,7 @@ void key(Qt::Key key, Qt::KeyboardModifiers modifiers) {
 
 void type(const QString& text) {
     for (qsizetype at = 0; at < text.size(); ++at) {
-        if (text[at] == u'\r' && text.mid(at + 1, 1) == u"\n"_qs) continue;
+        if (text[at] == u'\r' && text.mid(at + 1, 1) == u"\n"_s) continue;
         const bool pair = text[at].isHighSurrogate() && at + 1 < text.size();
         typeCharacter(text.mid(at, pair ? 2 : 1));
         if (pair) ++at;

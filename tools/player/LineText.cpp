@@ -1,5 +1,7 @@
 #include "LineText.h"
 
+using namespace Qt::StringLiterals;
+
 QString lineText(const QString& text) {
-    return QString(text).replace(u'\r', u"\\r"_qs).replace(u'\n', u"\\n"_qs);
+    return QString(text).replace(u'\r', u"\\r"_s).replace(u'\n', u"\\n"_s);
 }

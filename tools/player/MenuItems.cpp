@@ -11,6 +11,8 @@
 #include <QMenu>
 #include <QMenuBar>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString plainName(const QString& name) { return name.mid(name.indexOf(u'.') + 1); }
@@ -34,8 +36,8 @@ QAction* named(const QString& name) {
 }
 
 void requireUsable(const QAction* item, const QString& name) {
-    if (!MenuItems::isVisible(item)) throw CommandFailure{u"the menu item %1 is not visible"_qs.arg(name)};
-    if (!item->isEnabled()) throw CommandFailure{u"the menu item %1 is not enabled"_qs.arg(name)};
+    if (!MenuItems::isVisible(item)) throw CommandFailure{u"the menu item %1 is not visible"_s.arg(name)};
+    if (!item->isEnabled()) throw CommandFailure{u"the menu item %1 is not enabled"_s.arg(name)};
 }
 
 void clickInBar(QMenuBar* bar, QAction* title, const QString& name) {
@@ -51,7 +53,7 @@ void open(QMenu* menu, const QString& name) {
     requireUsable(title, name);
     if (QMenuBar* bar = holding<QMenuBar>(title)) return clickInBar(bar, title, name);
     QMenu* outer = holding<QMenu>(title);
-    if (!outer) throw CommandFailure{u"the menu of %1 is not open"_qs.arg(name)};
+    if (!outer) throw CommandFailure{u"the menu of %1 is not open"_s.arg(name)};
     open(outer, name);
     Hand::click(outer, outer->actionGeometry(title).center());
 }
@@ -60,11 +62,11 @@ void open(QMenu* menu, const QString& name) {
 
 namespace MenuItems {
 
-bool isItem(const QString& name) { return plainName(name).startsWith(u"mnu"_qs); }
+bool isItem(const QString& name) { return plainName(name).startsWith(u"mnu"_s); }
 
 QAction* find(const QString& name) {
     QAction* item = named(plainName(name));
-    if (!item) throw CommandFailure{u"there is no menu item %1"_qs.arg(name)};
+    if (!item) throw CommandFailure{u"there is no menu item %1"_s.arg(name)};
     return item;
 }
 
@@ -79,10 +81,10 @@ void click(const QString& name) {
     QAction* item = find(name);
     if (QMenuBar* bar = holding<QMenuBar>(item)) return clickInBar(bar, item, name);
     QMenu* menu = holding<QMenu>(item);
-    if (!menu) throw CommandFailure{u"%1 stands in no menu"_qs.arg(name)};
+    if (!menu) throw CommandFailure{u"%1 stands in no menu"_s.arg(name)};
     if (!menu->isVisible()) dismissOpenMenu();
     open(menu, name);
-    if (!menu->isVisible()) throw CommandFailure{u"the menu of %1 did not open"_qs.arg(name)};
+    if (!menu->isVisible()) throw CommandFailure{u"the menu of %1 did not open"_s.arg(name)};
     try {
         requireUsable(item, name);
     } catch (const CommandFailure&) {

@@ -11,6 +11,8 @@
 #include <QWidget>
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QRect placeOf(const QWidget* window) { return {window->mapToGlobal(QPoint(0, 0)), window->size()}; }
@@ -47,7 +49,7 @@ void paintWindow(QPainter& painter, QWidget* window, QPoint origin) {
 
 void savePicture(const QString& path) {
     const QWidgetList windows = windowsFromBack();
-    if (windows.isEmpty()) throw CommandFailure{u"there is no window to take a picture of"_qs};
+    if (windows.isEmpty()) throw CommandFailure{u"there is no window to take a picture of"_s};
     QRect whole;
     for (const QWidget* window : windows) whole |= placeOf(window);
     const qreal scale = windows.first()->devicePixelRatio();
@@ -58,5 +60,5 @@ void savePicture(const QString& path) {
     for (QWidget* window : windows) paintWindow(painter, window, whole.topLeft());
     painter.end();
     QDir().mkpath(QFileInfo(path).path());
-    if (!picture.save(path, "PNG")) throw CommandFailure{u"%1 can't be written"_qs.arg(path)};
+    if (!picture.save(path, "PNG")) throw CommandFailure{u"%1 can't be written"_s.arg(path)};
 }

@@ -5,6 +5,8 @@
 #include <QApplication>
 #include <QHashSeed>
 
+using namespace Qt::StringLiterals;
+
 namespace Platform {
 
 void settleEnvironment() {
@@ -27,8 +29,8 @@ void settleApplication(QApplication& application, Theme::Mode mode) {
 }
 
 bool isUsual(const QString& message) {
-    return message.startsWith(u"This plugin does not support"_qs) ||
-           message.startsWith(u"QStandardPaths: XDG_RUNTIME_DIR"_qs);
+    return message.startsWith(u"This plugin does not support"_s) ||
+           message.startsWith(u"QStandardPaths: XDG_RUNTIME_DIR"_s);
 }
 
 } // namespace Platform

@@ -11,10 +11,12 @@
 #include <QProcess>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 PlayedProgram::PlayedProgram(QString folder, QString pictures)
     : m_folder(std::move(folder))
     , m_pictures(std::move(pictures))
-    , m_made(QFileInfo::exists(m_folder + u"/uw01.mdb"_qs)) {
+    , m_made(QFileInfo::exists(m_folder + u"/uw01.mdb"_s)) {
     setMessageBoxes(&m_boxes);
     setPrintDialogs(&m_dialogs);
 }
@@ -26,7 +28,7 @@ PlayedProgram::~PlayedProgram() {
 }
 
 void PlayedProgram::requireNoFolder() const {
-    if (m_made) throw CommandFailure{u"the program folder has been made already"_qs};
+    if (m_made) throw CommandFailure{u"the program folder has been made already"_s};
 }
 
 void PlayedProgram::setFishingYear(int year) {
@@ -42,7 +44,7 @@ void PlayedProgram::wantDemoClub() {
 const QString& PlayedProgram::folder() {
     if (m_made) return m_folder;
     makeProgramFolder(m_folder, m_year ? m_year : m_clock.day().year(), m_demo);
-    QFile::link(QStringLiteral(UW_HANDBOOK), m_folder + u"/Handbuch"_qs);
+    QFile::link(QStringLiteral(UW_HANDBOOK), m_folder + u"/Handbuch"_s);
     m_made = true;
     return m_folder;
 }
@@ -52,7 +54,7 @@ QString PlayedProgram::outputPath(const QString& name) const {
 }
 
 DatabaseFile& PlayedProgram::file() {
-    if (!m_file) m_file = std::make_unique<DatabaseFile>(folder() + u"/uw01.mdb"_qs);
+    if (!m_file) m_file = std::make_unique<DatabaseFile>(folder() + u"/uw01.mdb"_s);
     return *m_file;
 }
 
@@ -61,16 +63,16 @@ void PlayedProgram::runShell(const QString& command) {
     QProcess shell;
     shell.setWorkingDirectory(folder());
     shell.setProcessChannelMode(QProcess::MergedChannels);
-    shell.start(u"/bin/sh"_qs, {u"-c"_qs, command});
+    shell.start(u"/bin/sh"_s, {u"-c"_s, command});
     constexpr int forever = -1;
     shell.waitForFinished(forever);
     if (shell.exitStatus() == QProcess::NormalExit && shell.exitCode() == 0) return;
-    throw CommandFailure{u"the shell gave %1: %2"_qs.arg(shell.exitCode())
+    throw CommandFailure{u"the shell gave %1: %2"_s.arg(shell.exitCode())
                              .arg(QString::fromLocal8Bit(shell.readAll()).trimmed())};
 }
 
 void PlayedProgram::start() {
-    if (isRunning()) throw CommandFailure{u"the program is running already"_qs};
+    if (isRunning()) throw CommandFailure{u"the program is running already"_s};
     m_program.reset();
     m_program = std::make_unique<Program>(folder());
     countCommits();
@@ -81,8 +83,8 @@ void PlayedProgram::start() {
 bool PlayedProgram::isRunning() const { return m_program && m_program->isRunning(); }
 
 void PlayedProgram::requireRunning() const {
-    if (!m_program) throw CommandFailure{u"the program has not been started"_qs};
-    if (!m_program->isRunning()) throw CommandFailure{u"the program has ended"_qs};
+    if (!m_program) throw CommandFailure{u"the program has not been started"_s};
+    if (!m_program->isRunning()) throw CommandFailure{u"the program has ended"_s};
 }
 
 void PlayedProgram::end() {

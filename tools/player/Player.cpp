@@ -11,17 +11,19 @@
 #include <QThread>
 #include <cstdio>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 int loopLevel() { return QThread::currentThread()->loopLevel(); }
 
 QString indented(const QStringList& lines) {
-    return lines.isEmpty() ? u"(nothing)"_qs : lines.join(u"\n            "_qs);
+    return lines.isEmpty() ? u"(nothing)"_s : lines.join(u"\n            "_s);
 }
 
 void requireWords(const PlayerCommand& command, qsizetype given) {
     if (command.words >= 0 && given != command.words)
-        throw CommandFailure{u"%1 words behind the name, which it does not take"_qs.arg(given)};
+        throw CommandFailure{u"%1 words behind the name, which it does not take"_s.arg(given)};
 }
 
 } // namespace
@@ -73,24 +75,24 @@ void Player::finishPlay() {
 }
 
 void Player::carryOut(const ScriptCommand& command) {
-    tell(u"%1: %2"_qs.arg(command.line).arg(m_command));
+    tell(u"%1: %2"_s.arg(command.line).arg(m_command));
     try {
         const QStringList printed = output(command);
-        for (const QString& line : printed) tell(u"= "_qs + line);
+        for (const QString& line : printed) tell(u"= "_s + line);
         if (!command.expected.isEmpty() && printed != command.expected)
             fail(indented(command.expected), indented(printed));
     } catch (const CommandFailure& failure) {
-        fail(command.expected.isEmpty() ? u"that it can be done"_qs : indented(command.expected),
+        fail(command.expected.isEmpty() ? u"that it can be done"_s : indented(command.expected),
              failure.reason);
     } catch (const RuntimeError& error) {
-        fail(u"that it can be done"_qs, u"error %1: %2"_qs.arg(error.number).arg(error.description));
+        fail(u"that it can be done"_s, u"error %1: %2"_s.arg(error.number).arg(error.description));
     }
 }
 
 QStringList Player::output(const ScriptCommand& command) {
     if (!command.fault.isEmpty()) throw CommandFailure{command.fault};
     const PlayerCommand* known = findCommand(command.words.first());
-    if (!known) throw CommandFailure{u"there is no such command"_qs};
+    if (!known) throw CommandFailure{u"there is no such command"_s};
     requireWords(*known, command.words.size() - 1);
     if (known->needs == PlayerCommand::Needs::RunningProgram) m_program.requireRunning();
     Hand::activateWindow();
@@ -99,23 +101,23 @@ QStringList Player::output(const ScriptCommand& command) {
 
 void Player::reportUnanswered() {
     for (const QString& box : m_program.boxes().takeUnanswered())
-        fail(u"no question without a queued answer"_qs, box);
+        fail(u"no question without a queued answer"_s, box);
 }
 
 void Player::reportLeftovers() {
-    m_command = u"end of the scenario"_qs;
+    m_command = u"end of the scenario"_s;
     reportUnanswered();
     const QStringList boxes = m_program.boxes().take();
-    if (!boxes.isEmpty()) fail(u"no box that has not been printed"_qs, indented(boxes));
+    if (!boxes.isEmpty()) fail(u"no box that has not been printed"_s, indented(boxes));
     const qsizetype answers = m_program.boxes().unusedAnswers();
-    if (answers > 0) fail(u"no answer left over"_qs, QString::number(answers));
+    if (answers > 0) fail(u"no answer left over"_s, QString::number(answers));
     const qsizetype dialogs = m_program.dialogs().unused();
-    if (dialogs > 0) fail(u"no dialog left over"_qs, QString::number(dialogs));
+    if (dialogs > 0) fail(u"no dialog left over"_s, QString::number(dialogs));
 }
 
 void Player::fail(const QString& expected, const QString& got) {
     ++m_failures;
-    const QString text = u"%1:%2: %3\n  expected: %4\n  got:      %5\n"_qs.arg(m_options.name)
+    const QString text = u"%1:%2: %3\n  expected: %4\n  got:      %5\n"_s.arg(m_options.name)
                              .arg(m_line)
                              .arg(m_command, expected, got);
     std::fputs(text.toUtf8().constData(), stderr);

@@ -5,29 +5,31 @@
 #include <QRegularExpression>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 bool isQuestion(int style) { return (style & vbYesNo) != 0; }
 
 QString kindOf(int style) {
     constexpr int icons = 0x70;
-    if (isQuestion(style)) return u"yesno"_qs;
+    if (isQuestion(style)) return u"yesno"_s;
     switch (style & icons) {
     case vbCritical:
-        return u"critical"_qs;
+        return u"critical"_s;
     case vbExclamation:
-        return u"exclamation"_qs;
+        return u"exclamation"_s;
     case vbInformation:
-        return u"information"_qs;
+        return u"information"_s;
     default:
-        return u"plain"_qs;
+        return u"plain"_s;
     }
 }
 
 } // namespace
 
 MsgBoxResult RecordedBoxes::show(const QString& text, int style, const QString& title) {
-    const QString box = kindOf(style) + u" · "_qs + lineText(title) + u" · "_qs + lineText(text);
+    const QString box = kindOf(style) + u" · "_s + lineText(title) + u" · "_s + lineText(text);
     m_boxes.append(box);
     return isQuestion(style) ? answer(box) : vbOK;
 }
@@ -39,7 +41,7 @@ MsgBoxResult RecordedBoxes::answer(const QString& box) {
 }
 
 QStringList RecordedBoxes::takeKinds() {
-    static const QRegularExpression error(u"^[^·]*· Runtime - Error: (\\d+) ·"_qs);
+    static const QRegularExpression error(u"^[^·]*· Runtime - Error: (\\d+) ·"_s);
     QStringList kinds;
     for (const QString& box : take()) {
         const auto match = error.match(box);

@@ -3,6 +3,8 @@
 #include "Clock.h"
 #include "ReportDocument.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 bool showsText(const ReportControl& control) {
@@ -17,7 +19,7 @@ void appendControls(QStringList& lines, const ReportDocument& document, ReportDo
     for (const ReportControl& control : section.controls()) {
         const std::size_t own = number++;
         if (!showsText(control)) continue;
-        lines.append(u"%1.%2 = "_qs.arg(section.name(), control.name()) +
+        lines.append(u"%1.%2 = "_s.arg(section.name(), control.name()) +
                      document.text(band, own, {0, today()}));
     }
 }

@@ -1,5 +1,7 @@
 #include "Script.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 bool isBlank(QChar character) { return character == u' ' || character == u'\t'; }
@@ -35,13 +37,12 @@ private:
         for (++m_at; m_at < m_line.size(); ++m_at) {
             if (m_line[m_at] == u'"') {
                 ++m_at;
-                if (m_at < m_line.size() && !isBlank(m_line[m_at]))
-                    m_fault = u"text after a closing quote"_qs;
+                if (m_at < m_line.size() && !isBlank(m_line[m_at])) m_fault = u"text after a closing quote"_s;
                 return word;
             }
             word += m_line[m_at] == u'\\' ? escaped() : QString(m_line[m_at]);
         }
-        m_fault = u"a quote that is not closed"_qs;
+        m_fault = u"a quote that is not closed"_s;
         return word;
     }
 
@@ -52,7 +53,7 @@ private:
         if (next == u'"' || next == u'\\') meant = next;
         if (next == u'r') meant = u'\r';
         if (next == u'n') meant = u'\n';
-        if (meant.isEmpty()) return u"\\"_qs;
+        if (meant.isEmpty()) return u"\\"_s;
         ++m_at;
         return meant;
     }
@@ -62,11 +63,11 @@ private:
     QString m_fault;
 };
 
-bool isExpectation(const QString& line) { return line == u"="_qs || line.startsWith(u"= "_qs); }
+bool isExpectation(const QString& line) { return line == u"="_s || line.startsWith(u"= "_s); }
 
 void addExpectation(std::vector<ScriptCommand>& commands, int number, const QString& line) {
     if (commands.empty())
-        commands.push_back({number, line, {}, {}, u"expected output without a command before it"_qs});
+        commands.push_back({number, line, {}, {}, u"expected output without a command before it"_s});
     else
         commands.back().expected.append(line.mid(2));
 }

@@ -10,6 +10,8 @@
 
 #include <QHash>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The grid row of the record that stands open, otherwise of the screen in front.
@@ -24,22 +26,22 @@ qint32 gridRow() {
 QString sessionValue(const QString& name) {
     const Session& s = session();
     const QHash<QString, Value> values = {
-        {u"AktTag"_qs, qint32(s.AktTag)},
-        {u"AktWochentag"_qs, s.AktWochentag},
-        {u"AktMonatNr"_qs, qint32(s.AktMonatNr)},
-        {u"AktMonat"_qs, s.AktMonat},
-        {u"AktJahr"_qs, qint32(s.AktJahr)},
-        {u"MsgAntwort"_qs, qint32(s.MsgAntwort)},
-        {u"Modus"_qs, Screens::editing() ? u"EDIT"_qs : u"SAVE"_qs},
-        {u"AktZeile"_qs, gridRow()},
-        {u"FehlerZaehler"_qs, qint32(s.FehlerZaehler)},
-        {u"TabelleLaedt"_qs, s.TabelleLaedt},
-        {u"SuchAufrufer"_qs, qint32(s.SuchAufrufer)},
-        {u"KontextZeileOK"_qs, s.KontextZeileOK},
-        {u"NachReport"_qs, s.NachReport},
-        {u"AusSuche"_qs, isLoaded<Kontakt>() && screen<Kontakt>().AusSuche},
-        {u"LetzterKlappZustand"_qs, isLoaded<KontaktUebers>() && screen<KontaktUebers>().LetzterKlappZustand},
-        {u"AktBarItem"_qs, s.AktBarItem ? s.AktBarItem->key() : QString()},
+        {u"AktTag"_s, qint32(s.AktTag)},
+        {u"AktWochentag"_s, s.AktWochentag},
+        {u"AktMonatNr"_s, qint32(s.AktMonatNr)},
+        {u"AktMonat"_s, s.AktMonat},
+        {u"AktJahr"_s, qint32(s.AktJahr)},
+        {u"MsgAntwort"_s, qint32(s.MsgAntwort)},
+        {u"Modus"_s, Screens::editing() ? u"EDIT"_s : u"SAVE"_s},
+        {u"AktZeile"_s, gridRow()},
+        {u"FehlerZaehler"_s, qint32(s.FehlerZaehler)},
+        {u"TabelleLaedt"_s, s.TabelleLaedt},
+        {u"SuchAufrufer"_s, qint32(s.SuchAufrufer)},
+        {u"KontextZeileOK"_s, s.KontextZeileOK},
+        {u"NachReport"_s, s.NachReport},
+        {u"AusSuche"_s, isLoaded<Kontakt>() && the<Kontakt>().AusSuche},
+        {u"LetzterKlappZustand"_s, isLoaded<KontaktUebers>() && the<KontaktUebers>().LetzterKlappZustand},
+        {u"AktBarItem"_s, s.AktBarItem ? s.AktBarItem->key() : QString()},
     };
     const auto found = values.find(name);
     return found == values.end() ? QString() : CStr(*found);

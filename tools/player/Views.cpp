@@ -17,13 +17,15 @@
 #include <QApplication>
 #include <QFile>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-Main* frame() { return qobject_cast<Main*>(Controls::findScreen(u"Main"_qs)); }
+Main* frame() { return qobject_cast<Main*>(Controls::findScreen(u"Main"_s)); }
 
 const ReportDocument& previewed() {
-    const auto* preview = qobject_cast<Vorschau*>(Controls::findScreen(u"Vorschau"_qs));
-    if (!preview || !preview->document()) throw CommandFailure{u"no report is previewed"_qs};
+    const auto* preview = qobject_cast<Vorschau*>(Controls::findScreen(u"Vorschau"_s));
+    if (!preview || !preview->document()) throw CommandFailure{u"no report is previewed"_s};
     return *preview->document();
 }
 
@@ -32,7 +34,7 @@ const ReportDocument& previewed() {
 namespace Views {
 
 const QWidget* frontScreen() {
-    const QWidget* main = Screens::byName(u"Main"_qs);
+    const QWidget* main = Screens::byName(u"Main"_s);
     const auto* active = qobject_cast<const Screen*>(QApplication::activeWindow());
     if (active && active != main && !active->isModalNow()) return active;
     const bool frameIsSeen = main && main->isVisible();
@@ -51,7 +53,7 @@ QString cursor() {
     const Qt::CursorShape shape = overall     ? overall->shape()
                                   : pointedAt ? pointedAt->cursor().shape()
                                               : Qt::ArrowCursor;
-    return shape == Qt::WaitCursor ? u"hourglass"_qs : u"default"_qs;
+    return shape == Qt::WaitCursor ? u"hourglass"_s : u"default"_s;
 }
 
 QStringList bar() {
@@ -74,13 +76,13 @@ QString status() {
 
 QString state(const QString& name) {
     const QString value = sessionValue(name);
-    if (value.isNull()) throw CommandFailure{u"there is no session value %1"_qs.arg(name)};
+    if (value.isNull()) throw CommandFailure{u"there is no session value %1"_s.arg(name)};
     return lineText(value);
 }
 
 QStringList linesOf(const QString& path) {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) throw CommandFailure{u"there is no file %1"_qs.arg(path)};
+    if (!file.open(QIODevice::ReadOnly)) throw CommandFailure{u"there is no file %1"_s.arg(path)};
     const QString text = fromWindows1252(file.readAll());
     QStringList lines;
     qsizetype first = 0;
@@ -95,9 +97,9 @@ QStringList linesOf(const QString& path) {
 QStringList report(const QStringList& words) {
     QStringList lines = reportAsText(previewed());
     const auto unwanted = [&](const QString& line) {
-        const QString name = line.section(u" = "_qs, 0, 0);
+        const QString name = line.section(u" = "_s, 0, 0);
         const bool inRow = !line.startsWith(u"Section") || name == line;
-        return !words.contains(inRow ? u"rows"_qs : name) && !words.contains(name.section(u'.', 0, 0));
+        return !words.contains(inRow ? u"rows"_s : name) && !words.contains(name.section(u'.', 0, 0));
     };
     if (!words.isEmpty()) lines.removeIf(unwanted);
     return lines;

@@ -10,6 +10,8 @@
 #include <QTemporaryDir>
 #include <cstdio>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int wrongArguments = 2;
@@ -28,25 +30,25 @@ struct Arguments {
 
 Arguments readArguments(const QApplication& application) {
     QCommandLineParser parser;
-    parser.setApplicationDescription(u"Runs a scenario against the program."_qs);
+    parser.setApplicationDescription(u"Runs a scenario against the program."_s);
     parser.addHelpOption();
-    parser.addPositionalArgument(u"FILE"_qs, u"the scenario"_qs);
-    parser.addOptions({{u"keep"_qs, u"keeps pictures and the program folder there"_qs, u"DIR"_qs},
-                       {u"folder"_qs, u"uses this program folder and keeps it"_qs, u"DIR"_qs},
-                       {u"verbose"_qs, u"prints every command and its output"_qs},
-                       {u"theme"_qs, u"dark or light"_qs, u"THEME"_qs, u"light"_qs}});
+    parser.addPositionalArgument(u"FILE"_s, u"the scenario"_s);
+    parser.addOptions({{u"keep"_s, u"keeps pictures and the program folder there"_s, u"DIR"_s},
+                       {u"folder"_s, u"uses this program folder and keeps it"_s, u"DIR"_s},
+                       {u"verbose"_s, u"prints every command and its output"_s},
+                       {u"theme"_s, u"dark or light"_s, u"THEME"_s, u"light"_s}});
     parser.process(application);
-    const QString theme = parser.value(u"theme"_qs);
-    if (parser.positionalArguments().size() != 1 || (theme != u"dark"_qs && theme != u"light"_qs))
+    const QString theme = parser.value(u"theme"_s);
+    if (parser.positionalArguments().size() != 1 || (theme != u"dark"_s && theme != u"light"_s))
         parser.showHelp(wrongArguments);
-    return {parser.positionalArguments().first(), parser.value(u"keep"_qs), parser.value(u"folder"_qs),
-            parser.isSet(u"verbose"_qs), theme == u"dark"_qs};
+    return {parser.positionalArguments().first(), parser.value(u"keep"_s), parser.value(u"folder"_s),
+            parser.isSet(u"verbose"_s), theme == u"dark"_s};
 }
 
 int play(const Arguments& arguments, const QString& keep, const QString& script) {
     const QString name = QFileInfo(arguments.file).completeBaseName();
     QDir().mkpath(keep);
-    const QString made = QDir(keep).absoluteFilePath(name + u".programm"_qs);
+    const QString made = QDir(keep).absoluteFilePath(name + u".programm"_s);
     QDir(made).removeRecursively();
     const QString folder = arguments.folder.isEmpty() ? made : arguments.folder;
     PlayedProgram program(folder, keep);
@@ -68,7 +70,7 @@ int main(int argc, char* argv[]) {
         return wrongArguments;
     }
     // A folder with spaces and umlauts in its path, as clubs have them.
-    const QTemporaryDir passing(QDir::tempPath() + u"/uw Verein Äsche & Söhne XXXXXX"_qs);
+    const QTemporaryDir passing(QDir::tempPath() + u"/uw Verein Äsche & Söhne XXXXXX"_s);
     const QString keep = arguments.keep.isEmpty() ? passing.path() : arguments.keep;
     return play(arguments, keep, QString::fromUtf8(file.readAll()));
 }

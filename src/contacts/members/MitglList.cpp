@@ -18,7 +18,9 @@
 #include <QToolButton>
 #include <algorithm>
 
-// The face of the screen is built in MitglListFace.cpp; here is what it does.
+using namespace Qt::StringLiterals;
+
+// The layout of the screen is in MitglListLayout.cpp; its behaviour is here.
 
 void MitglList::Form_Load() {
     loadcboArbJahre(cboArbJahr);
@@ -37,7 +39,7 @@ void MitglList::setHourView(bool on) {
 
 bool MitglList::Form_KeyDown(int key, Qt::KeyboardModifiers) {
     if (key != Qt::Key_Escape) return false;
-    Toolbar1->key(u"tbEsc"_qs)->click();
+    Toolbar1->key(u"tbEsc"_s)->click();
     return true;
 }
 
@@ -47,7 +49,7 @@ void MitglList::tbSuch_Click() {
     const auto filter = {chkGebDat,  chkEintritt,  chkGeschl, chkJBeitrag, chkStatus,
                          chkBefreit, chkAusgMitgl, chkJG,     chkArbStd};
     if (std::ranges::none_of(filter, &QCheckBox::isChecked) &&
-        !modRun::frage(u"ACHTUNG: Wirklich alle Mitglieder aus der Datenbank laden ?"_qs))
+        !modRun::frage(u"ACHTUNG: Wirklich alle Mitglieder aus der Datenbank laden ?"_s))
         return modRun::MeldeAbgebrochen();
     tblMList->clearRows();
     lblGefDS->setText(QString());
@@ -58,7 +60,7 @@ void MitglList::tbEsc_Click() {
     modMitglList::LeereMListAnzeige();
     session().SuchAufrufer = 0;
     Hide();
-    rahmen()->zeigeBereich(u"Kontakte"_qs);
+    rahmen()->zeigeBereich(u"Kontakte"_s);
 }
 
 void MitglList::drucke(const QString& wort) {
@@ -79,7 +81,7 @@ void MitglList::tblMList_OnGridCellMenu() {
 void MitglList::tblMList_OnGridCellOpen(int row) {
     if (row < 0 || tblMList->rowCount() == 0) return;
     if (!modKontakt::KontaktZugriff_Erlaubt()) {
-        MsgBox(u"Sie haben keinen Zugriff auf diese Funktion !"_qs, vbInformation);
+        MsgBox(u"Sie haben keinen Zugriff auf diese Funktion !"_s, vbInformation);
         return;
     }
     modMitglList::zeigeKontakt(row);

@@ -26,32 +26,34 @@
 #include <QScopeGuard>
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace modMitglList {
 
 namespace {
 
 using Zeile = std::array<Value, 11>;
 
-QString zweiStellen(const Value& number) { return Format(number, u"###0.00"_qs); }
+QString zweiStellen(const Value& number) { return Format(number, u"###0.00"_s); }
 
 Recordset oeffne(const QString& what) {
-    const QString sql = u"SELECT "_qs + what + u" FROM Kontakt k, Mitglied m WHERE k.KNr = m.KNr"_qs;
+    const QString sql = u"SELECT "_s + what + u" FROM Kontakt k, Mitglied m WHERE k.KNr = m.KNr"_s;
     return oeffneAbfrage(ErstelleFilter(sql));
 }
 
 /// What is the same for all rows of a run.
 struct Lauf {
-    MitglList& form;
+    MitglList& screen;
     qint32 jahr = 0;
     QString pfl{};
-    bool vergleicht = form.chkArbStd->isChecked(); ///< only those above, or those below, the hours owed
-    bool geleistet = form.optStdJa->isChecked();
-    bool rechnet = vergleicht || form.chkArbAnz->isChecked();
+    bool vergleicht = screen.chkArbStd->isChecked(); ///< only those above, or those below, the hours owed
+    bool geleistet = screen.optStdJa->isChecked();
+    bool rechnet = vergleicht || screen.chkArbAnz->isChecked();
 };
 
-void meldeNichts(MitglList& form) {
-    form.lblGefDS->setText(u"0"_qs);
-    MsgBox(u"Keine passenden Einträge gefunden !"_qs, vbInformation);
+void meldeNichts(MitglList& screen) {
+    screen.lblGefDS->setText(u"0"_s);
+    MsgBox(u"Keine passenden Einträge gefunden !"_s, vbInformation);
 }
 
 void lesePerson(ErrorTail& step, const std::vector<Recordset::Field>& felder, Zeile& zeile) {
@@ -83,13 +85,13 @@ bool gehoertDazu(const Lauf& lauf, const Zeile& zeile) {
 }
 
 void fuelleListe(ErrorTail& step, Recordset& liste, const Lauf& lauf) {
-    MitglList& form = lauf.form;
+    MitglList& screen = lauf.screen;
     std::vector<Recordset::Field> felder;
     qint64 gelesen = 0;
-    if (form.chkArbAnz->isChecked()) form.setHourView(true);
+    if (screen.chkArbAnz->isChecked()) screen.setHourView(true);
     if (!lauf.vergleicht) {
-        form.tblMList->clearRows();
-        form.pb->show();
+        screen.tblMList->clearRows();
+        screen.pb->show();
     }
     step([&] { liste.MoveFirst(); });
     step([&] { felder = liste.Fields(); });
@@ -98,35 +100,35 @@ void fuelleListe(ErrorTail& step, Recordset& liste, const Lauf& lauf) {
         lesePerson(step, felder, zeile);
         rechneStunden(step, lauf, zeile);
         if (step.test([&] { return gehoertDazu(lauf, zeile); }))
-            step([&] { form.tblMList->appendRow(zeile); });
-        if (!lauf.vergleicht) form.pb->setProgress(++gelesen);
+            step([&] { screen.tblMList->appendRow(zeile); });
+        if (!lauf.vergleicht) screen.pb->setProgress(++gelesen);
     });
 }
 
 } // namespace
 
 void LadeAuswahl() {
-    withErrorTail(u"modMitglList"_qs, u"LadeAuswahl"_qs, [](ErrorTail& step) {
-        MitglList& form = screen<MitglList>();
-        const Hourglass hourglass(form);
+    withErrorTail(u"modMitglList"_s, u"LadeAuswahl"_s, [](ErrorTail& step) {
+        MitglList& screen = the<MitglList>();
+        const Hourglass hourglass(screen);
         // Also where a fifth error ends it.
-        const auto ruhe = qScopeGuard([&] { form.pb->hide(); });
+        const auto ruhe = qScopeGuard([&] { screen.pb->hide(); });
         Recordset liste, anzahl;
         step([&] {
-            liste = oeffne(u"k.KNr, k.Nachname, k.Vorname, k.Strasse, k.PLZ, k.Ort, k.Tel1, k.GebDatum"_qs);
+            liste = oeffne(u"k.KNr, k.Nachname, k.Vorname, k.Strasse, k.PLZ, k.Ort, k.Tel1, k.GebDatum"_s);
         });
-        step([&] { anzahl = oeffne(u"COUNT(k.KNr)"_qs); });
-        const auto wert = [&] { return anzahl.Collect(u"Expr1000"_qs); };
-        if (step.test([&] { return wert().isNull() || CLng(wert()) == 0; })) return meldeNichts(form);
+        step([&] { anzahl = oeffne(u"COUNT(k.KNr)"_s); });
+        const auto wert = [&] { return anzahl.Collect(u"Expr1000"_s); };
+        if (step.test([&] { return wert().isNull() || CLng(wert()) == 0; })) return meldeNichts(screen);
         qint32 gefunden = 0;
         step([&] { gefunden = CLng(wert()); });
-        form.lblGefDS->setText(QString::number(gefunden));
-        form.pb->setMax(gefunden);
-        Lauf lauf{form};
-        step([&] { lauf.jahr = CLng(form.cboArbJahr->currentText()); });
+        screen.lblGefDS->setText(QString::number(gefunden));
+        screen.pb->setMax(gefunden);
+        Lauf lauf{screen};
+        step([&] { lauf.jahr = CLng(screen.cboArbJahr->currentText()); });
         step([&] { lauf.pfl = zweiStellen(session().PflichtStd); });
         fuelleListe(step, liste, lauf);
-        form.lblGefDS->setText(QString::number(form.tblMList->rowCount()));
+        screen.lblGefDS->setText(QString::number(screen.tblMList->rowCount()));
         for (Recordset* offen : {&liste, &anzahl}) step([&] { offen->Close(); });
     });
 }
@@ -134,12 +136,12 @@ void LadeAuswahl() {
 namespace {
 
 QString wahrheit(const QRadioButton* option) {
-    return modRun::WertAusOption(option) ? u"True"_qs : u"False"_qs;
+    return modRun::WertAusOption(option) ? u"True"_s : u"False"_s;
 }
 
 QString vergleich(const QString& field, const Vergleich& bound) {
-    const QString day = Format(bound.wert->text(), u"\\#m\\/d\\/yyyy\\#"_qs);
-    return u" AND "_qs + field + u' ' + bound.zeichen->currentText() + u' ' + day;
+    const QString day = Format(bound.wert->text(), u"\\#m\\/d\\/yyyy\\#"_s);
+    return u" AND "_s + field + u' ' + bound.zeichen->currentText() + u' ' + day;
 }
 
 QWidget* falschesDatum(TextBox* box) { return box->text().isEmpty() || IsDate(box->text()) ? nullptr : box; }
@@ -147,65 +149,67 @@ QWidget* falschesDatum(TextBox* box) { return box->text().isEmpty() || IsDate(bo
 } // namespace
 
 QString ErstelleFilter(const QString& sql) {
-    const MitglList& form = screen<MitglList>();
-    const QString status = form.optAktiv->isChecked() ? u"Mitglieder (aktiv)"_qs : u"Mitglieder (passiv)"_qs;
+    const MitglList& screen = the<MitglList>();
+    const QString status = screen.optAktiv->isChecked() ? u"Mitglieder (aktiv)"_s : u"Mitglieder (passiv)"_s;
     const KeptErrorCount kept;
     const qint32 kategoNr = ErmittleKategoNr(status);
     QString filter = sql;
-    if (form.chkGebDat->isChecked())
-        filter += vergleich(u"k.GebDatum"_qs, {form.cboOptGeb01, form.txtGeb01}) +
-                  vergleich(u"k.GebDatum"_qs, {form.cboOptGeb02, form.txtGeb02});
-    if (form.chkEintritt->isChecked())
-        filter += vergleich(u"m.Eintritt"_qs, {form.cboOptTritt01, form.txtTritt01}) +
-                  vergleich(u"m.Eintritt"_qs, {form.cboOptTritt02, form.txtTritt02});
-    if (form.chkGeschl->isChecked()) filter += u" AND m.Geschlecht = "_qs + wahrheit(form.optMann);
-    if (form.chkJBeitrag->isChecked()) filter += u" AND m.Bezahlt = "_qs + wahrheit(form.optBezahlt);
-    if (form.chkStatus->isChecked()) filter += u" AND k.KategoNr = "_qs + QString::number(kategoNr);
-    if (form.chkBefreit->isChecked()) filter += u" AND m.Befreit = "_qs + wahrheit(form.optBefrJa);
+    if (screen.chkGebDat->isChecked())
+        filter += vergleich(u"k.GebDatum"_s, {screen.cboOptGeb01, screen.txtGeb01}) +
+                  vergleich(u"k.GebDatum"_s, {screen.cboOptGeb02, screen.txtGeb02});
+    if (screen.chkEintritt->isChecked())
+        filter += vergleich(u"m.Eintritt"_s, {screen.cboOptTritt01, screen.txtTritt01}) +
+                  vergleich(u"m.Eintritt"_s, {screen.cboOptTritt02, screen.txtTritt02});
+    if (screen.chkGeschl->isChecked()) filter += u" AND m.Geschlecht = "_s + wahrheit(screen.optMann);
+    if (screen.chkJBeitrag->isChecked()) filter += u" AND m.Bezahlt = "_s + wahrheit(screen.optBezahlt);
+    if (screen.chkStatus->isChecked()) filter += u" AND k.KategoNr = "_s + QString::number(kategoNr);
+    if (screen.chkBefreit->isChecked()) filter += u" AND m.Befreit = "_s + wahrheit(screen.optBefrJa);
     // Who has not left has the empty date.
-    if (form.chkAusgMitgl->isChecked())
-        filter += form.optAusgJa->isChecked() ? u" AND m.Austritt <> 0"_qs : u" AND m.Austritt = 0"_qs;
-    if (form.chkJG->isChecked()) filter += u" AND m.JG = "_qs + wahrheit(form.optJGJa);
+    if (screen.chkAusgMitgl->isChecked())
+        filter += screen.optAusgJa->isChecked() ? u" AND m.Austritt <> 0"_s : u" AND m.Austritt = 0"_s;
+    if (screen.chkJG->isChecked()) filter += u" AND m.JG = "_s + wahrheit(screen.optJGJa);
     return filter;
 }
 
 bool PruefeMListEingabe() {
-    const MitglList& form = screen<MitglList>();
-    for (QWidget* falsch :
-         {falschesDatum(form.txtGeb01), falschesDatum(form.txtGeb02), falschesDatum(form.txtTritt01),
-          falschesDatum(form.txtTritt02),
-          erstesFalsche(form.chkGebDat, {form.cboOptGeb01, form.txtGeb01}, {form.cboOptGeb02, form.txtGeb02}),
-          erstesFalsche(form.chkEintritt, {form.cboOptTritt01, form.txtTritt01},
-                        {form.cboOptTritt02, form.txtTritt02})})
+    const MitglList& screen = the<MitglList>();
+    for (QWidget* falsch : {falschesDatum(screen.txtGeb01), falschesDatum(screen.txtGeb02),
+                            falschesDatum(screen.txtTritt01), falschesDatum(screen.txtTritt02),
+                            erstesFalsche(screen.chkGebDat, {screen.cboOptGeb01, screen.txtGeb01},
+                                          {screen.cboOptGeb02, screen.txtGeb02}),
+                            erstesFalsche(screen.chkEintritt, {screen.cboOptTritt01, screen.txtTritt01},
+                                          {screen.cboOptTritt02, screen.txtTritt02})})
         if (!modRun::fehlerfrei(falsch)) return false;
     return true;
 }
 
 void LeereMListAnzeige() {
-    MitglList& form = screen<MitglList>();
+    MitglList& screen = the<MitglList>();
     // A check box that goes off disables what belongs to it.
-    for (QCheckBox* box : {form.chkGebDat, form.chkEintritt, form.chkGeschl, form.chkJBeitrag, form.chkStatus,
-                           form.chkBefreit, form.chkAusgMitgl, form.chkJG, form.chkArbStd, form.chkArbAnz})
+    for (QCheckBox* box :
+         {screen.chkGebDat, screen.chkEintritt, screen.chkGeschl, screen.chkJBeitrag, screen.chkStatus,
+          screen.chkBefreit, screen.chkAusgMitgl, screen.chkJG, screen.chkArbStd, screen.chkArbAnz})
         box->setChecked(false);
-    for (QRadioButton* option : {form.optMann, form.optBezahlt, form.optAktiv, form.optBefrJa, form.optAusgJa,
-                                 form.optJGJa, form.optStdNein})
+    for (QRadioButton* option : {screen.optMann, screen.optBezahlt, screen.optAktiv, screen.optBefrJa,
+                                 screen.optAusgJa, screen.optJGJa, screen.optStdNein})
         option->setChecked(true);
     for (const Vergleich& bound :
-         {Vergleich{form.cboOptGeb01, form.txtGeb01}, Vergleich{form.cboOptGeb02, form.txtGeb02},
-          Vergleich{form.cboOptTritt01, form.txtTritt01}, Vergleich{form.cboOptTritt02, form.txtTritt02}})
+         {Vergleich{screen.cboOptGeb01, screen.txtGeb01}, Vergleich{screen.cboOptGeb02, screen.txtGeb02},
+          Vergleich{screen.cboOptTritt01, screen.txtTritt01},
+          Vergleich{screen.cboOptTritt02, screen.txtTritt02}})
         bound.leere();
-    form.tblMList->clearRows();
-    form.lblGefDS->setText(QString());
-    form.txtInfo->setText(QString());
-    form.setHourView(false);
+    screen.tblMList->clearRows();
+    screen.lblGefDS->setText(QString());
+    screen.txtInfo->setText(QString());
+    screen.setHourView(false);
 }
 
 void zeigeKontakt(int row) {
     modKontakt::SetzeKontaktToolbar(0);
-    modKontakt::loadKontakt(screen<MitglList>().tblMList, row, 0);
+    modKontakt::loadKontakt(the<MitglList>().tblMList, row, 0);
     modKontakt::SetzeKontaktToolbar(1);
 }
 
-void mnuMitglInfo_Click() { zeigeKontakt(screen<MitglList>().gridRow()); }
+void mnuMitglInfo_Click() { zeigeKontakt(the<MitglList>().gridRow()); }
 
 } // namespace modMitglList

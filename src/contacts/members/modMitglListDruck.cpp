@@ -11,6 +11,8 @@
 
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 // The list of members on paper: addresses or hours.
 
 namespace modMitglList {
@@ -26,33 +28,33 @@ struct Spalte {
 
 Druckauftrag auftrag(const QString& routine, const QString& tabelle, std::shared_ptr<Report> (*report)(),
                      const std::vector<Spalte>& spalten) {
-    MitglList& form = screen<MitglList>();
+    MitglList& screen = the<MitglList>();
     const auto schreibe = [spalten](ErrorTail& step, Recordset& zeile, const DataTable& grid, int row) {
-        step([&] { zeile.Collect(u"KontaktNr"_qs, CLng(grid.cell(row, 0))); });
+        step([&] { zeile.Collect(u"KontaktNr"_s, CLng(grid.cell(row, 0))); });
         for (const auto& [column, field, numeric] : spalten)
             step([&, c = column, &f = field, n = numeric] {
                 const QString text = grid.cellText(row, c);
                 zeile.Collect(f, n ? Value(CDbl(text)) : Value(text));
             });
     };
-    const auto richteEin = [&form, spalten](ErrorTail& step, Report& bericht) {
+    const auto richteEin = [&screen, spalten](ErrorTail& step, Report& bericht) {
         const auto bind = [&](int number, const QString& field) {
-            step([&] { bericht.control(u"Section1"_qs, u"Text%1"_qs.arg(number)).setDataField(field); });
+            step([&] { bericht.control(u"Section1"_s, u"Text%1"_s.arg(number)).setDataField(field); });
         };
         const auto caption = [&](const QString& name, const QString& text) {
-            step([&] { bericht.control(u"Section5"_qs, name).setCaption(text); });
+            step([&] { bericht.control(u"Section5"_s, name).setCaption(text); });
         };
-        caption(u"lblGefDS"_qs, form.lblGefDS->text());
+        caption(u"lblGefDS"_s, screen.lblGefDS->text());
         int number = 0;
-        bind(++number, u"KontaktNr"_qs);
+        bind(++number, u"KontaktNr"_s);
         for (const Spalte& spalte : spalten) bind(++number, spalte.field);
-        const QString info = form.txtInfo->text();
-        caption(u"lblInfo"_qs, info.isEmpty() ? u"keine Beschreibung"_qs : info);
+        const QString info = screen.txtInfo->text();
+        caption(u"lblInfo"_s, info.isEmpty() ? u"keine Beschreibung"_s : info);
     };
-    return {.modul = u"modMitglList"_qs,
+    return {.modul = u"modMitglList"_s,
             .routine = routine,
-            .aufrufer = form,
-            .grid = *form.tblMList,
+            .aufrufer = screen,
+            .grid = *screen.tblMList,
             .tabelle = tabelle,
             .report = report,
             .schreibeZeile = schreibe,
@@ -62,24 +64,24 @@ Druckauftrag auftrag(const QString& routine, const QString& tabelle, std::shared
 } // namespace
 
 void DruckeMitglListe(const QString& wort) {
-    drucke(auftrag(u"DruckeMitglListe"_qs, u"Druck_MitglList"_qs, &Berichte::rpt_MitglList,
-                   {{1, u"Nachname"_qs},
-                    {2, u"Vorname"_qs},
-                    {3, u"Strasse"_qs},
-                    {4, u"PLZ"_qs},
-                    {5, u"Ort"_qs},
-                    {6, u"Tel"_qs},
-                    {7, u"GebDatum"_qs}}),
+    drucke(auftrag(u"DruckeMitglListe"_s, u"Druck_MitglList"_s, &Berichte::rpt_MitglList,
+                   {{1, u"Nachname"_s},
+                    {2, u"Vorname"_s},
+                    {3, u"Strasse"_s},
+                    {4, u"PLZ"_s},
+                    {5, u"Ort"_s},
+                    {6, u"Tel"_s},
+                    {7, u"GebDatum"_s}}),
            wort);
 }
 
 void DruckeArbListe(const QString& wort) {
-    drucke(auftrag(u"DruckeArbListe"_qs, u"Druck_ArbStd"_qs, &Berichte::rpt_ArbStd,
-                   {{1, u"Nachname"_qs},
-                    {2, u"Vorname"_qs},
-                    {8, u"pflstd"_qs, true},
-                    {9, u"GelStd"_qs, true},
-                    {10, u"SollHaben"_qs, true}}),
+    drucke(auftrag(u"DruckeArbListe"_s, u"Druck_ArbStd"_s, &Berichte::rpt_ArbStd,
+                   {{1, u"Nachname"_s},
+                    {2, u"Vorname"_s},
+                    {8, u"pflstd"_s, true},
+                    {9, u"GelStd"_s, true},
+                    {10, u"SollHaben"_s, true}}),
            wort);
 }
 

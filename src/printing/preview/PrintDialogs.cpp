@@ -3,6 +3,8 @@
 #include "Clock.h"
 #include "ReportDocument.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 PrintDialogs* current = nullptr;
 }
@@ -21,6 +23,6 @@ bool printAfterDialog(const ReportDocument& document) {
 }
 
 QString pdfNameFor(QString caption) {
-    for (const QChar character : u"\\/:*?\"<>|"_qs) caption.remove(character);
-    return u"%1 %2.pdf"_qs.arg(caption.simplified(), today().toString(Qt::ISODate));
+    for (const QChar character : u"\\/:*?\"<>|"_s) caption.remove(character);
+    return u"%1 %2.pdf"_s.arg(caption.simplified(), today().toString(Qt::ISODate));
 }

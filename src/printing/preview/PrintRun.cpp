@@ -14,6 +14,8 @@
 #include <QSaveFile>
 #include <numeric>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // On a sheet smaller than A4 the page shrinks; nothing is cut off.
@@ -68,7 +70,7 @@ void writePdf(const QString& name, const ReportDocument& document, const QVector
     if (!file.open(QIODevice::WriteOnly)) throw errorOf(file);
     QPdfWriter writer(&file);
     writer.setTitle(document.caption());
-    writer.setCreator(u"Uferwart"_qs);
+    writer.setCreator(u"Uferwart"_s);
     writer.setPageSize(QPageSize(QPageSize::A4));
     writer.setPageMargins({});
     paintPages(writer, document, pages);

@@ -14,6 +14,8 @@
 #include <algorithm>
 #include <numeric>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void preset(QPrinter& printer, const QString& caption) {
@@ -26,7 +28,7 @@ void preset(QPrinter& printer, const QString& caption) {
 
 // Adds a file name where the dialog proposes only a folder for the PDF file, as on some platforms.
 void proposeFile(const QPrintDialog& dialog, const QString& caption) {
-    auto* name = dialog.findChild<QLineEdit*>(u"filename"_qs);
+    auto* name = dialog.findChild<QLineEdit*>(u"filename"_s);
     if (name && name->text().endsWith(u'/')) name->setText(name->text() + pdfNameFor(caption));
 }
 
@@ -53,7 +55,7 @@ std::optional<PrintTarget> QtPrintDialogs::choosePrintTarget(const QString& capt
     target.printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
     preset(*target.printer, caption);
     QPrintDialog dialog(target.printer.get(), QApplication::activeWindow());
-    dialog.setWindowTitle(u"Drucken: %1"_qs.arg(caption));
+    dialog.setWindowTitle(u"Drucken: %1"_s.arg(caption));
     dialog.setOption(QAbstractPrintDialog::PrintPageRange);
     dialog.setOption(QAbstractPrintDialog::PrintCurrentPage);
     dialog.setMinMax(1, pages);
@@ -73,10 +75,10 @@ std::optional<PrintTarget> QtPrintDialogs::choosePrintTarget(const QString& capt
 QString QtPrintDialogs::choosePdfFile(const QString& proposal) {
     if (m_pdfFolder.isEmpty() || !QDir(m_pdfFolder).exists())
         m_pdfFolder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    QFileDialog dialog(QApplication::activeWindow(), u"Als PDF speichern"_qs, m_pdfFolder,
-                       u"PDF-Dateien (*.pdf)"_qs);
+    QFileDialog dialog(QApplication::activeWindow(), u"Als PDF speichern"_s, m_pdfFolder,
+                       u"PDF-Dateien (*.pdf)"_s);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(u"pdf"_qs);
+    dialog.setDefaultSuffix(u"pdf"_s);
     dialog.selectFile(proposal);
     const KeyGuard guard(&dialog);
     if (dialog.exec() != QDialog::Accepted) return {};

@@ -10,6 +10,8 @@
 #include <QWheelEvent>
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int rim = 20;
@@ -36,8 +38,8 @@ void paintSheet(QPainter& painter, const QRectF& sheet) {
 
 ReportPageView::ReportPageView(QWidget* parent)
     : QAbstractScrollArea(parent) {
-    setObjectName(u"pageView"_qs);
-    setAccessibleName(u"Seite des Berichts"_qs);
+    setObjectName(u"pageView"_s);
+    setAccessibleName(u"Seite des Berichts"_s);
     setFocusPolicy(Qt::StrongFocus);
     setFrameShape(QFrame::NoFrame);
     horizontalScrollBar()->setSingleStep(lineStep);

@@ -1,9 +1,9 @@
 #include "Vorschau.h"
 
 #include "ComboBox.h"
-#include "Face.h"
 #include "Heading.h"
 #include "Hourglass.h"
+#include "Layout.h"
 #include "MsgBox.h"
 #include "PrintDialogs.h"
 #include "ReportDocument.h"
@@ -17,6 +17,8 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QToolButton>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -32,8 +34,8 @@ void addToRow(Toolbar* toolbar, QWidget* control) {
 } // namespace
 
 Vorschau::Vorschau()
-    : Screen(u"Vorschau"_qs, u"Vorschau"_qs)
-    , Ueberschrift(new Heading(u"Vorschau"_qs, this))
+    : Screen(u"Vorschau"_s, u"Vorschau"_s)
+    , Ueberschrift(new Heading(u"Vorschau"_s, this))
     , Toolbar1(new Toolbar(this))
     , pageView(new ReportPageView(this)) {
     standForReading();
@@ -55,61 +57,61 @@ Vorschau::Vorschau()
 void Vorschau::buildToolbar() {
     const auto turn = [this](const QString& key, const QString& tip, const QString& icon,
                              const Toolbar::Handler& handler) {
-        const QString caption = tip.section(u" ["_qs, 0, 0);
+        const QString caption = tip.section(u" ["_s, 0, 0);
         Toolbar1->addKey(key, caption, tip, icon, handler)->setToolButtonStyle(Qt::ToolButtonIconOnly);
     };
-    turn(u"tbErste"_qs, u"Erste Seite [ Pos1 ]"_qs, u"seite-erste"_qs, [this] { pageView->setPage(0); });
-    turn(u"tbZurueck"_qs, u"Vorige Seite [ Bild auf ]"_qs, u"seite-zurueck"_qs,
+    turn(u"tbErste"_s, u"Erste Seite [ Pos1 ]"_s, u"seite-erste"_s, [this] { pageView->setPage(0); });
+    turn(u"tbZurueck"_s, u"Vorige Seite [ Bild auf ]"_s, u"seite-zurueck"_s,
          [this] { pageView->setPage(pageView->page() - 1); });
     buildPageBox();
-    turn(u"tbWeiter"_qs, u"Nächste Seite [ Bild ab ]"_qs, u"seite-weiter"_qs,
+    turn(u"tbWeiter"_s, u"Nächste Seite [ Bild ab ]"_s, u"seite-weiter"_s,
          [this] { pageView->setPage(pageView->page() + 1); });
-    turn(u"tbLetzte"_qs, u"Letzte Seite [ Ende ]"_qs, u"seite-letzte"_qs,
+    turn(u"tbLetzte"_s, u"Letzte Seite [ Ende ]"_s, u"seite-letzte"_s,
          [this] { pageView->setPage(m_document->pageCount() - 1); });
     Toolbar1->addSeparator();
     buildZoomBox();
     Toolbar1->addSeparator();
-    Toolbar1->addKey(u"tbDruck"_qs, u"D&rucken"_qs, u"Bericht drucken..."_qs, u"drucken"_qs,
+    Toolbar1->addKey(u"tbDruck"_s, u"D&rucken"_s, u"Bericht drucken..."_s, u"drucken"_s,
                      [this] { drucke(); });
-    Toolbar1->addKey(u"tbPdf"_qs, u"&PDF"_qs, u"Bericht als PDF-Datei speichern..."_qs, u"pdf"_qs,
+    Toolbar1->addKey(u"tbPdf"_s, u"&PDF"_s, u"Bericht als PDF-Datei speichern..."_s, u"pdf"_s,
                      [this] { speicherPdf(); });
     Toolbar1->addSeparator();
-    Toolbar1->addKey(u"tbSchliessen"_qs, u"&Schließen"_qs, u"Vorschau schließen [ Esc ]"_qs, u"schliessen"_qs,
+    Toolbar1->addKey(u"tbSchliessen"_s, u"&Schließen"_s, u"Vorschau schließen [ Esc ]"_s, u"schliessen"_s,
                      &unload<Vorschau>);
 }
 
 void Vorschau::buildPageBox() {
-    txtSeite = new TextBox(u"txtSeite"_qs, Toolbar1);
+    txtSeite = new TextBox(u"txtSeite"_s, Toolbar1);
     txtSeite->setAlignment(Qt::AlignRight);
     txtSeite->setMaxLength(7);
-    txtSeite->setFixedWidth(txtSeite->fontMetrics().horizontalAdvance(u"0000000"_qs) + 16);
+    txtSeite->setFixedWidth(txtSeite->fontMetrics().horizontalAdvance(u"0000000"_s) + 16);
     txtSeite->setSelectAllOnFocus(true);
-    txtSeite->setAccessibleName(u"Seite"_qs);
-    txtSeite->setToolTip(u"Seitenzahl, mit Enter bestätigen"_qs);
+    txtSeite->setAccessibleName(u"Seite"_s);
+    txtSeite->setToolTip(u"Seitenzahl, mit Enter bestätigen"_s);
     txtSeite->setKeyFilter([](int code) { return code < 32 || (code >= '0' && code <= '9') ? code : 0; });
     addToRow(Toolbar1, txtSeite);
-    lblSeiten = Face::label(u"lblSeiten"_qs, {}, Toolbar1);
+    lblSeiten = Layout::label(u"lblSeiten"_s, {}, Toolbar1);
     addToRow(Toolbar1, lblSeiten);
     on(txtSeite, &TextBox::returnPressed, [this] { txtSeite_Enter(); });
     on(txtSeite, &TextBox::LostFocus, [this] { showPageNumber(); });
 }
 
 void Vorschau::buildZoomBox() {
-    cboZoom = new ComboBox(u"cboZoom"_qs, ComboBox::Order::AsAdded, ComboBox::Kind::DropDownList, Toolbar1);
-    for (const int percent : zoomLevels) cboZoom->AddItem(u"%1 %"_qs.arg(percent));
-    cboZoom->AddItem(u"Seitenbreite"_qs);
-    cboZoom->AddItem(u"ganze Seite"_qs);
-    cboZoom->setAccessibleName(u"Zoom"_qs);
-    cboZoom->setToolTip(u"Größe der Darstellung [ + ] [ - ]"_qs);
+    cboZoom = new ComboBox(u"cboZoom"_s, ComboBox::Order::AsAdded, ComboBox::Kind::DropDownList, Toolbar1);
+    for (const int percent : zoomLevels) cboZoom->AddItem(u"%1 %"_s.arg(percent));
+    cboZoom->AddItem(u"Seitenbreite"_s);
+    cboZoom->AddItem(u"ganze Seite"_s);
+    cboZoom->setAccessibleName(u"Zoom"_s);
+    cboZoom->setToolTip(u"Größe der Darstellung [ + ] [ - ]"_s);
     addToRow(Toolbar1, cboZoom);
     on(cboZoom, &ComboBox::Click, [this] { cboZoom_Click(); });
 }
 
 void Vorschau::buildNotice() {
-    lblAblage = Face::label(u"lblAblage"_qs, {}, this);
+    lblAblage = Layout::label(u"lblAblage"_s, {}, this);
     lblAblage->setTextFormat(Qt::PlainText);
     lblAblage->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    lblAblage->setContentsMargins(Face::gap, Face::gap / 2, Face::gap, Face::gap / 2);
+    lblAblage->setContentsMargins(Layout::gap, Layout::gap / 2, Layout::gap, Layout::gap / 2);
     // A long path must not make the frame wider.
     lblAblage->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     lblAblage->hide();
@@ -171,13 +173,13 @@ void Vorschau::showPageNumber() {
     const int pages = m_document ? m_document->pageCount() : 0;
     const int page = pageView->page() + 1;
     txtSeite->setText(pages > 0 ? QString::number(page) : QString());
-    lblSeiten->setText(u"von %1"_qs.arg(pages));
-    Toolbar1->setKeyEnabled(u"tbErste"_qs, page > 1);
-    Toolbar1->setKeyEnabled(u"tbZurueck"_qs, page > 1);
-    Toolbar1->setKeyEnabled(u"tbWeiter"_qs, page < pages);
-    Toolbar1->setKeyEnabled(u"tbLetzte"_qs, page < pages);
-    Toolbar1->setKeyEnabled(u"tbDruck"_qs, pages > 0);
-    Toolbar1->setKeyEnabled(u"tbPdf"_qs, pages > 0);
+    lblSeiten->setText(u"von %1"_s.arg(pages));
+    Toolbar1->setKeyEnabled(u"tbErste"_s, page > 1);
+    Toolbar1->setKeyEnabled(u"tbZurueck"_s, page > 1);
+    Toolbar1->setKeyEnabled(u"tbWeiter"_s, page < pages);
+    Toolbar1->setKeyEnabled(u"tbLetzte"_s, page < pages);
+    Toolbar1->setKeyEnabled(u"tbDruck"_s, pages > 0);
+    Toolbar1->setKeyEnabled(u"tbPdf"_s, pages > 0);
 }
 
 void Vorschau::cboZoom_Click() {
@@ -208,7 +210,7 @@ void Vorschau::drucke() {
         const Hourglass hourglass(*this);
         printReport(*printed, *target);
     } catch (const RuntimeError& error) {
-        MsgBox(u"Der Bericht konnte nicht gedruckt werden !\r\n\r\n"_qs + error.description, vbExclamation);
+        MsgBox(u"Der Bericht konnte nicht gedruckt werden !\r\n\r\n"_s + error.description, vbExclamation);
     }
 }
 
@@ -222,7 +224,7 @@ void Vorschau::speicherPdf() {
         saveReportAsPdf(*saved, file);
         showWhereItLies(file);
     } catch (const RuntimeError& error) {
-        MsgBox(u"Die Datei '%1' konnte nicht geschrieben werden !\r\n\r\n%2"_qs.arg(
+        MsgBox(u"Die Datei '%1' konnte nicht geschrieben werden !\r\n\r\n%2"_s.arg(
                    QDir::toNativeSeparators(file), error.description),
                vbExclamation);
     }
@@ -233,7 +235,7 @@ void Vorschau::showWhereItLies(const QString& file) {
     constexpr int shown = 15000; // milliseconds
     const QFileInfo place(file);
     const QString folder = QDir::toNativeSeparators(place.absolutePath());
-    lblAblage->setText(u"„%1“ liegt jetzt im Ordner %2"_qs.arg(place.fileName(), folder));
+    lblAblage->setText(u"„%1“ liegt jetzt im Ordner %2"_s.arg(place.fileName(), folder));
     lblAblage->setToolTip(QDir::toNativeSeparators(place.absoluteFilePath()));
     lblAblage->show();
     m_noticeEnd.start(shown);

@@ -3,10 +3,12 @@
 #include "ReportDocument.h"
 #include "RuntimeError.h"
 
+using namespace Qt::StringLiterals;
+
 Report::Report(const QString& caption)
     : m_caption(caption)
-    , m_sections{ReportSection(u"Section4"_qs), ReportSection(u"Section2"_qs), ReportSection(u"Section1"_qs),
-                 ReportSection(u"Section3"_qs), ReportSection(u"Section5"_qs)}
+    , m_sections{ReportSection(u"Section4"_s), ReportSection(u"Section2"_s), ReportSection(u"Section1"_s),
+                 ReportSection(u"Section3"_s), ReportSection(u"Section5"_s)}
     , m_rows(std::make_shared<ReportRows>()) {}
 
 ReportSection& Report::section(const QString& name) {

@@ -5,6 +5,8 @@
 #include "ReportPaper.h"
 #include "RuntimeError.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int noField = -1;
@@ -79,8 +81,8 @@ QString ReportDocument::rowText(const ReportControl& control, int field, int row
 QString ReportDocument::labelText(const ReportControl& label, const ReportPlace& place) const {
     QString text = label.caption();
     if (!label.hasPageNumbers()) return text;
-    text.replace(u"%p"_qs, QString::number(place.page + 1));
-    text.replace(u"%P"_qs, QString::number(pageCount()));
-    text.replace(u"%d"_qs, place.printed.toString(u"dd.MM.yyyy"_qs));
+    text.replace(u"%p"_s, QString::number(place.page + 1));
+    text.replace(u"%P"_s, QString::number(pageCount()));
+    text.replace(u"%d"_s, place.printed.toString(u"dd.MM.yyyy"_s));
     return text;
 }

@@ -4,6 +4,8 @@
 
 #include <QTextLayout>
 
+using namespace Qt::StringLiterals;
+
 namespace ReportFont {
 
 namespace {
@@ -14,7 +16,7 @@ constexpr double unitsPerPoint = 254.0 * ReportTypesetter::unitsPerTenth / 72.0;
 
 QFont font(double points, bool bold) {
     QFont font;
-    font.setFamilies({u"Arial"_qs, u"Liberation Sans"_qs, u"Helvetica"_qs});
+    font.setFamilies({u"Arial"_s, u"Liberation Sans"_s, u"Helvetica"_s});
     font.setStyleHint(QFont::SansSerif);
     font.setPixelSize(qRound(points * unitsPerPoint));
     font.setBold(bold);
@@ -24,7 +26,7 @@ QFont font(double points, bool bold) {
 }
 
 QStringList lines(QString text, const QFont& font, double width, int most) {
-    text.replace(u"\r\n"_qs, u"\n"_qs).replace(u'\r', u'\n').replace(u'\n', QChar::LineSeparator);
+    text.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n').replace(u'\n', QChar::LineSeparator);
     QTextLayout layout(text, font);
     QTextOption option;
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);

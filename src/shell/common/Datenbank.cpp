@@ -4,10 +4,12 @@
 #include "ErrorTail.h"
 #include "Session.h"
 
-QString datenbankDatei() { return programFolder() + u"/uw01.mdb"_qs; }
-QString sicherungsOrdner() { return programFolder() + u"/Sicherung"_qs; }
-QString datenbankPasswort() { return u"qx-1987-nkr"_qs; }
-QString datenbankVerbindung() { return u";pwd="_qs + datenbankPasswort(); }
+using namespace Qt::StringLiterals;
+
+QString datenbankDatei() { return programFolder() + u"/uw01.mdb"_s; }
+QString sicherungsOrdner() { return programFolder() + u"/Sicherung"_s; }
+QString datenbankPasswort() { return u"qx-1987-nkr"_s; }
+QString datenbankVerbindung() { return u";pwd="_s + datenbankPasswort(); }
 
 void OeffneDatenbank() {
     session().AktWorkspace = DBEngine::Workspaces(0);
@@ -32,14 +34,14 @@ void leseWert(ErrorTail& step, const QString& select, const std::function<void(c
     Recordset satz;
     step([&] { satz = oeffneAbfrage(select); });
     step([&] {
-        if (satz.RecordCount() == 1) nimm(satz.Collect(u"Expr1000"_qs));
+        if (satz.RecordCount() == 1) nimm(satz.Collect(u"Expr1000"_s));
     });
     step([&] { satz.Close(); });
 }
 
 void fuelleGrid(const QString& routine, DataTable* grid, const QString& select,
                 const std::function<std::vector<Value>(const Recordset&)>& zeile) {
-    withErrorTail(u"modStart"_qs, routine, [&](ErrorTail& step) {
+    withErrorTail(u"modStart"_s, routine, [&](ErrorTail& step) {
         Recordset satz;
         step([&] { satz = oeffneAbfrage(select); });
         if (step.test([&] { return satz.RecordCount() != 0; })) {

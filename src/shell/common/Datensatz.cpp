@@ -3,11 +3,13 @@
 #include "Datenbank.h"
 #include "ErrorTail.h"
 
+using namespace Qt::StringLiterals;
+
 namespace Datensatz {
 
 bool finde(ErrorTail& step, Recordset& satz, const Value& nummer) {
-    step([&] { satz.Index(u"PrimaryKey"_qs); });
-    return step([&] { satz.Seek(u"="_qs, nummer); }) && !satz.NoMatch();
+    step([&] { satz.Index(u"PrimaryKey"_s); });
+    return step([&] { satz.Seek(u"="_s, nummer); }) && !satz.NoMatch();
 }
 
 Danach lies(ErrorTail& step, std::vector<Value>& werte, const QStringList& felder) {
@@ -35,7 +37,7 @@ bool speichere(ErrorTail& step, const QString& tabelle, const Felder& felder, co
         if (!step([&] { satz.Update(); })) return false;
         if (!danach) return true;
         // The newest number is the highest.
-        step([&] { satz.Index(u"PrimaryKey"_qs); });
+        step([&] { satz.Index(u"PrimaryKey"_s); });
         step([&] { satz.MoveLast(); });
         return danach(satz);
     });

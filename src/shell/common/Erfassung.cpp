@@ -3,12 +3,12 @@
 #include "Meldungen.h"
 #include "Screen.h"
 
-void Erfassung::sichern(const Screen& form) const {
+void Erfassung::sichern(const Screen& screen) const {
     if (!vollstaendig()) return;
-    form.isEditing() ? aendere(form.gridRow()) : speichere();
+    screen.isEditing() ? aendere(screen.gridRow()) : speichere();
 }
 
-void Erfassung::entfernen(const Screen& form) const {
-    if (!form.isEditing()) return;
-    modRun::frage(frage) ? loesche(form.gridRow()) : beiNein();
+void Erfassung::entfernen(const Screen& screen) const {
+    if (!screen.isEditing()) return;
+    modRun::frage(frage) ? loesche(screen.gridRow()) : beiNein();
 }

@@ -14,7 +14,7 @@ struct Erfassung {
     void (*beiNein)(); ///< when the question is answered with no
 
     /// Changes the record that stands open on the screen, or stores the entry as a new one if none is open.
-    void sichern(const Screen& form) const;
+    void sichern(const Screen& screen) const;
     /// Deletes the open record after the question. Does nothing if none is open.
-    void entfernen(const Screen& form) const;
+    void entfernen(const Screen& screen) const;
 };

@@ -3,6 +3,8 @@
 #include "MsgBox.h"
 #include "Session.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 constexpr int boxesPerRoutine = 4;
 }
@@ -17,15 +19,15 @@ KeptErrorCount::~KeptErrorCount() { session().FehlerZaehler = m_count; }
 void ErrorTail::report(const RuntimeError& error) {
     if (session().Beendet) throw LeaveRoutine{};
     if (error.is(RuntimeError::damagedFile)) session().Beschaedigt = true;
-    const QString title = u"Runtime - Error: %1"_qs.arg(error.number);
+    const QString title = u"Runtime - Error: %1"_s.arg(error.number);
     qint16& count = session().FehlerZaehler;
     if (count < 0 || count >= boxesPerRoutine) {
-        MsgBox(u"Unvorhergesehener Fehler kann nicht behoben werden, Unterroutine wird verlassen !"_qs,
+        MsgBox(u"Unvorhergesehener Fehler kann nicht behoben werden, Unterroutine wird verlassen !"_s,
                vbExclamation, title);
         throw LeaveRoutine{};
     }
-    MsgBox(u"Unvorhergesehener Fehler in Modul: "_qs + m_module + u" / Routine: "_qs + m_routine +
-               u" !\n\r"_qs + u"Beschreibung: "_qs + error.description,
+    MsgBox(u"Unvorhergesehener Fehler in Modul: "_s + m_module + u" / Routine: "_s + m_routine + u" !\n\r"_s +
+               u"Beschreibung: "_s + error.description,
            vbExclamation, title);
     ++count;
 }

@@ -6,12 +6,14 @@
 #include <QString>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 /// The error handling that every routine which touches the database or a grid has in common. A routine is a
 /// recipe of statements; an error in one shows the box and the routine goes on with the next:
 ///
-///     withErrorTail(u"modBasis"_qs, u"SpeicherFisch"_qs, [](ErrorTail& step) {
+///     withErrorTail(u"modBasis"_s, u"SpeicherFisch"_s, [](ErrorTail& step) {
 ///         Recordset fisch;
-///         step([&] { fisch = oeffneTabelle(u"Fisch"_qs); });
+///         step([&] { fisch = oeffneTabelle(u"Fisch"_s); });
 ///         step([&] { fisch.AddNew(); });
 ///         ...
 ///     });

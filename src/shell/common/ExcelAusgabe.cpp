@@ -7,6 +7,8 @@
 #include "RuntimeError.h"
 #include "Spreadsheet.h"
 
+using namespace Qt::StringLiterals;
+
 void erzeugeAufWunsch(const DataTable& grid, const QString& frage, const QString& keineDaten,
                       void (*erzeuge)()) {
     if (!modRun::frage(frage))
@@ -23,12 +25,12 @@ void schreibeFuerExcel(const std::function<void()>& schreibe, const QString& feh
         schreibe();
     } catch (const RuntimeError&) {
         const QString rat =
-            u"Bitte überprüfen Sie ob noch genug Speicher auf den Datenträger verfügbar ist."_qs;
-        MsgBox(fehler + u"\r\n"_qs + rat, vbCritical);
+            u"Bitte überprüfen Sie ob noch genug Speicher auf den Datenträger verfügbar ist."_s;
+        MsgBox(fehler + u"\r\n"_s + rat, vbCritical);
         return;
     }
     MsgBox(erfolg, vbInformation);
-    if (modRun::frage(u"Möchten Sie jetzt Excel starten ?"_qs)) starte();
+    if (modRun::frage(u"Möchten Sie jetzt Excel starten ?"_s)) starte();
 }
 
 void zeigeInExcel(const QString& path, std::initializer_list<QString> columns) {
@@ -40,6 +42,6 @@ void zeigeInExcel(const QString& path, std::initializer_list<QString> columns) {
         awaitOtherProgram();
     } catch (const RuntimeError&) {
         // Whether the program can be reached may only turn out when it is to do something.
-        MsgBox(u"Es ist kein Excel verfügbar !"_qs, vbInformation);
+        MsgBox(u"Es ist kein Excel verfügbar !"_s, vbInformation);
     }
 }

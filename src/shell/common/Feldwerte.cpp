@@ -8,6 +8,8 @@
 #include <QAbstractButton>
 #include <QCheckBox>
 
+using namespace Qt::StringLiterals;
+
 namespace modRun {
 
 void leseZellen(ErrorTail& step, const std::vector<Recordset::Field>& felder, std::span<Value> zeile) {
@@ -27,7 +29,7 @@ QString textOderLeer(const Recordset::Field& field) {
 
 Date DatumAusText(const TextBox* box) {
     const Value text(box->text());
-    return CDate(IsDate(text) ? text : Value(u"00:00:0000"_qs));
+    return CDate(IsDate(text) ? text : Value(u"00:00:0000"_s));
 }
 
 QString TextAusDatum(const Recordset::Field& field) {

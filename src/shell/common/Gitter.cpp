@@ -5,6 +5,8 @@
 
 #include <QColor>
 
+using namespace Qt::StringLiterals;
+
 namespace modRun {
 
 void SetzeGridFarben(SelectionStyle& style) {
@@ -27,9 +29,9 @@ void leereAuswahlBeiFokus(DataTable* grid) {
 
 void GridVerweiseAbgleichen(DataTable* grid, int column, const QString& text, const QString& mode,
                             const QString& oldText) {
-    if (mode == u"LOESCHEN"_qs) {
+    if (mode == u"LOESCHEN"_s) {
         grid->removeRowsWithText(column, text);
-    } else if (mode == u"UPDATE"_qs) {
+    } else if (mode == u"UPDATE"_s) {
         for (int row = 0; grid->find(column, row, oldText) >= 0; ++row) grid->setCell(row, column, text);
     }
 }

@@ -8,6 +8,8 @@
 
 #include <optional>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Appends the years from the lowest to the highest, `akt` if it lies behind them, and the years from `akt`
@@ -37,24 +39,24 @@ std::optional<qint32> grenzjahr(ErrorTail& step, const QString& select, qint32 s
 } // namespace
 
 void loadcboFJahr(ComboBox* combo) {
-    withErrorTail(u"modFAuswert"_qs, u"loadcboFJahr"_qs, [combo](ErrorTail& step) {
+    withErrorTail(u"modFAuswert"_s, u"loadcboFJahr"_s, [combo](ErrorTail& step) {
         const qint32 aktJahr = session().AktJahr;
         const auto grenze = [&](const QString& select) {
             const qint32 jahr = grenzjahr(step, select, aktJahr).value_or(aktJahr);
             return jahr == 0 ? aktJahr : jahr;
         };
-        const qint32 lowest = grenze(u"SELECT MIN(FangJahr) FROM Fang"_qs);
-        const qint32 highest = grenze(u"SELECT MAX(FangJahr) FROM Fang"_qs);
+        const qint32 lowest = grenze(u"SELECT MIN(FangJahr) FROM Fang"_s);
+        const qint32 highest = grenze(u"SELECT MAX(FangJahr) FROM Fang"_s);
         haengeJahreAn(combo, lowest, highest, aktJahr);
     });
 }
 
 void loadcboArbJahre(ComboBox* combo) {
-    withErrorTail(u"modArbeit"_qs, u"loadcboArbJahre"_qs, [combo](ErrorTail& step) {
+    withErrorTail(u"modArbeit"_s, u"loadcboArbJahre"_s, [combo](ErrorTail& step) {
         const qint32 diesesJahr = session().Startjahr;
-        const auto lowest = grenzjahr(step, u"SELECT MIN(Jahr) FROM Arbeit"_qs, diesesJahr);
+        const auto lowest = grenzjahr(step, u"SELECT MIN(Jahr) FROM Arbeit"_s, diesesJahr);
         if (!lowest) return;
-        const auto highest = grenzjahr(step, u"SELECT MAX(Jahr) FROM Arbeit"_qs, diesesJahr);
+        const auto highest = grenzjahr(step, u"SELECT MAX(Jahr) FROM Arbeit"_s, diesesJahr);
         if (!highest) return;
         haengeJahreAn(combo, *lowest, *highest, diesesJahr);
     });

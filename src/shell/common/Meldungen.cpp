@@ -5,27 +5,29 @@
 
 #include <QWidget>
 
+using namespace Qt::StringLiterals;
+
 namespace modRun {
 
 void MeldeNichtVorhanden() {
-    MsgBox(u"FEHLER: Datensatz nicht vorhanden o. nicht vorhanden !"_qs, vbCritical);
+    MsgBox(u"FEHLER: Datensatz nicht vorhanden o. nicht vorhanden !"_s, vbCritical);
 }
 
 void MeldeNichtsGefunden() {
-    MsgBox(u"Keine passenden Datensätze gefunden, bitte versuchen Sie es erneut!"_qs, vbInformation);
+    MsgBox(u"Keine passenden Datensätze gefunden, bitte versuchen Sie es erneut!"_s, vbInformation);
 }
 
 void MeldeEingabeFehler(QWidget* schuld) {
-    MsgBox(u"ACHTUNG: Eingabefelder nicht korrekt, Vorgang abgebrochen !"_qs, vbInformation);
+    MsgBox(u"ACHTUNG: Eingabefelder nicht korrekt, Vorgang abgebrochen !"_s, vbInformation);
     schuld->setFocus();
     // A box that sends the focus on when it loses it has done so now.
     schuld->setFocus();
 }
 
-void MeldeAbgebrochen() { MsgBox(u"Vorgang von User abgebrochen !"_qs, vbInformation); }
+void MeldeAbgebrochen() { MsgBox(u"Vorgang von User abgebrochen !"_s, vbInformation); }
 
 void MeldeKeinZugriff() {
-    MsgBox(u"Sie haben keine Zugriffsberechtigung auf diese Funktion !"_qs, vbInformation);
+    MsgBox(u"Sie haben keine Zugriffsberechtigung auf diese Funktion !"_s, vbInformation);
 }
 
 bool frage(const QString& text, const QString& title) {

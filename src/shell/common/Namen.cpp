@@ -10,6 +10,8 @@
 
 #include <functional>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// A lookup: its module and routine as the error box names them, and the field that it reads.
@@ -48,33 +50,33 @@ QString leerOhneNamen(const Value& name) { return name.isNull() ? QString() : CS
 } // namespace
 
 qint32 ErmittleFischNr(const QString& fisch) {
-    return nummer({u"modFangbuch"_qs, u"ErmittleFischNr"_qs, u"FNr"_qs},
-                  u"SELECT FNr FROM Fisch WHERE FName = "_qs, fisch);
+    return nummer({u"modFangbuch"_s, u"ErmittleFischNr"_s, u"FNr"_s},
+                  u"SELECT FNr FROM Fisch WHERE FName = "_s, fisch);
 }
 
 QString ErmittleFischname(qint32 number) {
-    return name({u"modFangbuch"_qs, u"ErmittleFischname"_qs, u"FName"_qs},
-                u"SELECT FName FROM Fisch WHERE FNr = "_qs, number);
+    return name({u"modFangbuch"_s, u"ErmittleFischname"_s, u"FName"_s},
+                u"SELECT FName FROM Fisch WHERE FNr = "_s, number);
 }
 
 qint32 ErmittleGewaesserNr(const QString& gewaesser) {
-    return nummer({u"modFangbuch"_qs, u"ErmittleGewaesserNr"_qs, u"GNr"_qs},
-                  u"SELECT GNr FROM Gewaesser WHERE GName = "_qs, gewaesser);
+    return nummer({u"modFangbuch"_s, u"ErmittleGewaesserNr"_s, u"GNr"_s},
+                  u"SELECT GNr FROM Gewaesser WHERE GName = "_s, gewaesser);
 }
 
 QString ErmittleGewaessername(qint32 number) {
-    return name({u"modFangbuch"_qs, u"ErmittleGewaessername"_qs, u"GName"_qs},
-                u"SELECT GName FROM Gewaesser WHERE GNr = "_qs, number);
+    return name({u"modFangbuch"_s, u"ErmittleGewaessername"_s, u"GName"_s},
+                u"SELECT GName FROM Gewaesser WHERE GNr = "_s, number);
 }
 
 qint32 ErmittleKategoNr(const QString& kategorie) {
-    return nummer({u"modKontakt"_qs, u"ErmittleKategoNr"_qs, u"kategonr"_qs},
-                  u"SELECT KategoNr FROM Katego WHERE Kategorie = "_qs, kategorie);
+    return nummer({u"modKontakt"_s, u"ErmittleKategoNr"_s, u"kategonr"_s},
+                  u"SELECT KategoNr FROM Katego WHERE Kategorie = "_s, kategorie);
 }
 
 QString ErmittleKategoName(qint32 number) {
-    return schlageNach({u"modKontakt"_qs, u"ErmittleKategoName"_qs, u"kategorie"_qs}, &leerOhneNamen, [&] {
-        return u"SELECT Kategorie FROM Katego WHERE KategoNr = "_qs + QString::number(number);
+    return schlageNach({u"modKontakt"_s, u"ErmittleKategoName"_s, u"kategorie"_s}, &leerOhneNamen, [&] {
+        return u"SELECT Kategorie FROM Katego WHERE KategoNr = "_s + QString::number(number);
     });
 }
 

@@ -6,12 +6,14 @@
 
 #include <QCheckBox>
 
+using namespace Qt::StringLiterals;
+
 Vergleich Vergleich::neu(const QString& list, const QString& box, const QString& spoken, QWidget* parent) {
     const Vergleich made{new ComboBox(list, ComboBox::Order::AsAdded, ComboBox::Kind::DropDownList, parent),
                          new TextBox(box, parent)};
-    for (const QString& zeichen : {u"="_qs, u">"_qs, u">="_qs, u"<"_qs, u"<="_qs, u"<>"_qs})
+    for (const QString& zeichen : {u"="_s, u">"_s, u">="_s, u"<"_s, u"<="_s, u"<>"_s})
         made.zeichen->AddItem(zeichen);
-    made.zeichen->setAccessibleName(spoken + u", Vergleich"_qs);
+    made.zeichen->setAccessibleName(spoken + u", Vergleich"_s);
     made.wert->setAccessibleName(spoken);
     made.leere();
     made.setEnabled(false);

@@ -1,7 +1,7 @@
 #include "Handbuch.h"
 
-#include "Face.h"
 #include "HandbuchSeite.h"
+#include "Layout.h"
 #include "MsgBox.h"
 #include "TextBox.h"
 #include "Toolbar.h"
@@ -15,12 +15,14 @@
 #include <QToolButton>
 #include <QWindow>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString whatIsMissing(const QFileInfo& page) {
-    if (page.dir().exists()) return u"Die Seite '%1' fehlt im Handbuch."_qs.arg(page.completeBaseName());
-    return u"Das Handbuch wurde nicht gefunden.\r\n\r\n"_qs +
-           u"Es gehört in den Ordner 'Handbuch', neben das Programm."_qs;
+    if (page.dir().exists()) return u"Die Seite '%1' fehlt im Handbuch."_s.arg(page.completeBaseName());
+    return u"Das Handbuch wurde nicht gefunden.\r\n\r\n"_s +
+           u"Es gehört in den Ordner 'Handbuch', neben das Programm."_s;
 }
 
 /// The words of a page without its marks.
@@ -35,19 +37,19 @@ bool kommtVor(const QString& text, const QString& file) {
 } // namespace
 
 Handbuch::Handbuch()
-    : Screen(u"Handbuch"_qs, u"Handbuch"_qs)
+    : Screen(u"Handbuch"_s, u"Handbuch"_s)
     , Toolbar1(new Toolbar(this))
     , Seite(new HandbuchSeite(this))
     , Suchzeile(new QWidget(this))
-    , txtSuch(new TextBox(u"txtSuch"_qs, Suchzeile))
-    , lblFund(Face::label(u"lblFund"_qs, {}, Suchzeile)) {
+    , txtSuch(new TextBox(u"txtSuch"_s, Suchzeile))
+    , lblFund(Layout::label(u"lblFund"_s, {}, Suchzeile)) {
     standAlone();
     standForReading();
     buildToolbar();
     buildSuchzeile();
-    Seite->setObjectName(u"Seite"_qs);
+    Seite->setObjectName(u"Seite"_s);
     Seite->setMinimumSize(420, 300);
-    Seite->setAccessibleName(u"Seite des Handbuchs"_qs);
+    Seite->setAccessibleName(u"Seite des Handbuchs"_s);
     auto* whole = new QVBoxLayout(this);
     whole->setContentsMargins(0, 0, 0, 0);
     whole->setSpacing(0);
@@ -61,24 +63,24 @@ Handbuch::Handbuch()
 }
 
 void Handbuch::buildToolbar() {
-    Toolbar1->addKey(u"tbZurueck"_qs, u"&Zurück"_qs, u"Zur vorigen Seite [ Alt+Links ]"_qs,
-                     u"seite-zurueck"_qs, [this] { Seite->backward(); });
-    Toolbar1->addKey(u"tbVor"_qs, u"&Vor"_qs, u"Wieder vor [ Alt+Rechts ]"_qs, u"seite-weiter"_qs,
+    Toolbar1->addKey(u"tbZurueck"_s, u"&Zurück"_s, u"Zur vorigen Seite [ Alt+Links ]"_s, u"seite-zurueck"_s,
+                     [this] { Seite->backward(); });
+    Toolbar1->addKey(u"tbVor"_s, u"&Vor"_s, u"Wieder vor [ Alt+Rechts ]"_s, u"seite-weiter"_s,
                      [this] { Seite->forward(); });
-    Toolbar1->addKeys({{u"tbInhalt"_qs, u"&Inhalt"_qs, u"Alle Seiten des Handbuchs"_qs, u"liste"_qs,
-                        [this] { blaettere(Seite->source().resolved(QUrl(u"index.html"_qs))); }},
-                       {u"tbSuch"_qs, u"S&uchen"_qs, u"Ein Wort in allen Seiten suchen [ Strg+F ]"_qs,
-                        u"suchen"_qs, [this] { oeffneSuche(); }},
-                       {u"tbSchliessen"_qs, u"&Schließen"_qs, u"Handbuch schließen [ Esc ]"_qs,
-                        u"schliessen"_qs, [this] { Hide(); }}});
+    Toolbar1->addKeys({{u"tbInhalt"_s, u"&Inhalt"_s, u"Alle Seiten des Handbuchs"_s, u"liste"_s,
+                        [this] { blaettere(Seite->source().resolved(QUrl(u"index.html"_s))); }},
+                       {u"tbSuch"_s, u"S&uchen"_s, u"Ein Wort in allen Seiten suchen [ Strg+F ]"_s,
+                        u"suchen"_s, [this] { oeffneSuche(); }},
+                       {u"tbSchliessen"_s, u"&Schließen"_s, u"Handbuch schließen [ Esc ]"_s, u"schliessen"_s,
+                        [this] { Hide(); }}});
 }
 
 void Handbuch::buildSuchzeile() {
     auto* line = new QHBoxLayout(Suchzeile);
-    line->setContentsMargins(Face::gap, Face::gap, Face::gap, Face::gap);
-    line->setSpacing(Face::gap);
-    txtSuch->setPlaceholderText(u"Wort, dann Eingabetaste"_qs);
-    txtSuch->setAccessibleName(u"Suchen im Handbuch"_qs);
+    line->setContentsMargins(Layout::gap, Layout::gap, Layout::gap, Layout::gap);
+    line->setSpacing(Layout::gap);
+    txtSuch->setPlaceholderText(u"Wort, dann Eingabetaste"_s);
+    txtSuch->setAccessibleName(u"Suchen im Handbuch"_s);
     txtSuch->setMaximumWidth(320);
     line->addWidget(txtSuch, 1);
     line->addWidget(lblFund, 1);
@@ -119,7 +121,7 @@ void Handbuch::suche(QTextDocument::FindFlags richtung) {
     lblFund->clear();
     if (text.isEmpty() || Seite->find(text, richtung)) return;
     const QUrl page = seiteMit(text, richtung);
-    if (page.isEmpty()) return lblFund->setText(u"Auf keiner Seite gefunden"_qs);
+    if (page.isEmpty()) return lblFund->setText(u"Auf keiner Seite gefunden"_s);
     if (page != Seite->source().adjusted(QUrl::RemoveFragment)) Seite->setSource(page);
     const bool back = richtung.testFlag(QTextDocument::FindBackward);
     Seite->moveCursor(back ? QTextCursor::End : QTextCursor::Start);
@@ -128,7 +130,7 @@ void Handbuch::suche(QTextDocument::FindFlags richtung) {
 
 QUrl Handbuch::seiteMit(const QString& text, QTextDocument::FindFlags richtung) const {
     const QFileInfo here(Seite->source().toLocalFile());
-    const QStringList pages = here.dir().entryList({u"*.html"_qs}, QDir::Files, QDir::Name);
+    const QStringList pages = here.dir().entryList({u"*.html"_s}, QDir::Files, QDir::Name);
     const qsizetype count = pages.size();
     const qsizetype step = richtung.testFlag(QTextDocument::FindBackward) ? count - 1 : 1;
     qsizetype at = pages.indexOf(here.fileName());
@@ -164,9 +166,9 @@ void Handbuch::blaettere(const QUrl& page) {
 }
 
 void Handbuch::zeigeTitel() {
-    setWindowTitle(u"Handbuch - %1"_qs.arg(Seite->documentTitle()));
-    Toolbar1->setKeyEnabled(u"tbZurueck"_qs, Seite->isBackwardAvailable());
-    Toolbar1->setKeyEnabled(u"tbVor"_qs, Seite->isForwardAvailable());
+    setWindowTitle(u"Handbuch - %1"_s.arg(Seite->documentTitle()));
+    Toolbar1->setKeyEnabled(u"tbZurueck"_s, Seite->isBackwardAvailable());
+    Toolbar1->setKeyEnabled(u"tbVor"_s, Seite->isForwardAvailable());
 }
 
 bool Handbuch::event(QEvent* event) {

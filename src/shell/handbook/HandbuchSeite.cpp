@@ -5,6 +5,8 @@
 #include <QImage>
 #include <QScrollBar>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int paperMargin = 24;
@@ -14,8 +16,8 @@ QString houseStyle() {
     return u"h1, h2, th { color: %1; } a { color: %2; } p, li, td { line-height: 125%; }"
            "p.bild { line-height: 100%; margin-top: 14px; margin-bottom: 14px; }"
            "li { margin-bottom: 6px; } td, th { padding: 4px 12px 4px 0; } th { text-align: left; }"
-           "h2 { margin-top: 22px; } table { margin-top: 8px; }"_qs.arg(Theme::headingInk().name(),
-                                                                        Theme::accent().name());
+           "h2 { margin-top: 22px; } table { margin-top: 8px; }"_s.arg(Theme::headingInk().name(),
+                                                                       Theme::accent().name());
 }
 
 } // namespace

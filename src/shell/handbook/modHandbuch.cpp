@@ -7,6 +7,8 @@
 
 #include <map>
 
+using namespace Qt::StringLiterals;
+
 namespace modHandbuch {
 
 namespace {
@@ -14,19 +16,19 @@ namespace {
 /// The pages that are named otherwise than their screen.
 const std::map<QString, QString>& pages() {
     static const std::map<QString, QString> byScreen = {
-        {u"Arbeit"_qs, u"arbeitsstunden"_qs},
-        {u"Basis"_qs, u"basisdaten"_qs},
+        {u"Arbeit"_s, u"arbeitsstunden"_s},
+        {u"Basis"_s, u"basisdaten"_s},
         // The questions of a start in a new year come above the start-up picture.
-        {u"Eroef"_qs, u"jahreswechsel"_qs},
-        {u"Handbuch"_qs, u"index"_qs},
-        {u"Hinter"_qs, u"index"_qs},
-        {u"Katego"_qs, u"kategorien"_qs},
-        {u"KontaktUebers"_qs, u"kontakte"_qs},
-        {u"Login"_qs, u"anmeldung"_qs},
-        {u"Main"_qs, u"index"_qs},
-        {u"MitglList"_qs, u"mitgliederliste"_qs},
-        {u"SuchKont"_qs, u"kontaktsuche"_qs},
-        {u"System"_qs, u"parameter"_qs},
+        {u"Eroef"_s, u"jahreswechsel"_s},
+        {u"Handbuch"_s, u"index"_s},
+        {u"Hinter"_s, u"index"_s},
+        {u"Katego"_s, u"kategorien"_s},
+        {u"KontaktUebers"_s, u"kontakte"_s},
+        {u"Login"_s, u"anmeldung"_s},
+        {u"Main"_s, u"index"_s},
+        {u"MitglList"_s, u"mitgliederliste"_s},
+        {u"SuchKont"_s, u"kontaktsuche"_s},
+        {u"System"_s, u"parameter"_s},
     };
     return byScreen;
 }
@@ -53,7 +55,7 @@ const Screen* screenInFront(const QWidget* focused) {
 }
 
 /// The page of a screen. Without any screen the start has failed and its message box is alone.
-QString pageFor(const Screen* screen) { return screen ? SeiteFuer(screen->objectName()) : u"hilfe"_qs; }
+QString pageFor(const Screen* screen) { return screen ? SeiteFuer(screen->objectName()) : u"hilfe"_s; }
 
 } // namespace
 
@@ -64,7 +66,7 @@ QString SeiteFuer(const QString& screen) {
 
 void ZeigeHandbuch(const QWidget* focused) {
     const QString page = pageFor(screenInFront(focused));
-    screen<Handbuch>().zeige(programFolder() + u"/Handbuch/%1.html"_qs.arg(page));
+    the<Handbuch>().zeige(programFolder() + u"/Handbuch/%1.html"_s.arg(page));
 }
 
 } // namespace modHandbuch

@@ -13,12 +13,14 @@
 #include <QWheelEvent>
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The width of the box: enough for any date and the arrow beside it.
 constexpr int characters = 11;
 
-QString textOf(Date date) { return date.isEmpty() ? QString() : date.toQDate().toString(u"dd.MM.yyyy"_qs); }
+QString textOf(Date date) { return date.isEmpty() ? QString() : date.toQDate().toString(u"dd.MM.yyyy"_s); }
 
 /// Accepts commas for points, since the number pad has a comma, and adds the points to 01022026.
 QString withPoints(QString typed) {
@@ -120,8 +122,8 @@ void DateBox::makeCalendar() {
             onBar.setColor(ink, palette().color(QPalette::HighlightedText));
         button->setPalette(onBar);
     };
-    setArrow(u"qt_calendar_prevmonth"_qs, Qt::LeftArrow);
-    setArrow(u"qt_calendar_nextmonth"_qs, Qt::RightArrow);
+    setArrow(u"qt_calendar_prevmonth"_s, Qt::LeftArrow);
+    setArrow(u"qt_calendar_nextmonth"_s, Qt::RightArrow);
     // Enter and a click pick a day; going about by the arrow keys does not.
     for (const auto signal : {&QCalendarWidget::activated, &QCalendarWidget::clicked})
         connect(m_calendar, signal, this, [this](QDate day) {

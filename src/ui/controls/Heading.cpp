@@ -4,6 +4,8 @@
 
 #include <QEvent>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 constexpr double headingPoints = 16;
 constexpr QMargins room(12, 8, 12, 4);
@@ -28,9 +30,9 @@ void HeadingText::takeInk() {
 
 Heading::Heading(const QString& text, QWidget* parent)
     : HeadingText(text, parent) {
-    setObjectName(u"Ueberschrift"_qs);
+    setObjectName(u"Ueberschrift"_s);
     QFont face = font();
-    face.setFamilies({u"Comic Sans MS"_qs, u"Comic Neue"_qs});
+    face.setFamilies({u"Comic Sans MS"_s, u"Comic Neue"_s});
     face.setPointSizeF(headingPoints);
     face.setBold(true);
     setFont(face);

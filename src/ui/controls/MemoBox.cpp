@@ -7,12 +7,14 @@
 #include <QMimeData>
 #include <QTextDocumentFragment>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 qsizetype storedLength(const QString& text) { return text.size() + text.count(u'\n'); }
 
 QString insertedBy(const QKeyEvent* event) {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) return u"\n"_qs;
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) return u"\n"_s;
     const QString text = event->text();
     return !text.isEmpty() && text.front().isPrint() ? text : QString();
 }
@@ -31,8 +33,8 @@ MemoBox::MemoBox(const QString& name, QWidget* parent)
 QString MemoBox::Text() const {
     return document()
         ->toRawText()
-        .replace(QChar::ParagraphSeparator, u"\r\n"_qs)
-        .replace(QChar::LineSeparator, u"\r\n"_qs);
+        .replace(QChar::ParagraphSeparator, u"\r\n"_s)
+        .replace(QChar::LineSeparator, u"\r\n"_s);
 }
 
 void MemoBox::setText(const QString& text) { setPlainText(withPlainBreaks(text)); }

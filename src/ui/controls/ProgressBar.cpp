@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 constexpr int hundredths = 100;
 constexpr int millisecondsBetweenPaints = 40;
@@ -11,7 +13,7 @@ ProgressBar::ProgressBar(const QString& name, QWidget* parent)
     : QProgressBar(parent) {
     setObjectName(name);
     setRange(0, hundredths);
-    setFormat(u"%p %"_qs);
+    setFormat(u"%p %"_s);
     setValue(0);
 }
 

@@ -11,6 +11,8 @@
 #include <QPointer>
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int backspaceCode = 8;
@@ -39,7 +41,7 @@ bool isEntry(const QAction* entry, const QString& caption) {
 // A copied text often ends in a line break, which one line cannot show.
 QString inOneLine(QString text) {
     if (!text.contains(u'\n') && !text.contains(u'\r')) return text;
-    return text.replace(u"\r\n"_qs, u" "_qs).replace(u'\n', u' ').replace(u'\r', u' ').trimmed();
+    return text.replace(u"\r\n"_s, u" "_s).replace(u'\n', u' ').replace(u'\r', u' ').trimmed();
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "ValueLabel.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 constexpr int minimumValueWidth = 48;
 constexpr int innerMargin = 2;
@@ -16,6 +18,6 @@ ValueLabel::ValueLabel(const QString& name, QWidget* parent)
 
 void ValueLabel::setNumeric() {
     setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    const int digits = fontMetrics().horizontalAdvance(u"123456789"_qs);
+    const int digits = fontMetrics().horizontalAdvance(u"123456789"_s);
     setMinimumWidth(digits + 2 * (frameWidth() + margin() + innerMargin));
 }

@@ -12,6 +12,8 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int margin = 8;
@@ -24,7 +26,7 @@ constexpr int padding = 8;
 constexpr int stripe = 3;
 constexpr int corner = 6;
 
-QString shownText(const QString& caption) { return withPlainBreaks(caption).replace(u"&&"_qs, u"&"_qs); }
+QString shownText(const QString& caption) { return withPlainBreaks(caption).replace(u"&&"_s, u"&"_s); }
 
 } // namespace
 
@@ -34,7 +36,7 @@ BarItem::BarItem(const QString& key, const QString& caption, const QString& icon
     , m_caption(shownText(caption)) {
     setObjectName(key);
     // The button itself would read a single ampersand as a mnemonic.
-    setText(QString(m_caption).replace(u'&', u"&&"_qs));
+    setText(QString(m_caption).replace(u'&', u"&&"_s));
     setAccessibleName(QString(m_caption).replace(u'\n', u' '));
     setIcon(Theme::icon(icon));
     setIconSize({iconEdge, iconEdge});
@@ -159,7 +161,7 @@ NavigationBar::NavigationBar(const QString& name, QWidget* parent)
     setObjectName(name);
     setAccessibleName(tr("Navigation"));
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
-    m_face->setObjectName(u"barFace"_qs);
+    m_face->setObjectName(u"barFace"_s);
     m_column->setContentsMargins(margin, margin, margin, margin);
     m_column->setSpacing(groupGap);
     m_column->addStretch(1);
@@ -231,7 +233,7 @@ void NavigationBar::setCurrentItem(BarItem* item) {
 void NavigationBar::renewTabStop() {
     setTabStop(items().contains(m_current) ? m_current.data() : firstItem());
     int place = 0;
-    for (BarItem* each : items()) each->setToolTip(u"Strg+%1"_qs.arg(++place));
+    for (BarItem* each : items()) each->setToolTip(u"Strg+%1"_s.arg(++place));
     updateGeometry();
 }
 

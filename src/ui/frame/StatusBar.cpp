@@ -9,6 +9,8 @@
 #include <QPainter>
 #include <QTimer>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 constexpr int refreshMilliseconds = 1000;
 }
@@ -29,7 +31,7 @@ void StatusBar::addPanel(Style style, const QString& text, const QString& tip, b
     auto* label = new QLabel(text, this);
     label->setTextFormat(Qt::PlainText);
     label->setToolTip(tip);
-    label->setObjectName(u"Panel%1"_qs.arg(panelCount() + 1));
+    label->setObjectName(u"Panel%1"_s.arg(panelCount() + 1));
     label->setAccessibleName(tip);
     auto* row = static_cast<QHBoxLayout*>(layout());
     row->addWidget(label, stretch ? 1 : 0);
@@ -46,8 +48,8 @@ void StatusBar::setPanelText(int number, const QString& text) {
 void StatusBar::showTime() {
     const QDateTime moment = now();
     for (const Panel& panel : m_panels) {
-        if (panel.style == Style::Date) panel.label->setText(moment.toString(u"dd.MM.yyyy"_qs));
-        if (panel.style == Style::Time) panel.label->setText(moment.toString(u"hh:mm"_qs));
+        if (panel.style == Style::Date) panel.label->setText(moment.toString(u"dd.MM.yyyy"_s));
+        if (panel.style == Style::Time) panel.label->setText(moment.toString(u"hh:mm"_s));
     }
 }
 

@@ -10,6 +10,8 @@
 #include <QToolButton>
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 constexpr int iconEdge = 24;
 constexpr int gap = 4;
@@ -34,7 +36,7 @@ protected:
 Toolbar::Toolbar(QWidget* parent)
     : QWidget(parent)
     , m_row(new QHBoxLayout(this)) {
-    setObjectName(u"Toolbar1"_qs);
+    setObjectName(u"Toolbar1"_s);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     m_row->setContentsMargins(margin, gap, margin, gap);
     m_row->setSpacing(gap);

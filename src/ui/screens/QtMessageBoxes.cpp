@@ -11,6 +11,8 @@
 #include <QScreen>
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int iconBits = 0x70;
@@ -44,7 +46,7 @@ void addButton(QMessageBox& box, QMessageBox::StandardButton which, const QStrin
 /// Qt would wrap the lines of a text to half the screen. Their breaks are given, so they stay as they are as
 /// long as the screen has room.
 void keepLines(QMessageBox& box) {
-    auto* label = box.findChild<QLabel*>(u"qt_msgbox_label"_qs);
+    auto* label = box.findChild<QLabel*>(u"qt_msgbox_label"_s);
     if (!label) return;
     const int room = box.screen()->availableGeometry().width() * 3 / 4;
     const QSize lines = label->fontMetrics().size(0, box.text());
@@ -62,8 +64,8 @@ MsgBoxResult QtMessageBoxes::show(const QString& text, int style, const QString&
     box.setText(withPlainBreaks(text));
     keepLines(box);
     if (question) {
-        addButton(box, QMessageBox::Yes, u"&Ja"_qs);
-        addButton(box, QMessageBox::No, u"&Nein"_qs);
+        addButton(box, QMessageBox::Yes, u"&Ja"_s);
+        addButton(box, QMessageBox::No, u"&Nein"_s);
         box.setDefaultButton(QMessageBox::Yes);
         box.setEscapeButton(QMessageBox::No);
     } else {

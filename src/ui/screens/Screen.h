@@ -8,7 +8,7 @@
 class QEventLoop;
 class QKeyEvent;
 
-/// A screen of the program: at most one instance of each class, made on first use, reached by screen<T>().
+/// A screen of the program: at most one instance of each class, made on first use, reached by the<T>().
 /// Controls are named members and have their name as objectName, as has the screen itself.
 class Screen : public QWidget {
     Q_OBJECT
@@ -44,11 +44,6 @@ public:
     bool isModalNow() const { return m_modalLoop != nullptr; }
     /// True if the screen has a window of its own (login, Info) instead of a place on the stage.
     bool isOwnWindow() const { return m_ownWindow; }
-
-    /// The one instance of another screen. A member, since QWidget::screen() would hide the free function of
-    /// this name from all screens.
-    template<typename T>
-    static T& screen();
 
     // The record that stands open: what is saved changes it instead of adding one. It is given up after each
     // press in a toolbar and when another screen comes to the front; no screen does anything for that.

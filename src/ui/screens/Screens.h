@@ -11,7 +11,7 @@ namespace Screens {
 /// Call when the screen has its toolbars: it looks for them.
 void add(Screen* screen);
 /// Runs Form_Unload, takes the screen off the stage and destroys it. A screen may unload itself: it is
-/// destroyed only after all handlers have returned. During Form_Unload screen<T>() still returns it.
+/// destroyed only after all handlers have returned. During Form_Unload the<T>() still returns it.
 void remove(Screen* screen);
 /// Only for the screen's destructor and remove().
 void forget(const Screen* screen);
@@ -46,7 +46,7 @@ T* aliveScreen() {
 /// The one instance of a screen. The first use makes it and runs its Form_Load. Throws ProgramEnded instead
 /// of making one after the program's end.
 template<typename T>
-T& screen() {
+T& the() {
     if (T* alive = detail::aliveScreen<T>()) return *alive;
     if (eventsEnded()) throw ProgramEnded{};
     T* made = new T;
@@ -56,18 +56,13 @@ T& screen() {
     return *made;
 }
 
-template<typename T>
-T& Screen::screen() {
-    return ::screen<T>();
-}
-
 /// True if the instance exists; does not make it.
 template<typename T>
 bool isLoaded() {
     return detail::aliveScreen<T>() != nullptr;
 }
 
-/// Removes the instance if there is one. The next screen<T>() makes a new one.
+/// Removes the instance if there is one. The next the<T>() makes a new one.
 template<typename T>
 void unload() {
     if (T* alive = detail::aliveScreen<T>()) Screens::remove(alive);

@@ -6,6 +6,8 @@
 #include <QTabBar>
 #include <QTabWidget>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 Stage* stageInForce = nullptr;
@@ -32,7 +34,7 @@ QWidget* focusOf(Screen* screen) {
 
 Stage::Stage(QWidget* parent)
     : QWidget(parent) {
-    setObjectName(u"stage"_qs);
+    setObjectName(u"stage"_s);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     stageInForce = this;
 }

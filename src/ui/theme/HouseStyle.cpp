@@ -10,6 +10,8 @@
 #include <QStyleOption>
 #include <QToolButton>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int fieldHeight = 26;
@@ -101,11 +103,11 @@ void drawProgressLabel(const QStyleOptionProgressBar* bar, QPainter* painter) {
 QString messagePicture(QStyle::StandardPixmap which) {
     switch (which) {
     case QStyle::SP_MessageBoxInformation:
-        return u"hinweis"_qs;
+        return u"hinweis"_s;
     case QStyle::SP_MessageBoxWarning:
-        return u"warnung"_qs;
+        return u"warnung"_s;
     case QStyle::SP_MessageBoxCritical:
-        return u"fehler"_qs;
+        return u"fehler"_s;
     default:
         return {};
     }
@@ -114,7 +116,7 @@ QString messagePicture(QStyle::StandardPixmap which) {
 } // namespace
 
 HouseStyle::HouseStyle()
-    : QProxyStyle(QStyleFactory::create(u"Fusion"_qs)) {}
+    : QProxyStyle(QStyleFactory::create(u"Fusion"_s)) {}
 
 QIcon HouseStyle::standardIcon(StandardPixmap which, const QStyleOption* option,
                                const QWidget* widget) const {

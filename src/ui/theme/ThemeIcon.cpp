@@ -8,6 +8,8 @@
 #include <QPainter>
 #include <QPixmapCache>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr double disabledOpacity = 0.38;
@@ -28,7 +30,7 @@ QByteArray recoloured(QByteArray picture) {
 }
 
 QByteArray contentsOf(const QString& name) {
-    QFile file(u":/uferwart/icons/%1.svg"_qs.arg(name));
+    QFile file(u":/uferwart/icons/%1.svg"_s.arg(name));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
@@ -64,7 +66,7 @@ QImage ThemeIcon::drawn(const QSize& size) const {
 
 QPixmap ThemeIcon::pixmap(const QSize& size, QIcon::Mode mode, QIcon::State /*state*/) {
     if (m_picture.isEmpty() || size.isEmpty()) return {};
-    const QString key = u"uferwart/%1/%2x%3/%4/%5"_qs.arg(m_name)
+    const QString key = u"uferwart/%1/%2x%3/%4/%5"_s.arg(m_name)
                             .arg(size.width())
                             .arg(size.height())
                             .arg(static_cast<int>(mode))

@@ -12,6 +12,8 @@
 #include <QToolTip>
 #include <QTranslator>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr double bodyPoints = 9.75;
@@ -20,9 +22,9 @@ constexpr double bodyPoints = 9.75;
 constexpr int slowestTypingMilliseconds = 2000;
 
 QFont bodyFont() {
-    QFont::insertSubstitutions(u"MS Sans Serif"_qs, {u"Liberation Sans"_qs, u"Arial"_qs});
-    QFont::insertSubstitution(u"Comic Sans MS"_qs, u"Comic Neue"_qs);
-    QFont font(u"MS Sans Serif"_qs);
+    QFont::insertSubstitutions(u"MS Sans Serif"_s, {u"Liberation Sans"_s, u"Arial"_s});
+    QFont::insertSubstitution(u"Comic Sans MS"_s, u"Comic Neue"_s);
+    QFont font(u"MS Sans Serif"_s);
     font.setPointSizeF(bodyPoints);
     font.setStyleHint(QFont::SansSerif);
     return font;
@@ -30,7 +32,7 @@ QFont bodyFont() {
 
 void loadGermanWords(QApplication& application) {
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
-    const QString name = u"qtbase_de"_qs;
+    const QString name = u"qtbase_de"_s;
     if (application.findChild<QTranslator*>(name)) return;
     auto* translator = new QTranslator(&application);
     translator->setObjectName(name);
@@ -43,7 +45,7 @@ void loadGermanWords(QApplication& application) {
 namespace Theme {
 
 void loadFonts(const QString& folder) {
-    for (const QFileInfo& file : QDir(folder).entryInfoList({u"*.ttf"_qs, u"*.otf"_qs}, QDir::Files))
+    for (const QFileInfo& file : QDir(folder).entryInfoList({u"*.ttf"_s, u"*.otf"_s}, QDir::Files))
         QFontDatabase::addApplicationFont(file.filePath());
 }
 
@@ -54,7 +56,7 @@ void apply(QApplication& application, Mode mode) {
     QApplication::setPalette(palette());
     QToolTip::setPalette(palette());
     QApplication::setFont(bodyFont());
-    QApplication::setWindowIcon(icon(u"uferwart"_qs));
+    QApplication::setWindowIcon(icon(u"uferwart"_s));
     QApplication::setKeyboardInputInterval(slowestTypingMilliseconds);
 }
 

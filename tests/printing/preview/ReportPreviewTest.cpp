@@ -27,6 +27,8 @@
 #include <QToolButton>
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class Boxes : public MessageBoxes {
@@ -84,7 +86,7 @@ protected:
         report.bindRows(rows);
         preview().zeige(report.document());
     }
-    static Vorschau& preview() { return screen<Vorschau>(); }
+    static Vorschau& preview() { return the<Vorschau>(); }
     static void press(const QString& key) { preview().Toolbar1->key(key)->click(); }
     static QString where() { return preview().txtSeite->text() + u' ' + preview().lblSeiten->text(); }
     QString takeLog() { return std::exchange(log, {}).join(u' '); }
@@ -94,79 +96,79 @@ protected:
     Dialogs dialogs;
     QStringList log;
     Stage stage;
-    RecordingScreen caller{u"caller"_qs, log};
-    RecordingScreen other{u"other"_qs, log};
-    SampleReport report{u"Besatz - Plan"_qs};
+    RecordingScreen caller{u"caller"_s, log};
+    RecordingScreen other{u"other"_s, log};
+    SampleReport report{u"Besatz - Plan"_s};
 };
 
 TEST_F(ReportPreviewTest, PagesTurnByKeysButtonsAndTheirNumber) {
     open(25);
     ReportPageView* view = preview().pageView;
-    EXPECT_FALSE(preview().Toolbar1->key(u"tbZurueck"_qs)->isEnabled());
+    EXPECT_FALSE(preview().Toolbar1->key(u"tbZurueck"_s)->isEnabled());
     QTest::keyClick(view, Qt::Key_PageDown);
-    EXPECT_EQ(where(), u"1 von 3"_qs) << "first its lower half";
+    EXPECT_EQ(where(), u"1 von 3"_s) << "first its lower half";
     while (view->verticalScrollBar()->value() < view->verticalScrollBar()->maximum())
         QTest::keyClick(view, Qt::Key_PageDown);
     QTest::keyClick(view, Qt::Key_PageDown);
-    EXPECT_EQ(where(), u"2 von 3"_qs);
+    EXPECT_EQ(where(), u"2 von 3"_s);
     EXPECT_EQ(view->verticalScrollBar()->value(), 0);
     QTest::keyClick(view, Qt::Key_PageUp);
-    EXPECT_EQ(where(), u"1 von 3"_qs);
+    EXPECT_EQ(where(), u"1 von 3"_s);
     EXPECT_EQ(view->verticalScrollBar()->value(), view->verticalScrollBar()->maximum());
     QTest::keyClick(view, Qt::Key_End);
     QTest::keyClick(view, Qt::Key_PageDown);
-    EXPECT_EQ(where(), u"3 von 3"_qs);
-    EXPECT_FALSE(preview().Toolbar1->key(u"tbWeiter"_qs)->isEnabled());
+    EXPECT_EQ(where(), u"3 von 3"_s);
+    EXPECT_FALSE(preview().Toolbar1->key(u"tbWeiter"_s)->isEnabled());
     QTest::keyClick(view, Qt::Key_PageUp);
-    press(u"tbErste"_qs);
-    EXPECT_EQ(where(), u"1 von 3"_qs);
+    press(u"tbErste"_s);
+    EXPECT_EQ(where(), u"1 von 3"_s);
 
     const auto enter = [&](const QString& number) {
         preview().txtSeite->selectAll();
         QTest::keyClicks(preview().txtSeite, number + u'\r');
         return where();
     };
-    EXPECT_EQ(enter(u"2"_qs), u"2 von 3"_qs);
-    EXPECT_EQ(enter(u"99x"_qs), u"3 von 3"_qs) << "the letter is refused, the last page is the nearest";
-    EXPECT_EQ(enter(u"0"_qs), u"3 von 3"_qs);
+    EXPECT_EQ(enter(u"2"_s), u"2 von 3"_s);
+    EXPECT_EQ(enter(u"99x"_s), u"3 von 3"_s) << "the letter is refused, the last page is the nearest";
+    EXPECT_EQ(enter(u"0"_s), u"3 von 3"_s);
 }
 
 TEST_F(ReportPreviewTest, PrintingAndSavingAskFirstAndTellWhatFailed) {
     QTemporaryDir folder;
     open(25);
-    press(u"tbWeiter"_qs);
-    press(u"tbDruck"_qs);
-    EXPECT_EQ(dialogs.asked, u"3/1"_qs);
-    press(u"tbPdf"_qs);
-    EXPECT_EQ(dialogs.asked, u"Besatz - Plan 2026-03-14.pdf"_qs);
+    press(u"tbWeiter"_s);
+    press(u"tbDruck"_s);
+    EXPECT_EQ(dialogs.asked, u"3/1"_s);
+    press(u"tbPdf"_s);
+    EXPECT_EQ(dialogs.asked, u"Besatz - Plan 2026-03-14.pdf"_s);
     EXPECT_TRUE(QDir(folder.path()).isEmpty()) << "called off";
 
-    dialogs.file = folder.filePath(u"a.pdf"_qs);
-    press(u"tbPdf"_qs);
+    dialogs.file = folder.filePath(u"a.pdf"_s);
+    press(u"tbPdf"_s);
     EXPECT_TRUE(QFile::exists(dialogs.file));
-    EXPECT_EQ(preview().lblAblage->text(), u"„a.pdf“ liegt jetzt im Ordner "_qs + folder.path());
+    EXPECT_EQ(preview().lblAblage->text(), u"„a.pdf“ liegt jetzt im Ordner "_s + folder.path());
     EXPECT_TRUE(preview().lblAblage->isVisible());
     EXPECT_TRUE(printAfterDialog(*report.document()));
     EXPECT_TRUE(boxes.texts.isEmpty());
 
-    dialogs.file = folder.filePath(u"fehlt/a.pdf"_qs);
-    press(u"tbPdf"_qs);
-    press(u"tbDruck"_qs);
+    dialogs.file = folder.filePath(u"fehlt/a.pdf"_s);
+    press(u"tbPdf"_s);
+    press(u"tbDruck"_s);
     ASSERT_EQ(boxes.texts.size(), 2);
-    EXPECT_TRUE(boxes.texts[0].startsWith(u"Die Datei '"_qs)) << qPrintable(boxes.texts[0]);
-    EXPECT_TRUE(boxes.texts[1].endsWith(u"Pfad nicht gefunden"_qs)) << qPrintable(boxes.texts[1]);
+    EXPECT_TRUE(boxes.texts[0].startsWith(u"Die Datei '"_s)) << qPrintable(boxes.texts[0]);
+    EXPECT_TRUE(boxes.texts[1].endsWith(u"Pfad nicht gefunden"_s)) << qPrintable(boxes.texts[1]);
     EXPECT_FALSE(preview().hasHourglass());
 }
 
 TEST_F(ReportPreviewTest, TheProgramMayEndWhileADialogIsOpen) {
     QTemporaryDir folder;
-    dialogs.file = folder.filePath(u"a.pdf"_qs);
+    dialogs.file = folder.filePath(u"a.pdf"_s);
     dialogs.whileOpen = [] { Screens::removeAll(); };
     open(25);
-    press(u"tbDruck"_qs);
+    press(u"tbDruck"_s);
     settle();
     open(25);
-    press(u"tbPdf"_qs);
+    press(u"tbPdf"_s);
     settle();
     EXPECT_FALSE(isLoaded<Vorschau>());
     EXPECT_FALSE(QFile::exists(dialogs.file));
@@ -184,9 +186,9 @@ TEST(QtPrintDialogsTest, TheNextPdfIsProposedInTheFolderOfTheLast) {
             if (!file.isEmpty()) dialog->selectFile(file);
             static_cast<QDialog*>(dialog)->done(file.isEmpty() ? QDialog::Rejected : QDialog::Accepted);
         });
-        return dialogs.choosePdfFile(u"a.pdf"_qs);
+        return dialogs.choosePdfFile(u"a.pdf"_s);
     };
-    EXPECT_EQ(ask(folder.filePath(u"b.pdf"_qs)), folder.filePath(u"b.pdf"_qs));
+    EXPECT_EQ(ask(folder.filePath(u"b.pdf"_s)), folder.filePath(u"b.pdf"_s));
     EXPECT_EQ(ask({}), QString());
     EXPECT_EQ(proposedIn, folder.path());
 }
@@ -197,16 +199,16 @@ TEST(QtPrintDialogsTest, ThePagesThatWereChosenArePrinted) {
     QTimer::singleShot(0, [&] {
         auto* dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
         ASSERT_TRUE(dialog);
-        dialog->findChild<QLineEdit*>(u"filename"_qs)->setText(folder.filePath(u"a.pdf"_qs));
-        dialog->findChild<QAbstractButton*>(u"printRange"_qs)->click();
-        dialog->findChild<QSpinBox*>(u"to"_qs)->setValue(3);
-        dialog->findChild<QSpinBox*>(u"from"_qs)->setValue(2);
+        dialog->findChild<QLineEdit*>(u"filename"_s)->setText(folder.filePath(u"a.pdf"_s));
+        dialog->findChild<QAbstractButton*>(u"printRange"_s)->click();
+        dialog->findChild<QSpinBox*>(u"to"_s)->setValue(3);
+        dialog->findChild<QSpinBox*>(u"from"_s)->setValue(2);
         dialog->accept();
     });
-    const auto target = QtPrintDialogs().choosePrintTarget(u"Liste"_qs, 5, 0);
+    const auto target = QtPrintDialogs().choosePrintTarget(u"Liste"_s, 5, 0);
     ASSERT_TRUE(target);
     EXPECT_EQ(target->pages, (QVector<int>{1, 2}));
-    EXPECT_EQ(target->pdfFile, folder.filePath(u"a.pdf"_qs));
+    EXPECT_EQ(target->pdfFile, folder.filePath(u"a.pdf"_s));
 }
 
 } // namespace

@@ -15,6 +15,8 @@
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QDate someDay(2026, 3, 14);
@@ -55,18 +57,18 @@ QByteArray contentsOf(const QString& name) {
 // A page with one label.
 template<typename Style>
 QImage pictureOf(const QString& text, const QRect& place, Style style) {
-    Report report(u"Eins"_qs);
-    ReportSection& head = report.section(u"Section2"_qs);
+    Report report(u"Eins"_s);
+    ReportSection& head = report.section(u"Section2"_s);
     head.setHeight(400);
-    style(head.addLabel(u"a"_qs, text, place));
+    style(head.addLabel(u"a"_s, text, place));
     return pictureOf(report, 0);
 }
 
 TEST(ReportPainterTest, ANumberShrinksWhereATextIsCut) {
     const QRect place(0, 0, 100, 50);
-    for (const auto& [text, other, isCut] : {std::tuple{u"1.234.567,25"_qs, u"1.234.567,35"_qs, false},
-                                             {u"D-012345678"_qs, u"D-012345679"_qs, false},
-                                             {u"Oder-Spree-Kanal 1"_qs, u"Oder-Spree-Kanal 2"_qs, true}}) {
+    for (const auto& [text, other, isCut] : {std::tuple{u"1.234.567,25"_s, u"1.234.567,35"_s, false},
+                                             {u"D-012345678"_s, u"D-012345679"_s, false},
+                                             {u"Oder-Spree-Kanal 1"_s, u"Oder-Spree-Kanal 2"_s, true}}) {
         const auto asItIs = [](ReportControl&) {};
         EXPECT_EQ(pictureOf(text, place, asItIs) == pictureOf(other, place, asItIs), isCut)
             << qPrintable(text);
@@ -80,13 +82,13 @@ TEST(ReportPainterTest, ALabelThatGrowsShrinksFirstThenMovesWhatIsBelow) {
         int height;
     };
     for (const Case& c : {Case{1, 100}, Case{4, 100}, Case{8, 131}, Case{12, 161}}) {
-        Report report(u"Eins"_qs);
-        ReportSection& head = report.section(u"Section2"_qs);
+        Report report(u"Eins"_s);
+        ReportSection& head = report.section(u"Section2"_s);
         head.setHeight(100);
-        head.addLabel(u"Name"_qs, u"Forelle "_qs.repeated(c.words).trimmed(), {0, 0, 400, 50})
+        head.addLabel(u"Name"_s, u"Forelle "_s.repeated(c.words).trimmed(), {0, 0, 400, 50})
             .points(9.5)
             .growing(7.5);
-        head.addLine(u"darunter"_qs, {0, 60, 400, 0});
+        head.addLine(u"darunter"_s, {0, 60, 400, 0});
         const auto document = report.document();
         EXPECT_EQ(document->section(ReportDocument::PageHeader).height(), c.height) << c.words;
         EXPECT_TRUE(hasInk(pictureOf(report, 0), {0, c.height - 41, 400, 3})) << c.words;
@@ -98,7 +100,7 @@ TEST(ReportPainterTest, NoTextLeavesItsPlaceWhateverItsAlignment) {
     using Align = ReportControl::Align;
     const QRect place(300, 0, 200, 50);
     for (const Align align : {Align::Left, Align::Centre, Align::Right}) {
-        for (const QString& text : {u"Europäischer Flussaal "_qs.repeated(5), u"Aal"_qs}) {
+        for (const QString& text : {u"Europäischer Flussaal "_s.repeated(5), u"Aal"_s}) {
             const QImage picture = pictureOf(text, place, [&](ReportControl& label) { label.align(align); });
             EXPECT_TRUE(hasInk(picture, place));
             for (const QRect& beside : {QRect(0, 0, 300, 400), {500, 0, 500, 400}, {0, 50, 1000, 350}})
@@ -133,7 +135,7 @@ TEST(ReportPainterTest, NumbersEndOnOneEdgeAndRulesAreOfOneBreadthAtAnyScale) {
 
 TEST(ReportPainterTest, TheTableClosesBelowTheLastRowOfAPage) {
     SampleReport report;
-    report.control(u"Section1"_qs, u"Line1"_qs).closing(qRgb(255, 0, 0));
+    report.control(u"Section1"_s, u"Line1"_s).closing(qRgb(255, 0, 0));
     report.bindRows(11);
     const QImage page = pictureOf(report, 0);
     const auto below = [&](int row) {
@@ -145,29 +147,29 @@ TEST(ReportPainterTest, TheTableClosesBelowTheLastRowOfAPage) {
 
 TEST(PrintRunTest, ThePdfHasTheWantedPagesAndItsTextCanBeSearched) {
     QTemporaryDir folder;
-    const QString all = folder.filePath(u"alle.pdf"_qs);
-    const QString some = folder.filePath(u"einige.pdf"_qs);
+    const QString all = folder.filePath(u"alle.pdf"_s);
+    const QString some = folder.filePath(u"einige.pdf"_s);
     SampleReport report;
-    RowList rows({u"Nr"_qs, u"Gewässer"_qs, u"Gewicht"_qs},
+    RowList rows({u"Nr"_s, u"Gewässer"_s, u"Gewicht"_s},
                  QVector<std::vector<Value>>(
-                     25, {Value(7), Value(QString(u"Oder-Spree-Kanal "_qs).repeated(9)), Value(1234)}));
+                     25, {Value(7), Value(QString(u"Oder-Spree-Kanal "_s).repeated(9)), Value(1234)}));
     report.bind(rows);
     const auto document = report.document();
     saveReportAsPdf(*document, all);
     printReport(*document, {some, nullptr, {2, 0}, 2});
     EXPECT_EQ(pagesIn(all), 3);
     EXPECT_EQ(pagesIn(some), 4);
-    if (QStandardPaths::findExecutable(u"pdftotext"_qs).isEmpty())
+    if (QStandardPaths::findExecutable(u"pdftotext"_s).isEmpty())
         GTEST_SKIP() << "needs the package poppler-utils";
     QProcess reader;
-    reader.start(u"pdftotext"_qs, {u"-layout"_qs, u"-f"_qs, u"3"_qs, all, u"-"_qs});
+    reader.start(u"pdftotext"_s, {u"-layout"_s, u"-f"_s, u"3"_s, all, u"-"_s});
     ASSERT_TRUE(reader.waitForFinished());
     const QString text = QString::fromUtf8(reader.readAllStandardOutput()).simplified();
-    EXPECT_TRUE(text.startsWith(u"Erkner 7 Oder-Spree-Kanal Oder-Spr… 1.234"_qs) ||
-                text.contains(u"… 1.234"_qs))
+    EXPECT_TRUE(text.startsWith(u"Erkner 7 Oder-Spree-Kanal Oder-Spr… 1.234"_s) ||
+                text.contains(u"… 1.234"_s))
         << qPrintable(text);
-    EXPECT_TRUE(text.contains(u"30.850"_qs)) << qPrintable(text);
-    EXPECT_TRUE(text.contains(u"Seite 3 von 3"_qs)) << qPrintable(text);
+    EXPECT_TRUE(text.contains(u"30.850"_s)) << qPrintable(text);
+    EXPECT_TRUE(text.contains(u"Seite 3 von 3"_s)) << qPrintable(text);
 }
 
 TEST(PrintRunTest, AFileThatCannotBeWrittenIsAnErrorAndStaysAsItWas) {
@@ -175,11 +177,11 @@ TEST(PrintRunTest, AFileThatCannotBeWrittenIsAnErrorAndStaysAsItWas) {
     SampleReport report;
     report.bindRows(200);
     const auto document = report.document();
-    EXPECT_EQ(errorOf([&] { saveReportAsPdf(*document, folder.filePath(u"fehlt/a.pdf"_qs)); }), 76);
+    EXPECT_EQ(errorOf([&] { saveReportAsPdf(*document, folder.filePath(u"fehlt/a.pdf"_s)); }), 76);
     EXPECT_EQ(errorOf([&] { saveReportAsPdf(*document, folder.path()); }), 75);
     EXPECT_EQ(errorOf([&] { printReport(*document, {}); }), 482) << "neither file nor printer";
 
-    const QString name = folder.filePath(u"da.pdf"_qs);
+    const QString name = folder.filePath(u"da.pdf"_s);
     saveReportAsPdf(*document, name);
     const QByteArray before = contentsOf(name);
     rlimit usual{};

@@ -7,6 +7,8 @@
 #include <QStringList>
 #include <QVector>
 
+using namespace Qt::StringLiterals;
+
 class DataTable;
 class PlayedProgram;
 class Screen;
@@ -24,7 +26,7 @@ public:
     /// The lines that start the program and log in a user with all rights. They leave the clock alone.
     QStringList comeBack();
     /// The line that sets the clock to the user's date.
-    QString setsClock() const { return u"today "_qs + m_today.toString(Qt::ISODate); }
+    QString setsClock() const { return u"today "_s + m_today.toString(Qt::ISODate); }
 
     /// The usable screen: the modal one, the one in front of the main window or the one alone.
     static Screen* frontScreen(PlayedProgram& program);

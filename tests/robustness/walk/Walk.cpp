@@ -10,6 +10,8 @@
 #include <cstdio>
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QStringList& heard() {
@@ -22,18 +24,18 @@ constexpr unsigned secondsUntilStuck = 120;
 
 /// Message boxes that no input may cause. Only an invalid parameter in System may end the program.
 bool isUnexpected(const QString& box, const QString& screen) {
-    const bool ended = box.startsWith(u"critical · Uferwart · Laufzeitfehler"_qs);
-    return (ended && screen != u"System"_qs) || box.contains(u"unerwarteter Fehler"_qs);
+    const bool ended = box.startsWith(u"critical · Uferwart · Laufzeitfehler"_s);
+    return (ended && screen != u"System"_s) || box.contains(u"unerwarteter Fehler"_s);
 }
 
 } // namespace
 
 Walk::Walk(PlayedProgram& program, quint32 seed, int steps, QFile& trace)
-    : Player({}, program, {u"walk"_qs})
+    : Player({}, program, {u"walk"_s})
     , m_user(program, seed)
     , m_trace(trace)
     , m_steps(steps)
-    , m_planned({u"today 2026-03-14"_qs}) {}
+    , m_planned({u"today 2026-03-14"_s}) {}
 
 void Walk::hear(const QString& message) { heard().append(message); }
 
@@ -54,21 +56,21 @@ void Walk::carryOut(const ScriptCommand& command) {
     try {
         output(command);
     } catch (const CommandFailure& failure) {
-        write(u"# refused: "_qs + failure.reason);
+        write(u"# refused: "_s + failure.reason);
     } catch (const RuntimeError& error) {
-        find(u"error %1: %2"_qs.arg(error.number).arg(error.description));
+        find(u"error %1: %2"_s.arg(error.number).arg(error.description));
     }
     lookAtBoxes(screen);
-    for (const QString& message : std::exchange(heard(), {})) find(u"Qt says: "_qs + message);
+    for (const QString& message : std::exchange(heard(), {})) find(u"Qt says: "_s + message);
 }
 
 /// Writes the message boxes into the trace, so that the scenario expects them.
 void Walk::lookAtBoxes(const QString& screen) {
     program().boxes().takeUnanswered();
     const QStringList boxes = program().boxes().take();
-    if (!boxes.isEmpty()) write(u"boxes"_qs);
+    if (!boxes.isEmpty()) write(u"boxes"_s);
     for (const QString& box : boxes) {
-        write(u"= "_qs + box);
+        write(u"= "_s + box);
         if (isUnexpected(box, screen)) find(box);
     }
 }
@@ -85,7 +87,7 @@ void Walk::lookAtFile() {
     };
     for (const auto& [query, right] : wrong) {
         const QString found = program().file().query(QString::fromUtf16(query)).join(u' ');
-        if (found != QString::fromUtf16(right)) find(QString::fromUtf16(query) + u" gives "_qs + found);
+        if (found != QString::fromUtf16(right)) find(QString::fromUtf16(query) + u" gives "_s + found);
     }
 }
 

@@ -10,17 +10,19 @@
 #include <QtTest/QTest>
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 void write(const QString& path, const QString& title) {
     QFile file(path);
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(u"<title>%1</title>"_qs.arg(title).toUtf8());
+    file.write(u"<title>%1</title>"_s.arg(title).toUtf8());
 }
 
 /// Clicks as the window system does: a locked window gets no click.
 void clickKey(const QString& name) {
-    const QWidget* key = screen<Handbuch>().Toolbar1->key(name);
+    const QWidget* key = the<Handbuch>().Toolbar1->key(name);
     QTest::mouseClick(key->window()->windowHandle(), Qt::LeftButton, {},
                       key->mapTo(key->window(), key->rect().center()));
 }
@@ -41,23 +43,23 @@ void duringQuestion(Work meanwhile) {
 
 TEST(Handbuch, CanBeReadDuringQuestionsHoweverManyAreOpen) {
     const QTemporaryDir folder;
-    write(folder.filePath(u"index.html"_qs), u"Inhalt"_qs);
-    write(folder.filePath(u"fangbuch.html"_qs), u"Fangbuch"_qs);
-    const auto& book = screen<Handbuch>();
+    write(folder.filePath(u"index.html"_s), u"Inhalt"_s);
+    write(folder.filePath(u"fangbuch.html"_s), u"Fangbuch"_s);
+    const auto& book = the<Handbuch>();
     const auto afterClick = [&](const QString& key) {
         clickKey(key);
         return book.windowTitle();
     };
-    screen<Handbuch>().zeige(folder.filePath(u"fangbuch.html"_qs));
+    the<Handbuch>().zeige(folder.filePath(u"fangbuch.html"_s));
     duringQuestion([&] {
-        EXPECT_EQ(afterClick(u"tbInhalt"_qs), u"Handbuch - Inhalt"_qs) << "opened before the question";
-        duringQuestion([&] { EXPECT_EQ(afterClick(u"tbZurueck"_qs), u"Handbuch - Fangbuch"_qs); });
-        EXPECT_EQ(afterClick(u"tbVor"_qs), u"Handbuch - Inhalt"_qs) << "after the upper question";
-        clickKey(u"tbSchliessen"_qs);
+        EXPECT_EQ(afterClick(u"tbInhalt"_s), u"Handbuch - Inhalt"_s) << "opened before the question";
+        duringQuestion([&] { EXPECT_EQ(afterClick(u"tbZurueck"_s), u"Handbuch - Fangbuch"_s); });
+        EXPECT_EQ(afterClick(u"tbVor"_s), u"Handbuch - Inhalt"_s) << "after the upper question";
+        clickKey(u"tbSchliessen"_s);
         EXPECT_FALSE(book.isVisible());
-        screen<Handbuch>().zeige(folder.filePath(u"fangbuch.html"_qs));
-        EXPECT_EQ(afterClick(u"tbInhalt"_qs), u"Handbuch - Inhalt"_qs) << "opened during the question";
+        the<Handbuch>().zeige(folder.filePath(u"fangbuch.html"_s));
+        EXPECT_EQ(afterClick(u"tbInhalt"_s), u"Handbuch - Inhalt"_s) << "opened during the question";
     });
-    EXPECT_EQ(afterClick(u"tbZurueck"_qs), u"Handbuch - Fangbuch"_qs) << "after both";
+    EXPECT_EQ(afterClick(u"tbZurueck"_s), u"Handbuch - Fangbuch"_s) << "after both";
     unload<Handbuch>();
 }

@@ -5,6 +5,8 @@
 #include <QRegularExpression>
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 const QDir handbook(QStringLiteral(UW_HANDBOOK));
@@ -28,22 +30,22 @@ QStringList targetsOf(const QString& page) {
 bool leadsSomewhere(const QString& target) {
     const QString file = target.section(u'#', 0, 0);
     const QString mark = target.section(u'#', 1);
-    return handbook.exists(file) && (mark.isEmpty() || contentOf(file).contains(u"id=\"%1\""_qs.arg(mark)));
+    return handbook.exists(file) && (mark.isEmpty() || contentOf(file).contains(u"id=\"%1\""_s.arg(mark)));
 }
 
 } // namespace
 
 TEST(Handbook, HasAPageForStartFrameAndPreview) {
-    for (const QString& screen : {u"Eroef"_qs, u"Main"_qs, u"Vorschau"_qs})
-        EXPECT_TRUE(handbook.exists(modHandbuch::SeiteFuer(screen) + u".html"_qs)) << screen.toStdString();
-    EXPECT_TRUE(handbook.exists(u"hilfe.html"_qs));
+    for (const QString& screen : {u"Eroef"_s, u"Main"_s, u"Vorschau"_s})
+        EXPECT_TRUE(handbook.exists(modHandbuch::SeiteFuer(screen) + u".html"_s)) << screen.toStdString();
+    EXPECT_TRUE(handbook.exists(u"hilfe.html"_s));
 }
 
 TEST(Handbook, LeadsNowhereIntoTheVoidAndLeavesNothingUnreached) {
-    QStringList unreached = handbook.entryList({u"*.html"_qs}) + handbook.entryList({u"*.css"_qs});
-    for (const QString& picture : QDir(handbook.filePath(u"bilder"_qs)).entryList(QDir::Files))
-        unreached.append(u"bilder/"_qs + picture);
-    const QStringList pages = handbook.entryList({u"*.html"_qs});
+    QStringList unreached = handbook.entryList({u"*.html"_s}) + handbook.entryList({u"*.css"_s});
+    for (const QString& picture : QDir(handbook.filePath(u"bilder"_s)).entryList(QDir::Files))
+        unreached.append(u"bilder/"_s + picture);
+    const QStringList pages = handbook.entryList({u"*.html"_s});
     ASSERT_FALSE(pages.isEmpty());
     for (const QString& page : pages) {
         for (const QString& target : targetsOf(page)) {

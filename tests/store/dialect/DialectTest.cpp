@@ -1,5 +1,7 @@
 #include "StoreFixture.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Answer {
@@ -178,7 +180,7 @@ TEST_F(DialectTest, NamesWhatHasNoName) {
 
 TEST_F(DialectTest, TellsTheReasonInGerman) {
     try {
-        rows(u"SELECT FNr FROM Fisch WHERE FNr = 5x"_qs);
+        rows(u"SELECT FNr FROM Fisch WHERE FNr = 5x"_s);
         FAIL();
     } catch (const RuntimeError& error) {
         EXPECT_EQ(error.description, u"Syntaxfehler (fehlender Operator) in Abfrageausdruck 'FNr = 5x'.");

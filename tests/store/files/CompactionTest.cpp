@@ -3,11 +3,13 @@
 #include <QFile>
 #include <QFileInfo>
 
+using namespace Qt::StringLiterals;
+
 class CompactionTest : public StoreTest {
 protected:
     CompactionTest() { database.Close(); }
 
-    QString target() const { return file(u"uwtmp.mdb"_qs); }
+    QString target() const { return file(u"uwtmp.mdb"_s); }
 
     int compact(const QString& password = connect()) {
         return errorOf([&] { DBEngine::CompactDatabase(path(), target(), password); });
@@ -32,7 +34,7 @@ TEST_F(CompactionTest, CopiesEverythingIntoASmallerFile) {
 
     const auto copy = connectTo(target());
     for (const TableSpec& table : schemaTables()) {
-        const QString all = u"SELECT * FROM "_qs + table.name.toString();
+        const QString all = u"SELECT * FROM "_s + table.name.toString();
         if (table.name == u"Fang") continue;
         EXPECT_EQ(rowsOf(*copy, all), rowsInFile(all)) << table.name.toString().toStdString();
     }
@@ -47,11 +49,11 @@ TEST_F(CompactionTest, CopiesEverythingIntoASmallerFile) {
         EXPECT_EQ(kept.integer(0), value) << mark;
     }
 
-    Recordset entries = Database(copy).OpenRecordset(u"Fang"_qs, dbOpenTable);
+    Recordset entries = Database(copy).OpenRecordset(u"Fang"_s, dbOpenTable);
     entries.AddNew();
     entries.Update();
     entries.MoveLast();
-    EXPECT_GT(entries.Fields(u"FangNr"_qs).Value().number(), 20'000) << "numbers are not given out twice";
+    EXPECT_GT(entries.Fields(u"FangNr"_s).Value().number(), 20'000) << "numbers are not given out twice";
 }
 
 TEST_F(CompactionTest, LeavesNoTargetBehindWhenItFailsAndNoneAloneThatExists) {
@@ -60,6 +62,6 @@ TEST_F(CompactionTest, LeavesNoTargetBehindWhenItFailsAndNoneAloneThatExists) {
     existing.close();
     EXPECT_EQ(compact(), 3204);
     EXPECT_TRUE(QFile::exists(target()));
-    EXPECT_EQ(errorOf([&] { DBEngine::CompactDatabase(path(), file(u"temp/x.mdb"_qs), connect()); }), 3044);
-    EXPECT_EQ(rowsInFile(u"SELECT COUNT(FNr) FROM Fisch"_qs), u"4");
+    EXPECT_EQ(errorOf([&] { DBEngine::CompactDatabase(path(), file(u"temp/x.mdb"_s), connect()); }), 3044);
+    EXPECT_EQ(rowsInFile(u"SELECT COUNT(FNr) FROM Fisch"_s), u"4");
 }

@@ -5,6 +5,8 @@
 #include <map>
 #include <set>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr qint64 page = 1024;
@@ -22,7 +24,7 @@ protected:
     SalvageTest() { database.Close(); }
 
     qint64 pages() const { return QFileInfo(path()).size() / page; }
-    QString target() const { return file(u"uwtmp.mdb"_qs); }
+    QString target() const { return file(u"uwtmp.mdb"_s); }
 
     void overwrite(qint64 at, const QByteArray& bytes) const {
         QFile damaged(path());
@@ -45,7 +47,7 @@ protected:
     /// Sets a key of plain bytes: with a password, many repairs would spend most of their time on deriving
     /// the key.
     void useBareKey() {
-        m_password = u"x'"_qs + QString(64, u'7') + u'\'';
+        m_password = u"x'"_s + QString(64, u'7') + u'\'';
         execute("PRAGMA rekey = \"" + m_password.toUtf8() + '"');
     }
 
@@ -57,7 +59,7 @@ protected:
     int repair() const {
         QFile::remove(target());
         return errorOf(
-            [&] { DBEngine::CompactDatabase(path(), target(), m_password, file(u"Sicherung"_qs)); });
+            [&] { DBEngine::CompactDatabase(path(), target(), m_password, file(u"Sicherung"_s)); });
     }
 
     static std::set<QString> content(cursors::Connection& connection) {
@@ -65,9 +67,8 @@ protected:
         for (const TableSpec& table : schemaTables()) {
             if (table.name.startsWith(u"Druck_")) continue;
             const QString name = table.name.toString();
-            const QString all = rowsOf(connection, u"SELECT * FROM "_qs + name);
-            for (const QString& row : all.split(u';', Qt::SkipEmptyParts))
-                found.insert(name + u": "_qs + row);
+            const QString all = rowsOf(connection, u"SELECT * FROM "_s + name);
+            for (const QString& row : all.split(u';', Qt::SkipEmptyParts)) found.insert(name + u": "_s + row);
         }
         return found;
     }
@@ -113,11 +114,11 @@ TEST_F(SalvageTest, GivesNoNumberOutAgainThatWasLostOrIsStillReferredTo) {
     ASSERT_EQ(repair(), 0);
     Database salvaged(connectTo(target()));
     for (const auto& [name, key, last] :
-         {std::tuple(u"Fisch"_qs, u"FNr"_qs, 600), {u"Kontakt"_qs, u"KNr"_qs, 77}}) {
+         {std::tuple(u"Fisch"_s, u"FNr"_s, 600), {u"Kontakt"_s, u"KNr"_s, 77}}) {
         Recordset rows = salvaged.OpenRecordset(name, dbOpenTable);
         rows.AddNew();
         rows.Update();
-        rows.Index(u"PrimaryKey"_qs);
+        rows.Index(u"PrimaryKey"_s);
         rows.MoveLast();
         EXPECT_EQ(rows.Fields(key).Value(), Value(last + 1)) << name.toStdString();
     }
@@ -130,11 +131,11 @@ TEST_F(SalvageTest, LetsSomebodyInWhateverIsLost) {
     flip(1);
     ASSERT_EQ(repair(), 0);
     const auto copy = connectTo(target());
-    EXPECT_EQ(rowsOf(*copy, u"SELECT FJahr FROM System"_qs), u"2005");
-    EXPECT_EQ(rowsOf(*copy, u"SELECT * FROM Katego"_qs), u"1|Mitglieder (aktiv);2|Mitglieder (passiv)");
+    EXPECT_EQ(rowsOf(*copy, u"SELECT FJahr FROM System"_s), u"2005");
+    EXPECT_EQ(rowsOf(*copy, u"SELECT * FROM Katego"_s), u"1|Mitglieder (aktiv);2|Mitglieder (passiv)");
     EXPECT_EQ(rowsOf(*copy, u"SELECT b.Name, b.Passwort, g.Benutzerverwaltung FROM Benutzer b, Gruppen g "
-                            u"WHERE b.GNr = g.GNr"_qs),
+                            u"WHERE b.GNr = g.GNr"_s),
               u"Admin||True");
-    EXPECT_EQ(rowsOf(*copy, u"SELECT KNr, Eintritt FROM Mitglied"_qs).count(u"00:00:00"), 0);
-    EXPECT_EQ(rowsOf(*copy, u"SELECT COUNT(KNr) FROM Mitglied"_qs), u"3");
+    EXPECT_EQ(rowsOf(*copy, u"SELECT KNr, Eintritt FROM Mitglied"_s).count(u"00:00:00"), 0);
+    EXPECT_EQ(rowsOf(*copy, u"SELECT COUNT(KNr) FROM Mitglied"_s), u"3");
 }

@@ -6,6 +6,8 @@
 #include <QRandomGenerator>
 #include <QStandardPaths>
 
+using namespace Qt::StringLiterals;
+
 class OpeningTest : public StoreTest {
 protected:
     OpeningTest() { database.Close(); }
@@ -17,7 +19,7 @@ protected:
 
     /// Writes these bytes to another file. Returns its path.
     QString fileWith(const QByteArray& bytes) const {
-        QFile made(file(u"anders.mdb"_qs));
+        QFile made(file(u"anders.mdb"_s));
         if (!made.open(QIODevice::WriteOnly) || made.write(bytes) != bytes.size()) return {};
         return made.fileName();
     }
@@ -28,9 +30,9 @@ protected:
         writing->execute("PRAGMA cache_size = 5");
         writing->execute("BEGIN");
         writing->execute("UPDATE Kontakt SET Notiz = hex(randomblob(20000))");
-        const QString copy = file(u"anders.mdb"_qs);
+        const QString copy = file(u"anders.mdb"_s);
         QFile::copy(path(), copy);
-        QFile::copy(path() + u"-journal"_qs, copy + u"-journal"_qs);
+        QFile::copy(path() + u"-journal"_s, copy + u"-journal"_s);
         return copy;
     }
 
@@ -46,9 +48,9 @@ protected:
 };
 
 TEST_F(OpeningTest, TellsAMissingFileAPasswordAndAFolderApart) {
-    EXPECT_EQ(errorOfOpening(file(u"fehlt.mdb"_qs)), 3024);
-    EXPECT_EQ(errorOfOpening(path(), u""_qs), 3031);
-    EXPECT_EQ(errorOfOpening(path(), u"Provider=x;PWD=geheim"_qs), 0);
+    EXPECT_EQ(errorOfOpening(file(u"fehlt.mdb"_s)), 3024);
+    EXPECT_EQ(errorOfOpening(path(), u""_s), 3031);
+    EXPECT_EQ(errorOfOpening(path(), u"Provider=x;PWD=geheim"_s), 0);
     EXPECT_EQ(errorOfOpening(QFileInfo(path()).path()), 3051);
     EXPECT_EQ(errorOf([] { DBEngine::Workspaces(1); }), 9);
 }
@@ -64,13 +66,13 @@ TEST_F(OpeningTest, TakesAFileThatWasCutShortForDamaged) {
 
 TEST_F(OpeningTest, LeavesAnInterruptedFileAndItsJournalAloneWhenItFails) {
     const QString copy = interruptedCopy();
-    const QString journal = copy + u"-journal"_qs;
+    const QString journal = copy + u"-journal"_s;
     ASSERT_GT(contentOf(copy).size(), contentOf(path()).size());
     for (const bool isTorn : {false, true}) {
         if (isTorn) overwrite(copy, 512, QByteArray(512, 'x'));
         const QByteArray file = contentOf(copy);
         const QByteArray rest = contentOf(journal);
-        EXPECT_EQ(errorOfOpening(copy, u";pwd=falsch"_qs), 3031);
+        EXPECT_EQ(errorOfOpening(copy, u";pwd=falsch"_s), 3031);
         EXPECT_EQ(contentOf(copy), file);
         EXPECT_EQ(contentOf(journal), rest);
     }
@@ -84,35 +86,35 @@ TEST_F(OpeningTest, TakesAFileBackFromTheModeOfAnotherTool) {
     tool->execute("PRAGMA journal_mode = WAL");
     tool->execute("UPDATE Fisch SET FName = 'Aal' WHERE FNr = 1");
     EXPECT_EQ(errorOfOpening(path()), 3045) << "while the tool has it open";
-    const QString log = u"-wal"_qs;
-    QFile::copy(path(), file(u"anders.mdb"_qs));
-    QFile::copy(path() + log, file(u"anders.mdb-wal"_qs));
-    const QByteArray rest = contentOf(file(u"anders.mdb-wal"_qs));
+    const QString log = u"-wal"_s;
+    QFile::copy(path(), file(u"anders.mdb"_s));
+    QFile::copy(path() + log, file(u"anders.mdb-wal"_s));
+    const QByteArray rest = contentOf(file(u"anders.mdb-wal"_s));
     EXPECT_FALSE(rest.isEmpty());
-    EXPECT_EQ(errorOfOpening(file(u"anders.mdb"_qs), u";pwd=falsch"_qs), 3031);
-    EXPECT_EQ(contentOf(file(u"anders.mdb-wal"_qs)), rest);
+    EXPECT_EQ(errorOfOpening(file(u"anders.mdb"_s), u";pwd=falsch"_s), 3031);
+    EXPECT_EQ(contentOf(file(u"anders.mdb-wal"_s)), rest);
     tool->close();
 
-    for (const QString& name : {u"uw01.mdb"_qs, u"anders.mdb"_qs}) {
+    for (const QString& name : {u"uw01.mdb"_s, u"anders.mdb"_s}) {
         const auto own = connectTo(file(name));
         EXPECT_FALSE(QFile::exists(file(name) + log));
-        EXPECT_EQ(rowsOf(*own, u"SELECT FName FROM Fisch WHERE FNr = 1"_qs), u"Aal");
+        EXPECT_EQ(rowsOf(*own, u"SELECT FName FROM Fisch WHERE FNr = 1"_s), u"Aal");
         own->execute("BEGIN IMMEDIATE");
         own->execute("DELETE FROM Fang");
-        EXPECT_TRUE(QFile::exists(file(name) + u"-journal"_qs));
+        EXPECT_TRUE(QFile::exists(file(name) + u"-journal"_s));
     }
 }
 
 TEST_F(OpeningTest, SaysThatAFolderIsNotWritableWhenItsFileIsWrittenTo) {
     Database open = DBEngine::Workspaces(0).OpenDatabase(path(), false, false, connect());
-    Recordset fish = open.OpenRecordset(u"Fisch"_qs, dbOpenTable);
+    Recordset fish = open.OpenRecordset(u"Fisch"_s, dbOpenTable);
     // A folder in the journal's place: the tests may run as root, who may write to any folder.
-    ASSERT_TRUE(QDir().mkdir(path() + u"-journal"_qs));
+    ASSERT_TRUE(QDir().mkdir(path() + u"-journal"_s));
     EXPECT_EQ(errorOf([&] { fish.Delete(); }), 3027);
 }
 
 TEST_F(OpeningTest, MakesFilesThatTheStandardProgramReads) {
-    const QString program = QStandardPaths::findExecutable(u"sqlcipher"_qs);
+    const QString program = QStandardPaths::findExecutable(u"sqlcipher"_s);
     if (program.isEmpty()) GTEST_SKIP() << "needs the package sqlcipher";
     QProcess standard;
     standard.start(program, {path()});

@@ -1,10 +1,12 @@
 #include "StoreFixture.h"
 
+using namespace Qt::StringLiterals;
+
 class WritingTest : public StoreTest {
 protected:
     static void addFish(Recordset& fish, const QString& name) {
         fish.AddNew();
-        fish.Collect(u"FName"_qs, name);
+        fish.Collect(u"FName"_s, name);
         fish.Update();
     }
 
@@ -20,9 +22,9 @@ protected:
 TEST_F(WritingTest, NeverGivesANumberOutTwice) {
     Recordset last = seek(u"Fisch", 4);
     last.Delete();
-    addFish(last, u"Aal"_qs);
+    addFish(last, u"Aal"_s);
     last.Close();
-    EXPECT_EQ(rowsInFile(u"SELECT FNr FROM Fisch"_qs), u"1;2;3;5");
+    EXPECT_EQ(rowsInFile(u"SELECT FNr FROM Fisch"_s), u"1;2;3;5");
 }
 
 TEST_F(WritingTest, ConvertsToTheKindOfTheField) {
@@ -49,12 +51,12 @@ TEST_F(WritingTest, RefusesKeysThatAreDoubleOrNull) {
     Recordset members = table(u"Mitglied");
     members.AddNew();
     EXPECT_EQ(errorOf([&] { members.Update(); }), 3058);
-    members.Collect(u"KNr"_qs, 1);
+    members.Collect(u"KNr"_s, 1);
     EXPECT_EQ(errorOf([&] { members.Update(); }), 3022);
-    members.Collect(u"KNr"_qs, 3);
+    members.Collect(u"KNr"_s, 3);
     members.Update();
     members.Close();
-    EXPECT_EQ(rowsInFile(u"SELECT KNr FROM Mitglied"_qs), u"1;2;3;4");
+    EXPECT_EQ(rowsInFile(u"SELECT KNr FROM Mitglied"_s), u"1;2;3;4");
 }
 
 TEST_F(WritingTest, DeletesTheUsersOfADeletedGroupAndNothingElse) {
@@ -62,15 +64,15 @@ TEST_F(WritingTest, DeletesTheUsersOfADeletedGroupAndNothingElse) {
         gone.Delete();
         gone.Close();
     }
-    EXPECT_EQ(rowsInFile(u"SELECT COUNT(BNr) FROM Benutzer"_qs), u"0");
-    EXPECT_EQ(rowsInFile(u"SELECT COUNT(FangNr) FROM Fang"_qs), u"4");
-    EXPECT_EQ(rowsInFile(u"SELECT KNr FROM Mitglied WHERE KNr = 1"_qs), u"1");
+    EXPECT_EQ(rowsInFile(u"SELECT COUNT(BNr) FROM Benutzer"_s), u"0");
+    EXPECT_EQ(rowsInFile(u"SELECT COUNT(FangNr) FROM Fang"_s), u"4");
+    EXPECT_EQ(rowsInFile(u"SELECT KNr FROM Mitglied WHERE KNr = 1"_s), u"1");
     Recordset users = table(u"Benutzer");
     users.AddNew();
-    users.Collect(u"GNr"_qs, 77);
+    users.Collect(u"GNr"_s, 77);
     users.Update();
     users.Close();
-    EXPECT_EQ(rowsInFile(u"SELECT GNr FROM Benutzer"_qs), u"77") << "a user needs no group";
+    EXPECT_EQ(rowsInFile(u"SELECT GNr FROM Benutzer"_s), u"77") << "a user needs no group";
 }
 
 TEST_F(WritingTest, NoticesThatARowIsGone) {
@@ -78,6 +80,6 @@ TEST_F(WritingTest, NoticesThatARowIsGone) {
     Recordset other = seek(u"Fang", 1);
     other.Delete();
     entry.Edit();
-    entry.Collect(u"Anzahl"_qs, 1);
+    entry.Collect(u"Anzahl"_s, 1);
     EXPECT_EQ(errorOf([&] { entry.Update(); }), 3167);
 }

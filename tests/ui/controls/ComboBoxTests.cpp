@@ -6,12 +6,14 @@
 #include <QWheelEvent>
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class ComboBoxTest : public ::testing::Test {
 protected:
     ComboBoxTest() {
-        for (const QString& fish : {u"Hecht"_qs, u"Zander"_qs, u"Aal"_qs}) combo.AddItem(fish);
+        for (const QString& fish : {u"Hecht"_s, u"Zander"_s, u"Aal"_s}) combo.AddItem(fish);
         QObject::connect(&combo, &ComboBox::Click, [this] { ++clicks; });
         combo.show();
     }
@@ -28,29 +30,29 @@ protected:
 
     int takeClicks() { return std::exchange(clicks, 0); }
 
-    ComboBox combo{u"cboFArt"_qs};
+    ComboBox combo{u"cboFArt"_s};
     int clicks = 0;
 };
 
 TEST_F(ComboBoxTest, FillingSelectsNothingAndDoesNotClick) {
-    combo.AddItem(u"Karpfen"_qs);
+    combo.AddItem(u"Karpfen"_s);
     EXPECT_EQ(combo.currentIndex(), -1);
     combo.setListIndex(1);
     takeClicks();
-    combo.InsertItem(0, u"Barsch"_qs);
-    EXPECT_EQ(combo.currentText(), u"Zander"_qs);
+    combo.InsertItem(0, u"Barsch"_s);
+    EXPECT_EQ(combo.currentText(), u"Zander"_s);
     combo.clear();
     EXPECT_EQ(combo.count(), 0);
     EXPECT_EQ(takeClicks(), 0);
 }
 
 TEST_F(ComboBoxTest, AChangeByProgramClicksOnce) {
-    combo.setText(u"Zander"_qs);
+    combo.setText(u"Zander"_s);
     EXPECT_EQ(takeClicks(), 1);
-    combo.setText(u"Zander"_qs);
+    combo.setText(u"Zander"_s);
     EXPECT_EQ(takeClicks(), 0) << "nothing has changed";
-    combo.setText(u"aal"_qs);
-    EXPECT_EQ(combo.currentText(), u"Aal"_qs) << "entries are found regardless of case";
+    combo.setText(u"aal"_s);
+    EXPECT_EQ(combo.currentText(), u"Aal"_s) << "entries are found regardless of case";
     combo.setText(QString());
     EXPECT_EQ(combo.currentIndex(), -1);
     EXPECT_EQ(takeClicks(), 2);
@@ -58,17 +60,17 @@ TEST_F(ComboBoxTest, AChangeByProgramClicksOnce) {
 
 TEST_F(ComboBoxTest, AnUnknownTextOrIndexIsAnError) {
     combo.setListIndex(0);
-    EXPECT_EQ(errorOf([&] { combo.setText(u"Wal"_qs); }), 383);
+    EXPECT_EQ(errorOf([&] { combo.setText(u"Wal"_s); }), 383);
     EXPECT_EQ(errorOf([&] { combo.setListIndex(3); }), 380);
-    EXPECT_EQ(combo.currentText(), u"Hecht"_qs);
+    EXPECT_EQ(combo.currentText(), u"Hecht"_s);
 }
 
 TEST_F(ComboBoxTest, ANameMayBeTypedSlowlyAndWithItsBlanks) {
-    for (const QString& water : {u"Leise (Oberlauf)"_qs, u"Leise (Unterlauf)"_qs}) combo.AddItem(water);
-    QTest::keyClicks(&combo, u"L"_qs);
+    for (const QString& water : {u"Leise (Oberlauf)"_s, u"Leise (Unterlauf)"_s}) combo.AddItem(water);
+    QTest::keyClicks(&combo, u"L"_s);
     QTest::qWait(400); // Qt's own interval
-    QTest::keyClicks(&combo, u"eise (U"_qs);
-    EXPECT_EQ(combo.currentText(), u"Leise (Unterlauf)"_qs);
+    QTest::keyClicks(&combo, u"eise (U"_s);
+    EXPECT_EQ(combo.currentText(), u"Leise (Unterlauf)"_s);
     EXPECT_FALSE(combo.view()->isVisible());
     QApplication::setKeyboardInputInterval(0);
     QTest::qWait(1);
@@ -78,15 +80,15 @@ TEST_F(ComboBoxTest, ANameMayBeTypedSlowlyAndWithItsBlanks) {
 }
 
 TEST_F(ComboBoxTest, SortedEntriesStandInGermanOrder) {
-    ComboBox sorted(u"cboGew"_qs, ComboBox::Order::Sorted);
-    for (const QString& name : {u"Zander"_qs, u"öhe"_qs, u"Ohm"_qs, u"apfel"_qs, u"Äsche"_qs, u"Ast"_qs}) {
+    ComboBox sorted(u"cboGew"_s, ComboBox::Order::Sorted);
+    for (const QString& name : {u"Zander"_s, u"öhe"_s, u"Ohm"_s, u"apfel"_s, u"Äsche"_s, u"Ast"_s}) {
         sorted.AddItem(name);
         if (name == u"Ohm") sorted.setText(name);
     }
     QStringList entries;
     for (int i = 0; i < sorted.count(); ++i) entries.append(sorted.itemText(i));
-    EXPECT_EQ(entries.join(u' '), u"apfel Äsche Ast öhe Ohm Zander"_qs);
-    EXPECT_EQ(sorted.currentText(), u"Ohm"_qs);
+    EXPECT_EQ(entries.join(u' '), u"apfel Äsche Ast öhe Ohm Zander"_s);
+    EXPECT_EQ(sorted.currentText(), u"Ohm"_s);
 }
 
 TEST_F(ComboBoxTest, TheWheelChangesItOnlyWithTheFocus) {

@@ -12,6 +12,8 @@
 #include <QVBoxLayout>
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// A grid beside a field. Records the events of the grid as "down 1 2".
@@ -25,23 +27,23 @@ protected:
         layout->addWidget(m_grid);
         m_screen.resize(500, 400);
         QObject::connect(m_grid, &DataTable::OnGridCellDown, m_grid,
-                         [this](int row, int column) { hear(u"down %1 %2"_qs.arg(row).arg(column)); });
+                         [this](int row, int column) { hear(u"down %1 %2"_s.arg(row).arg(column)); });
         QObject::connect(m_grid, &DataTable::OnGridCellOpen, m_grid,
-                         [this](int row, int column) { hear(u"open %1 %2"_qs.arg(row).arg(column)); });
-        QObject::connect(m_grid, &DataTable::OnGridCellMenu, m_grid, [this] { hear(u"menu"_qs); });
-        QObject::connect(m_grid, &DataTable::OnGridGotFocus, m_grid, [this] { hear(u"got"_qs); });
-        QObject::connect(m_grid, &DataTable::OnGridLostFocus, m_grid, [this] { hear(u"lost"_qs); });
+                         [this](int row, int column) { hear(u"open %1 %2"_s.arg(row).arg(column)); });
+        QObject::connect(m_grid, &DataTable::OnGridCellMenu, m_grid, [this] { hear(u"menu"_s); });
+        QObject::connect(m_grid, &DataTable::OnGridGotFocus, m_grid, [this] { hear(u"got"_s); });
+        QObject::connect(m_grid, &DataTable::OnGridLostFocus, m_grid, [this] { hear(u"lost"_s); });
     }
 
     void showFlat() {
-        m_grid->setColumns({{u"Nr"_qs, 60}, {u"Name"_qs, 100}, {u"Ort"_qs, 100}});
+        m_grid->setColumns({{u"Nr"_s, 60}, {u"Name"_s, 100}, {u"Ort"_s, 100}});
         for (int row = 0; row < 4; ++row) m_grid->appendRow({row, u"Name", u"Ort"});
         show();
     }
 
     void showTwoLevels() {
         m_grid->setColumns({{QString()}, {QString()}, {QString()}});
-        m_grid->setChildColumns({{u"Nr"_qs, 60}, {u"Name"_qs, 100}}, 2);
+        m_grid->setChildColumns({{u"Nr"_s, 60}, {u"Name"_s, 100}}, 2);
         for (int row = 0; row < 3; ++row) m_grid->appendRow({row, u"+", u"Kategorie"});
         m_grid->enter(m_grid->enterChild(0));
         show();
@@ -71,7 +73,7 @@ protected:
     bool isOpen(int row) const { return m_grid->isExpanded(m_grid->model()->index(row, 0)); }
 
     QString heard() {
-        const QString all = m_heard.join(u", "_qs);
+        const QString all = m_heard.join(u", "_s);
         m_heard.clear();
         return all;
     }
@@ -118,7 +120,7 @@ TEST_F(DataTableEventsTest, ADoubleClickAndEnterOpenTheRow) {
 
 TEST_F(DataTableEventsTest, ATextTooWideForItsCellShowsInATipAsItIs) {
     showFlat();
-    m_grid->setCell(1, 1, QString(u"<img src=\"/etc/motd\"> and a long name"_qs));
+    m_grid->setCell(1, 1, QString(u"<img src=\"/etc/motd\"> and a long name"_s));
     const QPoint place = m_grid->revealCell({}, 1, 1).center();
     QHelpEvent help(QEvent::ToolTip, place, m_grid->viewport()->mapToGlobal(place));
     QApplication::sendEvent(m_grid->viewport(), &help);
@@ -144,7 +146,7 @@ TEST_F(DataTableEventsTest, TheMenuComesAfterThePressAlsoByKey) {
 
 TEST_F(DataTableEventsTest, LettersFindTheNextRowAndKeysCopyItAndOpenItsMenu) {
     showFlat();
-    const QStringList names = {u"Aal"_qs, u"Barsch"_qs, u"Brasse"_qs, u"Ärmel"_qs};
+    const QStringList names = {u"Aal"_s, u"Barsch"_s, u"Brasse"_s, u"Ärmel"_s};
     for (int row = 0; row < names.size(); ++row) m_grid->setCell(row, 1, names[row]);
     for (const int row : {1, 2, 1}) {
         key(Qt::Key_B);

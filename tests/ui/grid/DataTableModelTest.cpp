@@ -5,6 +5,8 @@
 #include <QSignalSpy>
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int top = DataTableModel::top;
@@ -83,13 +85,13 @@ TEST_F(DataTableModelTest, RowsOfOneTextGoTogetherAndTheOthersKeepTheirPlaceInTh
     const QPersistentModelIndex kept = m_model.index(2, 1);
     const QPersistentModelIndex gone = m_model.index(3, 0);
     const QSignalSpy layouts(&m_model, &QAbstractItemModel::layoutChanged);
-    EXPECT_EQ(m_model.removeWithText(top, 1, u"weg"_qs), 3);
+    EXPECT_EQ(m_model.removeWithText(top, 1, u"weg"_s), 3);
     EXPECT_EQ(layouts.size(), 1);
     EXPECT_EQ(names(top), "a b c");
     EXPECT_EQ(shownNames(), "a b");
     EXPECT_EQ(kept.row(), 1);
     EXPECT_FALSE(gone.isValid());
-    EXPECT_EQ(m_model.removeWithText(top, 1, u"weg"_qs), 0);
+    EXPECT_EQ(m_model.removeWithText(top, 1, u"weg"_s), 0);
     EXPECT_EQ(layouts.size(), 1);
 }
 
@@ -101,12 +103,12 @@ TEST_F(DataTableModelTest, ChildTablesMoveWithTheirRow) {
     EXPECT_TRUE(m_model.hasChild(3));
     m_model.remove(top, 0);
     EXPECT_EQ(child.parent().row(), 2);
-    EXPECT_EQ(m_model.removeWithText(top, 1, u"neu"_qs), 1);
+    EXPECT_EQ(m_model.removeWithText(top, 1, u"neu"_s), 1);
     EXPECT_EQ(child.parent().row(), 1);
     EXPECT_EQ(names(1), "a b c");
-    EXPECT_EQ(m_model.removeWithText(1, 1, u"a"_qs), 1);
+    EXPECT_EQ(m_model.removeWithText(1, 1, u"a"_s), 1);
     EXPECT_EQ(child.row(), 0);
-    EXPECT_EQ(m_model.removeWithText(top, 1, u"drei"_qs), 1);
+    EXPECT_EQ(m_model.removeWithText(top, 1, u"drei"_s), 1);
     EXPECT_FALSE(child.isValid());
     EXPECT_EQ(shownNames(), "zwei");
 }

@@ -6,13 +6,15 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class DataTableTest : public testing::Test {
 protected:
     DataTableTest()
         : m_grid(QStringLiteral("tblProbe")) {
-        m_grid.setColumns({{u"Nr"_qs, 60, true}, {u"Name"_qs, 120}, {u"verborgen"_qs, 0}, {u"Ort"_qs, 80}});
+        m_grid.setColumns({{u"Nr"_s, 60, true}, {u"Name"_s, 120}, {u"verborgen"_s, 0}, {u"Ort"_s, 80}});
         m_grid.resize(600, 300);
     }
 
@@ -46,21 +48,21 @@ TEST_F(DataTableTest, AVisibleGridShowsAppendedRowsInTheNextTurnAndAHiddenOneWhe
 TEST_F(DataTableTest, ColumnsKeepTheirNumbersHideAtWidthZeroAndFillTheRoom) {
     fill(1);
     m_grid.show();
-    EXPECT_EQ(m_grid.visibleHeads(), (QVector<QString>{u"Nr"_qs, u"Name"_qs, u"Ort"_qs}));
+    EXPECT_EQ(m_grid.visibleHeads(), (QVector<QString>{u"Nr"_s, u"Name"_s, u"Ort"_s}));
     EXPECT_EQ(m_grid.columnWidth(0), 60);
     EXPECT_EQ(m_grid.columnViewportPosition(3) + m_grid.columnWidth(3), m_grid.viewport()->width());
     m_grid.setColumnWidth(1, 5);
     EXPECT_EQ(m_grid.columnWidth(1), 24);
     m_grid.setColumnShown(3, false);
     EXPECT_EQ(m_grid.columnViewportPosition(1) + m_grid.columnWidth(1), m_grid.viewport()->width());
-    m_grid.setColumns({{u"Anders"_qs, 70}, {u"Zwei"_qs, 70}});
-    EXPECT_EQ(m_grid.visibleHeads(), (QVector<QString>{u"Anders"_qs, u"Zwei"_qs}));
+    m_grid.setColumns({{u"Anders"_s, 70}, {u"Zwei"_s, 70}});
+    EXPECT_EQ(m_grid.visibleHeads(), (QVector<QString>{u"Anders"_s, u"Zwei"_s}));
     EXPECT_EQ(m_grid.header()->visualIndex(0), 1);
     EXPECT_EQ(m_grid.columnViewportPosition(0) + m_grid.columnWidth(0), m_grid.columnViewportPosition(1));
 }
 
 TEST_F(DataTableTest, AClickOnAHeadMovesTheRowsAndTheCurrentOneStaysTheSame) {
-    m_grid.setColumns({{u"Nr"_qs, 60, true}, {u"Name"_qs, 120}, {u"Tag"_qs, 80}, {u"Std."_qs, 80, true}});
+    m_grid.setColumns({{u"Nr"_s, 60, true}, {u"Name"_s, 120}, {u"Tag"_s, 80}, {u"Std."_s, 80, true}});
     m_grid.setSortable();
     m_grid.appendRow({10, u"Öhm", Date{40000}, u"9,50"});
     m_grid.appendRow({9, u"Zander", QString(), u"10,25"});
@@ -119,7 +121,7 @@ protected:
     TwoLevelDataTableTest()
         : m_grid(QStringLiteral("tblProbe")) {
         m_grid.setColumns({{QString(), 40}, {QString(), 40}, {QString(), 300}});
-        m_grid.setChildColumns({{u"Nr"_qs, 60}, {u"Name"_qs, 120}, {u"Ort"_qs, 80}}, 2);
+        m_grid.setChildColumns({{u"Nr"_s, 60}, {u"Name"_s, 120}, {u"Ort"_s, 80}}, 2);
         m_grid.resize(600, 400);
         for (int row = 0; row < 3; ++row) m_grid.appendRow({row + 1, u"+", u"Kategorie"});
     }

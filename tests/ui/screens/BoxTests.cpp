@@ -1,4 +1,4 @@
-#include "Face.h"
+#include "Layout.h"
 #include "ProgressBar.h"
 #include "QtMessageBoxes.h"
 #include "Toolbar.h"
@@ -13,6 +13,8 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -36,7 +38,7 @@ Seen answer(const QString& text, int style, int place, MsgBoxResult& result) {
         EXPECT_TRUE(qobject_cast<QPushButton*>(box->buttons().first())->isDefault());
         box->buttons().at(place)->click();
     });
-    result = QtMessageBoxes().show(text, style, u"Titel"_qs);
+    result = QtMessageBoxes().show(text, style, u"Titel"_s);
     return seen;
 }
 
@@ -49,21 +51,21 @@ bool isOpen() { return boxInFront() && boxInFront()->isVisible(); }
 
 TEST(QtMessageBoxesTest, BoxesAreGermanPlainAndBreakTheirLinesOnce) {
     MsgBoxResult result = vbNo;
-    Seen seen = answer(u"eins\n\rzwei\r\ndrei <b>\n\n\rvier"_qs, vbCritical, 0, result);
-    EXPECT_EQ(seen.text, u"eins\nzwei\ndrei <b>\n\nvier"_qs);
-    EXPECT_EQ(seen.buttons, u"OK "_qs);
+    Seen seen = answer(u"eins\n\rzwei\r\ndrei <b>\n\n\rvier"_s, vbCritical, 0, result);
+    EXPECT_EQ(seen.text, u"eins\nzwei\ndrei <b>\n\nvier"_s);
+    EXPECT_EQ(seen.buttons, u"OK "_s);
     EXPECT_EQ(seen.icon, QMessageBox::Critical);
     EXPECT_EQ(seen.format, Qt::PlainText);
     EXPECT_EQ(result, vbOK);
 
-    seen = answer(u"?"_qs, vbYesNo, 0, result);
-    EXPECT_EQ(seen.buttons, u"Ja Nein "_qs);
+    seen = answer(u"?"_s, vbYesNo, 0, result);
+    EXPECT_EQ(seen.buttons, u"Ja Nein "_s);
     EXPECT_EQ(seen.icon, QMessageBox::NoIcon);
     EXPECT_EQ(result, vbYes);
-    seen = answer(u"?"_qs, vbYesNo | vbExclamation, 1, result);
+    seen = answer(u"?"_s, vbYesNo | vbExclamation, 1, result);
     EXPECT_EQ(seen.icon, QMessageBox::Warning);
     EXPECT_EQ(result, vbNo);
-    answer(u"!"_qs, vbInformation, 0, result);
+    answer(u"!"_s, vbInformation, 0, result);
     EXPECT_EQ(result, vbOK);
 }
 
@@ -71,27 +73,27 @@ TEST(QtMessageBoxesTest, AKeyCountsOnlyWhenPressedSomeTimeAfterTheBoxCameUp) {
     constexpr int firstMoments = 310;
     QStringList log;
     const auto note = [&log](const QString& when) {
-        log.append(when + (isOpen() ? u":open"_qs : u":gone"_qs));
+        log.append(when + (isOpen() ? u":open"_s : u":gone"_s));
     };
     QTimer::singleShot(0, [&] {
         for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape, Qt::Key_Space, Qt::Key_N})
             QTest::keyClick(boxInFront()->defaultButton(), key);
         QTest::keyClick(boxInFront()->defaultButton(), Qt::Key_J, Qt::AltModifier);
-        note(u"atOnce"_qs);
+        note(u"atOnce"_s);
         QTimer::singleShot(firstMoments, Qt::PreciseTimer, [&] {
             for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape, Qt::Key_N}) hold(key);
-            note(u"held"_qs);
+            note(u"held"_s);
             QTest::keyClick(boxInFront()->defaultButton(), Qt::Key_Escape);
-            note(u"pressed"_qs);
+            note(u"pressed"_s);
             if (isOpen()) boxInFront()->reject();
         });
     });
-    EXPECT_EQ(QtMessageBoxes().show(u"?"_qs, vbYesNo, u"Titel"_qs), vbNo);
-    EXPECT_EQ(log.join(u' '), u"atOnce:open held:open pressed:gone"_qs);
+    EXPECT_EQ(QtMessageBoxes().show(u"?"_s, vbYesNo, u"Titel"_s), vbNo);
+    EXPECT_EQ(log.join(u' '), u"atOnce:open held:open pressed:gone"_s);
 }
 
 TEST(ProgressBarTest, ItShowsHundredthsOfAnyNumberOfRows) {
-    ProgressBar bar(u"pb"_qs);
+    ProgressBar bar(u"pb"_s);
     int changes = 0;
     QObject::connect(&bar, &QProgressBar::valueChanged, [&] { ++changes; });
     bar.setMax(1'000'000);

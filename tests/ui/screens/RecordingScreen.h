@@ -5,6 +5,8 @@
 #include <QStringList>
 #include <functional>
 
+using namespace Qt::StringLiterals;
+
 /// Logs its events. Several screens share a log, so that it shows their order.
 class RecordingScreen : public Screen {
 public:
@@ -12,8 +14,8 @@ public:
         : Screen(name, name)
         , m_log(log) {}
 
-    void Form_Activate() override { note(u"+"_qs, onActivate); }
-    void Form_Deactivate() override { note(u"-"_qs, onDeactivate); }
+    void Form_Activate() override { note(u"+"_s, onActivate); }
+    void Form_Deactivate() override { note(u"-"_s, onDeactivate); }
     void Form_Paint() override { ++paints; }
     bool Form_KeyDown(int key, Qt::KeyboardModifiers) override {
         keys.append(key);

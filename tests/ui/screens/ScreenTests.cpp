@@ -11,12 +11,14 @@
 #include <QVBoxLayout>
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class Search : public Screen {
 public:
     Search()
-        : Screen(u"Search"_qs, u"Suche"_qs) {}
+        : Screen(u"Search"_s, u"Suche"_s) {}
 };
 
 void settle() {
@@ -35,7 +37,7 @@ protected:
 };
 
 TEST_F(ScreenTest, AScreenMayUnloadItselfInItsOwnHandler) {
-    QPointer<Search> search = &screen<Search>();
+    QPointer<Search> search = &the<Search>();
     auto* key = new QPushButton(search);
     QObject::connect(key, &QPushButton::clicked, search, [&] {
         runEvent([&] {
@@ -43,8 +45,8 @@ TEST_F(ScreenTest, AScreenMayUnloadItselfInItsOwnHandler) {
             EXPECT_FALSE(isLoaded<Search>());
             settle();
             ASSERT_TRUE(search) << "its handler is still running";
-            search->setWindowTitle(u"noch da"_qs);
-            EXPECT_EQ(search->accessibleName(), u"noch da"_qs) << "a screen reader has no other caption";
+            search->setWindowTitle(u"noch da"_s);
+            EXPECT_EQ(search->accessibleName(), u"noch da"_s) << "a screen reader has no other caption";
         });
     });
     key->click();
@@ -54,8 +56,8 @@ TEST_F(ScreenTest, AScreenMayUnloadItselfInItsOwnHandler) {
 
 TEST_F(ScreenTest, AModalScreenReturnsWhenItIsHiddenClosedOrUnloaded) {
     const std::pair<std::function<void()>, bool> endings[] = {
-        {[] { screen<Search>().Hide(); }, true},
-        {[] { screen<Search>().close(); }, true},
+        {[] { the<Search>().Hide(); }, true},
+        {[] { the<Search>().close(); }, true},
         {[] { unload<Search>(); }, false},
     };
     for (const auto& [ending, kept] : endings) {
@@ -63,39 +65,38 @@ TEST_F(ScreenTest, AModalScreenReturnsWhenItIsHiddenClosedOrUnloaded) {
         frame.show();
         bool wasModal = false;
         QTimer::singleShot(0, [&] {
-            wasModal =
-                screen<Search>().isModalNow() && QApplication::activeModalWidget() == &screen<Search>();
+            wasModal = the<Search>().isModalNow() && QApplication::activeModalWidget() == &the<Search>();
             runEvent(ending);
         });
-        runEvent([] { screen<Search>().ShowModal(); });
+        runEvent([] { the<Search>().ShowModal(); });
         EXPECT_TRUE(wasModal);
         EXPECT_EQ(isLoaded<Search>(), kept);
-        EXPECT_FALSE(kept && (screen<Search>().isVisible() || screen<Search>().isModalNow()));
+        EXPECT_FALSE(kept && (the<Search>().isVisible() || the<Search>().isModalNow()));
         settle();
     }
 }
 
 TEST_F(ScreenTest, EachKeyIsSeenOnceBeforeTheControl) {
-    RecordingScreen form(u"form"_qs, log);
-    auto* group = new QGroupBox(&form);
+    RecordingScreen screen(u"form"_s, log);
+    auto* group = new QGroupBox(&screen);
     auto* inner = new QWidget;
     auto* key = new QPushButton(inner);
     inner->setParent(group);
-    auto* box = new TextBox(u"txt"_qs, inner);
-    form.show();
+    auto* box = new TextBox(u"txt"_s, inner);
+    screen.show();
     // Neither the button nor its parents handle F3, so it passes through all of them.
     QTest::keyClick(key, Qt::Key_F3);
     QTest::keyClick(key, Qt::Key_F3);
-    EXPECT_EQ(form.keys, (QList<int>{Qt::Key_F3, Qt::Key_F3}));
-    form.swallowed = Qt::Key_X;
-    QTest::keyClicks(box, u"axb"_qs);
-    EXPECT_EQ(box->text(), u"ab"_qs);
-    EXPECT_EQ(form.keys.mid(2), (QList<int>{Qt::Key_A, Qt::Key_X, Qt::Key_B}));
+    EXPECT_EQ(screen.keys, (QList<int>{Qt::Key_F3, Qt::Key_F3}));
+    screen.swallowed = Qt::Key_X;
+    QTest::keyClicks(box, u"axb"_s);
+    EXPECT_EQ(box->text(), u"ab"_s);
+    EXPECT_EQ(screen.keys.mid(2), (QList<int>{Qt::Key_A, Qt::Key_X, Qt::Key_B}));
 
-    form.keys.clear();
+    screen.keys.clear();
     QKeyEvent held(QEvent::KeyPress, Qt::Key_F3, Qt::NoModifier, QString(), true);
     QApplication::sendEvent(key, &held);
-    EXPECT_TRUE(form.keys.isEmpty()) << "a key held down saves once, not thirty times a second";
+    EXPECT_TRUE(screen.keys.isEmpty()) << "a key held down saves once, not thirty times a second";
 }
 
 TEST_F(ScreenTest, AnErrorThatNobodyCaughtGoesToTheFailureRoutine) {

@@ -6,6 +6,8 @@
 #include <QVBoxLayout>
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class StageTest : public ::testing::Test {
@@ -24,24 +26,24 @@ protected:
     QStringList log;
     QWidget frame;
     Stage* stage;
-    RecordingScreen a{u"a"_qs, log};
-    RecordingScreen b{u"b"_qs, log};
-    RecordingScreen c{u"c"_qs, log};
+    RecordingScreen a{u"a"_s, log};
+    RecordingScreen b{u"b"_s, log};
+    RecordingScreen c{u"c"_s, log};
 };
 
 TEST_F(StageTest, ActivationFollowsTheFront) {
     a.Show();
     b.Show();
-    EXPECT_EQ(takeLog(), u"+a -a +b"_qs);
+    EXPECT_EQ(takeLog(), u"+a -a +b"_s);
     b.Show();
     EXPECT_EQ(takeLog(), QString()) << "it is in front already";
     a.Hide();
     EXPECT_EQ(takeLog(), QString()) << "hidden from behind";
     a.Show();
     a.Hide();
-    EXPECT_EQ(takeLog(), u"-b +a -a +b"_qs);
+    EXPECT_EQ(takeLog(), u"-b +a -a +b"_s);
     b.Hide();
-    EXPECT_EQ(takeLog(), u"-b"_qs);
+    EXPECT_EQ(takeLog(), u"-b"_s);
     EXPECT_EQ(stage->front(), nullptr);
 }
 
@@ -50,12 +52,12 @@ TEST_F(StageTest, HandlersMayChangeTheFrontInTheMiddleOfAChange) {
     a.onDeactivate = [this] { c.Show(); };
     takeLog();
     b.Show();
-    EXPECT_EQ(takeLog(), u"-a +c"_qs) << "b was covered before its turn came";
+    EXPECT_EQ(takeLog(), u"-a +c"_s) << "b was covered before its turn came";
     EXPECT_EQ(stage->front(), &c);
 
     b.onActivate = [this] { b.Hide(); };
     b.Show();
-    EXPECT_EQ(takeLog(), u"-c +b -b +c"_qs);
+    EXPECT_EQ(takeLog(), u"-c +b -b +c"_s);
     EXPECT_EQ(stage->front(), &c);
     EXPECT_TRUE(c.isVisible());
 }
@@ -67,7 +69,7 @@ TEST_F(StageTest, NothingIsActivatedWhileTheFrameIsHidden) {
     b.Hide();
     EXPECT_EQ(takeLog(), QString());
     stage->setActive(true);
-    EXPECT_EQ(takeLog(), u"+a"_qs);
+    EXPECT_EQ(takeLog(), u"+a"_s);
 }
 
 TEST_F(StageTest, AScreenGetsItsFocusBackWithTheFront) {

@@ -7,6 +7,8 @@
 #include <QPalette>
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 int colouredPixels(const QImage& image) {
@@ -38,7 +40,7 @@ protected:
 };
 
 TEST_P(ThemeTest, EveryPictureIsDrawnAtAnySize) {
-    const QStringList names = QDir(u":/uferwart/icons"_qs).entryList({u"*.svg"_qs});
+    const QStringList names = QDir(u":/uferwart/icons"_s).entryList({u"*.svg"_s});
     ASSERT_GE(names.size(), 25);
     for (const QString& file : names) {
         const QIcon icon = Theme::icon(file.chopped(4));
@@ -48,7 +50,7 @@ TEST_P(ThemeTest, EveryPictureIsDrawnAtAnySize) {
             EXPECT_GT(colouredPixels(picture.toImage()), 20) << qPrintable(file);
         }
     }
-    EXPECT_TRUE(Theme::icon(u"gibtesnicht"_qs).isNull());
+    EXPECT_TRUE(Theme::icon(u"gibtesnicht"_s).isNull());
 }
 
 TEST_P(ThemeTest, TextsAreLegible) {
@@ -69,7 +71,7 @@ TEST_P(ThemeTest, TextsAreLegible) {
         {QColor(Qt::white), Theme::darkBlue()},
     };
     for (const auto& [ink, ground] : pairs)
-        EXPECT_GE(contrast(ink, ground), 4.5) << qPrintable(ink.name() + u" on "_qs + ground.name());
+        EXPECT_GE(contrast(ink, ground), 4.5) << qPrintable(ink.name() + u" on "_s + ground.name());
     EXPECT_GE(contrast(Theme::outline(), colour(QPalette::Base)), 3.0);
     EXPECT_GE(contrast(Theme::accent(), colour(QPalette::Window)), 3.0);
 }

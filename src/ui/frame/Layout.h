@@ -17,7 +17,7 @@ class QWidget;
 
 /// The building blocks of a screen's layout: labels left of their fields in common rows, frames, a heading
 /// with the toolbar below it. Distances are multiples of four.
-namespace Face {
+namespace Layout {
 
 constexpr int gap = 8;
 
@@ -40,6 +40,6 @@ QHBoxLayout* line(QWidget* parent);
 void addRecordKeys(Toolbar* toolbar, const Toolbar::Handler& save, const Toolbar::Handler& remove,
                    const Toolbar::Handler& empty);
 /// A row of a form. The label becomes the field's name for screen readers.
-void addField(QGridLayout* form, int row, QLabel* label, QWidget* field, int column = 0);
+void addField(QGridLayout* screen, int row, QLabel* label, QWidget* field, int column = 0);
 
-} // namespace Face
+} // namespace Layout

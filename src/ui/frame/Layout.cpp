@@ -1,4 +1,4 @@
-#include "Face.h"
+#include "Layout.h"
 
 #include "Heading.h"
 #include "Toolbar.h"
@@ -11,7 +11,9 @@
 #include <QPushButton>
 #include <QRadioButton>
 
-namespace Face {
+using namespace Qt::StringLiterals;
+
+namespace Layout {
 
 QLabel* label(const QString& name, const QString& text, QWidget* parent) {
     auto* made = new QLabel(parent);
@@ -75,18 +77,18 @@ QHBoxLayout* line(QWidget* parent) {
 void addRecordKeys(Toolbar* toolbar, const Toolbar::Handler& save, const Toolbar::Handler& remove,
                    const Toolbar::Handler& empty) {
     toolbar->addKeys(
-        {{u"tbSpeichern"_qs, u"&Speichern"_qs, u"Speichern"_qs, u"speichern"_qs, save},
-         {u"tbLoeschen"_qs, u"&Löschen"_qs, u"Löschen"_qs, u"loeschen"_qs, remove},
-         {u"tbAnzLoeschen"_qs, u"&Anz. löschen"_qs, u"Anzeige löschen"_qs, u"anzeige-loeschen"_qs, empty}});
+        {{u"tbSpeichern"_s, u"&Speichern"_s, u"Speichern"_s, u"speichern"_s, save},
+         {u"tbLoeschen"_s, u"&Löschen"_s, u"Löschen"_s, u"loeschen"_s, remove},
+         {u"tbAnzLoeschen"_s, u"&Anz. löschen"_s, u"Anzeige löschen"_s, u"anzeige-loeschen"_s, empty}});
 }
 
-void addField(QGridLayout* form, int row, QLabel* label, QWidget* field, int column) {
-    form->addWidget(label, row, column);
-    form->addWidget(field, row, column + 1);
+void addField(QGridLayout* screen, int row, QLabel* label, QWidget* field, int column) {
+    screen->addWidget(label, row, column);
+    screen->addWidget(field, row, column + 1);
     label->setBuddy(field);
     QString spoken = label->text();
     while (spoken.endsWith(u':') || spoken.endsWith(u'.') || spoken.endsWith(u' ')) spoken.chop(1);
     field->setAccessibleName(spoken);
 }
 
-} // namespace Face
+} // namespace Layout
