@@ -6,8 +6,6 @@
 #include <QString>
 #include <utility>
 
-using namespace Qt::StringLiterals;
-
 /// The error handling that every routine which touches the database or a grid has in common. A routine is a
 /// recipe of statements; an error in one shows the box and the routine goes on with the next:
 ///
