@@ -10,6 +10,8 @@ function(uw_part folder)
   uw_part_target(target ${folder})
   file(GLOB sources CONFIGURE_DEPENDS ${folder}/*.cpp ${folder}/*.h)
   add_library(${target} STATIC ${sources})
+  # Named so that a new header is seen by the meta-object compiler in a build folder that is there already.
+  set_target_properties(${target} PROPERTIES AUTOGEN_TARGET_DEPENDS "${sources}")
   target_include_directories(${target} PUBLIC ${folder})
   uw_part_targets(uses ${part_USES})
   uw_part_targets(hidden ${part_HIDDEN})
