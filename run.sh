@@ -29,7 +29,7 @@ display_reachable() {
   (ulimit -c 0 && timeout 20 "$top/build/release/tools/display-probe") >/dev/null 2>&1
 }
 
-play_tour() {
+run_tour() {
   local tour=$top/tools/player/rundgang.txt pictures=$top/bilder begun=$top/build/tour-begun
   say "No display here: running the tour without one, with pictures in bilder/"
   : >"$begun"
@@ -55,4 +55,4 @@ packages=("${build_packages[@]}")
 [ -n "${WAYLAND_DISPLAY:-}" ] && packages+=(qt6-wayland)
 ensure_packages "${packages[@]}"
 build release uferwart uferwart-neu display-probe
-if display_reachable; then start_program; else play_tour; fi
+if display_reachable; then start_program; else run_tour; fi
