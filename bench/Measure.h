@@ -48,27 +48,27 @@ double medianSeconds(int runs, Work&& work) {
 /// computer disturbs them alike. Short ones run more often.
 struct Pair {
     double own;
-    double floor;
+    double baseline;
 };
-template<typename Own, typename Floor>
-Pair byTurns(int runs, Own&& own, Floor&& floor) {
+template<typename Own, typename Baseline>
+Pair byTurns(int runs, Own&& own, Baseline&& baseline) {
     std::vector<double> ours;
-    std::vector<double> floors;
+    std::vector<double> baselines;
     const int ownTimes = timesForClock(own);
-    const int floorTimes = timesForClock(floor);
+    const int baselineTimes = timesForClock(baseline);
     constexpr double enough = 0.3;
     for (double spent = 0; spent < enough || static_cast<int>(ours.size()) < runs;) {
         spent += secondsOf([&] {
-            floors.push_back(secondsOfOne(floorTimes, floor));
+            baselines.push_back(secondsOfOne(baselineTimes, baseline));
             ours.push_back(secondsOfOne(ownTimes, own));
         });
     }
-    return {median(ours), median(floors)};
+    return {median(ours), median(baselines)};
 }
 
 /// Prints a row of the table: the work, its time, its baseline, their ratio, the greatest ratio wanted, and
 /// the memory of the process.
-void printRow(const char* work, Pair seconds, const char* floor, double wanted);
+void printRow(const char* work, Pair seconds, const char* baseline, double wanted);
 constexpr int mostBytesARow = 250; ///< in a grid of catches
 /// Prints the memory of a grid. `most` is the limit of bytes in each row, 0 for none.
 void printGrid(double bytes, int rows, int most = 0);

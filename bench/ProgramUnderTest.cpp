@@ -29,11 +29,11 @@ double residentMegabytes() {
 
 } // namespace
 
-void printRow(const char* work, Pair seconds, const char* floor, double wanted) {
-    const double ratio = std::round(100 * seconds.own / seconds.floor) / 100; // as it is printed
+void printRow(const char* work, Pair seconds, const char* baseline, double wanted) {
+    const double ratio = std::round(100 * seconds.own / seconds.baseline) / 100; // as it is printed
     std::printf("%-38s x%-4d %10.3f ms  %-34s %10.3f ms %6.2f %6.2f%s %5.0f MiB\n", work, timesInForce,
-                seconds.own * 1e3, floor, seconds.floor * 1e3, ratio, wanted, ratio <= wanted ? " " : "!",
-                residentMegabytes());
+                seconds.own * 1e3, baseline, seconds.baseline * 1e3, ratio, wanted,
+                ratio <= wanted ? " " : "!", residentMegabytes());
     std::fflush(stdout);
 }
 

@@ -72,13 +72,13 @@ double rawFills(const QString& folder) {
 constexpr int runs = 9;
 
 void benchFullStart(const QString& folder, const QString& empty) {
-    std::vector<double> books, floors;
+    std::vector<double> books, baselines;
     for (int run = 0; run < runs; ++run) {
-        floors.push_back(startOnce(empty).toCatchBook + rawFills(folder));
+        baselines.push_back(startOnce(empty).toCatchBook + rawFills(folder));
         books.push_back(startOnce(folder).toCatchBook);
     }
-    printRow("login to catch book", {median(books), median(floors)}, "an empty one, and its bare statements",
-             2.0);
+    printRow("login to catch book", {median(books), median(baselines)},
+             "an empty one, and its bare statements", 2.0);
 }
 
 void benchStart(const QString& folder, const QString& empty) {

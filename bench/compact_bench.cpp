@@ -18,8 +18,8 @@ QString connectText() { return u";pwd=qx-1987-nkr"_s; }
 void exportTo(const QString& path, const QString& target) {
     QFile::remove(target);
     RawFile file(path);
-    file.execute(("ATTACH '" + target.toUtf8() + "' AS floor KEY 'qx-1987-nkr'").constData());
-    file.execute("SELECT sqlcipher_export('floor')");
+    file.execute(("ATTACH '" + target.toUtf8() + "' AS baseline KEY 'qx-1987-nkr'").constData());
+    file.execute("SELECT sqlcipher_export('baseline')");
 }
 
 void compactTo(const QString& path, const QString& target, const QString& keptIn = {}) {
@@ -31,7 +31,7 @@ void benchCompaction(const QString& folder) {
     const QString path = folder + u"/uw01.mdb"_s;
     const Pair seconds = byTurns(
         runs, [&] { compactTo(path, folder + u"/own.mdb"_s); },
-        [&] { exportTo(path, folder + u"/floor.mdb"_s); });
+        [&] { exportTo(path, folder + u"/baseline.mdb"_s); });
     printRow("CompactDatabase, verified", seconds, "sqlcipher_export", 1.5);
 }
 

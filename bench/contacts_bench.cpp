@@ -52,7 +52,7 @@ void benchSerialLetter(const QString& folder) {
     printRow("SERI.txt, active members",
              byTurns(
                  5, [] { modSerienbrief::ErzeugeSeriendatei(); },
-                 [&] { writeRaw(file, folder + u"/floor.txt"_s); }),
+                 [&] { writeRaw(file, folder + u"/baseline.txt"_s); }),
              "bare query, buffered file", 3.0);
 }
 

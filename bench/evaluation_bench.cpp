@@ -92,7 +92,7 @@ void benchExport(const QString& folder) {
     const QByteArray bytes = written.readAll();
     const Pair seconds = byTurns(
         runs, [] { modFAuswert::ErzeugeFangDatei(); },
-        [&] { writeBuffered(folder + u"/floor.csv"_s, bytes); });
+        [&] { writeBuffered(folder + u"/baseline.csv"_s, bytes); });
     printRow("FANG.csv, catches of a month", seconds, "the same bytes, buffered", 3.0);
 }
 
@@ -123,15 +123,15 @@ void clearStaging(const QString& folder) {
 /// Stages all rows without a report: "nichts" neither prints nor previews.
 void benchStaging(const QString& folder, int rows) {
     constexpr int runs = 3;
-    std::vector<double> floors, stagings;
+    std::vector<double> baselines, stagings;
     for (int run = 0; run < runs; ++run) {
         clearStaging(folder);
-        floors.push_back(secondsOf([&] { rawStaging(folder, rows); }));
+        baselines.push_back(secondsOf([&] { rawStaging(folder, rows); }));
         clearStaging(folder);
         stagings.push_back(secondsOf([] { modFAuswert::DruckeFangListe(u"nichts"_s); }));
     }
-    printRow("staging and binding them", {median(stagings), median(floors)}, "file opened, one transaction",
-             3.0);
+    printRow("staging and binding them", {median(stagings), median(baselines)},
+             "file opened, one transaction", 3.0);
 }
 
 /// Sample catches for a report. Their first rows are the same for any number of rows.

@@ -64,14 +64,14 @@ void benchLists(const QString& folder) {
     constexpr int runs = 7;
     RawFile file(folder + u"/uw01.mdb"_s);
     std::vector<RawRow> rows;
-    const auto floor = [&] { rawList(file, rows); };
+    const auto baseline = [&] { rawList(file, rows); };
     MitglList& screen = the<MitglList>();
     const auto list = [&] { fill(*screen.tblMList); };
     screen.chkArbAnz->setChecked(true);
-    printRow("member list with hours", byTurns(runs, list, floor), "a prepared sum a member", 3.0);
+    printRow("member list with hours", byTurns(runs, list, baseline), "a prepared sum a member", 3.0);
     printGrid(double(screen.tblMList->memoryInUse()), screen.tblMList->rowCount());
     screen.chkArbStd->setChecked(true);
-    printRow("  only those below their hours", byTurns(runs, list, floor), "a prepared sum a member", 3.0);
+    printRow("  only those below their hours", byTurns(runs, list, baseline), "a prepared sum a member", 3.0);
 }
 
 } // namespace

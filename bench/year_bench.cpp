@@ -114,10 +114,10 @@ int main(int argc, char* argv[]) {
     RawFile(path).execute("UPDATE System SET FJahr = 2025");
     QFile::copy(path, folder + u"/alt.mdb"_s);
 
-    const double floor = measure(folder, [&] { return rawSeconds(path); });
+    const double baseline = measure(folder, [&] { return rawSeconds(path); });
     const QByteArray expected = result(path);
     const double own = measure(folder, [&] { return ownSeconds(folder); });
-    printRow("year change with carry-over", {own, floor}, "same sums and rows, one commit", 3.0);
+    printRow("year change with carry-over", {own, baseline}, "same sums and rows, one commit", 3.0);
     if (result(path) == expected) return 0;
     std::printf("The sums differ: %s and %s\n", result(path).constData(), expected.constData());
     return 1;

@@ -11,9 +11,9 @@ constexpr int bodyWidth = ReportPaper::bodyWidth;
 // The letterhead: the address at the left, the title and the settings of the list at the right.
 constexpr int addressTop = 60;
 constexpr int addressLine = 46;
-constexpr int captionBreadth = 180;
-constexpr int addressBreadth = 980;
-constexpr int codeBreadth = 130;
+constexpr int captionWidth = 180;
+constexpr int addressWidth = 980;
+constexpr int codeWidth = 130;
 constexpr int codeSpace = 16;
 constexpr double leastCodePoints = 5; // small, since a code must not be broken into lines
 constexpr int titleLeft = 1060;
@@ -55,20 +55,17 @@ Briefkopf::Briefkopf(Report& report)
 }
 
 void Briefkopf::addAddress() {
-    m_head.addLabel(u"Label13"_s, u"Anschrift:"_s, {0, 0, addressBreadth, 54})
-        .points(11)
-        .bold()
-        .ink(clubBlue);
-    constexpr int codeEnd = captionBreadth + codeBreadth;
+    m_head.addLabel(u"Label13"_s, u"Anschrift:"_s, {0, 0, addressWidth, 54}).points(11).bold().ink(clubBlue);
+    constexpr int codeEnd = captionWidth + codeWidth;
     addAddressLine(u"Label10"_s, u"Name   :"_s, 0);
-    addAddressValue(u"lblVerein"_s, 0, captionBreadth, addressBreadth).bold();
+    addAddressValue(u"lblVerein"_s, 0, captionWidth, addressWidth).bold();
     addAddressLine(u"Label11"_s, u"Strasse :"_s, 1);
-    addAddressValue(u"lblStrasse"_s, 1, captionBreadth, addressBreadth);
+    addAddressValue(u"lblStrasse"_s, 1, captionWidth, addressWidth);
     addAddressLine(u"Label12"_s, u"PLZ /Ort:"_s, 2);
-    addAddressValue(u"lblPLZ"_s, 2, captionBreadth, codeEnd).growing(leastCodePoints);
-    addAddressValue(u"lblOrt"_s, 2, codeEnd + codeSpace, addressBreadth);
+    addAddressValue(u"lblPLZ"_s, 2, captionWidth, codeEnd).growing(leastCodePoints);
+    addAddressValue(u"lblOrt"_s, 2, codeEnd + codeSpace, addressWidth);
     addAddressLine(u"Label15"_s, u"Tel         :"_s, 3);
-    addAddressValue(u"lblTelefon"_s, 3, captionBreadth, addressBreadth);
+    addAddressValue(u"lblTelefon"_s, 3, captionWidth, addressWidth);
 }
 
 void Briefkopf::addCaption(const QString& label, const QString& caption, const QRect& place) {
@@ -76,7 +73,7 @@ void Briefkopf::addCaption(const QString& label, const QString& caption, const Q
 }
 
 void Briefkopf::addAddressLine(const QString& label, const QString& caption, int line) {
-    addCaption(label, caption, {0, addressTop + line * addressLine, captionBreadth, addressLine});
+    addCaption(label, caption, {0, addressTop + line * addressLine, captionWidth, addressLine});
 }
 
 ReportControl& Briefkopf::addAddressValue(const QString& value, int line, int left, int right) {
@@ -119,7 +116,7 @@ void Briefkopf::setDense() {
 
 void Briefkopf::addColumns(std::initializer_list<ReportColumn> columns) {
     int whole = 0;
-    for (const ReportColumn& column : columns) whole += column.breadth;
+    for (const ReportColumn& column : columns) whole += column.width;
     if (whole <= 0) return; // no column, no table
     m_head.setHeight(headTop + headHeight);
     m_detail.setHeight(m_rowHeight);
@@ -128,11 +125,11 @@ void Briefkopf::addColumns(std::initializer_list<ReportColumn> columns) {
     int number = 0;
     for (const ReportColumn& column : columns) {
         const int left = bodyWidth * passed / whole + m_cellPadding;
-        passed += column.breadth;
+        passed += column.width;
         const int width = bodyWidth * passed / whole - m_cellPadding - left;
         addColumn(column, u"Text%1"_s.arg(++number), left, width);
     }
-    m_detail.addLine(u"Line1"_s, {0, m_rowHeight, bodyWidth, 0}).ink(faint).breadth(1).closing(clubBlue);
+    m_detail.addLine(u"Line1"_s, {0, m_rowHeight, bodyWidth, 0}).ink(faint).lineWidth(1).closing(clubBlue);
     m_detail.addLine(u"Line2"_s, {0, 0, 0, m_rowHeight}).ink(clubBlue);
     m_detail.addLine(u"Line3"_s, {bodyWidth, 0, 0, m_rowHeight}).ink(clubBlue);
 }

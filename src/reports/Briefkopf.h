@@ -4,11 +4,11 @@
 
 #include <initializer_list>
 
-/// A column of a report's table. `breadth` is its share of the page's width, in any unit.
+/// A column of a report's table. `width` is its share of the page's width, in any unit.
 struct ReportColumn {
     QString label;
     QString head;
-    int breadth = 0;
+    int width = 0;
     ReportControl::Align align = ReportControl::Align::Left;
     QString format = {};
 };

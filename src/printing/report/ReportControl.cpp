@@ -53,8 +53,8 @@ ReportControl& ReportControl::ink(QRgb colour) {
     return *this;
 }
 
-ReportControl& ReportControl::breadth(int tenths) {
-    m_breadth = tenths;
+ReportControl& ReportControl::lineWidth(int tenths) {
+    m_lineWidth = tenths;
     return *this;
 }
 

@@ -11,7 +11,7 @@ class ReportControl {
 public:
     enum class Kind { Label, Text, Sum, Line, Shape };
     enum class Align { Left, Centre, Right };
-    static constexpr int usualBreadth = 2;
+    static constexpr int usualLineWidth = 2;
 
     ReportControl(Kind kind, const QString& name, const QRect& place);
 
@@ -34,7 +34,7 @@ public:
     /// Sets the colour of a line, of a shape's border or of the letters. Black unless set.
     ReportControl& ink(QRgb colour);
     /// Sets the width of a line or of a shape's border in tenths of a millimetre, 2 unless set; 0 for none.
-    ReportControl& breadth(int tenths);
+    ReportControl& lineWidth(int tenths);
     /// Sets the colour of a line below each row for the last row of a page. There the line has the usual
     /// width.
     ReportControl& closing(QRgb ink);
@@ -52,7 +52,7 @@ public:
     bool hasPageNumbers() const { return m_pageNumbers; }
     QRgb ground() const { return m_ground; } ///< transparent for none
     QRgb ink() const { return m_ink; }
-    int breadth() const { return m_breadth; }
+    int lineWidth() const { return m_lineWidth; }
     QRgb closingInk() const { return m_closingInk; } ///< transparent for none
 
     /// Sets the text of a label, which stays until it is set again. Error 438 for other controls.
@@ -77,7 +77,7 @@ private:
     QRgb m_ground = 0;
     QRgb m_ink = 0xff000000;
     QRgb m_closingInk = 0;
-    int m_breadth = usualBreadth;
+    int m_lineWidth = usualLineWidth;
     double m_points = 9;
     double m_leastPoints = 0; ///< 0 for a label that does not grow
     QRect m_place;

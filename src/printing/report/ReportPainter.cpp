@@ -58,7 +58,7 @@ void ReportPainter::paintBand(QPainter& painter, ReportDocument::Band band, int 
 
 void ReportPainter::draw(QPainter& painter, const QRectF& area, const ReportControl& control, bool isLast) {
     const bool closes = isLast && qAlpha(control.closingInk()) > 0;
-    const int tenths = closes ? ReportControl::usualBreadth : control.breadth();
+    const int tenths = closes ? ReportControl::usualLineWidth : control.lineWidth();
     const double width = double(tenths) * ReportTypesetter::unitsPerTenth;
     if (control.kind() == ReportControl::Kind::Line) {
         const bool upright = area.height() > area.width();

@@ -109,7 +109,7 @@ TEST(ReportPainterTest, NoTextLeavesItsPlaceWhateverItsAlignment) {
     }
 }
 
-TEST(ReportPainterTest, NumbersEndOnOneEdgeAndRulesAreOfOneBreadthAtAnyScale) {
+TEST(ReportPainterTest, NumbersEndOnOneEdgeAndRulesAreOfOneWidthAtAnyScale) {
     SampleReport report;
     report.bindRows(11);
     const QImage picture = pictureOf(report, 0);
