@@ -33,7 +33,7 @@ void Fangauswertung::Form_Load() {
 }
 
 void Fangauswertung::Form_Activate() {
-    // The return from a report must not lose the choice in the two lists.
+    // Filling the two lists drops what is chosen in them. The choice must survive a report.
     if (session().NachReport) {
         session().NachReport = false;
         return;
@@ -86,7 +86,7 @@ void Fangauswertung::tblFAusw_OnGridCellOpen(int row) {
     }
     modFangbuch::FangAnzeigeLoeschen();
     setGridRow(row);
-    // Before the catch book comes to the front, which would fill its lists anew for an entry.
+    // Open the record before Show(), or the catch book fills its lists for a new entry.
     auto& fangbuch = the<Fangbuch>();
     fangbuch.openRecord(tblFAusw->cellText(row, 0), row);
     Hide();

@@ -14,7 +14,8 @@ class TextBox;
 class Toolbar;
 class ValueLabel;
 
-/// The catch book by free filters, with sums; source of the CSV file and of the printed list.
+/// Lists catches by a free combination of filters, with sums. The CSV file and the printed list are made from
+/// its grid.
 class Fangauswertung : public Screen {
     Q_OBJECT
 
@@ -69,7 +70,7 @@ private:
 
     ComboBox* addList(const QString& name, QCheckBox* captionedBy);
     Vergleich addBound(const QString& list, const QString& box, const QString& spoken);
-    /// A click on the check box enables or disables its controls.
+    /// Makes the check box enable and disable its controls.
     void connectFilter(QCheckBox* box, const QVector<QWidget*>& controls);
 
     void tbSuch_Click();

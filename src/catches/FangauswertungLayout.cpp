@@ -85,7 +85,7 @@ void Fangauswertung::buildBounds() {
     chkGewicht = Layout::checkBox(u"chkGewicht"_s, u"Gewicht i. Gramm..."_s, Frame1);
     const Vergleich weightLow = addBound(u"cboOptGew01"_s, u"txtGew01"_s, u"Gewicht, Untergrenze"_s);
     const Vergleich weightHigh = addBound(u"cboOptGew02"_s, u"txtGew02"_s, u"Gewicht, Obergrenze"_s);
-    // The upper numbers can be typed in until their filter is ticked and cleared for the first time.
+    // The upper numbers start enabled although their filter is not ticked. Clearing the filter disables them.
     for (const Vergleich& high : {numberHigh, weightHigh}) high.wert->setEnabled(true);
     cboOptAnz01 = numberLow.zeichen;
     txtAnz01 = numberLow.wert;

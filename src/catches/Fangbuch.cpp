@@ -33,7 +33,7 @@ void Fangbuch::Form_Load() {
     zeigeAnzahlen();
 }
 
-/// The grid shows the names of fish and waters, which may change on another screen.
+/// Updates the names of fish and waters in the grid when they change on the screen Basis.
 void Fangbuch::beobachteBasisdaten() {
     const auto gleicheAb = [this](int column) {
         return [grid = QPointer(tblFList), column](const Basis::Verweis& verweis) {
@@ -46,7 +46,7 @@ void Fangbuch::beobachteBasisdaten() {
 }
 
 void Fangbuch::Form_Activate() {
-    // A catch that has just been opened from the evaluation must not lose what it shows.
+    // Filling the lists would empty them for a catch just opened from the evaluation.
     if (isEditing()) return;
     zeigeAnzahlen();
     modBasis::loadcboFArt(cboFArt);
@@ -71,7 +71,8 @@ bool Fangbuch::Form_KeyDown(int key, Qt::KeyboardModifiers) {
 
 namespace {
 
-/// A year that was mistyped into the parameters must not end the program at each pick of a month.
+/// The catch year of the parameters; `otherwise` if it is mistyped. An error here would end the program at
+/// each choice of a month.
 qint16 fangjahrDerParameter(qint16 otherwise) {
     try {
         return CInt(session().FJahr);
@@ -86,7 +87,7 @@ void Fangbuch::Auswahl_Click(bool jahr) {
     Session& s = session();
     if (s.TabelleLaedt) return;
     const qint16 bisher = s.AktJahr;
-    // The load takes year and month from the session; they are lent to it and put back.
+    // loadTblFList() takes year and month from the session. Both are set for this call only.
     s.AktMonatNr = modRun::ErmittleMonatsNr(cboSelMonat->currentText());
     s.AktJahr = CInt(cboFJahr->currentText());
     modFangbuch::loadTblFList(pb);
@@ -111,7 +112,7 @@ void Fangbuch::txtMonNr_LostFocus() {
 
 void Fangbuch::pruefeMonat() {
     const QString text = txtMonNr->text();
-    // What was pasted past the key filter and is no number is no month either.
+    // Pasting bypasses the key filter. Text that is no number counts as month 0, which is refused.
     const qint32 month = IsNumeric(text) ? CLng(text) : 0;
     if (text.length() == 1 && month >= 1 && month <= 9) {
         txtMonNr->setText(u"0"_s + text);

@@ -13,7 +13,7 @@ class TextBox;
 class Toolbar;
 class ValueLabel;
 
-/// The catch book: an entry form above the entries of one month of one year.
+/// The catch book: input fields above a grid with the entries of one month of one year.
 class Fangbuch : public Screen {
     Q_OBJECT
 
@@ -72,6 +72,6 @@ private:
     void txtMonNr_LostFocus();
     void pruefeMonat();
     void tblFList_OnGridCellOpen(int row);
-    /// Keys pressed in txtMonNr since it got the focus; the second ends the month.
+    /// Keys pressed in txtMonNr since it got the focus. The second one moves the focus to the note.
     qint16 m_tastenZaehler = 0;
 };

@@ -43,7 +43,7 @@ void Fangbuch::buildToolbar() {
                               .frage = u"ACHTUNG: Fangeintrag wirklich löschen ?"_s,
                               .beiNein = &FangAnzeigeLoeschen};
     const auto sichere = [=, this] {
-        // F3 and the toolbar leave the caret where it is, so the month may not have been checked yet.
+        // The month is checked when txtMonNr loses the focus. F3 and the toolbar leave the focus there.
         txtMonNr_LostFocus();
         faenge.sichern(*this);
     };
@@ -119,7 +119,7 @@ void Fangbuch::layOutEntry() {
     screen->addLayout(number, 0, noteColumn);
     screen->addWidget(lblNotiz, 1, noteColumn);
     screen->addWidget(txtNotiz, 2, noteColumn, 3, 1);
-    // The note takes the height of the rows beside it, and the frame no more than it needs.
+    // The note gets the height of the rows beside it. The frame gets no more height than it needs.
     txtNotiz->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     fraNr2->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
     screen->setColumnStretch(1, 3);

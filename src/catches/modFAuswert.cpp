@@ -30,8 +30,8 @@ namespace modFAuswert {
 
 namespace {
 
-/// What all four statements have in common, made once. A filter that can't be put into SQL fails each of
-/// them, just as an invalid statement does.
+/// FROM and WHERE, shared by the four queries of a search. If a filter can't be put into SQL, each oeffne()
+/// throws that error, as it does for an invalid statement.
 class Selektion {
 public:
     Selektion() {
@@ -79,7 +79,7 @@ void fuelleListe(ErrorTail& step, Recordset& liste, Fangauswertung& screen) {
     step([&] { felder = liste.Fields(); });
     step.forEachRow(liste, [&] {
         modRun::leseZellen(step, felder, zeile);
-        // The grid has the month, by its name, before the year.
+        // The query gives the year first. The grid shows the month's name first.
         std::swap(zeile[3], zeile[4]);
         step([&] { zeile[3] = modRun::ErmittleMonatsname(CLng(zeile[3])); });
         step([&] { screen.tblFAusw->appendRow(zeile); });
@@ -93,7 +93,7 @@ void LadeAuswahl() {
     withErrorTail(u"modFAuswert"_s, u"LadeAuswahl"_s, [](ErrorTail& step) {
         Fangauswertung& screen = the<Fangauswertung>();
         const Hourglass hourglass(screen);
-        // Also where a fifth error ends it.
+        // A guard, because the fifth error leaves the routine by an exception.
         const auto ruhe = qScopeGuard([&] { screen.pb->hide(); });
         Recordset liste, anzahl, summeAnzahl, summeGewicht;
         const Selektion selektion;
@@ -171,7 +171,7 @@ void leereBounds(QCheckBox* box, const Vergleich& low, const Vergleich& high) {
 
 void AuswertAnzeigeLoeschen() {
     Fangauswertung& screen = the<Fangauswertung>();
-    // The parameters may meanwhile name a year that the list, made at the start, does not hold.
+    // The list was filled at the start. If the year of the parameters is not in it, no year is chosen.
     screen.cboFJahr->setListIndex(screen.cboFJahr->findText(QString::number(session().AktJahr)));
     leereFilter(screen.chkArchiv, screen.cboFJahr);
     screen.cboFArt->setListIndex(-1);

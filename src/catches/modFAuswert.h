@@ -5,23 +5,24 @@
 /// The evaluation of the catch book.
 namespace modFAuswert {
 
-/// Runs the query of the ticked filters and fills the screen.
+/// Runs the query of the ticked filters and fills the grid and the sums.
 void LadeAuswahl();
-/// Appends the clauses of the ticked filters. Both halves of a bound always stand in the text, so a bound
-/// with its upper half empty is refused by the store.
+/// Appends the clauses of the ticked filters to a query. Number and weight append both bounds: if the upper
+/// one is empty, the query is invalid and the store refuses it.
 void ErgaenzeSelektion(QString& filter);
-/// True if the ticked filters are filled; else a box says so. A bound passes with its lower half alone.
+/// True if the ticked filters are filled, otherwise shows a message box. Number and weight pass with their
+/// lower bound alone.
 bool AuswahlGueltig();
-/// Resets the screen.
+/// Resets all filters and empties the grid and the sums.
 void AuswertAnzeigeLoeschen();
-/// Opens the catch of the row on which the context menu was asked for.
+/// Opens the catch of the row on which the context menu was opened.
 void mnuFangInfo_Click();
 
-/// Writes the grid to FANG.csv and leads on to the spreadsheet.
+/// Writes the grid to FANG.csv, then offers to open it in the spreadsheet.
 void ErzeugeFangDatei();
-/// Opens the file in the spreadsheet and asks it to fit the columns.
+/// Opens FANG.csv in the spreadsheet and asks it to fit the columns to their contents.
 void StarteExcelFang();
-/// Prints ("drucken") or shows ("vorschau") the grid as the catch list.
+/// Prints ("drucken") or previews ("vorschau") the grid as the catch list.
 void DruckeFangListe(const QString& wort);
 
 } // namespace modFAuswert

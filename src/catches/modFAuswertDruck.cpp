@@ -11,7 +11,7 @@
 
 using namespace Qt::StringLiterals;
 
-// The catch list on paper.
+// Prints the catch list.
 
 namespace modFAuswert {
 
@@ -38,7 +38,7 @@ void richteEin(ErrorTail& step, Report& report) {
     const auto bind = [&](const QString& section, const QString& name, const QString& field) {
         step([&] { report.control(section, name).setDataField(field); });
     };
-    // Year and month go by the tick, kind of fish and water by what stands in their lists.
+    // Year and month count if their filter is ticked, fish and water if their list has a choice.
     caption(u"Section2"_s, u"lblFJahr"_s,
             oderAlle(screen.cboFJahr->isEnabled(), screen.cboFJahr->currentText()));
     caption(u"Section2"_s, u"lblFMonat"_s,

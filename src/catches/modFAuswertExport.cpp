@@ -12,13 +12,13 @@
 
 using namespace Qt::StringLiterals;
 
-// The evaluation as a file for the spreadsheet.
+// Writes the evaluation to a file for the spreadsheet.
 
 namespace modFAuswert {
 
 namespace {
 
-/// Year, point and two digits of the month: sorts and reads as a number with two decimals.
+/// Year, point and two digits of the month. The spreadsheet reads and sorts it as a number.
 QString fangdatum(const QString& jahr, const QString& monatsname) {
     static const std::array<QString, 12> endungen = {u".01"_s, u".02"_s, u".03"_s, u".04"_s,
                                                      u".05"_s, u".06"_s, u".07"_s, u".08"_s,

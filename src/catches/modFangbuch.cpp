@@ -28,7 +28,7 @@ namespace {
 
 const QString modul = u"modFangbuch"_s;
 
-/// The seven fields of the form, in the order in which they are written.
+/// Sets the seven input fields in the copy buffer, in the order in which they are written.
 void schreibeFelder(ErrorTail& step, Recordset& fang, const Fangbuch& screen,
                     const ArtUndGewaesser& nummern) {
     step([&] { fang.Collect(u"FangJahr"_s, CLng(screen.cboFJahr->currentText())); });
@@ -44,14 +44,14 @@ bool imGewaehltenMonat(const Fangbuch& screen) {
     return CLng(screen.txtMonNr->text()) == modRun::ErmittleMonatsNr(screen.cboSelMonat->currentText());
 }
 
-/// The fields of a record that its row in the grid is made from.
+/// The fields of a record that its grid row shows.
 const QStringList& felderDerZeile() {
     static const QStringList felder = {u"FangNr"_s,    u"FischNr"_s, u"GNr"_s,
                                        u"FangMonat"_s, u"Anzahl"_s,  u"Gewicht"_s};
     return felder;
 }
 
-/// The record just made as a row of the grid, if its month is the one on show.
+/// Appends the new record to the grid if its month is the one shown.
 void zeigeNeuen(ErrorTail& step, std::vector<Value> zeile, const Fangbuch& screen) {
     const auto monat = [monat = zeile[3]] { return modRun::ErmittleMonatsname(CLng(monat)); };
     if (!step.test([&] { return screen.cboSelMonat->currentText() == monat(); })) return;
@@ -115,7 +115,7 @@ void LoescheFang(int row) {
 
 namespace {
 
-/// The month as the form writes it: always two digits.
+/// The month as the screen shows it: always two digits.
 QString zweistellig(qint32 monat) {
     constexpr qint32 lastOfOneDigit = 9;
     return (monat <= lastOfOneDigit ? u"0"_s : QString()) + QString::number(monat);
@@ -140,7 +140,7 @@ void zeigeFang(ErrorTail& step, const Recordset& fang, Fangbuch& screen) {
 void loadFang(DataTable* grid, int row) {
     withErrorTail(modul, u"loadFang"_s, [grid, row](ErrorTail& step) {
         Fangbuch& screen = the<Fangbuch>();
-        // Opened from the evaluation, the catch book comes up in EDIT, and its activation fills no lists.
+        // Form_Activate fills no lists in EDIT, so a catch opened from the evaluation needs them filled here.
         step([&] { modBasis::loadcboFArt(screen.cboFArt); });
         step([&] { modBasis::loadcboGName(screen.cboGName); });
         Recordset fang;

@@ -10,23 +10,23 @@ class ProgressBar;
 /// The record routines of the catch book.
 namespace modFangbuch {
 
-/// The entry form as a new record.
+/// Stores the input fields as a new record.
 void SpeicherFang();
-/// The entry form over the record whose number the form shows; `row` is its grid row.
+/// Writes the input fields over the record whose number the screen shows; `row` is its grid row.
 void UpdateFang(int row);
-/// Deletes the record whose number the form shows; `row` is its grid row.
+/// Deletes the record whose number the screen shows; `row` is its grid row.
 void LoescheFang(int row);
-/// Fills the form from the catch in that row of that grid (the catch book's or the evaluation's). The year is
-/// not part of it.
+/// Fills the input fields from the catch in a row of `grid`, the catch book's or the evaluation's. Does not
+/// set the year.
 void loadFang(DataTable* grid, int row);
 void FangAnzeigeLoeschen();
-/// True if all but the note is filled; else a box says so.
+/// True if all input fields but the note are filled, otherwise shows a message box.
 bool FangEingabeVollstaendig();
 
 bool FangbuchZugriff_Erlaubt();
-/// Entries of the year in cboFJahr, also those whose fish or water is gone.
+/// Number of entries in the year of cboFJahr. Includes those whose fish or water was deleted.
 QString Ermittle_DSAnzahl();
 
-/// The entries of AktMonatNr of AktJahr into the catch book's grid.
+/// Fills the catch book's grid with the entries of the session's AktMonatNr and AktJahr.
 void loadTblFList(ProgressBar* pb);
 } // namespace modFangbuch

@@ -18,13 +18,13 @@
 
 using namespace Qt::StringLiterals;
 
-// The lists of the catch book: its grid, the combo boxes, and the way from a name to its number and back.
+// Fills the grid of the catch book.
 
 namespace modFangbuch {
 
 namespace {
 
-/// The entries of the month, streamed from the file into the grid.
+/// Appends the entries of the month to the grid, row by row as they are read.
 void fuelleListe(ErrorTail& step, Recordset& liste, DataTable* grid, ProgressBar* pb) {
     qint64 count = 0;
     std::array<Value, 6> zeile;
@@ -60,7 +60,7 @@ void loadTblFList(ProgressBar* pb) {
                                    u" AND fa.FischNr = f.FNr AND fa.GNr = g.GNr"_s);
         });
         pb->show();
-        // Also where a fifth error ends it.
+        // A guard, because the fifth error leaves the routine by an exception.
         const auto ruhe = qScopeGuard([pb] { pb->hide(); });
         step([&] {
             const Value count = anzahl.Collect(u"Expr1000"_s);
