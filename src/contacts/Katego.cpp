@@ -44,7 +44,7 @@ void Katego::buildToolbar() {
         .loesche = &modKatego::LoescheKatego,
         .frage = u"ACHTUNG: Kontakt - Referenzen in Kontaktliste werden ebenfalls gelöscht !\r\n"_s
                  u"Trotzdem löschen ?"_s,
-        // A no clears the catch book; the name stays here, to be saved again if wanted.
+        // "No" clears the catch book, not this screen: the name stays and can be saved again.
         .beiNein = &modFangbuch::FangAnzeigeLoeschen};
     Toolbar1 = new Toolbar(this);
     Layout::addRecordKeys(

@@ -10,7 +10,7 @@ class TextBox;
 class Toolbar;
 class ValueLabel;
 
-/// The categories of contacts. Its grid is where the category lists of the other screens come from.
+/// The categories of contacts. The category lists of other screens are filled from its grid.
 class Katego : public Screen {
     Q_OBJECT
 

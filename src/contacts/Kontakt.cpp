@@ -15,7 +15,7 @@
 
 using namespace Qt::StringLiterals;
 
-// The face of the mask is built in KontaktLayout.cpp; its behaviour is here.
+// The layout of the screen is in KontaktLayout.cpp; its behaviour is here.
 
 void Kontakt::Form_Load() {
     TabKont->setCurrentIndex(0);
@@ -24,7 +24,7 @@ void Kontakt::Form_Load() {
     cboKatego->setFocus();
 }
 
-// A mask that is closed is forgotten: the next one opens empty.
+// Removes the closed screen, so that it opens empty the next time.
 void Kontakt::Form_QueryUnload() { unload<Kontakt>(); }
 
 void Kontakt::sperre() {
@@ -41,7 +41,7 @@ void Kontakt::sperre() {
 
 void Kontakt::Speichern() {
     if (isEditing()) {
-        // An incomplete mask is left as it is, without a word; the next press takes it for a new contact.
+        // An incomplete contact stays, without a message box. The next press adds it as a new one.
         if (!modKontakt::EingabeKontaktOK()) return;
         AusSuche ? modKontakt::UpdateSQLKontakt() : modKontakt::UpdateKontakt();
     } else if (modKontakt::EingabeKontaktOK()) {
@@ -53,7 +53,7 @@ void Kontakt::Speichern() {
 }
 
 void Kontakt::Loeschen() {
-    // The question announces; the answer changes nothing.
+    // The message box only warns: the contact is deleted whatever the answer.
     MsgBox(u"ACHTUNG: Bei Mitgliederkontakt werden auch alle Referenzen des Kontaktes im "_s
            u"Arbeitscontrolling gelöscht !\r\nKontakt wirklich löschen ?"_s,
            vbYesNo);

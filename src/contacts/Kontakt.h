@@ -14,7 +14,7 @@ class TextBox;
 class Toolbar;
 class ValueLabel;
 
-/// The one mask for contacts and members, shown modally.
+/// Shows and edits one contact or member. Show it with ShowModal().
 class Kontakt : public Screen {
     Q_OBJECT
 
@@ -24,11 +24,11 @@ public:
     void Form_Load() override;
     void Form_QueryUnload() override;
 
-    /// Leaves everything to be read and nothing to be changed, until the mask is closed.
+    /// Makes the fields read-only until the screen is closed.
     void sperre();
     bool istGesperrt() const { return m_gesperrt; }
 
-    /// Opened from the search. The overview's grid then has no row that is known to be the contact's.
+    /// True if opened from the search. The contact's row in the overview's grid is then unknown.
     bool AusSuche = false;
 
     Toolbar* Toolbar1;

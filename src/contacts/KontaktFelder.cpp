@@ -20,7 +20,7 @@ namespace KontaktFelder {
 
 namespace {
 
-/// A text field of the table and its box.
+/// A text field of the table and its input.
 struct Textfeld {
     const char16_t* feld;
     TextBox* Kontakt::*box;
@@ -54,7 +54,6 @@ void zeigeTexte(ErrorTail& step, const Recordset& satz, const Kontakt& screen,
         });
 }
 
-/// Of a pair of options exactly one is chosen.
 void waehle(const Recordset::Field& feld, QRadioButton* ja, QRadioButton* nein) {
     (feld.Value() == Value(true) ? ja : nein)->setChecked(true);
 }
@@ -84,7 +83,7 @@ void schreibeMitglied(ErrorTail& step, Recordset& mitglied, const Kontakt& scree
 
 void zeigeKontakt(ErrorTail& step, const Recordset& kontakt, Kontakt& screen) {
     step([&] { screen.lblKNr->setText(CStr(kontakt.Collect(u"knr"_s))); });
-    // Choosing the category opens or closes the fields of a member.
+    // Setting the category also enables or disables the fields of a member.
     step([&] { screen.cboKatego->setText(ErmittleKategoName(CLng(kontakt.Collect(u"kategonr"_s)))); });
     zeigeTexte(step, kontakt, screen, person);
     step([&] { screen.txtGebDat->setText(modRun::TextAusDatum(kontakt.Fields(u"GebDatum"_s))); });

@@ -31,7 +31,7 @@ QWidget* addPage(QTabWidget* tabs, const QString& caption) {
     return page;
 }
 
-/// A page with one frame in its upper part.
+/// Puts the frame at the top of the page. Returns the layout inside the frame.
 QGridLayout* frameOnPage(QWidget* page, QGroupBox* frame) {
     auto* column = new QVBoxLayout(page);
     column->setContentsMargins(Layout::gap, Layout::gap, Layout::gap, Layout::gap);
@@ -43,7 +43,7 @@ QGridLayout* frameOnPage(QWidget* page, QGroupBox* frame) {
     return screen;
 }
 
-/// Two options side by side in a frame of their own.
+/// Puts two options side by side into the frame.
 QGroupBox* optionPair(QGroupBox* frame, QRadioButton* left, QRadioButton* right) {
     auto* row = new QHBoxLayout(frame);
     row->addWidget(left, 1);
@@ -120,7 +120,7 @@ void Kontakt::layOutGlobal(QWidget* page) {
         {lblName, txtNName}, {lblVName, txtVName},   {lblStrasse, txtStrasse}};
     int row = 0;
     for (const auto& [label, control] : rows) Layout::addField(screen, row++, label, control);
-    // Postal code and town stand on one line, as on an envelope.
+    // Postal code and town share a line, as on an envelope.
     auto* town = new QHBoxLayout;
     town->setSpacing(Layout::gap);
     town->addWidget(txtPLZ);

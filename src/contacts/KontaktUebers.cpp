@@ -31,7 +31,7 @@ void bieteAlleKategorien(ComboBox* combo) {
     combo->InsertItem(0, u"Alle"_s);
 }
 
-/// Opens the contact of a row in the mask, and on the overview too, which lies below the mask.
+/// Shows the contact of a row modally. Its record is open on that screen and on the overview below it.
 void oeffneMaske(DataTable* grid, int row, int column, bool ausSuche) {
     const QString nummer = grid->cellText(row, 0);
     Kontakt& maske = the<Kontakt>();
@@ -46,7 +46,7 @@ void oeffneTreffer(SuchKont& suche, int row, int column) {
         modRun::MeldeKeinZugriff();
         return;
     }
-    // Until a press in the mask the hit stands open, and the search leaves the focus on it.
+    // The hit stays open until a press in a toolbar: meanwhile the search leaves the focus on its grid.
     oeffneMaske(suche.tblSuch, row, column, true);
 }
 
@@ -117,7 +117,7 @@ void KontaktUebers::ErzeugeSerienbriefDatei() {
         MsgBox(u"Keine Daten zum erzeugen der Datei - SERI.txt - gefunden, der Vorgang wird abgebrochen !"_s,
                vbInformation);
     } else if (std::ranges::count(KategoOffen, true) < 1) {
-        // So it is also before the first press in the grid, when nothing is known of any category.
+        // Also reached before the first press in the grid: until then KategoOffen is empty.
         MsgBox(u"Um eine Serienbrief - Datei erzeugen zu können, müssen Sie die gewünschten Kategorien "_s
                u"vorher aufklappen !"_s,
                vbInformation);
@@ -129,7 +129,7 @@ void KontaktUebers::ErzeugeSerienbriefDatei() {
 void KontaktUebers::tblKUebers_OnGridCellDown(int row, int column) {
     const TableHandle gedrueckt = tblKUebers->enter({});
     KategoOffen.resize(std::size_t(tblKUebers->rowCount()));
-    // The gutter of a contact's row is none of a category's.
+    // A press on the row header of a contact opens or closes no category.
     if (gedrueckt.parentRow >= 0) {
         tblKUebers->enter(gedrueckt);
         return;
@@ -141,7 +141,7 @@ void KontaktUebers::klappe(int row) {
     const bool oeffnet = !KategoOffen[std::size_t(row)];
     tblKUebers->setCell(row, Uebersicht::spalteZustand, oeffnet ? u"-"_s : u"+"_s);
     if (oeffnet) modKontakt::KategorieAufklappen(row, CLng(tblKUebers->cell(row, Uebersicht::spalteNr)));
-    // What stands open on the screen is what gets into the file for serial letters.
+    // The file for serial letters must get the contacts of exactly those categories that are seen open.
     tblKUebers->setOpen(row, oeffnet);
     KategoOffen[std::size_t(row)] = oeffnet;
     LetzterKlappZustand = oeffnet;

@@ -9,8 +9,8 @@ class Heading;
 class QLabel;
 class Toolbar;
 
-/// The contacts under their categories. Which categories are open also decides who gets into the file for
-/// serial letters.
+/// Lists the contacts under their categories. The contacts of open categories get into the file for serial
+/// letters.
 class KontaktUebers : public Screen {
     Q_OBJECT
 
@@ -22,7 +22,7 @@ public:
     bool Form_KeyDown(int key, Qt::KeyboardModifiers modifiers) override;
 
     Heading* Ueberschrift;
-    /// What the last press on a category has left behind, of any category: true if it opened one.
+    /// True if the last press on any category opened it, false if it closed it.
     bool LetzterKlappZustand = false;
 
     Toolbar* Toolbar1;
@@ -35,11 +35,11 @@ private:
     void BearbeiteKategorien();
     void ErzeugeSerienbriefDatei();
     void Suchen();
-    /// Opens or closes a category, whichever its flag says it is not.
+    /// Opens a closed category, closes an open one. KategoOffen tells which.
     void klappe(int row);
     void tblKUebers_OnGridCellDown(int row, int column);
     void tblKUebers_OnGridCellOpen(int row, int column);
 
-    /// By the row of the moment: true if the category is open. Empty until the first press.
+    /// True if the category is open; the index is its row when pressed. Empty until the first press.
     std::vector<bool> KategoOffen;
 };

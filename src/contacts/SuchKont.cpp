@@ -113,13 +113,13 @@ bool SuchKont::Form_KeyDown(int key, Qt::KeyboardModifiers) {
 
 void SuchKont::cmdSuch_Click() {
     if (!modRun::fehlerfrei(modRun::erstesLeere({txtSuch, cboKatego}))) return;
-    // The club may have a category of its own by this name.
+    // Compare the index: the club may have a category of its own named "Alle".
     const bool alle = weg() && weg()->ersterIstAlle && cboKatego->currentIndex() == 0;
     const qint32 kategonr = alle ? 0 : ErmittleKategoNr(cboKatego->currentText());
     modKontakt::SucheKontakt(txtSuch->text(), kategonr);
     if (tblSuch->rowCount() > 0) {
         lblGefDS->setText(QString::number(tblSuch->rowCount()));
-        // The rows must be there when the focus comes, so that Enter opens the first one.
+        // The grid must have its rows before it gets the focus, so that Enter opens the first one.
         tblSuch->refresh();
         tblSuch->setFocus();
     } else {

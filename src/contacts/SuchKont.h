@@ -11,24 +11,24 @@ class ValueLabel;
 
 class SuchKont;
 
-/// What the search offers to one of the screens that open it, and what becomes of a hit there.
+/// The search as one of its callers needs it: which categories it offers and what a hit does.
 struct Suchweg {
     /// Fills the list of categories.
     void (*fuelleKategorien)(ComboBox*);
-    /// Whether the first entry of that list stands for all categories.
+    /// True if the first entry of that list means all categories.
     bool ersterIstAlle;
-    /// The user has opened this row of the results.
+    /// Called when the user opens a row of the results.
     void (*treffer)(SuchKont&, int row, int column);
 };
 
-/// Finds contacts by a word. SuchAufrufer tells which of the registered ways a search goes.
+/// Finds contacts by a word. The session's SuchAufrufer selects the registered Suchweg.
 class SuchKont : public Screen {
     Q_OBJECT
 
 public:
     SuchKont();
 
-    /// Called by a screen before it opens the search with this number in SuchAufrufer.
+    /// Call before opening the search with SuchAufrufer set to `aufrufer`.
     static void registriere(qint16 aufrufer, const Suchweg& weg);
 
     void Form_Load() override;

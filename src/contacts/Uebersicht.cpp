@@ -14,7 +14,7 @@ namespace {
 
 DataTable& grid() { return *the<KontaktUebers>().tblKUebers; }
 
-/// The grid at the category level, whatever table was entered before.
+/// Returns the grid at the category level, whichever table was entered before.
 DataTable& kategorien() {
     DataTable& kategorien = grid();
     kategorien.enter({});
@@ -28,7 +28,7 @@ int findeKategorie(qint32 nummer) {
 
 bool istOffen(int row) { return kategorien().cellText(row, spalteZustand) == u"-"_s; }
 
-/// The number between the brackets of the row's text; 0 if there is none.
+/// The count in the brackets behind the category's name; 0 if there is none.
 qint32 anzahl(int row) {
     const QString text = kategorien().cellText(row, spalteName);
     const qsizetype begin = text.indexOf(u'[');
@@ -39,26 +39,26 @@ qint32 anzahl(int row) {
     return digits.toInt();
 }
 
-/// Makes the row a child table with its columns and no rows; one that is there is replaced.
+/// Gives the row a child table with columns and no rows. Replaces an existing one.
 void legeKindAn(int row) {
     kategorien().createChild(row);
     SetzeKontaktSpalten();
-    // The colours by which contacts stand out from categories.
+    // These colours set contacts off from categories.
     const QColor back(172, 199, 247);
-    // The colour's number less 72, whose lowest part is the red.
+    // The second colour's number is 72 less than the first one's. The lowest byte of the number is red.
     const QColor second(back.red() - 72, back.green(), back.blue());
     grid().setChildColours(row, back, second);
 }
 
 void fuegeKontaktAn(int row, std::span<const Value> zeile) { ImKind(row)->appendRow(zeile); }
 
-/// The row of a contact in the child table that has been entered, -1 if it has none.
+/// The row of a contact in the child table; -1 if it has none.
 int findeKontakt(ImKind& kind, qint32 knr) {
     int row = 0;
     return kind->find(0, row, QString::number(knr)) < 0 ? -1 : row;
 }
 
-/// Writes the cells of a contact that keeps its category; number and picture stay.
+/// Updates the row of a contact that keeps its category. Number and picture stay.
 void aktualisiere(qint32 kategonr, qint32 knr, std::span<const Value> zeile) {
     const int kategorie = findeKategorie(kategonr);
     if (kategorie < 0 || !istOffen(kategorie)) return;
@@ -69,7 +69,8 @@ void aktualisiere(qint32 kategonr, qint32 knr, std::span<const Value> zeile) {
         kind->setCell(kontakt, column, zeile[std::size_t(column)]);
 }
 
-/// A category that is empty then has nothing to open.
+/// Removes the contact from its old category. An emptied category loses its child table, since it has nothing
+/// to open; not so if the contact was opened from the search.
 void verlaesst(const Umzug& umzug) {
     const int kategorie = findeKategorie(umzug.alteNr);
     if (kategorie < 0) return;
@@ -129,7 +130,7 @@ void zeigeNeuen(qint32 kategonr, const QString& name, std::span<const Value> zei
         fuegeKontaktAn(row, zeile);
     else
         legeKindMitPlatzhalterAn(row);
-    // One blank here, where the other routines write two.
+    // One space here; schreibeMarke() writes two.
     kategorien().setCell(row, spalteName, name + u" [%1]"_s.arg(vorher + 1));
 }
 

@@ -26,7 +26,7 @@ const QString modul = u"modKatego"_s;
 
 void zeigeAnzahl(Katego& screen) { screen.lblAnzahl->setText(QString::number(screen.tblKatego->rowCount())); }
 
-/// The one field of the mask.
+/// Sets the name, the only field that is entered.
 Datensatz::Felder felder(ErrorTail& step, const Katego& screen) {
     return
         [&](Recordset& katego) { step([&] { katego.Collect(u"kategorie"_s, screen.txtKatego->text()); }); };

@@ -2,25 +2,26 @@
 
 #include <QString>
 
-/// Categories of contacts. Each write also changes the category level of the contact overview.
+/// Categories of contacts. Each write also updates the categories in the contact overview.
 namespace modKatego {
 
-/// What stands behind the name of a category that can be neither changed nor deleted, in the grid only.
+/// Follows the name of a system category in the grid. Such a category can be neither changed nor deleted.
 extern const QString systemMarke;
 /// True for the names of the two categories that make a contact a member.
 bool istSystemkategorie(const QString& name);
 
-/// Fills the grid once at the start.
+/// Fills the grid. Call once at the start.
 void loadTblKatego();
-/// Shows the row's category in the mask; refuses a system category. The column plays no part.
+/// Shows the category of a row for editing. Refuses a system category with a message box.
+/// `column` is not used.
 void loadKatego(int row, int column);
 void SpeicherKatego();
-/// Writes the mask over the category that it shows; `row` is its row in the grid.
+/// Writes the name over the category that the screen shows; `row` is its grid row.
 void UpdateKatego(int row);
-/// Deletes the category that the mask shows, not its contacts.
+/// Deletes the category that the screen shows, not its contacts; `row` is its grid row.
 void LoescheKatego(int row);
 void KategoAnzeigeLoeschen();
-/// False, after the box, while the name is empty.
+/// False, after a message box, if the name is empty.
 bool KategoEingabeOK();
 
 } // namespace modKatego

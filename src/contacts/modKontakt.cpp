@@ -26,7 +26,7 @@
 
 using namespace Qt::StringLiterals;
 
-// The mask of a contact and the lookups around it. What writes stands in modKontaktSpeichern.cpp.
+// Fills and empties the screen of a contact. Writing is in modKontaktSpeichern.cpp.
 
 namespace modKontakt {
 
@@ -64,7 +64,7 @@ void zeigeMitgliedZu(ErrorTail& step, qint32 knr, Kontakt& screen) {
 } // namespace
 
 void loadKontakt(DataTable* grid, int row, int /*column*/) {
-    // A fifth error may leave the mask filled and hidden. "Neuer Kontakt" would then open with this contact.
+    // A fifth error may leave the screen filled and hidden. "Neuer Kontakt" would then show it.
     const auto schliesse = qScopeGuard([] { unload<Kontakt>(); });
     withErrorTail(modul, u"loadKontakt"_s, [grid, row](ErrorTail& step) {
         qint32 knr = 0;
@@ -76,7 +76,7 @@ void loadKontakt(DataTable* grid, int row, int /*column*/) {
             Kontakt& screen = the<Kontakt>();
             KontaktFelder::zeigeKontakt(step, kontakt, screen);
             if (KontaktFelder::istMitglied(screen)) zeigeMitgliedZu(step, knr, screen);
-            // The mask stays open for long; nothing in the file waits for it.
+            // Closed before the screen is shown: the file must not wait for the user.
             step([&] { kontakt.Close(); });
             screen.ShowModal();
         } else {
@@ -88,7 +88,7 @@ void loadKontakt(DataTable* grid, int row, int /*column*/) {
 
 void SetzeKontaktToolbar(int enabled) {
     if (enabled != 0 && enabled != 1) return;
-    // A mask that has been closed in the meantime comes back with all its keys.
+    // A screen closed in the meantime has nothing to enable: the next one has all its buttons.
     if (enabled == 1 && !isLoaded<Kontakt>()) return;
     for (const QString& key : {u"tbSpeichern"_s, u"tbLoeschen"_s, u"tbAnzLoeschen"_s})
         the<Kontakt>().Toolbar1->setKeyEnabled(key, enabled == 1);

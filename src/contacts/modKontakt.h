@@ -8,28 +8,28 @@ class DataTable;
 /// Contacts and members.
 namespace modKontakt {
 
-/// True if the user who is logged in may use this part.
+/// True if the user who is logged in may use the contacts.
 bool KontaktZugriff_Erlaubt();
 
-/// Fills a list with the categories that stand in the grid of their screen, unless it has as many already.
+/// Fills a list with the categories from the grid of the screen Katego, unless it has as many already.
 void FuelleKategoCombo(ComboBox* combo);
 
-// The mask.
+// The screen of a contact.
 
-/// Reads the contact whose number stands in column 0 of the row into the mask and shows it modally; returns
-/// when the mask is closed. The column plays no part.
+/// Shows the contact whose number is in column 0 of the row. The screen is modal: returns when it is closed.
+/// `column` is not used.
 void loadKontakt(DataTable* grid, int row, int column);
-/// 0 disables, 1 enables what writes in the mask, so that a record can be read but not changed.
+/// 0 disables the buttons that write and makes the fields read-only; 1 enables the buttons.
 void SetzeKontaktToolbar(int enabled);
-/// What only members have is open for entry only while a member category is chosen. The values stay.
+/// Enables the fields of a member if a member category is chosen, otherwise disables them. Their values stay.
 void SetzeMitglFelder();
-/// A contact needs a category, a last name and a first name.
+/// True if category, last name and first name are filled. Shows no message box.
 bool EingabeKontaktOK();
-/// Empties the mask; the tick of the youth group survives.
+/// Empties the screen, except for the tick of the youth group.
 void KontaktAnzeigeLoeschen();
 
 void SpeicherKontakt();
-/// Writes the mask over the contact that it shows.
+/// Writes the screen over the contact that it shows.
 void UpdateKontakt();
 /// The same for a contact that was opened from the search.
 void UpdateSQLKontakt();
@@ -39,10 +39,9 @@ void LoescheKontakt();
 
 void InitTblKUebers();
 void tblKUebersfüllen();
-/// The categories with the counts of their contacts; once at the start.
+/// Lists the categories with the counts of their contacts. Call once at the start.
 void FuelleKontaktUebersicht();
-/// Reads the contacts of a category into its child table, or, while the overview is being filled, only
-/// counts them.
+/// Reads the contacts of a category into the child table of its row. Removes the table if there are none.
 void KategorieAufklappen(int row, qint32 kategonr);
 
 /// Sets the annual fee of all members to unpaid.
@@ -50,11 +49,11 @@ void ReinitialisiereJB();
 
 // The search.
 
-/// Empties the search before it is shown.
+/// Empties the search. Call before showing it.
 void SuchAnzeigeLoeschen();
-/// Fills the search's grid with the contacts whose first name, last name or firm begins with the word;
-/// category 0 is all of them. In the word "*" stands for any signs; "?", "#" and brackets, which only a
-/// pasted word can hold, mean to the database what they mean in any of its patterns.
+/// Fills the search's grid with the contacts whose first name, last name or firm begins with the word.
+/// Category 0 means all categories. A "*" in the word matches any characters. "?", "#" and brackets keep
+/// their meaning in a LIKE pattern; they come only from a pasted word.
 void SucheKontakt(const QString& word, qint32 kategonr);
 
 } // namespace modKontakt

@@ -18,8 +18,8 @@
 
 using namespace Qt::StringLiterals;
 
-// What writes a contact: the tables `Kontakt` and `Mitglied`, and the overview, which is kept in step cell by
-// cell since it is never loaded anew.
+// Writes contacts to the tables `Kontakt` and `Mitglied`. The overview is never loaded again, so its cells
+// are updated one by one.
 
 namespace modKontakt {
 
@@ -27,7 +27,7 @@ namespace {
 
 const QString modul = u"modKontakt"_s;
 
-/// The category and the fields of the mask, in the order in which they are written.
+/// Sets the category and the fields of the screen, in the order in which they are written.
 Datensatz::Felder felder(ErrorTail& step, const Kontakt& screen, qint32 kategonr) {
     return [&step, &screen, kategonr](Recordset& kontakt) {
         step([&] { kontakt.Collect(u"kategonr"_s, kategonr); });
@@ -35,7 +35,7 @@ Datensatz::Felder felder(ErrorTail& step, const Kontakt& screen, qint32 kategonr
     };
 }
 
-/// The number that the mask shows; 0, after the box, where it shows none.
+/// The number that the screen shows; 0, after a message box, if it shows none.
 qint32 nummerDerMaske(ErrorTail& step, const Kontakt& screen) {
     qint32 knr = 0;
     step([&] { knr = CLng(screen.lblKNr->text()); });
@@ -47,7 +47,7 @@ void fuelleMitglied(ErrorTail& step, Recordset& mitglied, const Value& knr, cons
     KontaktFelder::schreibeMitglied(step, mitglied, screen);
 }
 
-/// A member's row as the mask has it; one that is missing is added.
+/// Writes the member's row from the screen. Adds the row if it is missing.
 bool schreibeMitglied(ErrorTail& step, Recordset& mitglied, qint32 knr, const Kontakt& screen) {
     if (Datensatz::finde(step, mitglied, knr)) {
         step([&] { mitglied.Edit(); });
@@ -59,8 +59,7 @@ bool schreibeMitglied(ErrorTail& step, Recordset& mitglied, qint32 knr, const Ko
     return step([&] { mitglied.Update(); });
 }
 
-/// The fields of a contact that its row in the overview is made from. Its birthday stands there as the field
-/// has it.
+/// Reads the fields that the contact's row in the overview shows. The birthday is shown as stored.
 Datensatz::Danach liesZeile(ErrorTail& step, std::vector<Value>& zeile) {
     return Datensatz::lies(step, zeile,
                            {u"knr"_s, u"Firma"_s, u"Anrede"_s, u"Nachname"_s, u"Vorname"_s, u"Tel1"_s,
@@ -83,7 +82,7 @@ void SpeicherKontakt() {
                        [&](Recordset& mitglied) { fuelleMitglied(step, mitglied, zeile[0], screen); }, {});
         };
         if (Datensatz::speichere(step, u"Kontakt"_s, felder(step, screen, *kategonr), danach)) {
-            // The place of the picture.
+            // The picture's cell.
             zeile.insert(zeile.begin() + 1, u" "_s);
             step([&] { Uebersicht::zeigeNeuen(*kategonr, screen.cboKatego->currentText(), zeile); });
             step([&] { Uebersicht::markiere(*kategonr, CLng(zeile[0])); });
@@ -94,14 +93,14 @@ void SpeicherKontakt() {
 
 namespace {
 
-/// Who leaves a member category loses the member's row, also on the way into the other one.
+/// Deletes the member's row of a contact that leaves a member category, even for the other one.
 bool loescheMitglied(ErrorTail& step, Recordset& mitglied, qint32 knr) {
     if (Datensatz::finde(step, mitglied, knr)) return step([&] { mitglied.Delete(); });
     modRun::MeldeNichtVorhanden();
     return true;
 }
 
-/// Writes the member's row that belongs to the changed contact.
+/// Writes, replaces or deletes the member's row of a changed contact.
 bool zieheMitgliedNach(ErrorTail& step, const Uebersicht::Umzug& umzug, const Kontakt& screen) {
     const bool verlaesst = umzug.wechselt() && modKatego::istSystemkategorie(umzug.alterName);
     const bool istMitglied = KontaktFelder::istMitglied(screen);
@@ -112,7 +111,8 @@ bool zieheMitgliedNach(ErrorTail& step, const Uebersicht::Umzug& umzug, const Ko
     });
 }
 
-/// After a save from the search the category alone decides whether there is a member's row.
+/// The same for a contact opened from the search. The new category alone decides: a member
+/// has a row, any other contact has none.
 bool richteMitglied(ErrorTail& step, const Uebersicht::Umzug& umzug, const Kontakt& screen) {
     return Datensatz::schreibe(step, u"Mitglied"_s, [&](Recordset& mitglied) {
         if (KontaktFelder::istMitglied(screen)) return schreibeMitglied(step, mitglied, umzug.knr, screen);
@@ -122,7 +122,8 @@ bool richteMitglied(ErrorTail& step, const Uebersicht::Umzug& umzug, const Konta
 
 using Dazu = bool (*)(ErrorTail& step, const Uebersicht::Umzug& umzug, const Kontakt& screen);
 
-/// Changes the contact that the mask shows, with what `dazu` writes for it, and then the overview.
+/// Changes the contact that the screen shows; `dazu` writes its member's row in the same action. Then updates
+/// the overview.
 void aendere(ErrorTail& step, bool ausSuche, Dazu dazu) {
     const Kontakt& screen = the<Kontakt>();
     const QString kategorie = screen.cboKatego->currentText();

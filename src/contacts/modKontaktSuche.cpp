@@ -14,7 +14,7 @@
 
 using namespace Qt::StringLiterals;
 
-// The search for a contact by a word.
+// Searches contacts by a word.
 
 namespace modKontakt {
 

@@ -13,13 +13,13 @@
 
 using namespace Qt::StringLiterals;
 
-// The overview's grid: filled with the categories once, and with the contacts of a category at each opening.
+// Fills the overview's grid: with the categories once, with the contacts of a category at each opening.
 
 namespace modKontakt {
 
 namespace {
 
-/// Month before day: the birthday in the overview has its two first parts exchanged.
+/// Exchanges day and month: the overview shows a birthday with the month first.
 QString tagUndMonatGetauscht(QString datum) {
     constexpr qsizetype teil = 3;
     constexpr qsizetype laenge = 10;
@@ -28,7 +28,7 @@ QString tagUndMonatGetauscht(QString datum) {
     return datum;
 }
 
-/// A day outside the calendar, as a damaged file may hold it, costs its cell and not the list.
+/// A damaged file may hold a day outside the calendar. Its cell stays empty and the list goes on.
 Value geburtstag(const Recordset::Field& feld) {
     try {
         const Value value = feld.Value();
@@ -52,7 +52,7 @@ void zeigeKontakte(int row, Recordset& kontakte) {
                          vorname.Value(), tel1.Value(), fax.Value(), geburtstag(gebDatum), email.Value()});
 }
 
-/// The count behind the name, and something to open.
+/// Writes the count behind the name and makes the category openable.
 void zaehleKontakte(int row, Recordset& kontakte) {
     kontakte.MoveLast();
     const QString name = the<KontaktUebers>().tblKUebers->cellText(row, Uebersicht::spalteName);
@@ -64,7 +64,7 @@ void liesKategorie(int row, qint32 kategonr, void (*zeige)(int, Recordset&)) {
     Recordset kontakte =
         oeffneAbfrage(u"SELECT * FROM Kontakt WHERE KategoNr = "_s + QString::number(kategonr));
     if (kontakte.RecordCount() == 0) {
-        // What an earlier opening has left there is nobody's any more.
+        // The child table may hold contacts of an earlier opening, which are gone from the category.
         the<KontaktUebers>().tblKUebers->removeChild(row);
         return;
     }

@@ -30,7 +30,7 @@ constexpr std::size_t placeOfEintritt = 13;
 
 bool istMitglied(qint32 kategorie) { return kategorie == aktiv || kategorie == passiv; }
 
-/// What a category's contacts are chosen by; members only with their row in Mitglied.
+/// FROM and WHERE for the contacts of a category. Leaves out members without a row in Mitglied.
 QString herkunft(qint32 kategorie) {
     const QString wahl = u"k.KategoNr = "_s + QString::number(kategorie);
     if (istMitglied(kategorie)) return u" FROM Kontakt k, Mitglied m WHERE k.KNr = m.KNr AND "_s + wahl;
@@ -69,7 +69,8 @@ void schreibeKopf(CsvDatei& datei) {
     datei.endLine();
 }
 
-/// The query gives the fields in the file's order; only members have a day of joining.
+/// The query gives the fields in the file's order, but a date of joining only for members: others get an
+/// empty field.
 void schreibeKontakte(CsvDatei& datei, Recordset& kontakte, bool mitglieder) {
     const std::vector<Recordset::Field> felder = kontakte.Fields();
     for (; !kontakte.Eof(); kontakte.MoveNext()) {
@@ -105,7 +106,7 @@ void schreibeDatei(DataTable& uebersicht) {
 
 void meldeKeinWord() { MsgBox(u"Es ist kein Word verfügbar !"_s, vbInformation); }
 
-/// Null after the box that says there is none.
+/// Null, after a message box, if there is no word processor.
 std::unique_ptr<WordProcessor> erreicheWord() {
     try {
         return runningOrNew<WordProcessor>();
@@ -151,7 +152,7 @@ void schreibeAnschrift(WordProcessor& word) {
     word.insertField(u"Ort"_s);
 }
 
-/// False after the box that tells why the letter could not be stored.
+/// False, after a message box with the reason, if the letter could not be stored.
 bool vollende(WordProcessor& word, const QString& datendatei) {
     QString hinweis;
     try {
@@ -205,7 +206,7 @@ void StarteWordSerienbrief() {
     try {
         beginneBrief(*word);
     } catch (const RuntimeError&) {
-        // Whether a program can be reached may only turn out when it is to do something.
+        // A missing word processor may show only at its first command.
         meldeKeinWord();
     }
 }

@@ -1,13 +1,14 @@
 #pragma once
 
-/// Serial letters to the contacts of the categories that stand open in the overview.
+/// Serial letters to the contacts of the categories that are open in the overview.
 namespace modSerienbrief {
 
-/// Writes the contacts of the opened categories into SERI.txt, the data file of any serial letter, and offers
-/// to start the word processor with it. An error ends it with a box; what was written by then stays.
+/// Writes the contacts of the open categories to SERI.txt, the data file of serial letters, then offers to
+/// start the word processor. After an error shows a message box; the rows written until then stay.
 void ErzeugeSeriendatei();
 
-/// Begins a standard letter over SERI.txt in the word processor. A box tells if there is none.
+/// Begins a standard letter in the word processor with SERI.txt as its data. Shows a message box if there is
+/// no word processor.
 void StarteWordSerienbrief();
 
 } // namespace modSerienbrief

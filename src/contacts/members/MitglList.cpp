@@ -28,7 +28,7 @@ void MitglList::Form_Load() {
 }
 
 void MitglList::Form_Activate() {
-    // The lists here survive a report anyway; whoever comes next has not returned from one.
+    // This screen keeps its lists anyway. NachReport must not reach the next screen, which printed nothing.
     session().NachReport = false;
 }
 
@@ -45,7 +45,7 @@ bool MitglList::Form_KeyDown(int key, Qt::KeyboardModifiers) {
 
 void MitglList::tbSuch_Click() {
     if (!modMitglList::PruefeMListEingabe()) return;
-    // The list of hours is no filter: it alone asks as well.
+    // chkArbAnz is missing: the list of hours is no filter, so it needs the question as well.
     const auto filter = {chkGebDat,  chkEintritt,  chkGeschl, chkJBeitrag, chkStatus,
                          chkBefreit, chkAusgMitgl, chkJG,     chkArbStd};
     if (std::ranges::none_of(filter, &QCheckBox::isChecked) &&

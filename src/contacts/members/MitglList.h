@@ -15,8 +15,8 @@ class TextBox;
 class Toolbar;
 class ValueLabel;
 
-/// Lists members by a free combination of filters, on demand with the hours they owe and have worked; source
-/// of two printed lists.
+/// Lists members by a free combination of filters, on demand with the hours they owe and have worked. Two
+/// printed lists are made from its grid.
 class MitglList : public Screen {
     Q_OBJECT
 
@@ -27,7 +27,7 @@ public:
     void Form_Activate() override;
     bool Form_KeyDown(int key, Qt::KeyboardModifiers modifiers) override;
 
-    /// In the hour view the three columns of hours stand in place of address, telephone and birthday.
+    /// True shows the three columns of hours instead of address, telephone and birthday.
     void setHourView(bool on);
 
     Heading* Ueberschrift;
@@ -88,11 +88,11 @@ private:
     void connectEvents();
 
     Vergleich addBound(const QString& list, const QString& box, const QString& spoken);
-    /// Two options, one of which is always on; `spoken` tells a screen reader what is chosen.
+    /// Adds two options, one of which is always on. Screen readers read the text of `spoken` before each.
     void addOptions(const QCheckBox* spoken, QRadioButton*& first, const QString& firstName,
                     const QString& firstCaption, QRadioButton*& second, const QString& secondName,
                     const QString& secondCaption);
-    /// A click on the check box enables or disables its controls and empties the grid.
+    /// Makes the check box enable and disable its controls and empty the grid.
     void connectFilter(QCheckBox* box, const QVector<QWidget*>& controls);
 
     void tbSuch_Click();

@@ -124,8 +124,8 @@ void MitglList::buildHours() {
 }
 
 void MitglList::layOutFilters() {
-    // A date filter takes four columns; the two options of another one stand below its halves. In the right
-    // half of the frame there are only options.
+    // On the left a date filter takes four columns, each option of the filters below it two. On the right
+    // each option takes one column.
     auto* screen = new QGridLayout(Frame6);
     screen->setHorizontalSpacing(Layout::gap);
     screen->setVerticalSpacing(4);
@@ -159,7 +159,7 @@ void MitglList::layOutFilters() {
     screen->addWidget(hourLine(), 4, right, 1, 3);
     screen->setColumnMinimumWidth(right - 1, 2 * Layout::gap);
     for (const int column : {2, 4}) screen->setColumnStretch(column, 1);
-    // Options are lower than lists and would make uneven lines.
+    // Options are lower than lists: without a minimum height the rows would be uneven.
     for (int row = 0; row < screen->rowCount(); ++row)
         screen->setRowMinimumHeight(row, cboArbJahr->sizeHint().height());
     screen->setColumnStretch(right + 2, 1);
@@ -242,7 +242,7 @@ void MitglList::connectEvents() {
         tblMList->clearRows();
         cboArbJahr->setEnabled(ticked);
     });
-    // What stands there are the hours of another year.
+    // The grid holds the hours of the year chosen before.
     on(cboArbJahr, &ComboBox::Click, [this] {
         if (std::exchange(m_arbJahr, cboArbJahr->currentText()) != m_arbJahr) tblMList->clearRows();
     });

@@ -41,12 +41,12 @@ Recordset oeffne(const QString& what) {
     return oeffneAbfrage(ErstelleFilter(sql));
 }
 
-/// What is the same for all rows of a run.
+/// The values shared by all rows of a run.
 struct Lauf {
     MitglList& screen;
     qint32 jahr = 0;
     QString pfl{};
-    bool vergleicht = screen.chkArbStd->isChecked(); ///< only those above, or those below, the hours owed
+    bool vergleicht = screen.chkArbStd->isChecked(); ///< lists only members above or below the hours owed
     bool geleistet = screen.optStdJa->isChecked();
     bool rechnet = vergleicht || screen.chkArbAnz->isChecked();
 };
@@ -76,7 +76,7 @@ void rechneStunden(ErrorTail& step, const Lauf& lauf, Zeile& zeile) {
     step([&] { zeile[10] = zweiStellen(BerechneSaldo(CDbl(zeile[9]), CDbl(zeile[8]))); });
 }
 
-/// Compares what the row shows. Exactly the hours owed belong to both answers.
+/// Compares the hours that the row shows. A member with exactly the hours owed passes either way.
 bool gehoertDazu(const Lauf& lauf, const Zeile& zeile) {
     if (!lauf.vergleicht) return true;
     const double pflicht = CDbl(session().PflichtStd);
@@ -111,7 +111,7 @@ void LadeAuswahl() {
     withErrorTail(u"modMitglList"_s, u"LadeAuswahl"_s, [](ErrorTail& step) {
         MitglList& screen = the<MitglList>();
         const Hourglass hourglass(screen);
-        // Also where a fifth error ends it.
+        // A guard, because the fifth error leaves the routine by an exception.
         const auto ruhe = qScopeGuard([&] { screen.pb->hide(); });
         Recordset liste, anzahl;
         step([&] {
@@ -164,7 +164,7 @@ QString ErstelleFilter(const QString& sql) {
     if (screen.chkJBeitrag->isChecked()) filter += u" AND m.Bezahlt = "_s + wahrheit(screen.optBezahlt);
     if (screen.chkStatus->isChecked()) filter += u" AND k.KategoNr = "_s + QString::number(kategoNr);
     if (screen.chkBefreit->isChecked()) filter += u" AND m.Befreit = "_s + wahrheit(screen.optBefrJa);
-    // Who has not left has the empty date.
+    // A member who has not left has the empty date, which is 0.
     if (screen.chkAusgMitgl->isChecked())
         filter += screen.optAusgJa->isChecked() ? u" AND m.Austritt <> 0"_s : u" AND m.Austritt = 0"_s;
     if (screen.chkJG->isChecked()) filter += u" AND m.JG = "_s + wahrheit(screen.optJGJa);
@@ -185,7 +185,7 @@ bool PruefeMListEingabe() {
 
 void LeereMListAnzeige() {
     MitglList& screen = the<MitglList>();
-    // A check box that goes off disables what belongs to it.
+    // Unticking a check box also disables its controls.
     for (QCheckBox* box :
          {screen.chkGebDat, screen.chkEintritt, screen.chkGeschl, screen.chkJBeitrag, screen.chkStatus,
           screen.chkBefreit, screen.chkAusgMitgl, screen.chkJG, screen.chkArbStd, screen.chkArbAnz})

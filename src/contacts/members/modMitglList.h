@@ -7,21 +7,21 @@ namespace modMitglList {
 
 /// Runs the query of the ticked filters and fills the grid.
 void LadeAuswahl();
-/// The query with the clauses of the ticked filters behind it. Both halves of a date filter always stand in
-/// the text, so one with its second half empty is refused by the store.
+/// Returns `sql` with the clauses of the ticked filters appended. A date filter appends both comparisons: if
+/// the second date is empty, the query is invalid and the store refuses it.
 QString ErstelleFilter(const QString& sql);
-/// True if the ticked date filters are filled and every date is one; else a box says so. A filter passes with
-/// its first half alone.
+/// True if the ticked date filters are filled and every date is valid, otherwise shows a message box. A
+/// filter passes with its first comparison alone.
 bool PruefeMListEingabe();
-/// Resets the screen.
+/// Resets all filters and empties the grid and the description.
 void LeereMListAnzeige();
 
-/// Opens the contact of a row to be read.
+/// Shows the contact of a row, read-only.
 void zeigeKontakt(int row);
-/// The same for the row on which the context menu was asked for.
+/// The same for the row on which the context menu was opened.
 void mnuMitglInfo_Click();
 
-// Print ("drucken") or show ("vorschau") the grid.
+// Print ("drucken") or preview ("vorschau") the grid.
 void DruckeMitglListe(const QString& wort); ///< as the list of addresses
 void DruckeArbListe(const QString& wort);   ///< as the overview of hours
 

@@ -13,13 +13,13 @@
 
 using namespace Qt::StringLiterals;
 
-// The list of members on paper: addresses or hours.
+// Prints the list of members, with addresses or with hours.
 
 namespace modMitglList {
 
 namespace {
 
-/// Where a field of the staging table comes from.
+/// A field of the staging table and the grid column that it is filled from.
 struct Spalte {
     int column;
     QString field;
