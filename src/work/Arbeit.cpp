@@ -42,9 +42,9 @@ void Arbeit::Form_Load() {
     modArbeit::LeereArbEingabe();
     loadcboArbJahre(cboArbJahr);
     if (cboArbJahr->count() > 0) cboArbJahr->setText(QString::number(session().Startjahr));
-    // The first way to the hours ends what stands open elsewhere, as a press in a toolbar does.
+    // Making this screen gives up records open on other screens, as a press in a toolbar does.
     Screens::giveUpRecords();
-    // From here on a year stands for the wish to see it.
+    // Connected only now: filling the list must not load a year.
     on(cboArbJahr, &ComboBox::Click, [this] { cboArbJahr_Click(); });
 }
 
@@ -69,7 +69,7 @@ bool Arbeit::Form_KeyDown(int key, Qt::KeyboardModifiers modifiers) {
 }
 
 void Arbeit::drucke(const QString& wort) {
-    // The press ends the editing of an opened booking, which must not stand there as a new one afterwards.
+    // The press gives up the open booking. If it stayed on the screen, the next save would add it again.
     modArbeit::LeereOffenen();
     druckeFuer(*this, [&] { modArbeit::DruckeArbListe(wort); });
 }
@@ -86,7 +86,7 @@ void Arbeit::cmdMList_Click() {
 
 namespace {
 
-/// Without a member on the screen there is no number to convert: what needs it is passed over.
+/// Skips a statement that fails on a number missing from the screen, as happens while no member is shown.
 template<typename Statement>
 void soweitMitglied(Statement&& statement) {
     try {
@@ -108,7 +108,7 @@ void Arbeit::cboArbJahr_Click() {
         soweitMitglied([] { modArbeit::zeigePflichtStd(); });
         soweitMitglied([] { modArbeit::zeigeSaldo(); });
     } catch (const RuntimeError&) {
-        // The list is then as far as it came; the next pick of a year begins anew.
+        // The list stays incomplete. The next choice of a year loads it again.
     }
 }
 

@@ -14,8 +14,8 @@ class TextBox;
 class Toolbar;
 class ValueLabel;
 
-/// The work ledger: the bookings of one member in one year, with an entry form beside them. Whose they are
-/// and what they come to stands in the captions alone.
+/// The work ledger: the bookings of one member in one year, with input fields beside them. Only the value
+/// labels hold the member and the sums.
 class Arbeit : public Screen {
     Q_OBJECT
 
@@ -27,7 +27,7 @@ public:
     void Form_Deactivate() override;
     bool Form_KeyDown(int key, Qt::KeyboardModifiers modifiers) override;
 
-    /// The next activation finds a member here and does not ask for one.
+    /// Call before showing the screen with a member: the next activation then does not open the search.
     void erwarteMitglied() { m_uebergabe = true; }
 
     Heading* Ueberschrift;

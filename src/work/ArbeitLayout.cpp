@@ -105,7 +105,7 @@ void Arbeit::layOutMember() {
     for (const int between : {middle - 1, right - 1}) screen->setColumnMinimumWidth(between, Layout::gap);
     screen->setColumnStretch(middle + 1, 1);
     screen->setColumnStretch(right + 1, 3);
-    // A name as long as the file holds it must not make the window wider.
+    // A long name must not make the window wider.
     for (ValueLabel* name : {lblNName, lblVName})
         name->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     Frame3->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);

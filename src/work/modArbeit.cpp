@@ -24,8 +24,7 @@
 
 using namespace Qt::StringLiterals;
 
-// The bookings: reading, writing and deleting single ones. What belongs to a member as a whole is in
-// modArbeitMitglied.cpp.
+// Reads, writes and deletes single bookings. A member's whole year is in modArbeitMitglied.cpp.
 
 namespace modArbeit {
 
@@ -33,7 +32,7 @@ namespace {
 
 const QString modul = u"modArbeit"_s;
 
-/// The fields of a booking that a change writes as well, in the order in which they are written.
+/// Sets the fields that new and changed bookings have in common, in the order in which they are written.
 void schreibeFelder(ErrorTail& step, Recordset& arbeit, const Arbeit& screen) {
     step([&] { arbeit.Collect(u"jahr"_s, CLng(screen.cboArbJahr->currentText())); });
     step([&] { arbeit.Collect(u"Datum"_s, screen.pvDate->date()); });
@@ -41,7 +40,7 @@ void schreibeFelder(ErrorTail& step, Recordset& arbeit, const Arbeit& screen) {
     step([&] { arbeit.Collect(u"Notiz"_s, screen.txtArbNotiz->Text()); });
 }
 
-/// The fields of a booking that its row in the grid is made from.
+/// Reads the fields that a booking's grid row shows.
 Datensatz::Danach lies(ErrorTail& step, std::vector<Value>& zeile) {
     return Datensatz::lies(step, zeile, {u"ArbNr"_s, u"knr"_s, u"ArbStd"_s, u"Datum"_s});
 }
@@ -52,8 +51,8 @@ void haengeAn(ErrorTail& step, std::vector<Value> zeile, const Arbeit& screen) {
     screen.tblArbStd->markRow(screen.tblArbStd->rowCount());
 }
 
-/// The hours stand as they were typed until the next load. Another year or another member may have come to
-/// the screen since the booking was opened: then it has no row here.
+/// Shows a changed booking, with the hours as typed until the next load. The booking has no row if the screen
+/// has changed to another year or member since it was opened.
 void zeigeGeaenderten(ErrorTail& step, const std::vector<Value>& zeile, const Arbeit& screen) {
     const int row = screen.tblArbStd->rowOf(screen.lblArbNr->text());
     const auto mitglied = [&] { return CLng(zeile[1]) == CLng(screen.lblKNr->text()); };
@@ -66,7 +65,7 @@ void zeigeGeaenderten(ErrorTail& step, const std::vector<Value>& zeile, const Ar
     }
 }
 
-/// A booking that came without a date opens with the empty one.
+/// A stored booking may have no date: it opens with the empty one.
 Date datumOderLeer(const Value& datum) { return datum.isNull() ? Date() : CDate(datum); }
 
 void zeigeNeueSumme(ErrorTail& step, const Arbeit& screen) {
@@ -131,7 +130,7 @@ void loadArbeitsVorgang(int row, int /*column*/) {
             arbeit = oeffneAbfrage(u"SELECT ArbNr, Datum, ArbStd, Notiz FROM Arbeit WHERE ArbNr = "_s +
                                    screen.tblArbStd->cellText(row, 0));
         });
-        // Hours that a failed booking never got stand as an empty text.
+        // A booking that failed halfway may have no hours: they are shown as an empty text.
         const auto text = [&](const QString& field) { return Format(arbeit.Collect(field), QString()); };
         if (step.test([&] { return arbeit.RecordCount() == 1; })) {
             step([&] { screen.lblArbNr->setText(text(u"ArbNr"_s)); });
@@ -169,7 +168,7 @@ void LeereArbAnzeige() {
 
 bool PruefeArbEingabe() {
     const Arbeit& screen = the<Arbeit>();
-    // A date that nobody can read would be booked as another one.
+    // An unreadable date would be booked as a different one.
     return modRun::fehlerfrei(modRun::erstesLeere({{screen.cmdSuch, screen.lblKNr->text().isEmpty()},
                                                    {screen.pvDate, !screen.pvDate->isReadable()},
                                                    screen.txtArbStd}));

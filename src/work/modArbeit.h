@@ -7,43 +7,45 @@ class ComboBox;
 /// The work ledger.
 namespace modArbeit {
 
-/// True if the user who is logged in may use this part.
+/// True if the user who is logged in may use the work ledger.
 bool ArbeitsZugriff_Erlaubt();
 
-/// Writes a row with last year's balance for every member who is not exempt, into the current year.
+/// Books the balance of `altesJahr` into the session's AktJahr for every member who is not exempt.
 void UebernehmeStunden(qint32 altesJahr);
-/// Removes the bookings of the first of January of a year that the clock has left backwards.
+/// Deletes all bookings of 1 January of `altesJahr`. Call if the clock was set back to an earlier year.
 void Ueberpruefe_auf_Uebertrag(qint32 altesJahr);
 
-/// Takes the member of a row of the contact search into the ledger.
+/// Shows the member in a row of the contact search. Refuses, with a message box, a contact who is no member
+/// or is exempt.
 void UebernehmeKontakt(int row);
-/// Takes the member into the ledger on whose row in the member list the menu was opened.
+/// The same for the row of the member list on which the context menu was opened. Shows the ledger.
 void mnuArbContr_Click();
 
-/// Fills the ledger's grid with the bookings of a member in a year; gives their hours.
+/// Fills the ledger's grid with the bookings of a member in a year. Returns their hours.
 double loadTblArbeit(qint32 knr, qint32 jahr);
-/// Reads the booking of a row of the ledger's grid into the entry fields.
+/// Reads the booking in a row of the ledger's grid into the input fields. `column` is not used.
 void loadArbeitsVorgang(int row, int column);
-/// The entry fields as a new booking of the member and the year on show.
+/// Stores the input fields as a new booking of the member and the year shown.
 void SpeicherStunden();
-/// The entry fields over the opened booking, which also goes to the year on show; `row` is its grid row.
+/// Writes the input fields over the open booking and moves it to the year shown. `row` is not used: the
+/// booking is found by its number.
 void UpdateStunden(int row);
-/// Deletes the opened booking; `row` is its grid row.
+/// Deletes the open booking. `row` is not used, as above.
 void LoescheStunden(int row);
 
 void LeereArbEingabe();
-/// Empties the entry fields if they show a stored booking. A new one that is being typed stays.
+/// Empties the input fields if they show a stored booking. Keeps a new booking that is being typed.
 void LeereOffenen();
 void LeereArbAnzeige();
-/// True if there are hours, a member and a date that can be read; else a box says so.
+/// True if a member, hours and a readable date are there, otherwise shows a message box.
 bool PruefeArbEingabe();
 
-/// The hours owed, from the parameters' grid.
+/// Shows the hours owed, from the session's PflichtStd.
 void zeigePflichtStd();
-/// The balance of the two sums as they stand on the screen.
+/// Shows the balance of the two sums on the screen. Throws RuntimeError if one is empty.
 void zeigeSaldo();
 
-/// Prints ("drucken") or shows ("vorschau") the grid as the member's work sheet.
+/// Prints ("drucken") or previews ("vorschau") the grid as the member's work sheet.
 void DruckeArbListe(const QString& wort);
 
 } // namespace modArbeit

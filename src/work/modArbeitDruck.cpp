@@ -11,13 +11,13 @@
 
 using namespace Qt::StringLiterals;
 
-// The work sheet of a member on paper.
+// Prints the work sheet of a member.
 
 namespace modArbeit {
 
 namespace {
 
-/// Hours that a failed booking never got are none on paper.
+/// Null if the grid shows no hours: a booking that failed halfway may have none.
 Value stundenWieGezeigt(const DataTable& grid, int row) {
     const QString text = grid.cellText(row, 2);
     return text.isEmpty() ? Value() : Value(CDbl(text));
@@ -39,7 +39,7 @@ void richteEin(ErrorTail& step, Report& report) {
     };
     caption(u"Section2"_s, u"lblUebSchrift"_s,
             Berichte::titelArbListe() + u' ' + screen.cboArbJahr->currentText());
-    // The sums are those on the screen, whatever the rows come to.
+    // The sums are taken from the screen, not added up from the rows.
     caption(u"Section5"_s, u"lblNName"_s, screen.lblNName->text());
     caption(u"Section5"_s, u"lblVName"_s, screen.lblVName->text());
     caption(u"Section5"_s, u"lblMitglNr"_s, screen.lblKNr->text());

@@ -26,7 +26,7 @@
 
 using namespace Qt::StringLiterals;
 
-// How a member comes into the ledger, and what his year comes to.
+// Shows a member in the ledger, with the year's hours and balance.
 
 namespace modArbeit {
 
@@ -34,12 +34,12 @@ namespace {
 
 const QString modul = u"modArbeit"_s;
 
-/// What a list tells of the member in one of its rows.
+/// A member as read from a row of a list.
 struct Mitglied {
     QString knr;
     QString nachname;
     QString vorname;
-    QString titel; ///< his name in the caption of the screen
+    QString titel; ///< the name in the screen's caption
 };
 
 void meldeBefreit() {
@@ -50,7 +50,7 @@ void meldeBefreit() {
         vbInformation);
 }
 
-/// False, after a box, for a number that is no member's and for a member who owes no hours.
+/// False, after a message box, if the number is no member's or the member is exempt.
 bool schuldetStunden(ErrorTail& step, const QString& knr) {
     Recordset mitglied;
     bool befreit = false;
@@ -67,7 +67,7 @@ bool schuldetStunden(ErrorTail& step, const QString& knr) {
 
 void zeigeMitglied(ErrorTail& step, const Mitglied& mitglied) {
     Arbeit& screen = the<Arbeit>();
-    // A booking that stands open is the former member's: it must not be taken for the new one's.
+    // An open booking belongs to the member shown before. Saving must not change it under the new one.
     LeereOffenen();
     screen.giveUpRecord();
     screen.lblKNr->setText(mitglied.knr);
@@ -110,7 +110,7 @@ void mnuArbContr_Click() {
         });
         const auto& [knr, nachname, vorname, strasse] = zeile;
         if (!schuldetStunden(step, knr)) return;
-        // On this way the caption reads street and first name; the labels below it read correctly.
+        // From the member list the caption shows street and first name. The labels show the right name.
         zeigeMitglied(step, {knr, nachname, vorname, strasse + u' ' + vorname});
         Arbeit& screen = the<Arbeit>();
         screen.cmdMList->setEnabled(true);

@@ -12,7 +12,7 @@
 
 using namespace Qt::StringLiterals;
 
-// The carry-over of work hours at the change of the year.
+// Carries work hours over at the change of the year.
 
 namespace modArbeit {
 
@@ -20,13 +20,13 @@ namespace {
 
 const auto titel = u"Uferwart [Arbeitscontrolling]"_s;
 
-/// Every member who is not exempt, also one who has left.
+/// Query of all members who are not exempt, including those who have left.
 QString nichtBefreite(const QString& what) {
     return u"SELECT %1 FROM Kontakt k, Mitglied m WHERE k.KNr = m.KNr AND m.Befreit = False"_s.arg(what);
 }
 
-/// ErmittleStunden and BerechneSaldo count errors of their own; those of this run are counted on behind them,
-/// or a failure that comes with every member would never reach its fifth box.
+/// ErmittleStunden restarts the count of errors, so the count is kept over its call. Otherwise a failure at
+/// every member would never reach its fifth message box.
 double ermittleUebertrag(qint32 knr, qint32 altesJahr, double pflicht) {
     const KeptErrorCount kept;
     return BerechneSaldo(ErmittleStunden(knr, altesJahr), pflicht);
@@ -56,7 +56,7 @@ bool istKeiner(const Recordset& anzahl) {
 
 void uebertrageAlle(ErrorTail& step, Recordset& mitglieder, Recordset& arbeit, double pflicht,
                     qint32 altesJahr) {
-    // A walk that can't begin has no end either.
+    // If MoveFirst fails, no row is current and Eof() tells nothing.
     if (!step([&] { mitglieder.MoveFirst(); })) return;
     step.forEachRow(mitglieder, [&] {
         std::optional<qint32> knr;
