@@ -90,8 +90,9 @@ TEST(ReportPainterTest, ALabelThatGrowsShrinksFirstThenMovesWhatIsBelow) {
             .growing(7.5);
         head.addLine(u"darunter"_s, {0, 60, 400, 0});
         const auto document = report.document();
-        EXPECT_EQ(document->section(ReportDocument::PageHeader).height(), c.height) << c.words;
-        EXPECT_TRUE(hasInk(pictureOf(report, 0), {0, c.height - 41, 400, 3})) << c.words;
+        const int height = document->section(ReportDocument::PageHeader).height();
+        EXPECT_NEAR(height, c.height, 1) << c.words << ", as high as this release's font sets its lines";
+        EXPECT_TRUE(hasInk(pictureOf(report, 0), {0, height - 41, 400, 3})) << c.words;
         EXPECT_EQ(head.height(), 100) << "the report is ready for the next text";
     }
 }
