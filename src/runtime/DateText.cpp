@@ -155,8 +155,8 @@ qsizetype timeStart(QStringView text) {
     return start;
 }
 
-// Written digit by digit: a list of thousands of birthdays would spend most of its time in Qt's parsing of the
-// pattern.
+// Written digit by digit: a list of thousands of birthdays would spend most of its time in Qt's parsing of
+// the pattern.
 
 void putDigits(QString& text, int last, int digits, int number) {
     QChar* place = text.data() + last;

@@ -19,7 +19,8 @@ bool Database::isSound() const {
 
 Recordset Database::OpenRecordset(const QString& nameOrSelect, RecordsetType type) {
     if (!isOpen()) throw runtimeError(RuntimeError::objectNotSet);
-    if (type == dbOpenDynaset) return Recordset(std::make_shared<cursors::QueryCursor>(m_connection, nameOrSelect));
+    if (type == dbOpenDynaset)
+        return Recordset(std::make_shared<cursors::QueryCursor>(m_connection, nameOrSelect));
     const TableSpec* table = findTable(nameOrSelect);
     if (table == nullptr) throw runtimeError(RuntimeError::tableNotFound, nameOrSelect);
     return Recordset(std::make_shared<cursors::TableCursor>(m_connection, *table));
