@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 Info::Info()
     : Screen(u"Info"_s, u"Info"_s) {
-    // Who looks something up here in the middle of an entry finds the entry as it was.
+    // The screen below keeps its entry: Info may be opened in the middle of one.
     standAlone();
     lblTitle = Layout::label(u"lblTitle"_s, u"Uferwart Version 2.0"_s, this);
     QFont titleFont(u"Comic Sans MS"_s);

@@ -6,7 +6,7 @@ class QGroupBox;
 class QLabel;
 class QPushButton;
 
-/// What the program is, and the club that uses it.
+/// The name of the program, its purpose, and the club that uses it.
 class Info : public Screen {
     Q_OBJECT
 

@@ -29,9 +29,9 @@ namespace {
 
 const QString modul = u"modBenutzer"_s;
 
-/// Where the rights begin in the grid of groups; before them stand number and name.
+/// The first column of the rights in the grid of groups, after number and name.
 constexpr int ersteRechteSpalte = 2;
-/// Where the grid of users shows the group's name.
+/// The column of the group's name in the grid of users.
 constexpr int gruppenSpalte = 3;
 
 void zeigeAnzahl(ValueLabel* label, const DataTable* grid) {
@@ -286,7 +286,7 @@ bool PruefeGruppenEingabe() { return modRun::fehlerfrei(modRun::erstesLeere({the
 
 void LadeGruppenCombo(ComboBox* combo) {
     const DataTable* gruppen = the<Benutzer>().tblZugriff;
-    // What stands in the box belongs to the user who is being entered.
+    // The text in the box belongs to the user who is being entered.
     const QString text = combo->currentText();
     combo->clear();
     for (int row = 0; row < gruppen->rowCount(); ++row) combo->AddItem(gruppen->cellText(row, 1));

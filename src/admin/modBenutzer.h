@@ -60,7 +60,7 @@ bool PruefeGruppenEingabe();
 /// The list of groups, as they stand in the grid.
 void LadeGruppenCombo(ComboBox* combo);
 
-/// What save and delete do on the page of users and of groups.
+/// The routines behind the buttons save and delete, for the page of users and that of groups.
 Erfassung benutzerErfassung();
 Erfassung gruppenErfassung();
 

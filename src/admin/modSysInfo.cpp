@@ -19,7 +19,7 @@ struct Tool {
     QString page{};
 };
 
-/// Where desktops keep what they tell about the machine, the settings programs' own pages first.
+/// The programs of the desktops that tell about the machine, those of the settings first.
 QVector<Tool> placesToLook() {
     const QString gnome = u"gnome-control-center"_s;
     return {{gnome, {u"info-overview"_s}, u"gnome-info-overview-panel.desktop"_s},

@@ -61,7 +61,7 @@ void showParameter(const Parameter& which) {
     grid->markRow(row);
 }
 
-/// What other screens need of the list, as it shows it.
+/// Copies the parameters that other screens need into the session, as the list shows them.
 void merkeParameter(const DataTable& grid) {
     const auto wert = [&](const QString& label) {
         int row = 0;

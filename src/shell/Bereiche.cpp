@@ -43,21 +43,22 @@ const std::vector<Bereich>& bereiche() {
     static const QString system = u"System"_s;
     static const QString organisation = u"Organisation"_s;
     static const std::vector<Bereich> all = {
-        {Maske::von<Benutzer>(), u"Zugriff"_s, system, u"Benutzer &&\r\nZugriffsverw."_s,
+        {ScreenType::of<Benutzer>(), u"Zugriff"_s, system, u"Benutzer &&\r\nZugriffsverw."_s,
          u"Benutzerverwaltung"_s, 2, &ladeBenutzer},
-        {Maske::von<System>(), u"Parameter"_s, system, u"Systempar."_s, u"System"_s, 4,
+        {ScreenType::of<System>(), u"Parameter"_s, system, u"Systempar."_s, u"System"_s, 4,
          &modSystem::loadTblSystem},
-        {Maske::von<Basis>(), u"Basisdaten"_s, system, u"Basisdaten"_s, u"Basis"_s, 1, &ladeBasis},
-        {Maske::von<Fangbuch>(), u"Fangbuch"_s, organisation, u"Fangbuch"_s, u"Fangbuch"_s, 7, &ladeFangbuch},
-        {Maske::von<Fangauswertung>(), u"Fangauswertung"_s, organisation, u"Fangauswertung"_s,
+        {ScreenType::of<Basis>(), u"Basisdaten"_s, system, u"Basisdaten"_s, u"Basis"_s, 1, &ladeBasis},
+        {ScreenType::of<Fangbuch>(), u"Fangbuch"_s, organisation, u"Fangbuch"_s, u"Fangbuch"_s, 7,
+         &ladeFangbuch},
+        {ScreenType::of<Fangauswertung>(), u"Fangauswertung"_s, organisation, u"Fangauswertung"_s,
          u"Fangauswertung"_s},
-        {Maske::von<KontaktUebers>(), u"Kontakte"_s, organisation, u"Kontakte u.\r\nMitgl."_s,
+        {ScreenType::of<KontaktUebers>(), u"Kontakte"_s, organisation, u"Kontakte u.\r\nMitgl."_s,
          u"KontUebers"_s, 3, &modKontakt::FuelleKontaktUebersicht},
-        {Maske::von<Arbeit>(), u"Arbeit"_s, organisation, u"Arb.-Std.-\r\nControlling"_s, u"Arbeit"_s},
-        {Maske::von<Besatzung>(), u"Besatzung"_s, organisation, u"Besatz.-Liste"_s, u"Besatz"_s, 5,
+        {ScreenType::of<Arbeit>(), u"Arbeit"_s, organisation, u"Arb.-Std.-\r\nControlling"_s, u"Arbeit"_s},
+        {ScreenType::of<Besatzung>(), u"Besatzung"_s, organisation, u"Besatz.-Liste"_s, u"Besatz"_s, 5,
          &modBesatzList::loadTblBList},
-        {Maske::von<MitglList>(), u"Kontakte"_s},
-        {Maske::von<Katego>(), u"Kontakte"_s, {}, {}, {}, 6, &modKatego::loadTblKatego},
+        {ScreenType::of<MitglList>(), u"Kontakte"_s},
+        {ScreenType::of<Katego>(), u"Kontakte"_s, {}, {}, {}, 6, &modKatego::loadTblKatego},
     };
     return all;
 }

@@ -6,12 +6,12 @@
 #include <vector>
 
 /// A screen by its type, so that it can be asked for without being made.
-struct Maske {
-    Screen& (*zeig)();    ///< makes it if there is none
-    Screen* (*geladen)(); ///< null if there is none
+struct ScreenType {
+    Screen& (*make)();   ///< makes it if there is none
+    Screen* (*loaded)(); ///< null if there is none
 
     template<typename T>
-    static Maske von() {
+    static ScreenType of() {
         return {[]() -> Screen& { return the<T>(); },
                 []() -> Screen* { return isLoaded<T>() ? &the<T>() : nullptr; }};
     }
@@ -19,7 +19,7 @@ struct Maske {
 
 /// An area of the program: a screen that can be on the stage, and its item in the navigation bar.
 struct Bereich {
-    Maske maske;
+    ScreenType screen;
     QString key;             ///< of the item; in small letters the name of its icon in assets/icons
     QString gruppe = {};     ///< of the bar; empty for a screen without an item, shown as part of item `key`
     QString aufschrift = {}; ///< of the item

@@ -24,7 +24,7 @@ namespace {
 /// The key of the item to which a screen belongs; empty for one of none, such as a preview.
 QString keyOf(const Screen* screen) {
     for (const Bereich& bereich : bereiche())
-        if (bereich.maske.geladen() == screen) return bereich.key;
+        if (bereich.screen.loaded() == screen) return bereich.key;
     return {};
 }
 
@@ -35,7 +35,7 @@ void schliesseVorschau() {
 
 /// Makes the item the current one, then binds and shows its screen.
 void showScreen(const QString& key) {
-    Screen& target = std::ranges::find(bereiche(), key, &Bereich::key)->maske.zeig();
+    Screen& target = std::ranges::find(bereiche(), key, &Bereich::key)->screen.make();
     session().AktBarItem = the<Main>().ButtnBar->item(key);
     binde(session().AktBarItem, target);
     target.Show();
@@ -80,7 +80,7 @@ void markiere(NavigationBar& bar, const Screen* front) {
 
 void VersteckeFormen() {
     for (const Bereich& bereich : bereiche())
-        if (Screen* screen = bereich.maske.geladen()) screen->Hide();
+        if (Screen* screen = bereich.screen.loaded()) screen->Hide();
     if (isLoaded<MitglList>()) modMitglList::LeereMListAnzeige();
     if (isLoaded<Hinter>()) the<Hinter>().Hide();
 }

@@ -23,7 +23,7 @@ namespace modBasis {
 
 namespace {
 
-/// What tells kinds of fish and waters apart; the routines are the same for both.
+/// The differences between kinds of fish and waters. The routines are the same for both.
 struct Art {
     QString tabelle;
     QString feldNr;

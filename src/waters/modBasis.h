@@ -40,7 +40,7 @@ void LoescheGewaesser(int row);
 void loadFAuswahl(int row, int column);
 void loadGAuswahl(int row, int column);
 
-/// What save and delete do on the page of fish and of waters.
+/// The routines behind the buttons save and delete, for the page of fish and that of waters.
 Erfassung fischErfassung();
 Erfassung gewaesserErfassung();
 

@@ -16,7 +16,7 @@ namespace modBesatzList {
 namespace {
 
 void schreibeZeile(CsvDatei& datei, const DataTable& grid, int row) {
-    // The number stands as it is, blanks and all; the texts end with their last sign.
+    // The number is written with its spaces; the texts end with their last character.
     datei.writeHead(grid.cellText(row, 0));
     for (int column = 1; column <= 4; ++column) datei.writeText(grid.cellText(row, column));
     datei.endLine();

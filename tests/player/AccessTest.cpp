@@ -90,7 +90,7 @@ TEST(Access, EveryScreenHasAPageAndItsControlsNamesAndLettersOfTheirOwn) {
         if (the<SuchKont>().isModalNow()) the<SuchKont>().Hide();
     });
     search.start(1);
-    for (const Bereich& bereich : bereiche()) expectAccess(bereich.maske.zeig());
+    for (const Bereich& bereich : bereiche()) expectAccess(bereich.screen.make());
     for (Screen* screen : std::initializer_list<Screen*>{&the<Kontakt>(), &the<SuchKont>(), &the<Info>()})
         expectAccess(*screen);
 }

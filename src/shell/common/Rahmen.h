@@ -4,7 +4,7 @@
 
 class Screen;
 
-/// What a screen may ask of the frame around it. The frame knows all screens; a screen knows only this.
+/// The requests that a screen can make of the frame. The frame knows all screens, a screen knows only this.
 class Rahmen {
 public:
     virtual ~Rahmen() = default;

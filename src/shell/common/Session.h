@@ -8,7 +8,7 @@
 
 class BarItem;
 
-/// What all routines share while the program runs: plain values that any routine may read and write. Safe
+/// The values that all routines share while the program runs. Any routine may read and write them. Safe
 /// because there is one thread.
 struct Session {
     Workspace AktWorkspace;

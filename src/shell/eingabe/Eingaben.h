@@ -4,7 +4,7 @@
 #include <QLineEdit>
 #include <initializer_list>
 
-// What a form must hold before it is saved.
+// Checks that the boxes of a screen are filled, before they are saved.
 
 namespace modRun {
 

@@ -5,13 +5,13 @@
 class DataTable;
 struct SelectionStyle;
 
-// What all grids do alike.
+// Routines for every grid of the program.
 
 namespace modRun {
 
 /// The neutral colours in which the selected row of a grid shows while the grid has the focus.
 void SetzeGridFarben(SelectionStyle& style);
-/// What every grid does when it receives and when it loses the focus.
+/// Connects the routines that every grid runs when it receives and when it loses the focus.
 void connectGridFocus(DataTable* grid);
 /// For the grids that lose their selection also when they receive the focus.
 void leereAuswahlBeiFokus(DataTable* grid);
