@@ -18,10 +18,10 @@ void Benutzer::Form_Paint() {
 void Benutzer::Form_Deactivate() { modBenutzer::LeereBenutzerAnzeige(); }
 
 void Benutzer::tabBV_Click(int page) {
-    // Groups may have come, gone or been renamed on the page that is left.
+    // Groups may have been added, deleted or renamed on the group page.
     if (m_page == groupPage) modBenutzer::LadeGruppenCombo(cboBG);
     m_page = page;
-    // A page that comes to the front is a face painted anew: its counts are put right.
+    // Form_Paint sets the counts of both pages.
     update();
 }
 
@@ -37,6 +37,7 @@ void Benutzer::tblZugriff_OnGridCellOpen(int row) {
 }
 
 void Benutzer::tblZugriff_OnGridLostFocus() {
-    // The other grid's count: with fewer users than groups, a group far down stays marked.
+    // Takes the row count of the users' grid: with more groups than users, a group in a row past that count
+    // stays marked.
     tblZugriff->selectRows(0, tblBenutzer->rowCount(), false);
 }

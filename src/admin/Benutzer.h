@@ -16,7 +16,7 @@ class TextBox;
 class Toolbar;
 class ValueLabel;
 
-/// The users of the program and the groups that carry their rights, a page each.
+/// The users of the program on one page, the groups with the users' rights on the other.
 class Benutzer : public Screen {
     Q_OBJECT
 
@@ -57,7 +57,7 @@ public:
     QLabel* lblBGru;
     TextBox* txtGruppe;
     QLabel* lblZA;
-    QVector<QCheckBox*> Zugriffe; ///< one for each right, in the order of rechte()
+    QVector<QCheckBox*> Zugriffe; ///< one per right, in the order of rechte()
     QGroupBox* Frame1;
     DataTable* tblZugriff;
     QLabel* Label1;

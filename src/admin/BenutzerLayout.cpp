@@ -27,13 +27,13 @@ TextBox* nameBox(const QString& name, QWidget* parent) {
     return box;
 }
 
-/// Takes the room of two fields, as a name of fifty characters needs it.
+/// Adds a field across all columns, wide enough for a name of fifty characters.
 void addWideField(QGridLayout* screen, int row, QLabel* label, QWidget* field) {
     Layout::addField(screen, row, label, field);
     screen->addWidget(field, row, 1, 1, -1);
 }
 
-/// The form above, the grid below with what room is left.
+/// Makes a page: the entry fields at the top, the grid in the remaining space.
 QWidget* page(QGroupBox* entry, QGroupBox* list) {
     auto* made = new QWidget;
     auto* column = new QVBoxLayout(made);
@@ -73,7 +73,7 @@ Benutzer::Benutzer()
 }
 
 void Benutzer::buildToolbar() {
-    // The page in front decides at the moment of the press.
+    // Evaluated at each press, since the page in front changes.
     const auto erfassung = [this] {
         return tabBV->currentIndex() == userPage ? modBenutzer::benutzerErfassung()
                                                  : modBenutzer::gruppenErfassung();
@@ -151,7 +151,7 @@ void Benutzer::buildGroupEntry() {
     Layout::addField(screen, 1, lblBGru, txtGruppe);
     screen->addWidget(lblZA, 2, 0, Qt::AlignTop);
     addRights(screen, 2);
-    // On one line with the first row of boxes.
+    // Puts the label on one line with the first row of check boxes.
     lblZA->setMinimumHeight(Zugriffe.first()->sizeHint().height());
     screen->setColumnStretch(1, 1);
 }

@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 Info::Info()
     : Screen(u"Info"_s, u"Info"_s) {
-    // The screen below keeps its entry: Info may be opened in the middle of one.
+    // A window of its own, so that an unfinished entry on another screen stays as it is.
     standAlone();
     lblTitle = Layout::label(u"lblTitle"_s, u"Uferwart Version 2.0"_s, this);
     QFont titleFont(u"Comic Sans MS"_s);

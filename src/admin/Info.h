@@ -6,7 +6,7 @@ class QGroupBox;
 class QLabel;
 class QPushButton;
 
-/// The name of the program, its purpose, and the club that uses it.
+/// Shows the program's name and version and the address of the club.
 class Info : public Screen {
     Q_OBJECT
 
@@ -16,7 +16,7 @@ public:
     void Form_Load() override;
     bool Form_KeyDown(int key, Qt::KeyboardModifiers modifiers) override;
 
-    /// The club's address as last saved into the labels.
+    /// Shows the club's address as last saved. Call after each change of Session::Anschrift.
     void zeigeAnschrift();
 
     QLabel* lblTitle;

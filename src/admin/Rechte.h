@@ -3,14 +3,15 @@
 #include <QString>
 #include <vector>
 
-/// A right of a group: a Boolean field of Gruppen, its check box and its column in the grid of groups.
+/// A right of a group: a Boolean field of the table Gruppen, with a check box and a column in the grid of
+/// groups.
 struct Recht {
     QString feld;
-    QString kasten; ///< name of the check box
-    QString aufschrift;
-    QString kopf;       ///< of the column
-    QString kopfZeilen; ///< the same in two lines
-    int breite;
+    QString kasten;     ///< name of the check box
+    QString aufschrift; ///< caption of the check box
+    QString kopf;       ///< heading of the column
+    QString kopfZeilen; ///< the heading in two lines
+    int breite;         ///< width of the column
 };
 
 /// All rights, in the order of the check boxes and of the columns.

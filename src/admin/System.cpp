@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Without a row opened, it is the address that the user has been working on.
+// An open grid row means that a parameter was edited; otherwise it was the address.
 void sichere() { the<System>().isEditing() ? modSystem::UpdateParameter() : modSystem::UpdateAdresse(); }
 
 } // namespace
@@ -76,7 +76,7 @@ void System::buildParameters() {
     auto* screen = new QGridLayout(Frame1);
     const auto add = [&](int row, const char16_t* name, const char16_t* text) {
         auto* box = new TextBox(QString::fromUtf16(name), Frame1);
-        // A comma can be typed into the fee, after a beep.
+        // Admits other characters after a beep, so that the fee can have a comma.
         box->setKeyFilter(&modRun::FilterZiffern, Refused::Admitted);
         Layout::addField(screen, row,
                          Layout::label(u"lblParam%1"_s.arg(row), QString::fromUtf16(text), Frame1), box);

@@ -29,9 +29,9 @@ namespace {
 
 const QString modul = u"modBenutzer"_s;
 
-/// The first column of the rights in the grid of groups, after number and name.
+/// First column of rights in the grid of groups, after number and name.
 constexpr int ersteRechteSpalte = 2;
-/// The column of the group's name in the grid of users.
+/// Column of the group's name in the grid of users.
 constexpr int gruppenSpalte = 3;
 
 void zeigeAnzahl(ValueLabel* label, const DataTable* grid) {
@@ -53,7 +53,7 @@ Datensatz::Felder felderDerGruppe(ErrorTail& step, const Benutzer& screen) {
     };
 }
 
-/// The fields of a group that its row in the grid is made from.
+/// Reads the fields of a group's grid row from the record just written.
 Datensatz::Danach liesGruppe(ErrorTail& step, std::vector<Value>& zeile) {
     QStringList felder = {u"GNr"_s, u"GName"_s};
     for (const Recht& recht : rechte()) felder.append(recht.feld);
@@ -114,8 +114,8 @@ void UpdateBenutzer(int row) {
             felderDesBenutzers(step, screen, gnr)(benutzer);
             return step([&] { benutzer.Update(); });
         });
-        // A user who is gone is shown as typed. Without a number no user stands open but a group, and its row
-        // is another user's here.
+        // The row of a user whom another process has deleted shows the typed values as well. If no user
+        // number is shown, a group is open, and `row` counts in the grid of groups.
         if ((steht || fehlt) && !screen.lblBNr->text().isEmpty()) {
             const int zeile = screen.tblBenutzer->rowOf(screen.lblBNr->text(), row);
             step([&] { screen.tblBenutzer->setCell(zeile, 1, screen.txtBenutzer->text()); });
@@ -159,7 +159,6 @@ void UpdateBG(int row) {
     withErrorTail(modul, u"UpdateBG"_s, [row](ErrorTail& step) {
         const Benutzer& screen = the<Benutzer>();
         std::vector<Value> zeile;
-        // Without a record there is nothing to take the cells from.
         if (Datensatz::aendere(step, u"Gruppen"_s, screen.lblGNr->text(), felderDerGruppe(step, screen),
                                liesGruppe(step, zeile)))
             step([&] {
@@ -178,7 +177,7 @@ void LoescheZugriff(int row) {
         if (Datensatz::loesche(step, u"Gruppen"_s, screen.lblGNr->text())) {
             step([&] { screen.tblZugriff->removeRow(screen.tblZugriff->rowOf(screen.lblGNr->text(), row)); });
             zeigeAnzahl(screen.lblGAnzahl, screen.tblZugriff);
-            // The number of groups here too, until the next painting.
+            // Shows the number of groups as the number of users until the next Form_Paint.
             zeigeAnzahl(screen.lblBAnzahl, screen.tblZugriff);
             step([&] {
                 modRun::GridVerweiseAbgleichen(screen.tblBenutzer, gruppenSpalte, screen.txtGruppe->text(),
@@ -206,7 +205,7 @@ qint32 ErmittleGNr(const QString& name) {
 
 QString ErmittleGName(qint32 gnr) {
     QString name;
-    // The names in the box are another routine's, and users know them so.
+    // The message box names another routine. Users know its text, so keep it.
     withErrorTail(u"modBasis"_s, u"SpeicherFisch"_s, [&](ErrorTail& step) {
         Recordset gruppe;
         step([&] {
@@ -286,7 +285,7 @@ bool PruefeGruppenEingabe() { return modRun::fehlerfrei(modRun::erstesLeere({the
 
 void LadeGruppenCombo(ComboBox* combo) {
     const DataTable* gruppen = the<Benutzer>().tblZugriff;
-    // The text in the box belongs to the user who is being entered.
+    // The text in the box may belong to a user who is being entered: keep it.
     const QString text = combo->currentText();
     combo->clear();
     for (int row = 0; row < gruppen->rowCount(); ++row) combo->AddItem(gruppen->cellText(row, 1));

@@ -8,59 +8,62 @@
 
 class ComboBox;
 
-/// Users and the groups that carry their rights. Both grids are working copies: filled once at the start
-/// (modStart), and changed here along with each write.
+/// The records of users and of the groups with the users' rights. Both grids are filled once at the start of
+/// the program, by modStart. After that each routine that writes a record changes its grid row as well.
 namespace modBenutzer {
 
-/// The grid row of the group on which the cursor stands: number, name and the rights.
+/// The grid row of the current record: number, name and the rights.
 std::vector<Value> gruppenZeile(const Recordset& gruppe);
 
-/// Fill the grids at the start: users with a group, and groups with their rights.
+/// Fill the grids of users and groups. Call once, at the start of the program. Users without a group get no
+/// row.
 void loadTblBenutzer();
 void loadTblZugriff();
 
-/// A new user from the form; a group that there is not ends it, told by a box.
+/// Saves the entry fields as a new user. An unknown group ends it with a message box.
 void SpeicherBenutzer();
-/// Changes the opened user and its grid row.
+/// Changes the open user and its grid row.
 void UpdateBenutzer(int row);
-/// Deletes the opened user and its grid row.
+/// Deletes the open user and its grid row.
 void LoescheBenutzer(int row);
 
-/// A new group from the form.
+/// Saves the entry fields as a new group.
 void SpeicherBG();
-/// Changes the opened group and its grid row; the users' grid keeps the old name until the next start.
+/// Changes the open group and its grid row. The users' grid keeps the old name until the next start of the
+/// program.
 void UpdateBG(int row);
-/// Deletes the opened group. The file deletes its users along with it; their rows go from the grid here.
+/// Deletes the open group. The database deletes the group's users with it; their grid rows are removed here.
 void LoescheZugriff(int row);
 
-/// The group of this name, of several the first; 0 after a box if there is none.
+/// The number of the first group of this name; 0 after a message box if there is none.
 qint32 ErmittleGNr(const QString& name);
-/// "0" if there is no such group.
+/// The name of a group; "0" if there is none.
 QString ErmittleGName(qint32 gnr);
 
-/// Check boxes to the copy buffer of an open record of Gruppen.
+/// Writes the check boxes into the copy buffer of a record of Gruppen. Call between AddNew or Edit and
+/// Update.
 void SichereZugriff(Recordset& gruppe);
-/// Grid row to check boxes.
+/// Sets the check boxes from a grid row of a group.
 void LadeZugriff(int row);
-/// Opens the user of the screen's grid row into the form.
+/// Opens the user in the screen's gridRow() and fills the entry fields.
 void LadeBenutzerVorgang();
-/// Opens the group of a grid row into the form.
+/// Opens the group in a grid row and fills the entry fields.
 void LadeGruppenVorgang(int row);
 
-/// Empties the form in front and puts the focus into its name.
+/// Empties the entry fields of the page in front and puts the focus into the name.
 void LeereBenutzerEingabe();
-/// Empties the forms of both pages.
+/// Empties the entry fields of both pages.
 void LeereBenutzerAnzeige();
 
-/// True if name and group are filled; else a box says so. A password may be empty.
+/// True if name and group are filled; false after a message box. A password may be empty.
 bool PruefeBenutzerEingabe();
-/// True if the name is filled; else a box says so.
+/// True if the name is filled; false after a message box.
 bool PruefeGruppenEingabe();
 
-/// The list of groups, as they stand in the grid.
+/// Fills the list with the groups of the grid. The text in the box stays.
 void LadeGruppenCombo(ComboBox* combo);
 
-/// The routines behind the buttons save and delete, for the page of users and that of groups.
+/// The routines of the buttons save and delete on the page of users and on the page of groups.
 Erfassung benutzerErfassung();
 Erfassung gruppenErfassung();
 

@@ -10,7 +10,7 @@ namespace modBenutzer {
 
 namespace {
 
-/// Two passwords that differ in anything, capitals too, throw away what was typed.
+/// True if both passwords are equal, in case too. Otherwise shows a message box and empties the entry fields.
 bool passwortBestaetigt() {
     const Benutzer& screen = the<Benutzer>();
     if (screen.txtPassw->text() == screen.txtPasswBest->text()) return true;

@@ -11,15 +11,16 @@ namespace modSysInfo {
 
 namespace {
 
-/// A program that tells about the machine.
+/// A program that shows information about the computer.
 struct Tool {
     QString program;
     QStringList arguments;
-    /// The desktop's entry for the page that the arguments name; releases name it differently.
+    /// The .desktop file that an installed release has if it knows the page in `arguments`. Releases name the
+    /// page differently. Empty: every release knows the arguments.
     QString page{};
 };
 
-/// The programs of the desktops that tell about the machine, those of the settings first.
+/// The programs of the common desktops, in the order of preference: pages of the settings programs first.
 QVector<Tool> placesToLook() {
     const QString gnome = u"gnome-control-center"_s;
     return {{gnome, {u"info-overview"_s}, u"gnome-info-overview-panel.desktop"_s},

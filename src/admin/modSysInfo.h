@@ -1,9 +1,10 @@
 #pragma once
 
-/// The platform's system-information tool.
+/// The system's own program for information about the computer.
 namespace modSysInfo {
 
-/// Starts the first tool that is there and does not wait for it; without one a box says so.
+/// Starts the first such program that is installed and does not wait for it. Without one it shows a message
+/// box.
 void StartSysInfo();
 
 } // namespace modSysInfo

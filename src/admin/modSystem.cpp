@@ -26,7 +26,7 @@ const QString labelJahresbeitrag = u"Jahresbeitrag"_s;
 const QString labelFangjahr = u"akt. Fangjahr"_s;
 const QString labelPflichtStd = u"Pflicht-Std. (Arbeit)"_s;
 
-/// A line of the address: its field and its box.
+/// A line of the address: a field of System and the text box.
 struct AddressLine {
     QString field;
     TextBox* box;
@@ -61,7 +61,7 @@ void showParameter(const Parameter& which) {
     grid->markRow(row);
 }
 
-/// Copies the parameters that other screens need into the session, as the list shows them.
+/// Copies the parameters that other screens need into the session, in the form shown in the grid.
 void merkeParameter(const DataTable& grid) {
     const auto wert = [&](const QString& label) {
         int row = 0;
@@ -71,7 +71,7 @@ void merkeParameter(const DataTable& grid) {
     session().PflichtStd = wert(labelPflichtStd);
 }
 
-/// First for Info, then for the boxes.
+/// Copies the address into the session, and shows it in Info and in the boxes.
 void showAddress(ErrorTail& step, const Recordset& parameter) {
     const auto text = [&](const AddressLine& line) { return CStr(parameter.Fields(line.field).Value()); };
     auto shown = session().Anschrift.begin();

@@ -1,17 +1,18 @@
 #pragma once
 
-/// The one row of the club's parameters.
+/// The single record of the table System: the club's parameters and address.
 namespace modSystem {
 
-/// Reads the row into the grid, the address boxes and the labels of Info.
+/// Shows the record in the grid, the address boxes and the labels of Info. Call once, at the start.
 void loadTblSystem();
-/// Writes the parameters whose boxes are filled, as whole numbers. A text that is no number is an error of
-/// the caller's.
+/// Writes the parameters whose boxes are filled, as whole numbers. Throws RuntimeError if a text is not a
+/// number.
 void UpdateParameter();
-/// Writes the address as it stands in its boxes, empty or not.
+/// Writes all address boxes, the empty ones too. Throws RuntimeError if the record can't be written.
 void UpdateAdresse();
+/// Empties the boxes of the parameters.
 void LeereParameter();
-/// The value of a grid row into its box.
+/// Copies the value of a grid row into the parameter's box, selected and with the focus.
 void LadeParameter(int row);
 
 } // namespace modSystem

@@ -36,14 +36,14 @@ void tellFailure(const RuntimeError& error, const Words& words) {
     const QString title = u"Runtime - Error: %1"_s.arg(error.number);
     if (error.is(RuntimeError::cannotBeRepaired)) {
         MsgBox(words.cannotBeRepaired, vbCritical, title);
-        // A file that can't be repaired can't be copied either, which need not be told as well.
+        // The safety copy at the end fails too: no second message box for that.
         return rahmen()->beendeStill();
     }
     MsgBox(words.failure, vbInformation, title);
     OeffneDatenbank();
 }
 
-/// Only with a folder in which to keep it is a damaged file salvaged.
+/// `keptIn` is the folder for a damaged file. If empty, a damaged file is not repaired but reported.
 void rewriteDatabase(const Words& words, const QString& keptIn = {}) {
     try {
         rewriteFile(keptIn);

@@ -3,8 +3,9 @@
 /// Compacting and repairing the database file.
 namespace modTools {
 
-/// Both rewrite the file through temp/uwtmp.mdb. Of a damaged file only the repair makes a new one, with what
-/// is left; it keeps the damaged one beside the safety copies.
+/// Both write a new file, temp/uwtmp.mdb, and replace the database with it. If the file is damaged,
+/// compacting fails. Repairing saves the readable rows and keeps the damaged file in the folder of the safety
+/// copies.
 void KomprimiereDatenbank();
 void RepariereDatenbank();
 
