@@ -22,7 +22,7 @@ namespace {
 constexpr int nameLimit = 80;
 constexpr int fishPage = 0;
 
-/// The parts of a page, which are laid out alike for fish and waters.
+/// The controls of a page. Both pages have the same layout.
 struct Page {
     QGroupBox* frame;
     QLabel* numberLabel;
@@ -96,7 +96,7 @@ Basis::Basis()
 }
 
 void Basis::buildToolbar() {
-    // The page in front decides at the moment of the press.
+    // Evaluated at each press, since the page in front changes.
     const auto erfassung = [this] {
         return TabBasis->currentIndex() == fishPage ? modBasis::fischErfassung()
                                                     : modBasis::gewaesserErfassung();

@@ -14,7 +14,7 @@ class TextBox;
 class Toolbar;
 class ValueLabel;
 
-/// Kinds of fish and waters, a page each. Its grids are where all other screens take their name lists from.
+/// Kinds of fish on one page, waters on the other. All other screens fill their name lists from its grids.
 class Basis : public Screen {
     Q_OBJECT
 
@@ -25,13 +25,14 @@ public:
     void Form_Paint() override;
     void Form_Deactivate() override;
 
-    /// Told when a name in the file has become another ("UPDATE") or is gone ("LOESCHEN"), so that a list
-    /// which shows it is kept in step.
+    /// A change of a name in the database: changed ("UPDATE") or deleted ("LOESCHEN"). For grids that show
+    /// the name.
     struct Verweis {
         QString name;
         QString modus;
-        QString alterName;
+        QString alterName; ///< empty for "LOESCHEN"
     };
+    /// Called after the change has been written.
     std::function<void(const Verweis&)> fischGeaendert;
     std::function<void(const Verweis&)> gewaesserGeaendert;
 

@@ -14,7 +14,7 @@
 
 using namespace Qt::StringLiterals;
 
-// The layout of the screen is in BesatzungLayout.cpp; its behaviour is here.
+// Behaviour of the screen. Its layout is in BesatzungLayout.cpp.
 
 void Besatzung::Form_Load() {
     modBasis::loadcboFArt(cboFArt);
@@ -22,7 +22,7 @@ void Besatzung::Form_Load() {
 }
 
 void Besatzung::Form_Activate() {
-    // The return from a report must not lose what is chosen and typed.
+    // After a report the chosen year and the typed entry must stay.
     if (session().NachReport) {
         session().NachReport = false;
         return;
@@ -41,7 +41,7 @@ void Besatzung::Form_Deactivate() {
 
 void Besatzung::zeigeAnzahl() { lblAnzahl->setText(QString::number(tblBList->rowCount())); }
 
-/// As a click on the year, also where it stands there already: the plan is loaded anew.
+/// Chooses the year and loads its plan, also if the year is chosen already.
 void Besatzung::waehleJahr(const QString& jahr) {
     const int before = cboBJahr->currentIndex();
     cboBJahr->setText(jahr);
@@ -51,15 +51,15 @@ void Besatzung::waehleJahr(const QString& jahr) {
 void Besatzung::cboBJahr_Click() {
     Session& s = session();
     if (s.TabelleLaedt) return;
-    // The load takes the year from the session; it is lent to it and put back.
+    // loadTblBList reads the year from the session: set it for the call only.
     s.AktJahr = CInt(cboBJahr->currentText());
     modBesatzList::loadTblBList();
     s.AktJahr = static_cast<qint16>(today().year());
     zeigeAnzahl();
 }
 
-/// A press that puts the plan out ends the editing of an opened stocking, which must not stand there as a new
-/// one afterwards. A new one that is being typed stays.
+/// Empties the entry fields if a stocking is open. Every press in the toolbar ends EDIT, so its values would
+/// be saved as a new stocking afterwards. Values of a new stocking stay.
 void Besatzung::leereOffenen() {
     if (!lblBNr->text().isEmpty()) modBesatzList::BesatzAnzeigeLoeschen();
 }

@@ -11,8 +11,8 @@ class TextBox;
 class Toolbar;
 class ValueLabel;
 
-/// The stocking plan: an entry form above the planned stockings of one year. Source of the CSV file and of
-/// the printed plan.
+/// The stocking plan: entry fields above a grid with the planned stockings of one year. The CSV file and the
+/// printed plan show the rows of the grid.
 class Besatzung : public Screen {
     Q_OBJECT
 

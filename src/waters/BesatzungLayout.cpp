@@ -41,7 +41,7 @@ void Besatzung::buildToolbar() {
                             .frage = u"ACHTUNG: Besatzungseintrag wirklich löschen ?"_s,
                             .beiNein = &BesatzAnzeigeLoeschen};
     Toolbar1 = new Toolbar(this);
-    // The tool tip of tbExcel does not name the file that is written; the users know it so.
+    // The tool tip of tbExcel names BLIST.csv, but the file is BPLAN.csv. Users know the text, so keep it.
     Toolbar1->addKeys({{u"tbSpeichern"_s, u"Speichern"_s, u"Eintrag speichern"_s, u"speichern"_s,
                         [=, this] { plan.sichern(*this); }},
                        {u"tbLoeschen"_s, u"Löschen"_s, u"Eintrag löschen"_s, u"loeschen"_s,
@@ -61,7 +61,7 @@ void Besatzung::buildEntry() {
     const auto list = [this](const QString& name) {
         constexpr int shortest = 16;
         auto* box = new ComboBox(name, ComboBox::Order::AsAdded, ComboBox::Kind::DropDownList, Frame1);
-        // A long name must not take the room of the boxes at the right.
+        // A long name must not take the space of the boxes at the right.
         box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
         box->setMinimumContentsLength(shortest);
         return box;

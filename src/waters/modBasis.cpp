@@ -23,7 +23,7 @@ namespace modBasis {
 
 namespace {
 
-/// The differences between kinds of fish and waters. The routines are the same for both.
+/// The differences between kinds of fish and waters. One set of routines serves both.
 struct Art {
     QString tabelle;
     QString feldNr;
@@ -34,7 +34,7 @@ struct Art {
     DataTable* grid;
     ValueLabel* lblAnzahl;
     const std::function<void(const Basis::Verweis&)>& geaendert;
-    QString nichtGefunden; ///< said when opening finds no record
+    QString nichtGefunden; ///< message if there is no record to open
 };
 
 Art fisch() {
@@ -65,7 +65,7 @@ Art gewaesser() {
             u"Fehler: Datensatz nicht vorhanden o. nicht gefunden !"_s};
 }
 
-/// The name of the record that was last opened; one for both pages.
+/// The name of the record last opened, on whichever page: the old name for "UPDATE".
 QString alterName;
 
 constexpr int fishPage = 0;
@@ -91,7 +91,7 @@ void fuelleGrid(const QString& routine, const Art& art, const QString& select) {
     ::fuelleGrid(routine, art.grid, select, [&](const Recordset& satz) { return alsZeile(satz, art); });
 }
 
-/// The two fields of the form, in the order in which they are written.
+/// Writes the two entry fields into the copy buffer.
 Datensatz::Felder felder(ErrorTail& step, const Art& art) {
     return [&](Recordset& satz) {
         step([&] { satz.Collect(art.feldName, art.txtName->text()); });

@@ -31,13 +31,14 @@ const QString modul = u"modBesatzList"_s;
 
 QString alsGewicht(const Value& menge) { return Format(menge, u"###0.00"_s); }
 
-/// The fields of a record that its row in the grid is made from.
+/// The fields of a record from which its grid row is made.
 const QStringList& felderDerZeile() {
     static const QStringList felder = {u"BNr"_s, u"FNr"_s, u"GNr"_s, u"Zeit"_s, u"Menge"_s};
     return felder;
 }
 
-/// Those fields as the row has them: names for numbers.
+/// Turns the values of felderDerZeile() into those of a grid row: names instead of numbers, and the weight
+/// as text.
 void fuelleZeile(ErrorTail& step, std::vector<Value>& zeile) {
     const auto name = [](const Value& number, QString (*ermittle)(qint32)) {
         const KeptErrorCount kept;
@@ -48,7 +49,7 @@ void fuelleZeile(ErrorTail& step, std::vector<Value>& zeile) {
     step([&] { zeile[4] = alsGewicht(zeile[4]); });
 }
 
-/// The five fields of the form, in the order in which they are written.
+/// Writes the entry fields into the copy buffer.
 void schreibeFelder(ErrorTail& step, Recordset& plan, const Besatzung& screen,
                     const ArtUndGewaesser& nummern) {
     step([&] { plan.Collect(u"BJahr"_s, CLng(screen.cboBJahr->currentText())); });
@@ -118,7 +119,7 @@ void UpdateEintrag(int row) {
             const std::array<Value, 5> zeile = {screen.lblBNr->text(), screen.cboFArt->currentText(),
                                                 screen.cboGName->currentText(), screen.txtZeit->text(),
                                                 alsGewicht(screen.txtMenge->text())};
-            // Another year may have come to the screen, where the record has no row yet.
+            // The grid may show another year since the record was opened. The record then has no row in it.
             const int bisher = screen.tblBList->rowOf(screen.lblBNr->text());
             const int neu = bisher >= 0 ? bisher : row;
             if (bisher >= 0) step([&] { screen.tblBList->removeRow(bisher); });
@@ -157,7 +158,7 @@ void zeigeEintrag(ErrorTail& step, const Recordset& plan, Besatzung& screen) {
 } // namespace
 
 void loadEintrag(DataTable* grid, int row) {
-    // The names of the box are the catch book's.
+    // The message box names a routine of the catch book. Users know its text, so keep it.
     withErrorTail(u"modFangbuch"_s, u"loadFang"_s, [grid, row](ErrorTail& step) {
         Besatzung& screen = the<Besatzung>();
         Recordset plan;

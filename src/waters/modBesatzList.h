@@ -4,30 +4,34 @@
 
 class DataTable;
 
-/// The record routines of the stocking plan.
+/// The records of the stocking plan.
 namespace modBesatzList {
 
-/// The plan of AktJahr into the grid. A stocking whose fish or water is gone stands there without its name.
+/// Fills the grid with the plan of Session::AktJahr. A stocking whose fish or water has been deleted has no
+/// name there.
 void loadTblBList();
 
-/// The entry form as a new record.
+/// Saves the entry fields as a new record.
 void SpeicherEintrag();
-/// The entry form over the record whose number the form shows; `row` is its grid row, and stays in the grid
-/// also when the year has been changed.
+/// Changes the record whose number the screen shows, and its grid row. After a change of the year the record
+/// stays in the grid. `row` is its place if the grid has no row of this number.
 void UpdateEintrag(int row);
-/// Deletes the record whose number the form shows; `row` is its grid row.
+/// Deletes the record whose number the screen shows, and its grid row. `row` is not used.
 void LoescheEintrag(int row);
-/// Fills the form from the stocking in that row of the grid, if it belongs to the year in cboBJahr.
+/// Reads the stocking of a grid row and fills the entry fields. Shows a message box if the stocking does not
+/// belong to the year in cboBJahr.
 void loadEintrag(DataTable* grid, int row);
+/// Empties the entry fields. The year stays.
 void BesatzAnzeigeLoeschen();
-/// True if all but the time is filled; else a box says so.
+/// True if all fields but the time are filled; false after a message box.
 bool BesatzEingabeVollstaendig();
 
 /// Writes the grid to BPLAN.csv and offers to open it.
 void ErzeugeBPlanDatei();
+/// Opens BPLAN.csv in the spreadsheet program.
 void StarteExcelBPlan();
 
-/// "drucken" or "vorschau".
+/// Prints the grid (`wort` is "drucken") or shows its preview ("vorschau").
 void DruckeBPlanListe(const QString& wort);
 
 } // namespace modBesatzList

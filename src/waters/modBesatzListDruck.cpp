@@ -11,13 +11,13 @@
 
 using namespace Qt::StringLiterals;
 
-// The stocking plan on paper.
+// Printing of the stocking plan.
 
 namespace modBesatzList {
 
 namespace {
 
-/// Of the staging table, in the order of the grid's columns and of the report's texts.
+/// Fields of the table Druck_Besatzliste, in the order of the grid's columns and of the report's texts.
 const std::array felder = {u"BNr"_s, u"FName"_s, u"GName"_s, u"Zeit"_s, u"Menge"_s};
 
 void schreibeZeile(ErrorTail& step, Recordset& zeile, const DataTable& grid, int row) {
@@ -26,7 +26,7 @@ void schreibeZeile(ErrorTail& step, Recordset& zeile, const DataTable& grid, int
 }
 
 void richteEin(ErrorTail& step, Report& report) {
-    // The title is extended and not replaced: a report that is in use keeps its labels.
+    // Appends to the caption instead of setting it: a report that is still in use keeps its captions.
     step([&] {
         ReportControl& titel = report.control(u"Section2"_s, u"lblUeb"_s);
         titel.setCaption(titel.caption() + u" für das Fangjahr "_s +

@@ -9,14 +9,14 @@
 
 using namespace Qt::StringLiterals;
 
-// The stocking plan as a file for the spreadsheet.
+// The CSV file of the stocking plan.
 
 namespace modBesatzList {
 
 namespace {
 
 void schreibeZeile(CsvDatei& datei, const DataTable& grid, int row) {
-    // The number is written with its spaces; the texts end with their last character.
+    // writeHead keeps spaces at the end of the number; writeText removes them from the texts.
     datei.writeHead(grid.cellText(row, 0));
     for (int column = 1; column <= 4; ++column) datei.writeText(grid.cellText(row, column));
     datei.endLine();
