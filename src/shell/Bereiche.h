@@ -5,10 +5,10 @@
 #include <QString>
 #include <vector>
 
-/// A screen by its type, so that it can be asked for without being made.
+/// Access to the one instance of a screen type, so that a table can name a screen before it is made.
 struct ScreenType {
-    Screen& (*make)();   ///< makes it if there is none
-    Screen* (*loaded)(); ///< null if there is none
+    Screen& (*make)();   ///< the instance, made if there is none
+    Screen* (*loaded)(); ///< the instance, or null
 
     template<typename T>
     static ScreenType of() {
@@ -17,21 +17,21 @@ struct ScreenType {
     }
 };
 
-/// An area of the program: a screen that can be on the stage, and its item in the navigation bar.
+/// An area of the program: a screen on the stage and its item in the navigation bar.
 struct Bereich {
     ScreenType screen;
-    QString key;             ///< of the item; in small letters the name of its icon in assets/icons
-    QString gruppe = {};     ///< of the bar; empty for a screen without an item, shown as part of item `key`
-    QString aufschrift = {}; ///< of the item
-    QString recht = {};      ///< the field of Gruppen without which a user has no such item
+    QString key;             ///< key of the item; in lower case the name of its icon in assets/icons
+    QString gruppe = {};     ///< group in the bar; empty if the screen has no item and is part of item `key`
+    QString aufschrift = {}; ///< caption of the item
+    QString recht = {};      ///< right (field of Gruppen) that a user needs to see the item
 
-    int folge = 0;            ///< the place of `lade` among all of them
-    void (*lade)() = nullptr; ///< fills the grids after the login; null if nothing is to be filled
+    int folge = 0;            ///< rank of `lade` in ladefolge()
+    void (*lade)() = nullptr; ///< fills the grids after the login; null if there are none to fill
 
     bool hatTaste() const { return !gruppe.isEmpty(); }
 };
 
 /// All areas, in the order of the bar's groups and items.
 const std::vector<Bereich>& bereiche();
-/// The areas with grids to fill, in the order in which these are filled.
+/// The areas with a `lade`, in the order in which to call it.
 std::vector<Bereich> ladefolge();

@@ -18,7 +18,7 @@ void OeffneDatenbank() {
 }
 
 void SchliesseDatenbank() {
-    // The repair offered by a failed start comes here without an open database.
+    // After a failed start the repair calls this without an open database.
     if (session().AktDatenbank.isOpen()) session().AktDatenbank.Close();
 }
 

@@ -9,27 +9,28 @@
 class DataTable;
 class ErrorTail;
 
-// The database of the program folder, as the routines of all screens use it.
+// The database of the program folder, shared by all routines through session().AktDatenbank.
 
-/// The database file, the folder of its safety copies, and the file's password as such and as a connect text.
+/// Path of the database file, folder of its safety copies, its password, and the password as connect text.
 QString datenbankDatei();
 QString sicherungsOrdner();
 QString datenbankPasswort();
 QString datenbankVerbindung();
 
-/// Opens the database file. Has no error box of its own: errors go to the caller.
+/// Opens the database file. Shows no message box: throws RuntimeError.
 void OeffneDatenbank();
-/// Closes it, if it is open.
+/// Closes the database file. Does nothing if it is not open.
 void SchliesseDatenbank();
 
-/// The result of a SELECT on the open database, and one of its tables. Errors as for Database::OpenRecordset.
+/// Open the result of a SELECT or a table of the open database. Errors as for Database::OpenRecordset.
 Recordset oeffneAbfrage(const QString& select);
 Recordset oeffneTabelle(const QString& name);
 
-/// Hands over what a query such as SELECT COUNT(…) finds, as a statement of the calling routine.
+/// Passes the value found by a query such as SELECT COUNT(…) to `nimm`. Errors go to `step`, as for a
+/// statement of the calling routine.
 void leseWert(ErrorTail& step, const QString& select, const std::function<void(const Value&)>& nimm);
 
-/// Appends a grid row for each record that the statement finds, at the start of the program; `routine` stands
-/// in the error box.
+/// Appends a grid row for each record found by `select`. For the start of the program: errors are shown as
+/// those of `routine` in modStart.
 void fuelleGrid(const QString& routine, DataTable* grid, const QString& select,
                 const std::function<std::vector<Value>(const Recordset&)>& zeile);

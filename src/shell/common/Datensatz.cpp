@@ -36,7 +36,7 @@ bool speichere(ErrorTail& step, const QString& tabelle, const Felder& felder, co
         felder(satz);
         if (!step([&] { satz.Update(); })) return false;
         if (!danach) return true;
-        // The newest number is the highest.
+        // Numbers ascend, so the new record is the last one by its number.
         step([&] { satz.Index(u"PrimaryKey"_s); });
         step([&] { satz.MoveLast(); });
         return danach(satz);

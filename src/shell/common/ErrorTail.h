@@ -6,8 +6,8 @@
 #include <QString>
 #include <utility>
 
-/// The error handling that every routine which touches the database or a grid has in common. A routine is a
-/// recipe of statements; an error in one shows the box and the routine goes on with the next:
+/// Error handling of all routines that use the database or a grid. An error in a statement shows a message
+/// box, and the routine goes on with the next statement:
 ///
 ///     withErrorTail(u"modBasis"_s, u"SpeicherFisch"_s, [](ErrorTail& step) {
 ///         Recordset fisch;
@@ -16,16 +16,16 @@
 ///         ...
 ///     });
 ///
-/// After four such boxes the fifth error leaves the routine. The count is a session value, so a called
-/// routine with a tail of its own sets the caller's count to 0 as well. Statements that can't fail need no
-/// step. A routine that writes does so through `Datensatz`.
+/// The fifth error leaves the routine after a last message box. The count is in the session, so a called
+/// routine with its own withErrorTail resets the caller's count too. Statements that can't fail need no step.
+/// Write records through `Datensatz`.
 class ErrorTail {
 public:
     ErrorTail(QString module, QString routine)
         : m_module(std::move(module))
         , m_routine(std::move(routine)) {}
 
-    /// Runs one statement. False, after the box, if it failed.
+    /// Runs one statement. Returns false after the message box if it failed.
     template<typename Statement>
     bool operator()(Statement&& statement) {
         try {
@@ -37,8 +37,8 @@ public:
         }
     }
 
-    /// Runs the condition of a branch. After an error in it the next statement is the first in its branch, so
-    /// an error counts as true.
+    /// Runs the condition of a branch. Returns true after an error: the next statement is the first one in
+    /// the branch.
     template<typename Condition>
     bool test(Condition&& condition) {
         try {
@@ -49,7 +49,7 @@ public:
         }
     }
 
-    /// Runs `body` for each row from the current one to the last; a failed look at the end counts as a row.
+    /// Runs `body` for each row from the current one to the last. If Eof() fails, `body` runs as for a row.
     template<typename Rows, typename Body>
     void forEachRow(Rows& rows, Body&& body) {
         while (test([&] { return !rows.Eof(); })) {
@@ -61,8 +61,9 @@ public:
     /// Thrown by the fifth error, caught by withErrorTail.
     struct LeaveRoutine {};
 
-    /// Sets the session's `Beschaedigt` if the file is damaged. Shows the box; on the fifth error the last
-    /// box, and leaves the routine.
+    /// Shows the message box of an error and sets Session::Beschaedigt if the file is damaged. At the fifth
+    /// error shows the last message box and throws LeaveRoutine. After the end of the program throws
+    /// LeaveRoutine without a message box.
     void report(const RuntimeError& error);
 
 private:
@@ -70,10 +71,11 @@ private:
     QString m_routine;
 };
 
+/// Sets the session's error count to 0.
 void beginErrorTail();
 
-/// Keeps a routine's count over calls of routines that count for themselves. For loops: a failure that comes
-/// with every row would otherwise never reach its fifth box.
+/// Restores the error count at the end of its scope. Use it in a loop that calls routines with their own
+/// withErrorTail: they reset the count, and an error in every row would never reach the fifth.
 class KeptErrorCount {
 public:
     KeptErrorCount();
@@ -85,6 +87,7 @@ private:
     qint16 m_count;
 };
 
+/// Runs `body` as the routine named in its message boxes, with a count of 0.
 template<typename Routine>
 void withErrorTail(const QString& module, const QString& routine, Routine&& body) {
     beginErrorTail();
@@ -92,6 +95,6 @@ void withErrorTail(const QString& module, const QString& routine, Routine&& body
     try {
         body(step);
     } catch (const ErrorTail::LeaveRoutine&) {
-        // The last box has told it; what stands behind in the routine is skipped.
+        // The message box has been shown. The rest of the routine is skipped.
     }
 }

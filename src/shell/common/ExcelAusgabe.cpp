@@ -41,7 +41,7 @@ void zeigeInExcel(const QString& path, std::initializer_list<QString> columns) {
         for (const QString& column : columns) excel->autoFitColumns(column);
         awaitOtherProgram();
     } catch (const RuntimeError&) {
-        // Whether the program can be reached may only turn out when it is to do something.
+        // Any of the calls may be the first to find that the program can't be reached.
         MsgBox(u"Es ist kein Excel verfügbar !"_s, vbInformation);
     }
 }

@@ -12,9 +12,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Appends the years from the lowest to the highest, `akt` if it lies behind them, and the years from `akt`
-/// on if it lies before them. A gap before `akt` stays a gap. Years beyond 16 bits are left out, and of a
-/// span of centuries, as a slip of the pen makes it, the middle.
+/// Appends the years from `lowest` to `highest`. An `akt` after them is added alone; an `akt` before them is
+/// added with all years in between. Years beyond 16 bits are left out. A typing error can make a span of
+/// centuries: years far from both its ends and from `akt` are left out too.
 void haengeJahreAn(ComboBox* combo, qint32 lowest, qint32 highest, qint16 akt) {
     using Year = std::numeric_limits<qint16>;
     constexpr qint64 nahe = 200;
@@ -29,7 +29,8 @@ void haengeJahreAn(ComboBox* combo, qint32 lowest, qint32 highest, qint16 akt) {
     haengeAn(akt, lowest - qint64(1));
 }
 
-/// The lowest or highest year that a query finds, `sonst` where it finds none; nothing if it failed.
+/// The year found by a query for the lowest or highest one; `sonst` if there is none, nullopt if the query
+/// failed.
 std::optional<qint32> grenzjahr(ErrorTail& step, const QString& select, qint32 sonst) {
     std::optional<qint32> jahr;
     leseWert(step, select, [&](const Value& wert) { jahr = wert.isNull() ? sonst : CLng(wert); });

@@ -2,8 +2,8 @@
 
 class ComboBox;
 
-// The years that the file knows, for the lists of the screens. A list is not emptied first. The current year
-// is always in it; a gap between it and the stored years stays a gap.
+// Lists of the stored years. The list is not emptied first. The current year is always added. Years between
+// it and the stored years are not filled in.
 
 /// Appends the years of the catch book.
 void loadcboFJahr(ComboBox* combo);

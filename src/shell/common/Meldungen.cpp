@@ -20,7 +20,7 @@ void MeldeNichtsGefunden() {
 void MeldeEingabeFehler(QWidget* schuld) {
     MsgBox(u"ACHTUNG: Eingabefelder nicht korrekt, Vorgang abgebrochen !"_s, vbInformation);
     schuld->setFocus();
-    // A box that sends the focus on when it loses it has done so now.
+    // A box may pass the focus on when it loses it, which the first call has caused.
     schuld->setFocus();
 }
 

@@ -4,18 +4,18 @@
 
 class QWidget;
 
-// The message boxes that several screens show.
+// Message boxes that several screens show.
 
 namespace modRun {
 
 void MeldeNichtVorhanden();
 void MeldeNichtsGefunden();
-/// Afterwards the focus is in the control at fault.
+/// Leaves the focus in `schuld`, the control with the wrong entry.
 void MeldeEingabeFehler(QWidget* schuld);
 void MeldeAbgebrochen();
 void MeldeKeinZugriff();
 
-/// A box with yes and no. MsgAntwort keeps the answer; true if it is yes.
+/// Asks a question with the buttons yes and no. Returns true for yes and sets Session::MsgAntwort.
 bool frage(const QString& text, const QString& title = QStringLiteral("Uferwart"));
 
 } // namespace modRun

@@ -14,14 +14,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A lookup: its module and routine as the error box names them, and the field that it reads.
+/// A look-up: module and routine for the error message box, and the field to read.
 struct Suche {
     QString modul;
     QString routine;
     QString feld;
 };
 
-/// One field of the first row of a query; 0 or the empty text if there is no row.
+/// The field of the first row of a query; 0 or the empty text if there is no row. `select` runs within the
+/// look-up's own error handling.
 template<typename Result>
 Result schlageNach(const Suche& suche, Result (*convert)(const Value&),
                    const std::function<QString()>& select) {
@@ -36,7 +37,7 @@ Result schlageNach(const Suche& suche, Result (*convert)(const Value&),
     return result;
 }
 
-/// The name is checked within the lookup's own error handling.
+// quoted() throws for some names: call it in the function that schlageNach runs.
 qint32 nummer(const Suche& suche, const QString& select, const QString& name) {
     return schlageNach(suche, &CLng, [&] { return select + quoted(name); });
 }

@@ -4,25 +4,25 @@
 
 class Screen;
 
-/// The requests that a screen can make of the frame. The frame knows all screens, a screen knows only this.
+/// Services of the frame for the screens in it. The frame knows all screens; a screen knows only this class.
 class Rahmen {
 public:
     virtual ~Rahmen() = default;
 
-    /// Shows the area of this item of the bar, as a click on it does.
+    /// Shows the area of an item of the navigation bar, as a click on the item does.
     virtual void zeigeBereich(const QString& key) = 0;
-    /// Binds the screen to the item of the bar last made current; showing the screen is a separate step.
+    /// Binds the screen to the current item of the navigation bar. Does not show the screen.
     virtual void binde(Screen& screen) = 0;
-    /// Shows the list of members, which has no item of its own, bound to the current one.
+    /// Shows the list of members. It has no item and is bound to the current one.
     virtual void zeigeMitgliederliste() = 0;
-    /// Pop up a context menu at the mouse, its items enabled by the rights of the moment.
+    /// Open a context menu at the mouse. The user's present rights enable its items.
     virtual void loadKontMenu_Mitgl() = 0;
     virtual void loadKontMenu_FAusw() = 0;
-    /// Ends the program without a word about a safety copy that could not be made.
+    /// Ends the program without a message box if the safety copy can't be made.
     virtual void beendeStill() = 0;
 };
 
-/// The frame of the running program; null before it is made and after its end.
+/// The frame of the running program; null before it is made and after it is destroyed.
 Rahmen* rahmen();
-/// Called by the frame itself, with null at its end.
+/// For the frame only, which passes null when it is destroyed.
 void setRahmen(Rahmen* frame);

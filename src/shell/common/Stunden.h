@@ -2,11 +2,11 @@
 
 #include <QString>
 
-// Work hours: the only place that adds them up and makes a balance of them.
+// Sum and balance of work hours. Calculate them nowhere else.
 
-/// The hours a member has worked in a year; 0 without bookings.
+/// The hours worked by contact `knr` in a year; 0 without bookings.
 double ErmittleStunden(qint32 knr, qint32 jahr);
-/// Hours worked less hours owed, rounded to two decimals as they are shown.
+/// Hours worked minus hours owed, rounded to two decimals as shown.
 double BerechneSaldo(double gearbeitet, double pflicht);
-/// Hours are shown in this pattern, and what is shown is what the balance is made of.
+/// The Format pattern for hours. BerechneSaldo() rounds by it, so that a balance equals its shown text.
 QString stundenMuster();

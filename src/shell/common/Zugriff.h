@@ -2,6 +2,7 @@
 
 #include <QString>
 
-/// True if the group of the user who is logged in has a right. Goes to the database anew each time, so a
-/// change of rights acts at once; `module` and `routine` stand in the error box.
+/// True if the group of the logged-in user has the right, a field of Gruppen. Reads the database at each
+/// call, so that a change of rights takes effect at once. `module` and `routine` are for the error message
+/// box.
 bool zugriffErlaubt(const QString& module, const QString& routine, const QString& right);

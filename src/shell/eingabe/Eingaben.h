@@ -4,11 +4,11 @@
 #include <QLineEdit>
 #include <initializer_list>
 
-// Checks that the boxes of a screen are filled, before they are saved.
+// Checks of the entry fields before a record is saved.
 
 namespace modRun {
 
-/// A control of a form and what it holds.
+/// An entry field, and whether it is empty at this moment.
 struct Eingabe {
     Eingabe(QLineEdit* box)
         : feld(box)
@@ -24,9 +24,9 @@ struct Eingabe {
     bool leer;
 };
 
-/// The first control that must be filled and is not; null if all are.
+/// The control of the first empty field; null if all are filled.
 QWidget* erstesLeere(std::initializer_list<Eingabe> eingaben);
-/// True without a control at fault; otherwise MeldeEingabeFehler has told it.
+/// True if `schuld` is null. Otherwise calls MeldeEingabeFehler for this control.
 bool fehlerfrei(QWidget* schuld);
 
 } // namespace modRun

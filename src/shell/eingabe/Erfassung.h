@@ -4,17 +4,17 @@
 
 class Screen;
 
-/// The routines of a screen on which records are entered, for its keys save and delete.
+/// The routines behind the buttons save and delete of a screen.
 struct Erfassung {
-    bool (*vollstaendig)(); ///< false, after a message box, if the entry cannot be stored
+    bool (*vollstaendig)(); ///< false after a message box if the entry can't be saved
     void (*speichere)();
     void (*aendere)(int row);
     void (*loesche)(int row);
-    QString frage;     ///< before the record is deleted
-    void (*beiNein)(); ///< when the question is answered with no
+    QString frage;     ///< question asked before the record is deleted
+    void (*beiNein)(); ///< called if the answer is no
 
-    /// Changes the record that stands open on the screen, or stores the entry as a new one if none is open.
+    /// Changes the open record of the screen. If none is open, saves the entry as a new record.
     void sichern(const Screen& screen) const;
-    /// Deletes the open record after the question. Does nothing if none is open.
+    /// Asks the question and deletes the open record. Does nothing if none is open.
     void entfernen(const Screen& screen) const;
 };

@@ -11,20 +11,21 @@ class QAbstractButton;
 class QCheckBox;
 class TextBox;
 
-// Values on their way between a record and the controls of a screen.
+// Conversions between the fields of a record and the controls of a screen.
 
 namespace modRun {
 
-/// The fields of the current row. A cell that cannot be read costs that cell, not the row.
+/// Reads fields of the current row into `zeile`. A cell that can't be read keeps its value; the others are
+/// read.
 void leseZellen(ErrorTail& step, const std::vector<Recordset::Field>& felder, std::span<Value> zeile);
 bool WertAusCheckBox(const QCheckBox* box);
 int CheckBoxAusWert(const Recordset::Field& field);
 bool WertAusOption(const QAbstractButton* option);
-/// The text of a field; empty where the record holds nothing there.
+/// The text of a field; empty if it is Null.
 QString textOderLeer(const Recordset::Field& field);
-/// The text of the box as a date, or the empty date if it is none.
+/// The text of the box as a date; the empty date if it is not a date.
 Date DatumAusText(const TextBox* box);
-/// The date as text, or the empty text if it is the empty date or none at all.
+/// The date in a field as text; the empty text for Null and for the empty date.
 QString TextAusDatum(const Recordset::Field& field);
 
 } // namespace modRun

@@ -5,19 +5,19 @@
 class DataTable;
 struct SelectionStyle;
 
-// Routines for every grid of the program.
+// Behaviour shared by all grids.
 
 namespace modRun {
 
-/// The neutral colours in which the selected row of a grid shows while the grid has the focus.
+/// Sets the neutral colours of the selected row of a grid with the focus.
 void SetzeGridFarben(SelectionStyle& style);
-/// Connects the routines that every grid runs when it receives and when it loses the focus.
+/// Sets a grid's colours when it receives the focus and clears its selection when it loses the focus. Call
+/// for every grid.
 void connectGridFocus(DataTable* grid);
-/// For the grids that lose their selection also when they receive the focus.
+/// Clears a grid's selection also when it receives the focus. Call after connectGridFocus().
 void leereAuswahlBeiFokus(DataTable* grid);
-/// Keeps a grid in step after a base record has changed. "LOESCHEN" removes every row whose cell in the
-/// column is `text`; "UPDATE" writes `text` into every cell of the column that is `oldText`; any other word
-/// does nothing.
+/// Updates a grid that shows a name of another table. The `mode` "LOESCHEN" removes every row with `text` in
+/// the column. "UPDATE" replaces `oldText` by `text` in the column. Any other `mode` does nothing.
 void GridVerweiseAbgleichen(DataTable* grid, int column, const QString& text, const QString& mode,
                             const QString& oldText);
 

@@ -7,13 +7,13 @@
 
 namespace modRun {
 
-/// The twelve, in the order of the year.
+/// The twelve months, from Januar on.
 const QStringList& Monatsnamen();
-/// 1 to 12; any other number is told in a box and gives "Januar".
+/// The name of month 1 to 12. Any other number shows a message box and gives "Januar".
 QString ErmittleMonatsname(qint32 number);
-/// The names above, compared exactly; any other text is told in a box and gives 1.
+/// The number of a month by its exact name. Any other text shows a message box and gives 1.
 qint16 ErmittleMonatsNr(const QString& name);
-/// 1 (Sunday) to 7; any other number gives the empty text.
+/// The name of weekday 1 (Sunday) to 7. Any other number gives the empty text.
 QString WochentagName(int number);
 
 } // namespace modRun

@@ -1,10 +1,9 @@
 #pragma once
 
-// The characters that a text box accepts. A filter returns the typed code, or 0, at which the box beeps.
-
 namespace modRun {
 
-// Key filters: give the typed code back, or 0, at which the box beeps.
+// Filters for the characters typed into a text box. Each returns the character code, or 0 to refuse the
+// character with a beep.
 int FilterZiffern(int code); ///< digits
 int FilterKomma(int code);   ///< digits and comma
 int FilterTelefon(int code); ///< digits, minus, space

@@ -7,20 +7,21 @@ class QCheckBox;
 class QWidget;
 class TextBox;
 
-/// Half of a filter between two bounds: a comparison and what is compared with.
+/// One of the two bounds of a filter: a list of comparisons and a box for the value.
 struct Vergleich {
     ComboBox* zeichen;
     TextBox* wert;
 
-    /// Disabled, with the six comparisons to choose from and none chosen; `spoken` is for screen readers.
+    /// Makes both controls, disabled and with no comparison chosen. `list` and `box` are their object names;
+    /// `spoken` is for screen readers.
     static Vergleich neu(const QString& list, const QString& box, const QString& spoken, QWidget* parent);
 
     bool isEmpty() const;
-    /// Chooses nothing and empties the box.
+    /// Clears the choice and the box.
     void leere() const;
     void setEnabled(bool on) const;
 };
 
-/// Null if the filter is not ticked or filled: both halves, or the first one alone. Otherwise the first
-/// control that lacks something.
+/// The first control that must still be filled. Null if the filter is not checked or is complete: with both
+/// bounds, or with the first one alone.
 QWidget* erstesFalsche(const QCheckBox* filter, const Vergleich& first, const Vergleich& second);
