@@ -78,9 +78,8 @@ void Benutzer::buildToolbar() {
         return tabBV->currentIndex() == userPage ? modBenutzer::benutzerErfassung()
                                                  : modBenutzer::gruppenErfassung();
     };
-    Toolbar1 = new Toolbar(this);
-    Layout::addRecordKeys(
-        Toolbar1, [=, this] { erfassung().sichern(*this); }, [=, this] { erfassung().entfernen(*this); },
+    Toolbar1 = Layout::recordToolbar(
+        this, [=, this] { erfassung().sichern(*this); }, [=, this] { erfassung().entfernen(*this); },
         &modBenutzer::LeereBenutzerEingabe);
 }
 
@@ -102,7 +101,7 @@ void Benutzer::buildUserEntry() {
     txtPasswBest = nameBox(u"txtPasswBest"_s, Frame2);
     for (TextBox* box : {txtPassw, txtPasswBest}) box->setEchoMode(QLineEdit::Password);
     lblBG = Layout::label(u"lblBG"_s, u"Benutzergruppe:"_s, Frame2);
-    cboBG = new ComboBox(u"cboBG"_s, ComboBox::Order::AsAdded, ComboBox::Kind::Editable, Frame2);
+    cboBG = new ComboBox(u"cboBG"_s, Frame2, ComboBox::Kind::Editable);
     cboBG->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 
     constexpr int secondColumn = 3;

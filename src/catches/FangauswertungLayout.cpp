@@ -51,14 +51,15 @@ void Fangauswertung::buildToolbar() {
 }
 
 ComboBox* Fangauswertung::addList(const QString& name, QCheckBox* captionedBy) {
-    auto* list = new ComboBox(name, ComboBox::Order::AsAdded, ComboBox::Kind::DropDownList, Frame1);
+    auto* list = new ComboBox(name, Frame1);
     list->setAccessibleName(captionedBy->text());
     list->setEnabled(false);
     return list;
 }
 
 Vergleich Fangauswertung::addBound(const QString& list, const QString& box, const QString& spoken) {
-    const Vergleich bound = Vergleich::neu(list, box, spoken, Frame1);
+    const Vergleich bound = {new ComboBox(list, Frame1), new TextBox(box, Frame1)};
+    bound.richteEin(spoken);
     bound.wert->setAlignment(Qt::AlignRight);
     bound.wert->setKeyFilter(&modRun::FilterZiffern);
     return bound;

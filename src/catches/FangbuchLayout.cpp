@@ -61,24 +61,22 @@ void Fangbuch::buildEntry() {
     constexpr int noteLimit = 255;
     fraNr2 = Layout::frame(u"fraNr2"_s, u"Einträge..."_s, this);
     lblFArt = Layout::label(u"lblFArt"_s, u"Fischart:"_s, fraNr2);
-    cboFArt = new ComboBox(u"cboFArt"_s, ComboBox::Order::Sorted, ComboBox::Kind::DropDownList, fraNr2);
+    cboFArt = new ComboBox(u"cboFArt"_s, fraNr2, ComboBox::Kind::DropDownList, ComboBox::Order::Sorted);
     lblGewaesser = Layout::label(u"lblGewaesser"_s, u"Gewässer:"_s, fraNr2);
-    cboGName = new ComboBox(u"cboGName"_s, ComboBox::Order::AsAdded, ComboBox::Kind::DropDownList, fraNr2);
+    cboGName = new ComboBox(u"cboGName"_s, fraNr2);
     lblAnzGew = Layout::label(u"lblAnzGew"_s, u"Anzahl | Gewicht:"_s, fraNr2);
     txtAnzahl = new TextBox(u"txtAnzahl"_s, fraNr2);
     txtGewicht = new TextBox(u"txtGewicht"_s, fraNr2);
     lblEinheit = Layout::label(u"lblEinheit"_s, u"i. Gramm"_s, fraNr2);
     lblFMonat = Layout::label(u"lblFMonat"_s, u"Fangmonat:"_s, fraNr2);
-    txtMonNr = new TextBox(u"txtMonNr"_s, fraNr2);
-    txtMonNr->setMaxLength(monthLimit);
+    txtMonNr = new TextBox(u"txtMonNr"_s, fraNr2, monthLimit);
     txtFangMonat = new TextBox(u"txtFangMonat"_s, fraNr2);
     txtFangMonat->setReadOnly(true);
     txtFangMonat->setFocusPolicy(Qt::ClickFocus);
     lblNotiz = Layout::label(u"lblNotiz"_s, u"Notizen..."_s, fraNr2);
-    txtNotiz = new MemoBox(u"txtNotiz"_s, fraNr2);
-    txtNotiz->setLimit(noteLimit);
+    txtNotiz = new MemoBox(u"txtNotiz"_s, fraNr2, noteLimit);
     lblFJahrBez = Layout::label(u"lblFJahrBez"_s, u"Fangjahr:"_s, fraNr2);
-    cboFJahr = new ComboBox(u"cboFJahr"_s, ComboBox::Order::AsAdded, ComboBox::Kind::DropDownList, fraNr2);
+    cboFJahr = new ComboBox(u"cboFJahr"_s, fraNr2);
     lblFNrBez = Layout::label(u"lblFNrBez"_s, u"Fang - Nr:"_s, fraNr2);
     lblFNr = new ValueLabel(u"lblFNr"_s, fraNr2);
     for (TextBox* box : {txtAnzahl, txtGewicht, txtMonNr}) {
@@ -139,8 +137,7 @@ void Fangbuch::layOutEntry() {
 void Fangbuch::buildTable() {
     Frame1 = Layout::frame(u"Frame1"_s, u"Fangbuchtabelle..."_s, this);
     Label2 = Layout::label(u"Label2"_s, u"Fangbucheintr. f. Monat:"_s, Frame1);
-    cboSelMonat =
-        new ComboBox(u"cboSelMonat"_s, ComboBox::Order::AsAdded, ComboBox::Kind::DropDownList, Frame1);
+    cboSelMonat = new ComboBox(u"cboSelMonat"_s, Frame1);
     for (int month = 1; month <= 12; ++month) cboSelMonat->AddItem(modRun::ErmittleMonatsname(month));
     Label3 = Layout::label(u"Label3"_s, u"Einträge i. Tabelle:"_s, Frame1);
     lblAnzahl = new ValueLabel(u"lblAnzahl"_s, Frame1);

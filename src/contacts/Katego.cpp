@@ -46,9 +46,8 @@ void Katego::buildToolbar() {
                  u"Trotzdem löschen ?"_s,
         // "No" clears the catch book, not this screen: the name stays and can be saved again.
         .beiNein = &modFangbuch::FangAnzeigeLoeschen};
-    Toolbar1 = new Toolbar(this);
-    Layout::addRecordKeys(
-        Toolbar1, [=, this] { kategorien.sichern(*this); }, [=, this] { kategorien.entfernen(*this); },
+    Toolbar1 = Layout::recordToolbar(
+        this, [=, this] { kategorien.sichern(*this); }, [=, this] { kategorien.entfernen(*this); },
         &modKatego::KategoAnzeigeLoeschen);
     Toolbar1->addKeys({{u"tbEsc"_s, u"&Schließen"_s, u"Zurück zur Kontakt - Übersicht"_s, u"schliessen"_s,
                         [this] { Schliessen(); }}});

@@ -72,9 +72,8 @@ Kontakt::Kontakt()
 }
 
 void Kontakt::buildToolbar() {
-    Toolbar1 = new Toolbar(this);
-    Layout::addRecordKeys(
-        Toolbar1, [this] { Speichern(); }, [this] { Loeschen(); }, &modKontakt::KontaktAnzeigeLoeschen);
+    Toolbar1 = Layout::recordToolbar(
+        this, [this] { Speichern(); }, [this] { Loeschen(); }, &modKontakt::KontaktAnzeigeLoeschen);
 }
 
 TextBox* Kontakt::field(const QString& name, QWidget* parent, int limit) {
@@ -88,7 +87,7 @@ void Kontakt::buildPerson(QWidget* page) {
     lblKontNr = Layout::label(u"lblKontNr"_s, u"Kontakt-Nr:"_s, Frame1);
     lblKNr = new ValueLabel(u"lblKNr"_s, Frame1);
     lblKatego = Layout::label(u"lblKatego"_s, u"Kontakt-Katego.:"_s, Frame1);
-    cboKatego = new ComboBox(u"cboKatego"_s, ComboBox::Order::AsAdded, ComboBox::Kind::DropDownList, Frame1);
+    cboKatego = new ComboBox(u"cboKatego"_s, Frame1);
     lblAnr = Layout::label(u"lblAnr"_s, u"Anrede:"_s, Frame1);
     txtAnrede = field(u"txtAnrede"_s, Frame1, textLimit);
     lblOrg = Layout::label(u"lblOrg"_s, u"Firma:"_s, Frame1);
@@ -231,8 +230,7 @@ void Kontakt::buildBank(QWidget* page) {
 
 void Kontakt::buildNote(QWidget* page) {
     Frame7 = Layout::frame(u"Frame7"_s, QString(), page);
-    txtNotiz = new MemoBox(u"txtNotiz"_s, Frame7);
-    txtNotiz->setLimit(noteLimit);
+    txtNotiz = new MemoBox(u"txtNotiz"_s, Frame7, noteLimit);
     txtNotiz->setAccessibleName(u"Notizen"_s);
     auto* inner = new QVBoxLayout(Frame7);
     inner->addWidget(txtNotiz);

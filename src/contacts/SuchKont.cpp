@@ -67,7 +67,7 @@ void SuchKont::build() {
     txtSuch->setKeyFilter(&modRun::FilterSuche);
     txtSuch->setPlaceholderText(u"Anfang eines Namens; für ä, ö, ü und ß ein * wie in M*ller"_s);
     Label2 = Layout::label(u"Label2"_s, u"Kategorie:"_s, this);
-    cboKatego = new ComboBox(u"cboKatego"_s, ComboBox::Order::AsAdded, ComboBox::Kind::DropDownList, this);
+    cboKatego = new ComboBox(u"cboKatego"_s, this);
     cmdSuch = Layout::button(u"cmdSuch"_s, QString(), this);
     cmdSuch->setIcon(Theme::icon(u"suchen"_s));
     cmdSuch->setIconSize(QSize(32, 32));

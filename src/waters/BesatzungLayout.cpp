@@ -60,7 +60,7 @@ void Besatzung::buildEntry() {
     Frame1 = Layout::frame(u"Frame1"_s, u"Besatzung"_s, this);
     const auto list = [this](const QString& name) {
         constexpr int shortest = 16;
-        auto* box = new ComboBox(name, ComboBox::Order::AsAdded, ComboBox::Kind::DropDownList, Frame1);
+        auto* box = new ComboBox(name, Frame1);
         // A long name must not take the space of the boxes at the right.
         box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
         box->setMinimumContentsLength(shortest);

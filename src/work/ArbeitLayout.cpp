@@ -81,8 +81,7 @@ void Arbeit::buildMember() {
     cmdMList = addIconButton(u"cmdMList"_s, u"liste"_s, u"Zurück zur Mitgliederliste"_s);
     cmdMList->setEnabled(false);
     Label1 = Layout::label(u"Label1"_s, u"ausgew. Jahr:"_s, Frame3);
-    cboArbJahr =
-        new ComboBox(u"cboArbJahr"_s, ComboBox::Order::AsAdded, ComboBox::Kind::DropDownList, Frame3);
+    cboArbJahr = new ComboBox(u"cboArbJahr"_s, Frame3);
     Label2 = Layout::label(u"Label2"_s, u"Mitgl.-Nr:"_s, Frame3);
     lblKNr = new ValueLabel(u"lblKNr"_s, Frame3);
     Label3 = Layout::label(u"Label3"_s, u"Name:"_s, Frame3);
@@ -124,8 +123,7 @@ void Arbeit::buildEntry() {
     txtArbStd->setKeyFilter(&modRun::FilterKomma);
     lblStd = Layout::label(u"lblStd"_s, u"Std."_s, Frame7);
     lblArbNotiz = Layout::label(u"lblArbNotiz"_s, u"Bemerk. / Arb. - Beschreib."_s, Frame7);
-    txtArbNotiz = new MemoBox(u"txtArbNotiz"_s, Frame7);
-    txtArbNotiz->setLimit(noteLimit);
+    txtArbNotiz = new MemoBox(u"txtArbNotiz"_s, Frame7, noteLimit);
 }
 
 void Arbeit::layOutEntry() {

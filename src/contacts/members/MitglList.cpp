@@ -1,26 +1,165 @@
 #include "MitglList.h"
 
-#include "ComboBox.h"
-#include "DataTable.h"
 #include "Drucklauf.h"
+#include "Gitter.h"
 #include "Jahre.h"
 #include "Meldungen.h"
 #include "MsgBox.h"
 #include "Rahmen.h"
 #include "Screens.h"
 #include "Session.h"
-#include "Toolbar.h"
-#include "ValueLabel.h"
+#include "Tastenfilter.h"
+#include "Vergleich.h"
 #include "modKontakt.h"
 #include "modMitglList.h"
 
-#include <QCheckBox>
+#include <QButtonGroup>
 #include <QToolButton>
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
-// The layout of the screen is in MitglListLayout.cpp; its behaviour is here.
+MitglList::MitglList()
+    : Screen(u"MitglList"_s, u"Mitglieder - Listen"_s) {
+    standForReading();
+    setUpGrid();
+    setUpHours();
+    layOutFilters();
+    QVBoxLayout* rest = Layout::column(this, Ueberschrift, Toolbar1);
+    rest->addWidget(Frame6);
+    rest->addWidget(tblMList, 1);
+    rest->addWidget(foot());
+}
+
+Toolbar* MitglList::buildToolbar() {
+    return new Toolbar(this, {{u"tbSuch"_s, u"&Suchen"_s, u"Tabelle durchsuchen..."_s, u"suchen"_s,
+                               [this] { tbSuch_Click(); }},
+                              {u"tbAnzLoeschen"_s, u"&Anz. löschen"_s, u"Anzeige löschen"_s,
+                               u"anzeige-loeschen"_s, &modMitglList::LeereMListAnzeige},
+                              {u"tbVorschau"_s, u"&Vorschau"_s, u"Druckvorschau der Mitgliederliste"_s,
+                               u"vorschau"_s, [this] { drucke(u"vorschau"_s); }},
+                              {u"tbDruck"_s, u"Drucken"_s, u"Aktuelle Auswahl drucken..."_s, u"drucken"_s,
+                               [this] { drucke(u"drucken"_s); }},
+                              {u"tbEsc"_s, u"&Schließen"_s, u"Zurück zur Kontakt - Übersicht"_s,
+                               u"schliessen"_s, [this] { tbEsc_Click(); }}});
+}
+
+void MitglList::layOutFilters() {
+    // On the left a date filter takes four columns, each answer of the filters below it two. On the right
+    // each answer takes one column.
+    QGridLayout* screen = Layout::form(Frame6);
+    screen->setVerticalSpacing(4);
+    constexpr int right = 6;
+    const auto addLeft = [&](int row, QCheckBox* box, QRadioButton* answer, QRadioButton* other) {
+        setUpAnswers(box, answer, other);
+        screen->addWidget(box, row, 0);
+        screen->addWidget(answer, row, 1, 1, 2);
+        screen->addWidget(other, row, 3, 1, 2);
+    };
+    const auto addRight = [&](int row, QCheckBox* box, QRadioButton* answer, QRadioButton* other) {
+        setUpAnswers(box, answer, other);
+        screen->addWidget(box, row, right);
+        screen->addWidget(answer, row, right + 1);
+        screen->addWidget(other, row, right + 2);
+    };
+    addDates(0, chkGebDat, {cboOptGeb01, txtGeb01}, {cboOptGeb02, txtGeb02});
+    addDates(1, chkEintritt, {cboOptTritt01, txtTritt01}, {cboOptTritt02, txtTritt02});
+    addLeft(2, chkGeschl, optMann, optFrau);
+    addLeft(3, chkJBeitrag, optBezahlt, optNBezahlt);
+    addLeft(4, chkStatus, optAktiv, optPassiv);
+    addRight(0, chkBefreit, optBefrJa, optBefrNein);
+    addRight(1, chkAusgMitgl, optAusgJa, optAusgNein);
+    addRight(2, chkJG, optJGJa, optJGNein);
+    addRight(3, chkArbStd, optStdJa, optStdNein);
+    optStdNein->setChecked(true);
+    screen->addWidget(Layout::line(Frame6, {chkArbAnz, cboArbJahr}), 4, right, 1, 3);
+    screen->setColumnMinimumWidth(right - 1, 2 * Layout::gap);
+    for (const int column : {2, 4}) screen->setColumnStretch(column, 1);
+    // Options are lower than lists: without a minimum height the rows would be uneven.
+    for (int row = 0; row < screen->rowCount(); ++row)
+        screen->setRowMinimumHeight(row, cboArbJahr->sizeHint().height());
+    screen->setColumnStretch(right + 2, 1);
+    Frame6->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+}
+
+void MitglList::addDates(int row, QCheckBox* box, const Vergleich& first, const Vergleich& second) {
+    const QString filter = box->text().chopped(1);
+    first.richteEin(filter + u", erster Vergleich"_s);
+    second.richteEin(filter + u", zweiter Vergleich"_s);
+    for (TextBox* day : {first.wert, second.wert}) {
+        day->setKeyFilter(&modRun::FilterDatum, Refused::WithTheWhole);
+        day->setHoldsDate();
+    }
+    const QVector<QWidget*> controls = {first.zeichen, first.wert, second.zeichen, second.wert};
+    auto* screen = static_cast<QGridLayout*>(Frame6->layout());
+    screen->addWidget(box, row, 0);
+    for (int column = 0; column < controls.size(); ++column)
+        screen->addWidget(controls[column], row, column + 1);
+    connectFilter(box, controls);
+}
+
+void MitglList::setUpAnswers(QCheckBox* box, QRadioButton* answer, QRadioButton* other) {
+    auto* pair = new QButtonGroup(this);
+    for (QRadioButton* option : {answer, other}) {
+        option->setAccessibleName(box->text() + u' ' + option->text());
+        option->setEnabled(false);
+        pair->addButton(option);
+    }
+    answer->setChecked(true);
+    connectFilter(box, {answer, other});
+}
+
+void MitglList::connectFilter(QCheckBox* box, const QVector<QWidget*>& controls) {
+    on(box, &QCheckBox::toggled, [this, controls](bool ticked) {
+        for (QWidget* control : controls) control->setEnabled(ticked);
+        tblMList->clearRows();
+    });
+}
+
+void MitglList::setUpHours() {
+    cboArbJahr->setAccessibleName(u"Arbeitsjahr"_s);
+    cboArbJahr->setEnabled(false);
+    connectFilter(chkArbAnz, {cboArbJahr});
+    // The grid holds the hours of the year chosen before.
+    on(cboArbJahr, &ComboBox::Click, [this] {
+        if (std::exchange(m_arbJahr, cboArbJahr->currentText()) != m_arbJahr) tblMList->clearRows();
+    });
+}
+
+void MitglList::setUpGrid() {
+    tblMList->setColumns({{u"Mitgl.-Nr"_s, 72, true},
+                          {u"Nachname"_s, 104},
+                          {u"Vorname"_s, 96},
+                          {u"Straße"_s, 140},
+                          {.head = u"PLZ"_s, .width = 52, .fixed = true},
+                          {u"Ort"_s, 104},
+                          {u"Tel. [privat]"_s, 116},
+                          {.head = u"Geb.-Datum"_s, .width = 92, .fixed = true},
+                          {u"Pfl.-Std."_s, 96, true},
+                          {u"Gel. Arb-Std."_s, 104, true},
+                          {u"Soll/Haben"_s, 96, true}});
+    tblMList->setSortable();
+    tblMList->setEmptyHint(u"Setzen Sie oben Häkchen vor das, wonach Sie aussuchen wollen.\n"_s
+                           u"Dann drücken Sie „Suchen“."_s);
+    tblMList->setAccessibleName(u"Gefundene Mitglieder"_s);
+    setHourView(false);
+    on(tblMList, &DataTable::OnGridCellDown, [this](int row, int) { tblMList_OnGridCellDown(row); });
+    on(tblMList, &DataTable::OnGridCellOpen, [this](int row, int) { tblMList_OnGridCellOpen(row); });
+    on(tblMList, &DataTable::OnGridCellMenu, [this] { tblMList_OnGridCellMenu(); });
+    modRun::connectGridFocus(tblMList);
+}
+
+QWidget* MitglList::foot() {
+    lblGefDS->setAccessibleName(lblAnzDS->text());
+    lblGefDS->setNumeric();
+    txtInfo->setAccessibleName(Label1->text());
+    Label1->setBuddy(txtInfo);
+    constexpr int progressWidth = 160;
+    pb->setMaximumWidth(progressWidth);
+    pb->hide();
+    return Layout::line(this, {Label1, txtInfo, pb, lblAnzDS, lblGefDS}, txtInfo);
+}
 
 void MitglList::Form_Load() {
     loadcboArbJahre(cboArbJahr);

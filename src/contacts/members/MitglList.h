@@ -1,24 +1,21 @@
 #pragma once
 
+#include "ComboBox.h"
+#include "DataTable.h"
+#include "Layout.h"
+#include "ProgressBar.h"
 #include "Screen.h"
+#include "TextBox.h"
+#include "ValueLabel.h"
 #include "Vergleich.h"
-
-class ComboBox;
-class DataTable;
-class Heading;
-class ProgressBar;
-class QCheckBox;
-class QGroupBox;
-class QLabel;
-class QRadioButton;
-class TextBox;
-class Toolbar;
-class ValueLabel;
 
 /// Lists members by a free combination of filters, on demand with the hours they owe and have worked. Two
 /// printed lists are made from its grid.
 class MitglList : public Screen {
     Q_OBJECT
+
+    static constexpr int wholeDate = 10;
+    static constexpr int description = 255;
 
 public:
     MitglList();
@@ -30,68 +27,63 @@ public:
     /// True shows the three columns of hours instead of address, telephone and birthday.
     void setHourView(bool on);
 
-    Heading* Ueberschrift;
-    Toolbar* Toolbar1;
+    Heading* const Ueberschrift = new Heading(u"MITGLIEDER-LISTE", this);
+    Toolbar* const Toolbar1 = buildToolbar();
 
-    QGroupBox* Frame6;
-    QCheckBox* chkGebDat;
-    ComboBox* cboOptGeb01;
-    TextBox* txtGeb01;
-    ComboBox* cboOptGeb02;
-    TextBox* txtGeb02;
-    QCheckBox* chkEintritt;
-    ComboBox* cboOptTritt01;
-    TextBox* txtTritt01;
-    ComboBox* cboOptTritt02;
-    TextBox* txtTritt02;
-    QCheckBox* chkGeschl;
-    QRadioButton* optMann;
-    QRadioButton* optFrau;
-    QCheckBox* chkJBeitrag;
-    QRadioButton* optBezahlt;
-    QRadioButton* optNBezahlt;
-    QCheckBox* chkStatus;
-    QRadioButton* optAktiv;
-    QRadioButton* optPassiv;
-    QCheckBox* chkBefreit;
-    QRadioButton* optBefrJa;
-    QRadioButton* optBefrNein;
-    QCheckBox* chkAusgMitgl;
-    QRadioButton* optAusgJa;
-    QRadioButton* optAusgNein;
-    QCheckBox* chkJG;
-    QRadioButton* optJGJa;
-    QRadioButton* optJGNein;
-    QCheckBox* chkArbStd;
-    QRadioButton* optStdJa;
-    QRadioButton* optStdNein;
-    QCheckBox* chkArbAnz;
-    ComboBox* cboArbJahr;
-    QLabel* Label1;
-    TextBox* txtInfo;
+    QGroupBox* const Frame6 = Layout::frame(u"Frame6", u"Liste generieren...", this);
+    QCheckBox* const chkGebDat = Layout::checkBox(u"chkGebDat", u"Geburtsdatum:", Frame6);
+    ComboBox* const cboOptGeb01 = new ComboBox(u"cboOptGeb01", Frame6);
+    TextBox* const txtGeb01 = new TextBox(u"txtGeb01", Frame6, wholeDate);
+    ComboBox* const cboOptGeb02 = new ComboBox(u"cboOptGeb02", Frame6);
+    TextBox* const txtGeb02 = new TextBox(u"txtGeb02", Frame6, wholeDate);
+    QCheckBox* const chkEintritt = Layout::checkBox(u"chkEintritt", u"Eintrittsdatum:", Frame6);
+    ComboBox* const cboOptTritt01 = new ComboBox(u"cboOptTritt01", Frame6);
+    TextBox* const txtTritt01 = new TextBox(u"txtTritt01", Frame6, wholeDate);
+    ComboBox* const cboOptTritt02 = new ComboBox(u"cboOptTritt02", Frame6);
+    TextBox* const txtTritt02 = new TextBox(u"txtTritt02", Frame6, wholeDate);
+    QCheckBox* const chkGeschl = Layout::checkBox(u"chkGeschl", u"Geschlecht:", Frame6);
+    QRadioButton* const optMann = Layout::option(u"optMann", u"Mann", Frame6);
+    QRadioButton* const optFrau = Layout::option(u"optFrau", u"Frau", Frame6);
+    QCheckBox* const chkJBeitrag = Layout::checkBox(u"chkJBeitrag", u"Jahresbeitrag:", Frame6);
+    QRadioButton* const optBezahlt = Layout::option(u"optBezahlt", u"bezahlt", Frame6);
+    QRadioButton* const optNBezahlt = Layout::option(u"optNBezahlt", u"n. bezahlt", Frame6);
+    QCheckBox* const chkStatus = Layout::checkBox(u"chkStatus", u"Status:", Frame6);
+    QRadioButton* const optAktiv = Layout::option(u"optAktiv", u"aktiv", Frame6);
+    QRadioButton* const optPassiv = Layout::option(u"optPassiv", u"passiv", Frame6);
+    QCheckBox* const chkBefreit = Layout::checkBox(u"chkBefreit", u"Befreit [Arb-Std.]:", Frame6);
+    QRadioButton* const optBefrJa = Layout::option(u"optBefrJa", u"ja", Frame6);
+    QRadioButton* const optBefrNein = Layout::option(u"optBefrNein", u"nein", Frame6);
+    QCheckBox* const chkAusgMitgl = Layout::checkBox(u"chkAusgMitgl", u"ausgetr. Mitgl.:", Frame6);
+    QRadioButton* const optAusgJa = Layout::option(u"optAusgJa", u"ja", Frame6);
+    QRadioButton* const optAusgNein = Layout::option(u"optAusgNein", u"nein", Frame6);
+    QCheckBox* const chkJG = Layout::checkBox(u"chkJG", u"Jugendgruppe:", Frame6);
+    QRadioButton* const optJGJa = Layout::option(u"optJGJa", u"ja", Frame6);
+    QRadioButton* const optJGNein = Layout::option(u"optJGNein", u"nein", Frame6);
+    QCheckBox* const chkArbStd = Layout::checkBox(u"chkArbStd", u"Arb.-Std geleistet:", Frame6);
+    QRadioButton* const optStdJa = Layout::option(u"optStdJa", u"ja", Frame6);
+    QRadioButton* const optStdNein = Layout::option(u"optStdNein", u"nein", Frame6);
+    QCheckBox* const chkArbAnz =
+        Layout::checkBox(u"chkArbAnz", u"Arb.-Std. - Liste generieren für Arb.- Jahr:", Frame6);
+    ComboBox* const cboArbJahr = new ComboBox(u"cboArbJahr", Frame6);
 
-    DataTable* tblMList;
-    QLabel* lblAnzDS;
-    ValueLabel* lblGefDS;
-    ProgressBar* pb;
+    DataTable* const tblMList = new DataTable(u"tblMList", this);
+    QLabel* const lblAnzDS = Layout::label(u"lblAnzDS", u"Gefunden:", this);
+    ValueLabel* const lblGefDS = new ValueLabel(u"lblGefDS", this);
+    QLabel* const Label1 = Layout::label(u"Label1", u"Listenbeschreibung: [wird auf Liste gedruckt]", this);
+    TextBox* const txtInfo = new TextBox(u"txtInfo", this, description);
+    ProgressBar* const pb = new ProgressBar(u"pb", this);
 
 private:
-    void buildToolbar();
-    void buildDateFilters();
-    void buildChoices();
-    void buildHours();
-    void buildGrid();
-    void buildFoot();
+    Toolbar* buildToolbar();
     void layOutFilters();
-    QWidget* hourLine();
-    QWidget* layOutFoot();
-    void connectEvents();
-
-    Vergleich addBound(const QString& list, const QString& box, const QString& spoken);
-    /// Adds two options, one of which is always on. Screen readers read the text of `spoken` before each.
-    void addOptions(const QCheckBox* spoken, QRadioButton*& first, const QString& firstName,
-                    const QString& firstCaption, QRadioButton*& second, const QString& secondName,
-                    const QString& secondCaption);
+    void setUpHours();
+    void setUpGrid();
+    QWidget* foot();
+    /// Sets up a filter for a date with its two comparisons, and puts it into the left half of the frame.
+    void addDates(int row, QCheckBox* box, const Vergleich& first, const Vergleich& second);
+    /// Sets up a filter with two answers, of which `answer` is chosen first. Screen readers read the filter's
+    /// text before each answer.
+    void setUpAnswers(QCheckBox* box, QRadioButton* answer, QRadioButton* other);
     /// Makes the check box enable and disable its controls and empty the grid.
     void connectFilter(QCheckBox* box, const QVector<QWidget*>& controls);
 

@@ -97,7 +97,7 @@ void Vorschau::buildPageBox() {
 }
 
 void Vorschau::buildZoomBox() {
-    cboZoom = new ComboBox(u"cboZoom"_s, ComboBox::Order::AsAdded, ComboBox::Kind::DropDownList, Toolbar1);
+    cboZoom = new ComboBox(u"cboZoom"_s, Toolbar1);
     for (const int percent : zoomLevels) cboZoom->AddItem(u"%1 %"_s.arg(percent));
     cboZoom->AddItem(u"Seitenbreite"_s);
     cboZoom->AddItem(u"ganze Seite"_s);

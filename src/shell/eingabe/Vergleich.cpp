@@ -8,16 +8,13 @@
 
 using namespace Qt::StringLiterals;
 
-Vergleich Vergleich::neu(const QString& list, const QString& box, const QString& spoken, QWidget* parent) {
-    const Vergleich made{new ComboBox(list, ComboBox::Order::AsAdded, ComboBox::Kind::DropDownList, parent),
-                         new TextBox(box, parent)};
-    for (const QString& zeichen : {u"="_s, u">"_s, u">="_s, u"<"_s, u"<="_s, u"<>"_s})
-        made.zeichen->AddItem(zeichen);
-    made.zeichen->setAccessibleName(spoken + u", Vergleich"_s);
-    made.wert->setAccessibleName(spoken);
-    made.leere();
-    made.setEnabled(false);
-    return made;
+void Vergleich::richteEin(const QString& spoken) const {
+    for (const QString& vergleich : {u"="_s, u">"_s, u">="_s, u"<"_s, u"<="_s, u"<>"_s})
+        zeichen->AddItem(vergleich);
+    zeichen->setAccessibleName(spoken + u", Vergleich"_s);
+    wert->setAccessibleName(spoken);
+    leere();
+    setEnabled(false);
 }
 
 bool Vergleich::isEmpty() const { return zeichen->currentText().isEmpty() && wert->text().isEmpty(); }

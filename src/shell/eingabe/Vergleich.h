@@ -12,9 +12,8 @@ struct Vergleich {
     ComboBox* zeichen;
     TextBox* wert;
 
-    /// Makes both controls, disabled and with no comparison chosen. `list` and `box` are their object names;
-    /// `spoken` is for screen readers.
-    static Vergleich neu(const QString& list, const QString& box, const QString& spoken, QWidget* parent);
+    /// Fills the list, and disables both with no comparison chosen. `spoken` is for screen readers.
+    void richteEin(const QString& spoken) const;
 
     bool isEmpty() const;
     /// Clears the choice and the box.

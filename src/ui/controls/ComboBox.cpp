@@ -11,7 +11,7 @@
 #include <QWheelEvent>
 #include <algorithm>
 
-ComboBox::ComboBox(const QString& name, Order order, Kind kind, QWidget* parent)
+ComboBox::ComboBox(QStringView name, QWidget* parent, Kind kind, Order order)
     : QComboBox(parent)
     , m_order(order) {
     setObjectName(name);

@@ -12,8 +12,8 @@ public:
     enum class Order { AsAdded, Sorted };
     enum class Kind { DropDownList, Editable };
 
-    explicit ComboBox(const QString& name, Order order = Order::AsAdded, Kind kind = Kind::DropDownList,
-                      QWidget* parent = nullptr);
+    explicit ComboBox(QStringView name, QWidget* parent = nullptr, Kind kind = Kind::DropDownList,
+                      Order order = Order::AsAdded);
 
     /// Adds at the end, or with Order::Sorted at its place in the German order, regardless of case. The
     /// selection stays.

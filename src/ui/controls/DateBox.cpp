@@ -34,7 +34,7 @@ QString withPoints(QString typed) {
 } // namespace
 
 // Not QDateEdit: it reads 31012026, typed while it shows a day of February, as 3 October 1202.
-DateBox::DateBox(const QString& name, QWidget* parent)
+DateBox::DateBox(QStringView name, QWidget* parent)
     : QComboBox(parent)
     , m_focus(this) {
     setObjectName(name);

@@ -16,7 +16,7 @@ class DateBox : public QComboBox {
     Q_OBJECT
 
 public:
-    explicit DateBox(const QString& name, QWidget* parent = nullptr);
+    explicit DateBox(QStringView name, QWidget* parent = nullptr);
 
     /// The date given to setDate(), with its time of day and even if no calendar has it, until a user changes
     /// it. While the text is no date: the last one that was.

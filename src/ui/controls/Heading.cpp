@@ -28,8 +28,8 @@ void HeadingText::takeInk() {
     setPalette(inks);
 }
 
-Heading::Heading(const QString& text, QWidget* parent)
-    : HeadingText(text, parent) {
+Heading::Heading(QStringView text, QWidget* parent)
+    : HeadingText(text.toString(), parent) {
     setObjectName(u"Ueberschrift"_s);
     QFont face = font();
     face.setFamilies({u"Comic Sans MS"_s, u"Comic Neue"_s});

@@ -21,5 +21,5 @@ class Heading : public HeadingText {
     Q_OBJECT
 
 public:
-    explicit Heading(const QString& text, QWidget* parent = nullptr);
+    explicit Heading(QStringView text, QWidget* parent = nullptr);
 };

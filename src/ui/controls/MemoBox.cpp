@@ -21,8 +21,9 @@ QString insertedBy(const QKeyEvent* event) {
 
 } // namespace
 
-MemoBox::MemoBox(const QString& name, QWidget* parent)
+MemoBox::MemoBox(QStringView name, QWidget* parent, int limit)
     : QPlainTextEdit(parent)
+    , m_limit(limit)
     , m_focus(this, [this] { Q_EMIT LostFocus(); }) {
     setObjectName(name);
     setTabChangesFocus(true);

@@ -9,15 +9,14 @@ class MemoBox : public QPlainTextEdit {
     Q_OBJECT
 
 public:
-    explicit MemoBox(const QString& name, QWidget* parent = nullptr);
+    /// Refuses characters beyond the limit, pasted ones too; 0 is no limit. A line break counts as two
+    /// characters, since the tables hold two for it.
+    explicit MemoBox(QStringView name, QWidget* parent = nullptr, int limit = 0);
 
     /// Joins lines by carriage return and line feed, as the tables hold them.
     QString Text() const;
     /// Takes line breaks of any kind.
     void setText(const QString& text);
-    /// Refuses characters beyond the limit, pasted ones too; 0 is no limit. A line break counts as two
-    /// characters, since the tables hold two for it.
-    void setLimit(int characters) { m_limit = characters; }
 
 Q_SIGNALS:
     void LostFocus();
@@ -33,6 +32,6 @@ protected:
 private:
     QString whatFits(const QString& text) const;
 
-    int m_limit = 0;
+    int m_limit;
     FocusState m_focus;
 };

@@ -9,7 +9,7 @@ constexpr int hundredths = 100;
 constexpr int millisecondsBetweenPaints = 40;
 } // namespace
 
-ProgressBar::ProgressBar(const QString& name, QWidget* parent)
+ProgressBar::ProgressBar(QStringView name, QWidget* parent)
     : QProgressBar(parent) {
     setObjectName(name);
     setRange(0, hundredths);

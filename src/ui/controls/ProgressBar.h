@@ -10,7 +10,7 @@ class ProgressBar : public QProgressBar {
     Q_OBJECT
 
 public:
-    explicit ProgressBar(const QString& name, QWidget* parent = nullptr);
+    explicit ProgressBar(QStringView name, QWidget* parent = nullptr);
 
     void setMax(qint64 maximum); ///< at least 1; resets the value to 0
     void setProgress(qint64 value);

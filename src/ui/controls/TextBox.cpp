@@ -46,13 +46,14 @@ QString inOneLine(QString text) {
 
 } // namespace
 
-TextBox::TextBox(const QString& name, QWidget* parent)
+TextBox::TextBox(QStringView name, QWidget* parent, int limit)
     : QLineEdit(parent)
     , m_focus(this, [this] {
         m_selectOnRelease = false;
         Q_EMIT LostFocus();
     }) {
     setObjectName(name);
+    setMaxLength(limit);
 }
 
 void TextBox::setHoldsDate() {

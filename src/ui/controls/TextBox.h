@@ -23,7 +23,9 @@ class TextBox : public QLineEdit {
     Q_OBJECT
 
 public:
-    explicit TextBox(const QString& name, QWidget* parent = nullptr);
+    static constexpr int unlimited = 32767;
+    /// `limit` is the most characters that the box takes.
+    explicit TextBox(QStringView name, QWidget* parent = nullptr, int limit = unlimited);
 
     /// Shows the beginning of a text that is too long for the box, unless the box has the focus.
     void setText(const QString& text);

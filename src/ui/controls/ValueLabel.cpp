@@ -7,7 +7,7 @@ constexpr int minimumValueWidth = 48;
 constexpr int innerMargin = 2;
 } // namespace
 
-ValueLabel::ValueLabel(const QString& name, QWidget* parent)
+ValueLabel::ValueLabel(QStringView name, QWidget* parent)
     : QLabel(parent) {
     setObjectName(name);
     setTextFormat(Qt::PlainText);

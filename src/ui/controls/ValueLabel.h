@@ -7,7 +7,7 @@ class ValueLabel : public QLabel {
     Q_OBJECT
 
 public:
-    explicit ValueLabel(const QString& name, QWidget* parent = nullptr);
+    explicit ValueLabel(QStringView name, QWidget* parent = nullptr);
 
     /// For a count or a sum: at the right, with room for nine digits.
     void setNumeric();

@@ -1,48 +1,37 @@
 #include "Layout.h"
 
-#include "Heading.h"
-#include "Toolbar.h"
-
-#include <QBoxLayout>
-#include <QCheckBox>
-#include <QGridLayout>
-#include <QGroupBox>
-#include <QLabel>
-#include <QPushButton>
-#include <QRadioButton>
-
 using namespace Qt::StringLiterals;
 
 namespace Layout {
 
-QLabel* label(const QString& name, const QString& text, QWidget* parent) {
+QLabel* label(QStringView name, QStringView text, QWidget* parent) {
     auto* made = new QLabel(parent);
     made->setTextFormat(Qt::PlainText);
-    made->setText(text);
+    made->setText(text.toString());
     made->setObjectName(name);
     return made;
 }
 
-QCheckBox* checkBox(const QString& name, const QString& caption, QWidget* parent) {
-    auto* made = new QCheckBox(caption, parent);
+QCheckBox* checkBox(QStringView name, QStringView caption, QWidget* parent) {
+    auto* made = new QCheckBox(caption.toString(), parent);
     made->setObjectName(name);
     return made;
 }
 
-QRadioButton* option(const QString& name, const QString& caption, QWidget* parent) {
-    auto* made = new QRadioButton(caption, parent);
+QRadioButton* option(QStringView name, QStringView caption, QWidget* parent) {
+    auto* made = new QRadioButton(caption.toString(), parent);
     made->setObjectName(name);
     return made;
 }
 
-QGroupBox* frame(const QString& name, const QString& title, QWidget* parent) {
-    auto* made = new QGroupBox(title, parent);
+QGroupBox* frame(QStringView name, QStringView title, QWidget* parent) {
+    auto* made = new QGroupBox(title.toString(), parent);
     made->setObjectName(name);
     return made;
 }
 
-QPushButton* button(const QString& name, const QString& caption, QWidget* parent) {
-    auto* made = new QPushButton(caption, parent);
+QPushButton* button(QStringView name, QStringView caption, QWidget* parent) {
+    auto* made = new QPushButton(caption.toString(), parent);
     made->setObjectName(name);
     return made;
 }
@@ -74,12 +63,25 @@ QHBoxLayout* line(QWidget* parent) {
     return made;
 }
 
-void addRecordKeys(Toolbar* toolbar, const Toolbar::Handler& save, const Toolbar::Handler& remove,
-                   const Toolbar::Handler& empty) {
-    toolbar->addKeys(
-        {{u"tbSpeichern"_s, u"&Speichern"_s, u"Speichern"_s, u"speichern"_s, save},
-         {u"tbLoeschen"_s, u"&Löschen"_s, u"Löschen"_s, u"loeschen"_s, remove},
-         {u"tbAnzLoeschen"_s, u"&Anz. löschen"_s, u"Anzeige löschen"_s, u"anzeige-loeschen"_s, empty}});
+QWidget* line(QWidget* parent, const QVector<QWidget*>& parts, QWidget* widest) {
+    QHBoxLayout* row = line(parent);
+    for (QWidget* part : parts) row->addWidget(part, part == widest ? 1 : 0);
+    if (!widest) row->addStretch();
+    return row->parentWidget();
+}
+
+Toolbar* recordToolbar(QWidget* screen, const Toolbar::Handler& save, const Toolbar::Handler& remove,
+                       const Toolbar::Handler& empty) {
+    return new Toolbar(screen, {{u"tbSpeichern"_s, u"&Speichern"_s, u"Speichern"_s, u"speichern"_s, save},
+                                {u"tbLoeschen"_s, u"&Löschen"_s, u"Löschen"_s, u"loeschen"_s, remove},
+                                {u"tbAnzLoeschen"_s, u"&Anz. löschen"_s, u"Anzeige löschen"_s,
+                                 u"anzeige-loeschen"_s, empty}});
+}
+
+QGridLayout* form(QWidget* frame) {
+    auto* made = new QGridLayout(frame);
+    made->setHorizontalSpacing(gap);
+    return made;
 }
 
 void addField(QGridLayout* screen, int row, QLabel* label, QWidget* field, int column) {
@@ -89,6 +91,11 @@ void addField(QGridLayout* screen, int row, QLabel* label, QWidget* field, int c
     QString spoken = label->text();
     while (spoken.endsWith(u':') || spoken.endsWith(u'.') || spoken.endsWith(u' ')) spoken.chop(1);
     field->setAccessibleName(spoken);
+}
+
+void addFields(QGridLayout* screen, std::initializer_list<std::pair<QLabel*, QWidget*>> fields, int column) {
+    int row = 0;
+    for (const auto& [label, field] : fields) addField(screen, row++, label, field, column);
 }
 
 } // namespace Layout

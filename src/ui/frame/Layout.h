@@ -1,19 +1,16 @@
 #pragma once
 
+#include "Heading.h"
 #include "Toolbar.h"
 
-#include <QString>
-
-class Heading;
-class QCheckBox;
-class QGridLayout;
-class QGroupBox;
-class QHBoxLayout;
-class QLabel;
-class QPushButton;
-class QRadioButton;
-class QVBoxLayout;
-class QWidget;
+#include <QBoxLayout>
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <utility>
 
 /// The building blocks of a screen's layout: labels left of their fields in common rows, frames, a heading
 /// with the toolbar below it. Distances are multiples of four.
@@ -22,11 +19,11 @@ namespace Layout {
 constexpr int gap = 8;
 
 /// A label that shows plain text, never markup.
-QLabel* label(const QString& name, const QString& text, QWidget* parent);
-QGroupBox* frame(const QString& name, const QString& title, QWidget* parent);
-QCheckBox* checkBox(const QString& name, const QString& caption, QWidget* parent);
-QRadioButton* option(const QString& name, const QString& caption, QWidget* parent);
-QPushButton* button(const QString& name, const QString& caption, QWidget* parent);
+QLabel* label(QStringView name, QStringView text, QWidget* parent);
+QGroupBox* frame(QStringView name, QStringView title, QWidget* parent);
+QCheckBox* checkBox(QStringView name, QStringView caption, QWidget* parent);
+QRadioButton* option(QStringView name, QStringView caption, QWidget* parent);
+QPushButton* button(QStringView name, QStringView caption, QWidget* parent);
 
 /// The outermost layout of a window.
 QVBoxLayout* column(QWidget* window);
@@ -36,10 +33,17 @@ QVBoxLayout* column(QWidget* screen, Heading* heading, Toolbar* toolbar);
 
 /// A row without margins, on a widget of its own (its parentWidget()).
 QHBoxLayout* line(QWidget* parent);
-/// The keys that most screens with an entry form begin with: save, delete, empty.
-void addRecordKeys(Toolbar* toolbar, const Toolbar::Handler& save, const Toolbar::Handler& remove,
-                   const Toolbar::Handler& empty);
+/// A row of these parts, on a widget of its own. Room that is left goes to `widest`, or else behind the last.
+QWidget* line(QWidget* parent, const QVector<QWidget*>& parts, QWidget* widest = nullptr);
+/// A toolbar with the keys of most screens with an entry form: save, delete, empty.
+Toolbar* recordToolbar(QWidget* screen, const Toolbar::Handler& save, const Toolbar::Handler& remove,
+                       const Toolbar::Handler& empty);
+/// The layout of a frame in which fields stand in rows.
+QGridLayout* form(QWidget* frame);
 /// A row of a form. The label becomes the field's name for screen readers.
 void addField(QGridLayout* screen, int row, QLabel* label, QWidget* field, int column = 0);
+/// The first rows of a form, one below the other.
+void addFields(QGridLayout* screen, std::initializer_list<std::pair<QLabel*, QWidget*>> fields,
+               int column = 0);
 
 } // namespace Layout

@@ -33,7 +33,7 @@ protected:
 
 } // namespace
 
-Toolbar::Toolbar(QWidget* parent)
+Toolbar::Toolbar(QWidget* parent, std::initializer_list<Key> keys)
     : QWidget(parent)
     , m_row(new QHBoxLayout(this)) {
     setObjectName(u"Toolbar1"_s);
@@ -41,6 +41,7 @@ Toolbar::Toolbar(QWidget* parent)
     m_row->setContentsMargins(margin, gap, margin, gap);
     m_row->setSpacing(gap);
     m_row->addStretch(1);
+    addKeys(keys);
 }
 
 bool Toolbar::hasShortcut(const QKeySequence& shortcut) const {

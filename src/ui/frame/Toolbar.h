@@ -25,7 +25,7 @@ public:
         Handler handler; ///< runs guarded (see runEvent)
     };
 
-    explicit Toolbar(QWidget* parent = nullptr);
+    explicit Toolbar(QWidget* parent = nullptr, std::initializer_list<Key> keys = {});
 
     QToolButton* addKey(const QString& key, const QString& caption, const QString& tip, const QString& icon,
                         const Handler& handler);

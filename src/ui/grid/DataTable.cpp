@@ -28,11 +28,11 @@ public:
 
 } // namespace
 
-DataTable::DataTable(const QString& name, QWidget* parent)
+DataTable::DataTable(QStringView name, QWidget* parent)
     : QTreeView(parent)
     , m_model(std::make_unique<DataTableModel>()) {
     setObjectName(name);
-    setAccessibleName(name);
+    setAccessibleName(name.toString());
     setHeader(new DataTableHeader(this));
     setModel(m_model.get());
     setItemDelegate(new OneLine(this));

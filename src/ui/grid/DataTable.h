@@ -36,7 +36,7 @@ class DataTable : public QTreeView {
 public:
     static constexpr int rowHeaderColumn = -5; ///< the column of a press on the row header
 
-    explicit DataTable(const QString& name, QWidget* parent = nullptr);
+    explicit DataTable(QStringView name, QWidget* parent = nullptr);
     ~DataTable() override;
 
     /// Drops all rows.

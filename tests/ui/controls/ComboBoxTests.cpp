@@ -80,7 +80,7 @@ TEST_F(ComboBoxTest, ANameMayBeTypedSlowlyAndWithItsBlanks) {
 }
 
 TEST_F(ComboBoxTest, SortedEntriesStandInGermanOrder) {
-    ComboBox sorted(u"cboGew"_s, ComboBox::Order::Sorted);
+    ComboBox sorted(u"cboGew"_s, nullptr, ComboBox::Kind::DropDownList, ComboBox::Order::Sorted);
     for (const QString& name : {u"Zander"_s, u"öhe"_s, u"Ohm"_s, u"apfel"_s, u"Äsche"_s, u"Ast"_s}) {
         sorted.AddItem(name);
         if (name == u"Ohm") sorted.setText(name);

@@ -36,7 +36,7 @@ protected:
     QWidget window;
     TextBox* box = new TextBox(u"txtAnzahl"_s);
     TextBox* other = new TextBox(u"txtGewicht"_s);
-    MemoBox* memo = new MemoBox(u"txtNotiz"_s);
+    MemoBox* memo = new MemoBox(u"txtNotiz"_s, nullptr, 6);
     QString log;
     QString focusLog;
 };
@@ -100,7 +100,6 @@ TEST_F(TextBoxTest, WhatIsPastedOrDroppedPassesTheFilter) {
 }
 
 TEST_F(TextBoxTest, AMemoRefusesWhatGoesBeyondItsLimit) {
-    memo->setLimit(6);
     QTest::keyClicks(memo, u"abc"_s);
     QTest::keyClick(memo, Qt::Key_Return);
     QTest::keyClicks(memo, u"dx"_s);
