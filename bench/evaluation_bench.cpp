@@ -192,7 +192,7 @@ void benchPdf(const QString& folder) {
     const QString pdf = folder + u"/liste.pdf"_s;
     const auto report = Berichte::rpt_Fangliste(); // keeps the rows of the run
     modFAuswert::DruckeFangListe(u"nichts"_s);
-    const double own = secondsOf([&] { saveReportAsPdf(*report->document(), pdf); });
+    const double own = secondsOf([&] { printReport(*report->document(), {pdf}); });
     const QString office = QStandardPaths::findExecutable(u"soffice"_s);
     if (office.isEmpty())
         return (void)std::printf("PDF of them: %.3f ms; no soffice here to hold it against\n", own * 1e3);

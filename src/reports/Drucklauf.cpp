@@ -77,7 +77,11 @@ void setzeAnschrift(ErrorTail& step, Report& report) {
 void gibAus(ErrorTail& step, Hourglass& hourglass, const std::shared_ptr<Report>& report,
             const QString& wort) {
     if (wort == u"drucken"_s) {
-        step([&] { printAfterDialog(*report->document()); });
+        step([&] {
+            const auto document = report->document();
+            const auto target = printDialogs().choosePrintTarget(*document, 0);
+            if (target) printReport(*document, *target);
+        });
     } else if (wort == u"vorschau"_s) {
         hourglass.end();
         step([&] { rahmen()->binde(the<Vorschau>()); });

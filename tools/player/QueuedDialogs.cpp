@@ -4,10 +4,8 @@ QString QueuedDialogs::choosePdfFile(const QString&) {
     return m_files.isEmpty() ? QString() : m_files.takeFirst();
 }
 
-std::optional<PrintTarget> QueuedDialogs::choosePrintTarget(const QString& caption, int, int) {
-    const QString file = choosePdfFile(caption);
+std::optional<PrintTarget> QueuedDialogs::choosePrintTarget(const ReportDocument&, int) {
+    const QString file = choosePdfFile({});
     if (file.isEmpty()) return std::nullopt;
-    PrintTarget target;
-    target.pdfFile = file;
-    return target;
+    return PrintTarget{file};
 }

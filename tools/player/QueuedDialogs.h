@@ -13,7 +13,7 @@ public:
     qsizetype unused() const { return m_files.size(); }
     void setPrinters(int count) { m_printers = count; }
 
-    std::optional<PrintTarget> choosePrintTarget(const QString& caption, int pages, int page) override;
+    std::optional<PrintTarget> choosePrintTarget(const ReportDocument& document, int page) override;
     QString choosePdfFile(const QString& proposal) override;
     int printerCount() const override { return m_printers; }
 

@@ -105,6 +105,6 @@ QStringList report(const QStringList& words) {
     return lines;
 }
 
-void saveReport(const QString& path) { saveReportAsPdf(previewed(), path); }
+void saveReport(const QString& path) { printReport(previewed(), {path}); }
 
 } // namespace Views

@@ -1,7 +1,6 @@
 #include "PrintDialogs.h"
 
 #include "Clock.h"
-#include "ReportDocument.h"
 
 using namespace Qt::StringLiterals;
 
@@ -14,12 +13,6 @@ void setPrintDialogs(PrintDialogs* dialogs) { current = dialogs; }
 PrintDialogs& printDialogs() {
     Q_ASSERT_X(current, "printDialogs", "setPrintDialogs() has not been called");
     return *current;
-}
-
-bool printAfterDialog(const ReportDocument& document) {
-    const auto target = printDialogs().choosePrintTarget(document.caption(), document.pageCount(), 0);
-    if (target) printReport(document, *target);
-    return target.has_value();
 }
 
 QString pdfNameFor(QString caption) {

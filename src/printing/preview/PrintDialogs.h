@@ -2,7 +2,6 @@
 
 #include "PrintRun.h"
 
-#include <QString>
 #include <optional>
 
 /// The print dialogs. The program's implementation shows the platform's dialogs; those of the tests and of
@@ -10,9 +9,9 @@
 class PrintDialogs {
 public:
     virtual ~PrintDialogs() = default;
-    /// Asks where to print, preset to all of `pages` pages. `page` (from 0) is the current one. None if the
-    /// user cancels.
-    virtual std::optional<PrintTarget> choosePrintTarget(const QString& caption, int pages, int page) = 0;
+    /// Asks where to print, preset to all pages. `page` (from 0) is the current one. None if the user
+    /// cancels.
+    virtual std::optional<PrintTarget> choosePrintTarget(const ReportDocument& document, int page) = 0;
     /// Asks for the file to save a PDF as. `proposal` is a file name without folder. Empty if the user
     /// cancels.
     virtual QString choosePdfFile(const QString& proposal) = 0;
@@ -23,10 +22,6 @@ public:
 void setPrintDialogs(PrintDialogs* dialogs);
 /// The implementation. Call only after setPrintDialogs().
 PrintDialogs& printDialogs();
-
-/// Shows the print dialog, preset to all pages, and prints. False if the user cancels. Errors as for
-/// printReport().
-bool printAfterDialog(const ReportDocument& document);
 
 /// A file name of the caption and today's date, without the characters that some systems refuse.
 QString pdfNameFor(QString caption);

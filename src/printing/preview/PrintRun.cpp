@@ -27,27 +27,14 @@ double unitOn(const QPaintDevice& device) {
     return std::min({resolution, width, height});
 }
 
-QVector<int> pagesOf(const ReportDocument& document, const PrintTarget& target) {
-    QVector<int> once = target.pages;
-    if (once.isEmpty()) {
-        once.resize(document.pageCount());
-        std::iota(once.begin(), once.end(), 0);
-    }
-    QVector<int> all;
-    for (int copy = 0; copy < target.copies; ++copy) all += once;
-    return all;
-}
-
 void paintPages(QPagedPaintDevice& device, const ReportDocument& document, const QVector<int>& pages) {
     QPainter painter;
     if (!painter.begin(&device)) throw runtimeError(RuntimeError::printerFailed);
     painter.scale(unitOn(device), unitOn(device));
     ReportPainter report(document, today());
-    bool first = true;
-    for (const int page : pages) {
-        if (!first && !device.newPage()) throw runtimeError(RuntimeError::printerFailed);
-        report.paint(painter, page);
-        first = false;
+    for (qsizetype number = 0; number < pages.size(); ++number) {
+        if (number > 0 && !device.newPage()) throw runtimeError(RuntimeError::printerFailed);
+        report.paint(painter, pages[number]);
     }
     if (!painter.end()) throw runtimeError(RuntimeError::printerFailed);
 }
@@ -80,17 +67,13 @@ void writePdf(const QString& name, const ReportDocument& document, const QVector
 } // namespace
 
 void printReport(const ReportDocument& document, const PrintTarget& target) {
-    const QVector<int> pages = pagesOf(document, target);
+    QVector<int> pages = target.pages;
+    if (pages.isEmpty()) {
+        pages.resize(document.pageCount());
+        std::iota(pages.begin(), pages.end(), 0);
+    }
     if (!target.pdfFile.isEmpty())
         writePdf(target.pdfFile, document, pages);
-    else if (target.printer)
-        printOn(*target.printer, document, pages);
     else
-        throw runtimeError(RuntimeError::printerFailed);
-}
-
-void saveReportAsPdf(const ReportDocument& document, const QString& file) {
-    PrintTarget target;
-    target.pdfFile = file;
-    printReport(document, target);
+        printOn(*target.printer, document, pages);
 }

@@ -10,13 +10,10 @@ class ReportDocument;
 /// The target of printing: a PDF file, or a printer if no file is named.
 struct PrintTarget {
     QString pdfFile;
-    std::shared_ptr<QPrinter> printer;
-    QVector<int> pages; ///< from 0, in the order of printing; empty for all
-    int copies = 1;     ///< times to print all pages; above 1 only for a printer that can't do so itself
+    std::shared_ptr<QPrinter> printer = {};
+    QVector<int> pages = {}; ///< from 0, in the order of printing; empty for all
 };
 
 /// Prints a report, dated today. Error 482 if the printer refuses. A PDF file is written as a whole or not at
 /// all: error 76 if its folder is missing, 75 if it can't be written there, 61 if the disk is full.
 void printReport(const ReportDocument& document, const PrintTarget& target);
-/// Saves all pages. Errors as for printReport().
-void saveReportAsPdf(const ReportDocument& document, const QString& file);

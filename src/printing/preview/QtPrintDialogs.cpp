@@ -1,6 +1,7 @@
 #include "QtPrintDialogs.h"
 
 #include "KeyGuard.h"
+#include "ReportDocument.h"
 
 #include <QApplication>
 #include <QDir>
@@ -23,7 +24,6 @@ void preset(QPrinter& printer, const QString& caption) {
     printer.setCreator(QCoreApplication::applicationName());
     printer.setPageSize(QPageSize(QPageSize::A4));
     printer.setPageOrientation(QPageLayout::Portrait);
-    printer.setPrintRange(QPrinter::AllPages);
 }
 
 // Adds a file name where the dialog proposes only a folder for the PDF file, as on some platforms.
@@ -50,25 +50,26 @@ QVector<int> wantedPages(const QPrinter& printer, int pages, int page) {
 
 } // namespace
 
-std::optional<PrintTarget> QtPrintDialogs::choosePrintTarget(const QString& caption, int pages, int page) {
+std::optional<PrintTarget> QtPrintDialogs::choosePrintTarget(const ReportDocument& document, int page) {
     PrintTarget target;
     target.printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
-    preset(*target.printer, caption);
+    preset(*target.printer, document.caption());
     QPrintDialog dialog(target.printer.get(), QApplication::activeWindow());
-    dialog.setWindowTitle(u"Drucken: %1"_s.arg(caption));
+    dialog.setWindowTitle(u"Drucken: %1"_s.arg(document.caption()));
     dialog.setOption(QAbstractPrintDialog::PrintPageRange);
     dialog.setOption(QAbstractPrintDialog::PrintCurrentPage);
-    dialog.setMinMax(1, pages);
-    proposeFile(dialog, caption);
+    dialog.setMinMax(1, document.pageCount());
+    proposeFile(dialog, document.caption());
     const KeyGuard guard(&dialog);
     if (dialog.exec() != QDialog::Accepted) return std::nullopt;
-    target.pages = wantedPages(*target.printer, pages, page);
-    // The pages are chosen already: a print server must not apply the ranges once more.
+    // The pages are chosen below: a print server must not apply the ranges once more.
+    const QVector<int> wanted = wantedPages(*target.printer, document.pageCount(), page);
     target.printer->setPageRanges({});
-    if (target.printer->outputFormat() == QPrinter::PdfFormat)
-        target.pdfFile = target.printer->outputFileName();
-    else if (!target.printer->supportsMultipleCopies())
-        target.copies = target.printer->copyCount();
+    const bool toFile = target.printer->outputFormat() == QPrinter::PdfFormat;
+    if (toFile) target.pdfFile = target.printer->outputFileName();
+    const bool copiesItself = toFile || target.printer->supportsMultipleCopies();
+    for (int copies = copiesItself ? 1 : target.printer->copyCount(); copies > 0; --copies)
+        target.pages += wanted;
     return target;
 }
 

@@ -6,7 +6,7 @@
 /// a printer.
 class QtPrintDialogs : public PrintDialogs {
 public:
-    std::optional<PrintTarget> choosePrintTarget(const QString& caption, int pages, int page) override;
+    std::optional<PrintTarget> choosePrintTarget(const ReportDocument& document, int page) override;
     /// Begins in the folder of the last PDF file, or in the user's documents.
     QString choosePdfFile(const QString& proposal) override;
     /// The number of the platform's printers, plus one for the PDF file.

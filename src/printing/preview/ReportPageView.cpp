@@ -49,15 +49,12 @@ ReportPageView::ReportPageView(QWidget* parent)
 void ReportPageView::setDocument(std::shared_ptr<const ReportDocument> document) {
     m_document = std::move(document);
     m_painter = std::make_unique<ReportPainter>(*m_document, today());
-    m_page = 0;
-    verticalScrollBar()->setValue(0);
     horizontalScrollBar()->setValue(0);
-    viewport()->update();
-    Q_EMIT pageChanged(m_page);
+    m_page = -1; // none of the new document yet
+    setPage(0);
 }
 
 void ReportPageView::setPage(int page) {
-    if (!m_document) return;
     const int wanted = std::clamp(page, 0, m_document->pageCount() - 1);
     m_wheel = 0;
     if (wanted != m_page) {
@@ -65,7 +62,7 @@ void ReportPageView::setPage(int page) {
         verticalScrollBar()->setValue(0);
         viewport()->update();
     }
-    Q_EMIT pageChanged(m_page);
+    Q_EMIT pageChanged();
 }
 
 void ReportPageView::moveOn(int direction) {
@@ -102,11 +99,10 @@ double ReportPageView::trueScale() const { return logicalDpiX() / tenthsPerInch;
 double ReportPageView::pixelsPerTenth() const {
     const QSize room = maximumViewportSize() - QSize(2 * rim, 2 * rim);
     const int bar = verticalScrollBar()->sizeHint().width();
-    const double width = std::max(0.1, double(room.width() - bar) / ReportPaper::width);
-    if (m_zoom == PageWidth) return width;
+    const auto scale = [](int pixels, int tenths) { return std::max(0.1, double(pixels) / tenths); };
+    if (m_zoom == PageWidth) return scale(room.width() - bar, ReportPaper::width);
     if (m_zoom == WholePage)
-        return std::max(0.1, std::min(double(room.width()) / ReportPaper::width,
-                                      double(room.height()) / ReportPaper::height));
+        return std::min(scale(room.width(), ReportPaper::width), scale(room.height(), ReportPaper::height));
     return trueScale() * m_zoom / 100;
 }
 
@@ -115,28 +111,28 @@ QSizeF ReportPageView::sheetSize() const {
 }
 
 QPointF ReportPageView::sheetCorner() const {
-    const QSizeF sheet = sheetSize();
-    const double left = std::max<double>(rim, std::floor((viewport()->width() - sheet.width()) / 2));
-    const double top = std::max<double>(rim, std::floor((viewport()->height() - sheet.height()) / 2));
-    return {left - horizontalScrollBar()->value(), top - verticalScrollBar()->value()};
+    const QSizeF space = (QSizeF(viewport()->size()) - sheetSize()) / 2;
+    return {std::max<double>(rim, std::floor(space.width())) - horizontalScrollBar()->value(),
+            std::max<double>(rim, std::floor(space.height())) - verticalScrollBar()->value()};
 }
 
 void ReportPageView::renewScrollBars() {
-    const QSize whole(static_cast<int>(std::ceil(sheetSize().width())) + 2 * rim,
-                      static_cast<int>(std::ceil(sheetSize().height())) + 2 * rim);
-    // A scroll bar appears only if the sheet does not fit without any bar.
+    const auto renew = [](QScrollBar* bar, double sheet, int room, int view) {
+        const int whole = static_cast<int>(std::ceil(sheet)) + 2 * rim;
+        bar->setPageStep(view);
+        // A scroll bar appears only if the sheet does not fit without any bar.
+        bar->setRange(0, whole > room ? whole - view : 0);
+    };
+    const QSizeF sheet = sheetSize();
     const QSize room = maximumViewportSize();
     const QSize view = viewport()->size();
-    horizontalScrollBar()->setPageStep(view.width());
-    verticalScrollBar()->setPageStep(view.height());
-    horizontalScrollBar()->setRange(0, whole.width() > room.width() ? whole.width() - view.width() : 0);
-    verticalScrollBar()->setRange(0, whole.height() > room.height() ? whole.height() - view.height() : 0);
+    renew(horizontalScrollBar(), sheet.width(), room.width(), view.width());
+    renew(verticalScrollBar(), sheet.height(), room.height(), view.height());
 }
 
 void ReportPageView::paintEvent(QPaintEvent* event) {
     QPainter painter(viewport());
     painter.fillRect(event->rect(), tableColour());
-    if (!m_document) return;
     const QRectF sheet(sheetCorner(), sheetSize());
     paintSheet(painter, sheet);
     painter.setClipRect(sheet);
@@ -153,42 +149,42 @@ void ReportPageView::resizeEvent(QResizeEvent* event) {
 void ReportPageView::scrollContentsBy(int /*dx*/, int /*dy*/) { viewport()->update(); }
 
 void ReportPageView::keyPressEvent(QKeyEvent* event) {
-    switch (event->key()) {
+    if (!obey(event->key())) QAbstractScrollArea::keyPressEvent(event);
+}
+
+bool ReportPageView::obey(int key) {
+    switch (key) {
     case Qt::Key_PageDown:
-        return moveOn(1);
     case Qt::Key_PageUp:
-        return moveOn(-1);
+        moveOn(key == Qt::Key_PageDown ? 1 : -1);
+        return true;
     case Qt::Key_Home:
-        return setPage(0);
     case Qt::Key_End:
-        return setPage(m_document ? m_document->pageCount() - 1 : 0);
+        setPage(key == Qt::Key_Home ? 0 : m_document->pageCount() - 1);
+        return true;
     case Qt::Key_Plus:
-        Q_EMIT zoomStepWanted(1);
-        return;
     case Qt::Key_Minus:
-        Q_EMIT zoomStepWanted(-1);
-        return;
+        Q_EMIT zoomStepWanted(key == Qt::Key_Plus ? 1 : -1);
+        return true;
     default:
-        QAbstractScrollArea::keyPressEvent(event);
+        return false;
     }
 }
 
 void ReportPageView::wheelEvent(QWheelEvent* event) {
     const int angle = event->angleDelta().y();
-    if (event->modifiers().testFlag(Qt::ControlModifier)) {
-        if (angle != 0) Q_EMIT zoomStepWanted(angle > 0 ? 1 : -1);
+    const bool zooms = event->modifiers().testFlag(Qt::ControlModifier);
+    if (zooms && angle != 0) Q_EMIT zoomStepWanted(angle > 0 ? 1 : -1);
+    if (zooms || turnByWheel(angle))
         event->accept();
-    } else if (turnByWheel(angle)) {
-        event->accept();
-    } else {
+    else
         QAbstractScrollArea::wheelEvent(event);
-    }
 }
 
 // At the end of a page the wheel turns to the next one. True if the wheel was moved there.
 bool ReportPageView::turnByWheel(int angle) {
     const int direction = angle < 0 ? 1 : -1;
-    if (!m_document || angle == 0 || !isAtEnd(direction)) {
+    if (angle == 0 || !isAtEnd(direction)) {
         m_wheel = 0;
         return false;
     }

@@ -20,16 +20,16 @@ public:
     void setDocument(std::shared_ptr<const ReportDocument> document);
     void setPage(int page); ///< from 0; beyond the ends the nearest one
     int page() const { return m_page; }
-    /// Scrolls by the height of the view, down with 1, up with -1. At the end of the page turns to the top of
-    /// the next page, at its top to the end of the previous one.
-    void moveOn(int direction);
+    /// Does what a key means here: PageDown and PageUp scroll by the height of the view, and turn the page at
+    /// its end, Home and End show the first and last page, + and - change the size. False for other keys.
+    bool obey(int key);
     /// Sets per cent of the sheet's true size, or a Fit.
     void setZoom(int zoom);
     /// Per cent of the sheet's true size at present, also with a Fit.
     double shownPercent() const;
 
 Q_SIGNALS:
-    void pageChanged(int page);
+    void pageChanged();
     void zoomStepWanted(int step); ///< 1 for larger, -1 for smaller
 
 protected:
@@ -45,6 +45,7 @@ private:
     double pixelsPerTenth() const;
     double trueScale() const;
     void renewScrollBars();
+    void moveOn(int direction); ///< down with 1, up with -1
     bool isAtEnd(int direction) const;
     void turnPage(int direction);
     bool turnByWheel(int angle);

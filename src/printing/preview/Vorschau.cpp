@@ -23,8 +23,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int zoomLevels[] = {50, 75, 100, 125, 150, 200};
-constexpr int zoomCount = static_cast<int>(std::size(zoomLevels));
-constexpr int pageWidthEntry = zoomCount;
+constexpr int pageWidthEntry = static_cast<int>(std::size(zoomLevels));
 
 void addToRow(Toolbar* toolbar, QWidget* control) {
     auto* row = static_cast<QBoxLayout*>(toolbar->layout());
@@ -48,10 +47,9 @@ Vorschau::Vorschau()
     whole->addWidget(Toolbar1);
     whole->addWidget(pageView, 1);
     whole->addWidget(lblAblage);
-    on(pageView, &ReportPageView::pageChanged, [this](int) { showPageNumber(); });
+    on(pageView, &ReportPageView::pageChanged, [this] { showPageNumber(); });
     on(pageView, &ReportPageView::zoomStepWanted, [this](int step) { zoom(step); });
     cboZoom->setListIndex(pageWidthEntry);
-    showPageNumber();
 }
 
 void Vorschau::buildToolbar() {
@@ -109,7 +107,6 @@ void Vorschau::buildZoomBox() {
 
 void Vorschau::buildNotice() {
     lblAblage = Layout::label(u"lblAblage"_s, {}, this);
-    lblAblage->setTextFormat(Qt::PlainText);
     lblAblage->setTextInteractionFlags(Qt::TextSelectableByMouse);
     lblAblage->setContentsMargins(Layout::gap, Layout::gap / 2, Layout::gap, Layout::gap / 2);
     // A long path must not make the frame wider.
@@ -123,31 +120,14 @@ void Vorschau::Form_QueryUnload() { unload<Vorschau>(); }
 
 // In the page box the keys that move the caret keep their meaning.
 bool Vorschau::Form_KeyDown(int key, Qt::KeyboardModifiers modifiers) {
-    if (key == Qt::Key_Plus || key == Qt::Key_Minus) {
-        zoom(key == Qt::Key_Plus ? 1 : -1);
-        return true;
-    }
-    if (modifiers & (Qt::ControlModifier | Qt::AltModifier | Qt::ShiftModifier)) return false;
-    const bool typing = txtSeite->hasFocus();
-    switch (key) {
-    case Qt::Key_Escape:
+    const bool zooms = key == Qt::Key_Plus || key == Qt::Key_Minus;
+    if (!zooms && modifiers & (Qt::ControlModifier | Qt::AltModifier | Qt::ShiftModifier)) return false;
+    if (key == Qt::Key_Escape) {
         unload<Vorschau>();
         return true;
-    case Qt::Key_PageUp:
-        pageView->moveOn(-1);
-        return true;
-    case Qt::Key_PageDown:
-        pageView->moveOn(1);
-        return true;
-    case Qt::Key_Home:
-        if (!typing) pageView->setPage(0);
-        return !typing;
-    case Qt::Key_End:
-        if (!typing && m_document) pageView->setPage(m_document->pageCount() - 1);
-        return !typing;
-    default:
-        return false;
     }
+    if (txtSeite->hasFocus() && (key == Qt::Key_Home || key == Qt::Key_End)) return false;
+    return pageView->obey(key);
 }
 
 void Vorschau::zeige(std::shared_ptr<const ReportDocument> document, std::shared_ptr<const Report> report) {
@@ -170,22 +150,19 @@ void Vorschau::txtSeite_Enter() {
 }
 
 void Vorschau::showPageNumber() {
-    const int pages = m_document ? m_document->pageCount() : 0;
+    const int pages = m_document->pageCount();
     const int page = pageView->page() + 1;
-    txtSeite->setText(pages > 0 ? QString::number(page) : QString());
+    txtSeite->setText(QString::number(page));
     lblSeiten->setText(u"von %1"_s.arg(pages));
     Toolbar1->setKeyEnabled(u"tbErste"_s, page > 1);
     Toolbar1->setKeyEnabled(u"tbZurueck"_s, page > 1);
     Toolbar1->setKeyEnabled(u"tbWeiter"_s, page < pages);
     Toolbar1->setKeyEnabled(u"tbLetzte"_s, page < pages);
-    Toolbar1->setKeyEnabled(u"tbDruck"_s, pages > 0);
-    Toolbar1->setKeyEnabled(u"tbPdf"_s, pages > 0);
 }
 
 void Vorschau::cboZoom_Click() {
     const int chosen = cboZoom->currentIndex();
-    if (chosen < 0) return;
-    if (chosen < zoomCount)
+    if (chosen < pageWidthEntry)
         pageView->setZoom(zoomLevels[chosen]);
     else
         pageView->setZoom(chosen == pageWidthEntry ? ReportPageView::PageWidth : ReportPageView::WholePage);
@@ -194,24 +171,18 @@ void Vorschau::cboZoom_Click() {
 // To the next level from the present size, which with a Fit may lie between two levels.
 void Vorschau::zoom(int step) {
     const double shown = pageView->shownPercent();
-    int level = step > 0 ? 0 : zoomCount - 1;
-    while (level >= 0 && level < zoomCount && (zoomLevels[level] - shown) * step < 0.5) level += step;
-    if (level >= 0 && level < zoomCount) cboZoom->setListIndex(level);
+    int level = step > 0 ? 0 : pageWidthEntry - 1;
+    while (level >= 0 && level < pageWidthEntry && (zoomLevels[level] - shown) * step < 0.5) level += step;
+    if (level >= 0 && level < pageWidthEntry) cboZoom->setListIndex(level);
 }
 
 // The dialog runs an event loop, in which the preview and even the program may end. `printed` keeps the data.
 void Vorschau::drucke() {
     const QPointer<Vorschau> alive(this);
     const auto printed = m_document;
-    const auto target =
-        printDialogs().choosePrintTarget(printed->caption(), printed->pageCount(), pageView->page());
-    if (!target || !Screens::isAlive(alive)) return;
-    try {
-        const Hourglass hourglass(*this);
-        printReport(*printed, *target);
-    } catch (const RuntimeError& error) {
-        MsgBox(u"Der Bericht konnte nicht gedruckt werden !\r\n\r\n"_s + error.description, vbExclamation);
-    }
+    const auto target = printDialogs().choosePrintTarget(*printed, pageView->page());
+    if (target && Screens::isAlive(alive))
+        gibAus(*printed, *target, u"Der Bericht konnte nicht gedruckt werden !"_s);
 }
 
 void Vorschau::speicherPdf() {
@@ -219,14 +190,20 @@ void Vorschau::speicherPdf() {
     const auto saved = m_document;
     const QString file = printDialogs().choosePdfFile(pdfNameFor(saved->caption()));
     if (file.isEmpty() || !Screens::isAlive(alive)) return;
+    const QString shown = QDir::toNativeSeparators(file);
+    if (gibAus(*saved, {file}, u"Die Datei '%1' konnte nicht geschrieben werden !"_s.arg(shown)))
+        showWhereItLies(file);
+}
+
+/// Prints. False after a message box that begins with `failure`.
+bool Vorschau::gibAus(const ReportDocument& document, const PrintTarget& target, const QString& failure) {
     try {
         const Hourglass hourglass(*this);
-        saveReportAsPdf(*saved, file);
-        showWhereItLies(file);
+        printReport(document, target);
+        return true;
     } catch (const RuntimeError& error) {
-        MsgBox(u"Die Datei '%1' konnte nicht geschrieben werden !\r\n\r\n%2"_s.arg(
-                   QDir::toNativeSeparators(file), error.description),
-               vbExclamation);
+        MsgBox(failure + u"\r\n\r\n"_s + error.description, vbExclamation);
+        return false;
     }
 }
 

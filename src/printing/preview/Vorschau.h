@@ -13,6 +13,7 @@ class ReportDocument;
 class ReportPageView;
 class TextBox;
 class Toolbar;
+struct PrintTarget;
 
 /// The preview of a report, a screen on the stage. A second report replaces the first. Closing unloads the
 /// preview and brings the screen below to the front.
@@ -50,6 +51,7 @@ private:
     void zoom(int step);
     void drucke();
     void speicherPdf();
+    bool gibAus(const ReportDocument& document, const PrintTarget& target, const QString& failure);
     void showWhereItLies(const QString& file);
 
     std::shared_ptr<const ReportDocument> m_document;
