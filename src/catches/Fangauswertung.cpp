@@ -2,7 +2,6 @@
 
 #include "ComboBox.h"
 #include "DataTable.h"
-#include "Drucklauf.h"
 #include "ExcelAusgabe.h"
 #include "Fangbuch.h"
 #include "Jahre.h"
@@ -66,7 +65,7 @@ void Fangauswertung::tbExcel_Click() {
 }
 
 void Fangauswertung::drucke(const QString& wort) {
-    druckeFuer(*this, [&] { modFAuswert::DruckeFangListe(wort); });
+    modFAuswert::DruckeFangListe(wort);
 }
 
 void Fangauswertung::tblFAusw_OnGridCellDown(int row) {

@@ -2,16 +2,11 @@
 
 #include "Report.h"
 
-#include <memory>
-
 /// The five reports. A report lives, and keeps its captions, as long as a print run or a preview uses it. The
 /// next call after that makes a new one.
 namespace Berichte {
 
 using Bericht = std::shared_ptr<Report>;
-
-/// The report made by `make`, the same one while it is in use.
-Bericht bericht(Bericht (*make)());
 
 Bericht rpt_BesatzListe();
 Bericht rpt_Fangliste();

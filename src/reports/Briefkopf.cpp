@@ -22,9 +22,6 @@ constexpr int settingCaption = 260;
 constexpr int headTop = 290;
 constexpr int headHeight = 66;
 
-constexpr int rowHeight = 54;
-constexpr int cellPadding = 16;
-
 constexpr int footHeight = 80;
 constexpr int summaryTop = 60;
 constexpr int summaryHeading = 76;
@@ -33,182 +30,147 @@ constexpr int summaryCaption = 430;
 constexpr int summaryValue = 330;
 
 constexpr double bodyPoints = 9.5;
-constexpr double leastPoints = 7.5;
 
 constexpr QRgb clubBlue = 0xff1f3f77;
 constexpr QRgb paleBlue = 0xffe3ecfc;
 constexpr QRgb faint = 0xffb8c2d4;
 constexpr QRgb grey = 0xff505866;
 
+using Align = ReportLook::Align;
+using Kind = ReportControl::Kind;
+
+const ReportLook heading{.points = 11, .bold = true, .ink = clubBlue};
+const ReportLook faded{.points = bodyPoints, .ink = grey};
+const ReportLook entry{.points = bodyPoints, .leastPoints = 7.5};
+
+ReportLook& addLabel(ReportSection& section, const QString& name, const QString& text, const QRect& place,
+                     const ReportLook& look) {
+    return section.controls.emplace_back(ReportControl{Kind::Label, name, place, look, text}).look;
+}
+
+/// Adds a line: a caption up to valueLeft, and from there on a value, whose look is returned.
+ReportLook& addLine(ReportSection& section, QRect place, int valueLeft, const QString& label,
+                    const QString& caption, ReportControl value) {
+    addLabel(section, label, caption, {place.topLeft(), QSize(valueLeft, place.height())}, faded);
+    place.setLeft(place.left() + valueLeft);
+    value.place = place;
+    return section.controls.emplace_back(std::move(value)).look;
+}
+
 } // namespace
 
 Briefkopf::Briefkopf(Report& report)
     : m_head(report.section(u"Section2"_s))
     , m_detail(report.section(u"Section1"_s))
-    , m_foot(report.section(u"Section3"_s))
-    , m_summary(report.section(u"Section5"_s))
-    , m_tablePoints(bodyPoints)
-    , m_cellPadding(cellPadding)
-    , m_rowHeight(rowHeight) {
+    , m_summary(report.section(u"Section5"_s)) {
     addAddress();
-    addFooter();
+    ReportSection& foot = report.section(u"Section3"_s);
+    foot.height = footHeight;
+    addLabel(foot, u"Label9"_s, u"Seite %p von %P (gedruckt am %d)"_s, {0, footHeight - 44, bodyWidth, 44},
+             {.points = 8.5, .align = Align::Right, .pageNumbers = true, .ink = grey});
 }
 
 void Briefkopf::addAddress() {
-    m_head.addLabel(u"Label13"_s, u"Anschrift:"_s, {0, 0, addressWidth, 54}).points(11).bold().ink(clubBlue);
     constexpr int codeEnd = captionWidth + codeWidth;
-    addAddressLine(u"Label10"_s, u"Name   :"_s, 0);
-    addAddressValue(u"lblVerein"_s, 0, captionWidth, addressWidth).bold();
-    addAddressLine(u"Label11"_s, u"Strasse :"_s, 1);
-    addAddressValue(u"lblStrasse"_s, 1, captionWidth, addressWidth);
-    addAddressLine(u"Label12"_s, u"PLZ /Ort:"_s, 2);
-    addAddressValue(u"lblPLZ"_s, 2, captionWidth, codeEnd).growing(leastCodePoints);
-    addAddressValue(u"lblOrt"_s, 2, codeEnd + codeSpace, addressWidth);
-    addAddressLine(u"Label15"_s, u"Tel         :"_s, 3);
-    addAddressValue(u"lblTelefon"_s, 3, captionWidth, addressWidth);
+    const auto place = [](int line, int left, int right) {
+        return QRect(left, addressTop + line * addressLine, right - left, addressLine);
+    };
+    const auto add = [&](int line, const QString& label, const QString& caption, const QString& value,
+                         int right = addressWidth) -> ReportLook& {
+        return addLine(m_head, place(line, 0, right), captionWidth, label, caption,
+                       {Kind::Label, value, {}, entry});
+    };
+    addLabel(m_head, u"Label13"_s, u"Anschrift:"_s, {0, 0, addressWidth, 54}, heading);
+    add(0, u"Label10"_s, u"Name   :"_s, u"lblVerein"_s).bold = true;
+    add(1, u"Label11"_s, u"Strasse :"_s, u"lblStrasse"_s);
+    add(2, u"Label12"_s, u"PLZ /Ort:"_s, u"lblPLZ"_s, codeEnd).leastPoints = leastCodePoints;
+    addLabel(m_head, u"lblOrt"_s, {}, place(2, codeEnd + codeSpace, addressWidth), entry);
+    add(3, u"Label15"_s, u"Tel         :"_s, u"lblTelefon"_s);
 }
 
-void Briefkopf::addCaption(const QString& label, const QString& caption, const QRect& place) {
-    m_head.addLabel(label, caption, place).points(bodyPoints).ink(grey);
-}
-
-void Briefkopf::addAddressLine(const QString& label, const QString& caption, int line) {
-    addCaption(label, caption, {0, addressTop + line * addressLine, captionWidth, addressLine});
-}
-
-ReportControl& Briefkopf::addAddressValue(const QString& value, int line, int left, int right) {
-    const QRect place(left, addressTop + line * addressLine, right - left, addressLine);
-    return m_head.addLabel(value, {}, place).points(bodyPoints).growing(leastPoints);
-}
-
-void Briefkopf::addFooter() {
-    m_foot.setHeight(footHeight);
-    m_foot.addLabel(u"Label9"_s, u"Seite %p von %P (gedruckt am %d)"_s, {0, footHeight - 44, bodyWidth, 44})
-        .points(8.5)
-        .align(ReportControl::Align::Right)
-        .ink(grey)
-        .withPageNumbers();
-}
-
-ReportControl& Briefkopf::addTitle(const QString& label, const QString& title) {
+ReportLook& Briefkopf::addTitle(const QString& label, const QString& title) {
     constexpr int spaceBelow = 8;
-    return m_head.addLabel(label, title, {titleLeft, 0, bodyWidth - titleLeft, headTop - spaceBelow})
-        .points(20)
-        .bold()
-        .ink(clubBlue)
-        .wrapped();
+    return addLabel(m_head, label, title, {titleLeft, 0, bodyWidth - titleLeft, headTop - spaceBelow},
+                    {.points = 20, .bold = true, .wrapped = true, .ink = clubBlue});
 }
 
 void Briefkopf::addSetting(const QString& label, const QString& caption, const QString& value) {
     const int top = settingTop + m_settings++ * addressLine;
-    addCaption(label, caption, {titleLeft, top, settingCaption, addressLine});
-    const int left = titleLeft + settingCaption;
-    m_head.addLabel(value, {}, {left, top, bodyWidth - left, addressLine})
-        .points(bodyPoints)
-        .growing(leastPoints);
+    addLine(m_head, {titleLeft, top, bodyWidth - titleLeft, addressLine}, settingCaption, label, caption,
+            {Kind::Label, value, {}, entry});
 }
 
-void Briefkopf::setDense() {
-    m_tablePoints = 8;
-    m_cellPadding = 11;
-    m_rowHeight = 47;
-}
-
-void Briefkopf::addColumns(std::initializer_list<ReportColumn> columns) {
+void Briefkopf::addColumns(std::initializer_list<ReportColumn> columns, const TableStyle& style) {
+    const auto& [points, padding, rowHeight] = style;
     int whole = 0;
     for (const ReportColumn& column : columns) whole += column.width;
-    if (whole <= 0) return; // no column, no table
-    m_head.setHeight(headTop + headHeight);
-    m_detail.setHeight(m_rowHeight);
-    m_head.addShape(u"Shape1"_s, {0, headTop, bodyWidth, headHeight}).ground(paleBlue).ink(clubBlue);
+    m_head.height = headTop + headHeight;
+    m_detail.height = rowHeight;
+    m_head.controls.push_back({Kind::Shape,
+                               u"Shape1"_s,
+                               {0, headTop, bodyWidth, headHeight},
+                               {.ink = clubBlue, .ground = paleBlue}});
     int passed = 0;
     int number = 0;
     for (const ReportColumn& column : columns) {
-        const int left = bodyWidth * passed / whole + m_cellPadding;
+        const int left = bodyWidth * passed / whole + padding;
         passed += column.width;
-        const int width = bodyWidth * passed / whole - m_cellPadding - left;
-        addColumn(column, u"Text%1"_s.arg(++number), left, width);
+        const int width = bodyWidth * passed / whole - padding - left;
+        addLabel(m_head, column.label, column.head, {left, headTop, width, headHeight},
+                 {.points = points, .bold = true, .align = column.align, .ink = clubBlue});
+        m_detail.controls.push_back({Kind::Text,
+                                     u"Text%1"_s.arg(++number),
+                                     {left, 0, width, rowHeight},
+                                     {.points = points, .align = column.align, .format = column.format}});
     }
-    m_detail.addLine(u"Line1"_s, {0, m_rowHeight, bodyWidth, 0}).ink(faint).lineWidth(1).closing(clubBlue);
-    m_detail.addLine(u"Line2"_s, {0, 0, 0, m_rowHeight}).ink(clubBlue);
-    m_detail.addLine(u"Line3"_s, {bodyWidth, 0, 0, m_rowHeight}).ink(clubBlue);
+    const auto addRule = [&](const QString& name, const QRect& place, const ReportLook& look) {
+        m_detail.controls.push_back({Kind::Line, name, place, look});
+    };
+    addRule(u"Line1"_s, {0, rowHeight, bodyWidth, 0}, {.ink = faint, .lineWidth = 1, .closingInk = clubBlue});
+    addRule(u"Line2"_s, {0, 0, 0, rowHeight}, {.ink = clubBlue});
+    addRule(u"Line3"_s, {bodyWidth, 0, 0, rowHeight}, {.ink = clubBlue});
 }
 
-void Briefkopf::addColumn(const ReportColumn& column, const QString& text, int left, int width) {
-    m_head.addLabel(column.label, column.head, {left, headTop, width, headHeight})
-        .points(m_tablePoints)
-        .bold()
-        .ink(clubBlue)
-        .align(column.align);
-    m_detail.addText(text, {left, 0, width, m_rowHeight})
-        .points(m_tablePoints)
-        .align(column.align)
-        .format(column.format);
-}
-
-QRect Briefkopf::summaryPlace(int left, int width, int height) const {
-    return {left, std::max(m_summary.height(), summaryTop), width, height};
-}
-
-void Briefkopf::endSummaryLine(int height) {
-    m_summary.setHeight(std::max(m_summary.height(), summaryTop) + height);
+/// Makes room for another line and returns its place.
+QRect Briefkopf::nextSummaryLine(int height) {
+    const int top = std::max(m_summary.height, summaryTop);
+    m_summary.height = top + height;
+    return {0, top, bodyWidth, height};
 }
 
 void Briefkopf::addSummaryHeading(const QString& label, const QString& text) {
-    const int space = m_summary.height() > 0 ? summaryLine / 2 : 0;
-    if (space > 0) endSummaryLine(space);
-    m_summary.addLabel(label, text, summaryPlace(0, bodyWidth, summaryHeading))
-        .points(11)
-        .bold()
-        .ink(clubBlue);
-    endSummaryLine(summaryHeading);
+    if (m_summary.height > 0) nextSummaryLine(summaryLine / 2);
+    addLabel(m_summary, label, text, nextSummaryLine(summaryHeading), heading);
 }
 
-void Briefkopf::addSummaryCaption(const QString& label, const QString& caption) {
-    m_summary.addLabel(label, caption, summaryPlace(0, summaryCaption, summaryLine))
-        .points(bodyPoints)
-        .ink(grey);
+ReportLook& Briefkopf::addSummary(const QString& label, const QString& caption, const QString& value) {
+    return addLine(m_summary, nextSummaryLine(summaryLine), summaryCaption, label, caption,
+                   {Kind::Label, value, {}, {.points = bodyPoints, .leastPoints = bodyPoints}});
 }
 
-ReportControl& Briefkopf::addSummary(const QString& label, const QString& caption, const QString& value) {
-    addSummaryCaption(label, caption);
-    const QRect place = summaryPlace(summaryCaption, bodyWidth - summaryCaption, summaryLine);
-    endSummaryLine(summaryLine);
-    return m_summary.addLabel(value, {}, place).points(bodyPoints).growing(bodyPoints);
+ReportLook& Briefkopf::addNumber(const QString& label, const QString& caption, const QString& value,
+                                 Kind kind) {
+    QRect place = nextSummaryLine(summaryLine);
+    place.setWidth(summaryCaption + summaryValue);
+    return addLine(m_summary, place, summaryCaption, label, caption,
+                   {kind, value, {}, {.points = bodyPoints, .align = Align::Right}});
 }
 
-ReportControl& Briefkopf::addNumber(const QString& label, const QString& caption, const QString& value) {
-    addSummaryCaption(label, caption);
-    const QRect place = summaryPlace(summaryCaption, summaryValue, summaryLine);
-    endSummaryLine(summaryLine);
-    return m_summary.addLabel(value, {}, place).points(bodyPoints).align(ReportControl::Align::Right);
-}
-
-ReportControl& Briefkopf::addSum(const QString& label, const QString& caption, const QString& sum) {
-    addSummaryCaption(label, caption);
-    const QRect place = summaryPlace(summaryCaption, summaryValue, summaryLine);
-    endSummaryLine(summaryLine);
-    return m_summary.addSum(sum, place)
-        .points(bodyPoints)
-        .bold()
-        .format(u"#.##0"_s)
-        .align(ReportControl::Align::Right);
+void Briefkopf::addSum(const QString& label, const QString& caption, const QString& sum) {
+    ReportLook& look = addNumber(label, caption, sum, Kind::Sum);
+    look.bold = true;
+    look.format = u"#.##0"_s;
 }
 
 void Briefkopf::addUnit(const QString& label, const QString& text) {
-    const int left = summaryCaption + summaryValue + cellPadding;
-    const QRect place(left, m_summary.height() - summaryLine, bodyWidth - left, summaryLine);
-    m_summary.addLabel(label, text, place).points(bodyPoints).ink(grey);
+    const int left = summaryCaption + summaryValue + TableStyle().padding;
+    addLabel(m_summary, label, text, {left, m_summary.height - summaryLine, bodyWidth - left, summaryLine},
+             faded);
 }
 
 void Briefkopf::addSummaryRule(const QString& name) {
     const int above = 8;
-    endSummaryLine(above);
-    m_summary.addLine(name, summaryPlace(0, summaryCaption + summaryValue, 0)).ink(clubBlue);
-    endSummaryLine(above);
-}
-
-void Briefkopf::addListDescription() {
-    addSummary(u"Label16"_s, u"Anzahl der Mitglieder     :"_s, u"lblGefDS"_s);
-    addSummary(u"Label17"_s, u"Listenbeschreibung:"_s, u"lblInfo"_s);
+    const int top = nextSummaryLine(2 * above).top() + above;
+    m_summary.controls.push_back(
+        {Kind::Line, name, {0, top, summaryCaption + summaryValue, 0}, {.ink = clubBlue}});
 }

@@ -1,13 +1,11 @@
 #include "Drucklauf.h"
 
-#include "DBEngine.h"
-#include "DataTable.h"
-#include "Datenbank.h"
+#include "Conversions.h"
+#include "ErrorTail.h"
 #include "Hourglass.h"
 #include "MsgBox.h"
 #include "PrintDialogs.h"
 #include "Rahmen.h"
-#include "Report.h"
 #include "Screens.h"
 #include "Session.h"
 #include "Stage.h"
@@ -17,31 +15,16 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The rows of a staging table as the source of a report.
-class StagedRows final : public ReportRowSource {
-public:
-    explicit StagedRows(Recordset& rows)
-        : m_rows(rows)
-        , m_fields(rows.Fields()) {}
-
-    QStringList fields() const override { return m_rows.FieldNames(); }
-
-    bool next(std::vector<Value>& row) override {
-        if (m_begun)
-            m_rows.MoveNext();
-        else
-            m_rows.MoveFirst();
-        m_begun = true;
-        if (m_rows.Eof()) return false;
-        for (std::size_t i = 0; i < m_fields.size(); ++i) row[i] = m_fields[i].Value();
-        return true;
+ReportRows gestellteZeilen(Recordset& staged) {
+    const std::vector<Recordset::Field> fields = staged.Fields();
+    ReportRows rows(staged.FieldNames());
+    std::vector<Value> row(fields.size());
+    for (staged.MoveFirst(); !staged.Eof(); staged.MoveNext()) {
+        std::ranges::transform(fields, row.begin(), &Recordset::Field::Value);
+        rows.append(row);
     }
-
-private:
-    Recordset& m_rows;
-    std::vector<Recordset::Field> m_fields;
-    bool m_begun = false;
-};
+    return rows;
+}
 
 /// A second connection to the database file, so that staging is an action of its own.
 Database zweiteVerbindung() {
@@ -62,16 +45,22 @@ bool fuelle(ErrorTail& step, const Druckauftrag& auftrag, Recordset& rows) {
     bool gefuellt = true;
     for (int row = 0; row < auftrag.grid.rowCount(); ++row) {
         step([&] { rows.AddNew(); });
-        auftrag.schreibeZeile(step, rows, auftrag.grid, row);
+        for (const auto& spalte : auftrag.spalten)
+            step([&] { rows.Collect(spalte.feld, spalte.wert(auftrag.grid, row, spalte.column)); });
         gefuellt = step([&] { rows.Update(); }) && gefuellt;
     }
     return gefuellt;
 }
 
-void setzeAnschrift(ErrorTail& step, Report& report) {
+/// Sets the labels and the fields that the report shows.
+void richteEin(const Druckauftrag& auftrag, Report& report) {
     auto line = session().Anschrift.begin();
     for (const QString& label : {u"lblVerein"_s, u"lblStrasse"_s, u"lblPLZ"_s, u"lblOrt"_s, u"lblTelefon"_s})
-        step([&] { report.control(u"Section2"_s, label).setCaption(*line++); });
+        report.control(u"Section2"_s, label).caption = *line++;
+    auftrag.richteEin(report);
+    int number = 0;
+    for (const Druckspalte& spalte : auftrag.spalten)
+        report.control(u"Section1"_s, u"Text%1"_s.arg(++number)).dataField = spalte.feld;
 }
 
 void gibAus(ErrorTail& step, Hourglass& hourglass, const std::shared_ptr<Report>& report,
@@ -85,10 +74,7 @@ void gibAus(ErrorTail& step, Hourglass& hourglass, const std::shared_ptr<Report>
     } else if (wort == u"vorschau"_s) {
         hourglass.end();
         step([&] { rahmen()->binde(the<Vorschau>()); });
-        step([&] {
-            const auto document = report->document();
-            the<Vorschau>().zeige(document, report);
-        });
+        step([&] { the<Vorschau>().zeige(report->document(), report); });
     }
 }
 
@@ -100,18 +86,19 @@ void stelleDar(ErrorTail& step, const Druckauftrag& auftrag, Recordset& rows, co
         return;
     }
     const std::shared_ptr<Report> report = auftrag.report();
-    step([&] {
-        StagedRows staged(rows);
-        report->bind(staged);
-    });
-    setzeAnschrift(step, *report);
-    auftrag.richteEin(step, *report);
+    step([&] { report->bind(gestellteZeilen(rows)); });
+    richteEin(auftrag, *report);
     gibAus(step, hourglass, report, wort);
 }
 
 } // namespace
 
+Value wieGezeigt(const DataTable& grid, int row, int column) { return grid.cellText(row, column); }
+
+Value ganzzahl(const DataTable& grid, int row, int column) { return CLng(grid.cell(row, column)); }
+
 void drucke(const Druckauftrag& auftrag, const QString& wort) {
+    session().NachReport = true;
     withErrorTail(auftrag.modul, auftrag.routine, [&](ErrorTail& step) {
         Hourglass hourglass(auftrag.aufrufer);
         Database connection;
@@ -131,10 +118,5 @@ void drucke(const Druckauftrag& auftrag, const QString& wort) {
         step([&] { rows.Close(); });
         step([&] { connection.Close(); });
     });
-}
-
-void druckeFuer(const Screen& aufrufer, const std::function<void()>& routine) {
-    session().NachReport = true;
-    routine();
-    if (Stage::current()->front() == &aufrufer) session().NachReport = false;
+    if (Stage::current()->front() == &auftrag.aufrufer) session().NachReport = false;
 }

@@ -4,7 +4,6 @@
 #include "ComboBox.h"
 #include "Conversions.h"
 #include "DataTable.h"
-#include "Drucklauf.h"
 #include "ExcelAusgabe.h"
 #include "Jahre.h"
 #include "Session.h"
@@ -77,7 +76,7 @@ void Besatzung::tbExcel_Click() {
 
 void Besatzung::drucke(const QString& wort) {
     leereOffenen();
-    druckeFuer(*this, [&] { modBesatzList::DruckeBPlanListe(wort); });
+    modBesatzList::DruckeBPlanListe(wort);
 }
 
 void Besatzung::tblBList_OnGridCellOpen(int row) {

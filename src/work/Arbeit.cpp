@@ -4,7 +4,6 @@
 #include "Conversions.h"
 #include "DataTable.h"
 #include "DateBox.h"
-#include "Drucklauf.h"
 #include "Format.h"
 #include "Jahre.h"
 #include "Rahmen.h"
@@ -71,7 +70,7 @@ bool Arbeit::Form_KeyDown(int key, Qt::KeyboardModifiers modifiers) {
 void Arbeit::drucke(const QString& wort) {
     // The press gives up the open booking. If it stayed on the screen, the next save would add it again.
     modArbeit::LeereOffenen();
-    druckeFuer(*this, [&] { modArbeit::DruckeArbListe(wort); });
+    modArbeit::DruckeArbListe(wort);
 }
 
 void Arbeit::cmdSuch_Click() {

@@ -2,9 +2,7 @@
 #include "Berichte.h"
 #include "ComboBox.h"
 #include "Conversions.h"
-#include "DataTable.h"
 #include "Drucklauf.h"
-#include "Report.h"
 #include "Screens.h"
 #include "ValueLabel.h"
 #include "modArbeit.h"
@@ -18,52 +16,40 @@ namespace modArbeit {
 namespace {
 
 /// Null if the grid shows no hours: a booking that failed halfway may have none.
-Value stundenWieGezeigt(const DataTable& grid, int row) {
-    const QString text = grid.cellText(row, 2);
+Value stundenWieGezeigt(const DataTable& grid, int row, int column) {
+    const QString text = grid.cellText(row, column);
     return text.isEmpty() ? Value() : Value(CDbl(text));
 }
 
-void schreibeZeile(ErrorTail& step, Recordset& zeile, const DataTable& grid, int row) {
-    step([&] { zeile.Collect(u"ArbNr"_s, CLng(grid.cell(row, 0))); });
-    step([&] { zeile.Collect(u"GelStd"_s, stundenWieGezeigt(grid, row)); });
-    step([&] { zeile.Collect(u"Datum"_s, grid.cell(row, 3)); });
-}
+Value tag(const DataTable& grid, int row, int column) { return grid.cell(row, column); }
 
-void richteEin(ErrorTail& step, Report& report) {
+void richteEin(Report& report) {
     const Arbeit& screen = the<Arbeit>();
-    const auto caption = [&](const QString& section, const QString& name, const QString& text) {
-        step([&] { report.control(section, name).setCaption(text); });
-    };
-    const auto bind = [&](const QString& name, const QString& field) {
-        step([&] { report.control(u"Section1"_s, name).setDataField(field); });
-    };
-    caption(u"Section2"_s, u"lblUebSchrift"_s,
-            Berichte::titelArbListe() + u' ' + screen.cboArbJahr->currentText());
+    report.control(u"Section2"_s, u"lblUebSchrift"_s).caption =
+        Berichte::titelArbListe() + u' ' + screen.cboArbJahr->currentText();
     // The sums are taken from the screen, not added up from the rows.
-    caption(u"Section5"_s, u"lblNName"_s, screen.lblNName->text());
-    caption(u"Section5"_s, u"lblVName"_s, screen.lblVName->text());
-    caption(u"Section5"_s, u"lblMitglNr"_s, screen.lblKNr->text());
-    caption(u"Section5"_s, u"lblGesStd"_s, screen.lblGesStd->text());
-    caption(u"Section5"_s, u"lblPflStd"_s, screen.lblPflStd->text());
-    caption(u"Section5"_s, u"lblSollHaben"_s, screen.lblErgStd->text());
-    bind(u"Text1"_s, u"ArbNr"_s);
-    bind(u"Text2"_s, u"GelStd"_s);
-    bind(u"Text3"_s, u"Datum"_s);
+    for (const auto& [name, label] : {std::pair(u"lblNName"_s, screen.lblNName),
+                                      {u"lblVName"_s, screen.lblVName},
+                                      {u"lblMitglNr"_s, screen.lblKNr},
+                                      {u"lblGesStd"_s, screen.lblGesStd},
+                                      {u"lblPflStd"_s, screen.lblPflStd},
+                                      {u"lblSollHaben"_s, screen.lblErgStd}})
+        report.control(u"Section5"_s, name).caption = label->text();
 }
 
 } // namespace
 
 void DruckeArbListe(const QString& wort) {
-    Arbeit& screen = the<Arbeit>();
-    drucke({.modul = u"modArbeit"_s,
-            .routine = u"DruckeArbListe"_s,
-            .aufrufer = screen,
-            .grid = *screen.tblArbStd,
-            .tabelle = u"Druck_ArbListe"_s,
-            .report = &Berichte::rpt_ArbListe,
-            .schreibeZeile = &schreibeZeile,
-            .richteEin = &richteEin},
-           wort);
+    drucke(
+        {.modul = u"modArbeit"_s,
+         .routine = u"DruckeArbListe"_s,
+         .aufrufer = the<Arbeit>(),
+         .grid = *the<Arbeit>().tblArbStd,
+         .tabelle = u"Druck_ArbListe"_s,
+         .spalten = {{0, u"ArbNr"_s, &ganzzahl}, {2, u"GelStd"_s, &stundenWieGezeigt}, {3, u"Datum"_s, &tag}},
+         .report = &Berichte::rpt_ArbListe,
+         .richteEin = &richteEin},
+        wort);
 }
 
 } // namespace modArbeit

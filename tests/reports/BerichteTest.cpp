@@ -7,13 +7,13 @@ using namespace Qt::StringLiterals;
 namespace {
 
 using namespace Berichte;
-using Align = ReportControl::Align;
+using Align = ReportLook::Align;
 
 /// True if a bold head has the column's place, width and alignment.
 bool hasHead(Report& report, const ReportControl& column) {
-    for (const ReportControl& head : report.section(u"Section2"_s).controls())
-        if (head.place().left() == column.place().left() && head.place().width() == column.place().width() &&
-            head.align() == column.align() && head.isBold())
+    for (const ReportControl& head : report.section(u"Section2"_s).controls)
+        if (head.place.left() == column.place.left() && head.place.width() == column.place.width() &&
+            head.look.align == column.look.align && head.look.bold)
             return true;
     return false;
 }
@@ -24,13 +24,13 @@ TEST(BerichteTest, EachColumnStandsBelowItsHeadAndBesideTheNextOne) {
         SCOPED_TRACE(qPrintable(report->caption()));
         int columns = 0;
         int end = 0;
-        for (const ReportControl& text : report->section(u"Section1"_s).controls()) {
-            if (text.kind() != ReportControl::Kind::Text) continue;
-            EXPECT_TRUE(hasHead(*report, text)) << qPrintable(text.name());
-            EXPECT_GT(text.place().left(), end);
-            end = text.place().right();
+        for (const ReportControl& text : report->section(u"Section1"_s).controls) {
+            if (text.kind != ReportControl::Kind::Text) continue;
+            EXPECT_TRUE(hasHead(*report, text)) << qPrintable(text.name);
+            EXPECT_GT(text.place.left(), end);
+            end = text.place.right();
             // The first column is the record's number, right-aligned like all numbers.
-            EXPECT_TRUE(columns++ > 0 || text.align() == Align::Right);
+            EXPECT_TRUE(columns++ > 0 || text.look.align == Align::Right);
         }
         EXPECT_GE(columns, 3);
     }

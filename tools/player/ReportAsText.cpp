@@ -7,30 +7,18 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-bool showsText(const ReportControl& control) {
-    const bool drawn =
-        control.kind() == ReportControl::Kind::Line || control.kind() == ReportControl::Kind::Shape;
-    return control.isVisible() && !drawn;
-}
-
-void appendControls(QStringList& lines, const ReportDocument& document, ReportDocument::Band band) {
+void appendControls(QStringList& lines, const ReportDocument& document, ReportLayout::Band band) {
     const ReportSection& section = document.section(band);
-    std::size_t number = 0;
-    for (const ReportControl& control : section.controls()) {
-        const std::size_t own = number++;
-        if (!showsText(control)) continue;
-        lines.append(u"%1.%2 = "_s.arg(section.name(), control.name()) +
-                     document.text(band, own, {0, today()}));
-    }
+    for (const ReportControl& control : section.controls)
+        if (control.showsText())
+            lines.append(u"%1.%2 = "_s.arg(section.name, control.name) +
+                         document.text(control, {0, today()}));
 }
 
 QString rowAsText(const ReportDocument& document, int row) {
     QStringList texts;
-    std::size_t number = 0;
-    for (const ReportControl& control : document.section(ReportDocument::Detail).controls()) {
-        const std::size_t own = number++;
-        if (showsText(control)) texts.append(document.text(ReportDocument::Detail, own, {0, today(), row}));
-    }
+    for (const ReportControl& control : document.section(ReportLayout::Detail).controls)
+        if (control.showsText()) texts.append(document.text(control, {0, today(), row}));
     return texts.join(u'|');
 }
 
@@ -38,10 +26,10 @@ QString rowAsText(const ReportDocument& document, int row) {
 
 QStringList reportAsText(const ReportDocument& document) {
     QStringList lines;
-    appendControls(lines, document, ReportDocument::ReportHeader);
-    appendControls(lines, document, ReportDocument::PageHeader);
+    appendControls(lines, document, ReportLayout::ReportHeader);
+    appendControls(lines, document, ReportLayout::PageHeader);
     for (int row = 0; row < document.rowCount(); ++row) lines.append(rowAsText(document, row));
-    appendControls(lines, document, ReportDocument::ReportFooter);
-    appendControls(lines, document, ReportDocument::PageFooter);
+    appendControls(lines, document, ReportLayout::ReportFooter);
+    appendControls(lines, document, ReportLayout::PageFooter);
     return lines;
 }

@@ -1,6 +1,5 @@
 #include "MitglList.h"
 
-#include "Drucklauf.h"
 #include "Gitter.h"
 #include "Jahre.h"
 #include "Meldungen.h"
@@ -205,7 +204,7 @@ void MitglList::tbEsc_Click() {
 void MitglList::drucke(const QString& wort) {
     const auto routine =
         chkArbAnz->isChecked() ? &modMitglList::DruckeArbListe : &modMitglList::DruckeMitglListe;
-    druckeFuer(*this, [&] { routine(wort); });
+    routine(wort);
 }
 
 void MitglList::tblMList_OnGridCellDown(int row) {

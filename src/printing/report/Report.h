@@ -1,12 +1,19 @@
 #pragma once
 
+#include "ReportControl.h"
 #include "ReportRows.h"
-#include "ReportSection.h"
 
 #include <array>
 #include <memory>
 
 class ReportDocument;
+
+/// A band across the page with its controls, in the order in which they are painted.
+struct ReportSection {
+    QString name;
+    int height = 0; ///< tenths of a millimetre
+    std::vector<ReportControl> controls = {};
+};
 
 /// A report: five sections with named controls, described once, then filled for each run. Captions and data
 /// fields stay until they are set again. An open preview does not change with them.
@@ -25,8 +32,7 @@ public:
     /// Error 3265 if there is no such section or control.
     ReportControl& control(const QString& section, const QString& name);
 
-    /// Copies all rows at once. The source is not needed afterwards.
-    void bind(ReportRowSource& source);
+    void bind(ReportRows rows) { m_rows = std::make_shared<ReportRows>(std::move(rows)); }
 
     /// A copy of the report's present state, to print or preview. Error 3265 if the data have no such
     /// DataField, 13 if a field to be added up holds something other than numbers.
@@ -35,5 +41,5 @@ public:
 private:
     QString m_caption;
     std::array<ReportSection, 5> m_sections;
-    std::shared_ptr<const ReportRows> m_rows;
+    std::shared_ptr<const ReportRows> m_rows = std::make_shared<ReportRows>();
 };

@@ -3,69 +3,79 @@
 #include "ReportPaper.h"
 
 #include <QPainter>
+#include <algorithm>
+#include <cmath>
 
 namespace {
 
-QRectF inUnits(const QRect& place, int top) {
-    constexpr int unit = ReportTypesetter::unitsPerTenth;
-    return {double(place.x()) * unit, double(place.y() + top) * unit, double(place.width()) * unit,
-            double(place.height()) * unit};
-}
+constexpr double unit = ReportTypesetter::unitsPerTenth;
 
 } // namespace
 
-ReportPainter::ReportPainter(const ReportDocument& document, QDate printed)
-    : m_document(document)
-    , m_printed(printed) {}
-
 void ReportPainter::paint(QPainter& painter, int page) {
-    constexpr double scale = 1.0 / ReportTypesetter::unitsPerTenth;
-    const ReportPage layout = m_document.layout().page(page);
-    ReportPlace place{page, m_printed};
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing, false);
-    painter.scale(scale, scale);
-    if (layout.hasReportHeader) paintBand(painter, ReportDocument::ReportHeader, 0, place);
-    paintBand(painter, ReportDocument::PageHeader, layout.pageHeaderTop, place);
-    const int rowHeight = m_document.section(ReportDocument::Detail).height();
-    for (int row = 0; row < layout.rowCount; ++row) {
-        place.row = layout.firstRow + row;
-        place.isLastOnPage = row == layout.rowCount - 1;
-        paintBand(painter, ReportDocument::Detail, layout.detailTop + row * rowHeight, place);
+    painter.scale(1 / unit, 1 / unit);
+    for (const ReportLayout::Strip& strip : m_document.layout().page(page)) {
+        const QPoint corner(ReportPaper::left, ReportPaper::top + strip.top);
+        for (const ReportControl& control : m_document.section(strip.band).controls) {
+            const QRect place = control.place.translated(corner);
+            const QRectF area(place.x() * unit, place.y() * unit, place.width() * unit,
+                              place.height() * unit);
+            if (control.showsText())
+                m_typesetter.set(area, m_document.text(control, {page, m_printed, strip.row}), control.look);
+            else
+                draw(painter, area, control, strip.isLast);
+        }
     }
-    place = {page, m_printed};
-    if (layout.hasReportFooter)
-        paintBand(painter, ReportDocument::ReportFooter, layout.reportFooterTop, place);
-    paintBand(painter, ReportDocument::PageFooter, layout.pageFooterTop, place);
-    m_ruler.paint(painter);
+    paintRules(painter);
     m_typesetter.paint(painter);
     painter.restore();
 }
 
-void ReportPainter::paintBand(QPainter& painter, ReportDocument::Band band, int top,
-                              const ReportPlace& place) {
-    std::size_t number = 0;
-    for (const ReportControl& control : m_document.section(band).controls()) {
-        const std::size_t own = number++;
-        if (!control.isVisible()) continue;
-        const QRectF area = inUnits(control.place().translated(ReportPaper::left, ReportPaper::top), top);
-        if (control.kind() == ReportControl::Kind::Line || control.kind() == ReportControl::Kind::Shape)
-            draw(painter, area, control, place.isLastOnPage);
-        else
-            m_typesetter.set(area, m_document.text(band, own, place), control);
-    }
+void ReportPainter::draw(QPainter& painter, const QRectF& area, const ReportControl& control, bool isLast) {
+    if (control.kind == ReportControl::Kind::Shape) return drawShape(painter, area, control.look);
+    const bool closes = isLast && control.look.closingInk != 0;
+    const bool upright = area.height() > area.width();
+    addRule(painter, area.topLeft(), upright ? area.bottomLeft() : area.topRight(),
+            closes ? ReportLook().lineWidth : control.look.lineWidth,
+            closes ? control.look.closingInk : control.look.ink);
 }
 
-void ReportPainter::draw(QPainter& painter, const QRectF& area, const ReportControl& control, bool isLast) {
-    const bool closes = isLast && qAlpha(control.closingInk()) > 0;
-    const int tenths = closes ? ReportControl::usualLineWidth : control.lineWidth();
-    const double width = double(tenths) * ReportTypesetter::unitsPerTenth;
-    if (control.kind() == ReportControl::Kind::Line) {
-        const bool upright = area.height() > area.width();
-        m_ruler.addRule(painter, area.topLeft(), upright ? area.bottomLeft() : area.topRight(), width,
-                        closes ? control.closingInk() : control.ink());
-        return;
+void ReportPainter::drawShape(QPainter& painter, const QRectF& area, const ReportLook& look) {
+    const QTransform toDevice = painter.deviceTransform();
+    const QRect pixels = toDevice.mapRect(area).toRect();
+    painter.fillRect(toDevice.inverted().mapRect(QRectF(pixels)), QColor::fromRgba(look.ground));
+    for (const auto& [from, to] : {std::pair(area.topLeft(), area.topRight()),
+                                   {area.bottomLeft(), area.bottomRight()},
+                                   {area.topLeft(), area.bottomLeft()},
+                                   {area.topRight(), area.bottomRight()}})
+        addRule(painter, from, to, look.lineWidth, look.ink);
+}
+
+// The rule is centred on the line between its ends, and two rules that meet fill the corner.
+void ReportPainter::addRule(const QPainter& painter, const QPointF& from, const QPointF& to, int tenths,
+                            QRgb ink) {
+    const QTransform toDevice = painter.deviceTransform();
+    const double width = tenths * unit * std::hypot(toDevice.m11(), toDevice.m12());
+    const double pixels = std::max(1.0, std::round(width));
+    const auto corner = [&](const QPointF& end) {
+        const QPointF mapped = toDevice.map(end) - QPointF(pixels, pixels) / 2;
+        return QPointF(std::round(mapped.x()), std::round(mapped.y()));
+    };
+    const QRectF rule(corner(from), corner(to) + QPointF(pixels, pixels));
+    m_rules[ink].append(toDevice.inverted().mapRect(rule));
+}
+
+bool ReportPainter::LighterFirst::operator()(QRgb one, QRgb other) const {
+    return std::pair(-qGray(one), one) < std::pair(-qGray(other), other);
+}
+
+void ReportPainter::paintRules(QPainter& painter) {
+    painter.setPen(Qt::NoPen);
+    for (const auto& [ink, rules] : m_rules) {
+        painter.setBrush(QColor(ink));
+        painter.drawRects(rules);
     }
-    m_ruler.fill(painter, area, control.ground());
-    if (width > 0) m_ruler.addFrame(painter, area, width, control.ink());
+    m_rules.clear();
 }

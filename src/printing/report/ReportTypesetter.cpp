@@ -1,11 +1,11 @@
 #include "ReportTypesetter.h"
 
-#include "ReportFont.h"
-
 #include <QGlyphRun>
 #include <QPainter>
 #include <QTextLayout>
 #include <algorithm>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -34,29 +34,52 @@ bool isNumber(const QString& text) {
     return std::count_if(text.begin(), text.end(), &isDigit) > letters;
 }
 
-double leftEnd(const QRectF& place, double width, ReportControl::Align align) {
-    switch (align) {
-    case ReportControl::Align::Right:
-        return place.right() - width;
-    case ReportControl::Align::Centre:
-        return place.center().x() - width / 2;
-    case ReportControl::Align::Left:
-        break;
-    }
+double leftEnd(const QRectF& place, double width, ReportLook::Align align) {
+    if (align == ReportLook::Align::Right) return place.right() - width;
+    if (align == ReportLook::Align::Centre) return place.center().x() - width / 2;
     return place.left();
 }
 
 } // namespace
 
-ReportTypesetter::Face::Face(const QFont& wanted)
-    : font(wanted)
-    , metrics(wanted) {}
+QFont ReportTypesetter::font(double points, bool bold) {
+    constexpr double unitsPerPoint = 254.0 * unitsPerTenth / 72.0;
+    QFont font;
+    font.setFamilies({u"Arial"_s, u"Liberation Sans"_s, u"Helvetica"_s});
+    font.setStyleHint(QFont::SansSerif);
+    font.setPixelSize(qRound(points * unitsPerPoint));
+    font.setBold(bold);
+    // With hinting, letters would be wider on a screen than on paper.
+    font.setHintingPreference(QFont::PreferNoHinting);
+    return font;
+}
+
+QStringList ReportTypesetter::lines(QString text, const QFont& font, double width, int most) {
+    text.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n').replace(u'\n', QChar::LineSeparator);
+    QTextLayout layout(text, font);
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    layout.setTextOption(option);
+    QStringList lines;
+    layout.beginLayout();
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(width);
+        const bool last = lines.size() == most - 1;
+        QString part = text.mid(line.textStart(), last ? -1 : line.textLength());
+        // The space at the break would make a full line too long.
+        if (!last && part.endsWith(u' ')) part.chop(1);
+        lines.append(part);
+        if (last) break;
+    }
+    layout.endLayout();
+    return lines;
+}
 
 ReportTypesetter::Face& ReportTypesetter::faceFor(double points, bool bold) {
     const auto key = std::pair(points, bold);
     const auto found = m_faces.find(key);
     if (found != m_faces.end()) return found->second;
-    return m_faces.emplace(key, ReportFont::font(points, bold)).first->second;
+    return m_faces.emplace(key, Face{font(points, bold)}).first->second;
 }
 
 ReportTypesetter::Setting ReportTypesetter::setting(Face& face, const QString& text) {
@@ -101,45 +124,46 @@ ReportTypesetter::Setting ReportTypesetter::composed(Face& face, const QString& 
     return number;
 }
 
-ReportTypesetter::Setting ReportTypesetter::fitting(Face& face, const ReportControl& look,
-                                                    const QString& text, double width) {
+ReportTypesetter::Setting ReportTypesetter::fitting(Face& face, const ReportLook& look, const QString& text,
+                                                    double width) {
     Setting whole = setting(face, text);
     if (whole.width <= width) return whole;
     if (!isNumber(text)) return setting(face, face.metrics.elidedText(text, Qt::ElideRight, width));
     constexpr double step = 0.5;
-    for (double points = look.points() - step; points > 0 && whole.width > width; points -= step)
-        whole = setting(faceFor(points, look.isBold()), text);
+    for (double points = look.points - step; points > 0 && whole.width > width; points -= step)
+        whole = setting(faceFor(points, look.bold), text);
     return whole;
 }
 
-void ReportTypesetter::set(const QRectF& place, const QString& text, const ReportControl& look) {
+void ReportTypesetter::set(const QRectF& place, const QString& text, const ReportLook& look) {
     if (text.isEmpty()) return;
-    if (!look.isWrapped()) {
+    const bool grows = look.leastPoints > 0;
+    if (!look.wrapped && !grows) {
         setLine(place, onOneLine(text), look);
         return;
     }
-    const Face& face = faceFor(look.points(), look.isBold());
+    const Face& face = faceFor(look.points, look.bold);
     const double height = face.metrics.lineSpacing();
     const int most = std::max(1, static_cast<int>(place.height() / height));
-    const QStringList lines = ReportFont::lines(text, face.font, place.width(), most);
+    const QStringList parts = lines(text, face.font, place.width(), most);
     QRectF line(place.topLeft(), QSizeF(place.width(), height));
     // A growing label is centred in its height beside its caption; a title begins at the top.
-    if (look.isGrowing()) line.translate(0, (place.height() - height * double(lines.size())) / 2);
-    for (const QString& part : lines) {
+    if (grows) line.translate(0, (place.height() - height * double(parts.size())) / 2);
+    for (const QString& part : parts) {
         setLine(line, onOneLine(part), look);
         line.translate(0, height);
     }
 }
 
-void ReportTypesetter::setLine(const QRectF& place, const QString& text, const ReportControl& look) {
-    Face& face = faceFor(look.points(), look.isBold());
+void ReportTypesetter::setLine(const QRectF& place, const QString& text, const ReportLook& look) {
+    Face& face = faceFor(look.points, look.bold);
     const Setting fit = fitting(face, look, text, place.width());
     const double letters = face.metrics.ascent() + face.metrics.descent();
-    const QPointF start(leftEnd(place, fit.width, look.align()),
+    const QPointF start(leftEnd(place, fit.width, look.align),
                         place.top() + (place.height() - letters) / 2 + face.metrics.ascent());
     Batch* batch = nullptr;
     for (const Letter& letter : fit.letters) {
-        if (!batch || batch->font != letter.font) batch = &batchFor(letter.font, look.ink());
+        if (!batch || batch->font != letter.font) batch = &batchFor(letter.font, look.ink);
         batch->glyphs.append(letter.glyph);
         // Whole units, finer than the eye sees: fractions would take half of a PDF's size and time.
         batch->positions.append((start + letter.place).toPoint());
@@ -154,10 +178,9 @@ int ReportTypesetter::numberOf(const QRawFont& font) {
 }
 
 ReportTypesetter::Batch& ReportTypesetter::batchFor(int font, QRgb ink) {
-    for (Batch& batch : m_batches) {
-        if (batch.ink == ink && batch.font == font) return batch;
-    }
-    return m_batches.emplace_back(Batch{font, ink, {}, {}});
+    const auto found = std::ranges::find_if(
+        m_batches, [=](const Batch& batch) { return batch.ink == ink && batch.font == font; });
+    return found != m_batches.end() ? *found : m_batches.emplace_back(Batch{font, ink});
 }
 
 void ReportTypesetter::paint(QPainter& painter) {

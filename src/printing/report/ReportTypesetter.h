@@ -21,9 +21,15 @@ public:
     /// Units of the painter in a tenth of a millimetre. Tenths are too coarse: font sizes are whole units.
     static constexpr int unitsPerTenth = 10;
 
+    /// The font of all reports, measured in units.
+    static QFont font(double points, bool bold);
+    /// Breaks a text into at most `most` lines, at its own line breaks and between words. The last line takes
+    /// all the rest.
+    static QStringList lines(QString text, const QFont& font, double width, int most);
+
     /// Adds a text; `place` is in units. A text too wide ends in an ellipsis, a number too wide gets smaller
     /// letters, and a wrapped label takes as many lines as its place holds.
-    void set(const QRectF& place, const QString& text, const ReportControl& look);
+    void set(const QRectF& place, const QString& text, const ReportLook& look);
     /// Paints the texts added and forgets them.
     void paint(QPainter& painter);
 
@@ -40,25 +46,23 @@ private:
         double width = 0;
     };
     struct Face {
-        explicit Face(const QFont& wanted);
-
         QFont font;
-        QFontMetricsF metrics;
-        QHash<QString, Setting> settings;
+        QFontMetricsF metrics{font};
+        QHash<QString, Setting> settings = {};
     };
     struct Batch {
         int font;
         QRgb ink;
-        QList<quint32> glyphs;
-        QList<QPointF> positions;
+        QList<quint32> glyphs = {};
+        QList<QPointF> positions = {};
     };
 
     Face& faceFor(double points, bool bold);
     Setting setting(Face& face, const QString& text);
     Setting measured(Face& face, const QString& text);
     Setting composed(Face& face, const QString& digits);
-    Setting fitting(Face& face, const ReportControl& look, const QString& text, double width);
-    void setLine(const QRectF& place, const QString& text, const ReportControl& look);
+    Setting fitting(Face& face, const ReportLook& look, const QString& text, double width);
+    void setLine(const QRectF& place, const QString& text, const ReportLook& look);
     int numberOf(const QRawFont& font);
     Batch& batchFor(int font, QRgb ink);
 

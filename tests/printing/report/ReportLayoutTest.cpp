@@ -1,12 +1,18 @@
 #include "ReportLayout.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace {
 
 // Space for ten rows on a page, for eight on the first.
-constexpr ReportHeights heights{
-    .body = 160, .reportHeader = 20, .pageHeader = 40, .detail = 10, .pageFooter = 20, .reportFooter = 30};
+constexpr int body = 160;
+constexpr std::array heights{20, 40, 10, 20, 30};
+
+qsizetype rowsOn(const ReportLayout& layout, int page) {
+    const auto strips = layout.page(page);
+    return std::ranges::count(strips, ReportLayout::Detail, &ReportLayout::Strip::band);
+}
 
 TEST(ReportLayoutTest, RowsFillThePagesAndTheReportFooterTakesSomeAlongToAPageOfItsOwn) {
     struct Case {
@@ -21,39 +27,44 @@ TEST(ReportLayoutTest, RowsFillThePagesAndTheReportFooterTakesSomeAlongToAPageOf
           Case{15, 2, 7, "the footer just fits on the second page"}, Case{16, 3, 3, "not quite"},
           Case{18, 3, 3, "two full pages"}, Case{19, 3, 1, "and one more"},
           Case{100000, 10001, 2, "very many"}}) {
-        const ReportLayout layout(c.rows, heights);
+        const ReportLayout layout(c.rows, body, heights);
         EXPECT_EQ(layout.pageCount(), c.pages) << c.why;
-        EXPECT_EQ(layout.page(c.pages - 1).rowCount, c.rowsOnLast) << c.why;
+        EXPECT_EQ(rowsOn(layout, c.pages - 1), c.rowsOnLast) << c.why;
     }
 }
 
 TEST(ReportLayoutTest, EveryRowStandsOnOnePageInItsOrderBetweenHeadAndFoot) {
     const int rows = 1234;
-    const ReportLayout layout(rows, heights);
+    const ReportLayout layout(rows, body, heights);
     int next = 0;
     for (int number = 0; number < layout.pageCount(); ++number) {
-        const ReportPage page = layout.page(number);
-        EXPECT_EQ(page.firstRow, next);
-        EXPECT_EQ(page.hasReportHeader, number == 0);
-        EXPECT_EQ(page.hasReportFooter, number == layout.pageCount() - 1);
-        EXPECT_EQ(page.pageHeaderTop, number == 0 ? 20 : 0);
-        EXPECT_EQ(page.detailTop, page.pageHeaderTop + 40);
-        EXPECT_EQ(page.reportFooterTop, page.detailTop + 10 * page.rowCount);
-        EXPECT_LE(page.reportFooterTop + (page.hasReportFooter ? 30 : 0), page.pageFooterTop);
-        EXPECT_EQ(page.pageFooterTop, 140);
-        next += page.rowCount;
+        const bool isLast = number == layout.pageCount() - 1;
+        const qsizetype end = next + rowsOn(layout, number);
+        QVector<ReportLayout::Band> others;
+        int top = 0;
+        for (const ReportLayout::Strip& strip : layout.page(number)) {
+            const bool isFoot = strip.band == ReportLayout::PageFooter;
+            EXPECT_EQ(strip.top, isFoot ? 140 : top);
+            EXPECT_LE(top, isFoot ? 140 : 130);
+            top += heights[strip.band];
+            if (strip.band != ReportLayout::Detail) {
+                others.append(strip.band);
+                continue;
+            }
+            EXPECT_EQ(strip.row, next++);
+            EXPECT_EQ(strip.isLast, next == end);
+        }
+        EXPECT_EQ(others.contains(ReportLayout::ReportHeader), number == 0);
+        EXPECT_EQ(others.contains(ReportLayout::ReportFooter), isLast);
+        EXPECT_EQ(others.size(), 2 + (number == 0 ? 1 : 0) + (isLast ? 1 : 0));
     }
     EXPECT_EQ(next, rows);
-    EXPECT_EQ(layout.page(-5).firstRow, 0);
-    EXPECT_EQ(layout.page(99999).firstRow, layout.page(layout.pageCount() - 1).firstRow);
 }
 
 TEST(ReportLayoutTest, ARowTooHighForThePageStillGetsOne) {
-    ReportHeights high = heights;
-    high.detail = 500;
-    const ReportLayout layout(3, high);
+    const ReportLayout layout(3, body, {20, 40, 500, 20, 30});
     EXPECT_EQ(layout.pageCount(), 4) << "three pages with a row and one with the footer";
-    EXPECT_EQ(layout.page(2).firstRow, 2);
+    EXPECT_EQ(rowsOn(layout, 2), 1);
 }
 
 } // namespace

@@ -55,12 +55,10 @@ QByteArray contentsOf(const QString& name) {
 }
 
 // A page with one label.
-template<typename Style>
-QImage pictureOf(const QString& text, const QRect& place, Style style) {
+QImage pictureOf(const QString& text, const QRect& place, const ReportLook& look = {}) {
     Report report(u"Eins"_s);
-    ReportSection& head = report.section(u"Section2"_s);
-    head.setHeight(400);
-    style(head.addLabel(u"a"_s, text, place));
+    report.section(u"Section2"_s) = {
+        u"Section2"_s, 400, {{ReportControl::Kind::Label, u"a"_s, place, look, text}}};
     return pictureOf(report, 0);
 }
 
@@ -69,10 +67,8 @@ TEST(ReportPainterTest, ANumberShrinksWhereATextIsCut) {
     for (const auto& [text, other, isCut] : {std::tuple{u"1.234.567,25"_s, u"1.234.567,35"_s, false},
                                              {u"D-012345678"_s, u"D-012345679"_s, false},
                                              {u"Oder-Spree-Kanal 1"_s, u"Oder-Spree-Kanal 2"_s, true}}) {
-        const auto asItIs = [](ReportControl&) {};
-        EXPECT_EQ(pictureOf(text, place, asItIs) == pictureOf(other, place, asItIs), isCut)
-            << qPrintable(text);
-        EXPECT_FALSE(hasInk(pictureOf(text, place, asItIs), {100, 0, 300, 100}));
+        EXPECT_EQ(pictureOf(text, place) == pictureOf(other, place), isCut) << qPrintable(text);
+        EXPECT_FALSE(hasInk(pictureOf(text, place), {100, 0, 300, 100}));
     }
 }
 
@@ -84,25 +80,27 @@ TEST(ReportPainterTest, ALabelThatGrowsShrinksFirstThenMovesWhatIsBelow) {
     for (const Case& c : {Case{1, 100}, Case{4, 100}, Case{8, 131}, Case{12, 161}}) {
         Report report(u"Eins"_s);
         ReportSection& head = report.section(u"Section2"_s);
-        head.setHeight(100);
-        head.addLabel(u"Name"_s, u"Forelle "_s.repeated(c.words).trimmed(), {0, 0, 400, 50})
-            .points(9.5)
-            .growing(7.5);
-        head.addLine(u"darunter"_s, {0, 60, 400, 0});
+        head.height = 100;
+        head.controls = {{ReportControl::Kind::Label,
+                          u"Name"_s,
+                          {0, 0, 400, 50},
+                          {.points = 9.5, .leastPoints = 7.5},
+                          u"Forelle "_s.repeated(c.words).trimmed()},
+                         {ReportControl::Kind::Line, u"darunter"_s, {0, 60, 400, 0}}};
         const auto document = report.document();
-        const int height = document->section(ReportDocument::PageHeader).height();
+        const int height = document->section(ReportLayout::PageHeader).height;
         EXPECT_NEAR(height, c.height, 1) << c.words << ", as high as this release's font sets its lines";
         EXPECT_TRUE(hasInk(pictureOf(report, 0), {0, height - 41, 400, 3})) << c.words;
-        EXPECT_EQ(head.height(), 100) << "the report is ready for the next text";
+        EXPECT_EQ(head.height, 100) << "the report is ready for the next text";
     }
 }
 
 TEST(ReportPainterTest, NoTextLeavesItsPlaceWhateverItsAlignment) {
-    using Align = ReportControl::Align;
+    using Align = ReportLook::Align;
     const QRect place(300, 0, 200, 50);
     for (const Align align : {Align::Left, Align::Centre, Align::Right}) {
         for (const QString& text : {u"Europäischer Flussaal "_s.repeated(5), u"Aal"_s}) {
-            const QImage picture = pictureOf(text, place, [&](ReportControl& label) { label.align(align); });
+            const QImage picture = pictureOf(text, place, {.align = align});
             EXPECT_TRUE(hasInk(picture, place));
             for (const QRect& beside : {QRect(0, 0, 300, 400), {500, 0, 500, 400}, {0, 50, 1000, 350}})
                 EXPECT_FALSE(hasInk(picture, beside)) << qPrintable(text);
@@ -136,7 +134,7 @@ TEST(ReportPainterTest, NumbersEndOnOneEdgeAndRulesAreOfOneWidthAtAnyScale) {
 
 TEST(ReportPainterTest, TheTableClosesBelowTheLastRowOfAPage) {
     SampleReport report;
-    report.control(u"Section1"_s, u"Line1"_s).closing(qRgb(255, 0, 0));
+    report.control(u"Section1"_s, u"Line1"_s).look.closingInk = qRgb(255, 0, 0);
     report.bindRows(11);
     const QImage page = pictureOf(report, 0);
     const auto below = [&](int row) {
@@ -151,10 +149,8 @@ TEST(PrintRunTest, ThePdfHasTheWantedPagesAndItsTextCanBeSearched) {
     const QString all = folder.filePath(u"alle.pdf"_s);
     const QString some = folder.filePath(u"einige.pdf"_s);
     SampleReport report;
-    RowList rows({u"Nr"_s, u"Gewässer"_s, u"Gewicht"_s},
-                 QVector<std::vector<Value>>(
-                     25, {Value(7), Value(QString(u"Oder-Spree-Kanal "_s).repeated(9)), Value(1234)}));
-    report.bind(rows);
+    const std::vector<Value> row{7, QString(u"Oder-Spree-Kanal "_s).repeated(9), 1234};
+    report.bind(rowsOf({u"Nr"_s, u"Gewässer"_s, u"Gewicht"_s}, QVector<std::vector<Value>>(25, row)));
     const auto document = report.document();
     printReport(*document, {all});
     printReport(*document, {some, nullptr, {2, 0, 2, 0}});

@@ -6,59 +6,46 @@
 
 using namespace Qt::StringLiterals;
 
-/// The given rows, or `rows` rows of a number, a name and a weight.
-class RowList : public ReportRowSource {
-public:
-    explicit RowList(int rows)
-        : m_fields{u"Nr"_s, u"Gewässer"_s, u"Gewicht"_s} {
-        for (int row = 1; row <= rows; ++row) m_rows.push_back({row, u"Großer See", 1000});
-    }
-    RowList(const QStringList& fields, const QVector<std::vector<Value>>& rows)
-        : m_fields(fields)
-        , m_rows(rows) {}
-
-    QStringList fields() const override { return m_fields; }
-    bool next(std::vector<Value>& row) override {
-        if (m_next == m_rows.size()) return false;
-        row = m_rows[m_next++];
-        return true;
-    }
-
-private:
-    QStringList m_fields;
-    QVector<std::vector<Value>> m_rows;
-    qsizetype m_next = 0;
-};
+inline ReportRows rowsOf(const QStringList& fields, const QVector<std::vector<Value>>& rows) {
+    ReportRows made(fields);
+    for (const std::vector<Value>& row : rows) made.append(row);
+    return made;
+}
 
 /// A report of three columns and ten rows a page. The last page has nine and the sum below them.
 class SampleReport : public Report {
 public:
     explicit SampleReport(const QString& caption = u"Probe"_s)
         : Report(caption) {
-        ReportSection& head = section(u"Section2"_s);
-        head.setHeight(600);
-        head.addLabel(u"lblOrt"_s, u"Erkner"_s, {0, 0, 800, 60});
-        head.addShape(u"Shape1"_s, {0, 500, 1500, 60}).ground(0xffe3ecfc);
-        ReportSection& detail = section(u"Section1"_s);
-        detail.setHeight(195);
-        detail.addText(u"Text1"_s, {0, 0, 200, 60}).align(ReportControl::Align::Right);
-        detail.addText(u"Text2"_s, {220, 0, 400, 60});
-        detail.addText(u"Text3"_s, {640, 0, 300, 60}).format(u"#.##0"_s);
-        detail.addLine(u"Line1"_s, {0, 195, 1500, 0});
-        ReportSection& foot = section(u"Section3"_s);
-        foot.setHeight(100);
-        foot.addLabel(u"Label9"_s, u"Seite %p von %P (gedruckt am %d)"_s, {0, 0, 900, 60}).withPageNumbers();
-        ReportSection& summary = section(u"Section5"_s);
-        summary.setHeight(200);
-        summary.addSum(u"SumGewicht"_s, {0, 0, 400, 60}).format(u"#.##0"_s);
-        control(u"Section1"_s, u"Text1"_s).setDataField(u"nr"_s);
-        control(u"Section1"_s, u"Text2"_s).setDataField(u"GEWÄSSER"_s);
-        control(u"Section1"_s, u"Text3"_s).setDataField(u"Gewicht"_s);
-        control(u"Section5"_s, u"SumGewicht"_s).setDataField(u"Gewicht"_s);
+        using Kind = ReportControl::Kind;
+        section(u"Section2"_s) = {u"Section2"_s,
+                                  600,
+                                  {{Kind::Label, u"lblOrt"_s, {0, 0, 800, 60}, {}, u"Erkner"_s},
+                                   {Kind::Shape, u"Shape1"_s, {0, 500, 1500, 60}, {.ground = 0xffe3ecfc}}}};
+        section(u"Section1"_s) = {
+            u"Section1"_s,
+            195,
+            {{Kind::Text, u"Text1"_s, {0, 0, 200, 60}, {.align = ReportLook::Align::Right}, {}, u"nr"_s},
+             {Kind::Text, u"Text2"_s, {220, 0, 400, 60}, {}, {}, u"GEWÄSSER"_s},
+             {Kind::Text, u"Text3"_s, {640, 0, 300, 60}, {.format = u"#.##0"_s}, {}, u"Gewicht"_s},
+             {Kind::Line, u"Line1"_s, {0, 195, 1500, 0}}}};
+        section(u"Section3"_s) = {u"Section3"_s,
+                                  100,
+                                  {{Kind::Label,
+                                    u"Label9"_s,
+                                    {0, 0, 900, 60},
+                                    {.pageNumbers = true},
+                                    u"Seite %p von %P (gedruckt am %d)"_s}}};
+        section(u"Section5"_s) = {
+            u"Section5"_s,
+            200,
+            {{Kind::Sum, u"SumGewicht"_s, {0, 0, 400, 60}, {.format = u"#.##0"_s}, {}, u"Gewicht"_s}}};
     }
 
+    /// Rows of a number, a name and a weight.
     void bindRows(int rows) {
-        RowList source(rows);
-        bind(source);
+        ReportRows made({u"Nr"_s, u"Gewässer"_s, u"Gewicht"_s});
+        for (int row = 1; row <= rows; ++row) made.append({row, u"Großer See", 1000});
+        bind(std::move(made));
     }
 };
