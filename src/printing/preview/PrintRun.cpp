@@ -20,8 +20,7 @@ namespace {
 
 // On a sheet smaller than A4 the page shrinks; nothing is cut off.
 double unitOn(const QPaintDevice& device) {
-    const double tenths = 254.0;
-    const double resolution = device.logicalDpiX() / tenths;
+    const double resolution = device.logicalDpiX() / ReportPaper::tenthsPerInch;
     const double width = double(device.width()) / ReportPaper::width;
     const double height = double(device.height()) / ReportPaper::height;
     return std::min({resolution, width, height});

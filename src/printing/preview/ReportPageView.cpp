@@ -17,8 +17,6 @@ namespace {
 constexpr int rim = 20;
 constexpr int shadow = 6;
 constexpr int lineStep = 40;
-constexpr int wheelNotch = 120;
-constexpr double tenthsPerInch = 254.0;
 
 QColor tableColour() {
     return Theme::mode() == Theme::Mode::Dark ? QColor(0x12, 0x15, 0x1a) : QColor(0xcd, 0xd4, 0xdf);
@@ -92,7 +90,7 @@ void ReportPageView::setZoom(int zoom) {
 
 double ReportPageView::shownPercent() const { return 100 * pixelsPerTenth() / trueScale(); }
 
-double ReportPageView::trueScale() const { return logicalDpiX() / tenthsPerInch; }
+double ReportPageView::trueScale() const { return logicalDpiX() / ReportPaper::tenthsPerInch; }
 
 // PageWidth leaves space for the scroll bar even while there is none. Otherwise the page's width would decide
 // on the scroll bar, and the scroll bar on the width, without end.
@@ -189,7 +187,7 @@ bool ReportPageView::turnByWheel(int angle) {
         return false;
     }
     m_wheel += angle;
-    if (std::abs(m_wheel) < wheelNotch) return true;
+    if (std::abs(m_wheel) < QWheelEvent::DefaultDeltasPerStep) return true;
     turnPage(direction);
     return true;
 }

@@ -4,6 +4,7 @@
 /// are wider than the edge that a printer can't print on.
 namespace ReportPaper {
 
+constexpr double tenthsPerInch = 254;
 constexpr int width = 2100;
 constexpr int height = 2970;
 constexpr int left = 180;

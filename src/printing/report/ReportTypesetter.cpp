@@ -1,5 +1,7 @@
 #include "ReportTypesetter.h"
 
+#include "ReportPaper.h"
+
 #include <QGlyphRun>
 #include <QPainter>
 #include <QTextLayout>
@@ -43,7 +45,7 @@ double leftEnd(const QRectF& place, double width, ReportLook::Align align) {
 } // namespace
 
 QFont ReportTypesetter::font(double points, bool bold) {
-    constexpr double unitsPerPoint = 254.0 * unitsPerTenth / 72.0;
+    constexpr double unitsPerPoint = ReportPaper::tenthsPerInch * unitsPerTenth / 72;
     QFont font;
     font.setFamilies({u"Arial"_s, u"Liberation Sans"_s, u"Helvetica"_s});
     font.setStyleHint(QFont::SansSerif);
