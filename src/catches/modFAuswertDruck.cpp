@@ -18,9 +18,9 @@ QString oderAlle(bool chosen, const QString& text) { return chosen ? text : u"al
 
 void richteEin(Report& report) {
     const Fangauswertung& screen = the<Fangauswertung>();
-    // Year and month count if their filter is ticked, fish and water if their list has a choice.
     const QString fisch = screen.cboFArt->currentText();
     const QString gewaesser = screen.cboGName->currentText();
+    // Year and month count if their filter is ticked, fish and water if their list has a choice.
     report.control(u"Section2"_s, u"lblFJahr"_s).caption =
         oderAlle(screen.cboFJahr->isEnabled(), screen.cboFJahr->currentText());
     report.control(u"Section2"_s, u"lblFMonat"_s).caption =
