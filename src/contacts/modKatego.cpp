@@ -1,7 +1,6 @@
 #include "modKatego.h"
 
 #include "Conversions.h"
-#include "DataTable.h"
 #include "Datenbank.h"
 #include "Datensatz.h"
 #include "Eingaben.h"
@@ -12,9 +11,7 @@
 #include "MsgBox.h"
 #include "Recordset.h"
 #include "Screens.h"
-#include "TextBox.h"
 #include "Uebersicht.h"
-#include "ValueLabel.h"
 
 using namespace Qt::StringLiterals;
 
@@ -50,7 +47,7 @@ void loadTblKatego() {
                  });
 }
 
-void loadKatego(int row, int /*column*/) {
+void loadKatego(int row) {
     withErrorTail(modul, u"loadKatego"_s, [row](ErrorTail& step) {
         Katego& screen = the<Katego>();
         Recordset katego;

@@ -13,8 +13,7 @@ bool istSystemkategorie(const QString& name);
 /// Fills the grid. Call once at the start.
 void loadTblKatego();
 /// Shows the category of a row for editing. Refuses a system category with a message box.
-/// `column` is not used.
-void loadKatego(int row, int column);
+void loadKatego(int row);
 void SpeicherKatego();
 /// Writes the name over the category that the screen shows; `row` is its grid row.
 void UpdateKatego(int row);
