@@ -1,21 +1,100 @@
 #include "Kontakt.h"
 
-#include "ComboBox.h"
 #include "Eingaben.h"
 #include "Meldungen.h"
-#include "MemoBox.h"
 #include "MsgBox.h"
 #include "Screens.h"
-#include "TextBox.h"
+#include "Tastenfilter.h"
 #include "modKontakt.h"
-
-#include <QCheckBox>
-#include <QRadioButton>
-#include <QTabWidget>
 
 using namespace Qt::StringLiterals;
 
-// The layout of the screen is in KontaktLayout.cpp; its behaviour is here.
+Kontakt::Kontakt()
+    : Screen(u"Kontakt"_s, u"Kontakt"_s) {
+    TabKont->setObjectName(u"TabKont"_s);
+    setUpFields();
+    layOutGlobal();
+    layOutPages();
+    QVBoxLayout* column = Layout::column(this);
+    column->addWidget(Toolbar1);
+    column->addWidget(TabKont, 1);
+    on(cboKatego, &ComboBox::Click, [] { modKontakt::SetzeMitglFelder(); });
+}
+
+Toolbar* Kontakt::buildToolbar() {
+    return Layout::recordToolbar(
+        this, [this] { Speichern(); }, [this] { Loeschen(); }, &modKontakt::KontaktAnzeigeLoeschen);
+}
+
+void Kontakt::setUpFields() {
+    for (TextBox* box : {txtPLZ, txtKontoNr, txtBLZ}) box->setKeyFilter(&modRun::FilterZiffern);
+    for (TextBox* box : {txtTelPriv, txtTelGesch, txtMobil, txtFax})
+        box->setKeyFilter(&modRun::FilterTelefon);
+    for (TextBox* box : {txtGebDat, txtEintritt, txtAustritt}) {
+        box->setKeyFilter(&modRun::FilterDatum, Refused::WithTheWhole);
+        box->setHoldsDate();
+    }
+    for (QRadioButton* first : {optMann, optNBefreit, optNBezahlt}) first->setChecked(true);
+    txtNotiz->setAccessibleName(u"Notizen"_s);
+}
+
+void Kontakt::layOutGlobal() {
+    QGridLayout* screen = Layout::form(Frame1);
+    screen->setColumnStretch(1, 1);
+    Layout::addFields(screen, {{lblKontNr, lblKNr},
+                               {lblKatego, cboKatego},
+                               {lblAnr, txtAnrede},
+                               {lblOrg, txtFirma},
+                               {lblName, txtNName},
+                               {lblVName, txtVName},
+                               {lblStrasse, txtStrasse},
+                               {lblPLZ, txtPLZ},
+                               {lblGebDatum, txtGebDat}});
+    // Postal code and town share a line, as on an envelope.
+    screen->addWidget(Layout::line(Frame1, {txtPLZ, lblOrt, txtOrt}, txtOrt), 7, 1);
+    lblOrt->setBuddy(txtOrt);
+    txtOrt->setAccessibleName(u"Ort"_s);
+    QWidget* birth = Layout::line(Frame1, {txtGebDat, chkJG});
+    birth->layout()->setSpacing(2 * Layout::gap);
+    screen->addWidget(birth, 8, 1);
+    txtPLZ->setFixedWidth(64);
+    txtGebDat->setFixedWidth(112);
+
+    Layout::addFields(Layout::form(Frame4), {{lblEintritt, txtEintritt}, {lblAustritt, txtAustritt}});
+    auto* member = new QVBoxLayout;
+    member->setSpacing(Layout::gap);
+    for (QGroupBox* frame : {Frame2, Frame4, Frame14, Frame3}) member->addWidget(frame);
+    member->addStretch();
+    for (QGroupBox* pair : {Frame2, Frame14, Frame3}) {
+        auto* row = new QHBoxLayout(pair);
+        for (auto* option : pair->findChildren<QRadioButton*>()) row->addWidget(option, 1);
+    }
+    auto* sides = new QHBoxLayout;
+    Layout::page(TabKont, u"Global"_s)->addLayout(sides);
+    sides->addWidget(Frame1, 3, Qt::AlignTop);
+    sides->addLayout(member, 2);
+}
+
+void Kontakt::layOutPages() {
+    Layout::addFields(pageOfOne(u"Kommunikation"_s, Frame5), {{Label1, txtTelPriv},
+                                                              {lblTelGesch, txtTelGesch},
+                                                              {Label2, txtMobil},
+                                                              {lblFax, txtFax},
+                                                              {lblEMail, txtEMail}});
+    QGridLayout* bank = pageOfOne(u"Bank"_s, Frame6);
+    Layout::addFields(bank, {{lblKontoNr, txtKontoNr}, {Label3, txtBLZ}, {lblKreditInstit, txtKInst}});
+    bank->addWidget(chkEinzug, 3, 1);
+    (new QVBoxLayout(Frame7))->addWidget(txtNotiz);
+    Layout::page(TabKont, u"Info"_s)->addWidget(Frame7);
+}
+
+/// Adds a page with one form at its top.
+QGridLayout* Kontakt::pageOfOne(const QString& caption, QGroupBox* frame) {
+    Layout::page(TabKont, caption)->addWidget(frame, 0, Qt::AlignTop);
+    QGridLayout* screen = Layout::form(frame);
+    screen->setColumnStretch(1, 1);
+    return screen;
+}
 
 void Kontakt::Form_Load() {
     TabKont->setCurrentIndex(0);

@@ -1,18 +1,11 @@
 #include "KontaktFelder.h"
 
-#include "ComboBox.h"
 #include "Conversions.h"
 #include "Feldwerte.h"
 #include "Kontakt.h"
-#include "MemoBox.h"
 #include "Namen.h"
-#include "TextBox.h"
-#include "ValueLabel.h"
 #include "modKatego.h"
 #include "modKontakt.h"
-
-#include <QCheckBox>
-#include <QRadioButton>
 
 using namespace Qt::StringLiterals;
 
@@ -23,7 +16,7 @@ namespace {
 /// A text field of the table and its input.
 struct Textfeld {
     const char16_t* feld;
-    TextBox* Kontakt::*box;
+    TextBox* const Kontakt::*box;
 };
 
 constexpr Textfeld person[] = {

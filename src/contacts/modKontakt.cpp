@@ -1,6 +1,5 @@
 #include "modKontakt.h"
 
-#include "ComboBox.h"
 #include "Conversions.h"
 #include "DataTable.h"
 #include "Datenbank.h"
@@ -10,19 +9,12 @@
 #include "Kontakt.h"
 #include "KontaktFelder.h"
 #include "Meldungen.h"
-#include "MemoBox.h"
 #include "Recordset.h"
 #include "Screens.h"
-#include "TextBox.h"
-#include "Toolbar.h"
-#include "ValueLabel.h"
 #include "Zugriff.h"
 #include "modKatego.h"
 
-#include <QCheckBox>
-#include <QRadioButton>
 #include <QScopeGuard>
-#include <QTabWidget>
 
 using namespace Qt::StringLiterals;
 

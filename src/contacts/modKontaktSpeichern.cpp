@@ -1,4 +1,3 @@
-#include "ComboBox.h"
 #include "Conversions.h"
 #include "DataTable.h"
 #include "Datensatz.h"
@@ -10,9 +9,7 @@
 #include "Namen.h"
 #include "Recordset.h"
 #include "Screens.h"
-#include "TextBox.h"
 #include "Uebersicht.h"
-#include "ValueLabel.h"
 #include "modKatego.h"
 #include "modKontakt.h"
 

@@ -56,6 +56,14 @@ QVBoxLayout* column(QWidget* screen, Heading* heading, Toolbar* toolbar) {
     return rest;
 }
 
+QVBoxLayout* page(QTabWidget* tabs, const QString& caption) {
+    auto* made = new QVBoxLayout(new QWidget(tabs));
+    made->setContentsMargins(gap, gap, gap, gap);
+    made->setSpacing(gap);
+    tabs->addTab(made->parentWidget(), caption);
+    return made;
+}
+
 QHBoxLayout* line(QWidget* parent) {
     auto* made = new QHBoxLayout(new QWidget(parent));
     made->setContentsMargins(0, 0, 0, 0);

@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTabWidget>
 #include <utility>
 
 /// The building blocks of a screen's layout: labels left of their fields in common rows, frames, a heading
@@ -30,6 +31,8 @@ QVBoxLayout* column(QWidget* window);
 /// Lays out a screen on the stage: heading, toolbar and a column for the rest. Returns the column for the
 /// rest.
 QVBoxLayout* column(QWidget* screen, Heading* heading, Toolbar* toolbar);
+/// Adds a page. Returns the column inside it.
+QVBoxLayout* page(QTabWidget* tabs, const QString& caption);
 
 /// A row without margins, on a widget of its own (its parentWidget()).
 QHBoxLayout* line(QWidget* parent);
