@@ -1,24 +1,17 @@
 #include "KontaktUebers.h"
 
-#include "ComboBox.h"
 #include "Conversions.h"
-#include "DataTable.h"
-#include "Heading.h"
 #include "Katego.h"
 #include "Kontakt.h"
-#include "Layout.h"
 #include "Meldungen.h"
 #include "MsgBox.h"
 #include "Rahmen.h"
 #include "Screens.h"
 #include "SuchKont.h"
-#include "Toolbar.h"
 #include "Uebersicht.h"
 #include "modKontakt.h"
 #include "modSerienbrief.h"
 
-#include <QBoxLayout>
-#include <QLabel>
 #include <QToolButton>
 #include <algorithm>
 
@@ -32,42 +25,32 @@ void bieteAlleKategorien(ComboBox* combo) {
 }
 
 /// Shows the contact of a row modally. Its record is open on that screen and on the overview below it.
-void oeffneMaske(DataTable* grid, int row, int column, bool ausSuche) {
+void oeffneMaske(DataTable* grid, int row, bool ausSuche) {
     const QString nummer = grid->cellText(row, 0);
     Kontakt& maske = the<Kontakt>();
     for (Screen* offen : std::initializer_list<Screen*>{&the<KontaktUebers>(), &maske})
         offen->openRecord(nummer, row);
     maske.AusSuche = ausSuche;
-    modKontakt::loadKontakt(grid, row, column);
+    modKontakt::loadKontakt(grid, row);
 }
 
-void oeffneTreffer(SuchKont& suche, int row, int column) {
+void oeffneTreffer(SuchKont& suche, int row) {
     if (!modKontakt::KontaktZugriff_Erlaubt()) {
         modRun::MeldeKeinZugriff();
         return;
     }
     // The hit stays open until a press in a toolbar: meanwhile the search leaves the focus on its grid.
-    oeffneMaske(suche.tblSuch, row, column, true);
+    oeffneMaske(suche.tblSuch, row, true);
 }
 
 } // namespace
 
 KontaktUebers::KontaktUebers()
     : Screen(u"KontaktUebers"_s, u"Kontakt - Übersicht"_s) {
-    Ueberschrift = new Heading(u"KONTAKT - ÜBERSICHT"_s, this);
-    buildToolbar();
-    tblKUebers = new DataTable(u"tblKUebers"_s, this);
     tblKUebers->setAccessibleName(u"Kontakte nach Kategorien"_s);
-    Label2 = Layout::label(u"Label2"_s, u"Gefunden:"_s, this);
-    Label1 = Layout::label(u"Label1"_s, QString(), this);
-    auto* found = new QHBoxLayout;
-    found->setSpacing(Layout::gap);
-    found->addWidget(Label2);
-    found->addWidget(Label1);
-    found->addStretch();
     QVBoxLayout* rest = Layout::column(this, Ueberschrift, Toolbar1);
     rest->addWidget(tblKUebers, 1);
-    rest->addLayout(found);
+    rest->addWidget(Layout::line(this, {Label2, Label1}));
 
     on(tblKUebers, &DataTable::OnGridCellDown,
        [this](int row, int column) { tblKUebers_OnGridCellDown(row, column); });
@@ -75,17 +58,17 @@ KontaktUebers::KontaktUebers()
        [this](int row, int column) { tblKUebers_OnGridCellOpen(row, column); });
 }
 
-void KontaktUebers::buildToolbar() {
-    Toolbar1 = new Toolbar(this);
-    Toolbar1->addKeys({{u"tbKontakt"_s, u"Neuer Kontakt"_s, u"Neuer Kontakt oder neues Mitglied..."_s,
-                        u"kontakt"_s, [] { the<Kontakt>().ShowModal(); }},
-                       {u"tbKatego"_s, u"Kategorien bearb."_s, u"Kategorien bearbeiten..."_s, u"kategorie"_s,
-                        [this] { BearbeiteKategorien(); }},
-                       {u"tbWord"_s, u"Word-Datei"_s, u"Serienbrief - Datei für Word erzeugen..."_s,
-                        u"word"_s, [this] { ErzeugeSerienbriefDatei(); }},
-                       {u"tbSuch"_s, u"Suchen"_s, u"Mitglied suchen..."_s, u"suchen"_s, [this] { Suchen(); }},
-                       {u"tbMitglList"_s, u"Mitglieder - Liste"_s, u"Mitglieder - Listen erzeugen..."_s,
-                        u"liste"_s, [] { rahmen()->zeigeMitgliederliste(); }}});
+Toolbar* KontaktUebers::buildToolbar() {
+    return new Toolbar(
+        this, {{u"tbKontakt"_s, u"Neuer Kontakt"_s, u"Neuer Kontakt oder neues Mitglied..."_s, u"kontakt"_s,
+                [] { the<Kontakt>().ShowModal(); }},
+               {u"tbKatego"_s, u"Kategorien bearb."_s, u"Kategorien bearbeiten..."_s, u"kategorie"_s,
+                [this] { BearbeiteKategorien(); }},
+               {u"tbWord"_s, u"Word-Datei"_s, u"Serienbrief - Datei für Word erzeugen..."_s, u"word"_s,
+                [this] { ErzeugeSerienbriefDatei(); }},
+               {u"tbSuch"_s, u"Suchen"_s, u"Mitglied suchen..."_s, u"suchen"_s, [this] { Suchen(); }},
+               {u"tbMitglList"_s, u"Mitglieder - Liste"_s, u"Mitglieder - Listen erzeugen..."_s, u"liste"_s,
+                [] { rahmen()->zeigeMitgliederliste(); }}});
 }
 
 void KontaktUebers::Form_Load() { SuchKont::registriere(0, {&bieteAlleKategorien, true, &oeffneTreffer}); }
@@ -153,6 +136,6 @@ void KontaktUebers::tblKUebers_OnGridCellOpen(int row, int column) {
         modRun::MeldeKeinZugriff();
         return;
     }
-    oeffneMaske(tblKUebers, row, column, false);
+    oeffneMaske(tblKUebers, row, false);
     Screens::giveUpRecords();
 }

@@ -1,13 +1,8 @@
 #pragma once
 
+#include "DataTable.h"
+#include "Layout.h"
 #include "Screen.h"
-
-#include <vector>
-
-class DataTable;
-class Heading;
-class QLabel;
-class Toolbar;
 
 /// Lists the contacts under their categories. The contacts of open categories get into the file for serial
 /// letters.
@@ -21,17 +16,17 @@ public:
     void Form_Deactivate() override;
     bool Form_KeyDown(int key, Qt::KeyboardModifiers modifiers) override;
 
-    Heading* Ueberschrift;
     /// True if the last press on any category opened it, false if it closed it.
     bool LetzterKlappZustand = false;
 
-    Toolbar* Toolbar1;
-    DataTable* tblKUebers;
-    QLabel* Label2;
-    QLabel* Label1;
+    Heading* const Ueberschrift = new Heading(u"KONTAKT - ÜBERSICHT", this);
+    Toolbar* const Toolbar1 = buildToolbar();
+    DataTable* const tblKUebers = new DataTable(u"tblKUebers", this);
+    QLabel* const Label2 = Layout::label(u"Label2", u"Gefunden:", this);
+    QLabel* const Label1 = Layout::label(u"Label1", {}, this);
 
 private:
-    void buildToolbar();
+    Toolbar* buildToolbar();
     void BearbeiteKategorien();
     void ErzeugeSerienbriefDatei();
     void Suchen();

@@ -1,13 +1,11 @@
 #pragma once
 
+#include "ComboBox.h"
+#include "DataTable.h"
+#include "Layout.h"
 #include "Screen.h"
-
-class ComboBox;
-class DataTable;
-class QLabel;
-class QPushButton;
-class TextBox;
-class ValueLabel;
+#include "TextBox.h"
+#include "ValueLabel.h"
 
 class SuchKont;
 
@@ -18,7 +16,7 @@ struct Suchweg {
     /// True if the first entry of that list means all categories.
     bool ersterIstAlle;
     /// Called when the user opens a row of the results.
-    void (*treffer)(SuchKont&, int row, int column);
+    void (*treffer)(SuchKont&, int row);
 };
 
 /// Finds contacts by a word. The session's SuchAufrufer selects the registered Suchweg.
@@ -35,17 +33,17 @@ public:
     void Form_Paint() override;
     bool Form_KeyDown(int key, Qt::KeyboardModifiers modifiers) override;
 
-    QLabel* Label1;
-    TextBox* txtSuch;
-    QLabel* Label2;
-    ComboBox* cboKatego;
-    QPushButton* cmdSuch;
-    DataTable* tblSuch;
-    QLabel* Label3;
-    ValueLabel* lblGefDS;
+    QLabel* const Label1 = Layout::label(u"Label1", u"Suchbegriff:", this);
+    TextBox* const txtSuch = new TextBox(u"txtSuch", this);
+    QLabel* const Label2 = Layout::label(u"Label2", u"Kategorie:", this);
+    ComboBox* const cboKatego = new ComboBox(u"cboKatego", this);
+    QPushButton* const cmdSuch = Layout::button(u"cmdSuch", {}, this);
+    DataTable* const tblSuch = new DataTable(u"tblSuch", this);
+    QLabel* const Label3 = Layout::label(u"Label3", u"Gefunden:", this);
+    ValueLabel* const lblGefDS = new ValueLabel(u"lblGefDS", this);
 
 private:
-    void build();
+    void setUpControls();
     void cmdSuch_Click();
-    void tblSuch_OnGridCellOpen(int row, int column);
+    void tblSuch_OnGridCellOpen(int row);
 };

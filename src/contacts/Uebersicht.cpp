@@ -1,6 +1,5 @@
 #include "Uebersicht.h"
 
-#include "DataTable.h"
 #include "KontaktUebers.h"
 #include "Screens.h"
 

@@ -1,7 +1,6 @@
 #include "modKontakt.h"
 
 #include "Conversions.h"
-#include "DataTable.h"
 #include "Datenbank.h"
 #include "Eingaben.h"
 #include "ErrorTail.h"
@@ -55,7 +54,7 @@ void zeigeMitgliedZu(ErrorTail& step, qint32 knr, Kontakt& screen) {
 
 } // namespace
 
-void loadKontakt(DataTable* grid, int row, int /*column*/) {
+void loadKontakt(DataTable* grid, int row) {
     // A fifth error may leave the screen filled and hidden. "Neuer Kontakt" would then show it.
     const auto schliesse = qScopeGuard([] { unload<Kontakt>(); });
     withErrorTail(modul, u"loadKontakt"_s, [grid, row](ErrorTail& step) {

@@ -17,8 +17,7 @@ void FuelleKategoCombo(ComboBox* combo);
 // The screen of a contact.
 
 /// Shows the contact whose number is in column 0 of the row. The screen is modal: returns when it is closed.
-/// `column` is not used.
-void loadKontakt(DataTable* grid, int row, int column);
+void loadKontakt(DataTable* grid, int row);
 /// 0 disables the buttons that write and makes the fields read-only; 1 enables the buttons.
 void SetzeKontaktToolbar(int enabled);
 /// Enables the fields of a member if a member category is chosen, otherwise disables them. Their values stay.

@@ -1,5 +1,4 @@
 #include "Conversions.h"
-#include "DataTable.h"
 #include "Datenbank.h"
 #include "ErrorTail.h"
 #include "Meldungen.h"
@@ -8,8 +7,6 @@
 #include "Screens.h"
 #include "SqlText.h"
 #include "SuchKont.h"
-#include "TextBox.h"
-#include "ValueLabel.h"
 #include "modKontakt.h"
 
 using namespace Qt::StringLiterals;

@@ -1,5 +1,4 @@
 #include "Conversions.h"
-#include "DataTable.h"
 #include "Datenbank.h"
 #include "ErrorTail.h"
 #include "KontaktUebers.h"

@@ -2,7 +2,6 @@
 
 #include "Conversions.h"
 #include "CsvDatei.h"
-#include "DataTable.h"
 #include "Datenbank.h"
 #include "KontaktUebers.h"
 #include "Meldungen.h"

@@ -29,7 +29,7 @@ void bieteMitglieder(ComboBox* combo) {
     combo->AddItem(u"Mitglieder (passiv)"_s);
 }
 
-void uebernehmeTreffer(SuchKont& suche, int row, int /*column*/) {
+void uebernehmeTreffer(SuchKont& suche, int row) {
     suche.Hide();
     modArbeit::UebernehmeKontakt(row);
 }

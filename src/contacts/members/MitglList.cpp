@@ -8,7 +8,6 @@
 #include "Screens.h"
 #include "Session.h"
 #include "Tastenfilter.h"
-#include "Vergleich.h"
 #include "modKontakt.h"
 #include "modMitglList.h"
 

@@ -1,8 +1,6 @@
 #include "modMitglList.h"
 
-#include "ComboBox.h"
 #include "Conversions.h"
-#include "DataTable.h"
 #include "Datenbank.h"
 #include "Eingaben.h"
 #include "ErrorTail.h"
@@ -12,17 +10,12 @@
 #include "MitglList.h"
 #include "MsgBox.h"
 #include "Namen.h"
-#include "ProgressBar.h"
 #include "Recordset.h"
 #include "Screens.h"
 #include "Session.h"
 #include "Stunden.h"
-#include "TextBox.h"
-#include "ValueLabel.h"
 #include "modKontakt.h"
 
-#include <QCheckBox>
-#include <QRadioButton>
 #include <QScopeGuard>
 #include <array>
 
@@ -206,7 +199,7 @@ void LeereMListAnzeige() {
 
 void zeigeKontakt(int row) {
     modKontakt::SetzeKontaktToolbar(0);
-    modKontakt::loadKontakt(the<MitglList>().tblMList, row, 0);
+    modKontakt::loadKontakt(the<MitglList>().tblMList, row);
     modKontakt::SetzeKontaktToolbar(1);
 }
 
