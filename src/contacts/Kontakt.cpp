@@ -5,6 +5,7 @@
 #include "MsgBox.h"
 #include "Screens.h"
 #include "Tastenfilter.h"
+#include "modKatego.h"
 #include "modKontakt.h"
 
 using namespace Qt::StringLiterals;
@@ -98,7 +99,7 @@ QGridLayout* Kontakt::pageOfOne(const QString& caption, QGroupBox* frame) {
 
 void Kontakt::Form_Load() {
     TabKont->setCurrentIndex(0);
-    modKontakt::FuelleKategoCombo(cboKatego);
+    modKatego::FuelleKategoCombo(cboKatego);
     modKontakt::SetzeMitglFelder();
     cboKatego->setFocus();
 }
@@ -108,6 +109,8 @@ void Kontakt::Form_QueryUnload() { unload<Kontakt>(); }
 
 void Kontakt::sperre() {
     m_gesperrt = true;
+    for (const QString& key : {u"tbSpeichern"_s, u"tbLoeschen"_s, u"tbAnzLoeschen"_s})
+        Toolbar1->setKeyEnabled(key, false);
     for (TextBox* box : TabKont->findChildren<TextBox*>()) {
         box->setEnabled(true);
         box->setReadOnly(true);

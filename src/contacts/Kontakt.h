@@ -23,7 +23,7 @@ public:
     void Form_Load() override;
     void Form_QueryUnload() override;
 
-    /// Makes the fields read-only until the screen is closed.
+    /// Disables the buttons that write and makes the fields read-only, until the screen is closed.
     void sperre();
     bool istGesperrt() const { return m_gesperrt; }
 

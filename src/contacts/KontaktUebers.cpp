@@ -9,6 +9,7 @@
 #include "Screens.h"
 #include "SuchKont.h"
 #include "Uebersicht.h"
+#include "modKatego.h"
 #include "modKontakt.h"
 #include "modSerienbrief.h"
 
@@ -20,7 +21,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 void bieteAlleKategorien(ComboBox* combo) {
-    modKontakt::FuelleKategoCombo(combo);
+    modKatego::FuelleKategoCombo(combo);
     combo->InsertItem(0, u"Alle"_s);
 }
 

@@ -2,9 +2,8 @@
 
 #include "Value.h"
 
+#include <QStringList>
 #include <span>
-
-class DataTable;
 
 /// Keeps the grid of the contact overview up to date after each write: the grid is never loaded again. It has
 /// a row for each category, with the count behind the name, and child tables with the contacts. A contact's
@@ -17,28 +16,8 @@ constexpr int spalteNr = 0;
 constexpr int spalteZustand = 1; ///< "+" closed, "-" open, empty for a category that was added later
 constexpr int spalteName = 2;
 
-/// Enters the child table of a category, and makes it if there is none. The destructor returns to the
-/// category level.
-class ImKind {
-public:
-    explicit ImKind(int row);
-    ~ImKind();
-    ImKind(const ImKind&) = delete;
-    ImKind& operator=(const ImKind&) = delete;
-
-    DataTable* operator->() { return &m_grid; }
-
-private:
-    DataTable& m_grid;
-};
-
-/// Writes the name with the count behind it, or the name alone if the count is 0.
-void schreibeMarke(int row, const QString& name, qint32 anzahl);
-
-/// Sets the columns of every child table.
-void SetzeKontaktSpalten();
-/// Gives the row a child table with one empty row, so that it can be opened before the contacts are read.
-void legeKindMitPlatzhalterAn(int row);
+/// The fields of a contact's row, in the order of its cells. The picture's cell is between the first two.
+extern const QStringList felder;
 
 /// A stored contact with its old and its new category, which may be the same.
 struct Umzug {

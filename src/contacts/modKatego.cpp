@@ -1,5 +1,6 @@
 #include "modKatego.h"
 
+#include "ComboBox.h"
 #include "Conversions.h"
 #include "Datenbank.h"
 #include "Datensatz.h"
@@ -20,6 +21,8 @@ namespace modKatego {
 namespace {
 
 const QString modul = u"modKatego"_s;
+/// Follows the name of a system category in the grid.
+const QString systemMarke = u" -> Systemkategorie <-"_s;
 
 void zeigeAnzahl(Katego& screen) { screen.lblAnzahl->setText(QString::number(screen.tblKatego->rowCount())); }
 
@@ -33,8 +36,6 @@ QString alsZeile(const QString& name) { return istSystemkategorie(name) ? name +
 
 } // namespace
 
-const QString systemMarke = u" -> Systemkategorie <-"_s;
-
 bool istSystemkategorie(const QString& name) {
     return name == u"Mitglieder (aktiv)"_s || name == u"Mitglieder (passiv)"_s;
 }
@@ -45,6 +46,17 @@ void loadTblKatego() {
                      const QString name = modRun::textOderLeer(katego.Fields(u"kategorie"_s));
                      return std::vector<Value>{katego.Collect(u"kategonr"_s), alsZeile(name)};
                  });
+}
+
+void FuelleKategoCombo(ComboBox* combo) {
+    const DataTable* grid = the<Katego>().tblKatego;
+    if (combo->count() == grid->rowCount()) return;
+    combo->clear();
+    for (int row = 0; row < grid->rowCount(); ++row) {
+        const QString text = grid->cellText(row, 1);
+        const QString name = QString(text).remove(systemMarke);
+        combo->AddItem(text == alsZeile(name) ? name : text);
+    }
 }
 
 void loadKatego(int row) {

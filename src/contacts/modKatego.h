@@ -2,16 +2,19 @@
 
 #include <QString>
 
+class ComboBox;
+
 /// Categories of contacts. Each write also updates the categories in the contact overview.
 namespace modKatego {
 
-/// Follows the name of a system category in the grid. Such a category can be neither changed nor deleted.
-extern const QString systemMarke;
-/// True for the names of the two categories that make a contact a member.
+/// True for the names of the two categories that make a contact a member. They can be neither changed nor
+/// deleted.
 bool istSystemkategorie(const QString& name);
 
 /// Fills the grid. Call once at the start.
 void loadTblKatego();
+/// Fills a list with the categories of the grid, unless it has as many already.
+void FuelleKategoCombo(ComboBox* combo);
 /// Shows the category of a row for editing. Refuses a system category with a message box.
 void loadKatego(int row);
 void SpeicherKatego();

@@ -1,23 +1,25 @@
 #include "modKontakt.h"
 
 #include "Conversions.h"
-#include "Datenbank.h"
+#include "DataTable.h"
+#include "Datensatz.h"
 #include "Eingaben.h"
 #include "ErrorTail.h"
-#include "Katego.h"
+#include "Feldwerte.h"
 #include "Kontakt.h"
-#include "KontaktFelder.h"
-#include "Meldungen.h"
-#include "Recordset.h"
+#include "Namen.h"
 #include "Screens.h"
+#include "Uebersicht.h"
 #include "Zugriff.h"
 #include "modKatego.h"
 
 #include <QScopeGuard>
+#include <array>
 
 using namespace Qt::StringLiterals;
 
-// Fills and empties the screen of a contact. Writing is in modKontaktSpeichern.cpp.
+// Writes contacts to the tables `Kontakt` and `Mitglied`, and shows them. The overview is never loaded again,
+// so its cells are updated one by one.
 
 namespace modKontakt {
 
@@ -25,34 +27,85 @@ namespace {
 
 const QString modul = u"modKontakt"_s;
 
-} // namespace
+/// A field of a table and its control.
+struct Feld {
+    QString name;
+    std::function<Value()> eingabe;
+    std::function<void(const Recordset::Field&)> zeige;
+};
 
-bool KontaktZugriff_Erlaubt() { return zugriffErlaubt(modul, u"KontaktZugriff_Erlaubt"_s, u"Kontakt"_s); }
-
-void FuelleKategoCombo(ComboBox* combo) {
-    const DataTable* grid = the<Katego>().tblKatego;
-    if (combo->count() == grid->rowCount()) return;
-    combo->clear();
-    for (int row = 0; row < grid->rowCount(); ++row) {
-        QString name = grid->cellText(row, 1);
-        const QString ohneMarke = name.chopped(qMin(name.size(), modKatego::systemMarke.size()));
-        if (modKatego::istSystemkategorie(ohneMarke) && name.endsWith(modKatego::systemMarke))
-            name = ohneMarke;
-        combo->AddItem(name);
-    }
+Feld text(const QString& name, TextBox* box) {
+    return {name, [=] { return box->text(); },
+            [=](const Recordset::Field& feld) { box->setText(modRun::textOderLeer(feld)); }};
 }
 
-namespace {
+Feld datum(const QString& name, TextBox* box) {
+    return {name, [=] { return modRun::DatumAusText(box); },
+            [=](const Recordset::Field& feld) { box->setText(modRun::TextAusDatum(feld)); }};
+}
 
-void zeigeMitgliedZu(ErrorTail& step, qint32 knr, Kontakt& screen) {
+Feld haken(const QString& name, QCheckBox* box) {
+    return {name, [=] { return box->isChecked(); },
+            [=](const Recordset::Field& feld) { box->setChecked(feld.Value() == Value(true)); }};
+}
+
+Feld wahl(const QString& name, QRadioButton* ja, QRadioButton* nein) {
+    return {
+        name, [=] { return ja->isChecked(); },
+        [=](const Recordset::Field& feld) { (feld.Value() == Value(true) ? ja : nein)->setChecked(true); }};
+}
+
+Feld notiz(const QString& name, MemoBox* box) {
+    return {name, [=] { return box->Text(); },
+            [=](const Recordset::Field& feld) { box->setText(modRun::textOderLeer(feld)); }};
+}
+
+/// The fields of a contact, except for number and category.
+std::vector<Feld> kontaktfelder(const Kontakt& screen) {
+    return {text(u"Anrede"_s, screen.txtAnrede),    text(u"Nachname"_s, screen.txtNName),
+            text(u"Vorname"_s, screen.txtVName),    text(u"Strasse"_s, screen.txtStrasse),
+            text(u"PLZ"_s, screen.txtPLZ),          text(u"Ort"_s, screen.txtOrt),
+            text(u"Tel1"_s, screen.txtTelPriv),     text(u"Tel2"_s, screen.txtTelGesch),
+            text(u"Mobil"_s, screen.txtMobil),      text(u"Fax"_s, screen.txtFax),
+            text(u"EMail"_s, screen.txtEMail),      text(u"Firma"_s, screen.txtFirma),
+            datum(u"GebDatum"_s, screen.txtGebDat), haken(u"Bankeinzug"_s, screen.chkEinzug),
+            text(u"BLZ"_s, screen.txtBLZ),          text(u"KreditInstitut"_s, screen.txtKInst),
+            text(u"KontoNr"_s, screen.txtKontoNr),  notiz(u"Notiz"_s, screen.txtNotiz)};
+}
+
+std::vector<Feld> mitgliedsfelder(const Kontakt& screen) {
+    return {wahl(u"Geschlecht"_s, screen.optMann, screen.optFrau),
+            wahl(u"Befreit"_s, screen.optBefreit, screen.optNBefreit),
+            wahl(u"Bezahlt"_s, screen.optBezahlt, screen.optNBezahlt),
+            datum(u"Eintritt"_s, screen.txtEintritt),
+            datum(u"Austritt"_s, screen.txtAustritt),
+            haken(u"JG"_s, screen.chkJG)};
+}
+
+void schreibe(ErrorTail& step, Recordset& satz, const std::vector<Feld>& felder) {
+    for (const Feld& feld : felder) step([&] { satz.Collect(feld.name, feld.eingabe()); });
+}
+
+void zeige(ErrorTail& step, const Recordset& satz, const std::vector<Feld>& felder) {
+    for (const Feld& feld : felder) step([&] { feld.zeige(satz.Fields(feld.name)); });
+}
+
+/// True if the chosen category makes the contact a member.
+bool istMitglied(const Kontakt& screen) {
+    return modKatego::istSystemkategorie(screen.cboKatego->currentText());
+}
+
+void zeigeMitgliedZu(ErrorTail& step, qint32 knr, const Kontakt& screen) {
     Recordset mitglied;
     step([&] { mitglied = oeffneAbfrage(u"SELECT * FROM Mitglied WHERE KNr = "_s + QString::number(knr)); });
     if (step.test([&] { return mitglied.RecordCount() == 1; }))
-        KontaktFelder::zeigeMitglied(step, mitglied, screen);
+        zeige(step, mitglied, mitgliedsfelder(screen));
     step([&] { mitglied.Close(); });
 }
 
 } // namespace
+
+bool KontaktZugriff_Erlaubt() { return zugriffErlaubt(modul, u"KontaktZugriff_Erlaubt"_s, u"Kontakt"_s); }
 
 void loadKontakt(DataTable* grid, int row) {
     // A fifth error may leave the screen filled and hidden. "Neuer Kontakt" would then show it.
@@ -65,8 +118,12 @@ void loadKontakt(DataTable* grid, int row) {
             [&] { kontakt = oeffneAbfrage(u"SELECT * FROM Kontakt WHERE KNr = "_s + QString::number(knr)); });
         if (step.test([&] { return kontakt.RecordCount() == 1; })) {
             Kontakt& screen = the<Kontakt>();
-            KontaktFelder::zeigeKontakt(step, kontakt, screen);
-            if (KontaktFelder::istMitglied(screen)) zeigeMitgliedZu(step, knr, screen);
+            step([&] { screen.lblKNr->setText(CStr(kontakt.Collect(u"knr"_s))); });
+            // Setting the category also enables or disables the fields of a member.
+            step(
+                [&] { screen.cboKatego->setText(ErmittleKategoName(CLng(kontakt.Collect(u"kategonr"_s)))); });
+            zeige(step, kontakt, kontaktfelder(screen));
+            if (istMitglied(screen)) zeigeMitgliedZu(step, knr, screen);
             // Closed before the screen is shown: the file must not wait for the user.
             step([&] { kontakt.Close(); });
             screen.ShowModal();
@@ -77,23 +134,13 @@ void loadKontakt(DataTable* grid, int row) {
     });
 }
 
-void SetzeKontaktToolbar(int enabled) {
-    if (enabled != 0 && enabled != 1) return;
-    // A screen closed in the meantime has nothing to enable: the next one has all its buttons.
-    if (enabled == 1 && !isLoaded<Kontakt>()) return;
-    for (const QString& key : {u"tbSpeichern"_s, u"tbLoeschen"_s, u"tbAnzLoeschen"_s})
-        the<Kontakt>().Toolbar1->setKeyEnabled(key, enabled == 1);
-    if (enabled == 0) the<Kontakt>().sperre();
-}
-
 void SetzeMitglFelder() {
     Kontakt& screen = the<Kontakt>();
     if (screen.istGesperrt()) return;
-    const bool mitglied = KontaktFelder::istMitglied(screen);
-    for (QWidget* control : std::initializer_list<QWidget*>{
-             screen.optMann, screen.optFrau, screen.optBefreit, screen.optNBefreit, screen.optBezahlt,
-             screen.optNBezahlt, screen.txtEintritt, screen.txtAustritt, screen.chkJG})
-        control->setEnabled(mitglied);
+    const bool mitglied = istMitglied(screen);
+    for (auto* option : screen.TabKont->findChildren<QRadioButton*>()) option->setEnabled(mitglied);
+    for (QWidget* control : {screen.txtEintritt, screen.txtAustritt}) control->setEnabled(mitglied);
+    screen.chkJG->setEnabled(mitglied);
 }
 
 bool EingabeKontaktOK() {
@@ -105,17 +152,167 @@ void KontaktAnzeigeLoeschen() {
     Kontakt& screen = the<Kontakt>();
     screen.lblKNr->setText(QString());
     screen.cboKatego->setListIndex(-1);
-    for (TextBox* box : {screen.txtAnrede, screen.txtNName, screen.txtVName, screen.txtStrasse, screen.txtPLZ,
-                         screen.txtOrt, screen.txtTelPriv, screen.txtTelGesch, screen.txtMobil, screen.txtFax,
-                         screen.txtEMail, screen.txtFirma, screen.txtGebDat, screen.txtBLZ, screen.txtKInst,
-                         screen.txtKontoNr, screen.txtEintritt, screen.txtAustritt})
-        box->setText(QString());
+    for (auto* box : screen.TabKont->findChildren<TextBox*>()) box->setText(QString());
     for (QRadioButton* option : {screen.optMann, screen.optNBefreit, screen.optNBezahlt})
         option->setChecked(true);
     screen.chkEinzug->setChecked(false);
     screen.txtNotiz->setText(QString());
     screen.TabKont->setCurrentIndex(0);
     screen.cboKatego->setFocus();
+}
+
+namespace {
+
+/// Sets the category and the fields of the screen, in the order in which they are written.
+void fuelleKontakt(ErrorTail& step, Recordset& kontakt, const Kontakt& screen, qint32 kategonr) {
+    step([&] { kontakt.Collect(u"kategonr"_s, kategonr); });
+    schreibe(step, kontakt, kontaktfelder(screen));
+}
+
+void fuelleMitglied(ErrorTail& step, Recordset& mitglied, const Value& knr, const Kontakt& screen) {
+    step([&] { mitglied.Collect(u"knr"_s, knr); });
+    schreibe(step, mitglied, mitgliedsfelder(screen));
+}
+
+/// The number that the screen shows; 0, after a message box, if it shows none.
+qint32 nummerDerMaske(ErrorTail& step, const Kontakt& screen) {
+    qint32 knr = 0;
+    step([&] { knr = CLng(screen.lblKNr->text()); });
+    return knr;
+}
+
+/// Writes the member's row from the screen. Adds the row if it is missing.
+bool schreibeMitglied(ErrorTail& step, Recordset& mitglied, qint32 knr, const Kontakt& screen) {
+    if (Datensatz::finde(step, mitglied, knr)) {
+        step([&] { mitglied.Edit(); });
+        schreibe(step, mitglied, mitgliedsfelder(screen));
+    } else {
+        step([&] { mitglied.AddNew(); });
+        fuelleMitglied(step, mitglied, knr, screen);
+    }
+    return step([&] { mitglied.Update(); });
+}
+
+/// Deletes the member's row. Runs `fehlt` if there is none.
+bool loescheMitglied(ErrorTail& step, Recordset& mitglied, qint32 knr, void (*fehlt)()) {
+    if (Datensatz::finde(step, mitglied, knr)) return step([&] { mitglied.Delete(); });
+    fehlt();
+    return true;
+}
+
+void duldeFehlen() {}
+
+/// Writes, replaces or deletes the member's row of a changed contact. A contact that leaves a member category
+/// loses its row, even for the other one. For a contact opened from the search the new category alone
+/// decides: a member has a row, any other contact has none.
+bool zieheMitgliedNach(ErrorTail& step, const Uebersicht::Umzug& umzug, const Kontakt& screen) {
+    const bool bleibtMitglied = istMitglied(screen);
+    const bool verlaesst =
+        umzug.ausSuche ? !bleibtMitglied : umzug.wechselt() && modKatego::istSystemkategorie(umzug.alterName);
+    if (!verlaesst && !bleibtMitglied) return true;
+    return Datensatz::schreibe(step, u"Mitglied"_s, [&](Recordset& mitglied) {
+        const auto fehlt = umzug.ausSuche ? &duldeFehlen : &modRun::MeldeNichtVorhanden;
+        if (verlaesst && !loescheMitglied(step, mitglied, umzug.knr, fehlt)) return false;
+        return !bleibtMitglied || schreibeMitglied(step, mitglied, umzug.knr, screen);
+    });
+}
+
+/// The screen's contact as a row of the overview: values as typed, the picture's cell empty.
+std::array<Value, 10> alsZeile(const Kontakt& screen) {
+    return {screen.lblKNr->text(),     QString(),
+            screen.txtFirma->text(),   screen.txtAnrede->text(),
+            screen.txtNName->text(),   screen.txtVName->text(),
+            screen.txtTelPriv->text(), screen.txtFax->text(),
+            screen.txtGebDat->text(),  screen.txtEMail->text()};
+}
+
+/// Changes the contact that the screen shows, and its member's row in the same action. Then updates the
+/// overview.
+void aendere(const QString& routine, bool ausSuche) {
+    withErrorTail(modul, routine, [ausSuche](ErrorTail& step) {
+        const Kontakt& screen = the<Kontakt>();
+        const QString kategorie = screen.cboKatego->currentText();
+        const auto neueNr = ermittleNummer(&ErmittleKategoNr, screen.cboKatego);
+        if (!neueNr) return;
+        Uebersicht::Umzug umzug{.knr = nummerDerMaske(step, screen),
+                                .neueNr = *neueNr,
+                                .neuerName = kategorie,
+                                .ausSuche = ausSuche};
+        const auto felder = [&](Recordset& kontakt) {
+            step([&] { umzug.alteNr = CLng(kontakt.Collect(u"kategonr"_s)); });
+            umzug.alterName = ErmittleKategoName(umzug.alteNr);
+            fuelleKontakt(step, kontakt, screen, umzug.neueNr);
+        };
+        if (Datensatz::aendere(step, u"Kontakt"_s, umzug.knr, felder,
+                               [&](Recordset&) { return zieheMitgliedNach(step, umzug, screen); })) {
+            step([&] { Uebersicht::zeigeGeaenderten(umzug, alsZeile(screen)); });
+            step([&] { Uebersicht::markiere(umzug.neueNr, umzug.knr); });
+        }
+        unload<Kontakt>();
+    });
+}
+
+} // namespace
+
+void SpeicherKontakt() {
+    withErrorTail(modul, u"SpeicherKontakt"_s, [](ErrorTail& step) {
+        const Kontakt& screen = the<Kontakt>();
+        const auto kategonr = ermittleNummer(&ErmittleKategoNr, screen.cboKatego);
+        if (!kategonr) return;
+        std::vector<Value> zeile;
+        const auto danach = [&](Recordset& kontakt) {
+            Datensatz::lies(step, zeile, Uebersicht::felder)(kontakt);
+            return !istMitglied(screen) ||
+                   Datensatz::speichere(
+                       step, u"Mitglied"_s,
+                       [&](Recordset& mitglied) { fuelleMitglied(step, mitglied, zeile[0], screen); }, {});
+        };
+        if (Datensatz::speichere(
+                step, u"Kontakt"_s,
+                [&](Recordset& kontakt) { fuelleKontakt(step, kontakt, screen, *kategonr); }, danach)) {
+            // The picture's cell.
+            zeile.insert(zeile.begin() + 1, u" "_s);
+            step([&] { Uebersicht::zeigeNeuen(*kategonr, screen.cboKatego->currentText(), zeile); });
+            step([&] { Uebersicht::markiere(*kategonr, CLng(zeile[0])); });
+        }
+        KontaktAnzeigeLoeschen();
+    });
+}
+
+void UpdateKontakt() { aendere(u"UpdateKontakt"_s, false); }
+
+void UpdateSQLKontakt() { aendere(u"UpdateSQLKontakt"_s, true); }
+
+void LoescheKontakt() {
+    withErrorTail(modul, u"LoescheKontakt"_s, [](ErrorTail& step) {
+        const Kontakt& screen = the<Kontakt>();
+        const qint32 knr = nummerDerMaske(step, screen);
+        const qint32 kategonr = ErmittleKategoNr(screen.cboKatego->currentText());
+        const auto danach = [&](Recordset&) {
+            return Datensatz::schreibe(step, u"Mitglied"_s, [&](Recordset& mitglied) {
+                return loescheMitglied(step, mitglied, knr, &duldeFehlen);
+            });
+        };
+        if (Datensatz::loesche(step, u"Kontakt"_s, knr, danach))
+            step([&] { Uebersicht::entferneKontakt(kategonr, screen.cboKatego->currentText(), knr); });
+        unload<Kontakt>();
+    });
+}
+
+void ReinitialisiereJB() {
+    withErrorTail(modul, u"ReinitialisiereJB"_s, [](ErrorTail& step) {
+        Recordset mitglied;
+        step([&] { mitglied = oeffneAbfrage(u"SELECT * FROM Mitglied"_s); });
+        if (step.test([&] { return mitglied.RecordCount() != 0; })) {
+            step([&] { mitglied.MoveFirst(); });
+            step.forEachRow(mitglied, [&] {
+                step([&] { mitglied.Edit(); });
+                step([&] { mitglied.Collect(u"Bezahlt"_s, false); });
+                step([&] { mitglied.Update(); });
+            });
+        }
+        step([&] { mitglied.Close(); });
+    });
 }
 
 } // namespace modKontakt

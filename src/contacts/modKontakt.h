@@ -2,7 +2,6 @@
 
 #include <QString>
 
-class ComboBox;
 class DataTable;
 
 /// Contacts and members.
@@ -11,15 +10,10 @@ namespace modKontakt {
 /// True if the user who is logged in may use the contacts.
 bool KontaktZugriff_Erlaubt();
 
-/// Fills a list with the categories from the grid of the screen Katego, unless it has as many already.
-void FuelleKategoCombo(ComboBox* combo);
-
 // The screen of a contact.
 
 /// Shows the contact whose number is in column 0 of the row. The screen is modal: returns when it is closed.
 void loadKontakt(DataTable* grid, int row);
-/// 0 disables the buttons that write and makes the fields read-only; 1 enables the buttons.
-void SetzeKontaktToolbar(int enabled);
 /// Enables the fields of a member if a member category is chosen, otherwise disables them. Their values stay.
 void SetzeMitglFelder();
 /// True if category, last name and first name are filled. Shows no message box.
@@ -36,8 +30,6 @@ void LoescheKontakt();
 
 // The overview.
 
-void InitTblKUebers();
-void tblKUebersfüllen();
 /// Lists the categories with the counts of their contacts. Call once at the start.
 void FuelleKontaktUebersicht();
 /// Reads the contacts of a category into the child table of its row. Removes the table if there are none.

@@ -7,6 +7,7 @@
 #include "Feldwerte.h"
 #include "Format.h"
 #include "Hourglass.h"
+#include "Kontakt.h"
 #include "MitglList.h"
 #include "MsgBox.h"
 #include "Namen.h"
@@ -198,9 +199,8 @@ void LeereMListAnzeige() {
 }
 
 void zeigeKontakt(int row) {
-    modKontakt::SetzeKontaktToolbar(0);
+    the<Kontakt>().sperre();
     modKontakt::loadKontakt(the<MitglList>().tblMList, row);
-    modKontakt::SetzeKontaktToolbar(1);
 }
 
 void mnuMitglInfo_Click() { zeigeKontakt(the<MitglList>().gridRow()); }
