@@ -19,12 +19,12 @@ Kontakt::Kontakt()
     QVBoxLayout* column = Layout::column(this);
     column->addWidget(Toolbar1);
     column->addWidget(TabKont, 1);
-    on(cboKatego, &ComboBox::Click, [] { modKontakt::SetzeMitglFelder(); });
+    on(cboKatego, &ComboBox::Click, [this] { SetzeMitglFelder(); });
 }
 
 Toolbar* Kontakt::buildToolbar() {
     return Layout::recordToolbar(
-        this, [this] { Speichern(); }, [this] { Loeschen(); }, &modKontakt::KontaktAnzeigeLoeschen);
+        this, [this] { Speichern(); }, [this] { Loeschen(); }, [this] { KontaktAnzeigeLoeschen(); });
 }
 
 void Kontakt::setUpFields() {
@@ -100,7 +100,7 @@ QGridLayout* Kontakt::pageOfOne(const QString& caption, QGroupBox* frame) {
 void Kontakt::Form_Load() {
     TabKont->setCurrentIndex(0);
     modKatego::FuelleKategoCombo(cboKatego);
-    modKontakt::SetzeMitglFelder();
+    SetzeMitglFelder();
     cboKatego->setFocus();
 }
 
@@ -121,16 +121,37 @@ void Kontakt::sperre() {
     for (QCheckBox* box : TabKont->findChildren<QCheckBox*>()) box->setEnabled(false);
 }
 
+bool Kontakt::istMitglied() const { return modKatego::istSystemkategorie(cboKatego->currentText()); }
+
+void Kontakt::SetzeMitglFelder() {
+    if (m_gesperrt) return;
+    for (auto* option : TabKont->findChildren<QRadioButton*>()) option->setEnabled(istMitglied());
+    for (TextBox* day : {txtEintritt, txtAustritt}) day->setEnabled(istMitglied());
+    chkJG->setEnabled(istMitglied());
+}
+
+void Kontakt::KontaktAnzeigeLoeschen() {
+    lblKNr->setText(QString());
+    cboKatego->setListIndex(-1);
+    for (auto* box : TabKont->findChildren<TextBox*>()) box->setText(QString());
+    for (QRadioButton* first : {optMann, optNBefreit, optNBezahlt}) first->setChecked(true);
+    chkEinzug->setChecked(false);
+    txtNotiz->setText(QString());
+    TabKont->setCurrentIndex(0);
+    cboKatego->setFocus();
+}
+
 void Kontakt::Speichern() {
+    QWidget* const leer = modRun::erstesLeere({cboKatego, txtNName, txtVName});
     if (isEditing()) {
         // An incomplete contact stays, without a message box. The next press adds it as a new one.
-        if (!modKontakt::EingabeKontaktOK()) return;
+        if (leer) return;
         AusSuche ? modKontakt::UpdateSQLKontakt() : modKontakt::UpdateKontakt();
-    } else if (modKontakt::EingabeKontaktOK()) {
+    } else if (!leer) {
         modKontakt::SpeicherKontakt();
     } else {
         TabKont->setCurrentIndex(0);
-        modRun::MeldeEingabeFehler(modRun::erstesLeere({cboKatego, txtNName, txtVName}));
+        modRun::MeldeEingabeFehler(leer);
     }
 }
 

@@ -25,7 +25,10 @@ public:
 
     /// Disables the buttons that write and makes the fields read-only, until the screen is closed.
     void sperre();
-    bool istGesperrt() const { return m_gesperrt; }
+    /// True if the chosen category makes the contact a member.
+    bool istMitglied() const;
+    /// Empties the screen, except for the tick of the youth group.
+    void KontaktAnzeigeLoeschen();
 
     /// True if opened from the search. The contact's row in the overview's grid is then unknown.
     bool AusSuche = false;
@@ -100,6 +103,9 @@ private:
     void layOutGlobal();
     void layOutPages();
     QGridLayout* pageOfOne(const QString& caption, QGroupBox* frame);
+    /// Enables the fields of a member if a member category is chosen, otherwise disables them. Their values
+    /// stay.
+    void SetzeMitglFelder();
     void Speichern();
     void Loeschen();
 

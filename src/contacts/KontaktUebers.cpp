@@ -26,23 +26,22 @@ void bieteAlleKategorien(ComboBox* combo) {
 }
 
 /// Shows the contact of a row modally. Its record is open on that screen and on the overview below it.
-void oeffneMaske(DataTable* grid, int row, bool ausSuche) {
-    const QString nummer = grid->cellText(row, 0);
-    Kontakt& maske = the<Kontakt>();
-    for (Screen* offen : std::initializer_list<Screen*>{&the<KontaktUebers>(), &maske})
-        offen->openRecord(nummer, row);
-    maske.AusSuche = ausSuche;
-    modKontakt::loadKontakt(grid, row);
-}
-
-void oeffneTreffer(SuchKont& suche, int row) {
+/// Returns false, after a message box, if the user may not use the contacts.
+bool oeffneMaske(DataTable* grid, int row, bool ausSuche) {
     if (!modKontakt::KontaktZugriff_Erlaubt()) {
         modRun::MeldeKeinZugriff();
-        return;
+        return false;
     }
-    // The hit stays open until a press in a toolbar: meanwhile the search leaves the focus on its grid.
-    oeffneMaske(suche.tblSuch, row, true);
+    Kontakt& maske = the<Kontakt>();
+    the<KontaktUebers>().openRecord(grid->cellText(row, 0), row);
+    maske.openRecord(grid->cellText(row, 0), row);
+    maske.AusSuche = ausSuche;
+    modKontakt::loadKontakt(grid, row);
+    return true;
 }
+
+// The hit stays open until a press in a toolbar: meanwhile the search leaves the focus on its grid.
+void oeffneTreffer(SuchKont& suche, int row) { oeffneMaske(suche.tblSuch, row, true); }
 
 } // namespace
 
@@ -132,11 +131,5 @@ void KontaktUebers::klappe(int row) {
 }
 
 void KontaktUebers::tblKUebers_OnGridCellOpen(int row, int column) {
-    if (row < 0 || column < 0) return;
-    if (!modKontakt::KontaktZugriff_Erlaubt()) {
-        modRun::MeldeKeinZugriff();
-        return;
-    }
-    oeffneMaske(tblKUebers, row, false);
-    Screens::giveUpRecords();
+    if (row >= 0 && column >= 0 && oeffneMaske(tblKUebers, row, false)) Screens::giveUpRecords();
 }

@@ -3,7 +3,6 @@
 #include "Conversions.h"
 #include "DataTable.h"
 #include "Datensatz.h"
-#include "Eingaben.h"
 #include "ErrorTail.h"
 #include "Feldwerte.h"
 #include "Kontakt.h"
@@ -90,11 +89,6 @@ void zeige(ErrorTail& step, const Recordset& satz, const std::vector<Feld>& feld
     for (const Feld& feld : felder) step([&] { feld.zeige(satz.Fields(feld.name)); });
 }
 
-/// True if the chosen category makes the contact a member.
-bool istMitglied(const Kontakt& screen) {
-    return modKatego::istSystemkategorie(screen.cboKatego->currentText());
-}
-
 void zeigeMitgliedZu(ErrorTail& step, qint32 knr, const Kontakt& screen) {
     Recordset mitglied;
     step([&] { mitglied = oeffneAbfrage(u"SELECT * FROM Mitglied WHERE KNr = "_s + QString::number(knr)); });
@@ -123,7 +117,7 @@ void loadKontakt(DataTable* grid, int row) {
             step(
                 [&] { screen.cboKatego->setText(ErmittleKategoName(CLng(kontakt.Collect(u"kategonr"_s)))); });
             zeige(step, kontakt, kontaktfelder(screen));
-            if (istMitglied(screen)) zeigeMitgliedZu(step, knr, screen);
+            if (screen.istMitglied()) zeigeMitgliedZu(step, knr, screen);
             // Closed before the screen is shown: the file must not wait for the user.
             step([&] { kontakt.Close(); });
             screen.ShowModal();
@@ -132,33 +126,6 @@ void loadKontakt(DataTable* grid, int row) {
             step([&] { kontakt.Close(); });
         }
     });
-}
-
-void SetzeMitglFelder() {
-    Kontakt& screen = the<Kontakt>();
-    if (screen.istGesperrt()) return;
-    const bool mitglied = istMitglied(screen);
-    for (auto* option : screen.TabKont->findChildren<QRadioButton*>()) option->setEnabled(mitglied);
-    for (QWidget* control : {screen.txtEintritt, screen.txtAustritt}) control->setEnabled(mitglied);
-    screen.chkJG->setEnabled(mitglied);
-}
-
-bool EingabeKontaktOK() {
-    const Kontakt& screen = the<Kontakt>();
-    return !modRun::erstesLeere({screen.cboKatego, screen.txtNName, screen.txtVName});
-}
-
-void KontaktAnzeigeLoeschen() {
-    Kontakt& screen = the<Kontakt>();
-    screen.lblKNr->setText(QString());
-    screen.cboKatego->setListIndex(-1);
-    for (auto* box : screen.TabKont->findChildren<TextBox*>()) box->setText(QString());
-    for (QRadioButton* option : {screen.optMann, screen.optNBefreit, screen.optNBezahlt})
-        option->setChecked(true);
-    screen.chkEinzug->setChecked(false);
-    screen.txtNotiz->setText(QString());
-    screen.TabKont->setCurrentIndex(0);
-    screen.cboKatego->setFocus();
 }
 
 namespace {
@@ -206,7 +173,7 @@ void duldeFehlen() {}
 /// loses its row, even for the other one. For a contact opened from the search the new category alone
 /// decides: a member has a row, any other contact has none.
 bool zieheMitgliedNach(ErrorTail& step, const Uebersicht::Umzug& umzug, const Kontakt& screen) {
-    const bool bleibtMitglied = istMitglied(screen);
+    const bool bleibtMitglied = screen.istMitglied();
     const bool verlaesst =
         umzug.ausSuche ? !bleibtMitglied : umzug.wechselt() && modKatego::istSystemkategorie(umzug.alterName);
     if (!verlaesst && !bleibtMitglied) return true;
@@ -256,13 +223,13 @@ void aendere(const QString& routine, bool ausSuche) {
 
 void SpeicherKontakt() {
     withErrorTail(modul, u"SpeicherKontakt"_s, [](ErrorTail& step) {
-        const Kontakt& screen = the<Kontakt>();
+        Kontakt& screen = the<Kontakt>();
         const auto kategonr = ermittleNummer(&ErmittleKategoNr, screen.cboKatego);
         if (!kategonr) return;
         std::vector<Value> zeile;
         const auto danach = [&](Recordset& kontakt) {
             Datensatz::lies(step, zeile, Uebersicht::felder)(kontakt);
-            return !istMitglied(screen) ||
+            return !screen.istMitglied() ||
                    Datensatz::speichere(
                        step, u"Mitglied"_s,
                        [&](Recordset& mitglied) { fuelleMitglied(step, mitglied, zeile[0], screen); }, {});
@@ -275,7 +242,7 @@ void SpeicherKontakt() {
             step([&] { Uebersicht::zeigeNeuen(*kategonr, screen.cboKatego->currentText(), zeile); });
             step([&] { Uebersicht::markiere(*kategonr, CLng(zeile[0])); });
         }
-        KontaktAnzeigeLoeschen();
+        screen.KontaktAnzeigeLoeschen();
     });
 }
 

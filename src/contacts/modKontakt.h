@@ -14,13 +14,7 @@ bool KontaktZugriff_Erlaubt();
 
 /// Shows the contact whose number is in column 0 of the row. The screen is modal: returns when it is closed.
 void loadKontakt(DataTable* grid, int row);
-/// Enables the fields of a member if a member category is chosen, otherwise disables them. Their values stay.
-void SetzeMitglFelder();
-/// True if category, last name and first name are filled. Shows no message box.
-bool EingabeKontaktOK();
-/// Empties the screen, except for the tick of the youth group.
-void KontaktAnzeigeLoeschen();
-
+/// Adds the screen's contact and empties the screen.
 void SpeicherKontakt();
 /// Writes the screen over the contact that it shows.
 void UpdateKontakt();

@@ -12,7 +12,6 @@
 #include "SeqData.h"
 #include "Session.h"
 #include "WordProcessor.h"
-#include "modKontakt.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -44,18 +43,14 @@ QString datenabfrage(qint32 kategorie) {
 
 QString anzahlabfrage(qint32 kategorie) { return u"SELECT COUNT(k.KNr)"_s + herkunft(kategorie); }
 
-QString leermeldung(qint32 kategorie) {
-    if (kategorie == aktiv)
-        return u"ACHTUNG: Kategorie - Mitglieder (aktiv) - enthält noch keine Mitgliederdaten !"_s;
-    if (kategorie == passiv)
-        return u"ACHTUNG: Kategorie - Mitglieder (passiv) - enthält noch keine Mitgliederdaten !"_s;
-    return u"ACHTUNG: Kontakt - Kategorie - "_s + ErmittleKategoName(kategorie) +
-           u" - enthält noch keine Kontaktdaten !"_s;
-}
-
 void meldeLeereKategorie(qint32 kategorie) {
-    MsgBox(leermeldung(kategorie) +
-               u"\n\rKategorie wird daher bei der Erzeugung der Serienbriefdatei übergangen !"_s,
+    const QString leer =
+        istMitglied(kategorie)
+            ? u"ACHTUNG: Kategorie - Mitglieder (%1) - enthält noch keine Mitgliederdaten !"_s.arg(
+                  kategorie == aktiv ? u"aktiv"_s : u"passiv"_s)
+            : u"ACHTUNG: Kontakt - Kategorie - "_s + ErmittleKategoName(kategorie) +
+                  u" - enthält noch keine Kontaktdaten !"_s;
+    MsgBox(leer + u"\n\rKategorie wird daher bei der Erzeugung der Serienbriefdatei übergangen !"_s,
            vbInformation);
 }
 
@@ -81,14 +76,13 @@ void schreibeKontakte(CsvDatei& datei, Recordset& kontakte, bool mitglieder) {
     }
 }
 
-bool hatGezaehlt(const Value& anzahl) { return !anzahl.isNull() && CLng(anzahl) != 0; }
-
 void schreibeKategorie(CsvDatei& datei, DataTable& uebersicht, int zeile) {
     const qint32 kategorie = CLng(uebersicht.cell(zeile, 0));
     Recordset kontakte = oeffneAbfrage(datenabfrage(kategorie));
     Recordset zaehlung = oeffneAbfrage(anzahlabfrage(kategorie));
     if (zaehlung.RecordCount() != 1) return;
-    if (hatGezaehlt(zaehlung.Collect(u"Expr1000"_s)))
+    const Value anzahl = zaehlung.Collect(u"Expr1000"_s);
+    if (!anzahl.isNull() && CLng(anzahl) != 0)
         schreibeKontakte(datei, kontakte, istMitglied(kategorie));
     else
         meldeLeereKategorie(kategorie);
@@ -103,52 +97,17 @@ void schreibeDatei(DataTable& uebersicht) {
     datei.close();
 }
 
-void meldeKeinWord() { MsgBox(u"Es ist kein Word verfügbar !"_s, vbInformation); }
-
-/// Null, after a message box, if there is no word processor.
-std::unique_ptr<WordProcessor> erreicheWord() {
-    try {
-        return runningOrNew<WordProcessor>();
-    } catch (const RuntimeError&) {
-        meldeKeinWord();
-        return nullptr;
-    }
-}
-
-MailMergeSource datenquelle() {
-    return {.name = SeqData::path(programFolder(), u"SERI.txt"_s),
-            .confirmConversions = false,
-            .readOnly = false,
-            .linkToSource = true,
-            .addToRecentFiles = false,
-            .passwordDocument = {},
-            .passwordTemplate = {},
-            .writePasswordDocument = {},
-            .writePasswordTemplate = {},
-            .revert = false,
-            .format = 0,
-            .connection = {},
-            .sqlStatement = {},
-            .sqlStatement1 = {}};
-}
-
 void schreibeAnschrift(WordProcessor& word) {
+    const std::initializer_list<QStringList> zeilen = {
+        {u"Firma"_s}, {u"Anrede"_s, u"Vorname"_s, u"Nachname"_s}, {u"Strasse"_s}, {}, {u"PLZ"_s, u"Ort"_s}};
     word.typeText(u"An"_s);
-    word.typeParagraph();
-    word.insertField(u"Firma"_s);
-    word.typeParagraph();
-    word.insertField(u"Anrede"_s);
-    word.typeText(u" "_s);
-    word.insertField(u"Vorname"_s);
-    word.typeText(u" "_s);
-    word.insertField(u"Nachname"_s);
-    word.typeParagraph();
-    word.insertField(u"Strasse"_s);
-    word.typeParagraph();
-    word.typeParagraph();
-    word.insertField(u"PLZ"_s);
-    word.typeText(u" "_s);
-    word.insertField(u"Ort"_s);
+    for (const QStringList& zeile : zeilen) {
+        word.typeParagraph();
+        for (const QString& feld : zeile) {
+            if (feld != zeile.first()) word.typeText(u" "_s);
+            word.insertField(feld);
+        }
+    }
 }
 
 /// False, after a message box with the reason, if the letter could not be stored.
@@ -169,7 +128,9 @@ bool vollende(WordProcessor& word, const QString& datendatei) {
 
 void beginneBrief(WordProcessor& word) {
     constexpr int formLetters = 0;
-    const MailMergeSource quelle = datenquelle();
+    MailMergeSource quelle;
+    quelle.name = SeqData::path(programFolder(), u"SERI.txt"_s);
+    quelle.linkToSource = true;
     word.setVisible(true);
     word.addDocument();
     word.setMainDocumentType(formLetters);
@@ -200,13 +161,11 @@ void ErzeugeSeriendatei() {
 }
 
 void StarteWordSerienbrief() {
-    const std::unique_ptr<WordProcessor> word = erreicheWord();
-    if (!word) return;
     try {
-        beginneBrief(*word);
+        beginneBrief(*runningOrNew<WordProcessor>());
     } catch (const RuntimeError&) {
         // A missing word processor may show only at its first command.
-        meldeKeinWord();
+        MsgBox(u"Es ist kein Word verfügbar !"_s, vbInformation);
     }
 }
 
