@@ -44,62 +44,51 @@ Toolbar* MitglList::buildToolbar() {
 }
 
 void MitglList::layOutFilters() {
-    // On the left a date filter takes four columns, each answer of the filters below it two. On the right
-    // each answer takes one column.
-    QGridLayout* screen = Layout::form(Frame6);
-    screen->setVerticalSpacing(4);
+    m_filters->setVerticalSpacing(4);
     constexpr int right = 6;
-    const auto addLeft = [&](int row, QCheckBox* box, QRadioButton* answer, QRadioButton* other) {
-        setUpAnswers(box, answer, other);
-        screen->addWidget(box, row, 0);
-        screen->addWidget(answer, row, 1, 1, 2);
-        screen->addWidget(other, row, 3, 1, 2);
-    };
-    const auto addRight = [&](int row, QCheckBox* box, QRadioButton* answer, QRadioButton* other) {
-        setUpAnswers(box, answer, other);
-        screen->addWidget(box, row, right);
-        screen->addWidget(answer, row, right + 1);
-        screen->addWidget(other, row, right + 2);
-    };
-    addDates(0, chkGebDat, {cboOptGeb01, txtGeb01}, {cboOptGeb02, txtGeb02});
-    addDates(1, chkEintritt, {cboOptTritt01, txtTritt01}, {cboOptTritt02, txtTritt02});
-    addLeft(2, chkGeschl, optMann, optFrau);
-    addLeft(3, chkJBeitrag, optBezahlt, optNBezahlt);
-    addLeft(4, chkStatus, optAktiv, optPassiv);
-    addRight(0, chkBefreit, optBefrJa, optBefrNein);
-    addRight(1, chkAusgMitgl, optAusgJa, optAusgNein);
-    addRight(2, chkJG, optJGJa, optJGNein);
-    addRight(3, chkArbStd, optStdJa, optStdNein);
+    addDates(0, chkGebDat, gebDatum);
+    addDates(1, chkEintritt, eintritt);
+    addAnswers(2, 0, chkGeschl, optMann, optFrau);
+    addAnswers(3, 0, chkJBeitrag, optBezahlt, optNBezahlt);
+    addAnswers(4, 0, chkStatus, optAktiv, optPassiv);
+    addAnswers(0, right, chkBefreit, optBefrJa, optBefrNein);
+    addAnswers(1, right, chkAusgMitgl, optAusgJa, optAusgNein);
+    addAnswers(2, right, chkJG, optJGJa, optJGNein);
+    addAnswers(3, right, chkArbStd, optStdJa, optStdNein);
     optStdNein->setChecked(true);
-    screen->addWidget(Layout::line(Frame6, {chkArbAnz, cboArbJahr}), 4, right, 1, 3);
-    screen->setColumnMinimumWidth(right - 1, 2 * Layout::gap);
-    for (const int column : {2, 4}) screen->setColumnStretch(column, 1);
+    m_filters->addWidget(Layout::line(Frame6, {chkArbAnz, cboArbJahr}), 4, right, 1, 3);
+    m_filters->setColumnMinimumWidth(right - 1, 2 * Layout::gap);
+    for (const int column : {2, 4, right + 2}) m_filters->setColumnStretch(column, 1);
     // Options are lower than lists: without a minimum height the rows would be uneven.
-    for (int row = 0; row < screen->rowCount(); ++row)
-        screen->setRowMinimumHeight(row, cboArbJahr->sizeHint().height());
-    screen->setColumnStretch(right + 2, 1);
+    for (int row = 0; row < m_filters->rowCount(); ++row)
+        m_filters->setRowMinimumHeight(row, cboArbJahr->sizeHint().height());
     Frame6->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
 }
 
-void MitglList::addDates(int row, QCheckBox* box, const Vergleich& first, const Vergleich& second) {
+void MitglList::addDates(int row, QCheckBox* box, const Zeitraum& bounds) {
     const QString filter = box->text().chopped(1);
-    first.richteEin(filter + u", erster Vergleich"_s);
-    second.richteEin(filter + u", zweiter Vergleich"_s);
-    for (TextBox* day : {first.wert, second.wert}) {
-        day->setKeyFilter(&modRun::FilterDatum, Refused::WithTheWhole);
-        day->setHoldsDate();
+    bounds[0].richteEin(filter + u", erster Vergleich"_s);
+    bounds[1].richteEin(filter + u", zweiter Vergleich"_s);
+    QVector<QWidget*> controls;
+    for (const auto& [zeichen, wert] : bounds) {
+        wert->setKeyFilter(&modRun::FilterDatum, Refused::WithTheWhole);
+        wert->setHoldsDate();
+        controls << zeichen << wert;
     }
-    const QVector<QWidget*> controls = {first.zeichen, first.wert, second.zeichen, second.wert};
-    auto* screen = static_cast<QGridLayout*>(Frame6->layout());
-    screen->addWidget(box, row, 0);
+    m_filters->addWidget(box, row, 0);
     for (int column = 0; column < controls.size(); ++column)
-        screen->addWidget(controls[column], row, column + 1);
+        m_filters->addWidget(controls[column], row, column + 1);
     connectFilter(box, controls);
 }
 
-void MitglList::setUpAnswers(QCheckBox* box, QRadioButton* answer, QRadioButton* other) {
+void MitglList::addAnswers(int row, int column, QCheckBox* box, QRadioButton* answer, QRadioButton* other) {
+    // On the left a date filter takes four columns, each answer of the filters below it two. On the right
+    // each answer takes one column.
+    const int span = column == 0 ? 2 : 1;
+    m_filters->addWidget(box, row, column);
     auto* pair = new QButtonGroup(this);
     for (QRadioButton* option : {answer, other}) {
+        m_filters->addWidget(option, row, option == answer ? column + 1 : column + 1 + span, 1, span);
         option->setAccessibleName(box->text() + u' ' + option->text());
         option->setEnabled(false);
         pair->addButton(option);
@@ -182,10 +171,9 @@ bool MitglList::Form_KeyDown(int key, Qt::KeyboardModifiers) {
 
 void MitglList::tbSuch_Click() {
     if (!modMitglList::PruefeMListEingabe()) return;
-    // chkArbAnz is missing: the list of hours is no filter, so it needs the question as well.
-    const auto filter = {chkGebDat,  chkEintritt,  chkGeschl, chkJBeitrag, chkStatus,
-                         chkBefreit, chkAusgMitgl, chkJG,     chkArbStd};
-    if (std::ranges::none_of(filter, &QCheckBox::isChecked) &&
+    // The list of hours is no filter, so it needs the question as well.
+    const auto filtert = [this](const QCheckBox* box) { return box != chkArbAnz && box->isChecked(); };
+    if (std::ranges::none_of(Frame6->findChildren<QCheckBox*>(), filtert) &&
         !modRun::frage(u"ACHTUNG: Wirklich alle Mitglieder aus der Datenbank laden ?"_s))
         return modRun::MeldeAbgebrochen();
     tblMList->clearRows();

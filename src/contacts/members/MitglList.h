@@ -9,6 +9,8 @@
 #include "ValueLabel.h"
 #include "Vergleich.h"
 
+#include <array>
+
 /// Lists members by a free combination of filters, on demand with the hours they owe and have worked. Two
 /// printed lists are made from its grid.
 class MitglList : public Screen {
@@ -66,6 +68,11 @@ public:
         Layout::checkBox(u"chkArbAnz", u"Arb.-Std. - Liste generieren für Arb.- Jahr:", Frame6);
     ComboBox* const cboArbJahr = new ComboBox(u"cboArbJahr", Frame6);
 
+    /// The two bounds of a filter for a date.
+    using Zeitraum = std::array<Vergleich, 2>;
+    const Zeitraum gebDatum = {{{cboOptGeb01, txtGeb01}, {cboOptGeb02, txtGeb02}}};
+    const Zeitraum eintritt = {{{cboOptTritt01, txtTritt01}, {cboOptTritt02, txtTritt02}}};
+
     DataTable* const tblMList = new DataTable(u"tblMList", this);
     QLabel* const lblAnzDS = Layout::label(u"lblAnzDS", u"Gefunden:", this);
     ValueLabel* const lblGefDS = new ValueLabel(u"lblGefDS", this);
@@ -79,11 +86,11 @@ private:
     void setUpHours();
     void setUpGrid();
     QWidget* foot();
-    /// Sets up a filter for a date with its two comparisons, and puts it into the left half of the frame.
-    void addDates(int row, QCheckBox* box, const Vergleich& first, const Vergleich& second);
-    /// Sets up a filter with two answers, of which `answer` is chosen first. Screen readers read the filter's
+    /// Adds a filter for a date to the left half of the frame.
+    void addDates(int row, QCheckBox* box, const Zeitraum& bounds);
+    /// Adds a filter with two answers, of which `answer` is chosen first. Screen readers read the filter's
     /// text before each answer.
-    void setUpAnswers(QCheckBox* box, QRadioButton* answer, QRadioButton* other);
+    void addAnswers(int row, int column, QCheckBox* box, QRadioButton* answer, QRadioButton* other);
     /// Makes the check box enable and disable its controls and empty the grid.
     void connectFilter(QCheckBox* box, const QVector<QWidget*>& controls);
 
@@ -94,5 +101,6 @@ private:
     void tblMList_OnGridCellOpen(int row);
     void tblMList_OnGridCellMenu();
 
+    QGridLayout* const m_filters = Layout::form(Frame6);
     QString m_arbJahr; ///< the year last chosen for the hours
 };

@@ -30,9 +30,40 @@ using Zeile = std::array<Value, 11>;
 
 QString zweiStellen(const Value& number) { return Format(number, u"###0.00"_s); }
 
-Recordset oeffne(const QString& what) {
-    const QString sql = u"SELECT "_s + what + u" FROM Kontakt k, Mitglied m WHERE k.KNr = m.KNr"_s;
-    return oeffneAbfrage(ErstelleFilter(sql));
+QString vergleich(const QString& field, const MitglList::Zeitraum& bounds) {
+    QString clauses;
+    for (const auto& [zeichen, wert] : bounds)
+        clauses += u" AND "_s + field + u' ' + zeichen->currentText() + u' ' +
+                   Format(wert->text(), u"\\#m\\/d\\/yyyy\\#"_s);
+    return clauses;
+}
+
+/// Returns the clauses of the ticked filters. A date filter adds both comparisons: if the second date is
+/// empty, the query is invalid and the store refuses it.
+QString ErstelleFilter(const MitglList& screen) {
+    const QString status = screen.optAktiv->isChecked() ? u"Mitglieder (aktiv)"_s : u"Mitglieder (passiv)"_s;
+    const KeptErrorCount kept;
+    const qint32 kategoNr = ErmittleKategoNr(status);
+    QString filter;
+    const auto wahl = [&](const QCheckBox* box, const QString& field, const QRadioButton* yes) {
+        if (box->isChecked()) filter += field + (yes->isChecked() ? u"True"_s : u"False"_s);
+    };
+    if (screen.chkGebDat->isChecked()) filter += vergleich(u"k.GebDatum"_s, screen.gebDatum);
+    if (screen.chkEintritt->isChecked()) filter += vergleich(u"m.Eintritt"_s, screen.eintritt);
+    wahl(screen.chkGeschl, u" AND m.Geschlecht = "_s, screen.optMann);
+    wahl(screen.chkJBeitrag, u" AND m.Bezahlt = "_s, screen.optBezahlt);
+    if (screen.chkStatus->isChecked()) filter += u" AND k.KategoNr = "_s + QString::number(kategoNr);
+    wahl(screen.chkBefreit, u" AND m.Befreit = "_s, screen.optBefrJa);
+    // A member who has not left has the empty date, which is 0.
+    if (screen.chkAusgMitgl->isChecked())
+        filter += screen.optAusgJa->isChecked() ? u" AND m.Austritt <> 0"_s : u" AND m.Austritt = 0"_s;
+    wahl(screen.chkJG, u" AND m.JG = "_s, screen.optJGJa);
+    return filter;
+}
+
+Recordset oeffne(const MitglList& screen, const QString& what) {
+    return oeffneAbfrage(u"SELECT "_s + what + u" FROM Kontakt k, Mitglied m WHERE k.KNr = m.KNr"_s +
+                         ErstelleFilter(screen));
 }
 
 /// The values shared by all rows of a run.
@@ -44,11 +75,6 @@ struct Lauf {
     bool geleistet = screen.optStdJa->isChecked();
     bool rechnet = vergleicht || screen.chkArbAnz->isChecked();
 };
-
-void meldeNichts(MitglList& screen) {
-    screen.lblGefDS->setText(u"0"_s);
-    MsgBox(u"Keine passenden Einträge gefunden !"_s, vbInformation);
-}
 
 void lesePerson(ErrorTail& step, const std::vector<Recordset::Field>& felder, Zeile& zeile) {
     modRun::leseZellen(step, felder, zeile);
@@ -109,11 +135,16 @@ void LadeAuswahl() {
         const auto ruhe = qScopeGuard([&] { screen.pb->hide(); });
         Recordset liste, anzahl;
         step([&] {
-            liste = oeffne(u"k.KNr, k.Nachname, k.Vorname, k.Strasse, k.PLZ, k.Ort, k.Tel1, k.GebDatum"_s);
+            liste = oeffne(screen,
+                           u"k.KNr, k.Nachname, k.Vorname, k.Strasse, k.PLZ, k.Ort, k.Tel1, k.GebDatum"_s);
         });
-        step([&] { anzahl = oeffne(u"COUNT(k.KNr)"_s); });
+        step([&] { anzahl = oeffne(screen, u"COUNT(k.KNr)"_s); });
         const auto wert = [&] { return anzahl.Collect(u"Expr1000"_s); };
-        if (step.test([&] { return wert().isNull() || CLng(wert()) == 0; })) return meldeNichts(screen);
+        if (step.test([&] { return wert().isNull() || CLng(wert()) == 0; })) {
+            screen.lblGefDS->setText(u"0"_s);
+            MsgBox(u"Keine passenden Einträge gefunden !"_s, vbInformation);
+            return;
+        }
         qint32 gefunden = 0;
         step([&] { gefunden = CLng(wert()); });
         screen.lblGefDS->setText(QString::number(gefunden));
@@ -127,71 +158,25 @@ void LadeAuswahl() {
     });
 }
 
-namespace {
-
-QString wahrheit(const QRadioButton* option) {
-    return modRun::WertAusOption(option) ? u"True"_s : u"False"_s;
-}
-
-QString vergleich(const QString& field, const Vergleich& bound) {
-    const QString day = Format(bound.wert->text(), u"\\#m\\/d\\/yyyy\\#"_s);
-    return u" AND "_s + field + u' ' + bound.zeichen->currentText() + u' ' + day;
-}
-
-QWidget* falschesDatum(TextBox* box) { return box->text().isEmpty() || IsDate(box->text()) ? nullptr : box; }
-
-} // namespace
-
-QString ErstelleFilter(const QString& sql) {
-    const MitglList& screen = the<MitglList>();
-    const QString status = screen.optAktiv->isChecked() ? u"Mitglieder (aktiv)"_s : u"Mitglieder (passiv)"_s;
-    const KeptErrorCount kept;
-    const qint32 kategoNr = ErmittleKategoNr(status);
-    QString filter = sql;
-    if (screen.chkGebDat->isChecked())
-        filter += vergleich(u"k.GebDatum"_s, {screen.cboOptGeb01, screen.txtGeb01}) +
-                  vergleich(u"k.GebDatum"_s, {screen.cboOptGeb02, screen.txtGeb02});
-    if (screen.chkEintritt->isChecked())
-        filter += vergleich(u"m.Eintritt"_s, {screen.cboOptTritt01, screen.txtTritt01}) +
-                  vergleich(u"m.Eintritt"_s, {screen.cboOptTritt02, screen.txtTritt02});
-    if (screen.chkGeschl->isChecked()) filter += u" AND m.Geschlecht = "_s + wahrheit(screen.optMann);
-    if (screen.chkJBeitrag->isChecked()) filter += u" AND m.Bezahlt = "_s + wahrheit(screen.optBezahlt);
-    if (screen.chkStatus->isChecked()) filter += u" AND k.KategoNr = "_s + QString::number(kategoNr);
-    if (screen.chkBefreit->isChecked()) filter += u" AND m.Befreit = "_s + wahrheit(screen.optBefrJa);
-    // A member who has not left has the empty date, which is 0.
-    if (screen.chkAusgMitgl->isChecked())
-        filter += screen.optAusgJa->isChecked() ? u" AND m.Austritt <> 0"_s : u" AND m.Austritt = 0"_s;
-    if (screen.chkJG->isChecked()) filter += u" AND m.JG = "_s + wahrheit(screen.optJGJa);
-    return filter;
-}
-
 bool PruefeMListEingabe() {
     const MitglList& screen = the<MitglList>();
-    for (QWidget* falsch : {falschesDatum(screen.txtGeb01), falschesDatum(screen.txtGeb02),
-                            falschesDatum(screen.txtTritt01), falschesDatum(screen.txtTritt02),
-                            erstesFalsche(screen.chkGebDat, {screen.cboOptGeb01, screen.txtGeb01},
-                                          {screen.cboOptGeb02, screen.txtGeb02}),
-                            erstesFalsche(screen.chkEintritt, {screen.cboOptTritt01, screen.txtTritt01},
-                                          {screen.cboOptTritt02, screen.txtTritt02})})
-        if (!modRun::fehlerfrei(falsch)) return false;
-    return true;
+    for (TextBox* day : {screen.txtGeb01, screen.txtGeb02, screen.txtTritt01, screen.txtTritt02})
+        if (!day->text().isEmpty() && !IsDate(day->text())) return modRun::fehlerfrei(day);
+    const auto& [gebAb, gebBis] = screen.gebDatum;
+    const auto& [eintrittAb, eintrittBis] = screen.eintritt;
+    return modRun::fehlerfrei(erstesFalsche(screen.chkGebDat, gebAb, gebBis)) &&
+           modRun::fehlerfrei(erstesFalsche(screen.chkEintritt, eintrittAb, eintrittBis));
 }
 
 void LeereMListAnzeige() {
     MitglList& screen = the<MitglList>();
     // Unticking a check box also disables its controls.
-    for (QCheckBox* box :
-         {screen.chkGebDat, screen.chkEintritt, screen.chkGeschl, screen.chkJBeitrag, screen.chkStatus,
-          screen.chkBefreit, screen.chkAusgMitgl, screen.chkJG, screen.chkArbStd, screen.chkArbAnz})
-        box->setChecked(false);
+    for (auto* box : screen.Frame6->findChildren<QCheckBox*>()) box->setChecked(false);
     for (QRadioButton* option : {screen.optMann, screen.optBezahlt, screen.optAktiv, screen.optBefrJa,
                                  screen.optAusgJa, screen.optJGJa, screen.optStdNein})
         option->setChecked(true);
-    for (const Vergleich& bound :
-         {Vergleich{screen.cboOptGeb01, screen.txtGeb01}, Vergleich{screen.cboOptGeb02, screen.txtGeb02},
-          Vergleich{screen.cboOptTritt01, screen.txtTritt01},
-          Vergleich{screen.cboOptTritt02, screen.txtTritt02}})
-        bound.leere();
+    for (const MitglList::Zeitraum& bounds : {screen.gebDatum, screen.eintritt})
+        for (const Vergleich& bound : bounds) bound.leere();
     screen.tblMList->clearRows();
     screen.lblGefDS->setText(QString());
     screen.txtInfo->setText(QString());

@@ -7,9 +7,6 @@ namespace modMitglList {
 
 /// Runs the query of the ticked filters and fills the grid.
 void LadeAuswahl();
-/// Returns `sql` with the clauses of the ticked filters appended. A date filter appends both comparisons: if
-/// the second date is empty, the query is invalid and the store refuses it.
-QString ErstelleFilter(const QString& sql);
 /// True if the ticked date filters are filled and every date is valid, otherwise shows a message box. A
 /// filter passes with its first comparison alone.
 bool PruefeMListEingabe();
