@@ -113,11 +113,10 @@ void KontaktUebers::tblKUebers_OnGridCellDown(int row, int column) {
     const TableHandle gedrueckt = tblKUebers->enter({});
     KategoOffen.resize(std::size_t(tblKUebers->rowCount()));
     // A press on the row header of a contact opens or closes no category.
-    if (gedrueckt.parentRow >= 0) {
+    if (gedrueckt.parentRow >= 0)
         tblKUebers->enter(gedrueckt);
-        return;
-    }
-    if (column == DataTable::rowHeaderColumn && row >= 0) klappe(row);
+    else if (column == DataTable::rowHeaderColumn && row >= 0)
+        klappe(row);
 }
 
 void KontaktUebers::klappe(int row) {

@@ -7,6 +7,7 @@
 #include "Session.h"
 #include "modKontakt.h"
 
+#include <QScopeGuard>
 #include <algorithm>
 #include <array>
 
@@ -75,31 +76,25 @@ void legeKindAn(int row) {
     grid().setChildColours(row, back, second);
 }
 
-/// Enters the child table of a category, and makes it if there is none. The destructor returns to the
-/// category level.
-class ImKind {
-public:
-    explicit ImKind(int row)
-        : m_grid(kategorien()) {
-        if (!m_grid.hasChild(row)) legeKindAn(row);
-        m_grid.enterChild(row);
-    }
-    ~ImKind() { m_grid.enter({}); }
-    ImKind(const ImKind&) = delete;
-    ImKind& operator=(const ImKind&) = delete;
+/// Enters the child table of a category, and makes it if there is none. The guard returns to the category
+/// level.
+[[nodiscard]] auto betreteKind(int row) {
+    if (!kategorien().hasChild(row)) legeKindAn(row);
+    kategorien().enterChild(row);
+    return qScopeGuard([&grid = grid()] { grid.enter({}); });
+}
 
-    DataTable* operator->() { return &m_grid; }
-
-private:
-    DataTable& m_grid;
-};
+void fuegeKontaktAn(int row, std::span<const Value> zeile) {
+    const auto imKind = betreteKind(row);
+    grid().appendRow(zeile);
+}
 
 /// Gives the row a child table with one empty row, so that it can be opened before the contacts are read.
 void legeKindMitPlatzhalterAn(int row) {
     legeKindAn(row);
     std::array<Value, spalten> leer;
     leer.fill(QString());
-    ImKind(row)->appendRow(leer);
+    fuegeKontaktAn(row, leer);
 }
 
 bool istOffen(int row) { return kategorien().cellText(row, spalteZustand) == u"-"_s; }
@@ -109,9 +104,9 @@ bool istOffen(int row) { return kategorien().cellText(row, spalteZustand) == u"-
 template<typename Tue>
 bool anKontakt(int kategorie, qint32 knr, Tue&& tue) {
     if (kategorie < 0 || !istOffen(kategorie)) return false;
-    ImKind kind(kategorie);
-    const int kontakt = kind->rowOf(QString::number(knr));
-    if (kontakt >= 0) tue(kind, kontakt);
+    const auto imKind = betreteKind(kategorie);
+    const int kontakt = grid().rowOf(QString::number(knr));
+    if (kontakt >= 0) tue(kontakt);
     return kontakt >= 0;
 }
 
@@ -129,7 +124,7 @@ void kommtAn(const Umzug& umzug, std::span<const Value> zeile) {
     const qint32 vorher = anzahl(kategorie);
     if (!umzug.ausSuche && vorher == 0) legeKindAn(kategorie);
     schreibeMarke(kategorie, umzug.neuerName, vorher + 1);
-    if (!umzug.ausSuche || istOffen(kategorie)) ImKind(kategorie)->appendRow(zeile);
+    if (!umzug.ausSuche || istOffen(kategorie)) fuegeKontaktAn(kategorie, zeile);
 }
 
 } // namespace
@@ -139,7 +134,7 @@ void zeigeNeuen(qint32 kategonr, const QString& name, std::span<const Value> zei
     if (row < 0) return;
     const qint32 vorher = anzahl(row);
     if (the<KontaktUebers>().LetzterKlappZustand && vorher >= 1)
-        ImKind(row)->appendRow(zeile);
+        fuegeKontaktAn(row, zeile);
     else
         legeKindMitPlatzhalterAn(row);
     // One space here; schreibeMarke() writes two.
@@ -152,22 +147,22 @@ void zeigeGeaenderten(const Umzug& umzug, std::span<const Value> zeile) {
         kommtAn(umzug, zeile);
         return;
     }
-    anKontakt(findeKategorie(umzug.neueNr), umzug.knr, [&](ImKind& kind, int row) {
+    anKontakt(findeKategorie(umzug.neueNr), umzug.knr, [&](int row) {
         // Number and picture stay.
         for (int column = 2; column < spalten; ++column)
-            kind->setCell(row, column, zeile[std::size_t(column)]);
+            grid().setCell(row, column, zeile[std::size_t(column)]);
     });
 }
 
 void markiere(qint32 kategonr, qint32 knr) {
     const int kategorie = findeKategorie(kategonr);
-    const bool gefunden = anKontakt(kategorie, knr, [](ImKind& kind, int row) { kind->markRow(row); });
+    const bool gefunden = anKontakt(kategorie, knr, [](int row) { grid().markRow(row); });
     if (!gefunden && kategorie >= 0) kategorien().markRow(kategorie);
 }
 
 void entferneKontakt(qint32 kategonr, const QString& name, qint32 knr) {
     const int kategorie = findeKategorie(kategonr);
-    anKontakt(kategorie, knr, [](ImKind& kind, int row) { kind->removeRow(row); });
+    anKontakt(kategorie, knr, [](int row) { grid().removeRow(row); });
     if (kategorie >= 0) schreibeMarke(kategorie, name, anzahl(kategorie) - 1);
 }
 
@@ -219,13 +214,13 @@ void zeigeKontakte(int row, Recordset& kontakte) {
     for (const QString& feld : felder) quellen.push_back(kontakte.Fields(feld));
     std::array<Value, spalten> zeile;
     zeile[1] = programFolder() + u"/Graphics/bmp/Cut.bmp"_s;
-    ImKind kind(row);
-    kind->clearRows();
+    const auto imKind = betreteKind(row);
+    grid().clearRows();
     for (; !kontakte.Eof(); kontakte.MoveNext()) {
         zeile[0] = quellen[0].Value();
         for (std::size_t i = 1; i < quellen.size(); ++i)
             zeile[i + 1] = i + 1 == spalteGeburtstag ? geburtstag(quellen[i]) : quellen[i].Value();
-        kind->appendRow(zeile);
+        grid().appendRow(zeile);
     }
 }
 

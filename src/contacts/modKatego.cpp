@@ -2,15 +2,12 @@
 
 #include "ComboBox.h"
 #include "Conversions.h"
-#include "Datenbank.h"
 #include "Datensatz.h"
 #include "Eingaben.h"
 #include "ErrorTail.h"
 #include "Feldwerte.h"
 #include "Katego.h"
-#include "Meldungen.h"
 #include "MsgBox.h"
-#include "Recordset.h"
 #include "Screens.h"
 #include "Uebersicht.h"
 

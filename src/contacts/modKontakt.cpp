@@ -13,7 +13,6 @@
 #include "modKatego.h"
 
 #include <QScopeGuard>
-#include <array>
 
 using namespace Qt::StringLiterals;
 
@@ -136,11 +135,6 @@ void fuelleKontakt(ErrorTail& step, Recordset& kontakt, const Kontakt& screen, q
     schreibe(step, kontakt, kontaktfelder(screen));
 }
 
-void fuelleMitglied(ErrorTail& step, Recordset& mitglied, const Value& knr, const Kontakt& screen) {
-    step([&] { mitglied.Collect(u"knr"_s, knr); });
-    schreibe(step, mitglied, mitgliedsfelder(screen));
-}
-
 /// The number that the screen shows; 0, after a message box, if it shows none.
 qint32 nummerDerMaske(ErrorTail& step, const Kontakt& screen) {
     qint32 knr = 0;
@@ -150,24 +144,19 @@ qint32 nummerDerMaske(ErrorTail& step, const Kontakt& screen) {
 
 /// Writes the member's row from the screen. Adds the row if it is missing.
 bool schreibeMitglied(ErrorTail& step, Recordset& mitglied, qint32 knr, const Kontakt& screen) {
-    if (Datensatz::finde(step, mitglied, knr)) {
-        step([&] { mitglied.Edit(); });
-        schreibe(step, mitglied, mitgliedsfelder(screen));
-    } else {
-        step([&] { mitglied.AddNew(); });
-        fuelleMitglied(step, mitglied, knr, screen);
-    }
+    const bool neu = !Datensatz::finde(step, mitglied, knr);
+    step([&] { neu ? mitglied.AddNew() : mitglied.Edit(); });
+    if (neu) step([&] { mitglied.Collect(u"knr"_s, knr); });
+    schreibe(step, mitglied, mitgliedsfelder(screen));
     return step([&] { mitglied.Update(); });
 }
 
-/// Deletes the member's row. Runs `fehlt` if there is none.
-bool loescheMitglied(ErrorTail& step, Recordset& mitglied, qint32 knr, void (*fehlt)()) {
+/// Deletes the member's row. If there is none, shows a message box if it is `vermisst`.
+bool loescheMitglied(ErrorTail& step, Recordset& mitglied, qint32 knr, bool vermisst) {
     if (Datensatz::finde(step, mitglied, knr)) return step([&] { mitglied.Delete(); });
-    fehlt();
+    if (vermisst) modRun::MeldeNichtVorhanden();
     return true;
 }
-
-void duldeFehlen() {}
 
 /// Writes, replaces or deletes the member's row of a changed contact. A contact that leaves a member category
 /// loses its row, even for the other one. For a contact opened from the search the new category alone
@@ -178,14 +167,13 @@ bool zieheMitgliedNach(ErrorTail& step, const Uebersicht::Umzug& umzug, const Ko
         umzug.ausSuche ? !bleibtMitglied : umzug.wechselt() && modKatego::istSystemkategorie(umzug.alterName);
     if (!verlaesst && !bleibtMitglied) return true;
     return Datensatz::schreibe(step, u"Mitglied"_s, [&](Recordset& mitglied) {
-        const auto fehlt = umzug.ausSuche ? &duldeFehlen : &modRun::MeldeNichtVorhanden;
-        if (verlaesst && !loescheMitglied(step, mitglied, umzug.knr, fehlt)) return false;
+        if (verlaesst && !loescheMitglied(step, mitglied, umzug.knr, !umzug.ausSuche)) return false;
         return !bleibtMitglied || schreibeMitglied(step, mitglied, umzug.knr, screen);
     });
 }
 
 /// The screen's contact as a row of the overview: values as typed, the picture's cell empty.
-std::array<Value, 10> alsZeile(const Kontakt& screen) {
+std::vector<Value> alsZeile(const Kontakt& screen) {
     return {screen.lblKNr->text(),     QString(),
             screen.txtFirma->text(),   screen.txtAnrede->text(),
             screen.txtNName->text(),   screen.txtVName->text(),
@@ -229,10 +217,11 @@ void SpeicherKontakt() {
         std::vector<Value> zeile;
         const auto danach = [&](Recordset& kontakt) {
             Datensatz::lies(step, zeile, Uebersicht::felder)(kontakt);
-            return !screen.istMitglied() ||
-                   Datensatz::speichere(
-                       step, u"Mitglied"_s,
-                       [&](Recordset& mitglied) { fuelleMitglied(step, mitglied, zeile[0], screen); }, {});
+            const auto mitglied = [&](Recordset& satz) {
+                step([&] { satz.Collect(u"knr"_s, zeile[0]); });
+                schreibe(step, satz, mitgliedsfelder(screen));
+            };
+            return !screen.istMitglied() || Datensatz::speichere(step, u"Mitglied"_s, mitglied, {});
         };
         if (Datensatz::speichere(
                 step, u"Kontakt"_s,
@@ -257,7 +246,7 @@ void LoescheKontakt() {
         const qint32 kategonr = ErmittleKategoNr(screen.cboKatego->currentText());
         const auto danach = [&](Recordset&) {
             return Datensatz::schreibe(step, u"Mitglied"_s, [&](Recordset& mitglied) {
-                return loescheMitglied(step, mitglied, knr, &duldeFehlen);
+                return loescheMitglied(step, mitglied, knr, false);
             });
         };
         if (Datensatz::loesche(step, u"Kontakt"_s, knr, danach))

@@ -14,7 +14,6 @@
 #include "WordProcessor.h"
 
 #include <QDir>
-#include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
@@ -40,8 +39,6 @@ QString datenabfrage(qint32 kategorie) {
            u"k.Tel2, k.Fax, k.Mobil, k.GebDatum, "_s +
            (istMitglied(kategorie) ? u"m.Eintritt, k.EMail"_s : u"k.EMail"_s) + herkunft(kategorie);
 }
-
-QString anzahlabfrage(qint32 kategorie) { return u"SELECT COUNT(k.KNr)"_s + herkunft(kategorie); }
 
 void meldeLeereKategorie(qint32 kategorie) {
     const QString leer =
@@ -79,7 +76,7 @@ void schreibeKontakte(CsvDatei& datei, Recordset& kontakte, bool mitglieder) {
 void schreibeKategorie(CsvDatei& datei, DataTable& uebersicht, int zeile) {
     const qint32 kategorie = CLng(uebersicht.cell(zeile, 0));
     Recordset kontakte = oeffneAbfrage(datenabfrage(kategorie));
-    Recordset zaehlung = oeffneAbfrage(anzahlabfrage(kategorie));
+    Recordset zaehlung = oeffneAbfrage(u"SELECT COUNT(k.KNr)"_s + herkunft(kategorie));
     if (zaehlung.RecordCount() != 1) return;
     const Value anzahl = zaehlung.Collect(u"Expr1000"_s);
     if (!anzahl.isNull() && CLng(anzahl) != 0)
@@ -117,8 +114,7 @@ bool vollende(WordProcessor& word, const QString& datendatei) {
         hinweis = word.complete();
     } catch (const RuntimeError& error) {
         MsgBox(u"Der Serienbrief konnte nicht im Ordner der Datendatei angelegt werden:\r\n"_s +
-                   QDir::toNativeSeparators(QFileInfo(datendatei).dir().path()) + u"\r\n"_s +
-                   error.description,
+                   QDir::toNativeSeparators(QFileInfo(datendatei).path()) + u"\r\n"_s + error.description,
                vbCritical);
         return false;
     }

@@ -1,7 +1,6 @@
 #include "modMitglList.h"
 
 #include "Conversions.h"
-#include "Datenbank.h"
 #include "Eingaben.h"
 #include "ErrorTail.h"
 #include "Feldwerte.h"
@@ -11,7 +10,6 @@
 #include "MitglList.h"
 #include "MsgBox.h"
 #include "Namen.h"
-#include "Recordset.h"
 #include "Screens.h"
 #include "Session.h"
 #include "Stunden.h"
