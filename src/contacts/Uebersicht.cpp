@@ -190,12 +190,10 @@ namespace {
 
 using namespace Uebersicht;
 
-/// Exchanges day and month: the overview shows a birthday with the month first.
+/// Exchanges day and month in dd.mm.yyyy: the overview shows a birthday with the month first.
 QString tagUndMonatGetauscht(QString datum) {
-    constexpr qsizetype teil = 3;
-    constexpr qsizetype laenge = 10;
-    datum.truncate(laenge);
-    if (datum.size() >= 2 * teil) std::swap_ranges(datum.begin(), datum.begin() + teil, datum.begin() + teil);
+    datum.truncate(10);
+    if (datum.size() >= 6) std::swap_ranges(datum.begin(), datum.begin() + 3, datum.begin() + 3);
     return datum;
 }
 
@@ -215,12 +213,13 @@ void zeigeKontakte(int row, Recordset& kontakte) {
     std::array<Value, spalten> zeile;
     zeile[1] = programFolder() + u"/Graphics/bmp/Cut.bmp"_s;
     const auto imKind = betreteKind(row);
-    grid().clearRows();
+    DataTable& kind = grid();
+    kind.clearRows();
     for (; !kontakte.Eof(); kontakte.MoveNext()) {
         zeile[0] = quellen[0].Value();
         for (std::size_t i = 1; i < quellen.size(); ++i)
             zeile[i + 1] = i + 1 == spalteGeburtstag ? geburtstag(quellen[i]) : quellen[i].Value();
-        grid().appendRow(zeile);
+        kind.appendRow(zeile);
     }
 }
 

@@ -131,9 +131,14 @@ void MitglList::setUpGrid() {
                            u"Dann drücken Sie „Suchen“."_s);
     tblMList->setAccessibleName(u"Gefundene Mitglieder"_s);
     setHourView(false);
-    on(tblMList, &DataTable::OnGridCellDown, [this](int row, int) { tblMList_OnGridCellDown(row); });
+    on(tblMList, &DataTable::OnGridCellDown, [this](int row, int) {
+        session().KontextZeileOK = row >= 0;
+        if (row >= 0) setGridRow(row);
+    });
     on(tblMList, &DataTable::OnGridCellOpen, [this](int row, int) { tblMList_OnGridCellOpen(row); });
-    on(tblMList, &DataTable::OnGridCellMenu, [this] { tblMList_OnGridCellMenu(); });
+    on(tblMList, &DataTable::OnGridCellMenu, [this] {
+        if (tblMList->rowCount() >= 1 && session().KontextZeileOK) rahmen()->loadKontMenu_Mitgl();
+    });
     modRun::connectGridFocus(tblMList);
 }
 
@@ -142,8 +147,7 @@ QWidget* MitglList::foot() {
     lblGefDS->setNumeric();
     txtInfo->setAccessibleName(Label1->text());
     Label1->setBuddy(txtInfo);
-    constexpr int progressWidth = 160;
-    pb->setMaximumWidth(progressWidth);
+    pb->setMaximumWidth(160);
     pb->hide();
     return Layout::line(this, {Label1, txtInfo, pb, lblAnzDS, lblGefDS}, txtInfo);
 }
@@ -192,15 +196,6 @@ void MitglList::drucke(const QString& wort) {
     const auto routine =
         chkArbAnz->isChecked() ? &modMitglList::DruckeArbListe : &modMitglList::DruckeMitglListe;
     routine(wort);
-}
-
-void MitglList::tblMList_OnGridCellDown(int row) {
-    session().KontextZeileOK = row >= 0;
-    if (row >= 0) setGridRow(row);
-}
-
-void MitglList::tblMList_OnGridCellMenu() {
-    if (tblMList->rowCount() >= 1 && session().KontextZeileOK) rahmen()->loadKontMenu_Mitgl();
 }
 
 void MitglList::tblMList_OnGridCellOpen(int row) {

@@ -97,9 +97,7 @@ private:
     void tbSuch_Click();
     void tbEsc_Click();
     void drucke(const QString& wort);
-    void tblMList_OnGridCellDown(int row);
     void tblMList_OnGridCellOpen(int row);
-    void tblMList_OnGridCellMenu();
 
     QGridLayout* const m_filters = Layout::form(Frame6);
     QString m_arbJahr; ///< the year last chosen for the hours

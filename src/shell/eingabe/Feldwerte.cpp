@@ -5,7 +5,6 @@
 #include "Recordset.h"
 #include "TextBox.h"
 
-#include <QAbstractButton>
 #include <QCheckBox>
 
 using namespace Qt::StringLiterals;
@@ -17,10 +16,6 @@ void leseZellen(ErrorTail& step, const std::vector<Recordset::Field>& felder, st
 }
 
 bool WertAusCheckBox(const QCheckBox* box) { return box->isChecked(); }
-
-int CheckBoxAusWert(const Recordset::Field& field) { return field.Value() == Value(true) ? 1 : 0; }
-
-bool WertAusOption(const QAbstractButton* option) { return option->isChecked(); }
 
 QString textOderLeer(const Recordset::Field& field) {
     const Value value = field.Value();

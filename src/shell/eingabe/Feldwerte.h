@@ -7,7 +7,6 @@
 #include <vector>
 
 class ErrorTail;
-class QAbstractButton;
 class QCheckBox;
 class TextBox;
 
@@ -19,8 +18,6 @@ namespace modRun {
 /// read.
 void leseZellen(ErrorTail& step, const std::vector<Recordset::Field>& felder, std::span<Value> zeile);
 bool WertAusCheckBox(const QCheckBox* box);
-int CheckBoxAusWert(const Recordset::Field& field);
-bool WertAusOption(const QAbstractButton* option);
 /// The text of a field; empty if it is Null.
 QString textOderLeer(const Recordset::Field& field);
 /// The text of the box as a date; the empty date if it is not a date.
