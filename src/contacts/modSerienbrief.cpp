@@ -27,17 +27,14 @@ constexpr std::size_t placeOfEintritt = 13;
 
 bool istMitglied(qint32 kategorie) { return kategorie == aktiv || kategorie == passiv; }
 
-/// FROM and WHERE for the contacts of a category. Leaves out members without a row in Mitglied.
-QString herkunft(qint32 kategorie) {
+/// Leaves out members without a row in Mitglied.
+QString abfrage(qint32 kategorie) {
+    const QString felder =
+        u"SELECT k.KNr, k.Firma, k.Anrede, k.Nachname, k.Vorname, k.Strasse, k.PLZ, k.Ort, k.Tel1, "_s
+        u"k.Tel2, k.Fax, k.Mobil, k.GebDatum, "_s;
     const QString wahl = u"k.KategoNr = "_s + QString::number(kategorie);
-    if (istMitglied(kategorie)) return u" FROM Kontakt k, Mitglied m WHERE k.KNr = m.KNr AND "_s + wahl;
-    return u" FROM Kontakt k WHERE "_s + wahl;
-}
-
-QString datenabfrage(qint32 kategorie) {
-    return u"SELECT k.KNr, k.Firma, k.Anrede, k.Nachname, k.Vorname, k.Strasse, k.PLZ, k.Ort, k.Tel1, "_s
-           u"k.Tel2, k.Fax, k.Mobil, k.GebDatum, "_s +
-           (istMitglied(kategorie) ? u"m.Eintritt, k.EMail"_s : u"k.EMail"_s) + herkunft(kategorie);
+    if (!istMitglied(kategorie)) return felder + u"k.EMail FROM Kontakt k WHERE "_s + wahl;
+    return felder + u"m.Eintritt, k.EMail FROM Kontakt k, Mitglied m WHERE k.KNr = m.KNr AND "_s + wahl;
 }
 
 void meldeLeereKategorie(qint32 kategorie) {
@@ -75,11 +72,8 @@ void schreibeKontakte(CsvDatei& datei, Recordset& kontakte, bool mitglieder) {
 
 void schreibeKategorie(CsvDatei& datei, DataTable& uebersicht, int zeile) {
     const qint32 kategorie = CLng(uebersicht.cell(zeile, 0));
-    Recordset kontakte = oeffneAbfrage(datenabfrage(kategorie));
-    Recordset zaehlung = oeffneAbfrage(u"SELECT COUNT(k.KNr)"_s + herkunft(kategorie));
-    if (zaehlung.RecordCount() != 1) return;
-    const Value anzahl = zaehlung.Collect(u"Expr1000"_s);
-    if (!anzahl.isNull() && CLng(anzahl) != 0)
+    Recordset kontakte = oeffneAbfrage(abfrage(kategorie));
+    if (kontakte.RecordCount() != 0)
         schreibeKontakte(datei, kontakte, istMitglied(kategorie));
     else
         meldeLeereKategorie(kategorie);
