@@ -1,8 +1,6 @@
 #include "modFangbuch.h"
 
-#include "ComboBox.h"
 #include "Conversions.h"
-#include "DataTable.h"
 #include "Datenbank.h"
 #include "Datensatz.h"
 #include "Eingaben.h"
@@ -10,13 +8,10 @@
 #include "Fangbuch.h"
 #include "Kalendernamen.h"
 #include "Meldungen.h"
-#include "MemoBox.h"
 #include "Namen.h"
 #include "Recordset.h"
 #include "Screens.h"
 #include "Session.h"
-#include "TextBox.h"
-#include "ValueLabel.h"
 #include "Zugriff.h"
 #include "modBasis.h"
 
@@ -67,7 +62,7 @@ void zeigeNeuen(ErrorTail& step, std::vector<Value> zeile, const Fangbuch& scree
 
 void SpeicherFang() {
     withErrorTail(modul, u"SpeicherFang"_s, [](ErrorTail& step) {
-        const Fangbuch& screen = the<Fangbuch>();
+        Fangbuch& screen = the<Fangbuch>();
         const auto nummern = ermittleNummern(screen.cboFArt, screen.cboGName);
         if (!nummern) return;
         std::vector<Value> zeile;
@@ -76,14 +71,14 @@ void SpeicherFang() {
             zeigeNeuen(step, zeile, screen);
         FangAnzeigeLoeschen();
         screen.cboFArt->setFocus();
-        screen.lblAnzahl->setText(QString::number(screen.tblFList->rowCount()));
+        screen.zeigeAnzahl();
         step([&] { screen.lblGesAnz->setText(Ermittle_DSAnzahl()); });
     });
 }
 
 void UpdateFang(int row) {
     withErrorTail(modul, u"UpdateFang"_s, [row](ErrorTail& step) {
-        const Fangbuch& screen = the<Fangbuch>();
+        Fangbuch& screen = the<Fangbuch>();
         const auto nummern = ermittleNummern(screen.cboFArt, screen.cboGName);
         if (!nummern) return;
         const auto felder = [&](Recordset& fang) { schreibeFelder(step, fang, screen, *nummern); };
@@ -103,10 +98,10 @@ void UpdateFang(int row) {
 
 void LoescheFang(int row) {
     withErrorTail(modul, u"LoescheFang"_s, [row](ErrorTail& step) {
-        const Fangbuch& screen = the<Fangbuch>();
+        Fangbuch& screen = the<Fangbuch>();
         if (Datensatz::loesche(step, u"Fang"_s, screen.lblFNr->text())) {
             step([&] { screen.tblFList->removeRow(row); });
-            screen.lblAnzahl->setText(QString::number(screen.tblFList->rowCount()));
+            screen.zeigeAnzahl();
         }
         FangAnzeigeLoeschen();
         screen.cboFArt->setFocus();

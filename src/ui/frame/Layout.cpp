@@ -64,6 +64,12 @@ QVBoxLayout* page(QTabWidget* tabs, const QString& caption) {
     return made;
 }
 
+void column(QWidget* screen, Heading* heading, Toolbar* toolbar, const QVector<QWidget*>& parts,
+            QWidget* highest) {
+    QVBoxLayout* rest = column(screen, heading, toolbar);
+    for (QWidget* part : parts) rest->addWidget(part, part == highest ? 1 : 0);
+}
+
 QHBoxLayout* line(QWidget* parent) {
     auto* made = new QHBoxLayout(new QWidget(parent));
     made->setContentsMargins(0, 0, 0, 0);
@@ -104,6 +110,13 @@ void addField(QGridLayout* screen, int row, QLabel* label, QWidget* field, int c
 void addFields(QGridLayout* screen, std::initializer_list<std::pair<QLabel*, QWidget*>> fields, int column) {
     int row = 0;
     for (const auto& [label, field] : fields) addField(screen, row++, label, field, column);
+}
+
+void addCount(QHBoxLayout* row, QLabel* caption, ValueLabel* value) {
+    row->addWidget(caption);
+    row->addWidget(value);
+    value->setAccessibleName(caption->text());
+    value->setNumeric();
 }
 
 } // namespace Layout

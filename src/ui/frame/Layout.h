@@ -2,6 +2,7 @@
 
 #include "Heading.h"
 #include "Toolbar.h"
+#include "ValueLabel.h"
 
 #include <QBoxLayout>
 #include <QCheckBox>
@@ -33,6 +34,9 @@ QVBoxLayout* column(QWidget* window);
 QVBoxLayout* column(QWidget* screen, Heading* heading, Toolbar* toolbar);
 /// Adds a page. Returns the column inside it.
 QVBoxLayout* page(QTabWidget* tabs, const QString& caption);
+/// The same with these parts one below the other. Height that is left goes to `highest`.
+void column(QWidget* screen, Heading* heading, Toolbar* toolbar, const QVector<QWidget*>& parts,
+            QWidget* highest);
 
 /// A row without margins, on a widget of its own (its parentWidget()).
 QHBoxLayout* line(QWidget* parent);
@@ -48,5 +52,7 @@ void addField(QGridLayout* screen, int row, QLabel* label, QWidget* field, int c
 /// The first rows of a form, one below the other.
 void addFields(QGridLayout* screen, std::initializer_list<std::pair<QLabel*, QWidget*>> fields,
                int column = 0);
+/// A count or a sum behind its caption, which becomes its name for screen readers.
+void addCount(QHBoxLayout* row, QLabel* caption, ValueLabel* value);
 
 } // namespace Layout
