@@ -7,9 +7,6 @@ namespace modFAuswert {
 
 /// Runs the query of the ticked filters and fills the grid and the sums.
 void LadeAuswahl();
-/// Appends the clauses of the ticked filters to a query. Number and weight append both bounds: if the upper
-/// one is empty, the query is invalid and the store refuses it.
-void ErgaenzeSelektion(QString& filter);
 /// True if the ticked filters are filled, otherwise shows a message box. Number and weight pass with their
 /// lower bound alone.
 bool AuswahlGueltig();

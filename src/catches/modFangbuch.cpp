@@ -6,14 +6,19 @@
 #include "Eingaben.h"
 #include "ErrorTail.h"
 #include "Fangbuch.h"
+#include "Feldwerte.h"
 #include "Kalendernamen.h"
 #include "Meldungen.h"
+#include "MsgBox.h"
 #include "Namen.h"
 #include "Recordset.h"
 #include "Screens.h"
 #include "Session.h"
 #include "Zugriff.h"
 #include "modBasis.h"
+
+#include <QScopeGuard>
+#include <array>
 
 using namespace Qt::StringLiterals;
 
@@ -182,6 +187,57 @@ QString Ermittle_DSAnzahl() {
                  [&](const Value& zahl) { anzahl = zahl.isNull() ? u"0"_s : CStr(zahl); });
     });
     return anzahl;
+}
+
+void fuelleListe(ErrorTail& step, Recordset& liste, DataTable* grid, ProgressBar* pb, std::size_t monat) {
+    qint64 count = 0;
+    std::array<Value, 7> zeile;
+    std::vector<Recordset::Field> felder;
+    step([&] { liste.MoveFirst(); });
+    step([&] { felder = liste.Fields(); });
+    step.forEachRow(liste, [&] {
+        modRun::leseZellen(step, felder, zeile);
+        std::swap(zeile[3], zeile[monat]);
+        step([&] { zeile[3] = modRun::ErmittleMonatsname(CLng(zeile[3])); });
+        step([&] { grid->appendRow(zeile); });
+        pb->setProgress(++count);
+    });
+}
+
+void loadTblFList(ProgressBar* pb) {
+    withErrorTail(u"modStart"_s, u"loadTblFList"_s, [pb](ErrorTail& step) {
+        const QString jahr = QString::number(session().AktJahr);
+        const QString monat = QString::number(session().AktMonatNr);
+        Recordset liste;
+        Recordset anzahl;
+        step([&] {
+            liste = oeffneAbfrage(u"SELECT fa.FangNr, f.FName, g.GName, fa.FangMonat, fa.Anzahl, "
+                                  u"fa.Gewicht FROM Fang fa , Fisch f, Gewaesser g WHERE fa.FangJahr = "_s +
+                                  jahr + u"AND fa.FangMonat = "_s + monat +
+                                  u" AND fa.FischNr = f.FNr AND fa.GNr = g.GNr"_s);
+        });
+        step([&] {
+            anzahl = oeffneAbfrage(u"SELECT COUNT(fa.FangNr) FROM Fang fa, Fisch f, Gewaesser g WHERE "
+                                   u"fa.FangJahr = "_s +
+                                   jahr + u" AND fa.FangMonat = "_s + monat +
+                                   u" AND fa.FischNr = f.FNr AND fa.GNr = g.GNr"_s);
+        });
+        pb->show();
+        // A guard, because the fifth error leaves the routine by an exception.
+        const auto ruhe = qScopeGuard([pb] { pb->hide(); });
+        step([&] {
+            const Value count = anzahl.Collect(u"Expr1000"_s);
+            pb->setMax(count.isNull() ? 1 : CLng(count));
+        });
+        DataTable* grid = the<Fangbuch>().tblFList;
+        step([&] { grid->clearRows(); });
+        if (step.test([&] { return liste.RecordCount() != 0; }))
+            fuelleListe(step, liste, grid, pb, 3);
+        else if (!session().TabelleLaedt)
+            MsgBox(u"Keine Einträge für diesen Monat vorhanden !"_s, vbInformation);
+        step([&] { liste.Close(); });
+        step([&] { anzahl.Close(); });
+    });
 }
 
 } // namespace modFangbuch

@@ -1,11 +1,11 @@
 #pragma once
 
 #include <QString>
-#include <optional>
 
-class ComboBox;
 class DataTable;
+class ErrorTail;
 class ProgressBar;
+class Recordset;
 
 /// The record routines of the catch book.
 namespace modFangbuch {
@@ -29,4 +29,7 @@ QString Ermittle_DSAnzahl();
 
 /// Fills the catch book's grid with the entries of the session's AktMonatNr and AktJahr.
 void loadTblFList(ProgressBar* pb);
+/// Appends the catches found by a query to a grid, row by row as they are read. Column `monat` of the query
+/// comes to column 3 of the grid, with the month's name.
+void fuelleListe(ErrorTail& step, Recordset& liste, DataTable* grid, ProgressBar* pb, std::size_t monat);
 } // namespace modFangbuch
