@@ -135,25 +135,13 @@ void Fangbuch::connectEvents() {
 }
 
 void Fangbuch::Form_Load() {
-    beobachteBasisdaten();
+    the<Basis>().fangbuchtabelle = tblFList;
     modBasis::loadcboFArt(cboFArt);
     modBasis::loadcboGName(cboGName);
     loadcboFJahr(cboFJahr);
     cboFJahr->setText(QString::number(session().AktJahr));
     cboSelMonat->setText(session().AktMonat);
     zeigeAnzahlen();
-}
-
-/// Updates the names of fish and waters in the grid when they change on the screen Basis.
-void Fangbuch::beobachteBasisdaten() {
-    const auto gleicheAb = [this](int column) {
-        return [grid = QPointer(tblFList), column](const Basis::Verweis& verweis) {
-            if (grid)
-                modRun::GridVerweiseAbgleichen(grid, column, verweis.name, verweis.modus, verweis.alterName);
-        };
-    };
-    the<Basis>().fischGeaendert = gleicheAb(1);
-    the<Basis>().gewaesserGeaendert = gleicheAb(2);
 }
 
 void Fangbuch::Form_Activate() {

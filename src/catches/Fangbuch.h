@@ -65,7 +65,6 @@ private:
     void layOutTable();
     void connectEvents();
 
-    void beobachteBasisdaten();
     void zeigeAnzahlen();
     void Auswahl_Click(bool jahr);
     void txtMonNr_LostFocus();

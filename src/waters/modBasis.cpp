@@ -3,126 +3,75 @@
 #include "Basis.h"
 #include "ComboBox.h"
 #include "Conversions.h"
-#include "DataTable.h"
-#include "Datenbank.h"
 #include "Datensatz.h"
 #include "Eingaben.h"
 #include "ErrorTail.h"
-#include "MemoBox.h"
+#include "Gitter.h"
 #include "MsgBox.h"
-#include "Recordset.h"
 #include "Screens.h"
-#include "TextBox.h"
-#include "ValueLabel.h"
-
-#include <QTabWidget>
 
 using namespace Qt::StringLiterals;
+
+// Message boxes name a routine with the table: SpeicherFisch, SpeicherGewaesser, UpdateFisch and so on. The
+// page stays in front while its routine runs.
 
 namespace modBasis {
 
 namespace {
 
-/// The differences between kinds of fish and waters. One set of routines serves both.
-struct Art {
-    QString tabelle;
-    QString feldNr;
-    QString feldName;
-    ValueLabel* lblNr;
-    TextBox* txtName;
-    MemoBox* txtNotiz;
-    DataTable* grid;
-    ValueLabel* lblAnzahl;
-    const std::function<void(const Basis::Verweis&)>& geaendert;
-    QString nichtGefunden; ///< message if there is no record to open
-};
-
-Art fisch() {
-    const Basis& screen = the<Basis>();
-    return {u"Fisch"_s,
-            u"FNr"_s,
-            u"FName"_s,
-            screen.lblFNr,
-            screen.txtFArt,
-            screen.txtFNotiz,
-            screen.tblFBasis,
-            screen.lblFAnzahl,
-            screen.fischGeaendert,
-            u"FEHLER: Datensatz nicht vorhanden o. nicht gefunden !"_s};
-}
-
-Art gewaesser() {
-    const Basis& screen = the<Basis>();
-    return {u"Gewaesser"_s,
-            u"GNr"_s,
-            u"GName"_s,
-            screen.lblGNr,
-            screen.txtGName,
-            screen.txtGNotiz,
-            screen.tblGBasis,
-            screen.lblGAnzahl,
-            screen.gewaesserGeaendert,
-            u"Fehler: Datensatz nicht vorhanden o. nicht gefunden !"_s};
-}
+const QString modul = u"modBasis"_s;
 
 /// The name of the record last opened, on whichever page: the old name for "UPDATE".
 QString alterName;
 
-constexpr int fishPage = 0;
-const Art artInFront() { return the<Basis>().TabBasis->currentIndex() == fishPage ? fisch() : gewaesser(); }
-
-void leere(const Art& art) {
-    art.lblNr->setText(QString());
-    art.txtName->setText(QString());
-    art.txtNotiz->setText(QString());
+/// Keeps the names in the catch book's grid in step.
+void gleicheAb(const Basis::Seite& seite, const QString& name, const QString& modus, const QString& alter) {
+    const Basis& screen = the<Basis>();
+    const int column = &seite == &screen.seiten[0] ? 1 : 2;
+    if (screen.fangbuchtabelle)
+        modRun::GridVerweiseAbgleichen(screen.fangbuchtabelle, column, name, modus, alter);
 }
 
-void melde(const Art& art, const Basis::Verweis& verweis) {
-    if (art.geaendert) art.geaendert(verweis);
-}
-
-void zeigeAnzahl(const Art& art) { art.lblAnzahl->setText(QString::number(art.grid->rowCount())); }
-
-std::vector<Value> alsZeile(const Recordset& satz, const Art& art) {
-    return {satz.Collect(art.feldNr), satz.Collect(art.feldName)};
-}
-
-void fuelleGrid(const QString& routine, const Art& art, const QString& select) {
-    ::fuelleGrid(routine, art.grid, select, [&](const Recordset& satz) { return alsZeile(satz, art); });
+void fuelle(const QString& routine, const Basis::Seite& seite, const QString& select) {
+    fuelleGrid(routine, seite.grid, select, [&](const Recordset& satz) -> std::vector<Value> {
+        return {satz.Collect(seite.feldNr), satz.Collect(seite.feldName)};
+    });
 }
 
 /// Writes the two entry fields into the copy buffer.
-Datensatz::Felder felder(ErrorTail& step, const Art& art) {
+Datensatz::Felder felder(ErrorTail& step, const Basis::Seite& seite) {
     return [&](Recordset& satz) {
-        step([&] { satz.Collect(art.feldName, art.txtName->text()); });
-        step([&] { satz.Collect(u"Notiz"_s, art.txtNotiz->Text()); });
+        step([&] { satz.Collect(seite.feldName, seite.name->text()); });
+        step([&] { satz.Collect(u"Notiz"_s, seite.notiz->Text()); });
     };
 }
 
-void speichere(const QString& routine, const Art& art) {
-    withErrorTail(u"modBasis"_s, routine, [&](ErrorTail& step) {
+void speichere() {
+    const Basis::Seite& seite = the<Basis>().seiteVorn();
+    withErrorTail(modul, u"Speicher"_s + seite.tabelle, [&](ErrorTail& step) {
         std::vector<Value> zeile;
-        if (Datensatz::speichere(step, art.tabelle, felder(step, art),
-                                 Datensatz::lies(step, zeile, {art.feldNr, art.feldName}))) {
-            step([&] { art.grid->appendRow(zeile); });
-            art.grid->markRow(art.grid->rowCount());
+        if (Datensatz::speichere(step, seite.tabelle, felder(step, seite),
+                                 Datensatz::lies(step, zeile, {seite.feldNr, seite.feldName}))) {
+            step([&] { seite.grid->appendRow(zeile); });
+            seite.grid->markRow(seite.grid->rowCount());
         }
         BasisAnzeigeLoeschen();
-        zeigeAnzahl(art);
+        seite.zeigeAnzahl();
     });
 }
 
 void meldeNichtGefunden() { MsgBox(u"FEHLER: Datensatz nicht vorhanden o. nicht gefunden !"_s, vbCritical); }
 
-void aendere(const QString& routine, const Art& art, int row) {
-    withErrorTail(u"modBasis"_s, routine, [&](ErrorTail& step) {
-        const QString name = art.txtName->text();
-        if (Datensatz::aendere(step, art.tabelle, art.lblNr->text(), felder(step, art), {},
+void aendere(int row) {
+    const Basis::Seite& seite = the<Basis>().seiteVorn();
+    withErrorTail(modul, u"Update"_s + seite.tabelle, [&](ErrorTail& step) {
+        const QString name = seite.name->text();
+        if (Datensatz::aendere(step, seite.tabelle, seite.nummer->text(), felder(step, seite), {},
                                &meldeNichtGefunden)) {
-            const int zeile = art.grid->rowOf(art.lblNr->text(), row);
-            step([&] { art.grid->setCell(zeile, 1, name); });
-            art.grid->markRow(zeile);
-            step([&] { melde(art, {name, u"UPDATE"_s, alterName}); });
+            const int zeile = seite.grid->rowOf(seite.nummer->text(), row);
+            step([&] { seite.grid->setCell(zeile, 1, name); });
+            seite.grid->markRow(zeile);
+            step([&] { gleicheAb(seite, name, u"UPDATE"_s, alterName); });
         }
         BasisAnzeigeLoeschen();
     });
@@ -132,59 +81,19 @@ void meldeNichtGeloescht() {
     MsgBox(u"FEHLER: Datensatz kann nicht gelöscht oder gefunden werden !"_s, vbCritical);
 }
 
-void loesche(const QString& routine, const Art& art, int row) {
-    withErrorTail(u"modBasis"_s, routine, [&](ErrorTail& step) {
-        if (Datensatz::loesche(step, art.tabelle, art.lblNr->text(), {}, &meldeNichtGeloescht)) {
-            step([&] { art.grid->removeRow(art.grid->rowOf(art.lblNr->text(), row)); });
-            zeigeAnzahl(art);
-            step([&] { melde(art, {art.txtName->text(), u"LOESCHEN"_s, QString()}); });
+void loesche(int row) {
+    const Basis::Seite& seite = the<Basis>().seiteVorn();
+    withErrorTail(modul, u"Loesche"_s + seite.tabelle, [&](ErrorTail& step) {
+        if (Datensatz::loesche(step, seite.tabelle, seite.nummer->text(), {}, &meldeNichtGeloescht)) {
+            step([&] { seite.grid->removeRow(seite.grid->rowOf(seite.nummer->text(), row)); });
+            seite.zeigeAnzahl();
+            step([&] { gleicheAb(seite, seite.name->text(), u"LOESCHEN"_s, QString()); });
         }
         BasisAnzeigeLoeschen();
     });
 }
 
-void ladeAuswahl(const QString& routine, const Art& art, int row) {
-    withErrorTail(u"modBasis"_s, routine, [&](ErrorTail& step) {
-        Recordset satz;
-        step([&] {
-            satz = oeffneAbfrage(u"SELECT * FROM "_s + art.tabelle + u" WHERE "_s + art.feldNr + u" = "_s +
-                                 art.grid->cellText(row, 0));
-        });
-        if (step.test([&] { return satz.RecordCount() != 0; })) {
-            step([&] { art.lblNr->setText(CStr(satz.Collect(art.feldNr))); });
-            step([&] { art.txtName->setText(CStr(satz.Collect(art.feldName))); });
-            step([&] { art.txtNotiz->setText(CStr(satz.Collect(u"Notiz"_s))); });
-            step([&] { alterName = CStr(satz.Collect(art.feldName)); });
-        } else {
-            MsgBox(art.nichtGefunden, vbCritical);
-        }
-        step([&] { satz.Close(); });
-    });
-}
-
-bool vollstaendig(const Art& art) { return modRun::fehlerfrei(modRun::erstesLeere({art.txtName})); }
-
-} // namespace
-
-void InitBasis() { alterName.clear(); }
-
-void BasisAnzeigeLoeschen() {
-    const Art art = artInFront();
-    leere(art);
-    art.txtName->setFocus();
-}
-
-void BasisAlleAnzeigenLoeschen() {
-    for (const Art& art : {fisch(), gewaesser()}) {
-        leere(art);
-        art.lblAnzahl->setText(QString());
-    }
-}
-
-void loadTblFBasis() { fuelleGrid(u"loadTblFBasis"_s, fisch(), u"SELECT * FROM Fisch"_s); }
-void loadTblGBasis() { fuelleGrid(u"loadTblGBasis"_s, gewaesser(), u"SELECT GNr, GName FROM Gewaesser"_s); }
-
-namespace {
+bool vollstaendig() { return modRun::fehlerfrei(modRun::erstesLeere({the<Basis>().seiteVorn().name})); }
 
 void fuelleAusGrid(ComboBox* combo, const DataTable* grid) {
     combo->clear();
@@ -193,37 +102,59 @@ void fuelleAusGrid(ComboBox* combo, const DataTable* grid) {
 
 } // namespace
 
-void loadcboFArt(ComboBox* combo) { fuelleAusGrid(combo, the<Basis>().tblFBasis); }
-void loadcboGName(ComboBox* combo) { fuelleAusGrid(combo, the<Basis>().tblGBasis); }
+void InitBasis() { alterName.clear(); }
 
-bool FischEingabeVollstaendig() { return vollstaendig(fisch()); }
-bool GewaesserEingabeVollstaendig() { return vollstaendig(gewaesser()); }
-void SpeicherFisch() { speichere(u"SpeicherFisch"_s, fisch()); }
-void SpeicherGewaesser() { speichere(u"SpeicherGewaesser"_s, gewaesser()); }
-void UpdateFisch(int row) { aendere(u"UpdateFisch"_s, fisch(), row); }
-void UpdateGewaesser(int row) { aendere(u"UpdateGewaesser"_s, gewaesser(), row); }
-void LoescheFisch(int row) { loesche(u"LoescheFisch"_s, fisch(), row); }
-void LoescheGewaesser(int row) { loesche(u"LoescheGewaesser"_s, gewaesser(), row); }
-void loadFAuswahl(int row, int /*column*/) { ladeAuswahl(u"loadFAuswahl"_s, fisch(), row); }
-void loadGAuswahl(int row, int /*column*/) { ladeAuswahl(u"loadGAuswahl"_s, gewaesser(), row); }
-
-Erfassung fischErfassung() {
-    return {.vollstaendig = &FischEingabeVollstaendig,
-            .speichere = &SpeicherFisch,
-            .aendere = &UpdateFisch,
-            .loesche = &LoescheFisch,
-            .frage = u"ACHTUNG: Fisch - Referenzen im Fangbuch werden ebenfalls gelöscht !\r\n"_s
-                     u"Trotzdem löschen ?"_s,
-            .beiNein = &BasisAnzeigeLoeschen};
+void BasisAnzeigeLoeschen() {
+    const Basis::Seite& seite = the<Basis>().seiteVorn();
+    seite.leere();
+    seite.name->setFocus();
 }
 
-Erfassung gewaesserErfassung() {
-    return {.vollstaendig = &GewaesserEingabeVollstaendig,
-            .speichere = &SpeicherGewaesser,
-            .aendere = &UpdateGewaesser,
-            .loesche = &LoescheGewaesser,
-            .frage = u"ACHTUNG: Gewässer - Referenzen im Fangbuch werden ebenfalls gelöscht !\r\n"_s
-                     u"Trotzdem löschen ?"_s,
+void BasisAlleAnzeigenLoeschen() {
+    for (const Basis::Seite& seite : the<Basis>().seiten) {
+        seite.leere();
+        seite.anzahl->setText(QString());
+    }
+}
+
+void loadTblFBasis() { fuelle(u"loadTblFBasis"_s, the<Basis>().seiten[0], u"SELECT * FROM Fisch"_s); }
+
+void loadTblGBasis() {
+    fuelle(u"loadTblGBasis"_s, the<Basis>().seiten[1], u"SELECT GNr, GName FROM Gewaesser"_s);
+}
+
+void loadcboFArt(ComboBox* combo) { fuelleAusGrid(combo, the<Basis>().tblFBasis); }
+
+void loadcboGName(ComboBox* combo) { fuelleAusGrid(combo, the<Basis>().tblGBasis); }
+
+void loadAuswahl(int row) {
+    const Basis::Seite& seite = the<Basis>().seiteVorn();
+    // loadFAuswahl or loadGAuswahl.
+    withErrorTail(modul, u"load%1Auswahl"_s.arg(seite.tabelle.front()), [&](ErrorTail& step) {
+        Recordset satz;
+        step([&] {
+            satz = oeffneAbfrage(u"SELECT * FROM "_s + seite.tabelle + u" WHERE "_s + seite.feldNr +
+                                 u" = "_s + seite.grid->cellText(row, 0));
+        });
+        if (step.test([&] { return satz.RecordCount() != 0; })) {
+            step([&] { seite.nummer->setText(CStr(satz.Collect(seite.feldNr))); });
+            step([&] { seite.name->setText(CStr(satz.Collect(seite.feldName))); });
+            step([&] { seite.notiz->setText(CStr(satz.Collect(u"Notiz"_s))); });
+            step([&] { alterName = CStr(satz.Collect(seite.feldName)); });
+        } else {
+            MsgBox(seite.nichtGefunden, vbCritical);
+        }
+        step([&] { satz.Close(); });
+    });
+}
+
+Erfassung erfassung() {
+    return {.vollstaendig = &vollstaendig,
+            .speichere = &speichere,
+            .aendere = &aendere,
+            .loesche = &loesche,
+            .frage = u"ACHTUNG: %1 - Referenzen im Fangbuch werden ebenfalls gelöscht !\r\n"_s
+                     u"Trotzdem löschen ?"_s.arg(the<Basis>().seiteVorn().art),
             .beiNein = &BasisAnzeigeLoeschen};
 }
 
