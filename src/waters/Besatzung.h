@@ -1,15 +1,10 @@
 #pragma once
 
+#include "ComboBox.h"
+#include "DataTable.h"
+#include "Layout.h"
 #include "Screen.h"
-
-class ComboBox;
-class DataTable;
-class Heading;
-class QGroupBox;
-class QLabel;
-class TextBox;
-class Toolbar;
-class ValueLabel;
+#include "TextBox.h"
 
 /// The stocking plan: entry fields above a grid with the planned stockings of one year. The CSV file and the
 /// printed plan show the rows of the grid.
@@ -23,38 +18,35 @@ public:
     void Form_Activate() override;
     void Form_Deactivate() override;
 
-    Heading* Ueberschrift;
-    Toolbar* Toolbar1;
+    void zeigeAnzahl() { lblAnzahl->setText(QString::number(tblBList->rowCount())); }
 
-    QGroupBox* Frame1;
-    QLabel* Label1;
-    ComboBox* cboBJahr;
-    QLabel* Label2;
-    ValueLabel* lblBNr;
-    QLabel* Label3;
-    ComboBox* cboFArt;
-    QLabel* Label4;
-    ComboBox* cboGName;
-    QLabel* Label5;
-    TextBox* txtZeit;
-    QLabel* Label6;
-    TextBox* txtMenge;
-    QLabel* Label7;
+    Heading* const Ueberschrift = new Heading(u"BESATZ - PLAN", this);
+    Toolbar* const Toolbar1 = buildToolbar();
 
-    DataTable* tblBList;
-    QLabel* Label8;
-    ValueLabel* lblAnzahl;
+    QGroupBox* const Frame1 = Layout::frame(u"Frame1", u"Besatzung", this);
+    QLabel* const Label1 = Layout::label(u"Label1", u"Besatz - Plan f. Jahr:", Frame1);
+    ComboBox* const cboBJahr = new ComboBox(u"cboBJahr", Frame1);
+    QLabel* const Label3 = Layout::label(u"Label3", u"Fischart:", Frame1);
+    ComboBox* const cboFArt = new ComboBox(u"cboFArt", Frame1);
+    QLabel* const Label4 = Layout::label(u"Label4", u"Gewässer:", Frame1);
+    ComboBox* const cboGName = new ComboBox(u"cboGName", Frame1);
+    QLabel* const Label2 = Layout::label(u"Label2", u"Besatz.- Nr:", Frame1);
+    ValueLabel* const lblBNr = new ValueLabel(u"lblBNr", Frame1);
+    QLabel* const Label5 = Layout::label(u"Label5", u"Zeitpunkt:", Frame1);
+    TextBox* const txtZeit = new TextBox(u"txtZeit", Frame1);
+    QLabel* const Label6 = Layout::label(u"Label6", u"Menge:", Frame1);
+    TextBox* const txtMenge = new TextBox(u"txtMenge", Frame1);
+    QLabel* const Label7 = Layout::label(u"Label7", u"i. Kg", Frame1);
+
+    DataTable* const tblBList = new DataTable(u"tblBList", this);
+    QLabel* const Label8 = Layout::label(u"Label8", u"Anzahl:", this);
+    ValueLabel* const lblAnzahl = new ValueLabel(u"lblAnzahl", this);
 
 private:
-    void buildToolbar();
-    void buildEntry();
+    Toolbar* buildToolbar();
     void layOutEntry();
-    void buildGrid();
-    QWidget* layOutCount();
-    void connectEvents();
+    void setUpGrid();
 
-    void zeigeAnzahl();
-    void waehleJahr(const QString& jahr);
     void cboBJahr_Click();
     void leereOffenen();
     void tbExcel_Click();

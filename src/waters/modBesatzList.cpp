@@ -1,13 +1,13 @@
 #include "modBesatzList.h"
 
 #include "Besatzung.h"
-#include "ComboBox.h"
 #include "Conversions.h"
-#include "DataTable.h"
+#include "CsvDatei.h"
 #include "Datenbank.h"
 #include "Datensatz.h"
 #include "Eingaben.h"
 #include "ErrorTail.h"
+#include "ExcelAusgabe.h"
 #include "Feldwerte.h"
 #include "Format.h"
 #include "Meldungen.h"
@@ -15,9 +15,8 @@
 #include "Namen.h"
 #include "Recordset.h"
 #include "Screens.h"
+#include "SeqData.h"
 #include "Session.h"
-#include "TextBox.h"
-#include "ValueLabel.h"
 
 #include <array>
 
@@ -59,10 +58,6 @@ void schreibeFelder(ErrorTail& step, Recordset& plan, const Besatzung& screen,
     step([&] { plan.Collect(u"Menge"_s, CDbl(screen.txtMenge->text())); });
 }
 
-void zeigeAnzahl(const Besatzung& screen) {
-    screen.lblAnzahl->setText(QString::number(screen.tblBList->rowCount()));
-}
-
 } // namespace
 
 void loadTblBList() {
@@ -92,7 +87,7 @@ void loadTblBList() {
 
 void SpeicherEintrag() {
     withErrorTail(modul, u"SpeicherEintrag"_s, [](ErrorTail& step) {
-        const Besatzung& screen = the<Besatzung>();
+        Besatzung& screen = the<Besatzung>();
         const auto nummern = ermittleNummern(screen.cboFArt, screen.cboGName);
         if (!nummern) return;
         std::vector<Value> zeile;
@@ -104,14 +99,14 @@ void SpeicherEintrag() {
             screen.tblBList->markRow(screen.tblBList->rowCount());
         }
         BesatzAnzeigeLoeschen();
-        zeigeAnzahl(screen);
+        screen.zeigeAnzahl();
         screen.cboFArt->setFocus();
     });
 }
 
 void UpdateEintrag(int row) {
     withErrorTail(modul, u"UpdateEintrag"_s, [row](ErrorTail& step) {
-        const Besatzung& screen = the<Besatzung>();
+        Besatzung& screen = the<Besatzung>();
         const auto nummern = ermittleNummern(screen.cboFArt, screen.cboGName);
         if (!nummern) return;
         const auto felder = [&](Recordset& plan) { schreibeFelder(step, plan, screen, *nummern); };
@@ -125,7 +120,7 @@ void UpdateEintrag(int row) {
             if (bisher >= 0) step([&] { screen.tblBList->removeRow(bisher); });
             step([&] { screen.tblBList->insertRow(neu, zeile); });
             screen.tblBList->markRow(neu);
-            zeigeAnzahl(screen);
+            screen.zeigeAnzahl();
         }
         BesatzAnzeigeLoeschen();
         screen.cboFArt->setFocus();
@@ -134,11 +129,11 @@ void UpdateEintrag(int row) {
 
 void LoescheEintrag(int /*row*/) {
     withErrorTail(modul, u"LoescheEintrag"_s, [](ErrorTail& step) {
-        const Besatzung& screen = the<Besatzung>();
+        Besatzung& screen = the<Besatzung>();
         if (Datensatz::loesche(step, u"Besatzung"_s, screen.lblBNr->text())) {
             const int zeile = screen.tblBList->rowOf(screen.lblBNr->text());
             if (zeile >= 0) step([&] { screen.tblBList->removeRow(zeile); });
-            zeigeAnzahl(screen);
+            screen.zeigeAnzahl();
         }
         BesatzAnzeigeLoeschen();
     });
@@ -190,6 +185,40 @@ bool BesatzEingabeVollstaendig() {
     const Besatzung& screen = the<Besatzung>();
     return modRun::fehlerfrei(
         modRun::erstesLeere({screen.cboBJahr, screen.cboFArt, screen.cboGName, screen.txtMenge}));
+}
+
+namespace {
+
+void schreibeZeile(CsvDatei& datei, const DataTable& grid, int row) {
+    // writeHead keeps spaces at the end of the number; writeText removes them from the texts.
+    datei.writeHead(grid.cellText(row, 0));
+    for (int column = 1; column <= 4; ++column) datei.writeText(grid.cellText(row, column));
+    datei.endLine();
+}
+
+void schreibeDatei(const DataTable& grid) {
+    CsvDatei datei(SeqData::path(programFolder(), u"BPLAN.csv"_s));
+    for (const QString& head :
+         {u"Besatz.- Nr"_s, u"Fischart"_s, u"Gewässer"_s, u"Zeitpunkt"_s, u"Menge i. KG"_s})
+        datei.writeHead(head);
+    datei.endLine();
+    for (int row = 0; row < grid.rowCount(); ++row) schreibeZeile(datei, grid, row);
+    datei.close();
+}
+
+} // namespace
+
+void ErzeugeBPlanDatei() {
+    schreibeFuerExcel(
+        [] { schreibeDatei(*the<Besatzung>().tblBList); },
+        u"ACHTUNG: Ein unerwarteter Fehler trat beim Erzeugen des Besatzungsplanes - BPLAN.csv - auf !"_s,
+        u"Datei - BPLAN.CSV - wurde erfolgreich im Pfad: ..\\uferwart\\seqdata\\ erstellt !"_s,
+        &StarteExcelBPlan);
+}
+
+void StarteExcelBPlan() {
+    zeigeInExcel(SeqData::path(programFolder(), u"BPLAN.csv"_s),
+                 {u"A:A"_s, u"B:B"_s, u"C:C"_s, u"D:D"_s, u"E:E"_s});
 }
 
 } // namespace modBesatzList
