@@ -1,10 +1,9 @@
 #include "Arbeit.h"
 
-#include "ComboBox.h"
 #include "Conversions.h"
-#include "DataTable.h"
-#include "DateBox.h"
+#include "Erfassung.h"
 #include "Format.h"
+#include "Gitter.h"
 #include "Jahre.h"
 #include "Rahmen.h"
 #include "RuntimeError.h"
@@ -12,15 +11,119 @@
 #include "Session.h"
 #include "Stunden.h"
 #include "SuchKont.h"
-#include "ValueLabel.h"
+#include "Tastenfilter.h"
+#include "Theme.h"
 #include "modArbeit.h"
 #include "modKontakt.h"
 
-#include <QPushButton>
-
 using namespace Qt::StringLiterals;
 
-// The layout of the screen is in ArbeitLayout.cpp; its behaviour is here.
+Arbeit::Arbeit()
+    : Screen(u"Arbeit"_s, u"Arbeitscontrolling - Name des Mitglieds -"_s) {
+    layOutMember();
+    layOutEntry();
+    layOutTable();
+    auto* whole = new QGridLayout(Frame1);
+    whole->setSpacing(Layout::gap);
+    whole->addWidget(Frame3, 0, 0, 1, 2);
+    whole->addWidget(Frame7, 1, 0);
+    whole->addWidget(Frame2, 1, 1);
+    whole->setColumnStretch(0, 2);
+    whole->setColumnStretch(1, 3);
+    whole->setRowStretch(1, 1);
+    Layout::column(this, Ueberschrift, Toolbar1, {Frame1}, Frame1);
+}
+
+Toolbar* Arbeit::buildToolbar() {
+    using namespace modArbeit;
+    const Erfassung buchungen = {.vollstaendig = &PruefeArbEingabe,
+                                 .speichere = &SpeicherStunden,
+                                 .aendere = &UpdateStunden,
+                                 .loesche = &LoescheStunden,
+                                 .frage = u"ACHTUNG: Arbeitvorgang wirklich löschen ?"_s,
+                                 .beiNein = &LeereArbEingabe};
+    return new Toolbar(this,
+                       {{u"tbBuchen"_s, u"&Buchen / Mindern"_s, u"Buchen v. Arb. - Std. oder Jahresbeitr."_s,
+                         u"buchen"_s, [=, this] { buchungen.sichern(*this); }},
+                        {u"tbLoeschen"_s, u"&Löschen"_s, u"Löscht den ausgewählten Arbeitsvorgang"_s,
+                         u"loeschen"_s, [=, this] { buchungen.entfernen(*this); }},
+                        {u"tbAnzLoeschen"_s, u"&Anz. löschen"_s, u"Anzeige löschen"_s, u"anzeige-loeschen"_s,
+                         &LeereArbEingabe},
+                        {u"tbVorschau"_s, u"&Vorschau"_s, u"Druckvorschau anzeigen..."_s, u"vorschau"_s,
+                         [this] { drucke(u"vorschau"_s); }},
+                        {u"tbDruck"_s, u"&Drucken"_s, u"Arbeitsübersicht drucken..."_s, u"drucken"_s,
+                         [this] { drucke(u"drucken"_s); }}});
+}
+
+void Arbeit::layOutMember() {
+    const auto setUp = [](QPushButton* button, const QString& icon, const QString& tip) {
+        button->setIcon(Theme::icon(icon));
+        button->setIconSize({20, 20});
+        button->setToolTip(tip);
+        button->setAccessibleName(tip);
+    };
+    setUp(cmdSuch, u"suchen"_s, u"Neues Mitglied suchen"_s);
+    setUp(cmdMList, u"liste"_s, u"Zurück zur Mitgliederliste"_s);
+    cmdMList->setEnabled(false);
+    on(cmdSuch, &QPushButton::clicked, [this](bool) { cmdSuch_Click(); });
+    on(cmdMList, &QPushButton::clicked, [this](bool) { cmdMList_Click(); });
+
+    constexpr int middle = 2;
+    constexpr int right = 5;
+    QGridLayout* screen = Layout::form(Frame3);
+    screen->addWidget(cmdSuch, 0, 0);
+    screen->addWidget(cmdMList, 1, 0);
+    Layout::addFields(screen, {{Label1, cboArbJahr}, {Label2, lblKNr}}, middle);
+    Layout::addFields(screen, {{Label3, lblNName}, {Label4, lblVName}}, right);
+    for (const int between : {middle - 1, right - 1}) screen->setColumnMinimumWidth(between, Layout::gap);
+    screen->setColumnStretch(middle + 1, 1);
+    screen->setColumnStretch(right + 1, 3);
+    // A long name must not make the window wider.
+    for (ValueLabel* name : {lblNName, lblVName})
+        name->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    Frame3->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+}
+
+void Arbeit::layOutEntry() {
+    txtArbStd->setAlignment(Qt::AlignRight);
+    txtArbStd->setKeyFilter(&modRun::FilterKomma);
+    QGridLayout* screen = Layout::form(Frame7);
+    Layout::addFields(screen, {{lblArbN, lblArbNr}, {lblDatum, pvDate}, {lblArbZeit, txtArbStd}});
+    screen->addWidget(lblStd, 2, 2);
+    screen->addWidget(lblArbNotiz, 3, 0, 1, 3);
+    screen->addWidget(txtArbNotiz, 4, 0, 1, 3);
+    screen->setColumnStretch(1, 1);
+    screen->setRowStretch(4, 1);
+    lblArbNotiz->setBuddy(txtArbNotiz);
+    txtArbNotiz->setAccessibleName(u"Bemerkung, Arbeitsbeschreibung"_s);
+    constexpr int noteHeight = 64;
+    txtArbNotiz->setMinimumHeight(noteHeight);
+}
+
+void Arbeit::layOutTable() {
+    tblArbStd->setColumns({{u"ArbNr"_s, 72, true},
+                           {u"Mitgl.-Nr"_s, 80, true},
+                           {u"Geleist. Arb.-Std"_s, 128, true},
+                           {u"Datum"_s, 96}});
+    tblArbStd->setAccessibleName(u"Arbeitsstunden des Mitglieds"_s);
+    tblArbStd->setEmptyHint(u"Suchen Sie mit der Lupe ein Mitglied und buchen Sie links seine Stunden."_s);
+    on(tblArbStd, &DataTable::OnGridCellOpen, [this](int row, int) { tblArbStd_OnGridCellOpen(row); });
+    modRun::connectGridFocus(tblArbStd);
+
+    QGridLayout* whole = Layout::form(Frame2);
+    whole->addWidget(tblArbStd, 0, 0, 1, 4);
+    whole->setRowStretch(0, 1);
+    whole->setColumnStretch(0, 1);
+    int row = 0;
+    const auto addSum = [&](QLabel* caption, ValueLabel* sum, QLabel* unit) {
+        Layout::addField(whole, ++row, caption, sum, 1);
+        whole->addWidget(unit, row, 3);
+        sum->setNumeric();
+    };
+    addSum(lblGStd, lblGesStd, Label10);
+    addSum(Label6, lblPflStd, Label8);
+    addSum(Label9, lblErgStd, Label5);
+}
 
 namespace {
 
@@ -111,10 +214,10 @@ void Arbeit::cboArbJahr_Click() {
     }
 }
 
-void Arbeit::tblArbStd_OnGridCellOpen(int row, int column) {
+void Arbeit::tblArbStd_OnGridCellOpen(int row) {
     if (row < 0) return;
     modArbeit::LeereArbEingabe();
-    modArbeit::loadArbeitsVorgang(row, column);
+    modArbeit::loadArbeitsVorgang(row);
     openRecord(lblArbNr->text(), row);
     pvDate->setFocus();
 }

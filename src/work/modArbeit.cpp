@@ -2,25 +2,17 @@
 
 #include "Arbeit.h"
 #include "Clock.h"
-#include "ComboBox.h"
 #include "Conversions.h"
-#include "DataTable.h"
-#include "DateBox.h"
 #include "Datenbank.h"
 #include "Datensatz.h"
 #include "Eingaben.h"
 #include "ErrorTail.h"
 #include "Format.h"
 #include "Meldungen.h"
-#include "MemoBox.h"
 #include "Recordset.h"
 #include "Screens.h"
 #include "Stunden.h"
-#include "TextBox.h"
-#include "ValueLabel.h"
 #include "Zugriff.h"
-
-#include <QPushButton>
 
 using namespace Qt::StringLiterals;
 
@@ -122,7 +114,7 @@ void LoescheStunden(int /*row*/) {
     });
 }
 
-void loadArbeitsVorgang(int row, int /*column*/) {
+void loadArbeitsVorgang(int row) {
     withErrorTail(modul, u"loadArbeitsVorgang"_s, [row](ErrorTail& step) {
         const Arbeit& screen = the<Arbeit>();
         Recordset arbeit;

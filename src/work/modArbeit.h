@@ -2,8 +2,6 @@
 
 #include <QString>
 
-class ComboBox;
-
 /// The work ledger.
 namespace modArbeit {
 
@@ -23,8 +21,8 @@ void mnuArbContr_Click();
 
 /// Fills the ledger's grid with the bookings of a member in a year. Returns their hours.
 double loadTblArbeit(qint32 knr, qint32 jahr);
-/// Reads the booking in a row of the ledger's grid into the input fields. `column` is not used.
-void loadArbeitsVorgang(int row, int column);
+/// Reads the booking in a row of the ledger's grid into the input fields.
+void loadArbeitsVorgang(int row);
 /// Stores the input fields as a new booking of the member and the year shown.
 void SpeicherStunden();
 /// Writes the input fields over the open booking and moves it to the year shown. `row` is not used: the

@@ -1,8 +1,5 @@
 #include "Arbeit.h"
-#include "ComboBox.h"
 #include "Conversions.h"
-#include "DataTable.h"
-#include "DateBox.h"
 #include "Datenbank.h"
 #include "Datensatz.h"
 #include "ErrorTail.h"
@@ -17,10 +14,8 @@
 #include "Session.h"
 #include "Stunden.h"
 #include "SuchKont.h"
-#include "ValueLabel.h"
 #include "modArbeit.h"
 
-#include <QPushButton>
 #include <array>
 #include <optional>
 
