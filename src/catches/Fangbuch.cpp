@@ -122,10 +122,8 @@ void Fangbuch::layOutTable() {
 void Fangbuch::connectEvents() {
     on(cboFJahr, &ComboBox::Click, [this] { Auswahl_Click(true); });
     on(cboSelMonat, &ComboBox::Click, [this] { Auswahl_Click(false); });
-    on(txtMonNr, &TextBox::GotFocus, [this] { m_tastenZaehler = 0; });
-    on(txtMonNr, &TextBox::KeyPress, [this](int) { ++m_tastenZaehler; });
     on(txtMonNr, &TextBox::KeyDone, [this](int) {
-        if (m_tastenZaehler >= monthLimit) txtNotiz->setFocus();
+        if (++m_tastenZaehler >= monthLimit) txtNotiz->setFocus();
     });
     on(txtMonNr, &TextBox::LostFocus, [this] { txtMonNr_LostFocus(); });
     on(txtNotiz, &MemoBox::LostFocus, [this] { cboFArt->setFocus(); });

@@ -61,10 +61,7 @@ void Basis::addPage(const QString& title, const Seite& seite, const std::array<Q
     column->addLayout(screen);
     column->addLayout(head);
     column->addWidget(seite.grid, 1);
-    auto* around = new QVBoxLayout(new QWidget);
-    around->setContentsMargins(Layout::gap, Layout::gap, Layout::gap, Layout::gap);
-    around->addWidget(frame);
-    TabBasis->addTab(around->parentWidget(), title);
+    Layout::page(TabBasis, title)->addWidget(frame);
 }
 
 void Basis::Seite::leere() const {

@@ -7,7 +7,6 @@
 #include "TextBox.h"
 
 #include <QPointer>
-#include <QTabWidget>
 #include <array>
 
 /// Kinds of fish on one page, waters on the other. All other screens fill their name lists from its grids.

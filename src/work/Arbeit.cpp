@@ -2,14 +2,12 @@
 
 #include "Conversions.h"
 #include "Erfassung.h"
-#include "Format.h"
 #include "Gitter.h"
 #include "Jahre.h"
 #include "Rahmen.h"
 #include "RuntimeError.h"
 #include "Screens.h"
 #include "Session.h"
-#include "Stunden.h"
 #include "SuchKont.h"
 #include "Tastenfilter.h"
 #include "Theme.h"
@@ -201,14 +199,12 @@ void soweitMitglied(Statement&& statement) {
 } // namespace
 
 void Arbeit::cboArbJahr_Click() {
-    const auto lade = [this] {
-        return modArbeit::loadTblArbeit(CLng(lblKNr->text()), CLng(cboArbJahr->currentText()));
-    };
     try {
-        soweitMitglied(lade);
-        soweitMitglied([&] { lblGesStd->setText(Format(lade(), stundenMuster())); });
-        soweitMitglied([] { modArbeit::zeigePflichtStd(); });
-        soweitMitglied([] { modArbeit::zeigeSaldo(); });
+        soweitMitglied(
+            [this] { modArbeit::loadTblArbeit(CLng(lblKNr->text()), CLng(cboArbJahr->currentText())); });
+        soweitMitglied([] { modArbeit::zeigeStunden(&modArbeit::loadTblArbeit); });
+        soweitMitglied(&modArbeit::zeigePflichtStd);
+        soweitMitglied(&modArbeit::zeigeSaldo);
     } catch (const RuntimeError&) {
         // The list stays incomplete. The next choice of a year loads it again.
     }

@@ -7,16 +7,22 @@
 #include "Datensatz.h"
 #include "Eingaben.h"
 #include "ErrorTail.h"
+#include "Feldwerte.h"
 #include "Format.h"
 #include "Meldungen.h"
+#include "MitglList.h"
+#include "MsgBox.h"
+#include "Rahmen.h"
 #include "Recordset.h"
 #include "Screens.h"
+#include "Session.h"
 #include "Stunden.h"
+#include "SuchKont.h"
 #include "Zugriff.h"
 
-using namespace Qt::StringLiterals;
+#include <array>
 
-// Reads, writes and deletes single bookings. A member's whole year is in modArbeitMitglied.cpp.
+using namespace Qt::StringLiterals;
 
 namespace modArbeit {
 
@@ -60,12 +66,8 @@ void zeigeGeaenderten(ErrorTail& step, const std::vector<Value>& zeile, const Ar
 /// A stored booking may have no date: it opens with the empty one.
 Date datumOderLeer(const Value& datum) { return datum.isNull() ? Date() : CDate(datum); }
 
-void zeigeNeueSumme(ErrorTail& step, const Arbeit& screen) {
-    step([&] {
-        const double stunden =
-            ErmittleStunden(CLng(screen.lblKNr->text()), CLng(screen.cboArbJahr->currentText()));
-        screen.lblGesStd->setText(Format(stunden, stundenMuster()));
-    });
+void zeigeNeueSumme(ErrorTail& step) {
+    step([] { zeigeStunden(&ErmittleStunden); });
     step([] { zeigeSaldo(); });
 }
 
@@ -82,7 +84,7 @@ void SpeicherStunden() {
             schreibeFelder(step, arbeit, screen);
         };
         if (Datensatz::speichere(step, u"Arbeit"_s, felder, lies(step, zeile))) haengeAn(step, zeile, screen);
-        zeigeNeueSumme(step, screen);
+        zeigeNeueSumme(step);
         LeereArbEingabe();
         screen.pvDate->setFocus();
     });
@@ -95,7 +97,7 @@ void UpdateStunden(int /*row*/) {
         const auto felder = [&](Recordset& arbeit) { schreibeFelder(step, arbeit, screen); };
         if (Datensatz::aendere(step, u"Arbeit"_s, screen.lblArbNr->text(), felder, lies(step, zeile)))
             zeigeGeaenderten(step, zeile, screen);
-        zeigeNeueSumme(step, screen);
+        zeigeNeueSumme(step);
         LeereArbEingabe();
         screen.pvDate->setFocus();
     });
@@ -107,7 +109,7 @@ void LoescheStunden(int /*row*/) {
         if (Datensatz::loesche(step, u"Arbeit"_s, screen.lblArbNr->text())) {
             const int row = screen.tblArbStd->rowOf(screen.lblArbNr->text());
             if (row >= 0) step([&] { screen.tblArbStd->removeRow(row); });
-            zeigeNeueSumme(step, screen);
+            zeigeNeueSumme(step);
         }
         LeereArbEingabe();
         screen.pvDate->setFocus();
@@ -164,6 +166,121 @@ bool PruefeArbEingabe() {
     return modRun::fehlerfrei(modRun::erstesLeere({{screen.cmdSuch, screen.lblKNr->text().isEmpty()},
                                                    {screen.pvDate, !screen.pvDate->isReadable()},
                                                    screen.txtArbStd}));
+}
+
+// A member's whole year.
+
+namespace {
+
+/// A member as read from a row of a list.
+struct Mitglied {
+    QString knr;
+    QString nachname;
+    QString vorname;
+    QString titel; ///< the name in the screen's caption
+};
+
+/// False, after a message box, if the number is no member's or the member is exempt.
+bool schuldetStunden(ErrorTail& step, const QString& knr) {
+    Recordset mitglied;
+    step([&] { mitglied = oeffneTabelle(u"Mitglied"_s); });
+    const bool gefunden = Datensatz::finde(step, mitglied, knr);
+    const bool befreit = gefunden && step.test([&] { return mitglied.Collect(u"Befreit"_s) == Value(true); });
+    if (!gefunden) modRun::MeldeNichtVorhanden();
+    if (befreit)
+        MsgBox(
+            u"Mitglied ist von Arb.-Std. befreit ! Übernahme ins Arbeitscontrolling wurde abgebrochen !\r\n\r\n"_s
+            u"Um eine Stundenverwaltung zu ermöglichen, müssen Sie erst den Status auf - nicht Befreit - "_s
+            u"setzen.\r\n\r\nNähere Angaben dazu enthält die Online - Hilfe !"_s,
+            vbInformation);
+    step([&] { mitglied.Close(); });
+    return gefunden && !befreit;
+}
+
+void zeigeMitglied(ErrorTail& step, const Mitglied& mitglied) {
+    Arbeit& screen = the<Arbeit>();
+    // An open booking belongs to the member shown before. Saving must not change it under the new one.
+    LeereOffenen();
+    screen.giveUpRecord();
+    screen.lblKNr->setText(mitglied.knr);
+    screen.lblVName->setText(mitglied.vorname);
+    screen.lblNName->setText(mitglied.nachname);
+    screen.setWindowTitle(u"Arbeitscontrolling - "_s + mitglied.titel + u" -"_s);
+    step([] { zeigeStunden(&loadTblArbeit); });
+    step([] { zeigePflichtStd(); });
+    step([] { zeigeSaldo(); });
+    screen.pvDate->setFocus();
+}
+
+/// The first columns of a row of a list. They are empty after an error.
+std::array<QString, 5> liesZeile(ErrorTail& step, const DataTable* grid, int row) {
+    std::array<QString, 5> zeile;
+    int column = 0;
+    step([&] {
+        for (QString& zelle : zeile) zelle = grid->cellText(row, column++);
+    });
+    return zeile;
+}
+
+} // namespace
+
+void UebernehmeKontakt(int row) {
+    withErrorTail(modul, u"UebernehmeKontakt"_s, [row](ErrorTail& step) {
+        const auto [knr, kategorie, firma, nachname, vorname] = liesZeile(step, the<SuchKont>().tblSuch, row);
+        if (schuldetStunden(step, knr))
+            zeigeMitglied(step, {knr, nachname, vorname, vorname + u' ' + nachname});
+    });
+}
+
+void mnuArbContr_Click() {
+    withErrorTail(modul, u"mnuArbContr_Click"_s, [](ErrorTail& step) {
+        const MitglList& liste = the<MitglList>();
+        const auto [knr, nachname, vorname, strasse, plz] = liesZeile(step, liste.tblMList, liste.gridRow());
+        if (!schuldetStunden(step, knr)) return;
+        // From the member list the caption shows street and first name. The labels show the right name.
+        zeigeMitglied(step, {knr, nachname, vorname, strasse + u' ' + vorname});
+        Arbeit& screen = the<Arbeit>();
+        screen.cmdMList->setEnabled(true);
+        screen.erwarteMitglied();
+        rahmen()->zeigeBereich(u"Arbeit"_s);
+        screen.pvDate->setFocus();
+    });
+}
+
+double loadTblArbeit(qint32 knr, qint32 jahr) {
+    withErrorTail(modul, u"loadTblArbeit"_s, [=](ErrorTail& step) {
+        DataTable* grid = the<Arbeit>().tblArbStd;
+        Recordset liste;
+        step([&] {
+            liste = oeffneAbfrage(u"SELECT ArbNr, KNr, ArbStd, Datum FROM Arbeit WHERE KNr = "_s +
+                                  QString::number(knr) + u" AND Jahr = "_s + QString::number(jahr));
+        });
+        step([&] { grid->clearRows(); });
+        std::vector<Recordset::Field> felder;
+        step([&] { felder = liste.Fields(); });
+        step.forEachRow(liste, [&] {
+            std::array<Value, 4> zeile;
+            modRun::leseZellen(step, felder, zeile);
+            step([&] { zeile[2] = Format(zeile[2], stundenMuster()); });
+            step([&] { grid->appendRow(zeile); });
+        });
+        step([&] { liste.Close(); });
+    });
+    return ErmittleStunden(knr, jahr);
+}
+
+void zeigeStunden(double (*ermittle)(qint32 knr, qint32 jahr)) {
+    const Arbeit& screen = the<Arbeit>();
+    const double stunden = ermittle(CLng(screen.lblKNr->text()), CLng(screen.cboArbJahr->currentText()));
+    screen.lblGesStd->setText(Format(stunden, stundenMuster()));
+}
+
+void zeigePflichtStd() { the<Arbeit>().lblPflStd->setText(Format(session().PflichtStd, stundenMuster())); }
+
+void zeigeSaldo() {
+    const Arbeit& screen = the<Arbeit>();
+    const double saldo = BerechneSaldo(CDbl(screen.lblGesStd->text()), CDbl(screen.lblPflStd->text()));
+    screen.lblErgStd->setText(Format(saldo, stundenMuster()));
 }
 
 } // namespace modArbeit

@@ -38,6 +38,9 @@ void LeereArbAnzeige();
 /// True if a member, hours and a readable date are there, otherwise shows a message box.
 bool PruefeArbEingabe();
 
+/// Shows the hours that `ermittle` gives for the member and the year on the screen. Throws RuntimeError if
+/// one of them is missing.
+void zeigeStunden(double (*ermittle)(qint32 knr, qint32 jahr));
 /// Shows the hours owed, from the session's PflichtStd.
 void zeigePflichtStd();
 /// Shows the balance of the two sums on the screen. Throws RuntimeError if one is empty.

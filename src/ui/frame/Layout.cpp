@@ -70,6 +70,14 @@ void column(QWidget* screen, Heading* heading, Toolbar* toolbar, const QVector<Q
     for (QWidget* part : parts) rest->addWidget(part, part == highest ? 1 : 0);
 }
 
+QVBoxLayout* page(QTabWidget* tabs, const QString& caption) {
+    auto* made = new QVBoxLayout(new QWidget(tabs));
+    made->setContentsMargins(gap, gap, gap, gap);
+    made->setSpacing(gap);
+    tabs->addTab(made->parentWidget(), caption);
+    return made;
+}
+
 QHBoxLayout* line(QWidget* parent) {
     auto* made = new QHBoxLayout(new QWidget(parent));
     made->setContentsMargins(0, 0, 0, 0);

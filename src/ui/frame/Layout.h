@@ -37,6 +37,8 @@ QVBoxLayout* page(QTabWidget* tabs, const QString& caption);
 /// The same with these parts one below the other. Height that is left goes to `highest`.
 void column(QWidget* screen, Heading* heading, Toolbar* toolbar, const QVector<QWidget*>& parts,
             QWidget* highest);
+/// Adds a page. Returns the column inside it.
+QVBoxLayout* page(QTabWidget* tabs, const QString& caption);
 
 /// A row without margins, on a widget of its own (its parentWidget()).
 QHBoxLayout* line(QWidget* parent);
