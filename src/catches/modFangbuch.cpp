@@ -28,27 +28,25 @@ namespace {
 
 const QString modul = u"modFangbuch"_s;
 
-/// Sets the seven input fields in the copy buffer, in the order in which they are written.
-void schreibeFelder(ErrorTail& step, Recordset& fang, const Fangbuch& screen,
-                    const ArtUndGewaesser& nummern) {
-    step([&] { fang.Collect(u"FangJahr"_s, CLng(screen.cboFJahr->currentText())); });
-    step([&] { fang.Collect(u"FangMonat"_s, CLng(screen.txtMonNr->text())); });
-    step([&] { fang.Collect(u"FischNr"_s, nummern.fisch); });
-    step([&] { fang.Collect(u"GNr"_s, nummern.gewaesser); });
-    step([&] { fang.Collect(u"Notiz"_s, screen.txtNotiz->Text()); });
-    step([&] { fang.Collect(u"Anzahl"_s, CLng(screen.txtAnzahl->text())); });
-    step([&] { fang.Collect(u"Gewicht"_s, CLng(screen.txtGewicht->text())); });
+/// Sets the seven input fields in the copy buffer, in the order in which they are written. Empty, after a
+/// message box, if fish or water is unknown.
+Datensatz::Felder felder(ErrorTail& step) {
+    const Fangbuch& screen = the<Fangbuch>();
+    const auto nummern = ermittleNummern(screen.cboFArt, screen.cboGName);
+    if (!nummern) return {};
+    return [&step, &screen, nummern](Recordset& fang) {
+        step([&] { fang.Collect(u"FangJahr"_s, CLng(screen.cboFJahr->currentText())); });
+        step([&] { fang.Collect(u"FangMonat"_s, CLng(screen.txtMonNr->text())); });
+        step([&] { fang.Collect(u"FischNr"_s, nummern->fisch); });
+        step([&] { fang.Collect(u"GNr"_s, nummern->gewaesser); });
+        step([&] { fang.Collect(u"Notiz"_s, screen.txtNotiz->Text()); });
+        step([&] { fang.Collect(u"Anzahl"_s, CLng(screen.txtAnzahl->text())); });
+        step([&] { fang.Collect(u"Gewicht"_s, CLng(screen.txtGewicht->text())); });
+    };
 }
 
 bool imGewaehltenMonat(const Fangbuch& screen) {
     return CLng(screen.txtMonNr->text()) == modRun::ErmittleMonatsNr(screen.cboSelMonat->currentText());
-}
-
-/// The fields of a record that its grid row shows.
-const QStringList& felderDerZeile() {
-    static const QStringList felder = {u"FangNr"_s,    u"FischNr"_s, u"GNr"_s,
-                                       u"FangMonat"_s, u"Anzahl"_s,  u"Gewicht"_s};
-    return felder;
 }
 
 /// Appends the new record to the grid if its month is the one shown.
@@ -63,16 +61,20 @@ void zeigeNeuen(ErrorTail& step, std::vector<Value> zeile, const Fangbuch& scree
     screen.tblFList->markRow(screen.tblFList->rowCount());
 }
 
+QString zweistellig(qint32 monat) { return (monat < 10 ? u"0"_s : QString()) + QString::number(monat); }
+
 } // namespace
 
 void SpeicherFang() {
     withErrorTail(modul, u"SpeicherFang"_s, [](ErrorTail& step) {
         Fangbuch& screen = the<Fangbuch>();
-        const auto nummern = ermittleNummern(screen.cboFArt, screen.cboGName);
-        if (!nummern) return;
+        const Datensatz::Felder eingabe = felder(step);
+        if (!eingabe) return;
         std::vector<Value> zeile;
-        const auto felder = [&](Recordset& fang) { schreibeFelder(step, fang, screen, *nummern); };
-        if (Datensatz::speichere(step, u"Fang"_s, felder, Datensatz::lies(step, zeile, felderDerZeile())))
+        if (Datensatz::speichere(step, u"Fang"_s, eingabe,
+                                 Datensatz::lies(step, zeile,
+                                                 {u"FangNr"_s, u"FischNr"_s, u"GNr"_s, u"FangMonat"_s,
+                                                  u"Anzahl"_s, u"Gewicht"_s})))
             zeigeNeuen(step, zeile, screen);
         FangAnzeigeLoeschen();
         screen.cboFArt->setFocus();
@@ -84,10 +86,9 @@ void SpeicherFang() {
 void UpdateFang(int row) {
     withErrorTail(modul, u"UpdateFang"_s, [row](ErrorTail& step) {
         Fangbuch& screen = the<Fangbuch>();
-        const auto nummern = ermittleNummern(screen.cboFArt, screen.cboGName);
-        if (!nummern) return;
-        const auto felder = [&](Recordset& fang) { schreibeFelder(step, fang, screen, *nummern); };
-        if (Datensatz::aendere(step, u"Fang"_s, screen.lblFNr->text(), felder)) {
+        const Datensatz::Felder eingabe = felder(step);
+        if (!eingabe) return;
+        if (Datensatz::aendere(step, u"Fang"_s, screen.lblFNr->text(), eingabe)) {
             const std::vector<Value> zeile = {screen.lblFNr->text(),          screen.cboFArt->currentText(),
                                               screen.cboGName->currentText(), screen.txtFangMonat->text(),
                                               screen.txtAnzahl->text(),       screen.txtGewicht->text()};
@@ -113,30 +114,6 @@ void LoescheFang(int row) {
     });
 }
 
-namespace {
-
-/// The month as the screen shows it: always two digits.
-QString zweistellig(qint32 monat) {
-    constexpr qint32 lastOfOneDigit = 9;
-    return (monat <= lastOfOneDigit ? u"0"_s : QString()) + QString::number(monat);
-}
-
-void zeigeFang(ErrorTail& step, const Recordset& fang, Fangbuch& screen) {
-    const auto text = [&](const QString& field) { return CStr(fang.Collect(field)); };
-    const auto monat = [&] { return CLng(fang.Collect(u"FangMonat"_s)); };
-    step([&] { screen.lblFNr->setText(text(u"FangNr"_s)); });
-    step([&] { screen.cboFArt->setText(text(u"FName"_s)); });
-    step([&] { screen.cboGName->setText(text(u"GName"_s)); });
-    step([&] { screen.txtAnzahl->setText(text(u"Anzahl"_s)); });
-    step([&] { screen.txtGewicht->setText(text(u"Gewicht"_s)); });
-    step([&] { screen.txtNotiz->setText(text(u"Notiz"_s)); });
-    step([&] { screen.txtMonNr->setText(zweistellig(monat())); });
-    step([&] { screen.txtFangMonat->setText(modRun::ErmittleMonatsname(monat())); });
-    if (!session().KontextZeileOK) screen.cboFArt->setFocus();
-}
-
-} // namespace
-
 void loadFang(DataTable* grid, int row) {
     withErrorTail(modul, u"loadFang"_s, [grid, row](ErrorTail& step) {
         Fangbuch& screen = the<Fangbuch>();
@@ -150,10 +127,21 @@ void loadFang(DataTable* grid, int row) {
                 u"fa.Gewicht, fa.Notiz FROM Fang fa , Fisch f, Gewaesser g WHERE fa.FangNr = "_s +
                 grid->cellText(row, 0) + u" AND fa.FischNr = f.FNr AND fa.GNr = g.GNr"_s);
         });
-        if (step.test([&] { return fang.RecordCount() != 0; }))
-            zeigeFang(step, fang, screen);
-        else
+        const auto text = [&](const QString& field) { return CStr(fang.Collect(field)); };
+        const auto monat = [&] { return CLng(fang.Collect(u"FangMonat"_s)); };
+        if (step.test([&] { return fang.RecordCount() != 0; })) {
+            step([&] { screen.lblFNr->setText(text(u"FangNr"_s)); });
+            step([&] { screen.cboFArt->setText(text(u"FName"_s)); });
+            step([&] { screen.cboGName->setText(text(u"GName"_s)); });
+            step([&] { screen.txtAnzahl->setText(text(u"Anzahl"_s)); });
+            step([&] { screen.txtGewicht->setText(text(u"Gewicht"_s)); });
+            step([&] { screen.txtNotiz->setText(text(u"Notiz"_s)); });
+            step([&] { screen.txtMonNr->setText(zweistellig(monat())); });
+            step([&] { screen.txtFangMonat->setText(modRun::ErmittleMonatsname(monat())); });
+            if (!session().KontextZeileOK) screen.cboFArt->setFocus();
+        } else {
             modRun::MeldeNichtVorhanden();
+        }
         step([&] { fang.Close(); });
     });
 }

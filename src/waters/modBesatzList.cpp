@@ -30,13 +30,12 @@ const QString modul = u"modBesatzList"_s;
 
 QString alsGewicht(const Value& menge) { return Format(menge, u"###0.00"_s); }
 
-/// The fields of a record from which its grid row is made.
-const QStringList& felderDerZeile() {
-    static const QStringList felder = {u"BNr"_s, u"FNr"_s, u"GNr"_s, u"Zeit"_s, u"Menge"_s};
-    return felder;
+/// Reads the fields of a record from which its grid row is made.
+Datensatz::Danach lies(ErrorTail& step, std::vector<Value>& zeile) {
+    return Datensatz::lies(step, zeile, {u"BNr"_s, u"FNr"_s, u"GNr"_s, u"Zeit"_s, u"Menge"_s});
 }
 
-/// Turns the values of felderDerZeile() into those of a grid row: names instead of numbers, and the weight
+/// Turns the values of lies() into those of a grid row: names instead of numbers, and the weight
 /// as text.
 void fuelleZeile(ErrorTail& step, std::vector<Value>& zeile) {
     const auto name = [](const Value& number, QString (*ermittle)(qint32)) {
@@ -48,14 +47,18 @@ void fuelleZeile(ErrorTail& step, std::vector<Value>& zeile) {
     step([&] { zeile[4] = alsGewicht(zeile[4]); });
 }
 
-/// Writes the entry fields into the copy buffer.
-void schreibeFelder(ErrorTail& step, Recordset& plan, const Besatzung& screen,
-                    const ArtUndGewaesser& nummern) {
-    step([&] { plan.Collect(u"BJahr"_s, CLng(screen.cboBJahr->currentText())); });
-    step([&] { plan.Collect(u"FNr"_s, nummern.fisch); });
-    step([&] { plan.Collect(u"GNr"_s, nummern.gewaesser); });
-    step([&] { plan.Collect(u"Zeit"_s, screen.txtZeit->text()); });
-    step([&] { plan.Collect(u"Menge"_s, CDbl(screen.txtMenge->text())); });
+/// Writes the entry fields into the copy buffer. Empty, after a message box, if fish or water is unknown.
+Datensatz::Felder felder(ErrorTail& step) {
+    const Besatzung& screen = the<Besatzung>();
+    const auto nummern = ermittleNummern(screen.cboFArt, screen.cboGName);
+    if (!nummern) return {};
+    return [&step, &screen, nummern](Recordset& plan) {
+        step([&] { plan.Collect(u"BJahr"_s, CLng(screen.cboBJahr->currentText())); });
+        step([&] { plan.Collect(u"FNr"_s, nummern->fisch); });
+        step([&] { plan.Collect(u"GNr"_s, nummern->gewaesser); });
+        step([&] { plan.Collect(u"Zeit"_s, screen.txtZeit->text()); });
+        step([&] { plan.Collect(u"Menge"_s, CDbl(screen.txtMenge->text())); });
+    };
 }
 
 } // namespace
@@ -76,7 +79,7 @@ void loadTblBList() {
             step([&] { plan.MoveFirst(); });
             step.forEachRow(plan, [&] {
                 std::vector<Value> zeile;
-                Datensatz::lies(step, zeile, felderDerZeile())(plan);
+                lies(step, zeile)(plan);
                 fuelleZeile(step, zeile);
                 step([&] { grid->appendRow(zeile); });
             });
@@ -88,12 +91,10 @@ void loadTblBList() {
 void SpeicherEintrag() {
     withErrorTail(modul, u"SpeicherEintrag"_s, [](ErrorTail& step) {
         Besatzung& screen = the<Besatzung>();
-        const auto nummern = ermittleNummern(screen.cboFArt, screen.cboGName);
-        if (!nummern) return;
+        const Datensatz::Felder eingabe = felder(step);
+        if (!eingabe) return;
         std::vector<Value> zeile;
-        const auto felder = [&](Recordset& plan) { schreibeFelder(step, plan, screen, *nummern); };
-        if (Datensatz::speichere(step, u"Besatzung"_s, felder,
-                                 Datensatz::lies(step, zeile, felderDerZeile()))) {
+        if (Datensatz::speichere(step, u"Besatzung"_s, eingabe, lies(step, zeile))) {
             fuelleZeile(step, zeile);
             step([&] { screen.tblBList->appendRow(zeile); });
             screen.tblBList->markRow(screen.tblBList->rowCount());
@@ -107,10 +108,9 @@ void SpeicherEintrag() {
 void UpdateEintrag(int row) {
     withErrorTail(modul, u"UpdateEintrag"_s, [row](ErrorTail& step) {
         Besatzung& screen = the<Besatzung>();
-        const auto nummern = ermittleNummern(screen.cboFArt, screen.cboGName);
-        if (!nummern) return;
-        const auto felder = [&](Recordset& plan) { schreibeFelder(step, plan, screen, *nummern); };
-        if (Datensatz::aendere(step, u"Besatzung"_s, screen.lblBNr->text(), felder)) {
+        const Datensatz::Felder eingabe = felder(step);
+        if (!eingabe) return;
+        if (Datensatz::aendere(step, u"Besatzung"_s, screen.lblBNr->text(), eingabe)) {
             const std::array<Value, 5> zeile = {screen.lblBNr->text(), screen.cboFArt->currentText(),
                                                 screen.cboGName->currentText(), screen.txtZeit->text(),
                                                 alsGewicht(screen.txtMenge->text())};
@@ -139,19 +139,6 @@ void LoescheEintrag(int /*row*/) {
     });
 }
 
-namespace {
-
-void zeigeEintrag(ErrorTail& step, const Recordset& plan, Besatzung& screen) {
-    const auto text = [&](const QString& field) { return CStr(plan.Collect(field)); };
-    step([&] { screen.lblBNr->setText(text(u"BNr"_s)); });
-    step([&] { screen.cboFArt->setText(text(u"FName"_s)); });
-    step([&] { screen.cboGName->setText(text(u"GName"_s)); });
-    step([&] { screen.txtZeit->setText(modRun::textOderLeer(plan.Fields(u"Zeit"_s))); });
-    step([&] { screen.txtMenge->setText(alsGewicht(plan.Collect(u"Menge"_s))); });
-}
-
-} // namespace
-
 void loadEintrag(DataTable* grid, int row) {
     // The message box names a routine of the catch book. Users know its text, so keep it.
     withErrorTail(u"modFangbuch"_s, u"loadFang"_s, [grid, row](ErrorTail& step) {
@@ -164,10 +151,16 @@ void loadEintrag(DataTable* grid, int row) {
                                  u" AND b.FNr = f.FNr AND b.GNr = g.GNr AND b.BJahr = "_s +
                                  screen.cboBJahr->currentText());
         });
-        if (step.test([&] { return plan.RecordCount() != 0; }))
-            zeigeEintrag(step, plan, screen);
-        else
+        const auto text = [&](const QString& field) { return CStr(plan.Collect(field)); };
+        if (step.test([&] { return plan.RecordCount() != 0; })) {
+            step([&] { screen.lblBNr->setText(text(u"BNr"_s)); });
+            step([&] { screen.cboFArt->setText(text(u"FName"_s)); });
+            step([&] { screen.cboGName->setText(text(u"GName"_s)); });
+            step([&] { screen.txtZeit->setText(modRun::textOderLeer(plan.Fields(u"Zeit"_s))); });
+            step([&] { screen.txtMenge->setText(alsGewicht(plan.Collect(u"Menge"_s))); });
+        } else {
             modRun::MeldeNichtVorhanden();
+        }
         step([&] { plan.Close(); });
     });
 }

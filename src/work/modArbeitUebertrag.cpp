@@ -71,24 +71,20 @@ void loesche(ErrorTail& step, const Recordset& treffer, Recordset& arbeit) {
     if (step.test([&] { return !arbeit.NoMatch(); })) step([&] { arbeit.Delete(); });
 }
 
-void loescheAlle(ErrorTail& step, Recordset& treffer, Recordset& arbeit, qint32 altesJahr) {
-    MsgBox(u"ACHTUNG: Mehrere Übertragseintäge für das Datum 01.01.%1 gefunden !\n\r"_s.arg(altesJahr) +
-               u"Es gehen daher alle Arb.-Einträge dieses Datums verloren !"_s,
-           vbInformation, titel);
-    step([&] { arbeit.Index(u"PrimaryKey"_s); });
-    step.forEachRow(treffer, [&] { loesche(step, treffer, arbeit); });
-}
-
 void loescheTreffer(ErrorTail& step, Recordset& treffer, Recordset& arbeit, qint32 altesJahr) {
     step([&] { treffer.MoveFirst(); });
     step([&] { treffer.MoveLast(); });
     step([&] { treffer.MoveFirst(); });
-    if (step.test([&] { return treffer.RecordCount() == 1; })) {
-        step([&] { arbeit.Index(u"PrimaryKey"_s); });
+    const bool einer = step.test([&] { return treffer.RecordCount() == 1; });
+    if (!einer)
+        MsgBox(u"ACHTUNG: Mehrere Übertragseintäge für das Datum 01.01.%1 gefunden !\n\r"_s.arg(altesJahr) +
+                   u"Es gehen daher alle Arb.-Einträge dieses Datums verloren !"_s,
+               vbInformation, titel);
+    step([&] { arbeit.Index(u"PrimaryKey"_s); });
+    if (einer)
         loesche(step, treffer, arbeit);
-    } else {
-        loescheAlle(step, treffer, arbeit, altesJahr);
-    }
+    else
+        step.forEachRow(treffer, [&] { loesche(step, treffer, arbeit); });
 }
 
 } // namespace
