@@ -102,9 +102,14 @@ void Fangauswertung::setUpGrid() {
     tblFAusw->setEmptyHint(u"Setzen Sie oben Häkchen vor das, wonach Sie aussuchen wollen.\n"_s
                            u"Dann drücken Sie „Suchen“."_s);
     tblFAusw->setAccessibleName(u"Gefundene Fänge"_s);
-    on(tblFAusw, &DataTable::OnGridCellDown, [this](int row, int) { tblFAusw_OnGridCellDown(row); });
+    on(tblFAusw, &DataTable::OnGridCellDown, [this](int row, int) {
+        session().KontextZeileOK = row >= 0;
+        if (row >= 0) setGridRow(row);
+    });
     on(tblFAusw, &DataTable::OnGridCellOpen, [this](int row, int) { tblFAusw_OnGridCellOpen(row); });
-    on(tblFAusw, &DataTable::OnGridCellMenu, [this] { tblFAusw_OnGridCellMenu(); });
+    on(tblFAusw, &DataTable::OnGridCellMenu, [this] {
+        if (tblFAusw->rowCount() >= 1 && session().KontextZeileOK) rahmen()->loadKontMenu_FAusw();
+    });
     modRun::connectGridFocus(tblFAusw);
     modRun::leereAuswahlBeiFokus(tblFAusw);
 }
@@ -130,10 +135,7 @@ void Fangauswertung::Form_Load() {
 
 void Fangauswertung::Form_Activate() {
     // Filling the two lists drops what is chosen in them. The choice must survive a report.
-    if (session().NachReport) {
-        session().NachReport = false;
-        return;
-    }
+    if (std::exchange(session().NachReport, false)) return;
     modBasis::loadcboFArt(cboFArt);
     modBasis::loadcboGName(cboGName);
 }
@@ -152,34 +154,17 @@ void Fangauswertung::tbSuch_Click() {
 }
 
 void Fangauswertung::tbExcel_Click() {
-    erzeugeAufWunsch(
-        *tblFAusw,
-        u"Wollen Sie eine in Excel zu importierende Datei mit der Bezeichnung - FANG.csv - erzeugen ?\n\r"_s
-        u"ACHTUNG: Der Datei liegen die gerade erzeugten Fangdaten zugrunde ! "_s
-        u"Wollen Sie die Datei jetzt erzeugen ?"_s,
-        u"Keine Daten zum erzeugen der Datei - FANG.csv - gefunden, der Vorgang wird abgebrochen !"_s,
-        &modFAuswert::ErzeugeFangDatei);
+    erzeugeAufWunsch(*tblFAusw, u"FANG.csv"_s, u"gerade erzeugten Fangdaten"_s,
+                     &modFAuswert::ErzeugeFangDatei);
 }
 
 void Fangauswertung::drucke(const QString& wort) {
     modFAuswert::DruckeFangListe(wort);
 }
 
-void Fangauswertung::tblFAusw_OnGridCellDown(int row) {
-    session().KontextZeileOK = row >= 0;
-    if (row >= 0) setGridRow(row);
-}
-
-void Fangauswertung::tblFAusw_OnGridCellMenu() {
-    if (tblFAusw->rowCount() >= 1 && session().KontextZeileOK) rahmen()->loadKontMenu_FAusw();
-}
-
 void Fangauswertung::tblFAusw_OnGridCellOpen(int row) {
     if (row < 0) return;
-    if (!modFangbuch::FangbuchZugriff_Erlaubt()) {
-        modRun::MeldeKeinZugriff();
-        return;
-    }
+    if (!modFangbuch::FangbuchZugriff_Erlaubt()) return modRun::MeldeKeinZugriff();
     modFangbuch::FangAnzeigeLoeschen();
     setGridRow(row);
     // Open the record before Show(), or the catch book fills its lists for a new entry.

@@ -84,7 +84,5 @@ private:
     void tbSuch_Click();
     void tbExcel_Click();
     void drucke(const QString& wort);
-    void tblFAusw_OnGridCellDown(int row);
     void tblFAusw_OnGridCellOpen(int row);
-    void tblFAusw_OnGridCellMenu();
 };

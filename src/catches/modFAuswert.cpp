@@ -11,7 +11,6 @@
 #include "Kalendernamen.h"
 #include "MsgBox.h"
 #include "Screens.h"
-#include "SeqData.h"
 #include "Session.h"
 #include "SqlText.h"
 #include "modFangbuch.h"
@@ -154,29 +153,15 @@ void schreibeZeile(CsvDatei& datei, const DataTable& grid, int row) {
     datei.endLine();
 }
 
-void schreibeDatei(const DataTable& grid) {
-    CsvDatei datei(SeqData::path(programFolder(), u"FANG.csv"_s));
-    for (const QString& head :
-         {u"FangNr"_s, u"Fischart"_s, u"Gewässer"_s, u"Fangdatum(jjjj.m)"_s, u"Anzahl"_s, u"Gewicht"_s})
-        datei.writeHead(head);
-    datei.endLine();
-    for (int row = 0; row < grid.rowCount(); ++row) schreibeZeile(datei, grid, row);
-    datei.close();
-}
-
 } // namespace
 
 void ErzeugeFangDatei() {
     schreibeFuerExcel(
-        [] { schreibeDatei(*the<Fangauswertung>().tblFAusw); },
-        u"ACHTUNG: Ein unerwarteter Fehler trat beim Erzeugen der Fangdatei - FANG.csv - auf !"_s,
-        u"Datei - FANG.CSV - wurde erfolgreich im Pfad: ..\\uferwart\\seqdata\\ erstellt !"_s,
-        &StarteExcelFang);
+        *the<Fangauswertung>().tblFAusw, u"FANG.csv"_s, u"der Fangdatei"_s,
+        {u"FangNr"_s, u"Fischart"_s, u"Gewässer"_s, u"Fangdatum(jjjj.m)"_s, u"Anzahl"_s, u"Gewicht"_s},
+        &schreibeZeile, &StarteExcelFang);
 }
 
-void StarteExcelFang() {
-    zeigeInExcel(SeqData::path(programFolder(), u"Fang.csv"_s),
-                 {u"A:A"_s, u"B:B"_s, u"C:C"_s, u"D:D"_s, u"E:E"_s, u"F:F"_s});
-}
+void StarteExcelFang() { zeigeInExcel(u"Fang.csv"_s, 6); }
 
 } // namespace modFAuswert

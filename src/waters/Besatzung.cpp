@@ -89,10 +89,7 @@ void Besatzung::Form_Load() {
 
 void Besatzung::Form_Activate() {
     // After a report the chosen year and the typed entry must stay.
-    if (session().NachReport) {
-        session().NachReport = false;
-        return;
-    }
+    if (std::exchange(session().NachReport, false)) return;
     if (isEditing()) return;
     modBasis::loadcboFArt(cboFArt);
     modBasis::loadcboGName(cboGName);
@@ -126,13 +123,8 @@ void Besatzung::leereOffenen() {
 
 void Besatzung::tbExcel_Click() {
     leereOffenen();
-    erzeugeAufWunsch(
-        *tblBList,
-        u"Wollen Sie eine in Excel zu importierende Datei mit der Bezeichnung - BPLAN.csv - erzeugen ?\n\r"_s
-        u"ACHTUNG: Der Datei liegen die in der Tabelle angezeigten Daten zugrunde ! "_s
-        u"Wollen Sie die Datei jetzt erzeugen ?"_s,
-        u"Keine Daten zum erzeugen der Datei - BPLAN.csv - gefunden, der Vorgang wird abgebrochen !"_s,
-        &modBesatzList::ErzeugeBPlanDatei);
+    erzeugeAufWunsch(*tblBList, u"BPLAN.csv"_s, u"in der Tabelle angezeigten Daten"_s,
+                     &modBesatzList::ErzeugeBPlanDatei);
 }
 
 void Besatzung::drucke(const QString& wort) {

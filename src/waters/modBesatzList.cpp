@@ -15,7 +15,6 @@
 #include "Namen.h"
 #include "Recordset.h"
 #include "Screens.h"
-#include "SeqData.h"
 #include "Session.h"
 
 #include <array>
@@ -189,29 +188,14 @@ void schreibeZeile(CsvDatei& datei, const DataTable& grid, int row) {
     datei.endLine();
 }
 
-void schreibeDatei(const DataTable& grid) {
-    CsvDatei datei(SeqData::path(programFolder(), u"BPLAN.csv"_s));
-    for (const QString& head :
-         {u"Besatz.- Nr"_s, u"Fischart"_s, u"Gewässer"_s, u"Zeitpunkt"_s, u"Menge i. KG"_s})
-        datei.writeHead(head);
-    datei.endLine();
-    for (int row = 0; row < grid.rowCount(); ++row) schreibeZeile(datei, grid, row);
-    datei.close();
-}
-
 } // namespace
 
 void ErzeugeBPlanDatei() {
-    schreibeFuerExcel(
-        [] { schreibeDatei(*the<Besatzung>().tblBList); },
-        u"ACHTUNG: Ein unerwarteter Fehler trat beim Erzeugen des Besatzungsplanes - BPLAN.csv - auf !"_s,
-        u"Datei - BPLAN.CSV - wurde erfolgreich im Pfad: ..\\uferwart\\seqdata\\ erstellt !"_s,
-        &StarteExcelBPlan);
+    schreibeFuerExcel(*the<Besatzung>().tblBList, u"BPLAN.csv"_s, u"des Besatzungsplanes"_s,
+                      {u"Besatz.- Nr"_s, u"Fischart"_s, u"Gewässer"_s, u"Zeitpunkt"_s, u"Menge i. KG"_s},
+                      &schreibeZeile, &StarteExcelBPlan);
 }
 
-void StarteExcelBPlan() {
-    zeigeInExcel(SeqData::path(programFolder(), u"BPLAN.csv"_s),
-                 {u"A:A"_s, u"B:B"_s, u"C:C"_s, u"D:D"_s, u"E:E"_s});
-}
+void StarteExcelBPlan() { zeigeInExcel(u"BPLAN.csv"_s, 5); }
 
 } // namespace modBesatzList

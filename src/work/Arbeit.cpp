@@ -64,7 +64,10 @@ void Arbeit::layOutMember() {
     setUp(cmdMList, u"liste"_s, u"Zurück zur Mitgliederliste"_s);
     cmdMList->setEnabled(false);
     on(cmdSuch, &QPushButton::clicked, [this](bool) { cmdSuch_Click(); });
-    on(cmdMList, &QPushButton::clicked, [this](bool) { cmdMList_Click(); });
+    on(cmdMList, &QPushButton::clicked, [this](bool) {
+        Hide();
+        rahmen()->zeigeMitgliederliste();
+    });
 
     constexpr int middle = 2;
     constexpr int right = 5;
@@ -135,6 +138,16 @@ void uebernehmeTreffer(SuchKont& suche, int row) {
     modArbeit::UebernehmeKontakt(row);
 }
 
+/// Skips a statement that fails on a number missing from the screen, as happens while no member is shown.
+template<typename Statement>
+void soweitMitglied(Statement&& statement) {
+    try {
+        statement();
+    } catch (const RuntimeError& error) {
+        if (!error.is(RuntimeError::typesDiffer)) throw;
+    }
+}
+
 } // namespace
 
 void Arbeit::Form_Load() {
@@ -149,12 +162,8 @@ void Arbeit::Form_Load() {
 }
 
 void Arbeit::Form_Activate() {
-    if (m_uebergabe)
-        m_uebergabe = false;
-    else if (session().NachReport)
-        session().NachReport = false;
-    else
-        the<SuchKont>().ShowModal();
+    if (std::exchange(m_uebergabe, false) || std::exchange(session().NachReport, false)) return;
+    the<SuchKont>().ShowModal();
 }
 
 void Arbeit::Form_Deactivate() {
@@ -178,25 +187,6 @@ void Arbeit::cmdSuch_Click() {
     modKontakt::SuchAnzeigeLoeschen();
     the<SuchKont>().ShowModal();
 }
-
-void Arbeit::cmdMList_Click() {
-    Hide();
-    rahmen()->zeigeMitgliederliste();
-}
-
-namespace {
-
-/// Skips a statement that fails on a number missing from the screen, as happens while no member is shown.
-template<typename Statement>
-void soweitMitglied(Statement&& statement) {
-    try {
-        statement();
-    } catch (const RuntimeError& error) {
-        if (!error.is(RuntimeError::typesDiffer)) throw;
-    }
-}
-
-} // namespace
 
 void Arbeit::cboArbJahr_Click() {
     try {

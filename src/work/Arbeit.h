@@ -73,7 +73,6 @@ private:
 
     void drucke(const QString& wort);
     void cmdSuch_Click();
-    void cmdMList_Click();
     void cboArbJahr_Click();
     void tblArbStd_OnGridCellOpen(int row);
 
