@@ -1,17 +1,14 @@
 #include "modFangbuch.h"
 
 #include "Conversions.h"
-#include "Datenbank.h"
 #include "Datensatz.h"
 #include "Eingaben.h"
 #include "ErrorTail.h"
 #include "Fangbuch.h"
 #include "Feldwerte.h"
 #include "Kalendernamen.h"
-#include "Meldungen.h"
 #include "MsgBox.h"
 #include "Namen.h"
-#include "Recordset.h"
 #include "Screens.h"
 #include "Session.h"
 #include "Zugriff.h"
@@ -148,13 +145,10 @@ void loadFang(DataTable* grid, int row) {
 
 void FangAnzeigeLoeschen() {
     Fangbuch& screen = the<Fangbuch>();
+    for (TextBox* box : {screen.txtFangMonat, screen.txtMonNr, screen.txtAnzahl, screen.txtGewicht})
+        box->setText(QString());
+    for (ComboBox* list : {screen.cboFArt, screen.cboGName}) list->setListIndex(-1);
     screen.lblFNr->setText(QString());
-    screen.txtFangMonat->setText(QString());
-    screen.txtMonNr->setText(QString());
-    screen.cboFArt->setListIndex(-1);
-    screen.cboGName->setListIndex(-1);
-    screen.txtAnzahl->setText(QString());
-    screen.txtGewicht->setText(QString());
     screen.txtNotiz->setText(QString());
 }
 

@@ -3,17 +3,14 @@
 #include "Besatzung.h"
 #include "Conversions.h"
 #include "CsvDatei.h"
-#include "Datenbank.h"
 #include "Datensatz.h"
 #include "Eingaben.h"
 #include "ErrorTail.h"
 #include "ExcelAusgabe.h"
 #include "Feldwerte.h"
 #include "Format.h"
-#include "Meldungen.h"
 #include "MsgBox.h"
 #include "Namen.h"
-#include "Recordset.h"
 #include "Screens.h"
 #include "Session.h"
 
@@ -166,10 +163,8 @@ void loadEintrag(DataTable* grid, int row) {
 
 void BesatzAnzeigeLoeschen() {
     Besatzung& screen = the<Besatzung>();
-    screen.txtMenge->setText(QString());
-    screen.txtZeit->setText(QString());
-    screen.cboFArt->setListIndex(-1);
-    screen.cboGName->setListIndex(-1);
+    for (TextBox* box : {screen.txtMenge, screen.txtZeit}) box->setText(QString());
+    for (ComboBox* list : {screen.cboFArt, screen.cboGName}) list->setListIndex(-1);
     screen.lblBNr->setText(QString());
 }
 
@@ -188,6 +183,8 @@ void schreibeZeile(CsvDatei& datei, const DataTable& grid, int row) {
     datei.endLine();
 }
 
+void StarteExcelBPlan() { zeigeInExcel(u"BPLAN.csv"_s, 5); }
+
 } // namespace
 
 void ErzeugeBPlanDatei() {
@@ -195,7 +192,5 @@ void ErzeugeBPlanDatei() {
                       {u"Besatz.- Nr"_s, u"Fischart"_s, u"Gewässer"_s, u"Zeitpunkt"_s, u"Menge i. KG"_s},
                       &schreibeZeile, &StarteExcelBPlan);
 }
-
-void StarteExcelBPlan() { zeigeInExcel(u"BPLAN.csv"_s, 5); }
 
 } // namespace modBesatzList

@@ -28,8 +28,6 @@ bool BesatzEingabeVollstaendig();
 
 /// Writes the grid to BPLAN.csv and offers to open it.
 void ErzeugeBPlanDatei();
-/// Opens BPLAN.csv in the spreadsheet program.
-void StarteExcelBPlan();
 
 /// Prints the grid (`wort` is "drucken") or shows its preview ("vorschau").
 void DruckeBPlanListe(const QString& wort);
