@@ -31,8 +31,8 @@ Datensatz::Danach lies(ErrorTail& step, std::vector<Value>& zeile) {
     return Datensatz::lies(step, zeile, {u"BNr"_s, u"FNr"_s, u"GNr"_s, u"Zeit"_s, u"Menge"_s});
 }
 
-/// Turns the values of lies() into those of a grid row: names instead of numbers, and the weight
-/// as text.
+/// Turns the values of lies() into those of a grid row: names instead of numbers, and the weight as
+/// text.
 void fuelleZeile(ErrorTail& step, std::vector<Value>& zeile) {
     const auto name = [](const Value& number, QString (*ermittle)(qint32)) {
         const KeptErrorCount kept;

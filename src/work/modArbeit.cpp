@@ -185,11 +185,10 @@ bool schuldetStunden(ErrorTail& step, const QString& knr) {
     const bool befreit = gefunden && step.test([&] { return mitglied.Collect(u"Befreit"_s) == Value(true); });
     if (!gefunden) modRun::MeldeNichtVorhanden();
     if (befreit)
-        MsgBox(
-            u"Mitglied ist von Arb.-Std. befreit ! Übernahme ins Arbeitscontrolling wurde abgebrochen !\r\n\r\n"_s
-            u"Um eine Stundenverwaltung zu ermöglichen, müssen Sie erst den Status auf - nicht Befreit - "_s
-            u"setzen.\r\n\r\nNähere Angaben dazu enthält die Online - Hilfe !"_s,
-            vbInformation);
+        MsgBox(u"Mitglied ist von Arb.-Std. befreit ! Übernahme ins Arbeitscontrolling wurde "_s
+               u"abgebrochen !\r\n\r\nUm eine Stundenverwaltung zu ermöglichen, müssen Sie erst den Status "_s
+               u"auf - nicht Befreit - setzen.\r\n\r\nNähere Angaben dazu enthält die Online - Hilfe !"_s,
+               vbInformation);
     step([&] { mitglied.Close(); });
     return gefunden && !befreit;
 }
