@@ -56,14 +56,6 @@ QVBoxLayout* column(QWidget* screen, Heading* heading, Toolbar* toolbar) {
     return rest;
 }
 
-QVBoxLayout* page(QTabWidget* tabs, const QString& caption) {
-    auto* made = new QVBoxLayout(new QWidget(tabs));
-    made->setContentsMargins(gap, gap, gap, gap);
-    made->setSpacing(gap);
-    tabs->addTab(made->parentWidget(), caption);
-    return made;
-}
-
 void column(QWidget* screen, Heading* heading, Toolbar* toolbar, const QVector<QWidget*>& parts,
             QWidget* highest) {
     QVBoxLayout* rest = column(screen, heading, toolbar);

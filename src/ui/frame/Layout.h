@@ -32,8 +32,6 @@ QVBoxLayout* column(QWidget* window);
 /// Lays out a screen on the stage: heading, toolbar and a column for the rest. Returns the column for the
 /// rest.
 QVBoxLayout* column(QWidget* screen, Heading* heading, Toolbar* toolbar);
-/// Adds a page. Returns the column inside it.
-QVBoxLayout* page(QTabWidget* tabs, const QString& caption);
 /// The same with these parts one below the other. Height that is left goes to `highest`.
 void column(QWidget* screen, Heading* heading, Toolbar* toolbar, const QVector<QWidget*>& parts,
             QWidget* highest);
