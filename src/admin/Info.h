@@ -1,10 +1,7 @@
 #pragma once
 
+#include "Layout.h"
 #include "Screen.h"
-
-class QGroupBox;
-class QLabel;
-class QPushButton;
 
 /// Shows the program's name and version and the address of the club.
 class Info : public Screen {
@@ -19,20 +16,24 @@ public:
     /// Shows the club's address as last saved. Call after each change of Session::Anschrift.
     void zeigeAnschrift();
 
-    QLabel* lblTitle;
-    QLabel* lblDescription;
-    QGroupBox* fraVerein;
-    QLabel* lblVerein;
-    QLabel* lblStrasse;
-    QLabel* lblPLZ;
-    QLabel* lblOrt;
-    QLabel* lblTelefon;
-    QLabel* lblHersteller;
-    QLabel* lblRechte;
-    QPushButton* cmdSysInfo;
-    QPushButton* cmdOK;
-
-private:
-    QLabel* addValue(const QString& name);
-    void cmdOK_Click();
+    QLabel* const lblTitle = Layout::label(u"lblTitle", u"Uferwart Version 2.0", this);
+    QLabel* const lblDescription = Layout::label(u"lblDescription",
+                                                 u"Software für Angelsportvereine.\n"
+                                                 u"- Professionelle Fangaufnahme\n"
+                                                 u"- Fangauswertung mit Datenexport zu EXCEL\n"
+                                                 u"- Fanglistendruck\n"
+                                                 u"- Verwaltungsmöglichkeiten v. Mitgliedern u. Kontakten\n"
+                                                 u"- Softwareunterstützes Verwalten der Arbeitsstunden u.s.w",
+                                                 this);
+    QGroupBox* const fraVerein = Layout::frame(u"fraVerein", u"Lizenziert für...", this);
+    QLabel* const lblVerein = Layout::label(u"lblVerein", {}, fraVerein);
+    QLabel* const lblStrasse = Layout::label(u"lblStrasse", {}, fraVerein);
+    QLabel* const lblPLZ = Layout::label(u"lblPLZ", {}, fraVerein);
+    QLabel* const lblOrt = Layout::label(u"lblOrt", {}, fraVerein);
+    QLabel* const lblTelefon = Layout::label(u"lblTelefon", {}, fraVerein);
+    QLabel* const lblHersteller = Layout::label(u"lblHersteller", u"Uferwart - die Gründer", this);
+    QLabel* const lblRechte =
+        Layout::label(u"lblRechte", u"Freie Software unter der MIT-Lizenz, ohne Gewähr.", this);
+    QPushButton* const cmdSysInfo = Layout::button(u"cmdSysInfo", u"&System Info...", this);
+    QPushButton* const cmdOK = Layout::button(u"cmdOK", u"OK", this);
 };

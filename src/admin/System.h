@@ -1,13 +1,9 @@
 #pragma once
 
+#include "DataTable.h"
+#include "Layout.h"
 #include "Screen.h"
-
-class DataTable;
-class Heading;
-class QGroupBox;
-class QLabel;
-class TextBox;
-class Toolbar;
+#include "TextBox.h"
 
 /// The club's parameters and address.
 class System : public Screen {
@@ -18,28 +14,26 @@ public:
 
     void Form_Deactivate() override;
 
-    Heading* Ueberschrift;
-    Toolbar* Toolbar1;
+    Heading* const Ueberschrift = new Heading(u"SYSTEMPARAMETER", this);
+    Toolbar* const Toolbar1 = buildToolbar();
 
-    QGroupBox* Frame3;
-    TextBox* txtVerein;
-    TextBox* txtStrasse;
-    TextBox* txtPLZ;
-    TextBox* txtOrt;
-    TextBox* txtTelefon;
+    QGroupBox* const Frame3 = Layout::frame(u"Frame3", u"Ihre Adressdaten...", this);
+    TextBox* const txtVerein = new TextBox(u"txtVerein", Frame3);
+    TextBox* const txtStrasse = new TextBox(u"txtStrasse", Frame3);
+    TextBox* const txtPLZ = new TextBox(u"txtPLZ", Frame3);
+    TextBox* const txtOrt = new TextBox(u"txtOrt", Frame3);
+    TextBox* const txtTelefon = new TextBox(u"txtTelefon", Frame3);
 
-    QGroupBox* Frame2;
-    DataTable* tblSystem;
+    QGroupBox* const Frame2 = Layout::frame(u"Frame2", u"Aktuelle Systemparameter...", this);
+    DataTable* const tblSystem = new DataTable(u"tblSystem", Frame2);
 
-    QGroupBox* Frame1;
-    TextBox* txtJB;
-    TextBox* txtFJahr;
-    TextBox* txtArbStd;
-    QLabel* lblStd;
+    QGroupBox* const Frame1 = Layout::frame(u"Frame1", u"Systemparameter editieren...", this);
+    TextBox* const txtJB = new TextBox(u"txtJB", Frame1);
+    TextBox* const txtFJahr = new TextBox(u"txtFJahr", Frame1);
+    TextBox* const txtArbStd = new TextBox(u"txtArbStd", Frame1);
 
 private:
-    void buildAddress();
-    void buildGrid();
-    void buildParameters();
-    void tblSystem_OnGridCellOpen(int row);
+    Toolbar* buildToolbar();
+    void layOutAddress();
+    void layOutParameters();
 };

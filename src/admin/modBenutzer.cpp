@@ -1,25 +1,13 @@
 #include "modBenutzer.h"
 
 #include "Benutzer.h"
-#include "ComboBox.h"
 #include "Conversions.h"
-#include "DataTable.h"
-#include "Datenbank.h"
 #include "Datensatz.h"
 #include "Eingaben.h"
-#include "ErrorTail.h"
-#include "Feldwerte.h"
-#include "Gitter.h"
-#include "Meldungen.h"
 #include "MsgBox.h"
 #include "Rechte.h"
 #include "Screens.h"
 #include "SqlText.h"
-#include "TextBox.h"
-#include "ValueLabel.h"
-
-#include <QCheckBox>
-#include <QTabWidget>
 
 using namespace Qt::StringLiterals;
 
@@ -29,13 +17,49 @@ namespace {
 
 const QString modul = u"modBenutzer"_s;
 
-/// First column of rights in the grid of groups, after number and name.
-constexpr int ersteRechteSpalte = 2;
 /// Column of the group's name in the grid of users.
 constexpr int gruppenSpalte = 3;
 
-void zeigeAnzahl(ValueLabel* label, const DataTable* grid) {
-    label->setText(QString::number(grid->rowCount()));
+/// The fields of a group's grid row: number, name and the rights.
+QStringList felderDerZeile() {
+    QStringList felder = {u"GNr"_s, u"GName"_s};
+    for (const Recht& recht : rechte) felder.append(recht.feld.toString());
+    return felder;
+}
+
+/// The number of the first group of this name; 0 after a message box if there is none.
+qint32 ErmittleGNr(const QString& name) {
+    qint32 gnr = 0;
+    withErrorTail(modul, u"ErmittleGNr"_s, [&](ErrorTail& step) {
+        Recordset gruppe;
+        step([&] { gruppe = oeffneAbfrage(u"SELECT GNr FROM Gruppen WHERE GName = "_s + quoted(name)); });
+        if (step.test([&] { return gruppe.RecordCount() != 1; }))
+            MsgBox(u"Keine Benutzergruppe angelegt! Bitte legen Sie zuerst eine Gruppe an."_s, vbCritical);
+        else
+            step([&] { gnr = CLng(gruppe.Collect(u"GNr"_s)); });
+        step([&] { gruppe.Close(); });
+    });
+    return gnr;
+}
+
+/// The name of a group; "0" if there is none.
+QString ErmittleGName(qint32 gnr) {
+    QString name;
+    // The message box names another routine. Users know its text, so keep it.
+    schlageNach(
+        u"modBasis"_s, u"SpeicherFisch"_s,
+        [gnr] { return u"SELECT GName FROM Gruppen WHERE GNr = %1"_s.arg(gnr); },
+        [&](const Recordset& gruppe) { name = CStr(gruppe.Collect(u"GName"_s)); }, [&] { name = u"0"_s; });
+    return name;
+}
+
+/// Writes the check boxes into the copy buffer of a record of Gruppen.
+void SichereZugriff(Recordset& gruppe) {
+    withErrorTail(modul, u"SichereZugriff"_s, [&](ErrorTail& step) {
+        auto box = the<Benutzer>().Zugriffe.cbegin();
+        for (const Recht& recht : rechte)
+            step([&] { gruppe.Collect(recht.feld.toString(), (*box++)->isChecked()); });
+    });
 }
 
 Datensatz::Felder felderDesBenutzers(ErrorTail& step, const Benutzer& screen, qint32 gnr) {
@@ -49,36 +73,8 @@ Datensatz::Felder felderDesBenutzers(ErrorTail& step, const Benutzer& screen, qi
 Datensatz::Felder felderDerGruppe(ErrorTail& step, const Benutzer& screen) {
     return [&](Recordset& gruppe) {
         step([&] { gruppe.Collect(u"GName"_s, screen.txtGruppe->text()); });
-        step([&] { SichereZugriff(gruppe); });
+        SichereZugriff(gruppe);
     };
-}
-
-/// Reads the fields of a group's grid row from the record just written.
-Datensatz::Danach liesGruppe(ErrorTail& step, std::vector<Value>& zeile) {
-    QStringList felder = {u"GNr"_s, u"GName"_s};
-    for (const Recht& recht : rechte()) felder.append(recht.feld);
-    return Datensatz::lies(step, zeile, felder);
-}
-
-void leereBenutzer(const Benutzer& screen) {
-    screen.lblBNr->setText(QString());
-    for (TextBox* box : {screen.txtBenutzer, screen.txtPassw, screen.txtPasswBest}) box->setText(QString());
-    screen.cboBG->setText(QString());
-    screen.cboBG->setListIndex(-1);
-}
-
-void leereGruppe(const Benutzer& screen) {
-    screen.lblGNr->setText(QString());
-    screen.txtGruppe->setText(QString());
-    for (QCheckBox* box : screen.Zugriffe) box->setChecked(false);
-}
-
-} // namespace
-
-std::vector<Value> gruppenZeile(const Recordset& gruppe) {
-    std::vector<Value> zeile = {gruppe.Collect(u"GNr"_s), gruppe.Collect(u"GName"_s)};
-    for (const Recht& recht : rechte()) zeile.push_back(gruppe.Collect(recht.feld));
-    return zeile;
 }
 
 void SpeicherBenutzer() {
@@ -86,18 +82,16 @@ void SpeicherBenutzer() {
         const Benutzer& screen = the<Benutzer>();
         const qint32 gnr = ErmittleGNr(screen.cboBG->currentText());
         if (gnr == 0) return LeereBenutzerEingabe();
-        std::vector<Value> zeile;
+        auto zeile = Datensatz::speichere(step, u"Benutzer"_s, felderDesBenutzers(step, screen, gnr),
+                                          {u"BNr"_s, u"Name"_s, u"Passwort"_s, u"GNr"_s});
         QString gruppe;
-        if (Datensatz::speichere(
-                step, u"Benutzer"_s, felderDesBenutzers(step, screen, gnr),
-                Datensatz::lies(step, zeile, {u"BNr"_s, u"Name"_s, u"Passwort"_s, u"GNr"_s})))
-            step([&] { gruppe = ErmittleGName(CLng(zeile[gruppenSpalte])); });
+        if (zeile) step([&] { gruppe = ErmittleGName(CLng((*zeile)[gruppenSpalte])); });
         if (gruppe.isEmpty()) return LeereBenutzerEingabe();
-        zeile[gruppenSpalte] = gruppe;
-        step([&] { screen.tblBenutzer->appendRow(zeile); });
+        (*zeile)[gruppenSpalte] = gruppe;
+        screen.tblBenutzer->appendRow(*zeile);
         screen.tblBenutzer->markRow(screen.tblBenutzer->rowCount());
         LeereBenutzerEingabe();
-        zeigeAnzahl(screen.lblBAnzahl, screen.tblBenutzer);
+        screen.lblBAnzahl->setNum(screen.tblBenutzer->rowCount());
     });
 }
 
@@ -131,10 +125,8 @@ void LoescheBenutzer(int row) {
     withErrorTail(modul, u"LoescheBenutzer"_s, [row](ErrorTail& step) {
         const Benutzer& screen = the<Benutzer>();
         if (Datensatz::loesche(step, u"Benutzer"_s, screen.lblBNr->text())) {
-            step([&] {
-                screen.tblBenutzer->removeRow(screen.tblBenutzer->rowOf(screen.lblBNr->text(), row));
-            });
-            zeigeAnzahl(screen.lblBAnzahl, screen.tblBenutzer);
+            screen.tblBenutzer->removeRow(screen.tblBenutzer->rowOf(screen.lblBNr->text(), row));
+            screen.lblBAnzahl->setNum(screen.tblBenutzer->rowCount());
         }
         LeereBenutzerEingabe();
     });
@@ -143,14 +135,13 @@ void LoescheBenutzer(int row) {
 void SpeicherBG() {
     withErrorTail(modul, u"SpeicherBG"_s, [](ErrorTail& step) {
         const Benutzer& screen = the<Benutzer>();
-        std::vector<Value> zeile;
-        if (Datensatz::speichere(step, u"Gruppen"_s, felderDerGruppe(step, screen),
-                                 liesGruppe(step, zeile))) {
-            step([&] { screen.tblZugriff->appendRow(zeile); });
+        if (const auto zeile =
+                Datensatz::speichere(step, u"Gruppen"_s, felderDerGruppe(step, screen), felderDerZeile())) {
+            screen.tblZugriff->appendRow(*zeile);
             screen.tblZugriff->markRow(screen.tblZugriff->rowCount());
         }
         LeereBenutzerEingabe();
-        zeigeAnzahl(screen.lblGAnzahl, screen.tblZugriff);
+        screen.lblGAnzahl->setNum(screen.tblZugriff->rowCount());
         LadeGruppenCombo(screen.cboBG);
     });
 }
@@ -158,13 +149,13 @@ void SpeicherBG() {
 void UpdateBG(int row) {
     withErrorTail(modul, u"UpdateBG"_s, [row](ErrorTail& step) {
         const Benutzer& screen = the<Benutzer>();
-        std::vector<Value> zeile;
-        if (Datensatz::aendere(step, u"Gruppen"_s, screen.lblGNr->text(), felderDerGruppe(step, screen),
-                               liesGruppe(step, zeile)))
+        const auto zeile = Datensatz::aendere(step, u"Gruppen"_s, screen.lblGNr->text(),
+                                              felderDerGruppe(step, screen), felderDerZeile());
+        if (zeile)
             step([&] {
                 const int dort = screen.tblZugriff->rowOf(screen.lblGNr->text(), row);
-                for (std::size_t column = 1; column < zeile.size(); ++column)
-                    screen.tblZugriff->setCell(dort, static_cast<int>(column), zeile[column]);
+                for (std::size_t column = 1; column < zeile->size(); ++column)
+                    screen.tblZugriff->setCell(dort, static_cast<int>(column), (*zeile)[column]);
                 screen.tblZugriff->markRow(dort);
             });
         LeereBenutzerEingabe();
@@ -175,93 +166,96 @@ void LoescheZugriff(int row) {
     withErrorTail(modul, u"LoescheZugriff"_s, [row](ErrorTail& step) {
         const Benutzer& screen = the<Benutzer>();
         if (Datensatz::loesche(step, u"Gruppen"_s, screen.lblGNr->text())) {
-            step([&] { screen.tblZugriff->removeRow(screen.tblZugriff->rowOf(screen.lblGNr->text(), row)); });
-            zeigeAnzahl(screen.lblGAnzahl, screen.tblZugriff);
+            screen.tblZugriff->removeRow(screen.tblZugriff->rowOf(screen.lblGNr->text(), row));
+            screen.lblGAnzahl->setNum(screen.tblZugriff->rowCount());
             // Shows the number of groups as the number of users until the next Form_Paint.
-            zeigeAnzahl(screen.lblBAnzahl, screen.tblZugriff);
-            step([&] {
-                modRun::GridVerweiseAbgleichen(screen.tblBenutzer, gruppenSpalte, screen.txtGruppe->text(),
-                                               u"LOESCHEN"_s, QString());
-            });
+            screen.lblBAnzahl->setNum(screen.tblZugriff->rowCount());
+            screen.tblBenutzer->removeRowsWithText(gruppenSpalte, screen.txtGruppe->text());
             LadeGruppenCombo(screen.cboBG);
         }
         LeereBenutzerEingabe();
     });
 }
 
-qint32 ErmittleGNr(const QString& name) {
-    qint32 gnr = 0;
-    withErrorTail(modul, u"ErmittleGNr"_s, [&](ErrorTail& step) {
-        Recordset gruppe;
-        step([&] { gruppe = oeffneAbfrage(u"SELECT GNr FROM Gruppen WHERE GName = "_s + quoted(name)); });
-        if (step.test([&] { return gruppe.RecordCount() != 1; }))
-            MsgBox(u"Keine Benutzergruppe angelegt! Bitte legen Sie zuerst eine Gruppe an."_s, vbCritical);
-        else
-            step([&] { gnr = CLng(gruppe.Collect(u"GNr"_s)); });
-        step([&] { gruppe.Close(); });
-    });
-    return gnr;
+/// True if name and group are filled and both passwords are equal, in case too; false after a message box. A
+/// password may be empty. Different passwords empty the entry fields.
+bool PruefeBenutzerEingabe() {
+    const Benutzer& screen = the<Benutzer>();
+    if (!modRun::fehlerfrei(modRun::erstesLeere({screen.txtBenutzer, screen.cboBG}))) return false;
+    if (screen.txtPassw->text() == screen.txtPasswBest->text()) return true;
+    MsgBox(u"Passwortbestätigung stimmt nicht mit Passwort überein\n\rBitte versuchen Sie es nochmal !"_s,
+           vbInformation);
+    LeereBenutzerEingabe();
+    return false;
 }
 
-QString ErmittleGName(qint32 gnr) {
-    QString name;
-    // The message box names another routine. Users know its text, so keep it.
-    withErrorTail(u"modBasis"_s, u"SpeicherFisch"_s, [&](ErrorTail& step) {
-        Recordset gruppe;
-        step([&] {
-            gruppe = oeffneAbfrage(u"SELECT GName FROM Gruppen WHERE GNr = "_s + QString::number(gnr));
-        });
-        if (step.test([&] { return gruppe.RecordCount() == 1; }))
-            step([&] { name = CStr(gruppe.Collect(u"GName"_s)); });
-        else
-            name = u"0"_s;
-        step([&] { gruppe.Close(); });
-    });
-    return name;
+bool PruefeGruppenEingabe() { return modRun::fehlerfrei(modRun::erstesLeere({the<Benutzer>().txtGruppe})); }
+
+void leereBenutzer(const Benutzer& screen) {
+    screen.lblBNr->clear();
+    for (TextBox* box : {screen.txtBenutzer, screen.txtPassw, screen.txtPasswBest}) box->setText({});
+    screen.cboBG->setText({});
+    screen.cboBG->setListIndex(-1);
 }
 
-void SichereZugriff(Recordset& gruppe) {
-    withErrorTail(modul, u"SichereZugriff"_s, [&](ErrorTail& step) {
-        auto box = the<Benutzer>().Zugriffe.cbegin();
-        for (const Recht& recht : rechte())
-            step([&] { gruppe.Collect(recht.feld, modRun::WertAusCheckBox(*box++)); });
-    });
+void leereGruppe(const Benutzer& screen) {
+    screen.lblGNr->clear();
+    screen.txtGruppe->setText({});
+    for (QCheckBox* box : screen.Zugriffe) box->setChecked(false);
 }
 
-void LadeZugriff(int row) {
-    withErrorTail(modul, u"LadeZugriff"_s, [row](ErrorTail& step) {
-        const Benutzer& screen = the<Benutzer>();
-        int column = ersteRechteSpalte;
-        for (QCheckBox* box : screen.Zugriffe) {
-            step([&] { box->setChecked(screen.tblZugriff->cell(row, column) == Value(true)); });
-            ++column;
-        }
-    });
+} // namespace
+
+void loadTblBenutzer() {
+    fuelleGrid(u"loadTblBenutzer"_s, the<Benutzer>().tblBenutzer,
+               u"SELECT b.BNr, b.Name, b.Passwort, g.GName FROM Benutzer b, Gruppen g WHERE g.GNr = b.GNr"_s,
+               {u"BNr"_s, u"Name"_s, u"Passwort"_s, u"GName"_s});
 }
 
-void LadeBenutzerVorgang() {
-    withErrorTail(modul, u"LadeBenutzerVorgang"_s, [](ErrorTail& step) {
-        Benutzer& screen = the<Benutzer>();
-        const int row = screen.gridRow();
-        LeereBenutzerEingabe();
-        step([&] { screen.lblBNr->setText(screen.tblBenutzer->cellText(row, 0)); });
-        step([&] { screen.txtBenutzer->setText(screen.tblBenutzer->cellText(row, 1)); });
-        step([&] { screen.txtPassw->setText(screen.tblBenutzer->cellText(row, 2)); });
-        step([&] { screen.txtPasswBest->setText(screen.tblBenutzer->cellText(row, 2)); });
-        step([&] { screen.cboBG->setText(screen.tblBenutzer->cellText(row, gruppenSpalte)); });
-        screen.openRecord(screen.lblBNr->text(), row);
-    });
+void loadTblZugriff() {
+    fuelleGrid(u"loadTblZugriff"_s, the<Benutzer>().tblZugriff, u"SELECT * FROM Gruppen"_s, felderDerZeile());
+}
+
+Erfassung benutzerErfassung() {
+    return {.vollstaendig = &PruefeBenutzerEingabe,
+            .speichere = &SpeicherBenutzer,
+            .aendere = &UpdateBenutzer,
+            .loesche = &LoescheBenutzer,
+            .frage = u"Achtung: Benutzer wirklich löschen ?"_s,
+            .beiNein = &LeereBenutzerEingabe};
+}
+
+Erfassung gruppenErfassung() {
+    return {.vollstaendig = &PruefeGruppenEingabe,
+            .speichere = &SpeicherBG,
+            .aendere = &UpdateBG,
+            .loesche = &LoescheZugriff,
+            .frage =
+                u"Achtung: Benutzer - Referenzen in der Benutzertabelle werden ebenfalls gelöscht !\r\n"_s
+                u"Trotzdem löschen ?"_s,
+            .beiNein = &LeereBenutzerEingabe};
+}
+
+void LadeBenutzerVorgang(int row) {
+    Benutzer& screen = the<Benutzer>();
+    const auto text = [&](int column) { return screen.tblBenutzer->cellText(row, column); };
+    LeereBenutzerEingabe();
+    screen.lblBNr->setText(text(0));
+    screen.txtBenutzer->setText(text(1));
+    for (TextBox* box : {screen.txtPassw, screen.txtPasswBest}) box->setText(text(2));
+    screen.cboBG->setText(text(gruppenSpalte));
+    screen.openRecord(screen.lblBNr->text(), row);
 }
 
 void LadeGruppenVorgang(int row) {
-    withErrorTail(modul, u"LadeGruppenVorgang"_s, [row](ErrorTail& step) {
-        Benutzer& screen = the<Benutzer>();
-        LeereBenutzerEingabe();
-        step([&] { screen.lblGNr->setText(screen.tblZugriff->cellText(row, 0)); });
-        step([&] { screen.txtGruppe->setText(screen.tblZugriff->cellText(row, 1)); });
-        LadeZugriff(row);
-        screen.openRecord(screen.lblGNr->text(), row);
-    });
+    Benutzer& screen = the<Benutzer>();
+    LeereBenutzerEingabe();
+    screen.lblGNr->setText(screen.tblZugriff->cellText(row, 0));
+    screen.txtGruppe->setText(screen.tblZugriff->cellText(row, 1));
+    int column = 2; // after number and name
+    for (QCheckBox* box : screen.Zugriffe)
+        box->setChecked(screen.tblZugriff->cell(row, column++) == Value(true));
+    screen.openRecord(screen.lblGNr->text(), row);
 }
 
 void LeereBenutzerEingabe() {
@@ -275,13 +269,6 @@ void LeereBenutzerAnzeige() {
     leereBenutzer(the<Benutzer>());
     leereGruppe(the<Benutzer>());
 }
-
-bool PruefeBenutzerEingabe() {
-    const Benutzer& screen = the<Benutzer>();
-    return modRun::fehlerfrei(modRun::erstesLeere({screen.txtBenutzer, screen.cboBG}));
-}
-
-bool PruefeGruppenEingabe() { return modRun::fehlerfrei(modRun::erstesLeere({the<Benutzer>().txtGruppe})); }
 
 void LadeGruppenCombo(ComboBox* combo) {
     const DataTable* gruppen = the<Benutzer>().tblZugriff;

@@ -12,7 +12,7 @@ void UpdateParameter();
 void UpdateAdresse();
 /// Empties the boxes of the parameters.
 void LeereParameter();
-/// Copies the value of a grid row into the parameter's box, selected and with the focus.
+/// Opens the parameter of a grid row: its value stands in its box, selected and with the focus.
 void LadeParameter(int row);
 
 } // namespace modSystem

@@ -32,17 +32,6 @@ void rewriteFile(const QString& keptIn) {
     Upkeep::replaceDatabase(work, datenbankDatei());
 }
 
-void tellFailure(const RuntimeError& error, const Words& words) {
-    const QString title = u"Runtime - Error: %1"_s.arg(error.number);
-    if (error.is(RuntimeError::cannotBeRepaired)) {
-        MsgBox(words.cannotBeRepaired, vbCritical, title);
-        // The safety copy at the end fails too: no second message box for that.
-        return rahmen()->beendeStill();
-    }
-    MsgBox(words.failure, vbInformation, title);
-    OeffneDatenbank();
-}
-
 /// `keptIn` is the folder for a damaged file. If empty, a damaged file is not repaired but reported.
 void rewriteDatabase(const Words& words, const QString& keptIn = {}) {
     try {
@@ -50,7 +39,14 @@ void rewriteDatabase(const Words& words, const QString& keptIn = {}) {
         MsgBox(words.success, vbInformation);
         OeffneDatenbank();
     } catch (const RuntimeError& error) {
-        tellFailure(error, words);
+        const QString title = u"Runtime - Error: %1"_s.arg(error.number);
+        if (error.is(RuntimeError::cannotBeRepaired)) {
+            MsgBox(words.cannotBeRepaired, vbCritical, title);
+            // The safety copy at the end fails too: no second message box for that.
+            return rahmen()->beendeStill();
+        }
+        MsgBox(words.failure, vbInformation, title);
+        OeffneDatenbank();
     }
 }
 

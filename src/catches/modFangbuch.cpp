@@ -3,7 +3,6 @@
 #include "Conversions.h"
 #include "Datensatz.h"
 #include "Eingaben.h"
-#include "ErrorTail.h"
 #include "Fangbuch.h"
 #include "Feldwerte.h"
 #include "Kalendernamen.h"
@@ -67,12 +66,10 @@ void SpeicherFang() {
         Fangbuch& screen = the<Fangbuch>();
         const Datensatz::Felder eingabe = felder(step);
         if (!eingabe) return;
-        std::vector<Value> zeile;
-        if (Datensatz::speichere(step, u"Fang"_s, eingabe,
-                                 Datensatz::lies(step, zeile,
-                                                 {u"FangNr"_s, u"FischNr"_s, u"GNr"_s, u"FangMonat"_s,
-                                                  u"Anzahl"_s, u"Gewicht"_s})))
-            zeigeNeuen(step, zeile, screen);
+        if (const auto zeile = Datensatz::speichere(
+                step, u"Fang"_s, eingabe,
+                {u"FangNr"_s, u"FischNr"_s, u"GNr"_s, u"FangMonat"_s, u"Anzahl"_s, u"Gewicht"_s}))
+            zeigeNeuen(step, *zeile, screen);
         FangAnzeigeLoeschen();
         screen.cboFArt->setFocus();
         screen.zeigeAnzahl();
@@ -117,16 +114,14 @@ void loadFang(DataTable* grid, int row) {
         // Form_Activate fills no lists in EDIT, so a catch opened from the evaluation needs them filled here.
         step([&] { modBasis::loadcboFArt(screen.cboFArt); });
         step([&] { modBasis::loadcboGName(screen.cboGName); });
-        Recordset fang;
-        step([&] {
-            fang = oeffneAbfrage(
-                u"SELECT fa.FangNr, f.FName, g.GName, fa.FangMonat, fa.Anzahl, "
-                u"fa.Gewicht, fa.Notiz FROM Fang fa , Fisch f, Gewaesser g WHERE fa.FangNr = "_s +
-                grid->cellText(row, 0) + u" AND fa.FischNr = f.FNr AND fa.GNr = g.GNr"_s);
-        });
-        const auto text = [&](const QString& field) { return CStr(fang.Collect(field)); };
-        const auto monat = [&] { return CLng(fang.Collect(u"FangMonat"_s)); };
-        if (step.test([&] { return fang.RecordCount() != 0; })) {
+        const auto select = [&] {
+            return u"SELECT fa.FangNr, f.FName, g.GName, fa.FangMonat, fa.Anzahl, "
+                   u"fa.Gewicht, fa.Notiz FROM Fang fa , Fisch f, Gewaesser g WHERE fa.FangNr = "_s +
+                   grid->cellText(row, 0) + u" AND fa.FischNr = f.FNr AND fa.GNr = g.GNr"_s;
+        };
+        const auto zeige = [&](const Recordset& fang) {
+            const auto text = [&](const QString& field) { return CStr(fang.Collect(field)); };
+            const auto monat = [&] { return CLng(fang.Collect(u"FangMonat"_s)); };
             step([&] { screen.lblFNr->setText(text(u"FangNr"_s)); });
             step([&] { screen.cboFArt->setText(text(u"FName"_s)); });
             step([&] { screen.cboGName->setText(text(u"GName"_s)); });
@@ -136,10 +131,8 @@ void loadFang(DataTable* grid, int row) {
             step([&] { screen.txtMonNr->setText(zweistellig(monat())); });
             step([&] { screen.txtFangMonat->setText(modRun::ErmittleMonatsname(monat())); });
             if (!session().KontextZeileOK) screen.cboFArt->setFocus();
-        } else {
-            modRun::MeldeNichtVorhanden();
-        }
-        step([&] { fang.Close(); });
+        };
+        liesSatz(step, select, zeige, &modRun::MeldeNichtVorhanden);
     });
 }
 

@@ -4,7 +4,6 @@
 #include "Conversions.h"
 #include "Datensatz.h"
 #include "Eingaben.h"
-#include "ErrorTail.h"
 #include "Feldwerte.h"
 #include "Katego.h"
 #include "MsgBox.h"
@@ -21,8 +20,6 @@ const QString modul = u"modKatego"_s;
 /// Follows the name of a system category in the grid.
 const QString systemMarke = u" -> Systemkategorie <-"_s;
 
-void zeigeAnzahl(Katego& screen) { screen.lblAnzahl->setText(QString::number(screen.tblKatego->rowCount())); }
-
 /// Sets the name, the only field that is entered.
 Datensatz::Felder felder(ErrorTail& step, const Katego& screen) {
     return
@@ -38,11 +35,11 @@ bool istSystemkategorie(const QString& name) {
 }
 
 void loadTblKatego() {
-    ::fuelleGrid(u"loadTblKatego"_s, the<Katego>().tblKatego, u"SELECT * FROM Katego"_s,
-                 [](const Recordset& katego) {
-                     const QString name = modRun::textOderLeer(katego.Fields(u"kategorie"_s));
-                     return std::vector<Value>{katego.Collect(u"kategonr"_s), alsZeile(name)};
-                 });
+    const auto mitMarke = [](std::vector<Value>& zeile) {
+        zeile[1] = alsZeile(zeile[1].isNull() ? QString() : CStr(zeile[1]));
+    };
+    fuelleGrid(u"loadTblKatego"_s, the<Katego>().tblKatego, u"SELECT * FROM Katego"_s,
+               {u"kategonr"_s, u"kategorie"_s}, mitMarke);
 }
 
 void FuelleKategoCombo(ComboBox* combo) {
@@ -59,35 +56,31 @@ void FuelleKategoCombo(ComboBox* combo) {
 void loadKatego(int row) {
     withErrorTail(modul, u"loadKatego"_s, [row](ErrorTail& step) {
         Katego& screen = the<Katego>();
-        Recordset katego;
-        step([&] {
-            katego = oeffneAbfrage(u"SELECT * FROM Katego WHERE KategoNr = "_s +
-                                   QString::number(CLng(screen.tblKatego->cell(row, 0))));
-        });
-        if (!step.test([&] { return katego.RecordCount() == 1; })) {
-            modRun::MeldeNichtVorhanden();
-        } else if (step.test([&] {
-                       return istSystemkategorie(modRun::textOderLeer(katego.Fields(u"kategorie"_s)));
-                   })) {
-            MsgBox(u"ACHTUNG: Systemkategorie, keine Änderungen oder Löschung erlaubt!"_s, vbInformation);
-        } else {
-            step([&] { screen.lblKategoNr->setText(CStr(katego.Collect(u"kategonr"_s))); });
-            step([&] { screen.txtKatego->setText(modRun::textOderLeer(katego.Fields(u"kategorie"_s))); });
-        }
-        step([&] { katego.Close(); });
+        const auto select = [&] {
+            return u"SELECT * FROM Katego WHERE KategoNr = %1"_s.arg(CLng(screen.tblKatego->cell(row, 0)));
+        };
+        const auto zeige = [&](const Recordset& katego) {
+            const auto name = [&] { return modRun::textOderLeer(katego.Fields(u"kategorie"_s)); };
+            if (step.test([&] { return istSystemkategorie(name()); })) {
+                MsgBox(u"ACHTUNG: Systemkategorie, keine Änderungen oder Löschung erlaubt!"_s, vbInformation);
+            } else {
+                step([&] { screen.lblKategoNr->setText(CStr(katego.Collect(u"kategonr"_s))); });
+                step([&] { screen.txtKatego->setText(name()); });
+            }
+        };
+        liesSatz(step, select, zeige, &modRun::MeldeNichtVorhanden);
     });
 }
 
 void SpeicherKatego() {
     withErrorTail(modul, u"SpeicherKatego"_s, [](ErrorTail& step) {
         Katego& screen = the<Katego>();
-        std::vector<Value> neue;
-        if (Datensatz::speichere(step, u"Katego"_s, felder(step, screen),
-                                 Datensatz::lies(step, neue, {u"kategonr"_s, u"kategorie"_s}))) {
-            step([&] { screen.tblKatego->appendRow(neue); });
+        if (const auto neue = Datensatz::speichere(step, u"Katego"_s, felder(step, screen),
+                                                   {u"kategonr"_s, u"kategorie"_s})) {
+            screen.tblKatego->appendRow(*neue);
             screen.tblKatego->markRow(screen.tblKatego->rowCount());
-            zeigeAnzahl(screen);
-            step([&] { Uebersicht::nehmeKategorieAuf(neue[0], neue[1]); });
+            screen.lblAnzahl->setNum(screen.tblKatego->rowCount());
+            step([&] { Uebersicht::nehmeKategorieAuf((*neue)[0], (*neue)[1]); });
         }
         KategoAnzeigeLoeschen();
     });
@@ -113,7 +106,7 @@ void LoescheKatego(int row) {
         const QString nummer = screen.lblKategoNr->text();
         if (Datensatz::loesche(step, u"Katego"_s, nummer)) {
             step([&] { screen.tblKatego->removeRow(row); });
-            zeigeAnzahl(screen);
+            screen.lblAnzahl->setNum(screen.tblKatego->rowCount());
             step([&] { Uebersicht::entferneKategorie(CLng(nummer)); });
         }
         KategoAnzeigeLoeschen();

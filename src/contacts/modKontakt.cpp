@@ -3,7 +3,6 @@
 #include "Conversions.h"
 #include "DataTable.h"
 #include "Datensatz.h"
-#include "ErrorTail.h"
 #include "Feldwerte.h"
 #include "Kontakt.h"
 #include "Namen.h"
@@ -89,11 +88,9 @@ void zeige(ErrorTail& step, const Recordset& satz, const std::vector<Feld>& feld
 }
 
 void zeigeMitgliedZu(ErrorTail& step, qint32 knr, const Kontakt& screen) {
-    Recordset mitglied;
-    step([&] { mitglied = oeffneAbfrage(u"SELECT * FROM Mitglied WHERE KNr = "_s + QString::number(knr)); });
-    if (step.test([&] { return mitglied.RecordCount() == 1; }))
-        zeige(step, mitglied, mitgliedsfelder(screen));
-    step([&] { mitglied.Close(); });
+    liesSatz(
+        step, [knr] { return u"SELECT * FROM Mitglied WHERE KNr = %1"_s.arg(knr); },
+        [&](const Recordset& mitglied) { zeige(step, mitglied, mitgliedsfelder(screen)); });
 }
 
 } // namespace
@@ -198,8 +195,8 @@ void aendere(const QString& routine, bool ausSuche) {
             umzug.alterName = ErmittleKategoName(umzug.alteNr);
             fuelleKontakt(step, kontakt, screen, umzug.neueNr);
         };
-        if (Datensatz::aendere(step, u"Kontakt"_s, umzug.knr, felder,
-                               [&](Recordset&) { return zieheMitgliedNach(step, umzug, screen); })) {
+        if (Datensatz::aendere(step, u"Kontakt"_s, umzug.knr, felder, {},
+                               [&](const auto&) { return zieheMitgliedNach(step, umzug, screen); })) {
             step([&] { Uebersicht::zeigeGeaenderten(umzug, alsZeile(screen)); });
             step([&] { Uebersicht::markiere(umzug.neueNr, umzug.knr); });
         }
@@ -214,22 +211,19 @@ void SpeicherKontakt() {
         Kontakt& screen = the<Kontakt>();
         const auto kategonr = ermittleNummer(&ErmittleKategoNr, screen.cboKatego);
         if (!kategonr) return;
-        std::vector<Value> zeile;
-        const auto danach = [&](Recordset& kontakt) {
-            Datensatz::lies(step, zeile, Uebersicht::felder)(kontakt);
+        const auto felder = [&](Recordset& kontakt) { fuelleKontakt(step, kontakt, screen, *kategonr); };
+        const auto dazu = [&](const Datensatz::Zeile& zeile) {
             const auto mitglied = [&](Recordset& satz) {
                 step([&] { satz.Collect(u"knr"_s, zeile[0]); });
                 schreibe(step, satz, mitgliedsfelder(screen));
             };
             return !screen.istMitglied() || Datensatz::speichere(step, u"Mitglied"_s, mitglied, {});
         };
-        if (Datensatz::speichere(
-                step, u"Kontakt"_s,
-                [&](Recordset& kontakt) { fuelleKontakt(step, kontakt, screen, *kategonr); }, danach)) {
+        if (auto zeile = Datensatz::speichere(step, u"Kontakt"_s, felder, Uebersicht::felder, dazu)) {
             // The picture's cell.
-            zeile.insert(zeile.begin() + 1, u" "_s);
-            step([&] { Uebersicht::zeigeNeuen(*kategonr, screen.cboKatego->currentText(), zeile); });
-            step([&] { Uebersicht::markiere(*kategonr, CLng(zeile[0])); });
+            zeile->insert(zeile->begin() + 1, u" "_s);
+            step([&] { Uebersicht::zeigeNeuen(*kategonr, screen.cboKatego->currentText(), *zeile); });
+            step([&] { Uebersicht::markiere(*kategonr, CLng(zeile->front())); });
         }
         screen.KontaktAnzeigeLoeschen();
     });
@@ -244,12 +238,12 @@ void LoescheKontakt() {
         const Kontakt& screen = the<Kontakt>();
         const qint32 knr = nummerDerMaske(step, screen);
         const qint32 kategonr = ErmittleKategoNr(screen.cboKatego->currentText());
-        const auto danach = [&](Recordset&) {
+        const auto dazu = [&](const auto&) {
             return Datensatz::schreibe(step, u"Mitglied"_s, [&](Recordset& mitglied) {
                 return loescheMitglied(step, mitglied, knr, false);
             });
         };
-        if (Datensatz::loesche(step, u"Kontakt"_s, knr, danach))
+        if (Datensatz::loesche(step, u"Kontakt"_s, knr, dazu))
             step([&] { Uebersicht::entferneKontakt(kategonr, screen.cboKatego->currentText(), knr); });
         unload<Kontakt>();
     });
@@ -257,17 +251,16 @@ void LoescheKontakt() {
 
 void ReinitialisiereJB() {
     withErrorTail(modul, u"ReinitialisiereJB"_s, [](ErrorTail& step) {
-        Recordset mitglied;
-        step([&] { mitglied = oeffneAbfrage(u"SELECT * FROM Mitglied"_s); });
-        if (step.test([&] { return mitglied.RecordCount() != 0; })) {
-            step([&] { mitglied.MoveFirst(); });
-            step.forEachRow(mitglied, [&] {
-                step([&] { mitglied.Edit(); });
-                step([&] { mitglied.Collect(u"Bezahlt"_s, false); });
-                step([&] { mitglied.Update(); });
+        liesSatz(
+            step, [] { return u"SELECT * FROM Mitglied"_s; },
+            [&](Recordset& mitglied) {
+                step([&] { mitglied.MoveFirst(); });
+                step.forEachRow(mitglied, [&] {
+                    step([&] { mitglied.Edit(); });
+                    step([&] { mitglied.Collect(u"Bezahlt"_s, false); });
+                    step([&] { mitglied.Update(); });
+                });
             });
-        }
-        step([&] { mitglied.Close(); });
     });
 }
 

@@ -1,6 +1,7 @@
 #include "Drucklauf.h"
 
 #include "Conversions.h"
+#include "DBEngine.h"
 #include "ErrorTail.h"
 #include "Hourglass.h"
 #include "MsgBox.h"

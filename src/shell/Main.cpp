@@ -61,7 +61,7 @@ QMenu* popup(QWidget* parent, const char* name, const QString& caption) {
 Main::Main()
     : Screen(u"Main"_s, u"Uferwart"_s) {
     standAlone();
-    setRahmen(this);
+    rahmen() = this;
     menuBar = new QMenuBar(this);
     ButtnBar = new NavigationBar(u"ButtnBar"_s, this);
     stage = new Stage(this);
@@ -88,7 +88,7 @@ Main::Main()
 }
 
 Main::~Main() {
-    if (rahmen() == this) setRahmen(nullptr);
+    if (rahmen() == this) rahmen() = nullptr;
 }
 
 void Main::buildMenus() {

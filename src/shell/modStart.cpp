@@ -2,7 +2,6 @@
 
 #include "Bereiche.h"
 #include "Clock.h"
-#include "Datenbank.h"
 #include "Eroef.h"
 #include "ErrorTail.h"
 #include "Kalendernamen.h"

@@ -1,5 +1,4 @@
 #include "Conversions.h"
-#include "Datenbank.h"
 #include "ErrorTail.h"
 #include "Meldungen.h"
 #include "MsgBox.h"

@@ -5,7 +5,6 @@
 #include "Conversions.h"
 #include "Datensatz.h"
 #include "Eingaben.h"
-#include "ErrorTail.h"
 #include "Gitter.h"
 #include "MsgBox.h"
 #include "Screens.h"
@@ -33,9 +32,7 @@ void gleicheAb(const Basis::Seite& seite, const QString& name, const QString& mo
 }
 
 void fuelle(const QString& routine, const Basis::Seite& seite, const QString& select) {
-    fuelleGrid(routine, seite.grid, select, [&](const Recordset& satz) -> std::vector<Value> {
-        return {satz.Collect(seite.feldNr), satz.Collect(seite.feldName)};
-    });
+    fuelleGrid(routine, seite.grid, select, {seite.feldNr, seite.feldName});
 }
 
 /// Writes the two entry fields into the copy buffer.
@@ -49,10 +46,9 @@ Datensatz::Felder felder(ErrorTail& step, const Basis::Seite& seite) {
 void speichere() {
     const Basis::Seite& seite = the<Basis>().seiteVorn();
     withErrorTail(modul, u"Speicher"_s + seite.tabelle, [&](ErrorTail& step) {
-        std::vector<Value> zeile;
-        if (Datensatz::speichere(step, seite.tabelle, felder(step, seite),
-                                 Datensatz::lies(step, zeile, {seite.feldNr, seite.feldName}))) {
-            step([&] { seite.grid->appendRow(zeile); });
+        if (const auto zeile = Datensatz::speichere(step, seite.tabelle, felder(step, seite),
+                                                    {seite.feldNr, seite.feldName})) {
+            seite.grid->appendRow(*zeile);
             seite.grid->markRow(seite.grid->rowCount());
         }
         BasisAnzeigeLoeschen();
@@ -66,7 +62,7 @@ void aendere(int row) {
     const Basis::Seite& seite = the<Basis>().seiteVorn();
     withErrorTail(modul, u"Update"_s + seite.tabelle, [&](ErrorTail& step) {
         const QString name = seite.name->text();
-        if (Datensatz::aendere(step, seite.tabelle, seite.nummer->text(), felder(step, seite), {},
+        if (Datensatz::aendere(step, seite.tabelle, seite.nummer->text(), felder(step, seite), {}, {},
                                &meldeNichtGefunden)) {
             const int zeile = seite.grid->rowOf(seite.nummer->text(), row);
             step([&] { seite.grid->setCell(zeile, 1, name); });
@@ -131,20 +127,17 @@ void loadAuswahl(int row) {
     const Basis::Seite& seite = the<Basis>().seiteVorn();
     // loadFAuswahl or loadGAuswahl.
     withErrorTail(modul, u"load%1Auswahl"_s.arg(seite.tabelle.front()), [&](ErrorTail& step) {
-        Recordset satz;
-        step([&] {
-            satz = oeffneAbfrage(u"SELECT * FROM "_s + seite.tabelle + u" WHERE "_s + seite.feldNr +
-                                 u" = "_s + seite.grid->cellText(row, 0));
-        });
-        if (step.test([&] { return satz.RecordCount() != 0; })) {
+        const auto select = [&] {
+            return u"SELECT * FROM %1 WHERE %2 = %3"_s.arg(seite.tabelle, seite.feldNr,
+                                                           seite.grid->cellText(row, 0));
+        };
+        const auto zeige = [&](const Recordset& satz) {
             step([&] { seite.nummer->setText(CStr(satz.Collect(seite.feldNr))); });
             step([&] { seite.name->setText(CStr(satz.Collect(seite.feldName))); });
             step([&] { seite.notiz->setText(CStr(satz.Collect(u"Notiz"_s))); });
             step([&] { alterName = CStr(satz.Collect(seite.feldName)); });
-        } else {
-            MsgBox(seite.nichtGefunden, vbCritical);
-        }
-        step([&] { satz.Close(); });
+        };
+        liesSatz(step, select, zeige, [&] { MsgBox(seite.nichtGefunden, vbCritical); });
     });
 }
 

@@ -5,7 +5,6 @@
 #include "CsvDatei.h"
 #include "Datensatz.h"
 #include "Eingaben.h"
-#include "ErrorTail.h"
 #include "ExcelAusgabe.h"
 #include "Feldwerte.h"
 #include "Format.h"
@@ -26,12 +25,10 @@ const QString modul = u"modBesatzList"_s;
 
 QString alsGewicht(const Value& menge) { return Format(menge, u"###0.00"_s); }
 
-/// Reads the fields of a record from which its grid row is made.
-Datensatz::Danach lies(ErrorTail& step, std::vector<Value>& zeile) {
-    return Datensatz::lies(step, zeile, {u"BNr"_s, u"FNr"_s, u"GNr"_s, u"Zeit"_s, u"Menge"_s});
-}
+/// The fields of a record from which its grid row is made.
+QStringList felderDerZeile() { return {u"BNr"_s, u"FNr"_s, u"GNr"_s, u"Zeit"_s, u"Menge"_s}; }
 
-/// Turns the values of lies() into those of a grid row: names instead of numbers, and the weight as
+/// Turns the values of felderDerZeile() into those of a grid row: names instead of numbers, and the weight as
 /// text.
 void fuelleZeile(ErrorTail& step, std::vector<Value>& zeile) {
     const auto name = [](const Value& number, QString (*ermittle)(qint32)) {
@@ -74,8 +71,7 @@ void loadTblBList() {
         } else {
             step([&] { plan.MoveFirst(); });
             step.forEachRow(plan, [&] {
-                std::vector<Value> zeile;
-                lies(step, zeile)(plan);
+                auto zeile = Datensatz::lies(step, plan, felderDerZeile());
                 fuelleZeile(step, zeile);
                 step([&] { grid->appendRow(zeile); });
             });
@@ -89,10 +85,9 @@ void SpeicherEintrag() {
         Besatzung& screen = the<Besatzung>();
         const Datensatz::Felder eingabe = felder(step);
         if (!eingabe) return;
-        std::vector<Value> zeile;
-        if (Datensatz::speichere(step, u"Besatzung"_s, eingabe, lies(step, zeile))) {
-            fuelleZeile(step, zeile);
-            step([&] { screen.tblBList->appendRow(zeile); });
+        if (auto zeile = Datensatz::speichere(step, u"Besatzung"_s, eingabe, felderDerZeile())) {
+            fuelleZeile(step, *zeile);
+            screen.tblBList->appendRow(*zeile);
             screen.tblBList->markRow(screen.tblBList->rowCount());
         }
         BesatzAnzeigeLoeschen();
@@ -139,25 +134,21 @@ void loadEintrag(DataTable* grid, int row) {
     // The message box names a routine of the catch book. Users know its text, so keep it.
     withErrorTail(u"modFangbuch"_s, u"loadFang"_s, [grid, row](ErrorTail& step) {
         Besatzung& screen = the<Besatzung>();
-        Recordset plan;
-        step([&] {
-            plan = oeffneAbfrage(u"SELECT b.BNr, f.FName, g.GName, b.Zeit, b.Menge "_s
-                                 u"FROM Besatzung b, Fisch f, Gewaesser g WHERE b.BNr = "_s +
-                                 grid->cellText(row, 0) +
-                                 u" AND b.FNr = f.FNr AND b.GNr = g.GNr AND b.BJahr = "_s +
-                                 screen.cboBJahr->currentText());
-        });
-        const auto text = [&](const QString& field) { return CStr(plan.Collect(field)); };
-        if (step.test([&] { return plan.RecordCount() != 0; })) {
+        const auto select = [&] {
+            return u"SELECT b.BNr, f.FName, g.GName, b.Zeit, b.Menge "_s
+                   u"FROM Besatzung b, Fisch f, Gewaesser g WHERE b.BNr = "_s +
+                   grid->cellText(row, 0) + u" AND b.FNr = f.FNr AND b.GNr = g.GNr AND b.BJahr = "_s +
+                   screen.cboBJahr->currentText();
+        };
+        const auto zeige = [&](const Recordset& plan) {
+            const auto text = [&](const QString& field) { return CStr(plan.Collect(field)); };
             step([&] { screen.lblBNr->setText(text(u"BNr"_s)); });
             step([&] { screen.cboFArt->setText(text(u"FName"_s)); });
             step([&] { screen.cboGName->setText(text(u"GName"_s)); });
             step([&] { screen.txtZeit->setText(modRun::textOderLeer(plan.Fields(u"Zeit"_s))); });
             step([&] { screen.txtMenge->setText(alsGewicht(plan.Collect(u"Menge"_s))); });
-        } else {
-            modRun::MeldeNichtVorhanden();
-        }
-        step([&] { plan.Close(); });
+        };
+        liesSatz(step, select, zeige, &modRun::MeldeNichtVorhanden);
     });
 }
 

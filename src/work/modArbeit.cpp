@@ -5,7 +5,6 @@
 #include "Conversions.h"
 #include "Datensatz.h"
 #include "Eingaben.h"
-#include "ErrorTail.h"
 #include "Feldwerte.h"
 #include "Format.h"
 #include "MitglList.h"
@@ -35,10 +34,8 @@ void schreibeFelder(ErrorTail& step, Recordset& arbeit, const Arbeit& screen) {
     step([&] { arbeit.Collect(u"Notiz"_s, screen.txtArbNotiz->Text()); });
 }
 
-/// Reads the fields that a booking's grid row shows.
-Datensatz::Danach lies(ErrorTail& step, std::vector<Value>& zeile) {
-    return Datensatz::lies(step, zeile, {u"ArbNr"_s, u"knr"_s, u"ArbStd"_s, u"Datum"_s});
-}
+/// The fields that a booking's grid row shows.
+QStringList felderDerZeile() { return {u"ArbNr"_s, u"knr"_s, u"ArbStd"_s, u"Datum"_s}; }
 
 void haengeAn(ErrorTail& step, std::vector<Value> zeile, const Arbeit& screen) {
     step([&] { zeile[2] = Format(zeile[2], stundenMuster()); });
@@ -75,12 +72,12 @@ bool ArbeitsZugriff_Erlaubt() { return zugriffErlaubt(modul, u"ArbeitsZugriff_Er
 void SpeicherStunden() {
     withErrorTail(modul, u"SpeicherStunden"_s, [](ErrorTail& step) {
         const Arbeit& screen = the<Arbeit>();
-        std::vector<Value> zeile;
         const auto felder = [&](Recordset& arbeit) {
             step([&] { arbeit.Collect(u"knr"_s, CLng(screen.lblKNr->text())); });
             schreibeFelder(step, arbeit, screen);
         };
-        if (Datensatz::speichere(step, u"Arbeit"_s, felder, lies(step, zeile))) haengeAn(step, zeile, screen);
+        if (const auto zeile = Datensatz::speichere(step, u"Arbeit"_s, felder, felderDerZeile()))
+            haengeAn(step, *zeile, screen);
         zeigeNeueSumme(step);
         LeereArbEingabe();
         screen.pvDate->setFocus();
@@ -90,10 +87,10 @@ void SpeicherStunden() {
 void UpdateStunden(int /*row*/) {
     withErrorTail(modul, u"UpdateStunden"_s, [](ErrorTail& step) {
         const Arbeit& screen = the<Arbeit>();
-        std::vector<Value> zeile;
         const auto felder = [&](Recordset& arbeit) { schreibeFelder(step, arbeit, screen); };
-        if (Datensatz::aendere(step, u"Arbeit"_s, screen.lblArbNr->text(), felder, lies(step, zeile)))
-            zeigeGeaenderten(step, zeile, screen);
+        if (const auto zeile =
+                Datensatz::aendere(step, u"Arbeit"_s, screen.lblArbNr->text(), felder, felderDerZeile()))
+            zeigeGeaenderten(step, *zeile, screen);
         zeigeNeueSumme(step);
         LeereArbEingabe();
         screen.pvDate->setFocus();
@@ -116,22 +113,19 @@ void LoescheStunden(int /*row*/) {
 void loadArbeitsVorgang(int row) {
     withErrorTail(modul, u"loadArbeitsVorgang"_s, [row](ErrorTail& step) {
         const Arbeit& screen = the<Arbeit>();
-        Recordset arbeit;
-        step([&] {
-            arbeit = oeffneAbfrage(u"SELECT ArbNr, Datum, ArbStd, Notiz FROM Arbeit WHERE ArbNr = "_s +
-                                   screen.tblArbStd->cellText(row, 0));
-        });
-        // A booking that failed halfway may have no hours: they are shown as an empty text.
-        const auto text = [&](const QString& field) { return Format(arbeit.Collect(field), QString()); };
-        if (step.test([&] { return arbeit.RecordCount() == 1; })) {
+        const auto select = [&] {
+            return u"SELECT ArbNr, Datum, ArbStd, Notiz FROM Arbeit WHERE ArbNr = "_s +
+                   screen.tblArbStd->cellText(row, 0);
+        };
+        const auto zeige = [&](const Recordset& arbeit) {
+            // A booking that failed halfway may have no hours: they are shown as an empty text.
+            const auto text = [&](const QString& field) { return Format(arbeit.Collect(field), QString()); };
             step([&] { screen.lblArbNr->setText(text(u"ArbNr"_s)); });
             step([&] { screen.pvDate->setDate(datumOderLeer(arbeit.Collect(u"Datum"_s))); });
             step([&] { screen.txtArbNotiz->setText(text(u"Notiz"_s)); });
             step([&] { screen.txtArbStd->setText(text(u"ArbStd"_s)); });
-        } else {
-            modRun::MeldeNichtVorhanden();
-        }
-        step([&] { arbeit.Close(); });
+        };
+        liesSatz(step, select, zeige, &modRun::MeldeNichtVorhanden);
     });
 }
 

@@ -30,24 +30,50 @@ Recordset oeffneTabelle(const QString& name) {
     return session().AktDatenbank.OpenRecordset(name, dbOpenTable);
 }
 
-void leseWert(ErrorTail& step, const QString& select, const std::function<void(const Value&)>& nimm) {
+void liesSatz(ErrorTail& step, const std::function<QString()>& select,
+              const std::function<void(Recordset&)>& gefunden, const std::function<void()>& leer) {
     Recordset satz;
-    step([&] { satz = oeffneAbfrage(select); });
-    step([&] {
-        if (satz.RecordCount() == 1) nimm(satz.Collect(u"Expr1000"_s));
-    });
+    step([&] { satz = oeffneAbfrage(select()); });
+    if (step.test([&] { return satz.RecordCount() != 0; }))
+        gefunden(satz);
+    else if (leer)
+        leer();
     step([&] { satz.Close(); });
 }
 
-void fuelleGrid(const QString& routine, DataTable* grid, const QString& select,
-                const std::function<std::vector<Value>(const Recordset&)>& zeile) {
+void schlageNach(const QString& module, const QString& routine, const std::function<QString()>& select,
+                 const std::function<void(const Recordset&)>& nimm, const std::function<void()>& leer) {
+    withErrorTail(module, routine, [&](ErrorTail& step) {
+        liesSatz(
+            step, select, [&](const Recordset& satz) { step([&] { nimm(satz); }); }, leer);
+    });
+}
+
+bool leseWert(ErrorTail& step, const QString& select, const std::function<void(const Value&)>& nimm) {
+    Recordset satz;
+    step([&] { satz = oeffneAbfrage(select); });
+    // RecordCount fails for a query that was not opened.
+    const bool gelesen = step([&] {
+        if (satz.RecordCount() == 1) nimm(satz.Collect(u"Expr1000"_s));
+    });
+    step([&] { satz.Close(); });
+    return gelesen;
+}
+
+void fuelleGrid(const QString& routine, DataTable* grid, const QString& select, const QStringList& felder,
+                void (*forme)(std::vector<Value>& zeile)) {
     withErrorTail(u"modStart"_s, routine, [&](ErrorTail& step) {
-        Recordset satz;
-        step([&] { satz = oeffneAbfrage(select); });
-        if (step.test([&] { return satz.RecordCount() != 0; })) {
-            step([&] { satz.MoveFirst(); });
-            step.forEachRow(satz, [&] { step([&] { grid->appendRow(zeile(satz)); }); });
-        }
-        step([&] { satz.Close(); });
+        const auto fuelle = [&](const Recordset& satz) {
+            std::vector<Value> zeile;
+            for (const QString& feld : felder) zeile.push_back(satz.Collect(feld));
+            forme(zeile);
+            grid->appendRow(zeile);
+        };
+        liesSatz(
+            step, [&] { return select; },
+            [&](Recordset& satz) {
+                step([&] { satz.MoveFirst(); });
+                step.forEachRow(satz, [&] { step([&] { fuelle(satz); }); });
+            });
     });
 }

@@ -26,11 +26,23 @@ void SchliesseDatenbank();
 Recordset oeffneAbfrage(const QString& select);
 Recordset oeffneTabelle(const QString& name);
 
-/// Passes the value found by a query such as SELECT COUNT(…) to `nimm`. Errors go to `step`, as for a
-/// statement of the calling routine.
-void leseWert(ErrorTail& step, const QString& select, const std::function<void(const Value&)>& nimm);
+/// Opens a query, runs `gefunden` if it has a row and `leer` if it has none, and closes it. `select` is a
+/// statement of the calling routine as well, and may throw. If the query can't be opened, `gefunden` runs.
+void liesSatz(ErrorTail& step, const std::function<QString()>& select,
+              const std::function<void(Recordset&)>& gefunden, const std::function<void()>& leer = {});
 
-/// Appends a grid row for each record found by `select`. For the start of the program: errors are shown as
-/// those of `routine` in modStart.
-void fuelleGrid(const QString& routine, DataTable* grid, const QString& select,
-                const std::function<std::vector<Value>(const Recordset&)>& zeile);
+/// A whole routine with its own error handling: passes the record found by `select` to `nimm`, one statement.
+/// Calls `leer` if there is none.
+void schlageNach(const QString& module, const QString& routine, const std::function<QString()>& select,
+                 const std::function<void(const Recordset&)>& nimm, const std::function<void()>& leer = {});
+
+/// Passes the value found by a query such as SELECT COUNT(…) to `nimm`. Errors go to `step`, as for a
+/// statement of the calling routine. False if the value could not be read.
+bool leseWert(ErrorTail& step, const QString& select, const std::function<void(const Value&)>& nimm);
+
+/// Appends a grid row for each record found by `select`, with these fields, which `forme` may change. A
+/// record that can't be read gets no row. For the start of the program: errors are shown as those of
+/// `routine` in modStart.
+void fuelleGrid(
+    const QString& routine, DataTable* grid, const QString& select, const QStringList& felder,
+    void (*forme)(std::vector<Value>& zeile) = [](std::vector<Value>&) {});

@@ -6,15 +6,16 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-constexpr int boxesPerRoutine = 4;
-}
 
-void beginErrorTail() { session().FehlerZaehler = 0; }
+constexpr int boxesPerRoutine = 4;
+
+/// Thrown by the fifth error, caught by withErrorTail.
+struct LeaveRoutine {};
+
+} // namespace
 
 KeptErrorCount::KeptErrorCount()
-    : m_count(session().FehlerZaehler) {}
-
-KeptErrorCount::~KeptErrorCount() { session().FehlerZaehler = m_count; }
+    : QScopedValueRollback(session().FehlerZaehler) {}
 
 void ErrorTail::report(const RuntimeError& error) {
     if (session().Beendet) throw LeaveRoutine{};
@@ -30,4 +31,15 @@ void ErrorTail::report(const RuntimeError& error) {
                u"Beschreibung: "_s + error.description,
            vbExclamation, title);
     ++count;
+}
+
+void withErrorTail(const QString& module, const QString& routine,
+                   const std::function<void(ErrorTail&)>& body) {
+    session().FehlerZaehler = 0;
+    ErrorTail step(module, routine);
+    try {
+        body(step);
+    } catch (const LeaveRoutine&) {
+        // The message box has been shown. The rest of the routine is skipped.
+    }
 }

@@ -2,11 +2,8 @@
 
 #include "ComboBox.h"
 #include "Conversions.h"
-#include "Datenbank.h"
 #include "ErrorTail.h"
 #include "Session.h"
-
-#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -29,36 +26,33 @@ void haengeJahreAn(ComboBox* combo, qint32 lowest, qint32 highest, qint16 akt) {
     haengeAn(akt, lowest - qint64(1));
 }
 
-/// The year found by a query for the lowest or highest one; `sonst` if there is none, nullopt if the query
-/// failed.
-std::optional<qint32> grenzjahr(ErrorTail& step, const QString& select, qint32 sonst) {
-    std::optional<qint32> jahr;
-    leseWert(step, select, [&](const Value& wert) { jahr = wert.isNull() ? sonst : CLng(wert); });
-    return jahr;
+/// Sets `jahr` to the lowest or highest one that a query finds. False if the query failed.
+bool leseJahr(ErrorTail& step, const QString& select, qint32& jahr) {
+    return leseWert(step, select, [&](const Value& wert) {
+        if (!wert.isNull()) jahr = CLng(wert);
+    });
 }
 
 } // namespace
 
 void loadcboFJahr(ComboBox* combo) {
     withErrorTail(u"modFAuswert"_s, u"loadcboFJahr"_s, [combo](ErrorTail& step) {
-        const qint32 aktJahr = session().AktJahr;
-        const auto grenze = [&](const QString& select) {
-            const qint32 jahr = grenzjahr(step, select, aktJahr).value_or(aktJahr);
-            return jahr == 0 ? aktJahr : jahr;
-        };
-        const qint32 lowest = grenze(u"SELECT MIN(FangJahr) FROM Fang"_s);
-        const qint32 highest = grenze(u"SELECT MAX(FangJahr) FROM Fang"_s);
+        const qint16 aktJahr = session().AktJahr;
+        qint32 lowest = aktJahr, highest = aktJahr;
+        leseJahr(step, u"SELECT MIN(FangJahr) FROM Fang"_s, lowest);
+        leseJahr(step, u"SELECT MAX(FangJahr) FROM Fang"_s, highest);
+        for (qint32* jahr : {&lowest, &highest})
+            if (*jahr == 0) *jahr = aktJahr;
         haengeJahreAn(combo, lowest, highest, aktJahr);
     });
 }
 
 void loadcboArbJahre(ComboBox* combo) {
     withErrorTail(u"modArbeit"_s, u"loadcboArbJahre"_s, [combo](ErrorTail& step) {
-        const qint32 diesesJahr = session().Startjahr;
-        const auto lowest = grenzjahr(step, u"SELECT MIN(Jahr) FROM Arbeit"_s, diesesJahr);
-        if (!lowest) return;
-        const auto highest = grenzjahr(step, u"SELECT MAX(Jahr) FROM Arbeit"_s, diesesJahr);
-        if (!highest) return;
-        haengeJahreAn(combo, *lowest, *highest, diesesJahr);
+        const qint16 diesesJahr = session().Startjahr;
+        qint32 lowest = diesesJahr, highest = diesesJahr;
+        if (leseJahr(step, u"SELECT MIN(Jahr) FROM Arbeit"_s, lowest) &&
+            leseJahr(step, u"SELECT MAX(Jahr) FROM Arbeit"_s, highest))
+            haengeJahreAn(combo, lowest, highest, diesesJahr);
     });
 }

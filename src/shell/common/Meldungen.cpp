@@ -3,8 +3,6 @@
 #include "MsgBox.h"
 #include "Session.h"
 
-#include <QWidget>
-
 using namespace Qt::StringLiterals;
 
 namespace modRun {

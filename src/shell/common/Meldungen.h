@@ -1,8 +1,6 @@
 #pragma once
 
-#include <QString>
-
-class QWidget;
+#include <QWidget>
 
 // Message boxes that several screens show.
 

@@ -22,7 +22,8 @@ public:
     virtual void beendeStill() = 0;
 };
 
-/// The frame of the running program; null before it is made and after it is destroyed.
-Rahmen* rahmen();
-/// For the frame only, which passes null when it is destroyed.
-void setRahmen(Rahmen* frame);
+/// The frame of the running program, which sets it; null before it is made and after it is destroyed.
+inline Rahmen*& rahmen() {
+    static Rahmen* current = nullptr;
+    return current;
+}

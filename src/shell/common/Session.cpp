@@ -1,24 +1,17 @@
 #include "Session.h"
 
 namespace {
-
-struct State {
-    Session values;
-    QString folder;
-};
-
-State& state() {
-    static State one;
-    return one;
+QString folder;
 }
 
-} // namespace
+Session& session() {
+    static Session values;
+    return values;
+}
 
-Session& session() { return state().values; }
+const QString& programFolder() { return folder; }
 
-const QString& programFolder() { return state().folder; }
-
-void beginSession(const QString& folder) {
-    state().values = Session{};
-    state().folder = folder;
+void beginSession(const QString& programFolder) {
+    session() = {};
+    folder = programFolder;
 }

@@ -47,4 +47,4 @@ Session& session();
 const QString& programFolder();
 
 /// Begins a session with this program folder. Resets all values.
-void beginSession(const QString& folder);
+void beginSession(const QString& programFolder);

@@ -1,7 +1,6 @@
 #include "Stunden.h"
 
 #include "Conversions.h"
-#include "Datenbank.h"
 #include "ErrorTail.h"
 #include "Format.h"
 

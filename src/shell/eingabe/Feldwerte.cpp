@@ -2,10 +2,7 @@
 
 #include "Conversions.h"
 #include "ErrorTail.h"
-#include "Recordset.h"
 #include "TextBox.h"
-
-#include <QCheckBox>
 
 using namespace Qt::StringLiterals;
 
@@ -14,8 +11,6 @@ namespace modRun {
 void leseZellen(ErrorTail& step, const std::vector<Recordset::Field>& felder, std::span<Value> zeile) {
     for (std::size_t i = 0; i < felder.size(); ++i) step([&] { zeile[i] = felder[i].Value(); });
 }
-
-bool WertAusCheckBox(const QCheckBox* box) { return box->isChecked(); }
 
 QString textOderLeer(const Recordset::Field& field) {
     const Value value = field.Value();

@@ -2,12 +2,9 @@
 
 #include "Recordset.h"
 
-#include <QString>
 #include <span>
-#include <vector>
 
 class ErrorTail;
-class QCheckBox;
 class TextBox;
 
 // Conversions between the fields of a record and the controls of a screen.
@@ -17,7 +14,6 @@ namespace modRun {
 /// Reads fields of the current row into `zeile`. A cell that can't be read keeps its value; the others are
 /// read.
 void leseZellen(ErrorTail& step, const std::vector<Recordset::Field>& felder, std::span<Value> zeile);
-bool WertAusCheckBox(const QCheckBox* box);
 /// The text of a field; empty if it is Null.
 QString textOderLeer(const Recordset::Field& field);
 /// The text of the box as a date; the empty date if it is not a date.

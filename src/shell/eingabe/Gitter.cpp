@@ -3,23 +3,17 @@
 #include "DataTable.h"
 #include "EventGuard.h"
 
-#include <QColor>
-
 using namespace Qt::StringLiterals;
 
 namespace modRun {
 
-void SetzeGridFarben(SelectionStyle& style) {
-    style.back = QColor(255, 255, 255);
-    style.fore = QColor(0, 0, 0);
-    style.style = 1;
-}
-
-void connectGridFocus(DataTable* grid) {
-    QObject::connect(grid, &DataTable::OnGridGotFocus, grid,
-                     [grid] { runEvent([grid] { SetzeGridFarben(grid->selectionStyle()); }); });
-    QObject::connect(grid, &DataTable::OnGridLostFocus, grid,
-                     [grid] { runEvent([grid] { grid->selectRows(0, grid->rowCount(), false); }); });
+void connectGridFocus(DataTable* grid, const DataTable* counted) {
+    QObject::connect(grid, &DataTable::OnGridGotFocus, grid, [grid] {
+        grid->selectionStyle() = {Qt::white, Qt::black, 1};
+    });
+    QObject::connect(grid, &DataTable::OnGridLostFocus, grid, [grid, counted = counted ? counted : grid] {
+        runEvent([=] { grid->selectRows(0, counted->rowCount(), false); });
+    });
 }
 
 void leereAuswahlBeiFokus(DataTable* grid) {

@@ -3,17 +3,14 @@
 #include <QString>
 
 class DataTable;
-struct SelectionStyle;
 
 // Behaviour shared by all grids.
 
 namespace modRun {
 
-/// Sets the neutral colours of the selected row of a grid with the focus.
-void SetzeGridFarben(SelectionStyle& style);
-/// Sets a grid's colours when it receives the focus and clears its selection when it loses the focus. Call
-/// for every grid.
-void connectGridFocus(DataTable* grid);
+/// Sets the neutral colours of the selected row when a grid receives the focus, and clears its selection when
+/// it loses the focus. Call for every grid. `counted` is another grid whose number of rows is cleared.
+void connectGridFocus(DataTable* grid, const DataTable* counted = nullptr);
 /// Clears a grid's selection also when it receives the focus. Call after connectGridFocus().
 void leereAuswahlBeiFokus(DataTable* grid);
 /// Updates a grid that shows a name of another table. The `mode` "LOESCHEN" removes every row with `text` in

@@ -2,8 +2,6 @@
 
 #include "MsgBox.h"
 
-#include <array>
-
 using namespace Qt::StringLiterals;
 
 namespace modRun {
@@ -19,9 +17,8 @@ void tellWrongMonth(const QString& inserted) {
 } // namespace
 
 const QStringList& Monatsnamen() {
-    static const QStringList names = {u"Januar"_s,    u"Februar"_s, u"März"_s,     u"April"_s,
-                                      u"Mai"_s,       u"Juni"_s,    u"Juli"_s,     u"August"_s,
-                                      u"September"_s, u"Oktober"_s, u"November"_s, u"Dezember"_s};
+    static const QStringList names =
+        u"Januar Februar März April Mai Juni Juli August September Oktober November Dezember"_s.split(u' ');
     return names;
 }
 
@@ -39,9 +36,7 @@ qint16 ErmittleMonatsNr(const QString& name) {
 }
 
 QString WochentagName(int number) {
-    static const std::array<QString, 7> names = {u"Sonntag"_s,    u"Montag"_s,   u"Dienstag"_s, u"Mittwoch"_s,
-                                                 u"Donnerstag"_s, u"Freistag"_s, u"Samstag"_s};
-    return number >= 1 && number <= 7 ? names[static_cast<std::size_t>(number - 1)] : QString();
+    return u"Sonntag Montag Dienstag Mittwoch Donnerstag Freistag Samstag"_s.split(u' ').value(number - 1);
 }
 
 } // namespace modRun

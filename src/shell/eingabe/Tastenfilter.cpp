@@ -1,34 +1,28 @@
 #include "Tastenfilter.h"
 
+#include <string_view>
+
 namespace modRun {
 
 namespace {
 
-constexpr int backspace = 8;
-constexpr int enter = 13;
-
-bool isDigit(int code) { return code >= '0' && code <= '9'; }
-
-bool isLetter(int code) { return (code >= 'A' && code <= 'Z') || (code >= 'a' && code <= 'z'); }
-
-int passOr0(int code, bool accepted) { return accepted ? code : 0; }
+/// Digits, Backspace and the `others` pass.
+int pass(int code, std::u32string_view others) {
+    const auto typed = static_cast<char32_t>(code);
+    const bool digit = typed >= U'0' && typed <= U'9';
+    return digit || typed == U'\b' || others.find(typed) != others.npos ? code : 0;
+}
 
 } // namespace
 
-int FilterZiffern(int code) { return passOr0(code, isDigit(code) || code == backspace || code == enter); }
-
-int FilterKomma(int code) {
-    return passOr0(code, isDigit(code) || code == backspace || code == enter || code == ',');
-}
-
-int FilterTelefon(int code) {
-    return passOr0(code, isDigit(code) || code == backspace || code == '-' || code == ' ');
-}
-
-int FilterDatum(int code) { return passOr0(code, isDigit(code) || code == backspace || code == '.'); }
+int FilterZiffern(int code) { return pass(code, U"\r"); }
+int FilterKomma(int code) { return pass(code, U"\r,"); }
+int FilterTelefon(int code) { return pass(code, U"- "); }
+int FilterDatum(int code) { return pass(code, U"."); }
 
 int FilterSuche(int code) {
-    return passOr0(code, isDigit(code) || isLetter(code) || code == backspace || code == '*' || code == ' ');
+    const bool letter = (code >= 'A' && code <= 'Z') || (code >= 'a' && code <= 'z');
+    return letter ? code : pass(code, U"* ");
 }
 
 } // namespace modRun

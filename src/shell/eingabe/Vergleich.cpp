@@ -17,8 +17,6 @@ void Vergleich::richteEin(const QString& spoken) const {
     setEnabled(false);
 }
 
-bool Vergleich::isEmpty() const { return zeichen->currentText().isEmpty() && wert->text().isEmpty(); }
-
 void Vergleich::leere() const {
     zeichen->setListIndex(-1);
     wert->setText(QString());
@@ -31,6 +29,7 @@ void Vergleich::setEnabled(bool on) const {
 
 QWidget* erstesFalsche(const QCheckBox* filter, const Vergleich& first, const Vergleich& second) {
     if (!filter->isChecked()) return nullptr;
-    if (second.isEmpty()) return modRun::erstesLeere({first.zeichen, first.wert});
+    if (second.zeichen->currentText().isEmpty() && second.wert->text().isEmpty())
+        return modRun::erstesLeere({first.zeichen, first.wert});
     return modRun::erstesLeere({first.zeichen, first.wert, second.zeichen, second.wert});
 }

@@ -15,7 +15,6 @@ struct Vergleich {
     /// Fills the list, and disables both with no comparison chosen. `spoken` is for screen readers.
     void richteEin(const QString& spoken) const;
 
-    bool isEmpty() const;
     /// Clears the choice and the box.
     void leere() const;
     void setEnabled(bool on) const;
