@@ -29,13 +29,10 @@ std::optional<Moment> momentOf(double days) {
 
 } // namespace
 
-Date Date::fromQDate(QDate date) { return fromQDate(date, QTime(0, 0)); }
-
 Date Date::fromQDate(QDate date, QTime time) {
     if (!date.isValid()) return {};
     const double whole = static_cast<double>(dayZero.daysTo(date));
-    const int second = time.isValid() ? time.msecsSinceStartOfDay() / 1000 : 0;
-    const double fraction = static_cast<double>(second) / secondsPerDay;
+    const double fraction = static_cast<double>(time.msecsSinceStartOfDay() / 1000) / secondsPerDay;
     return {whole < 0 ? whole - fraction : whole + fraction};
 }
 

@@ -12,10 +12,8 @@
 struct Date {
     double days = 0;
 
-    /// An invalid QDate gives the empty date.
-    static Date fromQDate(QDate date);
-    /// As above with a time of day; an invalid time is midnight. Fractions of a second are dropped.
-    static Date fromQDate(QDate date, QTime time);
+    /// An invalid QDate gives the empty date. Fractions of a second are dropped.
+    static Date fromQDate(QDate date, QTime time = QTime(0, 0));
     /// The calendar day. An invalid QDate outside the years 100 to 9999.
     QDate toQDate() const;
     /// The time of day to the nearest second, invalid if toQDate() is. A time rounded up to midnight belongs
