@@ -1,8 +1,10 @@
 #include "CodePage.h"
 
+#include <QList>
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <string_view>
 
 namespace {
 
@@ -15,69 +17,45 @@ constexpr std::array<char16_t, 32> specials = {
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
-constexpr bool isSpecialByte(unsigned byte) {
-    return byte >= firstSpecial && byte < firstSpecial + specials.size();
+std::optional<char> byteOf(char32_t sign) {
+    const auto* place = std::find(specials.begin(), specials.end(), sign);
+    if (place != specials.end()) return static_cast<char>(firstSpecial + (place - specials.begin()));
+    const bool isLatin1 = sign < firstSpecial || (sign >= firstSpecial + specials.size() && sign <= 0xFF);
+    return isLatin1 ? std::optional(static_cast<char>(sign)) : std::nullopt;
 }
 
-std::optional<char> byteOf(char16_t sign) {
-    if (sign <= 0xFF && !isSpecialByte(sign)) return static_cast<char>(sign);
-    const auto place = std::find(specials.begin(), specials.end(), sign);
-    if (place == specials.end()) return std::nullopt;
-    return static_cast<char>(firstSpecial + static_cast<unsigned>(place - specials.begin()));
+QChar signOf(char byte) {
+    const auto place = static_cast<unsigned char>(byte) - firstSpecial;
+    return place < specials.size() ? QChar(specials[place]) : QLatin1Char(byte);
 }
-
-char16_t signOf(char byte) {
-    const auto code = static_cast<unsigned char>(byte);
-    return isSpecialByte(code) ? specials[code - firstSpecial] : char16_t{code};
-}
-
-bool isPairAt(const QString& text, qsizetype place) {
-    return text.at(place).isHighSurrogate() && place + 1 < text.size() && text.at(place + 1).isLowSurrogate();
-}
-
-struct Likeness {
-    char16_t sign;
-    char byte;
-};
 
 // Letters in European names that Unicode does not decompose, since their stroke is part of the letter.
-constexpr std::array<Likeness, 10> likenesses = {{{u'Đ', 'D'},
-                                                  {u'đ', 'd'},
-                                                  {u'Ħ', 'H'},
-                                                  {u'ħ', 'h'},
-                                                  {u'ı', 'i'},
-                                                  {u'Ł', 'L'},
-                                                  {u'ł', 'l'},
-                                                  {u'Ŧ', 'T'},
-                                                  {u'ŧ', 't'},
-                                                  {u'ẞ', '\xDF'}}};
+constexpr QStringView withStroke = u"ĐđĦħıŁłŦŧẞ";
+constexpr std::string_view withoutStroke = "DdHhiLlTt\xDF";
 
 /// The byte of the character, else of its letter without the marks, so that a letter to Mr Kovač still
 /// arrives. Removes several marks one by one.
-char nearestByteOf(QChar sign) {
-    if (const auto byte = byteOf(sign.unicode())) return *byte;
-    if (sign.decompositionTag() == QChar::Canonical) return nearestByteOf(sign.decomposition().front());
-    const auto like = std::find_if(likenesses.begin(), likenesses.end(),
-                                   [&](const Likeness& one) { return one.sign == sign.unicode(); });
-    return like == likenesses.end() ? '?' : like->byte;
+char nearestByteOf(char32_t sign) {
+    if (const auto byte = byteOf(sign)) return *byte;
+    if (QChar::decompositionTag(sign) == QChar::Canonical)
+        return nearestByteOf(QChar::decomposition(sign).front().unicode());
+    const auto place = sign > 0xFFFF ? -1 : withStroke.indexOf(static_cast<char16_t>(sign));
+    return place < 0 ? '?' : withoutStroke[static_cast<std::size_t>(place)];
 }
 
 } // namespace
 
-QByteArray toWindows1252(const QString& given) {
-    // Other systems may write a letter and its mark as two characters.
-    const QString text = given.normalized(QString::NormalizationForm_C);
+QByteArray toWindows1252(const QString& text) {
     QByteArray bytes;
     bytes.reserve(text.size());
-    for (qsizetype place = 0; place < text.size(); ++place) {
-        bytes.append(nearestByteOf(text.at(place)));
-        if (isPairAt(text, place)) ++place;
-    }
+    // Other systems may write a letter and its mark as two characters.
+    for (const char32_t sign : text.normalized(QString::NormalizationForm_C).toUcs4())
+        bytes.append(nearestByteOf(sign));
     return bytes;
 }
 
 QString fromWindows1252(const QByteArray& bytes) {
     QString text(bytes.size(), Qt::Uninitialized);
-    std::transform(bytes.begin(), bytes.end(), text.begin(), [](char byte) { return QChar(signOf(byte)); });
+    std::transform(bytes.begin(), bytes.end(), text.begin(), signOf);
     return text;
 }
