@@ -62,7 +62,7 @@ BenchDesk::BenchDesk(int& argc, char** argv, MessageBoxes& boxes)
     m_size.times = timesInForce = QByteArray(argv[2]).toInt();
     QApplication::setQuitOnLastWindowClosed(false);
     Theme::apply(m_application, Theme::Mode::Light);
-    setClock(&m_clock);
+    setClock([] { return QDate(benchYear, benchMonth, 14).startOfDay(); });
     setMessageBoxes(&boxes);
     setPrintDialogs(&m_printing);
 }

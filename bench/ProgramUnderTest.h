@@ -37,13 +37,7 @@ public:
     QString club() { return club(m_size); }
 
 private:
-    class FixedClock final : public Clock {
-    public:
-        QDateTime now() const override { return QDate(benchYear, benchMonth, 14).startOfDay(); }
-    };
-
     QApplication m_application;
-    FixedClock m_clock;
     QtPrintDialogs m_printing;
     QString m_clubs;
     ClubSize m_size;

@@ -17,7 +17,7 @@ namespace {
 class Surroundings {
 public:
     Surroundings() {
-        setClock(&m_clock);
+        setClock([] { return QDateTime::currentDateTime(); });
         setMessageBoxes(&m_boxes);
         setPrintDialogs(&m_printing);
         setOfficeProgram<Spreadsheet>(&m_calc);
@@ -25,7 +25,6 @@ public:
     }
 
 private:
-    SystemClock m_clock;
     QtMessageBoxes m_boxes;
     QtPrintDialogs m_printing;
     LibreOfficeCalc m_calc;

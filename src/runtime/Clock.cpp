@@ -3,12 +3,9 @@
 #include <utility>
 
 namespace {
-const Clock* current = nullptr;
+Clock current;
 }
 
-const Clock* setClock(const Clock* clock) { return std::exchange(current, clock); }
+Clock setClock(Clock clock) { return std::exchange(current, std::move(clock)); }
 
-QDateTime now() {
-    Q_ASSERT_X(current, "now", "setClock() has not been called");
-    return current->now();
-}
+QDateTime now() { return current(); }
