@@ -53,7 +53,7 @@ void schreibeKopf(CsvDatei& datei) {
          {u"Mitgl.-Nr"_s, u"Firma"_s, u"Anrede"_s, u"Nachname"_s, u"Vorname"_s, u"Strasse"_s, u"PLZ"_s,
           u"Ort"_s, u"Telefon [privat]"_s, u"Telefon [geschftl.]"_s, u"Fax"_s, u"Mobil"_s, u"Geb.-Datum"_s,
           u"Eintritt"_s, u"EMail"_s})
-        datei.writeHead(kopf);
+        datei.writeText(kopf);
     datei.endLine();
 }
 

@@ -16,10 +16,11 @@ namespace {
 
 constexpr int bufferSize = 64 * 1024;
 
-/// Appends the text in Windows-1252. The code page equals the first 256 characters of Unicode but for a gap,
-/// so that German texts need no table.
-void appendEncoded(std::string& buffer, QStringView text) {
+/// Appends the text in Windows-1252, without spaces at its end. The code page equals the first 256 characters
+/// of Unicode but for a gap, so that German texts need no table.
+void appendTrimmed(std::string& buffer, QStringView text) {
     constexpr char16_t gapBegin = 0x80, gapEnd = 0xa0, beyond = 0x100;
+    while (text.endsWith(u' ')) text.chop(1);
     const std::size_t before = buffer.size();
     for (const QChar sign : text) {
         const char16_t code = sign.unicode();
@@ -66,44 +67,22 @@ CsvDatei::~CsvDatei() {
     if (m_file.isOpen()) m_file.write(m_buffer.data(), qsizetype(m_buffer.size()));
 }
 
-void CsvDatei::writeHead(const QString& head) {
-    appendEncoded(m_buffer, head);
+void CsvDatei::writeText(QStringView text, int length) {
+    appendTrimmed(m_buffer, text.left(length));
     m_buffer += ';';
 }
 
-void CsvDatei::writeText(QStringView text) {
-    while (text.endsWith(u' ')) text.chop(1);
-    appendEncoded(m_buffer, text);
-    m_buffer += ';';
-}
-
-void CsvDatei::writeText(QStringView text, int length, Fill fill) {
-    const QStringView field = text.left(length);
-    if (fill == Fill::Trimmed) return writeText(field);
-    appendEncoded(m_buffer, field);
-    fillUp(field.size(), length, fill);
-}
-
-void CsvDatei::writeField(const Value& field) {
-    if (field.kind() == Value::Kind::Text) return writeText(field.text());
-    writeText(field.isNull() ? QString() : CStr(field));
-}
-
-// Half of a list's cells are whole numbers: write them without a QString.
-void CsvDatei::writeField(const Value& cell, int length, Fill fill) {
-    if (cell.kind() != Value::Kind::Long) {
-        const QString text = cell.isNull() ? QString() : CStr(cell);
-        return writeText(QStringView(text), length, fill);
+void CsvDatei::writeField(const Value& value, int length, Fill fill) {
+    const std::size_t begin = m_buffer.size();
+    if (value.kind() == Value::Kind::Long) {
+        // Half of a list's cells are whole numbers: write them without a QString.
+        std::array<char, 12> digits;
+        const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value.number()).ptr;
+        m_buffer.append(digits.data(), std::size_t(std::min<qsizetype>(end - digits.data(), length)));
+    } else if (!value.isNull()) {
+        appendTrimmed(m_buffer, QStringView(CStr(value)).left(length));
     }
-    std::array<char, 12> digits;
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), cell.number()).ptr;
-    const qsizetype written = std::min<qsizetype>(end - digits.data(), length);
-    m_buffer.append(digits.data(), std::size_t(written));
-    fillUp(written, length, fill);
-}
-
-void CsvDatei::fillUp(qsizetype written, int length, Fill fill) {
-    if (fill == Fill::Padded) m_buffer.append(std::size_t(length - written), ' ');
+    if (fill == Fill::Padded) m_buffer.resize(begin + std::size_t(length), ' ');
     m_buffer += ';';
 }
 

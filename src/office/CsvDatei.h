@@ -4,6 +4,7 @@
 
 #include <QFile>
 #include <QString>
+#include <limits>
 #include <string>
 
 /// A file for an office program in Windows-1252. Each field ends with ";", each line with carriage return and
@@ -22,18 +23,15 @@ public:
     CsvDatei(const CsvDatei&) = delete;
     CsvDatei& operator=(const CsvDatei&) = delete;
 
-    void writeHead(const QString& head);
-    void writeText(QStringView text);
-    void writeText(QStringView text, int length, Fill fill = Fill::Trimmed);
-    /// A field of a record as text, with dates in the short form. Null is empty.
-    void writeField(const Value& field);
-    /// A grid's cell as shown on the screen. Null is empty.
-    void writeField(const Value& cell, int length, Fill fill = Fill::Trimmed);
+    void writeText(QStringView text, int length = unlimited);
+    /// A value as text, with dates in the short form. Null is empty.
+    void writeField(const Value& value, int length = unlimited, Fill fill = Fill::Trimmed);
     void endLine();
     void close();
 
 private:
-    void fillUp(qsizetype written, int length, Fill fill);
+    static constexpr int unlimited = std::numeric_limits<int>::max();
+
     void flush();
 
     QFile m_file;

@@ -168,9 +168,7 @@ bool BesatzEingabeVollstaendig() {
 namespace {
 
 void schreibeZeile(CsvDatei& datei, const DataTable& grid, int row) {
-    // writeHead keeps spaces at the end of the number; writeText removes them from the texts.
-    datei.writeHead(grid.cellText(row, 0));
-    for (int column = 1; column <= 4; ++column) datei.writeText(grid.cellText(row, column));
+    for (int column = 0; column <= 4; ++column) datei.writeText(grid.cellText(row, column));
     datei.endLine();
 }
 

@@ -32,7 +32,7 @@ void schreibeFuerExcel(const DataTable& grid, const QString& datei, const QStrin
                        void (*starte)()) {
     try {
         CsvDatei csv(SeqData::path(programFolder(), datei));
-        for (const QString& kopf : koepfe) csv.writeHead(kopf);
+        for (const QString& kopf : koepfe) csv.writeText(kopf);
         csv.endLine();
         for (int row = 0; row < grid.rowCount(); ++row) schreibeZeile(csv, grid, row);
         csv.close();
