@@ -20,8 +20,8 @@ public:
         setClock([] { return QDateTime::currentDateTime(); });
         setMessageBoxes(&m_boxes);
         setPrintDialogs(&m_printing);
-        setOfficeProgram<Spreadsheet>(&m_calc);
-        setOfficeProgram<WordProcessor>(&m_writer);
+        officeProgram<Spreadsheet> = &m_calc;
+        officeProgram<WordProcessor> = &m_writer;
     }
 
 private:

@@ -29,10 +29,6 @@ private:
 
 } // namespace
 
-std::unique_ptr<Spreadsheet> LibreOfficeCalc::running() {
-    throw runtimeError(RuntimeError::programNotReached);
-}
-
 std::unique_ptr<Spreadsheet> LibreOfficeCalc::start() {
     const QString program = QStandardPaths::findExecutable(u"soffice"_s);
     if (program.isEmpty()) throw runtimeError(RuntimeError::programNotReached);

@@ -6,8 +6,6 @@
 /// without waiting for it. A running LibreOffice takes over the workbook by itself.
 class LibreOfficeCalc final : public OfficeProgram<Spreadsheet> {
 public:
-    /// Always error 429: LibreOffice gives no access to a running program.
-    std::unique_ptr<Spreadsheet> running() override;
     std::unique_ptr<Spreadsheet> start() override;
 
     /// The arguments that open a semicolon-separated file in Windows-1252 without a question: separator 59,

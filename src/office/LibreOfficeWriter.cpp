@@ -8,6 +8,7 @@
 #include <QProcess>
 #include <QSaveFile>
 #include <QStandardPaths>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -36,19 +37,12 @@ QString storedLetter(const QDir& folder, const QByteArray& letter) {
     return path;
 }
 
-/// Debian packs the drivers for text files separately from the base of the drivers (libfilelo.so). An
-/// installation without that base is divided differently and counts as complete.
-bool lacksDatabasePart(const QString& program) {
+/// Debian packs the libraries of LibreOffice in several packages. An installation without the base of the
+/// database drivers (libfilelo.so) is divided differently and counts as complete.
+bool lacks(const QString& program, const QStringList& libraries) {
     const QDir parts = QFileInfo(QFileInfo(program).canonicalFilePath()).dir();
     return parts.exists(u"libfilelo.so"_s) &&
-           !(parts.exists(u"libflatlo.so"_s) && parts.exists(u"libdbalo.so"_s) &&
-             parts.exists(u"libdbaxmllo.so"_s));
-}
-
-/// LibreOffice without Writer can't open a letter.
-bool lacksWriter(const QString& program) {
-    const QDir parts = QFileInfo(QFileInfo(program).canonicalFilePath()).dir();
-    return parts.exists(u"libfilelo.so"_s) && !parts.exists(u"libswlo.so"_s);
+           !std::ranges::all_of(libraries, [&](const QString& name) { return parts.exists(name); });
 }
 
 QString lackOfDatabasePart(const QString& letter) {
@@ -79,7 +73,8 @@ public:
 
     QString complete() override {
         m_file = storedLetter(QFileInfo(m_dataFile).dir(), m_letter.package(m_dataFile));
-        return lacksDatabasePart(m_program) ? lackOfDatabasePart(m_file) : QString();
+        const bool complete = !lacks(m_program, {u"libflatlo.so"_s, u"libdbalo.so"_s, u"libdbaxmllo.so"_s});
+        return complete ? QString() : lackOfDatabasePart(m_file);
     }
     void release() override {
         if (!QProcess::startDetached(m_program, {m_file}))
@@ -95,12 +90,10 @@ private:
 
 } // namespace
 
-std::unique_ptr<WordProcessor> LibreOfficeWriter::running() {
-    throw runtimeError(RuntimeError::programNotReached);
-}
-
 std::unique_ptr<WordProcessor> LibreOfficeWriter::start() {
     const QString program = QStandardPaths::findExecutable(u"soffice"_s);
-    if (program.isEmpty() || lacksWriter(program)) throw runtimeError(RuntimeError::programNotReached);
+    // Without Writer it can't open a letter.
+    if (program.isEmpty() || lacks(program, {u"libswlo.so"_s}))
+        throw runtimeError(RuntimeError::programNotReached);
     return std::make_unique<Writer>(program);
 }

@@ -13,7 +13,5 @@
 /// read, 70 or 61 if the letter can't be written.
 class LibreOfficeWriter final : public OfficeProgram<WordProcessor> {
 public:
-    /// Always error 429: LibreOffice gives no access to a running program.
-    std::unique_ptr<WordProcessor> running() override;
     std::unique_ptr<WordProcessor> start() override;
 };

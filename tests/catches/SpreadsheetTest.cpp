@@ -55,9 +55,9 @@ protected:
     StarteExcelFang() {
         QDir(folder.path()).mkdir(u"SeqData"_s);
         beginSession(folder.path());
-        setOfficeProgram<Spreadsheet>(&program);
+        officeProgram<Spreadsheet> = &program;
     }
-    ~StarteExcelFang() override { setOfficeProgram<Spreadsheet>(nullptr); }
+    ~StarteExcelFang() override { officeProgram<Spreadsheet> = nullptr; }
 
     QTemporaryDir folder;
     RecordingProgram program;

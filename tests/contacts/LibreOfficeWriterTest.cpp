@@ -24,12 +24,12 @@ protected:
         office.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
         office.close();
         useRecordingOffice();
-        setOfficeProgram<WordProcessor>(&writer);
+        officeProgram<WordProcessor> = &writer;
         modSerienbrief::ErzeugeSeriendatei();
         boxes.texts.clear();
     }
     ~LibreOfficeLetter() override {
-        setOfficeProgram<WordProcessor>(nullptr);
+        officeProgram<WordProcessor> = nullptr;
         qputenv("PATH", path);
     }
 

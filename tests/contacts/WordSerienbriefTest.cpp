@@ -52,8 +52,8 @@ private:
 
 class WordSerienbrief : public ::testing::Test {
 protected:
-    WordSerienbrief() { setOfficeProgram<WordProcessor>(&program); }
-    ~WordSerienbrief() override { setOfficeProgram<WordProcessor>(nullptr); }
+    WordSerienbrief() { officeProgram<WordProcessor> = &program; }
+    ~WordSerienbrief() override { officeProgram<WordProcessor> = nullptr; }
 
     Club club;
     RecordedDialogue boxes;
