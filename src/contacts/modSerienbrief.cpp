@@ -9,7 +9,6 @@
 #include "Namen.h"
 #include "OtherProgram.h"
 #include "Screens.h"
-#include "SeqData.h"
 #include "Session.h"
 #include "WordProcessor.h"
 
@@ -80,7 +79,7 @@ void schreibeKategorie(CsvDatei& datei, DataTable& uebersicht, int zeile) {
 }
 
 void schreibeDatei(DataTable& uebersicht) {
-    CsvDatei datei(SeqData::path(programFolder(), u"SERI.txt"_s));
+    CsvDatei datei(CsvDatei::path(programFolder(), u"SERI.txt"_s));
     schreibeKopf(datei);
     uebersicht.enter({}); // a press may have left a child table current
     for (int zeile = 0; zeile < uebersicht.rowCount(); ++zeile)
@@ -119,7 +118,7 @@ bool vollende(WordProcessor& word, const QString& datendatei) {
 void beginneBrief(WordProcessor& word) {
     constexpr int formLetters = 0;
     MailMergeSource quelle;
-    quelle.name = SeqData::path(programFolder(), u"SERI.txt"_s);
+    quelle.name = CsvDatei::path(programFolder(), u"SERI.txt"_s);
     quelle.linkToSource = true;
     word.setVisible(true);
     word.addDocument();

@@ -17,6 +17,10 @@ class CsvDatei {
 public:
     enum class Fill { Trimmed, Padded };
 
+    /// The path of a file in the folder SeqData of the program folder. Finds an existing file without regard
+    /// to case, since the routines spell the same name in several ways.
+    static QString path(const QString& programFolder, const QString& name);
+
     /// Overwrites an existing file.
     explicit CsvDatei(const QString& path);
     ~CsvDatei();

@@ -6,7 +6,6 @@
 #include "MsgBox.h"
 #include "OtherProgram.h"
 #include "RuntimeError.h"
-#include "SeqData.h"
 #include "Session.h"
 #include "Spreadsheet.h"
 
@@ -31,7 +30,7 @@ void schreibeFuerExcel(const DataTable& grid, const QString& datei, const QStrin
                        void (*schreibeZeile)(CsvDatei& datei, const DataTable& grid, int row),
                        void (*starte)()) {
     try {
-        CsvDatei csv(SeqData::path(programFolder(), datei));
+        CsvDatei csv(CsvDatei::path(programFolder(), datei));
         for (const QString& kopf : koepfe) csv.writeText(kopf);
         csv.endLine();
         for (int row = 0; row < grid.rowCount(); ++row) schreibeZeile(csv, grid, row);
@@ -53,7 +52,7 @@ void zeigeInExcel(const QString& datei, int columns) {
     try {
         const auto excel = runningOrNew<Spreadsheet>();
         excel->setVisible(true);
-        excel->openWorkbook(SeqData::path(programFolder(), datei));
+        excel->openWorkbook(CsvDatei::path(programFolder(), datei));
         for (int column = 0; column < columns; ++column)
             excel->autoFitColumns(u"%1:%1"_s.arg(QChar(u'A' + column)));
         awaitOtherProgram();
