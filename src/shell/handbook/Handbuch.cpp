@@ -19,10 +19,16 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString whatIsMissing(const QFileInfo& page) {
-    if (page.dir().exists()) return u"Die Seite '%1' fehlt im Handbuch."_s.arg(page.completeBaseName());
-    return u"Das Handbuch wurde nicht gefunden.\r\n\r\n"_s +
-           u"Es gehört in den Ordner 'Handbuch', neben das Programm."_s;
+/// False, after a message box, if there is no such page.
+bool istDa(const QFileInfo& page) {
+    if (page.isFile()) return true;
+    if (page.dir().exists())
+        MsgBox(u"Die Seite '%1' fehlt im Handbuch."_s.arg(page.completeBaseName()), vbInformation);
+    else
+        MsgBox(u"Das Handbuch wurde nicht gefunden.\r\n\r\n"_s
+               u"Es gehört in den Ordner 'Handbuch', neben das Programm."_s,
+               vbInformation);
+    return false;
 }
 
 /// The words of a page without its marks.
@@ -144,10 +150,7 @@ QUrl Handbuch::seiteMit(const QString& text, QTextDocument::FindFlags richtung) 
 
 void Handbuch::zeige(const QString& file) {
     const QFileInfo page(file);
-    if (!page.isFile()) {
-        MsgBox(whatIsMissing(page), vbInformation);
-        return;
-    }
+    if (!istDa(page)) return;
     const bool closed = !isVisible();
     winId(); // makes the native window, so that folgeModal() can put it above another one before it shows
     folgeModal();
@@ -158,11 +161,7 @@ void Handbuch::zeige(const QString& file) {
 }
 
 void Handbuch::blaettere(const QUrl& page) {
-    const QFileInfo file(page.toLocalFile());
-    if (file.isFile())
-        Seite->setSource(page);
-    else
-        MsgBox(whatIsMissing(file), vbInformation);
+    if (istDa(QFileInfo(page.toLocalFile()))) Seite->setSource(page);
 }
 
 void Handbuch::zeigeTitel() {
@@ -176,15 +175,12 @@ bool Handbuch::event(QEvent* event) {
     return Screen::event(event);
 }
 
-// A modal window locks all windows except its own children, so the handbook becomes one of them.
-void Handbuch::stelleUeber(QWindow* modal) {
+// A modal window locks all windows except its own children, so the handbook becomes one of them. When it
+// closes, an earlier one may still be open.
+void Handbuch::folgeModal() {
+    QWindow* modal = QGuiApplication::modalWindow();
     if (modal == windowHandle()->transientParent()) return;
     windowHandle()->setTransientParent(modal);
-    constexpr int once = Qt::QueuedConnection | Qt::UniqueConnection;
-    if (modal)
-        connect(modal, &QWindow::visibleChanged, this, &Handbuch::folgeModal,
-                static_cast<Qt::ConnectionType>(once));
+    constexpr auto once = static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::UniqueConnection);
+    if (modal) connect(modal, &QWindow::visibleChanged, this, &Handbuch::folgeModal, once);
 }
-
-// When a modal window closes, an earlier one may still be open.
-void Handbuch::folgeModal() { stelleUeber(QGuiApplication::modalWindow()); }

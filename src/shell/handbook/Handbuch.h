@@ -7,7 +7,6 @@
 class HandbuchSeite;
 class QLabel;
 class QUrl;
-class QWindow;
 class TextBox;
 class Toolbar;
 
@@ -46,6 +45,5 @@ private:
     /// The next page in that direction that has the text, the page on show as the last. Empty if none has it.
     QUrl seiteMit(const QString& text, QTextDocument::FindFlags richtung) const;
     void zeigeTitel();
-    void stelleUeber(QWindow* modal);
     void folgeModal();
 };

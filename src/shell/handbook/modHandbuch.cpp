@@ -5,7 +5,7 @@
 #include "Session.h"
 #include "Stage.h"
 
-#include <map>
+#include <QHash>
 
 using namespace Qt::StringLiterals;
 
@@ -14,8 +14,8 @@ namespace modHandbuch {
 namespace {
 
 /// The pages that are named otherwise than their screen.
-const std::map<QString, QString>& pages() {
-    static const std::map<QString, QString> byScreen = {
+const QHash<QString, QString>& pages() {
+    static const QHash<QString, QString> byScreen = {
         {u"Arbeit"_s, u"arbeitsstunden"_s},
         {u"Basis"_s, u"basisdaten"_s},
         // The questions of a start in a new year come above the start-up picture.
@@ -54,18 +54,14 @@ const Screen* screenInFront(const QWidget* focused) {
     return isFrame && stage->front() ? stage->front() : screen;
 }
 
-/// The page of a screen. Without any screen the start has failed and its message box is alone.
-QString pageFor(const Screen* screen) { return screen ? SeiteFuer(screen->objectName()) : u"hilfe"_s; }
-
 } // namespace
 
-QString SeiteFuer(const QString& screen) {
-    const auto found = pages().find(screen);
-    return found == pages().end() ? screen.toLower() : found->second;
-}
+QString SeiteFuer(const QString& screen) { return pages().value(screen, screen.toLower()); }
 
 void ZeigeHandbuch(const QWidget* focused) {
-    const QString page = pageFor(screenInFront(focused));
+    const Screen* screen = screenInFront(focused);
+    // Without any screen the start has failed and its message box is alone.
+    const QString page = screen ? SeiteFuer(screen->objectName()) : u"hilfe"_s;
     the<Handbuch>().zeige(programFolder() + u"/Handbuch/%1.html"_s.arg(page));
 }
 
