@@ -1,9 +1,6 @@
 #include "EndSignals.h"
 
 #include <QCoreApplication>
-
-#ifdef Q_OS_UNIX
-
 #include <QSocketNotifier>
 #include <array>
 #include <cerrno>
@@ -55,10 +52,3 @@ EndSignals::~EndSignals() {
     for (const int number : signalNumbers) handle(number, SIG_DFL);
     for (int& end : ends) ::close(std::exchange(end, -1));
 }
-
-#else
-
-EndSignals::EndSignals() = default;
-EndSignals::~EndSignals() = default;
-
-#endif

@@ -4,7 +4,7 @@
 
 /// Makes SIGTERM and SIGHUP end the application as the end of a desktop session does: a shutdown and a closed
 /// Wayland session come as these signals. Create one before the event loop runs. A signal that is ignored
-/// already, as SIGHUP under nohup, stays ignored. Does nothing on systems without these signals.
+/// already, as SIGHUP under nohup, stays ignored.
 class EndSignals : public QObject {
     Q_OBJECT
 

@@ -1,7 +1,10 @@
 #include "Main.h"
 
 #include "DataTable.h"
+#include "Datenbank.h"
 #include "Info.h"
+#include "Katego.h"
+#include "Kontakt.h"
 #include "MitglList.h"
 #include "NavigationBar.h"
 #include "Program.h"
@@ -9,9 +12,9 @@
 #include "Session.h"
 #include "Stage.h"
 #include "StatusBar.h"
+#include "SuchKont.h"
 #include "Toolbar.h"
 #include "modArbeit.h"
-#include "modEnde.h"
 #include "modFAuswert.h"
 #include "modFangbuch.h"
 #include "modHandbuch.h"
@@ -106,7 +109,7 @@ void Main::buildMenus() {
     mnuHandbuch = addItem(mnuHilf, "mnuHandbuch", u"&Handbuch\tF1"_s);
     mnuInfo = addItem(mnuHilf, "mnuInfo", u"&Info"_s);
 
-    on(mnuBeenden, &QAction::triggered, [](bool) { modEnde::mnuBeenden_Click(); });
+    on(mnuBeenden, &QAction::triggered, [this](bool) { mnuBeenden_Click(); });
     on(mnuKomprimiere, &QAction::triggered, [](bool) { modTools::KomprimiereDatenbank(); });
     on(mnuRepariere, &QAction::triggered, [](bool) { modTools::RepariereDatenbank(); });
     on(mnuMitglInfo, &QAction::triggered, [](bool) { modMitglList::mnuMitglInfo_Click(); });
@@ -165,7 +168,10 @@ void Main::hideEvent(QHideEvent* event) {
 
 void Main::zeigeBereich(const QString& key) { modNavigation::zeigeBereich(key); }
 
-void Main::binde(Screen& screen) { modNavigation::binde(session().AktBarItem, screen); }
+void Main::binde(Screen& screen) {
+    // A start-up that ended in a repair leaves the bar without items.
+    if (session().AktBarItem) session().AktBarItem->takeWindow(&screen);
+}
 
 void Main::zeigeMitgliederliste() {
     binde(the<MitglList>());
@@ -173,6 +179,14 @@ void Main::zeigeMitgliederliste() {
 }
 
 void Main::beendeStill() { Program::current().finishUnseen(); }
+
+void Main::mnuBeenden_Click() {
+    SchliesseDatenbank();
+    unload<Kontakt>();
+    unload<Katego>();
+    unload<SuchKont>();
+    unload<Main>();
+}
 
 void Main::mnuInfo_Click() {
     binde(the<Info>());

@@ -59,5 +59,6 @@ private:
     void buildPanels();
     void buildAreaKeys();
     void keepMenuLetters(const Screen* front);
+    void mnuBeenden_Click();
     void mnuInfo_Click();
 };

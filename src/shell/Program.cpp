@@ -75,28 +75,27 @@ void Program::start() {
 }
 
 void Program::finish() {
-    if (!m_running) return;
-    letGo();
+    if (!letGo()) return;
     // Without a login the start has failed: it has shown its reason already, and nothing was written.
     if (!modSicherung::SichereDatenbank() && session().Angemeldet) tellMissingCopy();
     Q_EMIT ended();
 }
 
 void Program::finishUnseen() {
-    if (!m_running) return;
-    letGo();
+    if (!letGo()) return;
     modSicherung::SichereDatenbank();
     Q_EMIT ended();
 }
 
-void Program::letGo() {
-    if (!m_running) return;
+bool Program::letGo() {
+    if (!m_running) return false;
     m_running = false;
     session().Beendet = true;
     setEventsEnded(true);
     unload<Main>();
     Screens::removeAll();
     session().AktDatenbank = Database();
+    return true;
 }
 
 /// Ends the program over an error that no handler caught. Makes no copy of the file after an error: the next
@@ -110,7 +109,5 @@ void Program::fail(const RuntimeError& error) {
     const bool atStart = session().Beschaedigt && !session().Angemeldet;
     const bool damaged = atStart || error.is(RuntimeError::damagedFile);
     if (damaged && session().AktDatenbank.isOpen()) runEvent([] { modStart::RepariereAufWunsch(); });
-    if (!m_running) return;
-    letGo();
-    Q_EMIT ended();
+    if (letGo()) Q_EMIT ended();
 }

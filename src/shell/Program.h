@@ -35,7 +35,8 @@ protected:
 
 private:
     void fail(const RuntimeError& error);
-    void letGo();
+    /// False if the program does not run.
+    bool letGo();
 
     bool m_running = false;
 };

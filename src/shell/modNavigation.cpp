@@ -37,7 +37,7 @@ void schliesseVorschau() {
 void showScreen(const QString& key) {
     Screen& target = std::ranges::find(bereiche(), key, &Bereich::key)->screen.make();
     session().AktBarItem = the<Main>().ButtnBar->item(key);
-    binde(session().AktBarItem, target);
+    the<Main>().binde(target);
     target.Show();
 }
 
@@ -66,11 +66,6 @@ void entferne(const QString& key) {
     NavigationBar* bar = the<Main>().ButtnBar;
     session().AktBarItem = bar->item(key);
     for (BarGroup* group : bar->groups()) group->removeItem(key);
-}
-
-void binde(BarItem* item, Screen& target) {
-    // A start-up that ended in a repair leaves the bar without items.
-    if (item) item->takeWindow(&target);
 }
 
 void markiere(NavigationBar& bar, const Screen* front) {

@@ -2,7 +2,6 @@
 
 #include <QString>
 
-class BarItem;
 class NavigationBar;
 class Screen;
 
@@ -15,8 +14,6 @@ void InitButtnBar();
 void LeereButtnBar();
 /// Removes the item of this key, if it is still there.
 void entferne(const QString& key);
-/// Gives the item the screen's window. Does not show the screen.
-void binde(BarItem* item, Screen& screen);
 /// Shows in the bar to which item the screen in front belongs, whichever way it came there. One of no item,
 /// such as a preview, changes nothing.
 void markiere(NavigationBar& bar, const Screen* front);

@@ -44,6 +44,51 @@ void tellEnd(const QString& text, const QString& title = u"Uferwart"_s) {
     unload<Main>();
 }
 
+void SetzeFensterGroesse() {
+    constexpr int firstWidth = 1000;
+    the<Main>().resize(firstWidth, twips(8625));
+    the<Main>().ButtnBar->resize(the<Main>().ButtnBar->width(), twips(7695));
+}
+
+/// Removes the items and menus that the user's group may not use. `gruppe` must be open at the group's row.
+void WendeRechteAn(const Recordset& gruppe) {
+    const auto denied = [&](const QString& right) { return gruppe.Fields(right).Value() != Value(true); };
+    for (const Bereich& bereich : bereiche())
+        if (bereich.hatTaste() && denied(bereich.recht)) modNavigation::entferne(bereich.key);
+    if (denied(u"KontListe"_s)) the<KontaktUebers>().Toolbar1->setKeyEnabled(u"tbMitglList"_s, false);
+}
+
+/// Checks name and password. On success also writes the status bar and applies the rights.
+bool Login(const QString& name, const QString& passwort) {
+    bool valid = false;
+    withErrorTail(u"modStart"_s, u"Login"_s, [&](ErrorTail& step) {
+        Recordset gruppe;
+        step([&] {
+            gruppe =
+                oeffneAbfrage(u"SELECT * FROM Gruppen WHERE GNr = (SELECT GNr FROM Benutzer WHERE Name = "_s +
+                              quoted(name) + u" AND Passwort = "_s + quotedSecret(passwort) + u")"_s);
+        });
+        if (step.test([&] { return gruppe.RecordCount() == 0; })) {
+            MsgBox(u"Anmeldung fehlgeschlagen, bitte versuchen Sie es erneut!"_s, vbCritical, u"UFERWART"_s);
+        } else {
+            setzeBenutzer(name);
+            step([&] { WendeRechteAn(gruppe); });
+            valid = true;
+        }
+        step([&] { gruppe.Close(); });
+    });
+    return valid;
+}
+
+/// Fills all grids of all screens, once.
+void LadeStammdaten() {
+    session().TabelleLaedt = true;
+    for (const Bereich& bereich : ladefolge()) bereich.lade();
+    session().TabelleLaedt = false;
+}
+
+void ZeigeFangjahr() { the<Main>().StatusBar1->setPanelText(8, QString::number(session().AktJahr)); }
+
 /// Offers the repair. Repaired or not, no user is logged in afterwards: the frame is open with an empty bar,
 /// and the user starts the program again.
 void askForRepair() {
@@ -126,12 +171,6 @@ bool RepariereAufWunsch() {
     return true;
 }
 
-void SetzeFensterGroesse() {
-    constexpr int firstWidth = 1000;
-    the<Main>().resize(firstWidth, twips(8625));
-    the<Main>().ButtnBar->resize(the<Main>().ButtnBar->width(), twips(7695));
-}
-
 void Anmelden() {
     ::Login& screen = the<::Login>();
     if (screen.txtBenutzer->text().isEmpty()) return screen.txtBenutzer->setFocus();
@@ -141,35 +180,6 @@ void Anmelden() {
     screen.txtBenutzer->setText(QString());
     screen.txtPassw->setText(QString());
     screen.txtBenutzer->setFocus();
-}
-
-bool Login(const QString& name, const QString& passwort) {
-    bool valid = false;
-    withErrorTail(u"modStart"_s, u"Login"_s, [&](ErrorTail& step) {
-        Recordset gruppe;
-        step([&] {
-            gruppe =
-                oeffneAbfrage(u"SELECT * FROM Gruppen WHERE GNr = (SELECT GNr FROM Benutzer WHERE Name = "_s +
-                              quoted(name) + u" AND Passwort = "_s + quotedSecret(passwort) + u")"_s);
-        });
-        if (step.test([&] { return gruppe.RecordCount() == 0; })) {
-            MsgBox(u"Anmeldung fehlgeschlagen, bitte versuchen Sie es erneut!"_s, vbCritical, u"UFERWART"_s);
-            valid = false;
-        } else {
-            setzeBenutzer(name);
-            step([&] { WendeRechteAn(gruppe); });
-            valid = true;
-        }
-        step([&] { gruppe.Close(); });
-    });
-    return valid;
-}
-
-void WendeRechteAn(const Recordset& gruppe) {
-    const auto denied = [&](const QString& right) { return gruppe.Fields(right).Value() != Value(true); };
-    for (const Bereich& bereich : bereiche())
-        if (bereich.hatTaste() && denied(bereich.recht)) modNavigation::entferne(bereich.key);
-    if (denied(u"KontListe"_s)) the<KontaktUebers>().Toolbar1->setKeyEnabled(u"tbMitglList"_s, false);
 }
 
 void SetzeDatumsVariablen() {
@@ -182,13 +192,5 @@ void SetzeDatumsVariablen() {
     session().Startjahr = session().AktJahr;
     session().AktMonatNr = static_cast<qint16>(date.month());
 }
-
-void LadeStammdaten() {
-    session().TabelleLaedt = true;
-    for (const Bereich& bereich : ladefolge()) bereich.lade();
-    session().TabelleLaedt = false;
-}
-
-void ZeigeFangjahr() { the<Main>().StatusBar1->setPanelText(8, QString::number(session().AktJahr)); }
 
 } // namespace modStart
