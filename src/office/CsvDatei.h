@@ -24,8 +24,6 @@ public:
     /// Overwrites an existing file.
     explicit CsvDatei(const QString& path);
     ~CsvDatei();
-    CsvDatei(const CsvDatei&) = delete;
-    CsvDatei& operator=(const CsvDatei&) = delete;
 
     void writeText(QStringView text, int length = unlimited);
     /// A value as text, with dates in the short form. Null is empty.

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QByteArray>
 #include <QString>
 
 // Conversion to and from Windows-1252, in which files for the office programs are written: they expect that

@@ -26,12 +26,6 @@ Whole rounded(const Value& value) {
     return static_cast<Whole>(whole);
 }
 
-Date dateFromDays(double days) {
-    const Date date{days};
-    if (!date.toQDate().isValid()) throw runtimeError(RuntimeError::overflow);
-    return date;
-}
-
 } // namespace
 
 qint32 CLng(const Value& value) { return rounded<qint32>(value); }
@@ -75,15 +69,16 @@ QString CStr(const Value& value) {
 }
 
 Date CDate(const Value& value) {
-    if (value.kind() != Value::Kind::Text) return dateFromDays(CDbl(value));
-    const auto date = dateFromText(value.text());
+    const bool isText = value.kind() == Value::Kind::Text;
+    const auto date = isText ? dateFromText(value.text()) : Date{CDbl(value)};
     if (!date) throw runtimeError(RuntimeError::typesDiffer);
+    if (!date->toQDate().isValid()) throw runtimeError(RuntimeError::overflow);
     return *date;
 }
 
 bool IsDate(const Value& value) {
-    if (value.kind() == Value::Kind::Text) return dateFromText(value.text()).has_value();
-    return value.kind() == Value::Kind::Date;
+    return value.kind() == Value::Kind::Date ||
+           (value.kind() == Value::Kind::Text && dateFromText(value.text()));
 }
 
 bool IsNumeric(const Value& value) {

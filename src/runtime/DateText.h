@@ -2,7 +2,6 @@
 
 #include "Value.h"
 
-#include <QStringView>
 #include <optional>
 
 // Dates and times in the German form.

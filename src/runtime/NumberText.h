@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QString>
-#include <QStringView>
 #include <optional>
 
 // Numbers as a German user reads and writes them.

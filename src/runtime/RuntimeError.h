@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QString>
-#include <QStringView>
 
 /// A failed statement: the number and the German words that a user of such a program knows.
 /// Thrown by value; the routines' error tail shows both and goes on with the next statement.

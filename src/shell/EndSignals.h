@@ -11,6 +11,4 @@ class EndSignals : public QObject {
 public:
     EndSignals();
     ~EndSignals() override;
-    EndSignals(const EndSignals&) = delete;
-    EndSignals& operator=(const EndSignals&) = delete;
 };

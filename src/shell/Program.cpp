@@ -27,10 +27,6 @@ bool asksForHandbook(const QObject* watched, const QEvent* event) {
            !QApplication::activePopupWidget();
 }
 
-void openHandbook(const QWidget* focused, const QKeyEvent& key) {
-    if (!key.isAutoRepeat()) runEvent([&] { modHandbuch::ZeigeHandbuch(focused); });
-}
-
 /// Shows the last message box of the program. It comes after the end, so MsgBox() throws ProgramEnded.
 void tellMissingCopy() {
     try {
@@ -53,7 +49,8 @@ Program::Program(const QString& folder) {
 bool Program::eventFilter(QObject* watched, QEvent* event) {
     if (watched == QCoreApplication::instance() && event->type() == QEvent::Quit) finishUnseen();
     if (asksForHandbook(watched, event)) {
-        openHandbook(static_cast<QWidget*>(watched), *static_cast<QKeyEvent*>(event));
+        if (!static_cast<QKeyEvent*>(event)->isAutoRepeat())
+            runEvent([&] { modHandbuch::ZeigeHandbuch(static_cast<QWidget*>(watched)); });
         return true;
     }
     return QObject::eventFilter(watched, event);

@@ -33,6 +33,14 @@ void schliesseVorschau() {
     if (isLoaded<Vorschau>() && Stage::current()->front() == &the<Vorschau>()) unload<Vorschau>();
 }
 
+/// Hides every screen that can be behind the bar.
+void VersteckeFormen() {
+    for (const Bereich& bereich : bereiche())
+        if (Screen* screen = bereich.screen.loaded()) screen->Hide();
+    if (isLoaded<MitglList>()) modMitglList::LeereMListAnzeige();
+    if (isLoaded<Hinter>()) the<Hinter>().Hide();
+}
+
 /// Makes the item the current one, then binds and shows its screen.
 void showScreen(const QString& key) {
     Screen& target = std::ranges::find(bereiche(), key, &Bereich::key)->screen.make();
@@ -71,13 +79,6 @@ void entferne(const QString& key) {
 void markiere(NavigationBar& bar, const Screen* front) {
     BarItem* item = front ? bar.item(keyOf(front)) : nullptr;
     if (item) bar.setCurrentItem(item);
-}
-
-void VersteckeFormen() {
-    for (const Bereich& bereich : bereiche())
-        if (Screen* screen = bereich.screen.loaded()) screen->Hide();
-    if (isLoaded<MitglList>()) modMitglList::LeereMListAnzeige();
-    if (isLoaded<Hinter>()) the<Hinter>().Hide();
 }
 
 void zeigeBereich(const QString& key) {

@@ -17,8 +17,6 @@ void entferne(const QString& key);
 /// Shows in the bar to which item the screen in front belongs, whichever way it came there. One of no item,
 /// such as a preview, changes nothing.
 void markiere(NavigationBar& bar, const Screen* front);
-/// Hides every screen that can be behind the bar.
-void VersteckeFormen();
 /// Does what a click on the item of this key does: hides all screens and shows the item's own.
 void zeigeBereich(const QString& key);
 /// Shows the first screen after the start-up: the catch book, or the first one that the user may open.

@@ -51,21 +51,16 @@ void schalteZurueck(qint32 altesJahr) {
     modArbeit::Ueberpruefe_auf_Uebertrag(altesJahr);
 }
 
-/// Writes the new year into the record; true if it could be saved.
-bool schreibeJahr(ErrorTail& step, Recordset& system) {
-    step([&] { system.Edit(); });
-    step([&] { system.Collect(u"FJahr"_s, qint32(session().AktJahr)); });
-    return step([&] { system.Update(); });
-}
-
 /// Writes the new year and returns the old one, or nothing if it could not be written. Then the caller must
 /// leave out the rest of the change: the next start asks again, and would do it a second time.
 std::optional<qint32> uebernehmeJahr(ErrorTail& step, Recordset& system, std::optional<Transaction>& change) {
     qint32 altesJahr = 0;
     step([&] { altesJahr = CLng(system.Collect(u"FJahr"_s)); });
     step([&] { change.emplace(session().AktWorkspace); });
-    if (!change || !schreibeJahr(step, system)) return std::nullopt;
-    return altesJahr;
+    if (!change) return std::nullopt;
+    step([&] { system.Edit(); });
+    step([&] { system.Collect(u"FJahr"_s, qint32(session().AktJahr)); });
+    return step([&] { system.Update(); }) ? std::optional(altesJahr) : std::nullopt;
 }
 
 /// Copies the database. False if that failed and the user does not want to go on without a copy.

@@ -54,13 +54,10 @@ QImage HandbuchSeite::fitting(const QImage& picture) {
     return smaller;
 }
 
+// Lays the page out again with pictures of another width and returns to the same line.
 void HandbuchSeite::resizeEvent(QResizeEvent* event) {
     QTextBrowser::resizeEvent(event);
-    if (isVisible() && m_setWidth && m_setWidth != viewport()->width()) setzeNeu();
-}
-
-// Lays the page out again with pictures of another width and returns to the same line.
-void HandbuchSeite::setzeNeu() {
+    if (!isVisible() || !m_setWidth || m_setWidth == viewport()->width()) return;
     const int line = verticalScrollBar()->value();
     reload();
     verticalScrollBar()->setValue(line);

@@ -21,7 +21,6 @@ protected:
 
 private:
     QImage fitting(const QImage& picture);
-    void setzeNeu();
 
     int m_setWidth = 0; ///< width of the view when its pictures were scaled, in pixels
 };

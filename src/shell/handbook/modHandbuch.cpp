@@ -13,26 +13,6 @@ namespace modHandbuch {
 
 namespace {
 
-/// The pages that are named otherwise than their screen.
-const QHash<QString, QString>& pages() {
-    static const QHash<QString, QString> byScreen = {
-        {u"Arbeit"_s, u"arbeitsstunden"_s},
-        {u"Basis"_s, u"basisdaten"_s},
-        // The questions of a start in a new year come above the start-up picture.
-        {u"Eroef"_s, u"jahreswechsel"_s},
-        {u"Handbuch"_s, u"index"_s},
-        {u"Hinter"_s, u"index"_s},
-        {u"Katego"_s, u"kategorien"_s},
-        {u"KontaktUebers"_s, u"kontakte"_s},
-        {u"Login"_s, u"anmeldung"_s},
-        {u"Main"_s, u"index"_s},
-        {u"MitglList"_s, u"mitgliederliste"_s},
-        {u"SuchKont"_s, u"kontaktsuche"_s},
-        {u"System"_s, u"parameter"_s},
-    };
-    return byScreen;
-}
-
 const Screen* screenAround(const QWidget* widget) {
     while (widget && !qobject_cast<const Screen*>(widget)) widget = widget->parentWidget();
     return qobject_cast<const Screen*>(widget);
@@ -56,7 +36,25 @@ const Screen* screenInFront(const QWidget* focused) {
 
 } // namespace
 
-QString SeiteFuer(const QString& screen) { return pages().value(screen, screen.toLower()); }
+QString SeiteFuer(const QString& screen) {
+    // The pages that are named otherwise than their screen.
+    static const QHash<QString, QString> pages = {
+        {u"Arbeit"_s, u"arbeitsstunden"_s},
+        {u"Basis"_s, u"basisdaten"_s},
+        // The questions of a start in a new year come above the start-up picture.
+        {u"Eroef"_s, u"jahreswechsel"_s},
+        {u"Handbuch"_s, u"index"_s},
+        {u"Hinter"_s, u"index"_s},
+        {u"Katego"_s, u"kategorien"_s},
+        {u"KontaktUebers"_s, u"kontakte"_s},
+        {u"Login"_s, u"anmeldung"_s},
+        {u"Main"_s, u"index"_s},
+        {u"MitglList"_s, u"mitgliederliste"_s},
+        {u"SuchKont"_s, u"kontaktsuche"_s},
+        {u"System"_s, u"parameter"_s},
+    };
+    return pages.value(screen, screen.toLower());
+}
 
 void ZeigeHandbuch(const QWidget* focused) {
     const Screen* screen = screenInFront(focused);
