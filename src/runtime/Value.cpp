@@ -27,7 +27,8 @@ std::pair<QDate, QTime> momentOf(double days) {
 Date Date::fromQDate(QDate date, QTime time) {
     if (!date.isValid()) return {};
     const double whole = static_cast<double>(dayZero.daysTo(date));
-    const double fraction = static_cast<double>(time.msecsSinceStartOfDay() / 1000) / secondsPerDay;
+    const int second = time.msecsSinceStartOfDay() / 1000;
+    const double fraction = static_cast<double>(second) / secondsPerDay;
     return {whole < 0 ? whole - fraction : whole + fraction};
 }
 

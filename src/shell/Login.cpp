@@ -56,17 +56,10 @@ void Login::Form_Paint() { txtBenutzer->setFocus(); }
 void Login::Form_QueryUnload() { cmdEsc_Click(); }
 
 bool Login::Form_KeyDown(int key, Qt::KeyboardModifiers) {
-    switch (key) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-        modStart::Anmelden();
-        return true;
-    case Qt::Key_Escape:
-        cmdEsc_Click();
-        return true;
-    default:
-        return false;
-    }
+    const bool isEnter = key == Qt::Key_Return || key == Qt::Key_Enter;
+    if (isEnter) modStart::Anmelden();
+    if (key == Qt::Key_Escape) cmdEsc_Click();
+    return isEnter || key == Qt::Key_Escape;
 }
 
 void Login::cmdEsc_Click() {

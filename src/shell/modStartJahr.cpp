@@ -9,7 +9,6 @@
 #include "modSicherung.h"
 #include "modStart.h"
 
-#include <QStringList>
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -21,15 +20,13 @@ namespace modStart {
 namespace {
 
 bool frageNachSystemjahr() {
-    constexpr int blanks = 66;
-    const QStringList lines = {
-        u"WICHTIG: Akt. Systemjahr hat sich geändert ! Akt. Systemjahr = %1"_s.arg(session().AktJahr),
-        u"Soll das Systemjahr als Fangjahr in die Systemparameter von Uferwart übernommen werden ?"_s,
-        u"Wenn Sie die Frage mit NEIN beantworten, wird Uferwart beendet. "_s,
-        QString(blanks, u' '),
-        u"Wollen Sie das Systemjahr als Fangjahr übernehmen?"_s,
-    };
-    return modRun::frage(lines.join(u"\n\r"_s));
+    const QString blanks(66, u' ');
+    return modRun::frage(
+        u"WICHTIG: Akt. Systemjahr hat sich geändert ! Akt. Systemjahr = %1\n\r"_s
+        u"Soll das Systemjahr als Fangjahr in die Systemparameter von Uferwart übernommen werden ?\n\r"_s
+        u"Wenn Sie die Frage mit NEIN beantworten, wird Uferwart beendet. \n\r%2\n\r"_s
+        u"Wollen Sie das Systemjahr als Fangjahr übernehmen?"_s.arg(session().AktJahr)
+            .arg(blanks));
 }
 
 void schalteVor(qint32 altesJahr) {
