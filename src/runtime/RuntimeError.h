@@ -28,7 +28,6 @@ struct RuntimeError {
     static constexpr Kind fileNotMade{75, u"Die Datei %1 kann nicht angelegt werden."};
     static constexpr Kind pathNotFound{76, u"Pfad nicht gefunden"};
     static constexpr Kind objectNotSet{91, u"Objektvariable oder With-Blockvariable nicht festgelegt"};
-    static constexpr Kind badPattern{93, u"Ungültiges Suchmuster"};
     static constexpr Kind nullUsed{94, u"Unzulässige Verwendung von Null"};
     static constexpr Kind badPropertyValue{380, u"Ungültiger Eigenschaftswert"};
     static constexpr Kind readOnlyProperty{
@@ -99,23 +98,10 @@ struct RuntimeError {
     static constexpr Kind misplacedComma{3075, u"Syntaxfehler (Komma) in Abfrageausdruck '%1'."};
     static constexpr Kind badText{3075, u"Syntaxfehler in Zeichenfolge in Abfrageausdruck '%1'."};
     static constexpr Kind badDate{3075, u"Syntaxfehler in Datum in Abfrageausdruck '%1'."};
-    static constexpr Kind noSelect{3075, u"Unzulässige SQL-Anweisung; 'SELECT' erwartet: '%1'."};
-    static constexpr Kind badFrom{3075, u"Syntaxfehler in FROM-Klausel '%1'."};
-    static constexpr Kind nestedTooDeep{3075, u"Zu tief geschachtelter Abfrageausdruck '%1'."};
     static constexpr Kind tableNotFound{
         3078,
         u"Die Eingabetabelle oder Abfrage '%1' wurde nicht gefunden. Stellen Sie sicher, dass sie existiert "
         u"und ihr Name richtig geschrieben ist."};
-    static constexpr Kind ambiguousField{
-        3079, u"Das angegebene Feld '%1' kann sich auf mehr als eine der Tabellen in der FROM-Klausel der "
-              u"SQL-Anweisung beziehen."};
-    static constexpr Kind unknownFunction{3085, u"Undefinierte Funktion '%1' in Ausdruck."};
-    static constexpr Kind misplacedAggregate{3096, u"Aggregatfunktion ist hier nicht zulässig: '%1'."};
-    static constexpr Kind fieldOutsideAggregate{3122,
-                                                u"Der Ausdruck '%1' ist nicht Teil einer Aggregatfunktion."};
-    static constexpr Kind tooManyFields{3190, u"Zu viele Felder definiert."};
-    static constexpr Kind tooManyColumns{
-        3306, u"Eine Unterabfrage, die als Wert verwendet wird, darf nur ein Feld haben."};
     static constexpr Kind tooManyRows{
         3354, u"Höchstens ein Datensatz kann von dieser Unterabfrage zurückgegeben werden."};
     static constexpr Kind tooComplex{3360, u"Abfrage ist zu komplex."};

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "SelectPlan.h"
+#include "SelectRewriter.h"
 #include "Statement.h"
 
 #include <QHash>

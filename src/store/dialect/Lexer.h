@@ -1,33 +1,14 @@
 #pragma once
 
+#include "RuntimeError.h"
 #include "Value.h"
 
-#include <QString>
 #include <optional>
 #include <vector>
 
 namespace dialect {
 
-enum class TokenKind : quint8 {
-    End,
-    Name,
-    TextLiteral,
-    NumberLiteral,
-    DateLiteral,
-    Comma,
-    Dot,
-    Star,
-    Open,
-    Close,
-    Equal,
-    Unequal,
-    Less,
-    LessEqual,
-    Greater,
-    GreaterEqual,
-    Plus,
-    Minus
-};
+enum class TokenKind : quint8 { End, Name, Literal, Comparison, Comma, Dot, Star, Open, Close, Minus };
 
 struct Token {
     TokenKind kind = TokenKind::End;
@@ -52,5 +33,8 @@ void lexStatement(QStringView source, LexedStatement& statement);
 
 /// The date of a text m/d/yyyy, without the number signs around it. Empty if there is no such day.
 std::optional<Date> readDateLiteral(QStringView text);
+
+/// An error of this kind over a place in the statement, a long one cut off.
+RuntimeError syntaxError(const RuntimeError::Kind& fault, QStringView place);
 
 } // namespace dialect

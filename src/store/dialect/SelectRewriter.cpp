@@ -1,6 +1,5 @@
 #include "SelectRewriter.h"
 
-#include "ExpressionRewriter.h"
 #include "SqlNames.h"
 
 #include <algorithm>
@@ -9,205 +8,340 @@ namespace dialect {
 
 namespace {
 
-using Aggregates = ExpressionRewriter::Aggregates;
-
-// The limits of the classic database, far beyond any screen's statements.
-constexpr size_t mostColumns = 255;
-constexpr size_t mostTables = 32;
-
-struct Item {
-    Operand operand;
-    QString name;
-    int field = -1;
-};
-
-class SelectRewriter {
+/// Walks over the tokens of one statement.
+class TokenReader {
 public:
-    SelectRewriter(TokenReader& reader, const Scope* outer)
-        : m_reader(reader)
-        , m_scope(outer) {}
+    TokenReader(QStringView source, const LexedStatement& statement)
+        : m_source(source)
+        , m_statement(statement) {}
 
-    void read();
-    SelectPlan plan() const;
-    Operand value() const;
-    QByteArray sql(const QByteArray& columns) const;
+    const Token& peek() const { return m_statement.tokens[m_place]; }
+    bool at(TokenKind kind) const { return peek().kind == kind; }
+    bool atWord(QStringView word) const {
+        return at(TokenKind::Name) && text().compare(word, Qt::CaseInsensitive) == 0;
+    }
+    /// Whether the token is a name and none of the language's own words.
+    bool atName() const {
+        constexpr QStringView words[] = {u"AND", u"FROM", u"LIKE", u"OR", u"SELECT", u"WHERE"};
+        const auto isHere = [this](QStringView word) { return atWord(word); };
+        return at(TokenKind::Name) && std::ranges::none_of(words, isHere);
+    }
+
+    bool accept(TokenKind kind) { return passIf(at(kind)); }
+    bool acceptWord(QStringView word) { return passIf(atWord(word)); }
+    /// The text of the token. Error 3075 unless it is wanted.
+    QString take(bool isWanted) {
+        const QString taken = text().toString();
+        expect(passIf(isWanted));
+        return taken;
+    }
+    QString takeName() { return take(atName()); }
+    const Value& takeLiteral() {
+        return m_statement.literals[static_cast<size_t>(m_statement.tokens[m_place++].literal)];
+    }
+    /// Error 3075 if what should be here is not.
+    void expect(bool isHere) const {
+        if (isHere) return;
+        fail(at(TokenKind::Comma) ? RuntimeError::misplacedComma : RuntimeError::operatorExpected);
+    }
+
+    /// Error 3075 for a statement so deep that it might exhaust the stack.
+    void openBracket() {
+        constexpr int deepest = 10;
+        expect(accept(TokenKind::Open));
+        if (++m_depth > deepest) fail(RuntimeError::badExpression);
+    }
+    void closeBracket() {
+        expect(accept(TokenKind::Close));
+        --m_depth;
+    }
+
+    /// Errors quote the statement from here on.
+    void beginClause() { m_clause = peek().start; }
+    [[noreturn]] void fail(const RuntimeError::Kind& fault) const {
+        throw syntaxError(fault, m_source.sliced(m_clause));
+    }
 
 private:
-    void readSources();
-    void readSource();
-    void readItems();
-    void readItem();
-    void add(Item item);
-    void addFields(const Source& source);
-    void checkAggregates() const;
-    void nameItems();
-    QByteArray columns() const;
-    bool isAggregate() const;
-    const Item& onlyItem() const;
+    QStringView text() const { return m_source.sliced(peek().start, peek().length); }
+    /// The End token is never passed.
+    bool passIf(bool isWanted) {
+        if (isWanted && !at(TokenKind::End)) ++m_place;
+        return isWanted;
+    }
 
-    TokenReader& m_reader;
-    Scope m_scope;
-    std::vector<Item> m_items;
-    QByteArray m_where;
+    QStringView m_source;
+    const LexedStatement& m_statement;
+    size_t m_place = 0;
+    qsizetype m_clause = 0;
+    int m_depth = 0;
 };
 
-/// Reads the tables before the columns, though they follow them: the columns need the tables' fields.
-void SelectRewriter::read() {
-    m_reader.beginClause();
-    m_reader.expectWord(u"SELECT", RuntimeError::noSelect);
-    const size_t items = m_reader.place();
-    const size_t from = m_reader.findFrom();
-    m_reader.moveTo(from);
-    m_reader.expectWord(u"FROM", RuntimeError::badExpression);
-    readSources();
-    const size_t behindSources = m_reader.place();
-    m_reader.moveTo(items);
-    readItems();
-    if (m_reader.place() != from) m_reader.fail(RuntimeError::operatorExpected);
-    m_reader.moveTo(behindSources);
-    if (m_reader.acceptWord(u"WHERE")) {
-        m_reader.beginClause();
-        m_where = ExpressionRewriter(m_reader, m_scope, Aggregates::Refused).readCondition().sql;
-    }
-    checkAggregates();
+/// A table in a FROM clause and its name in the statement.
+struct Source {
+    const TableSpec* table;
+    QString name;
+};
+
+/// A field as a statement names it, alone or behind the name of its table.
+struct FieldName {
+    QString source;
+    QString field;
+};
+
+/// A column before the tables are known.
+struct Item {
+    QString function; ///< empty for a field
+    FieldName field;
+};
+
+struct Column {
+    QByteArray sql;
+    ResultColumn result;
+};
+
+struct Operand {
+    QByteArray sql;
+    FieldKind kind;
+};
+
+Column columnOf(const Source& source, int field) {
+    const FieldSpec& spec = source.table->fields[static_cast<size_t>(field)];
+    return {quotedName(source.name) + '.' + quotedName(spec.name), {spec.name.toString(), spec.kind, field}};
 }
 
-void SelectRewriter::readSources() {
+bool isNumber(FieldKind kind) { return kind != FieldKind::Text && kind != FieldKind::Boolean; }
+
+void requireAlike(bool areAlike) {
+    if (!areAlike) throw runtimeError(RuntimeError::criteriaDiffer);
+}
+
+FieldKind literalKind(const Value& value) {
+    if (value.kind() == Value::Kind::Text) return FieldKind::Text;
+    return value.kind() == Value::Kind::Date ? FieldKind::Date : FieldKind::Double;
+}
+
+/// Reads and rewrites one SELECT, up to its end or the bracket behind it.
+class SelectRewriter {
+public:
+    explicit SelectRewriter(TokenReader& reader)
+        : m_reader(reader) {
+        read();
+    }
+
+    SelectPlan plan() const;
+    /// The SELECT as a value, which is Null if no row is found.
+    Operand value() const;
+
+private:
+    void read();
+    Item readItem();
+    FieldName readFieldName();
+    void readSource();
+    QByteArray readCondition();
+    QByteArray readConjunction();
+    QByteArray readComparison();
+    Operand readOperand();
+    Operand readLiteral(bool isNegative);
+
+    Column resolve(const FieldName& name) const;
+    void addAllFields();
+    void addItem(const Item& item);
+    Column aggregate(const QByteArray& function, const Column& field) const;
+    QByteArray sql(const QByteArray& values) const;
+
+    TokenReader& m_reader;
+    std::vector<Source> m_sources;
+    std::vector<Column> m_columns;
+    QByteArray m_condition;
+    bool m_isAggregate = false;
+};
+
+void SelectRewriter::read() {
+    m_reader.expect(m_reader.acceptWord(u"SELECT"));
+    std::vector<Item> items;
+    const bool isAll = m_reader.accept(TokenKind::Star);
+    if (!isAll) {
+        do items.push_back(readItem());
+        while (m_reader.accept(TokenKind::Comma));
+        m_isAggregate = !items.front().function.isEmpty();
+    }
+    m_reader.expect(m_reader.acceptWord(u"FROM"));
     do readSource();
     while (m_reader.accept(TokenKind::Comma));
+    if (isAll) addAllFields();
+    for (const Item& item : items) addItem(item);
+    if (!m_reader.acceptWord(u"WHERE")) return;
+    m_reader.beginClause();
+    m_condition = readCondition();
+}
+
+Item SelectRewriter::readItem() {
+    const QString name = m_reader.takeName();
+    if (m_reader.accept(TokenKind::Dot)) return {{}, {name, m_reader.takeName()}};
+    if (!m_reader.accept(TokenKind::Open)) return {{}, {{}, name}};
+    const FieldName argument = readFieldName();
+    m_reader.expect(m_reader.accept(TokenKind::Close));
+    return {name.toUpper(), argument};
+}
+
+FieldName SelectRewriter::readFieldName() {
+    const QString name = m_reader.takeName();
+    if (m_reader.accept(TokenKind::Dot)) return {name, m_reader.takeName()};
+    return {{}, name};
 }
 
 void SelectRewriter::readSource() {
-    const QString tableName = m_reader.takeName(RuntimeError::badFrom);
+    // Far beyond any screen's statements, and below SQLite's own limit.
+    constexpr size_t mostTables = 32;
+    const QString tableName = m_reader.takeName();
     const TableSpec* table = findTable(tableName);
     if (table == nullptr) throw runtimeError(RuntimeError::tableNotFound, tableName);
-    QString name = m_reader.atName() ? m_reader.takeName(RuntimeError::badFrom) : tableName;
-    if (m_scope.findSource(name) != nullptr) m_reader.fail(RuntimeError::badFrom);
-    if (m_scope.sources().size() == mostTables) throw runtimeError(RuntimeError::tooComplex);
-    m_scope.add({table, std::move(name), m_reader.nextAlias()});
+    const QString name = m_reader.atName() ? m_reader.takeName() : tableName;
+    const auto hasName = [&](const Source& source) {
+        return source.name.compare(name, Qt::CaseInsensitive) == 0;
+    };
+    if (std::ranges::any_of(m_sources, hasName) || m_sources.size() == mostTables)
+        m_reader.fail(RuntimeError::badExpression);
+    m_sources.push_back({table, name});
 }
 
-void SelectRewriter::readItems() {
-    m_reader.beginClause();
-    do readItem();
-    while (m_reader.accept(TokenKind::Comma));
-    nameItems();
-}
-
-void SelectRewriter::readItem() {
-    if (m_reader.accept(TokenKind::Star)) {
-        for (const Source& source : m_scope.sources()) addFields(source);
-        return;
+/// A name that is no field is taken for a parameter that nobody gave.
+Column SelectRewriter::resolve(const FieldName& name) const {
+    std::vector<Column> found;
+    for (const Source& source : m_sources) {
+        if (!name.source.isEmpty() && name.source.compare(source.name, Qt::CaseInsensitive) != 0) continue;
+        const int field = source.table->fieldIndex(name.field);
+        if (field >= 0) found.push_back(columnOf(source, field));
     }
-    Item item{.operand = ExpressionRewriter(m_reader, m_scope, Aggregates::Allowed).read(), .name = {}};
-    for (const Source& source : m_scope.sources()) {
-        const int field = source.table->fieldIndex(item.operand.bareField);
-        if (field < 0 || fieldOf(source, field).sql != item.operand.sql) continue;
-        item.field = field;
-        item.name = item.operand.bareField;
+    if (found.empty()) throw runtimeError(RuntimeError::missingParameter, QStringLiteral("1"));
+    if (found.size() > 1) m_reader.fail(RuntimeError::badExpression);
+    return found.front();
+}
+
+void SelectRewriter::addAllFields() {
+    for (const Source& source : m_sources)
+        for (int field = 0; field < static_cast<int>(source.table->fields.size()); ++field)
+            m_columns.push_back(columnOf(source, field));
+}
+
+void SelectRewriter::addItem(const Item& item) {
+    if (item.function.isEmpty() == m_isAggregate) m_reader.fail(RuntimeError::badExpression);
+    const Column field = resolve(item.field);
+    m_columns.push_back(m_isAggregate ? aggregate(item.function.toLatin1(), field) : field);
+}
+
+Column SelectRewriter::aggregate(const QByteArray& function, const Column& field) const {
+    FieldKind kind = FieldKind::Long;
+    if (function != "COUNT") {
+        if (function != "SUM" && function != "MIN" && function != "MAX")
+            m_reader.fail(RuntimeError::badExpression);
+        requireAlike(isNumber(field.result.kind));
+        const bool isWhole = function == "SUM" && field.result.kind != FieldKind::Double;
+        kind = isWhole ? FieldKind::Number : field.result.kind;
     }
-    add(std::move(item));
+    // An aggregate has no name of its own.
+    const QString name = QStringLiteral("Expr%1").arg(1000 + m_columns.size());
+    return {function + '(' + field.sql + ')', {name, kind, -1}};
 }
 
-void SelectRewriter::add(Item item) {
-    if (m_items.size() == mostColumns) throw runtimeError(RuntimeError::tooManyFields);
-    m_items.push_back(std::move(item));
+QByteArray SelectRewriter::readCondition() {
+    QByteArray condition = readConjunction();
+    while (m_reader.acceptWord(u"OR")) condition += " OR " + readConjunction();
+    return condition;
 }
 
-void SelectRewriter::addFields(const Source& source) {
-    for (size_t i = 0; i < source.table->fields.size(); ++i) {
-        const int field = static_cast<int>(i);
-        const FieldReference reference = fieldOf(source, field);
-        const QString name = reference.field->name.toString();
-        Operand operand{.sql = reference.sql, .kind = reference.field->kind, .bareField = name};
-        add({std::move(operand), name, field});
+QByteArray SelectRewriter::readConjunction() {
+    QByteArray conjunction = readComparison();
+    while (m_reader.acceptWord(u"AND")) conjunction += " AND " + readComparison();
+    return conjunction;
+}
+
+QByteArray SelectRewriter::readComparison() {
+    if (m_reader.at(TokenKind::Open)) {
+        m_reader.openBracket();
+        const QByteArray condition = readCondition();
+        m_reader.closeBracket();
+        return '(' + condition + ')';
     }
+    const FieldName name = readFieldName();
+    const bool isLike = m_reader.acceptWord(u"LIKE");
+    const QByteArray sign =
+        isLike ? QByteArray() : m_reader.take(m_reader.at(TokenKind::Comparison)).toLatin1();
+    const Column left = resolve(name);
+    const Operand right = readOperand();
+    const bool isText = left.result.kind == FieldKind::Text;
+    requireAlike(isText == (right.kind == FieldKind::Text) && (isText || !isLike));
+    requireAlike(isNumber(left.result.kind) == isNumber(right.kind));
+    if (isLike) return QByteArray(sqlname::like) + '(' + left.sql + ", " + right.sql + ')';
+    const QByteArray collation = isText ? QByteArray(" COLLATE ") + sqlname::textCollation : QByteArray();
+    return left.sql + collation + ' ' + sign + ' ' + right.sql;
 }
 
-/// Numbers the columns that are no fields, as these have no name of their own.
-void SelectRewriter::nameItems() {
-    int unnamed = 1000;
-    for (Item& item : m_items)
-        if (item.name.isEmpty()) item.name = QStringLiteral("Expr%1").arg(unnamed++);
+Operand SelectRewriter::readOperand() {
+    if (m_reader.at(TokenKind::Open)) {
+        m_reader.openBracket();
+        const SelectRewriter inner(m_reader);
+        m_reader.closeBracket();
+        return inner.value();
+    }
+    const bool isNegative = m_reader.accept(TokenKind::Minus);
+    if (m_reader.at(TokenKind::Literal) || isNegative) return readLiteral(isNegative);
+    if (m_reader.acceptWord(u"TRUE")) return {"1", FieldKind::Boolean};
+    if (m_reader.acceptWord(u"FALSE")) return {"0", FieldKind::Boolean};
+    const Column field = resolve(readFieldName());
+    return {field.sql, field.result.kind};
 }
 
-bool SelectRewriter::isAggregate() const {
-    return std::ranges::any_of(m_items, [](const Item& item) { return item.operand.aggregate; });
+Operand SelectRewriter::readLiteral(bool isNegative) {
+    m_reader.expect(m_reader.at(TokenKind::Literal));
+    const QByteArray parameter = '?' + QByteArray::number(m_reader.peek().literal + 1);
+    const FieldKind kind = literalKind(m_reader.takeLiteral());
+    if (!isNegative) return {parameter, kind};
+    requireAlike(kind == FieldKind::Double);
+    return {'-' + parameter, kind};
 }
 
-void SelectRewriter::checkAggregates() const {
-    if (!isAggregate()) return;
-    for (const Item& item : m_items)
-        if (!item.operand.bareField.isEmpty())
-            throw runtimeError(RuntimeError::fieldOutsideAggregate, item.operand.bareField);
-}
-
-QByteArray SelectRewriter::columns() const {
-    QByteArrayList columns;
-    for (const Item& item : m_items) columns += item.operand.sql;
-    return columns.join(", ");
-}
-
-QByteArray SelectRewriter::sql(const QByteArray& columns) const {
+QByteArray SelectRewriter::sql(const QByteArray& values) const {
     QByteArrayList tables;
-    for (const Source& source : m_scope.sources())
-        tables += quotedName(source.table->name) + " AS " + source.alias;
-    const QByteArray select = "SELECT " + columns + " FROM " + tables.join(", ");
-    return m_where.isEmpty() ? select : select + " WHERE " + m_where;
+    for (const Source& source : m_sources)
+        tables += quotedName(source.table->name) + " AS " + quotedName(source.name);
+    const QByteArray select = "SELECT " + values + " FROM " + tables.join(", ");
+    return m_condition.isEmpty() ? select : select + " WHERE " + m_condition;
 }
 
 SelectPlan SelectRewriter::plan() const {
     SelectPlan plan;
-    const bool editable = m_scope.sources().size() == 1 && !isAggregate();
-    for (const Item& item : m_items)
-        plan.columns.push_back({item.name, item.operand.kind, editable ? item.field : -1});
-    if (!editable) {
-        plan.sql = sql(columns());
-        return plan;
+    QByteArrayList values;
+    for (const Column& column : m_columns) {
+        plan.columns.push_back(column.result);
+        values += column.sql;
     }
-    const Source& source = m_scope.sources().front();
-    plan.editable = source.table;
+    plan.sql = sql(values.join(", "));
+    if (m_sources.size() > 1 || m_isAggregate) return plan;
+    plan.editable = m_sources.front().table;
     // In the order of an index, a row that a change has moved ahead would be met again. Row numbers prevent
     // that.
-    plan.sql = sql(source.alias + ".rowid, " + columns()) + " ORDER BY " + source.alias + ".rowid";
+    const QByteArray row = quotedName(m_sources.front().name) + ".rowid";
+    plan.sql = sql(row + ", " + values.join(", ")) + " ORDER BY " + row;
     return plan;
 }
 
-const Item& SelectRewriter::onlyItem() const {
-    if (m_items.size() != 1) throw runtimeError(RuntimeError::tooManyColumns);
-    return m_items.front();
-}
-
 Operand SelectRewriter::value() const {
-    const Item& item = onlyItem();
-    const QByteArray single = sqlname::singleValue;
-    const QByteArray select = isAggregate() ? sql(columns()) : sql(single + '(' + columns() + ')');
-    return {.sql = '(' + select + ')', .kind = item.operand.kind};
-}
-
-void requireEnd(TokenReader& reader) {
-    if (reader.at(TokenKind::Comma)) reader.fail(RuntimeError::misplacedComma);
-    if (!reader.at(TokenKind::End)) reader.fail(RuntimeError::operatorExpected);
+    if (m_columns.size() != 1 || m_isAggregate) m_reader.fail(RuntimeError::badExpression);
+    const auto& [sql, column] = m_columns.front();
+    const QByteArray only =
+        QByteArray("CASE WHEN COUNT(*) > 1 THEN ") + sqlname::tooManyRows + "() ELSE MIN(" + sql + ") END";
+    return {'(' + this->sql(only) + ')', column.kind};
 }
 
 } // namespace
 
 SelectPlan rewriteSelect(QStringView source, const LexedStatement& statement) {
-    // Many times the length of any screen's statement. A longer one is refused before it costs time.
-    constexpr size_t mostTokens = 10'000;
-    if (statement.tokens.size() > mostTokens) throw runtimeError(RuntimeError::tooComplex);
     TokenReader reader(source, statement);
-    SelectRewriter select(reader, nullptr);
-    select.read();
-    requireEnd(reader);
+    const SelectRewriter select(reader);
+    reader.expect(reader.at(TokenKind::End));
     return select.plan();
-}
-
-Operand readValueSelect(TokenReader& reader, const Scope& outer) {
-    const TokenReader::Level level(reader);
-    SelectRewriter select(reader, &outer);
-    select.read();
-    return select.value();
 }
 
 } // namespace dialect

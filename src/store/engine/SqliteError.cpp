@@ -1,20 +1,11 @@
 #include "SqliteError.h"
 
+#include "SqlNames.h"
 #include "Sqlite.h"
-
-#include <optional>
 
 namespace engine {
 
 namespace {
-
-constexpr QByteArrayView markPrefix("uw-error ");
-
-std::optional<RuntimeError> markedError(QByteArrayView message) {
-    if (!message.startsWith(markPrefix)) return std::nullopt;
-    const QString marked = QString::fromUtf8(message.sliced(markPrefix.size()));
-    return RuntimeError{marked.section(u' ', 0, 0).toInt(), marked.section(u' ', 1)};
-}
 
 RuntimeError constraintError(int extendedCode) {
     return runtimeError(extendedCode == SQLITE_CONSTRAINT_NOTNULL ? RuntimeError::nullInField
@@ -40,7 +31,7 @@ RuntimeError reservedError(int extendedCode) {
 
 /// SQLITE_ERROR covers all failures without a code of their own. Only the message tells them apart.
 RuntimeError plainError(QByteArrayView message) {
-    if (auto marked = markedError(message)) return *marked;
+    if (message == QByteArrayView(sqlname::tooManyRows)) return runtimeError(RuntimeError::tooManyRows);
     if (message.startsWith("integer overflow")) return runtimeError(RuntimeError::overflow);
     // What a statement does wrong is told in words of its own. Without any, a page could not be decrypted.
     if (message == QByteArrayView(sqlite3_errstr(SQLITE_ERROR)))
@@ -97,10 +88,6 @@ RuntimeError sqliteError(sqlite3* database) {
     const int code = sqlite3_extended_errcode(database);
     if ((code & 0xff) == SQLITE_ERROR) return plainError(sqlite3_errmsg(database));
     return sqliteError(code);
-}
-
-QByteArray errorMark(const RuntimeError& error) {
-    return markPrefix.toByteArray() + QByteArray::number(error.number) + ' ' + error.description.toUtf8();
 }
 
 } // namespace engine

@@ -2,8 +2,6 @@
 
 #include "RuntimeError.h"
 
-#include <QByteArray>
-
 struct sqlite3;
 
 namespace engine {
@@ -15,8 +13,5 @@ RuntimeError sqliteError(int extendedCode);
 /// As above for a statement that could not be prepared. Error 3078 if the file lacks a table, 3061 if it
 /// lacks a field, 3360 if the statement is too complex for SQLite.
 RuntimeError prepareError(sqlite3* database);
-
-/// How a function of ours that runs inside a statement reports an error of its own: this text as its message.
-QByteArray errorMark(const RuntimeError& error);
 
 } // namespace engine

@@ -5,5 +5,5 @@
 namespace sqlname {
 inline constexpr char textCollation[] = "uw_text";
 inline constexpr char like[] = "uw_like";
-inline constexpr char singleValue[] = "uw_single";
+inline constexpr char tooManyRows[] = "uw_too_many_rows";
 } // namespace sqlname

@@ -2,7 +2,6 @@
 
 #include "StoredText.h"
 
-#include <QList>
 #include <algorithm>
 
 namespace {
@@ -11,12 +10,7 @@ constexpr bool isAscii(char c) { return static_cast<unsigned char>(c) < 0x80; }
 
 constexpr bool isCombining(char32_t c) { return c >= 0x300 && c <= 0x36f; }
 
-QList<char32_t> folded(QByteArrayView text) {
-    QList<char32_t> characters;
-    characters.reserve(text.size());
-    for (const uint c : storedText(text).toUcs4()) characters += foldedCharacter(c);
-    return characters;
-}
+char32_t foldedCharacter(char32_t c) { return c < 0x80 ? foldedAscii(c) : QChar::toCaseFolded(c); }
 
 char32_t baseLetter(char32_t c) {
     constexpr char32_t endOfLatin = 0x250;
@@ -42,15 +36,20 @@ int order(const QList<char32_t>& a, const QList<char32_t>& b) {
 }
 
 int compareAnyLetters(QByteArrayView a, QByteArrayView b) {
-    const QList<char32_t> foldedA = folded(a);
-    const QList<char32_t> foldedB = folded(b);
+    const QList<char32_t> foldedA = foldedText(a);
+    const QList<char32_t> foldedB = foldedText(b);
     const int byLetters = order(baseLetters(foldedA), baseLetters(foldedB));
     return byLetters != 0 ? byLetters : order(foldedA, foldedB);
 }
 
 } // namespace
 
-char32_t foldedCharacter(char32_t c) { return c < 0x80 ? foldedAscii(c) : QChar::toCaseFolded(c); }
+QList<char32_t> foldedText(QByteArrayView text) {
+    QList<char32_t> characters;
+    characters.reserve(text.size());
+    for (const uint c : storedText(text).toUcs4()) characters += foldedCharacter(c);
+    return characters;
+}
 
 int compareTexts(QByteArrayView a, QByteArrayView b) {
     const qsizetype common = std::min(a.size(), b.size());

@@ -31,32 +31,34 @@ TEST(TextComparisonTest, BearsBytesThatAreNoText) {
 namespace {
 
 struct Match {
-    QStringView pattern;
+    const char* pattern;
     const char* text;
     bool matches;
 };
 
 constexpr auto matches = std::to_array<Match>({
-    {u"", "a", false},          {u"a*", "Angel", true},      {u"*gl*", "Angel", false},
-    {u"a**b", "ab", true},      {u"a*b*c", "aXbXbXc", true}, {u"a*b*c", "aXbXbX", false},
-    {u"?", "\U0001F41F", true}, {u"??", "ä", false},         {u"A#", "ab", false},
-    {u"ÄÖÜ", "äöü", true},      {u"stra?e", "Straße", true}, {u"strasse", "Straße", false},
-    {u"[a-c]x", "dx", false},   {u"[A-C]x", "cx", true},     {u"[!a-c]x", "bx", false},
-    {u"[ä-ü]", "Ö", true},      {u"[*]", "*", true},         {u"[#]1", "#1", true},
-    {u"a[]b", "ab", true},      {u"[!]", "!", true},         {u"[a-]", "-", true},
-    {u"a%", "ab", false},
+    {"", "a", false},
+    {"a*", "Angel", true},
+    {"*gl*", "Angel", false},
+    {"a**b", "ab", true},
+    {"a*b*c", "aXbXbXc", true},
+    {"a*b*c", "aXbXbX", false},
+    {"ÄÖÜ", "äöü", true},
+    {"strasse", "Straße", false},
+    {"STRA*E", "Straße", true},
+    {"a%", "ab", false},
+    {"a_", "ab", false},
 });
 
 } // namespace
 
 TEST(LikePatternTest, MatchesWildcardsWithoutRegardToCase) {
     for (const auto& [pattern, text, expected] : matches)
-        EXPECT_EQ(LikePattern(pattern.toString()).matches(text), expected)
-            << pattern.toString().toStdString() << ' ' << text;
+        EXPECT_EQ(LikePattern(pattern).matches(text), expected) << pattern << ' ' << text;
 }
 
 TEST(LikePatternTest, NeedsNoEternityForAHostilePattern) {
-    const LikePattern pattern(QStringLiteral("*a").repeated(200) + u'b');
+    const LikePattern pattern(QByteArray("*a").repeated(200) + 'b');
     EXPECT_FALSE(pattern.matches(QByteArray(20'000, 'a')));
 }
 
