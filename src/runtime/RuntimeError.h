@@ -82,7 +82,6 @@ struct RuntimeError {
     static constexpr Kind databaseExists{3204, u"Datenbank '%1' existiert bereits."};
     static constexpr Kind folderHasDatabase{3204, u"Im Ordner %1 gibt es schon eine uw01.mdb."};
     static constexpr Kind notSupported{3251, u"Operation wird für diesen Objekttyp nicht unterstützt."};
-    static constexpr Kind transactionBegun{3251, u"Es ist schon eine Transaktion begonnen."};
     static constexpr Kind lockedByOther{
         3260, u"Aktualisieren nicht möglich; momentan durch einen anderen Benutzer gesperrt."};
     static constexpr Kind itemNotFound{3265, u"Element '%1' in dieser Auflistung nicht gefunden."};

@@ -53,7 +53,7 @@ void schalteZurueck(qint32 altesJahr) {
 std::optional<qint32> uebernehmeJahr(ErrorTail& step, Recordset& system, std::optional<Transaction>& change) {
     qint32 altesJahr = 0;
     step([&] { altesJahr = CLng(system.Collect(u"FJahr"_s)); });
-    step([&] { change.emplace(session().AktWorkspace); });
+    step([&] { change.emplace(session().AktDatenbank); });
     if (!change) return std::nullopt;
     step([&] { system.Edit(); });
     step([&] { system.Collect(u"FJahr"_s, qint32(session().AktJahr)); });

@@ -66,8 +66,8 @@ QString shown(const Value& value) {
 }
 
 QString StoreTest::rowsOf(cursors::Connection& connection, const QString& select) {
-    cursors::StatementCache::Loan statement = connection.select(select);
-    const dialect::SelectPlan& plan = statement.plan();
+    const cursors::Loan statement = connection.select(select);
+    const dialect::SelectPlan& plan = statement->plan;
     QStringList lines;
     while (statement->step()) {
         QStringList cells;

@@ -5,7 +5,6 @@
 #include "InterruptedFile.h"
 #include "PageReader.h"
 #include "RawContent.h"
-#include "SelectRewriter.h"
 #include "SqlFunctions.h"
 
 #include <utility>
@@ -13,6 +12,19 @@
 namespace cursors {
 
 namespace {
+
+/// Begins the keys of statements in SQLite's own SQL. The dialect refuses control characters.
+constexpr QChar ownKey = u'\x10';
+
+dialect::SelectPlan rowsPlan(const TableSpec& table) {
+    dialect::SelectPlan plan{.sql = "SELECT rowid", .columns = {}, .editable = &table};
+    for (const FieldSpec& field : table.fields) {
+        plan.sql += ", " + quotedName(field.name);
+        plan.columns.push_back({field.name.toString(), field.kind, static_cast<int>(plan.columns.size())});
+    }
+    plan.sql += " FROM " + quotedName(table.name) + " WHERE rowid >= ?1 ORDER BY rowid";
+    return plan;
+}
 
 /// In an open file, whose password was right, a page that does not fit the key is damaged.
 bool isDamage(const RuntimeError& error) {
@@ -70,7 +82,6 @@ void Connection::openExisting(const QString& path, const QString& password, Acce
 
 void Connection::openFile(const QString& path, const QString& password, Access access) {
     m_database = engine::openFile(path, access);
-    m_cache.emplace(m_database.get());
     m_transaction.emplace(m_database.get());
     engine::setKey(m_database.get(), password);
     execute("PRAGMA foreign_keys = OFF");
@@ -138,18 +149,44 @@ void Connection::close() {
             if (!failure) failure = error;
         }
     }
-    m_cache->clear();
+    m_statements.clear();
     m_database.reset();
     if (failure) throw *failure;
 }
 
-StatementCache::Loan Connection::select(QStringView source) {
+Loan Connection::select(QStringView source) {
     dialect::lexStatement(source, m_lexed);
-    StatementCache::Loan loan = m_cache->take(m_lexed.key);
-    if (!loan) loan = m_cache->add(m_lexed.key, dialect::rewriteSelect(source, m_lexed));
+    Loan loan = lend(m_lexed.key, [&] { return dialect::rewriteSelect(source, m_lexed); });
     int position = 1;
     for (const Value& literal : m_lexed.literals) loan->bind(position++, literal);
     return loan;
+}
+
+Loan Connection::statement(const QByteArray& sql) {
+    return lend(ownKey + QString::fromUtf8(sql),
+                [&] { return dialect::SelectPlan{.sql = sql, .columns = {}}; });
+}
+
+Loan Connection::rowsOf(const TableSpec& table) {
+    return lend(ownKey + table.name.toString(), [&] { return rowsPlan(table); });
+}
+
+/// A statement that is on loan already is prepared once more.
+Loan Connection::lend(const QString& key, const std::function<dialect::SelectPlan()>& plan) {
+    const auto* known = m_statements.object(key);
+    std::shared_ptr<PreparedStatement> statement = known != nullptr ? *known : nullptr;
+    if (statement == nullptr || statement->isLent) {
+        const dialect::SelectPlan its = statement != nullptr ? statement->plan : plan();
+        statement = std::make_shared<PreparedStatement>(prepare(its.sql), its, false);
+        if (known == nullptr)
+            m_statements.insert(QString(key.constData(), key.size()), new std::shared_ptr(statement));
+    }
+    statement->isLent = true;
+    return {statement.get(), [statement](PreparedStatement*) {
+                statement->reset();
+                statement->clear();
+                statement->isLent = false;
+            }};
 }
 
 bool Connection::passesCheck() {

@@ -1,21 +1,28 @@
 #pragma once
 
 #include "DatabaseHandle.h"
-#include "Lexer.h"
-#include "StatementCache.h"
+#include "SelectRewriter.h"
+#include "Statement.h"
 #include "WriteTransaction.h"
 
-#include <QString>
+#include <QCache>
 #include <functional>
 #include <memory>
 #include <optional>
 #include <vector>
 
-struct sqlite3;
-
 namespace cursors {
 
 class Cursor;
+
+/// A statement that is kept for the next time.
+struct PreparedStatement : engine::Statement {
+    dialect::SelectPlan plan;
+    bool isLent = false;
+};
+
+/// A statement on loan. Its end resets the statement and gives it back.
+using Loan = std::shared_ptr<PreparedStatement>;
 
 /// An open database file.
 class Connection {
@@ -37,10 +44,12 @@ public:
     bool isOpen() const { return m_database != nullptr; }
 
     /// A SELECT of the dialect with its literals bound. Step it next.
-    StatementCache::Loan select(QStringView source);
-    /// A statement in SQLite's own SQL, kept in the cache.
-    StatementCache::Loan statement(const QByteArray& sql) { return m_cache->take(sql); }
-    /// As above without the cache, for statements that run once.
+    Loan select(QStringView source);
+    /// A statement in SQLite's own SQL.
+    Loan statement(const QByteArray& sql);
+    /// All rows of a table from the number ?1 on.
+    Loan rowsOf(const TableSpec& table);
+    /// As above for a statement that runs once and is not kept.
     engine::Statement prepare(const QByteArray& sql) { return engine::Statement(m_database.get(), sql); }
     void execute(const QByteArray& sql) { prepare(sql).run(); }
     WriteTransaction& transaction() { return *m_transaction; }
@@ -63,9 +72,11 @@ private:
     void leaveWriteAheadMode(const QString& path);
     void cascadeDeletions();
     bool passesCheck();
+    Loan lend(const QString& key, const std::function<dialect::SelectPlan()>& plan);
 
     engine::DatabaseHandle m_database;
-    std::optional<StatementCache> m_cache;
+    /// The least recently used ones are dropped first.
+    QCache<QString, std::shared_ptr<PreparedStatement>> m_statements{128};
     std::optional<WriteTransaction> m_transaction;
     std::vector<Cursor*> m_cursors;
     dialect::LexedStatement m_lexed; ///< kept for its buffers

@@ -27,8 +27,6 @@ public:
     /// The field's value in a new row: the set value, else False for a Boolean and Null for others.
     Value initial(int field) const;
 
-    const TableSpec& table() const { return *m_table; }
-
 private:
     Mode m_mode = Mode::Idle;
     const TableSpec* m_table = nullptr;

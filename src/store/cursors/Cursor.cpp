@@ -1,40 +1,51 @@
 #include "Cursor.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace cursors {
 
-Cursor::Cursor(std::shared_ptr<Connection> connection)
-    : m_connection(std::move(connection)) {
+Cursor::Cursor(std::shared_ptr<Connection> connection, Loan rows)
+    : m_rows(std::move(rows))
+    , m_connection(std::move(connection)) {
     m_connection->add(this);
 }
 
 Cursor::~Cursor() {
     try {
-        leave(End::Abandon);
+        abandon();
     } catch (const RuntimeError&) {
         // The failed write has thrown this error before.
     }
 }
 
-void Cursor::close() {
-    releaseRows();
-    leave(End::Commit);
-}
+void Cursor::close() { leave(&WriteTransaction::leave); }
 
-void Cursor::abandon() {
-    releaseRows();
-    leave(End::Abandon);
-}
+void Cursor::abandon() { leave(&WriteTransaction::abandon); }
 
-void Cursor::leave(End end) {
+void Cursor::leave(void (WriteTransaction::*end)()) {
+    m_rows.reset();
     const auto ended = std::exchange(m_connection, nullptr);
     if (ended == nullptr) return;
     ended->remove(this);
-    const bool hasWritten = m_writer.has_value();
-    m_writer.reset();
-    if (!hasWritten) return;
-    end == End::Commit ? ended->transaction().leave() : ended->transaction().abandon();
+    if (m_hasWritten) (ended->transaction().*end)();
+}
+
+int Cursor::columnIndex(const QString& name) const {
+    const auto& columns = m_rows->plan.columns;
+    // Called for each cell of a printed list, so names of another length are not compared.
+    const auto isNamed = [&](const dialect::ResultColumn& column) {
+        return column.name.size() == name.size() && column.name.compare(name, Qt::CaseInsensitive) == 0;
+    };
+    const auto found = std::ranges::find_if(columns, isNamed);
+    if (found == columns.end()) throw runtimeError(RuntimeError::itemNotFound, name);
+    return static_cast<int>(found - columns.begin());
+}
+
+QStringList Cursor::columnNames() const {
+    QStringList names;
+    for (const dialect::ResultColumn& column : m_rows->plan.columns) names.append(column.name);
+    return names;
 }
 
 void Cursor::moveTo(Place place) {
@@ -49,13 +60,13 @@ RuntimeError Cursor::noRow() const {
 }
 
 Value Cursor::value(int column) {
-    if (m_buffer.mode() == CopyBuffer::Mode::Adding) return m_buffer.initial(fieldOfColumn(column));
+    if (m_buffer.mode() == CopyBuffer::Mode::Adding) return m_buffer.initial(fieldOf(column));
     requireRow();
     const bool unchanged =
         m_buffer.mode() == CopyBuffer::Mode::Idle && m_written.mode() == CopyBuffer::Mode::Idle;
     if (unchanged) return storedValue(column);
     if (!m_connection->transaction().isIntact()) m_written.end();
-    const int field = fieldOfColumn(column);
+    const int field = fieldOf(column);
     for (const CopyBuffer* buffer : {&m_buffer, &m_written}) {
         if (buffer->mode() == CopyBuffer::Mode::Idle) continue;
         if (const Value* known = buffer->find(field)) return *known;
@@ -68,8 +79,9 @@ void Cursor::useIndex(const QString&) { throw runtimeError(RuntimeError::notSupp
 void Cursor::seek(const QString&, const Value&) { throw runtimeError(RuntimeError::notSupported); }
 
 const TableSpec& Cursor::requireTarget() const {
-    if (target() == nullptr) throw runtimeError(RuntimeError::readOnly);
-    return *target();
+    const TableSpec* table = m_rows->plan.editable;
+    if (table == nullptr) throw runtimeError(RuntimeError::readOnly);
+    return *table;
 }
 
 void Cursor::addNew() { m_buffer.begin(CopyBuffer::Mode::Adding, requireTarget()); }
@@ -81,7 +93,7 @@ void Cursor::edit() {
 
 void Cursor::collect(const QString& name, const Value& value) {
     if (m_buffer.mode() == CopyBuffer::Mode::Idle) throw runtimeError(RuntimeError::notEditing);
-    const int field = fieldOfColumn(columnIndex(name));
+    const int field = fieldOf(columnIndex(name));
     if (field < 0) throw runtimeError(RuntimeError::readOnly);
     m_buffer.set(field, value);
 }
@@ -93,24 +105,57 @@ qint64 Cursor::currentRow() {
     return key != nullptr ? key->number() : storedRow();
 }
 
-RowWriter& Cursor::writer() {
-    if (m_writer) {
-        m_connection->transaction().requireIntact();
-        return *m_writer;
-    }
-    m_connection->transaction().join();
-    return m_writer.emplace(*m_connection, requireTarget());
-}
-
-template<typename Write>
-void Cursor::write(Write write) {
-    RowWriter& rows = writer();
+/// Runs a statement with these values in the transaction of the user's action. Error 3167 if it does not find
+/// the row whose number is its last parameter.
+void Cursor::write(const QByteArray& sql, const std::vector<Value>& values, std::optional<qint64> row) {
+    WriteTransaction& action = m_connection->transaction();
+    m_hasWritten ? action.requireIntact() : action.join();
+    m_hasWritten = true;
     try {
-        write(rows);
+        const Loan statement = m_connection->statement(sql);
+        int position = 0;
+        for (const Value& value : values) statement->bind(++position, value);
+        if (row) statement->bind(++position, *row);
+        statement->run();
+        if (row && m_connection->changes() != 1) throw runtimeError(RuntimeError::recordDeleted);
     } catch (const RuntimeError& error) {
-        m_connection->transaction().noteFailure(error);
+        action.noteFailure(error);
         throw;
     }
+}
+
+/// Error 3022 for a key that exists, 3058 for a Null key.
+void Cursor::insert() {
+    const TableSpec& table = requireTarget();
+    QByteArrayList names, parameters;
+    std::vector<Value> values;
+    for (const FieldSpec& field : table.fields) {
+        values.push_back(m_buffer.initial(static_cast<int>(values.size())));
+        names += quotedName(field.name);
+        parameters += "?";
+    }
+    // SQLite would choose a number for a Null key.
+    const bool isKeyGiven = table.keyed && table.fields.front().kind != FieldKind::AutoNumber;
+    if (isKeyGiven && values.front().isNull()) throw runtimeError(RuntimeError::nullKey);
+    write("INSERT INTO " + quotedName(table.name) + " (" + names.join(", ") + ") VALUES (" +
+              parameters.join(", ") + ')',
+          values, std::nullopt);
+}
+
+/// Writes the fields that are set.
+void Cursor::change(qint64 row) {
+    const TableSpec& table = requireTarget();
+    QByteArrayList assignments;
+    std::vector<Value> values;
+    for (int field = 0; field < static_cast<int>(table.fields.size()); ++field) {
+        const Value* value = m_buffer.find(field);
+        if (value == nullptr) continue;
+        assignments += quotedName(table.fields[static_cast<size_t>(field)].name) + " = ?";
+        values.push_back(*value);
+    }
+    if (values.empty()) return;
+    write("UPDATE " + quotedName(table.name) + " SET " + assignments.join(", ") + " WHERE rowid = ?", values,
+          row);
 }
 
 void Cursor::update() {
@@ -118,11 +163,12 @@ void Cursor::update() {
     case CopyBuffer::Mode::Idle:
         throw runtimeError(RuntimeError::notEditing);
     case CopyBuffer::Mode::Adding:
-        write([this](RowWriter& rows) { rows.insert(m_buffer); });
+        insert();
         break;
     case CopyBuffer::Mode::Editing:
-        write([this, row = currentRow()](RowWriter& rows) { rows.update(row, m_buffer); });
-        if (m_written.mode() == CopyBuffer::Mode::Idle) m_written.begin(CopyBuffer::Mode::Editing, *target());
+        change(currentRow());
+        if (m_written.mode() == CopyBuffer::Mode::Idle)
+            m_written.begin(CopyBuffer::Mode::Editing, requireTarget());
         m_written.take(m_buffer);
         break;
     }
@@ -131,7 +177,8 @@ void Cursor::update() {
 
 void Cursor::remove() {
     requireRow();
-    write([row = currentRow()](RowWriter& rows) { rows.remove(row); });
+    const qint64 row = currentRow();
+    write("DELETE FROM " + quotedName(requireTarget().name) + " WHERE rowid = ?", {}, row);
     moveTo(Place::Deleted);
     afterRemove();
 }

@@ -2,11 +2,8 @@
 
 #include "Connection.h"
 #include "CopyBuffer.h"
-#include "RowWriter.h"
 
 #include <QStringList>
-#include <memory>
-#include <optional>
 
 namespace cursors {
 
@@ -14,7 +11,8 @@ namespace cursors {
 /// action. A field of the current row that this cursor has written is read as written, not as stored before.
 class Cursor {
 public:
-    explicit Cursor(std::shared_ptr<Connection> connection);
+    /// The statement gives the rows and tells their columns.
+    Cursor(std::shared_ptr<Connection> connection, Loan rows);
     virtual ~Cursor();
     Cursor(const Cursor&) = delete;
     Cursor& operator=(const Cursor&) = delete;
@@ -26,8 +24,8 @@ public:
     void abandon();
 
     /// Error 3265 if there is no such column.
-    virtual int columnIndex(const QString& name) const = 0;
-    virtual QStringList columnNames() const = 0;
+    int columnIndex(const QString& name) const;
+    QStringList columnNames() const;
     Value value(int column);
 
     virtual void moveFirst() = 0;
@@ -65,28 +63,30 @@ protected:
         if (m_place != Place::Row) throw noRow();
     }
 
-    virtual const TableSpec* target() const = 0; ///< null if the rows cannot be edited
-    virtual int fieldOfColumn(int column) const = 0;
-    virtual Value storedValue(int column) = 0;
-    virtual qint64 storedRow() = 0;
+    virtual Value storedValue(int column) {
+        const dialect::SelectPlan& plan = m_rows->plan;
+        return m_rows->column(column + plan.firstColumn(), plan.columns[static_cast<size_t>(column)].kind);
+    }
+    virtual qint64 storedRow() { return m_rows->integer(0); }
     virtual void afterRemove() {}
-    virtual void releaseRows() noexcept = 0;
+
+    Loan m_rows;
 
 private:
     RuntimeError noRow() const;
+    int fieldOf(int column) const { return m_rows->plan.columns[static_cast<size_t>(column)].field; }
     const TableSpec& requireTarget() const;
     qint64 currentRow();
-    RowWriter& writer();
-    template<typename Write>
-    void write(Write write);
-    enum class End : quint8 { Commit, Abandon };
-    void leave(End end);
+    void insert();
+    void change(qint64 row);
+    void write(const QByteArray& sql, const std::vector<Value>& values, std::optional<qint64> row);
+    void leave(void (WriteTransaction::*end)());
 
     std::shared_ptr<Connection> m_connection;
     Place m_place = Place::Empty;
     CopyBuffer m_buffer;
     CopyBuffer m_written; ///< what this cursor has written to the current row
-    std::optional<RowWriter> m_writer;
+    bool m_hasWritten = false;
 };
 
 } // namespace cursors

@@ -6,40 +6,17 @@
 namespace cursors {
 
 QueryCursor::QueryCursor(std::shared_ptr<Connection> connection, QStringView select)
-    : Cursor(std::move(connection))
-    , m_rows(this->connection().select(select)) {
+    : Cursor(connection, connection->select(select)) {
     start();
 }
 
-int QueryCursor::columnIndex(const QString& name) const {
-    const auto& columns = m_rows.plan().columns;
-    for (size_t i = 0; i < columns.size(); ++i)
-        if (columns[i].name.compare(name, Qt::CaseInsensitive) == 0) return static_cast<int>(i);
-    throw runtimeError(RuntimeError::itemNotFound, name);
-}
-
-QStringList QueryCursor::columnNames() const {
-    QStringList names;
-    for (const dialect::ResultColumn& column : m_rows.plan().columns) names.append(column.name);
-    return names;
-}
-
-int QueryCursor::fieldOfColumn(int column) const {
-    return m_rows.plan().columns[static_cast<size_t>(column)].field;
-}
-
-Value QueryCursor::streamedValue(int column) const {
-    const dialect::SelectPlan& plan = m_rows.plan();
-    return m_rows->column(column + plan.firstColumn(), plan.columns[static_cast<size_t>(column)].kind);
-}
-
 void QueryCursor::hold() {
-    const dialect::SelectPlan& plan = m_rows.plan();
+    const dialect::SelectPlan& plan = m_rows->plan;
     HeldRow held{.number = plan.editable != nullptr ? m_rows->integer(0) : 0, .values = {}};
     held.values.reserve(plan.columns.size());
     for (int column = 0; column < static_cast<int>(plan.columns.size()); ++column) {
         try {
-            held.values.emplace_back(streamedValue(column));
+            held.values.emplace_back(Cursor::storedValue(column));
         } catch (const RuntimeError& error) {
             held.values.emplace_back(error);
         }
@@ -48,7 +25,7 @@ void QueryCursor::hold() {
 }
 
 Value QueryCursor::storedValue(int column) {
-    if (m_stream == Stream::CurrentRow) return streamedValue(column);
+    if (m_stream == Stream::CurrentRow) return Cursor::storedValue(column);
     catchUp();
     const auto& value = m_held->values[static_cast<size_t>(column)];
     if (const auto* error = std::get_if<RuntimeError>(&value)) throw *error;

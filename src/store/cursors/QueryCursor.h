@@ -13,8 +13,6 @@ class QueryCursor final : public Cursor {
 public:
     QueryCursor(std::shared_ptr<Connection> connection, QStringView select);
 
-    int columnIndex(const QString& name) const override;
-    QStringList columnNames() const override;
     void moveFirst() override;
     void moveLast() override;
     void moveNext() override;
@@ -22,12 +20,9 @@ public:
     qint32 absolutePosition() const override { return place() == Place::Row ? m_position : -1; }
 
 protected:
-    const TableSpec* target() const override { return m_rows.plan().editable; }
-    int fieldOfColumn(int column) const override;
     Value storedValue(int column) override;
     qint64 storedRow() override;
     void afterRemove() override;
-    void releaseRows() noexcept override { m_rows.giveBack(); }
 
 private:
     /// The row on which the running statement is.
@@ -44,10 +39,8 @@ private:
     void catchUp();
     void walkTo(qint32 position);
     void hold();
-    Value streamedValue(int column) const;
     bool isAt(qint32 position) const { return place() == Place::Row && m_position == position; }
 
-    StatementCache::Loan m_rows;
     Stream m_stream = Stream::Nothing;
     std::optional<HeldRow> m_held; ///< the current row unless the statement is on it
     qint32 m_reached = 0;

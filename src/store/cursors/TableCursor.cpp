@@ -6,20 +6,9 @@
 
 namespace cursors {
 
-namespace {
-
-QByteArray rowsSql(const TableSpec& table) {
-    QByteArray columns = "rowid";
-    for (const FieldSpec& field : table.fields) columns += ", " + quotedName(field.name);
-    return "SELECT " + columns + " FROM " + quotedName(table.name) + " WHERE rowid >= ?1 ORDER BY rowid";
-}
-
-} // namespace
-
 TableCursor::TableCursor(std::shared_ptr<Connection> connection, const TableSpec& table)
-    : Cursor(std::move(connection))
-    , m_table(table)
-    , m_rows(this->connection().statement(rowsSql(table))) {
+    : Cursor(connection, connection->rowsOf(table))
+    , m_table(table) {
     if (goTo(std::numeric_limits<qint64>::min())) moveTo(Place::Row);
 }
 
@@ -29,37 +18,22 @@ bool TableCursor::goTo(qint64 firstRow) {
     return m_rows->step();
 }
 
-int TableCursor::columnIndex(const QString& name) const {
-    const int index = m_table.fieldIndex(name);
-    if (index < 0) throw runtimeError(RuntimeError::itemNotFound, name);
-    return index;
-}
-
-QStringList TableCursor::columnNames() const {
-    QStringList names;
-    for (const FieldSpec& field : m_table.fields) names.append(field.name.toString());
-    return names;
-}
-
-Value TableCursor::storedValue(int column) {
-    return m_rows->column(column + 1, m_table.fields[static_cast<size_t>(column)].kind);
+void TableCursor::begin(qint64 firstRow) {
+    const bool found = goTo(firstRow);
+    moveTo(found ? Place::Row : Place::Empty);
+    requireRow();
 }
 
 void TableCursor::moveFirst() {
     moveTo(Place::After);
-    const bool found = goTo(std::numeric_limits<qint64>::min());
-    moveTo(found ? Place::Row : Place::Empty);
-    requireRow();
+    begin(std::numeric_limits<qint64>::min());
 }
 
 void TableCursor::moveLast() {
     moveTo(Place::After);
     m_rows->reset();
-    StatementCache::Loan last = connection().statement("SELECT MAX(rowid) FROM " + quotedName(m_table.name));
-    last->step();
-    const bool found = !last->column(0, FieldKind::Untyped).isNull() && goTo(last->integer(0));
-    moveTo(found ? Place::Row : Place::Empty);
-    requireRow();
+    // 0 without any row, which is not found either.
+    begin(number("SELECT MAX(rowid) FROM %1"));
 }
 
 void TableCursor::moveNext() {
@@ -68,19 +42,18 @@ void TableCursor::moveNext() {
     if (m_rows->step()) moveTo(Place::Row);
 }
 
-qint32 TableCursor::recordCount() const {
-    StatementCache::Loan count = connection().statement("SELECT COUNT(*) FROM " + quotedName(m_table.name));
-    count->step();
-    return static_cast<qint32>(count->integer(0));
+qint64 TableCursor::number(QByteArray select, qint64 parameter) const {
+    const Loan statement = connection().statement(select.replace("%1", quotedName(m_table.name)));
+    statement->bind(1, parameter);
+    statement->step();
+    return statement->integer(0);
 }
+
+qint32 TableCursor::recordCount() const { return static_cast<qint32>(number("SELECT COUNT(*) FROM %1")); }
 
 qint32 TableCursor::absolutePosition() const {
     if (place() != Place::Row) return -1;
-    StatementCache::Loan before =
-        connection().statement("SELECT COUNT(*) FROM " + quotedName(m_table.name) + " WHERE rowid < ?1");
-    before->bind(1, m_rows->integer(0));
-    before->step();
-    return static_cast<qint32>(before->integer(0));
+    return static_cast<qint32>(number("SELECT COUNT(*) FROM %1 WHERE rowid < ?1", m_rows->integer(0)));
 }
 
 void TableCursor::useIndex(const QString& name) {

@@ -27,22 +27,17 @@ void WriteTransaction::leave() {
 }
 
 void WriteTransaction::begin() {
-    if (m_isHeld) throw runtimeError(RuntimeError::transactionBegun);
     join();
     m_isHeld = true;
 }
 
-void WriteTransaction::endHold() {
-    if (!std::exchange(m_isHeld, false)) throw runtimeError(RuntimeError::noTransaction);
-}
-
 void WriteTransaction::commit() {
-    endHold();
+    m_isHeld = false;
     leave();
 }
 
 void WriteTransaction::rollback() {
-    endHold();
+    m_isHeld = false;
     undo();
 }
 

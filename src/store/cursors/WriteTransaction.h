@@ -27,8 +27,7 @@ public:
     /// Call after each failed write. SQLite may have rolled the whole action back; later writes of the action
     /// must then fail too.
     void noteFailure(const RuntimeError& cause);
-    /// Keeps the action open until commit() or rollback(), even if all cursors are closed. Can't be nested
-    /// (3251). Without begin(), the other two are error 3034.
+    /// Keeps the action open until commit() or rollback(), even if all cursors are closed. Can't be nested.
     void begin();
     void commit();
     /// Open cursors that have written can't write any more (3034).
@@ -41,7 +40,6 @@ public:
 private:
     void execute(const QByteArray& sql);
     bool isOpen() const;
-    void endHold();
     void undo();
 
     sqlite3* m_database;

@@ -4,29 +4,14 @@
 
 #include <memory>
 
-/// Opens databases and holds transactions. Copies share their state.
+/// Opens databases.
 class Workspace {
 public:
-    Workspace();
-
     /// Opens a file for shared reading and writing. `connect` has the password as ";pwd=...". Errors: 3024 if
     /// there is no such file; 3031 if the password does not open a file that has the shape of ours; 3343 if
     /// the file is empty, cut short or otherwise damaged; 3045 if another process locks it; 3051 if it may
     /// not be read.
-    Database OpenDatabase(const QString& path, bool options, bool readOnly, const QString& connect);
-
-    // A transaction over several routines, in the database opened last. All writes between BeginTrans and
-    // CommitTrans are in the file as a whole or not at all, even if cursors are closed in between. Error 91
-    // without an open database, 3034 without a BeginTrans.
-    void BeginTrans(); ///< 3260 if another process writes, 3251 if already begun
-    /// If the commit fails, takes everything back and throws the failure. If a cursor with writes is still
-    /// open, the commit waits until it is closed.
-    void CommitTrans();
-    void Rollback();
-
-private:
-    cursors::Connection& opened() const;
-    std::shared_ptr<std::weak_ptr<cursors::Connection>> m_opened;
+    static Database OpenDatabase(const QString& path, bool options, bool readOnly, const QString& connect);
 };
 
 /// Keeps other processes from a database file until destroyed.

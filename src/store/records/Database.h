@@ -25,5 +25,6 @@ public:
     bool isSound() const;
 
 private:
+    friend class Transaction;
     std::shared_ptr<cursors::Connection> m_connection;
 };

@@ -1,18 +1,16 @@
 #include "Transaction.h"
 
-#include "RuntimeError.h"
+#include "Connection.h"
 
-#include <utility>
-
-Transaction::Transaction(Workspace workspace)
-    : m_workspace(std::move(workspace)) {
-    m_workspace.BeginTrans();
+Transaction::Transaction(const Database& database)
+    : m_connection(database.m_connection) {
+    opened().transaction().begin();
 }
 
 Transaction::~Transaction() {
     if (!m_isOpen) return;
     try {
-        m_workspace.Rollback();
+        opened().transaction().rollback();
     } catch (const RuntimeError&) {
         // The database was closed meanwhile, which has taken uncommitted writes back.
     }
@@ -20,5 +18,10 @@ Transaction::~Transaction() {
 
 void Transaction::commit() {
     m_isOpen = false;
-    m_workspace.CommitTrans();
+    opened().transaction().commit();
+}
+
+cursors::Connection& Transaction::opened() const {
+    if (m_connection == nullptr || !m_connection->isOpen()) throw runtimeError(RuntimeError::objectNotSet);
+    return *m_connection;
 }

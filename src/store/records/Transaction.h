@@ -1,21 +1,25 @@
 #pragma once
 
-#include "DBEngine.h"
+#include "Database.h"
 
-/// Joins the writes of several routines into one action. The destructor takes the action back unless commit()
-/// was called, for instance after an error.
+/// Joins the writes of several routines into one action, even if cursors are closed in between. It is in the
+/// file as a whole or not at all. The destructor takes it back unless commit() was called, for instance after
+/// an error. There can be one at a time.
 class Transaction {
 public:
-    /// Errors as for Workspace::BeginTrans.
-    explicit Transaction(Workspace workspace);
+    /// Error 91 without an open database, 3260 if another process writes.
+    explicit Transaction(const Database& database);
     ~Transaction();
     Transaction(const Transaction&) = delete;
     Transaction& operator=(const Transaction&) = delete;
 
-    /// Errors as for Workspace::CommitTrans.
+    /// If the commit fails, takes everything back and throws the failure. If a cursor with writes is still
+    /// open, the commit waits until it is closed. Error 91 if the database was closed.
     void commit();
 
 private:
-    Workspace m_workspace;
+    cursors::Connection& opened() const;
+
+    std::shared_ptr<cursors::Connection> m_connection;
     bool m_isOpen = true;
 };

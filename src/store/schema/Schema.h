@@ -6,8 +6,8 @@
 #include <span>
 
 /// The kind of a field's values. A Number is read as a whole number or with its fraction, as stored in the
-/// file. Untyped is for computed columns, whose kind only the value tells.
-enum class FieldKind : quint8 { AutoNumber, Long, Number, Double, Date, Boolean, Text, Untyped };
+/// file.
+enum class FieldKind : quint8 { AutoNumber, Long, Number, Double, Date, Boolean, Text };
 
 struct FieldSpec {
     QStringView name;

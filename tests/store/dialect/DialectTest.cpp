@@ -180,8 +180,8 @@ TEST_F(DialectTest, RefusesWhatIsNoSingleWellFormedSelect) {
 TEST_F(DialectTest, NamesWhatHasNoName) {
     const auto names = [this](QStringView select) {
         QStringList found;
-        for (const dialect::ResultColumn& column : connection->select(select.toString()).plan().columns)
-            found += column.name;
+        const cursors::Loan statement = connection->select(select);
+        for (const dialect::ResultColumn& column : statement->plan.columns) found += column.name;
         return found.join(u' ');
     };
     EXPECT_EQ(names(u"SELECT MIN(FNr), MAX(FNr) FROM Fisch"), u"Expr1000 Expr1001");

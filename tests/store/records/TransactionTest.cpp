@@ -68,14 +68,13 @@ protected:
         return fish;
     }
 
-    Workspace workspace;
-    Database held = workspace.OpenDatabase(path(), false, false, connect());
+    Database held = DBEngine::Workspaces(0).OpenDatabase(path(), false, false, connect());
 };
 
 TEST_F(HeldTransactionTest, TakesBackWhatEndsWithoutACommit) {
     Recordset stillOpen;
     {
-        const Transaction action(workspace);
+        const Transaction action(held);
         fishOfAal().Close();
         stillOpen = fishOfAal();
     }
