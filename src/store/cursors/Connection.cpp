@@ -2,7 +2,6 @@
 
 #include "Cursor.h"
 #include "FileShape.h"
-#include "InterruptedFile.h"
 #include "PageReader.h"
 #include "RawContent.h"
 #include "SqlFunctions.h"
@@ -65,16 +64,14 @@ Connection::Connection(const QString& path, const QString& password, Access acce
 /// Makes all checks before anything might change the file.
 void Connection::openExisting(const QString& path, const QString& password, Access access) {
     engine::requireReadableFile(path);
-    engine::requireContent(path);
     orDamaged(path, password, [&] {
         if (engine::isInterrupted(path))
             engine::requireKeyOfInterrupted(path, password);
         else
-            engine::requireWholePages(path);
+            engine::requirePages(path);
         openFile(path, password, access);
         readFirstPage(path);
     });
-    engine::requireWholePages(path);
     requireTables(path);
     if (access == Access::ReadWrite) leaveWriteAheadMode(path);
     cascadeDeletions();
@@ -107,9 +104,8 @@ void Connection::orDamaged(const QString& path, const QString& password, const s
 
 /// Takes back the half-written changes of a killed process. Fails if the password is wrong.
 void Connection::readFirstPage(const QString& path) {
-    prepare("SELECT COUNT(*) FROM sqlite_master").step();
-    engine::Statement pages = prepare("PRAGMA page_count");
-    if (pages.step()) engine::requirePages(path, pages.integer(0));
+    number("SELECT COUNT(*) FROM sqlite_master");
+    engine::requirePages(path, number("PRAGMA page_count"));
 }
 
 void Connection::requireTables(const QString& path) {
@@ -124,13 +120,8 @@ void Connection::requireTables(const QString& path) {
 /// Ends the write-ahead mode that another tool may have set: its log would keep the newest rows beside the
 /// file.
 void Connection::leaveWriteAheadMode(const QString& path) {
-    const auto answer = [this](const QByteArray& pragma) {
-        engine::Statement statement = prepare(pragma);
-        return statement.step() ? statement.text(0) : QString();
-    };
-    if (answer("PRAGMA journal_mode") != u"wal") return;
-    if (answer("PRAGMA journal_mode = DELETE") != u"delete")
-        throw runtimeError(RuntimeError::fileInUse, path);
+    if (text("PRAGMA journal_mode") != u"wal") return;
+    if (text("PRAGMA journal_mode = DELETE") != u"delete") throw runtimeError(RuntimeError::fileInUse, path);
 }
 
 /// Deletes the users of a deleted group. SQLite could enforce the relation in the file's schema, but only
@@ -191,8 +182,7 @@ Loan Connection::lend(const QString& key, const std::function<dialect::SelectPla
 
 bool Connection::passesCheck() {
     try {
-        engine::Statement check = prepare("PRAGMA quick_check(1)");
-        return check.step() && check.text(0) == u"ok";
+        return text("PRAGMA quick_check(1)") == u"ok";
     } catch (const RuntimeError& error) {
         if (!isDamage(error)) throw;
         return false;
@@ -205,6 +195,16 @@ bool Connection::isSound() {
     if (passesCheck()) return true;
     engine::RawContent(handle()).forEachChunk([](const QByteArray&) { return true; });
     return passesCheck();
+}
+
+qint64 Connection::number(const QByteArray& sql) {
+    engine::Statement statement = prepare(sql);
+    return statement.step() ? statement.integer(0) : 0;
+}
+
+QString Connection::text(const QByteArray& sql) {
+    engine::Statement statement = prepare(sql);
+    return statement.step() ? statement.text(0) : QString();
 }
 
 int Connection::changes() const { return engine::changedRows(m_database.get()); }

@@ -52,6 +52,9 @@ public:
     /// As above for a statement that runs once and is not kept.
     engine::Statement prepare(const QByteArray& sql) { return engine::Statement(m_database.get(), sql); }
     void execute(const QByteArray& sql) { prepare(sql).run(); }
+    /// The first value that a statement finds, 0 or empty if there is none.
+    qint64 number(const QByteArray& sql);
+    QString text(const QByteArray& sql);
     WriteTransaction& transaction() { return *m_transaction; }
     sqlite3* handle() const { return m_database.get(); }
     /// The number of rows that the last write changed.

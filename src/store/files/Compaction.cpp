@@ -15,6 +15,8 @@ class Compaction {
 public:
     Compaction(const QString& source, const QString& target, const QString& password);
     void run();
+    /// Without it the copy is removed in the end.
+    void keep() { m_target.keep(); }
 
 private:
     struct SchemaObject {
@@ -26,18 +28,14 @@ private:
     void attachCopy(const QString& password);
     QList<SchemaObject> schemaObjects(const QByteArray& condition);
     void create(const SchemaObject& object);
-    /// Returns the number of rows.
-    qint64 copyRows(const QString& table);
-    void copyCounters();
+    int copyRows(const QString& table);
     void copyMarks();
     void copyAll();
-    bool hasRows(const QString& table, qint64 count);
     void verify();
 
     UnfinishedPath m_target;
     cursors::Connection m_connection;
-    QList<SchemaObject> m_tables;
-    QHash<QString, qint64> m_counts; ///< copied rows by table
+    QHash<QString, int> m_counts; ///< copied rows by table
 };
 
 Compaction::Compaction(const QString& source, const QString& target, const QString& password)
@@ -86,54 +84,40 @@ void Compaction::create(const SchemaObject& object) {
     throw runtimeError(RuntimeError::badArgument);
 }
 
-/// If both tables have the same definition, SQLite copies rows in their stored form.
-qint64 Compaction::copyRows(const QString& table) {
+/// If both tables have the same definition, SQLite copies rows in their stored form. Returns their number.
+int Compaction::copyRows(const QString& table) {
     m_connection.execute("INSERT INTO copy." + quotedName(table) + " SELECT * FROM main." +
                          quotedName(table));
-    engine::Statement rows = m_connection.prepare("SELECT changes()");
-    rows.step();
-    return rows.integer(0);
-}
-
-/// Copies the counters too, so that no number is given out again.
-void Compaction::copyCounters() {
-    m_connection.execute("DELETE FROM copy.sqlite_sequence");
-    copyRows(QStringLiteral("sqlite_sequence"));
+    return m_connection.changes();
 }
 
 /// Copies the numbers in the file's header by which other tools recognise it.
 void Compaction::copyMarks() {
     for (const QByteArray mark : {"user_version", "application_id"}) {
-        engine::Statement value = m_connection.prepare("PRAGMA main." + mark);
-        if (!value.step()) continue;
-        const QByteArray number = QByteArray::number(value.integer(0));
-        m_connection.execute("PRAGMA copy." + mark + " = " + number);
+        const qint64 number = m_connection.number("PRAGMA main." + mark);
+        m_connection.execute("PRAGMA copy." + mark + " = " + QByteArray::number(number));
     }
 }
 
 void Compaction::copyAll() {
-    for (const SchemaObject& table : m_tables) {
+    for (const SchemaObject& table : schemaObjects("type = 'table'")) {
         create(table);
         m_counts[table.name] = copyRows(table.name);
     }
-    copyCounters();
+    // The counters too, so that no number is given out again.
+    m_connection.execute("DELETE FROM copy.sqlite_sequence");
+    copyRows(QStringLiteral("sqlite_sequence"));
     copyMarks();
     for (const SchemaObject& object : schemaObjects("type <> 'table'")) create(object);
-}
-
-bool Compaction::hasRows(const QString& table, qint64 count) {
-    engine::Statement found = m_connection.prepare("SELECT COUNT(*) FROM copy." + quotedName(table));
-    return found.step() && found.integer(0) == count;
 }
 
 void Compaction::verify() {
     // Empties the cache, so that the copy is read from the disk.
     m_connection.execute("PRAGMA shrink_memory");
     // quick_check skips the indexes, which were just built from the rows.
-    engine::Statement check = m_connection.prepare("PRAGMA copy.quick_check");
-    bool whole = check.step() && check.text(0) == u"ok";
-    for (auto table = m_counts.cbegin(); table != m_counts.cend(); ++table)
-        whole = whole && hasRows(table.key(), table.value());
+    bool whole = m_connection.text("PRAGMA copy.quick_check") == u"ok";
+    for (auto table = m_counts.cbegin(); whole && table != m_counts.cend(); ++table)
+        whole = m_connection.number("SELECT COUNT(*) FROM copy." + quotedName(table.key())) == table.value();
     // Not the number of a damaged file: the original is whole, and nothing in it is to be guessed.
     if (!whole) throw runtimeError(RuntimeError::pathFailed);
 }
@@ -143,23 +127,10 @@ void Compaction::verify() {
 void Compaction::run() {
     m_connection.execute("PRAGMA main.locking_mode = EXCLUSIVE");
     m_connection.execute("BEGIN EXCLUSIVE");
-    m_tables = schemaObjects("type = 'table'");
     copyAll();
     m_connection.execute("COMMIT");
     verify();
     m_connection.execute("DETACH copy");
-    m_target.keep();
-}
-
-/// An undamaged file may still lack the row of `System`, without which the program can't start.
-void restoreParametersOf(const QString& target, const QString& password) {
-    try {
-        restoreParameters(target, password);
-    } catch (const RuntimeError&) {
-        // A leftover copy would block the next repair.
-        QFile::remove(target);
-        throw;
-    }
 }
 
 } // namespace
@@ -169,7 +140,9 @@ std::shared_ptr<const void> compactFile(const QString& source, const QString& ta
     try {
         const auto compaction = std::make_shared<Compaction>(source, target, password);
         compaction->run();
-        if (!keptIn.isEmpty()) restoreParametersOf(target, password);
+        // An undamaged file may still lack the row of `System`, without which the program can't start.
+        if (!keptIn.isEmpty()) restoreParameters(target, password);
+        compaction->keep();
         return compaction;
     } catch (const RuntimeError& error) {
         if (!error.is(RuntimeError::damagedFile) || keptIn.isEmpty()) throw;

@@ -25,11 +25,6 @@ constexpr auto references = std::to_array<Reference>({
     {"Benutzer", "GNr", "Gruppen"},
 });
 
-qint64 single(cursors::Connection& file, const QByteArray& sql) {
-    engine::Statement statement = file.prepare(sql);
-    return statement.step() ? statement.integer(0) : 0;
-}
-
 void raiseCounter(cursors::Connection& file, const QString& table, qint64 number) {
     engine::Statement add = file.prepare("INSERT INTO sqlite_sequence SELECT ?1, 0 WHERE NOT EXISTS "
                                          "(SELECT 1 FROM sqlite_sequence WHERE name = ?1)");
@@ -42,25 +37,25 @@ void raiseCounter(cursors::Connection& file, const QString& table, qint64 number
 }
 
 void restoreSystem(cursors::Connection& file) {
-    if (single(file, "SELECT COUNT(*) FROM \"System\"") > 0) return;
+    if (file.number("SELECT COUNT(*) FROM \"System\"") > 0) return;
     // Catches and hours are entered in the current fishing year. A later year than the calendar's is a typing
     // error.
-    const qint64 latest = std::max(single(file, "SELECT MAX(\"FangJahr\") FROM \"Fang\""),
-                                   single(file, "SELECT MAX(\"Jahr\") FROM \"Arbeit\""));
+    const qint64 latest = std::max(file.number("SELECT MAX(\"FangJahr\") FROM \"Fang\""),
+                                   file.number("SELECT MAX(\"Jahr\") FROM \"Arbeit\""));
     const int thisYear = today().year();
     seedSystem(file, latest > 0 && latest < thisYear ? static_cast<int>(latest) : thisYear);
 }
 
 /// Only a user who may manage users can give the others access again.
 bool canAnybodyManageUsers(cursors::Connection& file) {
-    return single(file, "SELECT COUNT(*) FROM \"Benutzer\" JOIN \"Gruppen\" USING (\"GNr\") "
-                        "WHERE \"Benutzerverwaltung\"") > 0;
+    return file.number("SELECT COUNT(*) FROM \"Benutzer\" JOIN \"Gruppen\" USING (\"GNr\") "
+                       "WHERE \"Benutzerverwaltung\"") > 0;
 }
 
 /// Restores the groups first: users of the first group can then log in with their own passwords.
 void restoreLogin(cursors::Connection& file) {
     if (canAnybodyManageUsers(file)) return;
-    if (single(file, "SELECT COUNT(*) FROM \"Gruppen\" WHERE \"Benutzerverwaltung\"") == 0) seedGroup(file);
+    if (file.number("SELECT COUNT(*) FROM \"Gruppen\" WHERE \"Benutzerverwaltung\"") == 0) seedGroup(file);
     if (!canAnybodyManageUsers(file)) seedUser(file);
 }
 
@@ -78,7 +73,7 @@ void raiseCounters(cursors::Connection& file, const QHash<QString, qint64>& know
     for (const Reference& reference : references) {
         const QByteArray highest =
             QByteArray("SELECT MAX(\"") + reference.field + "\") FROM \"" + reference.table + '"';
-        raiseCounter(file, QString::fromLatin1(reference.target), single(file, highest));
+        raiseCounter(file, QString::fromLatin1(reference.target), file.number(highest));
     }
 }
 

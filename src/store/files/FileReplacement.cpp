@@ -1,7 +1,6 @@
 #include "FileReplacement.h"
 
 #include "FileShape.h"
-#include "InterruptedFile.h"
 #include "RuntimeError.h"
 
 #include <QFile>

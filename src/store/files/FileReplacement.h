@@ -2,9 +2,7 @@
 
 #include <QString>
 
-/// Puts a complete database file in the place of a closed one, in one step: after a crash there is either the
-/// old or the new file. If the old path is a link, its target is replaced. The change is flushed to the disk.
-/// A journal left beside the old file is renamed first (".alt" behind its name), since SQLite would apply it
-/// to the new file. Error 75 if it can't be done; the old file and its journals are then as before, and the
-/// new file is removed.
+/// As Upkeep::replaceDatabase. A journal left beside the old file is renamed first (".alt" behind its name),
+/// since SQLite would apply it to the new file. If the file can't be replaced, the journals are as before
+/// too.
 void replaceDatabase(const QString& newFile, const QString& oldPath);

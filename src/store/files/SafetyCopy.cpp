@@ -117,7 +117,7 @@ void keepSafetyCopy(const QString& file, const QString& password, const QString&
     cursors::Connection original(file, password, cursors::Connection::Access::ReadOnly);
     // A read transaction keeps other processes from writing until the copy is made.
     original.execute("BEGIN");
-    original.prepare("SELECT COUNT(*) FROM sqlite_master").step();
+    original.number("SELECT COUNT(*) FROM sqlite_master");
     const engine::RawContent content(original.handle());
     if (const QStringList present = names.present();
         !present.isEmpty() && equals(content, names.path(present.last())))

@@ -1,6 +1,6 @@
 #include "UnfinishedFile.h"
 
-#include "InterruptedFile.h"
+#include "FileShape.h"
 #include "RuntimeError.h"
 
 #include <QDir>
@@ -30,9 +30,8 @@ UnfinishedFile::UnfinishedFile(const QString& path, const QString& password)
 void UnfinishedFile::finish() {
     m_connection.execute("COMMIT");
     m_connection.execute("PRAGMA shrink_memory");
-    engine::Statement check = m_connection.prepare("PRAGMA integrity_check");
-    if (!check.step() || check.text(0) != u"ok") throw runtimeError(RuntimeError::damagedFile, m_path.path());
-    check.reset();
+    if (m_connection.text("PRAGMA integrity_check") != u"ok")
+        throw runtimeError(RuntimeError::damagedFile, m_path.path());
     m_connection.close();
     m_path.keep();
 }
