@@ -6,8 +6,6 @@
 #include "RawContent.h"
 #include "SqlFunctions.h"
 
-#include <utility>
-
 namespace cursors {
 
 namespace {
@@ -32,20 +30,13 @@ bool isDamage(const RuntimeError& error) {
 
 /// When a file can't be opened, the same failures have other numbers.
 RuntimeError openError(const RuntimeError& error, const QString& path) {
-    switch (error.number) {
-    case RuntimeError::lockedByOther.number:
-        return runtimeError(RuntimeError::fileInUse, path);
-    case RuntimeError::readOnly.number:
-        return runtimeError(RuntimeError::cannotOpen, path);
-    case RuntimeError::cannotOpen.number:
+    if (error.is(RuntimeError::lockedByOther)) return runtimeError(RuntimeError::fileInUse, path);
+    if (error.is(RuntimeError::readOnly) || error.is(RuntimeError::cannotOpen))
         return runtimeError(RuntimeError::cannotOpen, path);
     // Nothing was asked yet that could be too much: the library does not know the format.
-    case RuntimeError::tooComplex.number:
-    case RuntimeError::damagedFile.number:
+    if (error.is(RuntimeError::tooComplex) || error.is(RuntimeError::damagedFile))
         return runtimeError(RuntimeError::damagedFile, path);
-    default:
-        return error;
-    }
+    return error;
 }
 
 } // namespace
@@ -64,14 +55,22 @@ Connection::Connection(const QString& path, const QString& password, Access acce
 /// Makes all checks before anything might change the file.
 void Connection::openExisting(const QString& path, const QString& password, Access access) {
     engine::requireReadableFile(path);
-    orDamaged(path, password, [&] {
+    try {
         if (engine::isInterrupted(path))
             engine::requireKeyOfInterrupted(path, password);
         else
             engine::requirePages(path);
         openFile(path, password, access);
-        readFirstPage(path);
-    });
+        // Takes back the half-written changes of a killed process. Fails if the password is wrong.
+        number("SELECT COUNT(*) FROM sqlite_master");
+        engine::requirePages(path, number("PRAGMA page_count"));
+    } catch (const RuntimeError& error) {
+        m_database.reset();
+        // If the password opens other pages but not the first, the first is damaged.
+        if (error.is(RuntimeError::wrongPassword) && engine::fitsOtherPages(path, password))
+            throw runtimeError(RuntimeError::damagedFile, path);
+        throw;
+    }
     requireTables(path);
     if (access == Access::ReadWrite) leaveWriteAheadMode(path);
     cascadeDeletions();
@@ -88,24 +87,6 @@ void Connection::openFile(const QString& path, const QString& password, Access a
     // Overwrites deleted rows, so that a repair does not find them again.
     execute("PRAGMA secure_delete = ON");
     engine::registerSqlFunctions(m_database.get());
-}
-
-/// If the password opens other pages but not the first, the first is damaged.
-void Connection::orDamaged(const QString& path, const QString& password, const std::function<void()>& open) {
-    try {
-        open();
-    } catch (const RuntimeError& error) {
-        m_database.reset();
-        if (error.is(RuntimeError::wrongPassword) && engine::fitsOtherPages(path, password))
-            throw runtimeError(RuntimeError::damagedFile, path);
-        throw;
-    }
-}
-
-/// Takes back the half-written changes of a killed process. Fails if the password is wrong.
-void Connection::readFirstPage(const QString& path) {
-    number("SELECT COUNT(*) FROM sqlite_master");
-    engine::requirePages(path, number("PRAGMA page_count"));
 }
 
 void Connection::requireTables(const QString& path) {
@@ -213,8 +194,7 @@ void Connection::remove(Cursor* cursor) { std::erase(m_cursors, cursor); }
 
 QString passwordOf(const QString& connect) {
     const QString name = QStringLiteral("pwd=");
-    const QStringList parts = connect.split(u';');
-    for (const QString& part : parts)
+    for (const QString& part : connect.split(u';'))
         if (part.startsWith(name, Qt::CaseInsensitive)) return part.sliced(name.size());
     return {};
 }

@@ -7,9 +7,6 @@
 
 #include <QCache>
 #include <functional>
-#include <memory>
-#include <optional>
-#include <vector>
 
 namespace cursors {
 
@@ -68,9 +65,7 @@ public:
 
 private:
     void openExisting(const QString& path, const QString& password, Access access);
-    void orDamaged(const QString& path, const QString& password, const std::function<void()>& open);
     void openFile(const QString& path, const QString& password, Access access);
-    void readFirstPage(const QString& path);
     void requireTables(const QString& path);
     void leaveWriteAheadMode(const QString& path);
     void cascadeDeletions();

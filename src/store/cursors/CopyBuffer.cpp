@@ -59,13 +59,11 @@ void CopyBuffer::take(const CopyBuffer& other) {
 }
 
 const Value* CopyBuffer::find(int field) const {
-    if (field < 0) return nullptr;
     const auto& value = m_values[static_cast<size_t>(field)];
     return value ? &*value : nullptr;
 }
 
 Value CopyBuffer::initial(int field) const {
-    if (field < 0) return {};
     if (const Value* value = find(field)) return *value;
     const bool isTruth = m_table->fields[static_cast<size_t>(field)].kind == FieldKind::Boolean;
     return isTruth ? Value(false) : Value();

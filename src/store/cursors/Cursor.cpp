@@ -93,9 +93,7 @@ void Cursor::edit() {
 
 void Cursor::collect(const QString& name, const Value& value) {
     if (m_buffer.mode() == CopyBuffer::Mode::Idle) throw runtimeError(RuntimeError::notEditing);
-    const int field = fieldOf(columnIndex(name));
-    if (field < 0) throw runtimeError(RuntimeError::readOnly);
-    m_buffer.set(field, value);
+    m_buffer.set(fieldOf(columnIndex(name)), value);
 }
 
 /// A changed key is also the row's number from then on.

@@ -2,7 +2,6 @@
 
 #include "RuntimeError.h"
 
-#include <QByteArray>
 #include <optional>
 
 struct sqlite3;

@@ -6,12 +6,6 @@
 
 namespace engine {
 
-namespace {
-
-constexpr int busyMilliseconds = 1500;
-
-} // namespace
-
 void DatabaseCloser::operator()(sqlite3* database) const { sqlite3_close_v2(database); }
 
 DatabaseHandle openHandle(const QByteArray& name, int flags) {
@@ -22,6 +16,7 @@ DatabaseHandle openHandle(const QByteArray& name, int flags) {
     if (database == nullptr) throw runtimeError(RuntimeError::outOfMemory);
     if (code != SQLITE_OK) throw sqliteError(database);
     sqlite3_extended_result_codes(database, 1);
+    constexpr int busyMilliseconds = 1500;
     sqlite3_busy_timeout(database, busyMilliseconds);
     return handle;
 }

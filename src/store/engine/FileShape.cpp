@@ -36,18 +36,12 @@ bool fitsFirstPage(sqlite3* database, const QString& password) {
     return true;
 }
 
-void copyInto(const QString& target, const QByteArray& content) {
-    QFile copy(target);
-    const bool written = copy.open(QIODevice::WriteOnly) && copy.write(content) == content.size();
-    if (!written || !copy.flush()) throw runtimeError(RuntimeError::noDiskSpace);
-}
-
 /// Tries the password on a copy after the journal has restored its first page. A half-written first page fits
 /// no key.
-bool fitsOnceTakenBack(const QString& path, const QByteArray& content, const QString& password) {
+bool fitsOnceTakenBack(const QString& path, const RawContent& content, const QString& password) {
     const QTemporaryDir folder;
     const QString copy = folder.filePath(QStringLiteral("copy"));
-    copyInto(copy, content);
+    content.copyTo(copy, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
     const QString file = behindLinks(path);
     for (const QLatin1String ending : {rollbackEnding, logEnding})
         if (QFile::exists(file + ending) && !QFile::copy(file + ending, copy + ending))
@@ -90,9 +84,8 @@ bool isInterrupted(const QString& path) {
 void requireKeyOfInterrupted(const QString& path, const QString& password) {
     const DatabaseHandle handle = openAsItLies(path);
     if (fitsFirstPage(handle.get(), password)) return;
-    const RawContent content(handle.get());
-    const QByteArray bytes = content.read(0, static_cast<qsizetype>(content.size()));
-    if (!fitsOnceTakenBack(path, bytes, password)) throw runtimeError(RuntimeError::wrongPassword);
+    if (!fitsOnceTakenBack(path, RawContent(handle.get()), password))
+        throw runtimeError(RuntimeError::wrongPassword);
 }
 
 } // namespace engine

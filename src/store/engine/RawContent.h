@@ -2,7 +2,6 @@
 
 #include "DatabaseHandle.h"
 
-#include <QByteArray>
 #include <QFileDevice>
 #include <functional>
 

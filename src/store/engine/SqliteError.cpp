@@ -3,31 +3,40 @@
 #include "SqlNames.h"
 #include "Sqlite.h"
 
+#include <array>
+
 namespace engine {
 
 namespace {
 
-RuntimeError constraintError(int extendedCode) {
-    return runtimeError(extendedCode == SQLITE_CONSTRAINT_NOTNULL ? RuntimeError::nullInField
-                                                                  : RuntimeError::duplicateKey);
-}
+struct Meaning {
+    int code;
+    RuntimeError::Kind kind;
+};
 
-RuntimeError ioError(int extendedCode) {
-    if (extendedCode == SQLITE_IOERR_NOMEM) return runtimeError(RuntimeError::outOfMemory);
+/// Extended codes, and primary ones for all others of their kind.
+constexpr auto meanings = std::to_array<Meaning>({
+    {SQLITE_CONSTRAINT_NOTNULL, RuntimeError::nullInField},
+    {SQLITE_CONSTRAINT, RuntimeError::duplicateKey},
+    {SQLITE_IOERR_NOMEM, RuntimeError::outOfMemory},
     // A file that ends inside a page was cut short. A page that the disk does not give may be read tomorrow.
-    if (extendedCode == SQLITE_IOERR_SHORT_READ) return runtimeError(RuntimeError::damagedFile);
-    return runtimeError(RuntimeError::diskFailed);
-}
-
-/// SQLITE_READONLY_DBMOVED: another file has this name now. Anything written to the open file would be lost.
-RuntimeError readOnlyError(int extendedCode) {
-    return runtimeError(extendedCode == SQLITE_READONLY_DBMOVED ? RuntimeError::fileReplaced
-                                                                : RuntimeError::readOnly);
-}
-
-RuntimeError reservedError(int extendedCode) {
-    return runtimeError(RuntimeError::reserved, QString::number(extendedCode));
-}
+    {SQLITE_IOERR_SHORT_READ, RuntimeError::damagedFile},
+    {SQLITE_IOERR, RuntimeError::diskFailed},
+    {SQLITE_FULL, RuntimeError::noDiskSpace},
+    {SQLITE_CORRUPT, RuntimeError::damagedFile},
+    {SQLITE_NOTADB, RuntimeError::wrongPassword},
+    {SQLITE_BUSY, RuntimeError::lockedByOther},
+    {SQLITE_LOCKED, RuntimeError::lockedByOther},
+    // Another file has this name now. Anything written to the open file would be lost.
+    {SQLITE_READONLY_DBMOVED, RuntimeError::fileReplaced},
+    {SQLITE_READONLY, RuntimeError::readOnly},
+    // SQLite can't create a journal in a folder without write permission.
+    {SQLITE_CANTOPEN, RuntimeError::readOnly},
+    {SQLITE_PERM, RuntimeError::cannotOpen},
+    {SQLITE_AUTH, RuntimeError::cannotOpen},
+    {SQLITE_NOMEM, RuntimeError::outOfMemory},
+    {SQLITE_TOOBIG, RuntimeError::textTooLong},
+});
 
 /// SQLITE_ERROR covers all failures without a code of their own. Only the message tells them apart.
 RuntimeError plainError(QByteArrayView message) {
@@ -36,7 +45,7 @@ RuntimeError plainError(QByteArrayView message) {
     // What a statement does wrong is told in words of its own. Without any, a page could not be decrypted.
     if (message == QByteArrayView(sqlite3_errstr(SQLITE_ERROR)))
         return runtimeError(RuntimeError::damagedFile);
-    return reservedError(SQLITE_ERROR);
+    return sqliteError(SQLITE_ERROR);
 }
 
 } // namespace
@@ -53,35 +62,10 @@ RuntimeError prepareError(sqlite3* database) {
 }
 
 RuntimeError sqliteError(int extendedCode) {
-    switch (extendedCode & 0xff) {
-    case SQLITE_CONSTRAINT:
-        return constraintError(extendedCode);
-    case SQLITE_IOERR:
-        return ioError(extendedCode);
-    case SQLITE_FULL:
-        return runtimeError(RuntimeError::noDiskSpace);
-    case SQLITE_CORRUPT:
-        return runtimeError(RuntimeError::damagedFile);
-    case SQLITE_NOTADB:
-        return runtimeError(RuntimeError::wrongPassword);
-    case SQLITE_BUSY:
-    case SQLITE_LOCKED:
-        return runtimeError(RuntimeError::lockedByOther);
-    case SQLITE_READONLY:
-        return readOnlyError(extendedCode);
-    // SQLite can't create a journal in a folder without write permission.
-    case SQLITE_CANTOPEN:
-        return runtimeError(RuntimeError::readOnly);
-    case SQLITE_PERM:
-    case SQLITE_AUTH:
-        return runtimeError(RuntimeError::cannotOpen);
-    case SQLITE_NOMEM:
-        return runtimeError(RuntimeError::outOfMemory);
-    case SQLITE_TOOBIG:
-        return runtimeError(RuntimeError::textTooLong);
-    default:
-        return reservedError(extendedCode);
-    }
+    for (const int code : {extendedCode, extendedCode & 0xff})
+        for (const Meaning& meaning : meanings)
+            if (meaning.code == code) return runtimeError(meaning.kind);
+    return runtimeError(RuntimeError::reserved, QString::number(extendedCode));
 }
 
 RuntimeError sqliteError(sqlite3* database) {

@@ -3,7 +3,6 @@
 #include "Schema.h"
 #include "Value.h"
 
-#include <QByteArray>
 #include <memory>
 
 struct sqlite3;

@@ -1,12 +1,10 @@
 #include "Compaction.h"
 
-#include "Connection.h"
 #include "Essentials.h"
 #include "Salvage.h"
 #include "UnfinishedFile.h"
 
 #include <QFile>
-#include <QHash>
 
 namespace {
 

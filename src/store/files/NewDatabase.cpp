@@ -1,12 +1,8 @@
 #include "NewDatabase.h"
 
 #include "RawContent.h"
-#include "RuntimeError.h"
 #include "SafetyCopy.h"
-#include "Schema.h"
 #include "UnfinishedFile.h"
-
-#include <QDateTime>
 
 namespace {
 

@@ -3,7 +3,6 @@
 #include "Connection.h"
 #include "FileReplacement.h"
 #include "RawContent.h"
-#include "RuntimeError.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,7 +1,6 @@
 #include "UnfinishedFile.h"
 
 #include "FileShape.h"
-#include "RuntimeError.h"
 
 #include <QDir>
 #include <QFile>

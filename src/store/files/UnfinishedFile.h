@@ -2,8 +2,6 @@
 
 #include "Connection.h"
 
-#include <QString>
-
 /// The path of a database file in the making. The destructor removes the file unless keep() was called.
 class UnfinishedPath {
 public:

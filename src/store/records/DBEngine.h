@@ -2,8 +2,6 @@
 
 #include "Database.h"
 
-#include <memory>
-
 /// Opens databases.
 class Workspace {
 public:

@@ -2,8 +2,6 @@
 
 #include "Recordset.h"
 
-#include <memory>
-
 namespace cursors {
 class Connection;
 }

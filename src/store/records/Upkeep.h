@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QDateTime>
-#include <QString>
 
 /// Maintenance of the program's database file.
 namespace Upkeep {

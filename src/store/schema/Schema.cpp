@@ -170,21 +170,16 @@ constexpr auto tables = std::to_array<TableSpec>({
     {u"Druck_Besatzliste", druckBesatzlisteFields, false},
 });
 
-struct IndexSpec {
-    const char* name;
-    const char* target;
-};
-
 // Indexes for frequent searches. Joins start from the catch or the contact and find other tables' rows by
 // their primary keys, so the fields that hold those numbers need no index.
-constexpr auto indexes = std::to_array<IndexSpec>({
-    {"FangJahrMonat", "\"Fang\"(\"FangJahr\", \"FangMonat\")"},
-    {"ArbeitMitgliedJahr", "\"Arbeit\"(\"KNr\", \"Jahr\")"},
-    {"ArbeitJahr", "\"Arbeit\"(\"Jahr\")"},
-    {"ArbeitDatum", "\"Arbeit\"(\"Datum\")"},
-    {"KontaktKatego", "\"Kontakt\"(\"KategoNr\")"},
-    {"BesatzungJahr", "\"Besatzung\"(\"BJahr\")"},
-    {"BenutzerGruppe", "\"Benutzer\"(\"GNr\")"},
+constexpr auto indexes = std::to_array<const char*>({
+    R"("FangJahrMonat" ON "Fang"("FangJahr", "FangMonat"))",
+    R"("ArbeitMitgliedJahr" ON "Arbeit"("KNr", "Jahr"))",
+    R"("ArbeitJahr" ON "Arbeit"("Jahr"))",
+    R"("ArbeitDatum" ON "Arbeit"("Datum"))",
+    R"("KontaktKatego" ON "Kontakt"("KategoNr"))",
+    R"("BesatzungJahr" ON "Besatzung"("BJahr"))",
+    R"("BenutzerGruppe" ON "Benutzer"("GNr"))",
 });
 
 QByteArray columnType(FieldKind kind) {
@@ -202,10 +197,6 @@ QByteArray columnType(FieldKind kind) {
     default:
         return "TEXT";
     }
-}
-
-QByteArray indexDefinition(const IndexSpec& index) {
-    return QByteArray("CREATE INDEX IF NOT EXISTS \"") + index.name + "\" ON " + index.target;
 }
 
 } // namespace
@@ -246,7 +237,7 @@ const TableSpec* findTable(QStringView name) {
 
 QList<QByteArray> indexStatements() {
     QList<QByteArray> statements;
-    for (const IndexSpec& index : indexes) statements += indexDefinition(index);
+    for (const QByteArray index : indexes) statements += "CREATE INDEX IF NOT EXISTS " + index;
     return statements;
 }
 

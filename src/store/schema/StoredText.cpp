@@ -1,6 +1,5 @@
 #include "StoredText.h"
 
-#include <QList>
 #include <QStringDecoder>
 
 QString storableText(const QString& text) {
