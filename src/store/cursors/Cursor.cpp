@@ -5,6 +5,25 @@
 
 namespace cursors {
 
+namespace {
+
+QByteArray insertSql(const TableSpec& table) {
+    QByteArrayList names;
+    for (const FieldSpec& field : table.fields) names += quotedName(field.name);
+    const QByteArray parameters = QByteArray(", ?").repeated(names.size()).sliced(2);
+    return "INSERT INTO " + quotedName(table.name) + " (" + names.join(", ") + ") VALUES (" + parameters +
+           ')';
+}
+
+QByteArray changeSql(const TableSpec& table, const std::vector<int>& fields) {
+    QByteArrayList assignments;
+    for (const int field : fields)
+        assignments += quotedName(table.fields[static_cast<size_t>(field)].name) + " = ?";
+    return "UPDATE " + quotedName(table.name) + " SET " + assignments.join(", ") + " WHERE rowid = ?";
+}
+
+} // namespace
+
 Cursor::Cursor(std::shared_ptr<Connection> connection, Loan rows)
     : m_rows(std::move(rows))
     , m_connection(std::move(connection)) {
@@ -24,7 +43,7 @@ void Cursor::close() { leave(&WriteTransaction::leave); }
 void Cursor::abandon() { leave(&WriteTransaction::abandon); }
 
 void Cursor::leave(void (WriteTransaction::*end)()) {
-    m_rows.reset();
+    for (Loan* loan : {&m_rows, &m_insert, &m_change}) loan->reset();
     const auto ended = std::exchange(m_connection, nullptr);
     if (ended == nullptr) return;
     ended->remove(this);
@@ -105,12 +124,11 @@ qint64 Cursor::currentRow() {
 
 /// Runs a statement with these values in the transaction of the user's action. Error 3167 if it does not find
 /// the row whose number is its last parameter.
-void Cursor::write(const QByteArray& sql, const std::vector<Value>& values, std::optional<qint64> row) {
+void Cursor::write(const Loan& statement, const std::vector<Value>& values, std::optional<qint64> row) {
     WriteTransaction& action = m_connection->transaction();
     m_hasWritten ? action.requireIntact() : action.join();
     m_hasWritten = true;
     try {
-        const Loan statement = m_connection->statement(sql);
         int position = 0;
         for (const Value& value : values) statement->bind(++position, value);
         if (row) statement->bind(++position, *row);
@@ -125,35 +143,31 @@ void Cursor::write(const QByteArray& sql, const std::vector<Value>& values, std:
 /// Error 3022 for a key that exists, 3058 for a Null key.
 void Cursor::insert() {
     const TableSpec& table = requireTarget();
-    QByteArrayList names, parameters;
     std::vector<Value> values;
-    for (const FieldSpec& field : table.fields) {
-        values.push_back(m_buffer.initial(static_cast<int>(values.size())));
-        names += quotedName(field.name);
-        parameters += "?";
-    }
+    for (int field = 0; field < static_cast<int>(table.fields.size()); ++field)
+        values.push_back(m_buffer.initial(field));
     // SQLite would choose a number for a Null key.
     const bool isKeyGiven = table.keyed && table.fields.front().kind != FieldKind::AutoNumber;
     if (isKeyGiven && values.front().isNull()) throw runtimeError(RuntimeError::nullKey);
-    write("INSERT INTO " + quotedName(table.name) + " (" + names.join(", ") + ") VALUES (" +
-              parameters.join(", ") + ')',
-          values, std::nullopt);
+    if (!m_insert) m_insert = m_connection->statement(insertSql(table));
+    write(m_insert, values, std::nullopt);
 }
 
 /// Writes the fields that are set.
 void Cursor::change(qint64 row) {
     const TableSpec& table = requireTarget();
-    QByteArrayList assignments;
+    std::vector<int> fields;
     std::vector<Value> values;
     for (int field = 0; field < static_cast<int>(table.fields.size()); ++field) {
         const Value* value = m_buffer.find(field);
         if (value == nullptr) continue;
-        assignments += quotedName(table.fields[static_cast<size_t>(field)].name) + " = ?";
+        fields.push_back(field);
         values.push_back(*value);
     }
-    if (values.empty()) return;
-    write("UPDATE " + quotedName(table.name) + " SET " + assignments.join(", ") + " WHERE rowid = ?", values,
-          row);
+    if (fields.empty()) return;
+    if (!m_change || fields != m_changed) m_change = m_connection->statement(changeSql(table, fields));
+    m_changed = fields;
+    write(m_change, values, row);
 }
 
 void Cursor::update() {
@@ -176,7 +190,8 @@ void Cursor::update() {
 void Cursor::remove() {
     requireRow();
     const qint64 row = currentRow();
-    write("DELETE FROM " + quotedName(requireTarget().name) + " WHERE rowid = ?", {}, row);
+    write(m_connection->statement("DELETE FROM " + quotedName(requireTarget().name) + " WHERE rowid = ?"), {},
+          row);
     moveTo(Place::Deleted);
     afterRemove();
 }

@@ -79,7 +79,7 @@ private:
     qint64 currentRow();
     void insert();
     void change(qint64 row);
-    void write(const QByteArray& sql, const std::vector<Value>& values, std::optional<qint64> row);
+    void write(const Loan& statement, const std::vector<Value>& values, std::optional<qint64> row);
     void leave(void (WriteTransaction::*end)());
 
     std::shared_ptr<Connection> m_connection;
@@ -87,6 +87,9 @@ private:
     CopyBuffer m_buffer;
     CopyBuffer m_written; ///< what this cursor has written to the current row
     bool m_hasWritten = false;
+    Loan m_insert;
+    Loan m_change;
+    std::vector<int> m_changed; ///< the fields that m_change writes
 };
 
 } // namespace cursors

@@ -5,7 +5,7 @@
 
 namespace cursors {
 
-QueryCursor::QueryCursor(std::shared_ptr<Connection> connection, QStringView select)
+QueryCursor::QueryCursor(const std::shared_ptr<Connection>& connection, QStringView select)
     : Cursor(connection, connection->select(select)) {
     start();
 }

@@ -11,7 +11,7 @@ namespace cursors {
 /// no other process's writes while a screen shows the row.
 class QueryCursor final : public Cursor {
 public:
-    QueryCursor(std::shared_ptr<Connection> connection, QStringView select);
+    QueryCursor(const std::shared_ptr<Connection>& connection, QStringView select);
 
     void moveFirst() override;
     void moveLast() override;

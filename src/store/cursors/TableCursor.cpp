@@ -6,7 +6,7 @@
 
 namespace cursors {
 
-TableCursor::TableCursor(std::shared_ptr<Connection> connection, const TableSpec& table)
+TableCursor::TableCursor(const std::shared_ptr<Connection>& connection, const TableSpec& table)
     : Cursor(connection, connection->rowsOf(table))
     , m_table(table) {
     if (goTo(std::numeric_limits<qint64>::min())) moveTo(Place::Row);

@@ -8,7 +8,7 @@ namespace cursors {
 /// serves both to seek and to walk: Seek reads the first row from the key on and compares.
 class TableCursor final : public Cursor {
 public:
-    TableCursor(std::shared_ptr<Connection> connection, const TableSpec& table);
+    TableCursor(const std::shared_ptr<Connection>& connection, const TableSpec& table);
 
     void moveFirst() override;
     void moveLast() override;
