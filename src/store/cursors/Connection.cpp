@@ -149,7 +149,7 @@ Loan Connection::lend(const QString& key, const std::function<dialect::SelectPla
     std::shared_ptr<PreparedStatement> statement = known != nullptr ? *known : nullptr;
     if (statement == nullptr || statement->isLent) {
         const dialect::SelectPlan its = statement != nullptr ? statement->plan : plan();
-        statement = std::make_shared<PreparedStatement>(prepare(its.sql), its, false);
+        statement = std::make_shared<PreparedStatement>(PreparedStatement{prepare(its.sql), its});
         if (known == nullptr)
             m_statements.insert(QString(key.constData(), key.size()), new std::shared_ptr(statement));
     }

@@ -143,9 +143,9 @@ void Cursor::write(const Loan& statement, const std::vector<Value>& values, std:
 /// Error 3022 for a key that exists, 3058 for a Null key.
 void Cursor::insert() {
     const TableSpec& table = requireTarget();
-    std::vector<Value> values;
-    for (int field = 0; field < static_cast<int>(table.fields.size()); ++field)
-        values.push_back(m_buffer.initial(field));
+    std::vector<Value> values(table.fields.size());
+    for (size_t field = 0; field < values.size(); ++field)
+        values[field] = m_buffer.initial(static_cast<int>(field));
     // SQLite would choose a number for a Null key.
     const bool isKeyGiven = table.keyed && table.fields.front().kind != FieldKind::AutoNumber;
     if (isKeyGiven && values.front().isNull()) throw runtimeError(RuntimeError::nullKey);

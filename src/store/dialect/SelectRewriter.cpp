@@ -31,7 +31,7 @@ public:
     bool acceptWord(QStringView word) { return passIf(atWord(word)); }
     /// The text of the token. Error 3075 unless it is wanted.
     QString take(bool isWanted) {
-        const QString taken = text().toString();
+        QString taken = text().toString();
         expect(passIf(isWanted));
         return taken;
     }

@@ -84,7 +84,7 @@ QString unfinishedPath(const QString& file, const QString& folder) {
 /// copy.
 QString prepareFolder(const QString& file, const QString& folder, const CopyNames& names) {
     if (!QDir(folder).exists() && !QDir().mkdir(folder)) throw runtimeError(RuntimeError::pathFailed);
-    const QString unfinished = unfinishedPath(file, folder);
+    QString unfinished = unfinishedPath(file, folder);
     names.sweep(unfinished);
     return unfinished;
 }

@@ -1,5 +1,6 @@
 #include "StoredText.h"
 
+#include <QList>
 #include <QStringDecoder>
 
 QString storableText(const QString& text) {
