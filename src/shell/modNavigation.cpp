@@ -54,15 +54,11 @@ void showScreen(const QString& key) {
 void InitButtnBar() {
     NavigationBar* bar = the<Main>().ButtnBar;
     for (const Bereich& bereich : bereiche()) {
-        if (!bereich.hatTaste()) continue;
-        BarGroup* group = bar->group(bereich.gruppe);
-        if (!group) group = bar->addGroup(bereich.gruppe);
-        group->addItem(bereich.key, bereich.aufschrift, bereich.key.toLower());
+        if (bereich.hatTaste())
+            bar->addItem(bereich.gruppe, bereich.key, bereich.aufschrift, bereich.key.toLower());
     }
     constexpr int organisation = 1;
-    constexpr int itemSpacing = 80;
     bar->setCurrentGroup(organisation);
-    bar->setItemSpacing(itemSpacing);
 }
 
 void LeereButtnBar() {
@@ -73,7 +69,7 @@ void LeereButtnBar() {
 void entferne(const QString& key) {
     NavigationBar* bar = the<Main>().ButtnBar;
     session().AktBarItem = bar->item(key);
-    for (BarGroup* group : bar->groups()) group->removeItem(key);
+    bar->removeItem(key);
 }
 
 void markiere(NavigationBar& bar, const Screen* front) {

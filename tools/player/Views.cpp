@@ -58,9 +58,9 @@ QString cursor() {
 
 QStringList bar() {
     QStringList lines;
-    for (const BarGroup* group : frame()->ButtnBar->groups()) {
-        QString line = group->caption() + u':';
-        for (const BarItem* item : group->items()) line += u' ' + item->key();
+    for (const QWidget* group : frame()->ButtnBar->groups()) {
+        QString line = group->accessibleName() + u':';
+        for (const BarItem* item : group->findChildren<BarItem*>()) line += u' ' + item->key();
         lines.append(line);
     }
     return lines;

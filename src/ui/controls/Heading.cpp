@@ -2,8 +2,6 @@
 
 #include "Theme.h"
 
-#include <QEvent>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -11,25 +9,10 @@ constexpr double headingPoints = 16;
 constexpr QMargins room(12, 8, 12, 4);
 } // namespace
 
-HeadingText::HeadingText(const QString& text, QWidget* parent)
-    : QLabel(text, parent) {
-    setTextFormat(Qt::PlainText);
-    takeInk();
-}
-
-void HeadingText::changeEvent(QEvent* event) {
-    QLabel::changeEvent(event);
-    if (event->type() == QEvent::StyleChange) takeInk();
-}
-
-void HeadingText::takeInk() {
-    QPalette inks = palette();
-    inks.setColor(QPalette::WindowText, Theme::headingInk());
-    setPalette(inks);
-}
-
 Heading::Heading(QStringView text, QWidget* parent)
-    : HeadingText(text.toString(), parent) {
+    : QLabel(text.toString(), parent) {
+    setTextFormat(Qt::PlainText);
+    setForegroundRole(Theme::headingRole);
     setObjectName(u"Ueberschrift"_s);
     QFont face = font();
     face.setFamilies({u"Comic Sans MS"_s, u"Comic Neue"_s});

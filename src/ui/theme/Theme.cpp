@@ -3,7 +3,6 @@
 #include "ThemeIcon.h"
 
 #include <QIcon>
-#include <QPalette>
 #include <QWidget>
 
 namespace {
@@ -44,7 +43,7 @@ QPalette palette() {
     palette.setColor(QPalette::PlaceholderText, either(0xff667080, 0xff9aa4b4));
     palette.setColor(QPalette::Button, either(0xfffbfcfe, 0xff2c323d));
     palette.setColor(QPalette::ButtonText, ink);
-    palette.setColor(QPalette::BrightText, Qt::white);
+    palette.setColor(headingRole, headingInk());
     palette.setColor(QPalette::Highlight, either(0xff2b62c4, 0xff35609f));
     palette.setColor(QPalette::HighlightedText, Qt::white);
     palette.setColor(QPalette::Link, either(0xff2b62c4, 0xff8fb6fa));

@@ -1,9 +1,8 @@
 #pragma once
 
-#include <QColor>
+#include <QPalette>
 
 class QIcon;
-class QPalette;
 class QString;
 class QWidget;
 
@@ -19,6 +18,8 @@ Mode mode();
 void setMode(Mode mode);
 
 QPalette palette();
+/// The palette's role for headingInk(): Qt's own drawing has no use for it.
+constexpr QPalette::ColorRole headingRole = QPalette::BrightText;
 
 QColor blue();     ///< (172, 199, 247)
 QColor darkBlue(); ///< a ground for white text in both modes: bar and headings
