@@ -122,15 +122,14 @@ void Main::buildMenus() {
 }
 
 void Main::buildPanels() {
-    using Style = StatusBar::Style;
-    StatusBar1->addPanel(Style::Date, QString(), u"Datum"_s);
-    StatusBar1->addPanel(Style::Time, QString(), u"Zeit"_s);
-    StatusBar1->addPanel(Style::Text, u"Benutzer:"_s, u"Benutzer:"_s);
-    StatusBar1->addPanel(Style::Text, QString(), u"Angemeldeter Benutzer"_s);
-    StatusBar1->addPanel(Style::Text, QString(), QString());
-    StatusBar1->addPanel(Style::Text, QString(), u"Statusinformationen..."_s, true);
-    StatusBar1->addPanel(Style::Text, u"Fangjahr:"_s, u"Fangjahr:"_s);
-    StatusBar1->addPanel(Style::Text, QString(), u"Akt. Fangjahr..."_s);
+    StatusBar1->addClock(u"dd.MM.yyyy"_s, u"Datum"_s);
+    StatusBar1->addClock(u"hh:mm"_s, u"Zeit"_s);
+    StatusBar1->addPanel(u"Benutzer:"_s, u"Benutzer:"_s);
+    StatusBar1->addPanel({}, u"Angemeldeter Benutzer"_s);
+    StatusBar1->addPanel({}, {});
+    StatusBar1->addPanel({}, u"Statusinformationen..."_s, true);
+    StatusBar1->addPanel(u"Fangjahr:"_s, u"Fangjahr:"_s);
+    StatusBar1->addPanel({}, u"Akt. Fangjahr..."_s);
 }
 
 /// Ctrl with a digit shows the area that stands at this place of the bar.

@@ -3,22 +3,20 @@
 #include <QVector>
 #include <QWidget>
 
+class QHBoxLayout;
 class QLabel;
-class QTimer;
 
-/// The status bar of the frame: panels numbered from 1. A panel shows a text, the date or the time. Date and
-/// time follow the clock by themselves.
+/// The status bar of the frame: panels numbered from 1.
 class StatusBar : public QWidget {
     Q_OBJECT
 
 public:
-    enum class Style { Text, Date, Time };
-
     explicit StatusBar(const QString& name, QWidget* parent = nullptr);
 
     /// Adds a panel at the right; `stretch` lets it take the remaining space.
-    void addPanel(Style style, const QString& text, const QString& tip, bool stretch = false);
-    int panelCount() const { return static_cast<int>(m_panels.size()); }
+    QLabel* addPanel(const QString& text, const QString& tip, bool stretch = false);
+    /// Adds a panel that shows the clock in this format (see QDateTime::toString).
+    void addClock(const QString& format, const QString& tip);
     QString panelText(int number) const;
     void setPanelText(int number, const QString& text);
 
@@ -26,12 +24,6 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    struct Panel {
-        Style style;
-        QLabel* label;
-    };
-    void showTime();
-
-    QVector<Panel> m_panels;
-    QTimer* m_timer;
+    QHBoxLayout* m_row;
+    QVector<QLabel*> m_panels;
 };
