@@ -61,7 +61,7 @@ void expectAccess(Screen& screen) {
             << letters.value(letter).toStdString();
         letters[letter] = who;
     };
-    if (!screen.isOwnWindow())
+    if (!screen.isWindow())
         for (const QAction* menu : the<Main>().menuBar->actions())
             take(QKeySequence::mnemonic(menu->text()), menu->text());
     for (QWidget* widget : screen.findChildren<QWidget*>()) {

@@ -5,7 +5,6 @@
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QChildEvent>
 #include <QCloseEvent>
 #include <QEventLoop>
 #include <QKeyEvent>
@@ -32,15 +31,45 @@ bool pressAtOnce(QAbstractButton* button, const QShortcutEvent* shortcut) {
     return true;
 }
 
+bool swallows(Screen* screen, const QWidget* control, QKeyEvent* event) {
+    // Keys of an open menu or list belong to it alone. A key that a control ignores goes on to its parents:
+    // it is the same key, seen already.
+    const QWidget* window = screen->window();
+    const QWidget* focused = window->focusWidget() ? window->focusWidget() : window;
+    if (control != focused || event->isAutoRepeat()) return false;
+    bool swallowed = false;
+    runEvent([&] { swallowed = screen->Form_KeyDown(event->key(), event->modifiers()); });
+    if (swallowed) event->accept();
+    return swallowed;
+}
+
+/// Sees the keys of all screens, on the application, before any control.
+class KeyPreview : public QObject {
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        const bool press = event->type() == QEvent::KeyPress;
+        if ((!press && event->type() != QEvent::Shortcut) || !watched->isWidgetType()) return false;
+        QWidget* around = static_cast<QWidget*>(watched);
+        while (around && !qobject_cast<Screen*>(around)) around = around->parentWidget();
+        if (!around) return false;
+        return press ? swallows(static_cast<Screen*>(around), static_cast<QWidget*>(watched),
+                                static_cast<QKeyEvent*>(event))
+                     : pressAtOnce(qobject_cast<QAbstractButton*>(watched),
+                                   static_cast<QShortcutEvent*>(event));
+    }
+};
+
 } // namespace
 
 Screen::Screen(const QString& name, const QString& caption) {
     setObjectName(name);
-    setWindowTitle(caption);
-    setAccessibleName(caption);
     // On the stage no title bar shows the caption, but a screen reader still reads it.
     connect(this, &Screen::windowTitleChanged, this, &Screen::setAccessibleName);
-    installEventFilter(this);
+    setWindowTitle(caption);
+    static QPointer<KeyPreview> preview;
+    if (!preview) qApp->installEventFilter(preview = new KeyPreview(qApp));
 }
 
 Screen::~Screen() {
@@ -133,14 +162,6 @@ void Screen::openRecord(const QString& number, int row) {
     m_gridRow = row;
 }
 
-void Screen::setHourglass(bool on) {
-    m_hourglass = on;
-    if (on)
-        setCursor(Qt::WaitCursor);
-    else
-        unsetCursor();
-}
-
 void Screen::paintEvent(QPaintEvent* event) {
     QWidget::paintEvent(event);
     // Controls that fill their ground are cut out of the region, so compare its bounds.
@@ -160,12 +181,6 @@ void Screen::closeEvent(QCloseEvent* event) {
     runEvent([this] { Form_QueryUnload(); });
 }
 
-void Screen::childEvent(QChildEvent* event) {
-    QWidget::childEvent(event);
-    if (event->added()) watch(event->child());
-    if (event->removed()) unwatch(event->child());
-}
-
 // Enter presses the focused button. Outside dialogs Qt's buttons accept the space bar only.
 void Screen::keyPressEvent(QKeyEvent* event) {
     auto* button = qobject_cast<QAbstractButton*>(focusWidget());
@@ -177,57 +192,4 @@ void Screen::keyPressEvent(QKeyEvent* event) {
         button->click();
     else
         QWidget::keyPressEvent(event);
-}
-
-// Skips a screen inside another one (on the stage of the frame): it watches its own controls.
-void Screen::watch(QObject* control) {
-    if (!control->isWidgetType() || qobject_cast<Screen*>(control)) return;
-    control->installEventFilter(this);
-    for (QObject* inner : control->children()) watch(inner);
-}
-
-void Screen::unwatch(QObject* control) {
-    if (!control->isWidgetType() || qobject_cast<Screen*>(control)) return;
-    control->removeEventFilter(this);
-    for (QObject* inner : control->children()) unwatch(inner);
-}
-
-bool Screen::eventFilter(QObject* watched, QEvent* event) {
-    switch (event->type()) {
-    case QEvent::ChildAdded:
-        if (watched != this) watch(static_cast<QChildEvent*>(event)->child());
-        break;
-    case QEvent::ChildRemoved:
-        if (watched != this) unwatch(static_cast<QChildEvent*>(event)->child());
-        break;
-    case QEvent::ShortcutOverride:
-    case QEvent::KeyRelease:
-        m_key = nullptr;
-        break;
-    case QEvent::KeyPress:
-        return previewKey(static_cast<QWidget*>(watched), static_cast<QKeyEvent*>(event));
-    case QEvent::Shortcut:
-        return pressAtOnce(qobject_cast<QAbstractButton*>(watched), static_cast<QShortcutEvent*>(event));
-    default:
-        break;
-    }
-    return false;
-}
-
-// A control that ignores a key passes it to its parent: the same event, one step up.
-bool Screen::isOnItsWay(const QWidget* control, const QKeyEvent* event) const {
-    return event == m_key && m_keyAt && m_keyAt->parentWidget() == control;
-}
-
-bool Screen::previewKey(QWidget* control, QKeyEvent* event) {
-    // Keys of an open menu or list belong to it alone.
-    const bool own = control->window() == this->window();
-    const bool seen = isOnItsWay(control, event);
-    m_key = event;
-    m_keyAt = control;
-    if (!own || seen || event->isAutoRepeat()) return false;
-    bool swallowed = false;
-    runEvent([&] { swallowed = Form_KeyDown(event->key(), event->modifiers()); });
-    if (swallowed) event->accept();
-    return swallowed;
 }

@@ -6,7 +6,6 @@
 #include <QWidget>
 
 class QEventLoop;
-class QKeyEvent;
 
 /// A screen of the program: at most one instance of each class, made on first use, reached by the<T>().
 /// Controls are named members and have their name as objectName, as has the screen itself.
@@ -42,8 +41,6 @@ public:
     void ShowAbove(QWidget* window);
     void Hide();
     bool isModalNow() const { return m_modalLoop != nullptr; }
-    /// True if the screen has a window of its own (login, Info) instead of a place on the stage.
-    bool isOwnWindow() const { return m_ownWindow; }
 
     // The record that stands open: what is saved changes it instead of adding one. It is given up after each
     // press in a toolbar and when another screen comes to the front; no screen does anything for that.
@@ -59,10 +56,6 @@ public:
     /// The row of the grid that was last opened or pressed.
     int gridRow() const { return m_gridRow; }
     void setGridRow(int row) { m_gridRow = row; }
-
-    /// Sets the pointer over the screen to an hourglass or back to the arrow.
-    void setHourglass(bool on);
-    bool hasHourglass() const { return m_hourglass; }
 
 protected:
     /// Gives the screen a window of its own. Call in the constructor of a screen that needs no frame, or that
@@ -86,26 +79,17 @@ protected:
     void closeEvent(QCloseEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override; ///< Enter presses the button that has the focus
-    bool eventFilter(QObject* watched, QEvent* event) override; ///< key preview, installed on all controls
-    void childEvent(QChildEvent* event) override;
 
 private:
     void showAsWindow();
     void centreOn(const QRect& place);
-    void watch(QObject* control);
-    void unwatch(QObject* control);
-    bool previewKey(QWidget* control, QKeyEvent* event);
-    bool isOnItsWay(const QWidget* control, const QKeyEvent* event) const;
 
     QEventLoop* m_modalLoop = nullptr;
     bool m_ownWindow = false;
-    bool m_hourglass = false;
     bool m_keepsRecord = false;
     bool m_forReading = false;
     QString m_openNumber; ///< of the record that stands open; empty if none does
     int m_gridRow = 0;
     bool m_paintPending = false;
     bool m_placed = false;
-    const QKeyEvent* m_key = nullptr; ///< the key on its way up from the focused control; never dereferenced
-    QPointer<QWidget> m_keyAt;
 };

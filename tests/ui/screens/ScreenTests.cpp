@@ -85,15 +85,18 @@ TEST_F(ScreenTest, EachKeyIsSeenOnceBeforeTheControl) {
     auto* box = new TextBox(u"txt"_s, inner);
     screen.show();
     // Neither the button nor its parents handle F3, so it passes through all of them.
+    key->setFocus();
     QTest::keyClick(key, Qt::Key_F3);
     QTest::keyClick(key, Qt::Key_F3);
     EXPECT_EQ(screen.keys, (QList<int>{Qt::Key_F3, Qt::Key_F3}));
     screen.swallowed = Qt::Key_X;
+    box->setFocus();
     QTest::keyClicks(box, u"axb"_s);
     EXPECT_EQ(box->text(), u"ab"_s);
     EXPECT_EQ(screen.keys.mid(2), (QList<int>{Qt::Key_A, Qt::Key_X, Qt::Key_B}));
 
     screen.keys.clear();
+    key->setFocus();
     QKeyEvent held(QEvent::KeyPress, Qt::Key_F3, Qt::NoModifier, QString(), true);
     QApplication::sendEvent(key, &held);
     EXPECT_TRUE(screen.keys.isEmpty()) << "a key held down saves once, not thirty times a second";
