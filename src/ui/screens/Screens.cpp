@@ -7,42 +7,15 @@
 
 namespace {
 
-struct Entry {
-    Screen* screen;
-    bool leaving; ///< its unload has begun
-};
-
-QVector<Entry>& entries() {
-    static QVector<Entry> alive;
-    return alive;
-}
-
-QVector<Entry>::iterator find(const Screen* screen) {
-    return std::find_if(entries().begin(), entries().end(),
-                        [screen](const Entry& entry) { return entry.screen == screen; });
-}
-
-// A handler of the screen may be on the stack, even below the loop of a modal screen, so wait until all
-// handlers have returned. Then delete by the event loop, since slots may run without runEvent().
-void destroyWhenSafe(Screen* screen) {
-    whenNoEventRuns([screen = QPointer<Screen>(screen)] {
-        if (screen) screen->deleteLater();
-    });
-}
-
-Screen* latestToGo() {
-    const auto found =
-        std::find_if(entries().rbegin(), entries().rend(), [](const Entry& entry) { return !entry.leaving; });
-    return found == entries().rend() ? nullptr : found->screen;
-}
+QVector<Screen*> alive;
+QVector<Screen*> leaving; ///< the alive ones whose unload has begun
 
 } // namespace
 
 namespace Screens {
 
 void add(Screen* screen) {
-    if (find(screen) != entries().end()) return;
-    entries().append({screen, false});
+    alive.append(screen);
     for (const Toolbar* toolbar : screen->findChildren<Toolbar*>())
         QObject::connect(toolbar, &Toolbar::Pressed, screen, [screen] {
             if (!screen->isForReading()) giveUpRecords();
@@ -50,54 +23,53 @@ void add(Screen* screen) {
 }
 
 void remove(Screen* screen) {
-    const auto entry = find(screen);
-    if (entry == entries().end() || entry->leaving) return;
-    entry->leaving = true;
-    const QPointer<Screen> alive(screen);
+    if (!isAlive(screen) || leaving.contains(screen)) return;
+    leaving.append(screen);
+    const QPointer<Screen> kept(screen);
     runEvent([screen] { screen->Form_Unload(); });
-    if (alive) screen->Hide();
+    if (kept) screen->Hide();
     forget(screen);
-    if (!alive) return;
+    if (!kept) return;
     // Off the frame, so that the frame does not destroy this screen and no search finds its controls.
     if (!screen->isModalNow()) screen->setParent(nullptr);
-    destroyWhenSafe(screen);
+    // A handler of the screen may be on the stack, even below the loop of a modal screen, so wait until all
+    // handlers have returned. Then delete by the event loop, since slots may run without runEvent().
+    whenNoEventRuns([kept] {
+        if (kept) kept->deleteLater();
+    });
 }
 
-void forget(const Screen* screen) {
-    const auto entry = find(screen);
-    if (entry != entries().end()) entries().erase(entry);
+void forget(Screen* screen) {
+    alive.removeOne(screen);
+    leaving.removeOne(screen);
 }
 
-bool isAlive(const Screen* screen) { return screen && find(screen) != entries().end(); }
+bool isAlive(const Screen* screen) { return alive.contains(screen); }
 
-QVector<Screen*> all() {
-    QVector<Screen*> screens;
-    for (const Entry& entry : entries()) screens.append(entry.screen);
-    return screens;
-}
+QVector<Screen*> all() { return alive; }
 
 Screen* byName(const QString& name) {
-    for (const Entry& entry : entries()) {
-        if (entry.screen->objectName() == name) return entry.screen;
-    }
-    return nullptr;
+    const auto found = std::ranges::find(alive, name, &Screen::objectName);
+    return found == alive.end() ? nullptr : *found;
 }
 
 Screen* editing() {
-    for (const Entry& entry : entries()) {
-        const bool inSight =
-            entry.screen->isModalNow() || (Stage::current() && Stage::current()->front() == entry.screen);
-        if (inSight && entry.screen->isEditing()) return entry.screen;
-    }
-    return nullptr;
+    const Screen* front = Stage::current() ? Stage::current()->front() : nullptr;
+    const auto found = std::ranges::find_if(alive, [front](const Screen* screen) {
+        return screen->isEditing() && (screen->isModalNow() || screen == front);
+    });
+    return found == alive.end() ? nullptr : *found;
 }
 
 void giveUpRecords() {
-    for (Screen* screen : all()) screen->giveUpRecord();
+    for (Screen* screen : alive) screen->giveUpRecord();
 }
 
 void removeAll() {
-    while (Screen* screen = latestToGo()) remove(screen);
+    // Removing a screen may remove or make others.
+    while (alive.size() > leaving.size())
+        remove(*std::find_if_not(alive.rbegin(), alive.rend(),
+                                 [](const Screen* screen) { return leaving.contains(screen); }));
 }
 
 } // namespace Screens

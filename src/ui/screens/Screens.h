@@ -14,7 +14,7 @@ void add(Screen* screen);
 /// destroyed only after all handlers have returned. During Form_Unload the<T>() still returns it.
 void remove(Screen* screen);
 /// Only for the screen's destructor and remove().
-void forget(const Screen* screen);
+void forget(Screen* screen);
 /// False once a screen has been unloaded, even if it is not destroyed yet.
 bool isAlive(const Screen* screen);
 QVector<Screen*> all();
@@ -31,39 +31,30 @@ void removeAll();
 
 namespace detail {
 template<typename T>
-QPointer<T>& screenSlot() {
-    static QPointer<T> slot;
-    return slot;
-}
-
-template<typename T>
-T* aliveScreen() {
-    T* screen = screenSlot<T>();
-    return Screens::isAlive(screen) ? screen : nullptr;
-}
-} // namespace detail
-
-/// The one instance of a screen. The first use makes it and runs its Form_Load. Throws ProgramEnded instead
-/// of making one after the program's end.
-template<typename T>
-T& the() {
-    if (T* alive = detail::aliveScreen<T>()) return *alive;
-    if (eventsEnded()) throw ProgramEnded{};
-    T* made = new T;
-    detail::screenSlot<T>() = made;
-    Screens::add(made);
-    runEvent([made] { made->Form_Load(); });
-    return *made;
+inline QPointer<T> latest; ///< the instance last made
 }
 
 /// True if the instance exists; does not make it.
 template<typename T>
 bool isLoaded() {
-    return detail::aliveScreen<T>() != nullptr;
+    return Screens::isAlive(detail::latest<T>);
+}
+
+/// The one instance of a screen. The first use makes it and runs its Form_Load. Throws ProgramEnded instead
+/// of making one after the program's end.
+template<typename T>
+T& the() {
+    if (isLoaded<T>()) return *detail::latest<T>;
+    if (eventsEnded()) throw ProgramEnded{};
+    T* made = new T;
+    detail::latest<T> = made;
+    Screens::add(made);
+    runEvent([made] { made->Form_Load(); });
+    return *made;
 }
 
 /// Removes the instance if there is one. The next the<T>() makes a new one.
 template<typename T>
 void unload() {
-    if (T* alive = detail::aliveScreen<T>()) Screens::remove(alive);
+    Screens::remove(detail::latest<T>);
 }

@@ -58,18 +58,17 @@ void Stage::bringToFront(Screen* screen) {
     if (before) before->hide();
     // A control losing the focus may have pulled it back into the screen just hidden.
     focusInto(screen);
-    announce();
+    Q_EMIT frontChanged(front());
     settle();
 }
 
 void Stage::withdraw(Screen* screen) {
-    if (!shows(screen)) return;
     const bool wasFront = front() == screen;
     m_order.removeAll(screen);
     if (wasFront && front()) uncover(front());
     screen->hide();
     if (!wasFront) return;
-    announce();
+    Q_EMIT frontChanged(front());
     settle();
 }
 
@@ -85,12 +84,6 @@ void Stage::uncover(Screen* screen) {
 void Stage::focusInto(Screen* screen) {
     const QWidget* focused = window()->focusWidget();
     if (!focused || !screen->isAncestorOf(focused)) focusOf(screen)->setFocus(Qt::OtherFocusReason);
-}
-
-void Stage::announce() {
-    if (m_announced == front()) return;
-    m_announced = front();
-    Q_EMIT frontChanged(m_announced);
 }
 
 void Stage::settle() {

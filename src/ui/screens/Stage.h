@@ -24,7 +24,7 @@ public:
     static Stage* current();
 
     void bringToFront(Screen* screen);
-    /// Hides a screen. If it was in front, the one below comes to the front.
+    /// Hides a screen that the stage shows. If it was in front, the one below comes to the front.
     void withdraw(Screen* screen);
     Screen* front() const;
     bool shows(const Screen* screen) const;
@@ -45,11 +45,9 @@ protected:
 private:
     void uncover(Screen* screen);
     void focusInto(Screen* screen);
-    void announce();
     void settle();
 
     QVector<QPointer<Screen>> m_order; ///< back to front
     QPointer<Screen> m_activated;
-    QPointer<Screen> m_announced;
     bool m_active = false;
 };
