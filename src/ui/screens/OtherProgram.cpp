@@ -3,25 +3,13 @@
 #include <QApplication>
 #include <QTimer>
 
-namespace {
-
-constexpr int longestWaitMilliseconds = 6000;
-
-class Wait : public QObject {
-public:
-    Wait()
-        : QObject(qApp) {
-        QApplication::setOverrideCursor(Qt::WaitCursor);
-        QTimer::singleShot(longestWaitMilliseconds, this, &QObject::deleteLater);
-        connect(qApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
-            if (state != Qt::ApplicationActive) deleteLater();
-        });
-    }
-    ~Wait() override { QApplication::restoreOverrideCursor(); }
-    Wait(const Wait&) = delete;
-    Wait& operator=(const Wait&) = delete;
-};
-
-} // namespace
-
-void awaitOtherProgram() { new Wait; }
+void awaitOtherProgram() {
+    constexpr int longestMilliseconds = 6000;
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    auto* wait = new QObject(qApp);
+    QTimer::singleShot(longestMilliseconds, wait, &QObject::deleteLater);
+    QObject::connect(qApp, &QGuiApplication::applicationStateChanged, wait, [wait](auto state) {
+        if (state != Qt::ApplicationActive) wait->deleteLater();
+    });
+    QObject::connect(wait, &QObject::destroyed, &QApplication::restoreOverrideCursor);
+}

@@ -15,32 +15,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int iconBits = 0x70;
-
-QMessageBox::Icon iconOf(int style) {
-    switch (style & iconBits) {
-    case vbCritical:
-        return QMessageBox::Critical;
-    case vbExclamation:
-        return QMessageBox::Warning;
-    case vbInformation:
-        return QMessageBox::Information;
-    default:
-        return QMessageBox::NoIcon;
-    }
-}
-
 QWidget* windowBelow() {
     if (QWidget* active = QApplication::activeWindow()) return active;
     if (QWidget* modal = QApplication::activeModalWidget()) return modal;
     const Stage* stage = Stage::current();
     QWidget* frame = stage ? stage->window() : nullptr;
     return frame && frame->isVisible() ? frame : nullptr;
-}
-
-// Sets the caption: Qt's own may lack its translation, or come in the desktop's language.
-void addButton(QMessageBox& box, QMessageBox::StandardButton which, const QString& german) {
-    box.addButton(which)->setText(german);
 }
 
 /// Qt would wrap the lines of a text to half the screen. Their breaks are given, so they stay as they are as
@@ -56,16 +36,19 @@ void keepLines(QMessageBox& box) {
 } // namespace
 
 MsgBoxResult QtMessageBoxes::show(const QString& text, int style, const QString& title) {
+    constexpr QMessageBox::Icon icons[] = {QMessageBox::NoIcon, QMessageBox::Critical, QMessageBox::Question,
+                                           QMessageBox::Warning, QMessageBox::Information};
     const bool question = (style & vbYesNo) != 0;
     QMessageBox box(windowBelow());
     box.setWindowTitle(title);
-    box.setIcon(iconOf(style));
+    box.setIcon(icons[style / vbCritical]);
     box.setTextFormat(Qt::PlainText);
     box.setText(withPlainBreaks(text));
     keepLines(box);
     if (question) {
-        addButton(box, QMessageBox::Yes, u"&Ja"_s);
-        addButton(box, QMessageBox::No, u"&Nein"_s);
+        // Qt's own captions may lack their translation, or come in the desktop's language.
+        box.addButton(QMessageBox::Yes)->setText(u"&Ja"_s);
+        box.addButton(QMessageBox::No)->setText(u"&Nein"_s);
         box.setDefaultButton(QMessageBox::Yes);
         box.setEscapeButton(QMessageBox::No);
     } else {
