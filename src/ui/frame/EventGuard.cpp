@@ -1,5 +1,6 @@
 #include "EventGuard.h"
 
+#include <QScopeGuard>
 #include <new>
 #include <utility>
 #include <vector>
@@ -11,26 +12,11 @@ std::vector<std::function<void()>> tasksAfterwards;
 int handlersOnStack = 0;
 bool ended = false;
 
-class HandlerOnStack {
-public:
-    HandlerOnStack() { ++handlersOnStack; }
-    ~HandlerOnStack() {
-        if (--handlersOnStack == 0) runTasks();
-    }
-    HandlerOnStack(const HandlerOnStack&) = delete;
-    HandlerOnStack& operator=(const HandlerOnStack&) = delete;
-
-private:
-    static void runTasks() {
-        const auto tasks = std::exchange(tasksAfterwards, {});
-        for (const auto& task : tasks) task();
-    }
-};
-
 // Call only within a catch clause: without a failure routine it rethrows.
 void handOver(const RuntimeError& error) {
+    if (!eventFailure) throw;
+    // A copy, since the routine may end the program and be taken away.
     const auto failure = eventFailure;
-    if (!failure) throw;
     failure(error);
 }
 
@@ -38,7 +24,11 @@ void handOver(const RuntimeError& error) {
 
 void runEvent(const std::function<void()>& handler) {
     if (ended) return;
-    const HandlerOnStack onStack;
+    ++handlersOnStack;
+    const auto tasks = qScopeGuard([] {
+        if (--handlersOnStack > 0) return;
+        for (const auto& task : std::exchange(tasksAfterwards, {})) task();
+    });
     try {
         handler();
     } catch (const ProgramEnded&) {

@@ -2,38 +2,39 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+template<typename Control>
+Control* named(QStringView name, QStringView text, QWidget* parent) {
+    auto* made = new Control(text.toString(), parent);
+    made->setObjectName(name);
+    return made;
+}
+
+} // namespace
+
 namespace Layout {
 
 QLabel* label(QStringView name, QStringView text, QWidget* parent) {
-    auto* made = new QLabel(parent);
+    auto* made = named<QLabel>(name, text, parent);
     made->setTextFormat(Qt::PlainText);
-    made->setText(text.toString());
-    made->setObjectName(name);
-    return made;
-}
-
-QCheckBox* checkBox(QStringView name, QStringView caption, QWidget* parent) {
-    auto* made = new QCheckBox(caption.toString(), parent);
-    made->setObjectName(name);
-    return made;
-}
-
-QRadioButton* option(QStringView name, QStringView caption, QWidget* parent) {
-    auto* made = new QRadioButton(caption.toString(), parent);
-    made->setObjectName(name);
     return made;
 }
 
 QGroupBox* frame(QStringView name, QStringView title, QWidget* parent) {
-    auto* made = new QGroupBox(title.toString(), parent);
-    made->setObjectName(name);
-    return made;
+    return named<QGroupBox>(name, title, parent);
+}
+
+QCheckBox* checkBox(QStringView name, QStringView caption, QWidget* parent) {
+    return named<QCheckBox>(name, caption, parent);
+}
+
+QRadioButton* option(QStringView name, QStringView caption, QWidget* parent) {
+    return named<QRadioButton>(name, caption, parent);
 }
 
 QPushButton* button(QStringView name, QStringView caption, QWidget* parent) {
-    auto* made = new QPushButton(caption.toString(), parent);
-    made->setObjectName(name);
-    return made;
+    return named<QPushButton>(name, caption, parent);
 }
 
 QVBoxLayout* column(QWidget* window) {
