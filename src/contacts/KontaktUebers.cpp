@@ -22,7 +22,7 @@ namespace {
 
 void bieteAlleKategorien(ComboBox* combo) {
     modKatego::FuelleKategoCombo(combo);
-    combo->InsertItem(0, u"Alle"_s);
+    combo->insertItem(0, u"Alle"_s);
 }
 
 /// Shows the contact of a row modally. Its record is open on that screen and on the overview below it.

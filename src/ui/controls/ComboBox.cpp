@@ -5,11 +5,13 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
-#include <QCollator>
 #include <QKeyEvent>
 #include <QScreen>
 #include <QWheelEvent>
 #include <algorithm>
+#include <ranges>
+
+using namespace Qt::StringLiterals;
 
 ComboBox::ComboBox(QStringView name, QWidget* parent, Kind kind, Order order)
     : QComboBox(parent)
@@ -17,22 +19,18 @@ ComboBox::ComboBox(QStringView name, QWidget* parent, Kind kind, Order order)
     setObjectName(name);
     setEditable(kind == Kind::Editable);
     setInsertPolicy(QComboBox::NoInsert);
+    // Without a text for no entry Qt would select the first one that comes into an empty list.
+    setPlaceholderText(u" "_s);
     setFocusPolicy(Qt::StrongFocus);
     connect(this, &QComboBox::activated, this, &ComboBox::Click);
 }
 
 void ComboBox::AddItem(const QString& text) {
-    InsertItem(m_order == Order::Sorted ? placeFor(text) : count(), text);
-}
-
-void ComboBox::InsertItem(int index, const QString& text) {
-    const bool noneSelected = currentIndex() < 0;
-    const QString typed = currentText();
-    insertItem(index, text);
-    // Qt selects the first entry that comes into an empty list.
-    if (!noneSelected || currentIndex() < 0) return;
-    setCurrentIndex(-1);
-    if (isEditable()) setEditText(typed);
+    const auto entries = std::views::iota(0, m_order == Order::Sorted ? count() : 0);
+    const auto isBefore = [](const QString& a, const QString& b) { return germanOrder().compare(a, b) < 0; };
+    const auto place =
+        std::ranges::upper_bound(entries, text, isBefore, [this](int i) { return itemText(i); });
+    insertItem(m_order == Order::Sorted ? *place : count(), text);
 }
 
 void ComboBox::setText(const QString& text) {
@@ -40,7 +38,8 @@ void ComboBox::setText(const QString& text) {
         setEditText(text);
         return;
     }
-    const int index = indexOf(text);
+    int index = findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive);
+    if (index < 0) index = findText(text, Qt::MatchFixedString);
     if (index < 0 && !text.isEmpty()) throw runtimeError(RuntimeError::readOnlyProperty);
     setListIndex(index);
 }
@@ -88,22 +87,4 @@ void ComboBox::wheelEvent(QWheelEvent* event) {
         QComboBox::wheelEvent(event);
     else
         event->ignore();
-}
-
-int ComboBox::placeFor(const QString& text) const {
-    int first = 0;
-    int last = count();
-    while (first < last) {
-        const int middle = (first + last) / 2;
-        if (germanOrder().compare(itemText(middle), text) <= 0)
-            first = middle + 1;
-        else
-            last = middle;
-    }
-    return first;
-}
-
-int ComboBox::indexOf(const QString& text) const {
-    const int exact = findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive);
-    return exact >= 0 ? exact : findText(text, Qt::MatchFixedString);
 }

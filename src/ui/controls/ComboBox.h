@@ -18,7 +18,6 @@ public:
     /// Adds at the end, or with Order::Sorted at its place in the German order, regardless of case. The
     /// selection stays.
     void AddItem(const QString& text);
-    void InsertItem(int index, const QString& text);
     /// Selects the entry of this text; an empty text selects none. Error 383 if a drop-down list has no such
     /// entry. An editable one takes any text.
     void setText(const QString& text);
@@ -39,8 +38,6 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
 
 private:
-    int placeFor(const QString& text) const;
-    int indexOf(const QString& text) const;
     QSize bounded(QSize hint, int characters) const;
 
     Order m_order;

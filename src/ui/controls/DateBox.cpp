@@ -10,7 +10,6 @@
 #include <QScreen>
 #include <QTextCharFormat>
 #include <QToolButton>
-#include <QWheelEvent>
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -55,21 +54,22 @@ Date DateBox::date() const {
 
 void DateBox::setDate(Date date) {
     m_date = date;
-    m_shown = textOf(date);
-    setEditText(m_shown);
+    setEditText(textOf(date));
     if (lineEdit()->hasFocus()) lineEdit()->selectAll();
 }
 
-bool DateBox::isReadable() const { return currentText() == m_shown || typedDay(); }
+bool DateBox::isReadable() const { return currentText() == textOf(m_date) || typedDay(); }
 
 // None also while the text is unchanged: the date may hold more than its text shows.
 std::optional<QDate> DateBox::typedDay() const {
-    if (currentText() == m_shown) return std::nullopt;
+    if (currentText() == textOf(m_date)) return std::nullopt;
     const Value typed(withPoints(currentText()));
     // IsDate() accepts a time alone as well.
     if (typed.text().contains(u':') || !IsDate(typed)) return std::nullopt;
     return CDate(typed).toQDate();
 }
+
+QDate DateBox::shownDay() const { return textOf(m_date).isEmpty() ? today() : m_date.toQDate(); }
 
 void DateBox::settle() {
     if (const auto day = typedDay()) setDate(Date::fromQDate(*day));
@@ -78,8 +78,7 @@ void DateBox::settle() {
 
 void DateBox::step(int days) {
     settle();
-    const QDate from = m_shown.isEmpty() ? today() : m_date.toQDate();
-    setDate(Date::fromQDate(from.addDays(days)));
+    setDate(Date::fromQDate(shownDay().addDays(days)));
 }
 
 void DateBox::keyPressEvent(QKeyEvent* event) {
@@ -91,9 +90,6 @@ void DateBox::keyPressEvent(QKeyEvent* event) {
     else
         QComboBox::keyPressEvent(event);
 }
-
-// Scrolling a screen must not change the fields that pass under the pointer.
-void DateBox::wheelEvent(QWheelEvent* event) { event->ignore(); }
 
 // Selects the text, so that typing replaces it, if the focus came by a key or by the program. The program may
 // have moved it here while another window was active: then the focus arrives with the window's return.
@@ -135,7 +131,7 @@ void DateBox::makeCalendar() {
 void DateBox::showPopup() {
     settle();
     if (!m_calendar) makeCalendar();
-    m_calendar->setSelectedDate(m_shown.isEmpty() ? today() : m_date.toQDate());
+    m_calendar->setSelectedDate(shownDay());
     QRect place(mapToGlobal(rect().bottomLeft()), m_calendar->sizeHint());
     const QRect room = screen()->availableGeometry();
     if (place.bottom() > room.bottom()) place.moveBottom(mapToGlobal(QPoint(0, 0)).y());

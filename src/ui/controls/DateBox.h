@@ -4,7 +4,6 @@
 #include "Value.h"
 
 #include <QComboBox>
-#include <QPointer>
 #include <optional>
 
 class QCalendarWidget;
@@ -32,16 +31,15 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
-    void wheelEvent(QWheelEvent* event) override;
 
 private:
     std::optional<QDate> typedDay() const;
+    QDate shownDay() const; ///< today if the box shows none
     void settle();
     void step(int days);
     void makeCalendar();
 
     Date m_date;
-    QString m_shown; ///< the text of m_date in the box
     FocusState m_focus;
-    QPointer<QCalendarWidget> m_calendar;
+    QCalendarWidget* m_calendar = nullptr;
 };

@@ -6,10 +6,9 @@
 
 FocusState::FocusState(QWidget* control, std::function<void()> lost)
     : m_lost(std::move(lost)) {
-    m_moves = QObject::connect(
-        qApp, &QApplication::focusChanged, control, [this, control](QWidget*, QWidget* focused) {
-            if (focused && focused != control && focused->window() == control->window()) lose();
-        });
+    connect(qApp, &QApplication::focusChanged, this, [this, control](QWidget*, QWidget* focused) {
+        if (focused && focused != control && focused->window() == control->window()) lose();
+    });
 }
 
 bool FocusState::comes(Qt::FocusReason reason) { return !std::exchange(m_has, true) || movesFocus(reason); }

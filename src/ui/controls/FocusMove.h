@@ -13,15 +13,12 @@ inline bool movesFocus(Qt::FocusReason reason) {
 }
 
 /// Whether a control has the focus, also while it is only borrowed.
-class FocusState {
+class FocusState : public QObject {
 public:
     /// `lost` runs when the focus has moved on. It may have moved while a box was in front: then the control
     /// gets no event of its own.
     explicit FocusState(
         QWidget* control, std::function<void()> lost = [] {});
-    ~FocusState() { QObject::disconnect(m_moves); }
-    FocusState(const FocusState&) = delete;
-    FocusState& operator=(const FocusState&) = delete;
 
     /// Call in focusInEvent. True if the focus has come to the control, and not back from a box: also where
     /// it was moved here while another window was active, and arrives with the window's return.
@@ -33,6 +30,5 @@ private:
     void lose();
 
     std::function<void()> m_lost;
-    QMetaObject::Connection m_moves;
     bool m_has = false;
 };

@@ -1,6 +1,13 @@
 #pragma once
 
-class QCollator;
+#include <QCollator>
 
 /// The order of a German index: regardless of case, umlauts beside their vowels.
-const QCollator& germanOrder();
+inline const QCollator& germanOrder() {
+    static const QCollator order = [] {
+        QCollator collator(QLocale(QLocale::German, QLocale::Germany));
+        collator.setCaseSensitivity(Qt::CaseInsensitive);
+        return collator;
+    }();
+    return order;
+}

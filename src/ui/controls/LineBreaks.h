@@ -1,7 +1,10 @@
 #pragma once
 
-#include <QString>
+#include <QRegularExpression>
 
 /// The text with every line break as a single "\n". The program's texts hold "\r\n" and "\n\r"; either pair
 /// is one break.
-QString withPlainBreaks(const QString& text);
+inline QString withPlainBreaks(QString text) {
+    static const QRegularExpression anyBreak(QStringLiteral("\r\n|\n\r|\r"));
+    return text.replace(anyBreak, QStringLiteral("\n"));
+}

@@ -2,13 +2,13 @@
 
 #include "Conversions.h"
 #include "Theme.h"
+
 #include <QApplication>
 #include <QDropEvent>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMimeData>
-#include <QPointer>
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -18,24 +18,14 @@ namespace {
 constexpr int backspaceCode = 8;
 constexpr int enterCode = 13;
 
-bool isShortcut(const QKeyEvent* event) {
-    const auto modifiers = event->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
-    return modifiers == Qt::ControlModifier;
-}
-
 // The characters that a key makes: nearly always one, none for keys that only move or command.
 QList<uint> codesOf(const QKeyEvent* event) {
-    if (isShortcut(event)) return {};
+    const auto modifiers = event->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
+    if (modifiers == Qt::ControlModifier) return {};
     if (event->key() == Qt::Key_Backspace) return {backspaceCode};
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) return {enterCode};
     const QList<uint> codes = event->text().toUcs4();
-    const bool printable =
-        std::all_of(codes.begin(), codes.end(), [](uint code) { return QChar::isPrint(code); });
-    return printable ? codes : QList<uint>();
-}
-
-bool isEntry(const QAction* entry, const QString& caption) {
-    return entry->text().section(u'\t', 0, 0) == caption;
+    return std::ranges::all_of(codes, [](uint code) { return QChar::isPrint(code); }) ? codes : QList<uint>();
 }
 
 // A copied text often ends in a line break, which one line cannot show.
@@ -57,8 +47,9 @@ TextBox::TextBox(QStringView name, QWidget* parent, int limit)
 }
 
 void TextBox::setHoldsDate() {
-    m_holdsDate = true;
     connect(this, &QLineEdit::textChanged, this, [this] { Theme::setFaulty(this, false); });
+    connect(this, &TextBox::LostFocus, this,
+            [this] { Theme::setFaulty(this, !text().isEmpty() && !IsDate(text())); });
 }
 
 QSize TextBox::minimumSizeHint() const {
@@ -106,40 +97,23 @@ void TextBox::keyPressEvent(QKeyEvent* event) {
         return pasteFrom(selection ? QClipboard::Selection : QClipboard::Clipboard);
     }
     const QList<uint> codes = codesOf(event);
-    // The handlers may close the screen.
-    const QPointer<TextBox> alive(this);
-    bool admitted = true;
-    for (const uint code : codes) {
-        Q_EMIT KeyPress(static_cast<int>(code));
-        if (!alive) return;
-        admitted = passes(code) && admitted;
-    }
+    const bool admitted = std::ranges::all_of(codes, [this](uint code) { return passes(code); });
     if (!admitted) QApplication::beep();
     if (admitted || m_refused == Refused::Admitted)
         QLineEdit::keyPressEvent(event);
     else
         event->accept();
     if (codes == QList<uint>{enterCode}) event->ignore();
-    for (const uint code : codes) {
-        if (alive) Q_EMIT KeyDone(static_cast<int>(code));
-    }
+    for (const uint code : codes) Q_EMIT KeyDone(static_cast<int>(code));
 }
 
 // Receives composed characters (accents, desktop input methods), which do not come as keys.
 void TextBox::inputMethodEvent(QInputMethodEvent* event) {
-    const QPointer<TextBox> alive(this);
-    const QList<uint> codes = event->commitString().toUcs4();
-    for (const uint code : codes) {
-        Q_EMIT KeyPress(static_cast<int>(code));
-        if (!alive) return;
-    }
     QInputMethodEvent passed(event->preeditString(), event->attributes());
     passed.setCommitString(whatPasses(event->commitString(), roomForPasting()), event->replacementStart(),
                            event->replacementLength());
     QLineEdit::inputMethodEvent(&passed);
-    for (const uint code : codes) {
-        if (alive) Q_EMIT KeyDone(static_cast<int>(code));
-    }
+    for (const uint code : event->commitString().toUcs4()) Q_EMIT KeyDone(static_cast<int>(code));
 }
 
 // Qt's own menu entry would paste past the filter.
@@ -147,7 +121,7 @@ void TextBox::contextMenuEvent(QContextMenuEvent* event) {
     QMenu* menu = createStandardContextMenu();
     menu->setAttribute(Qt::WA_DeleteOnClose);
     for (QAction* entry : menu->actions()) {
-        if (!isEntry(entry, QLineEdit::tr("&Paste"))) continue;
+        if (entry->text().section(u'\t', 0, 0) != QLineEdit::tr("&Paste")) continue;
         disconnect(entry, nullptr, this, nullptr);
         connect(entry, &QAction::triggered, this, [this] { pasteFrom(QClipboard::Clipboard); });
     }
@@ -171,7 +145,6 @@ void TextBox::focusInEvent(QFocusEvent* event) {
     if (!m_focus.comes(event->reason())) return;
     m_selectOnRelease = m_selectAllOnFocus && event->reason() == Qt::MouseFocusReason;
     if (m_selectAllOnFocus && !m_selectOnRelease) selectAll();
-    Q_EMIT GotFocus();
 }
 
 void TextBox::focusOutEvent(QFocusEvent* event) {

@@ -38,11 +38,8 @@ public:
 
 Q_SIGNALS:
     /// A key that makes a character (or Backspace or Enter) was pressed, whether or not the filter accepts
-    /// it. Comes before the text changes.
-    void KeyPress(int code);
-    /// Comes after the same key press, whether or not the text has changed.
+    /// it. Comes when the key has done its work.
     void KeyDone(int code);
-    void GotFocus();
     void LostFocus();
 
 protected:
@@ -64,7 +61,6 @@ private:
 
     KeyFilter m_filter;
     Refused m_refused = Refused::Dropped;
-    bool m_holdsDate = false;
     bool m_selectAllOnFocus = false;
     bool m_selectOnRelease = false;
     FocusState m_focus;

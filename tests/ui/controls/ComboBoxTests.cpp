@@ -39,7 +39,7 @@ TEST_F(ComboBoxTest, FillingSelectsNothingAndDoesNotClick) {
     EXPECT_EQ(combo.currentIndex(), -1);
     combo.setListIndex(1);
     takeClicks();
-    combo.InsertItem(0, u"Barsch"_s);
+    combo.insertItem(0, u"Barsch"_s);
     EXPECT_EQ(combo.currentText(), u"Zander"_s);
     combo.clear();
     EXPECT_EQ(combo.count(), 0);

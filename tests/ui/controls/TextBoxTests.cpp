@@ -22,12 +22,8 @@ protected:
         column->addWidget(box);
         column->addWidget(other);
         column->addWidget(memo);
-        QObject::connect(box, &TextBox::KeyPress,
-                         [this](int code) { log += u"p%1:%2 "_s.arg(code).arg(box->text()); });
         QObject::connect(box, &TextBox::KeyDone,
                          [this](int code) { log += u"d%1:%2 "_s.arg(code).arg(box->text()); });
-        QObject::connect(box, &TextBox::GotFocus, [this] { focusLog += u"+box"_s; });
-        QObject::connect(box, &TextBox::LostFocus, [this] { focusLog += u"-box"_s; });
         window.show();
         QApplication::setActiveWindow(&window);
         other->setFocus();
@@ -38,17 +34,16 @@ protected:
     TextBox* other = new TextBox(u"txtGewicht"_s);
     MemoBox* memo = new MemoBox(u"txtNotiz"_s, nullptr, 6);
     QString log;
-    QString focusLog;
 };
 
-TEST_F(TextBoxTest, AKeyIsToldThenFilteredThenItWorks) {
+TEST_F(TextBoxTest, AKeyIsFilteredThenItWorksThenItIsTold) {
     box->setKeyFilter(digitsOnly);
     QTest::keyClicks(box, u"1x2"_s);
-    EXPECT_EQ(log, u"p49: d49:1 p120:1 d120:1 p50:1 d50:12 "_s);
+    EXPECT_EQ(log, u"d49:1 d120:1 d50:12 "_s);
     log.clear();
     QTest::keyClick(box, Qt::Key_Backspace);
     QTest::keyClick(box, Qt::Key_Return);
-    EXPECT_EQ(log, u"p8:12 d8:1 p13:1 d13:1 "_s);
+    EXPECT_EQ(log, u"d8:1 d13:1 "_s);
 }
 
 TEST_F(TextBoxTest, UmlautsSignsAndComposedCharactersAreCharacters) {
