@@ -1,9 +1,8 @@
 #pragma once
 
+#include "Layout.h"
+#include "ProgressBar.h"
 #include "Screen.h"
-
-class ProgressBar;
-class QLabel;
 
 /// The start-up picture, shown while the data is loaded after login.
 class Eroef : public Screen {
@@ -12,6 +11,6 @@ class Eroef : public Screen {
 public:
     Eroef();
 
-    QLabel* Picture1;
-    ProgressBar* pb;
+    QLabel* const Picture1 = Layout::picture(u"Picture1", u"eroef", {480, 300}, this);
+    ProgressBar* const pb = new ProgressBar(u"pb", this);
 };

@@ -1,8 +1,7 @@
 #pragma once
 
+#include "Layout.h"
 #include "Screen.h"
-
-class QLabel;
 
 /// A background picture. No routine shows it.
 class Hinter : public Screen {
@@ -11,5 +10,5 @@ class Hinter : public Screen {
 public:
     Hinter();
 
-    QLabel* Picture1;
+    QLabel* const Picture1 = Layout::picture(u"Picture1", u"hinter", {480, 300}, this);
 };

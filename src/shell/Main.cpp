@@ -6,12 +6,9 @@
 #include "Katego.h"
 #include "Kontakt.h"
 #include "MitglList.h"
-#include "NavigationBar.h"
 #include "Program.h"
 #include "Screens.h"
 #include "Session.h"
-#include "Stage.h"
-#include "StatusBar.h"
 #include "SuchKont.h"
 #include "Toolbar.h"
 #include "modArbeit.h"
@@ -25,38 +22,17 @@
 #include "modTools.h"
 
 #include <QApplication>
-#include <QBoxLayout>
 #include <QCursor>
 #include <QHideEvent>
-#include <QMenu>
-#include <QMenuBar>
 #include <QShortcut>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-QAction* addItem(QMenu* menu, const char* name, const QString& caption) {
-    QAction* item = menu->addAction(caption);
-    item->setObjectName(QLatin1String(name));
-    return item;
-}
-
-QMenu* addMenu(QMenuBar* bar, const char* name, const QString& caption) {
-    QMenu* menu = bar->addMenu(caption);
-    menu->setObjectName(QLatin1String(name));
-    return menu;
-}
-
 QPoint menuPlace() {
     const auto* grid = qobject_cast<const DataTable*>(QApplication::focusWidget());
     return grid ? grid->menuPlace() : QCursor::pos();
-}
-
-QMenu* popup(QWidget* parent, const char* name, const QString& caption) {
-    auto* menu = new QMenu(caption, parent);
-    menu->setObjectName(QLatin1String(name));
-    return menu;
 }
 
 } // namespace
@@ -65,11 +41,8 @@ Main::Main()
     : Screen(u"Main"_s, u"Uferwart"_s) {
     standAlone();
     rahmen() = this;
-    menuBar = new QMenuBar(this);
-    ButtnBar = new NavigationBar(u"ButtnBar"_s, this);
-    stage = new Stage(this);
-    StatusBar1 = new StatusBar(u"StatusBar1"_s, this);
-    buildMenus();
+    for (QMenu* menu : {mnuDatei, mnuTools, mnuHilf}) menuBar->addMenu(menu);
+    connectMenus();
     buildPanels();
     buildAreaKeys();
 
@@ -77,9 +50,7 @@ Main::Main()
     middle->setSpacing(0);
     middle->addWidget(ButtnBar);
     middle->addWidget(stage, 1);
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(0);
+    QVBoxLayout* column = Layout::stack(this, {});
     column->setMenuBar(menuBar);
     column->addLayout(middle, 1);
     column->addWidget(StatusBar1);
@@ -94,21 +65,19 @@ Main::~Main() {
     if (rahmen() == this) rahmen() = nullptr;
 }
 
-void Main::buildMenus() {
-    mnuDatei = addMenu(menuBar, "mnuDatei", u"&Datei"_s);
-    mnuBeenden = addItem(mnuDatei, "mnuBeenden", u"&Beenden"_s);
-    mnuKontMenu_Mitgl = popup(this, "mnuKontMenu_Mitgl", u"Kontextmenü_Mitgl"_s);
-    mnuArbContr = addItem(mnuKontMenu_Mitgl, "mnuArbContr", u"&Übernahme i. Arb.-Controlling"_s);
-    mnuMitglInfo = addItem(mnuKontMenu_Mitgl, "mnuMitglInfo", u"&Mitgliederinformationen anzeigen"_s);
-    mnuKontMenu_FAusw = popup(this, "mnuKontMenu_FAusw", u"Kontextmenü_FAusw"_s);
-    mnuFangInfo = addItem(mnuKontMenu_FAusw, "mnuFangInfo", u"&Fang anzeigen"_s);
-    mnuTools = addMenu(menuBar, "mnuTools", u"&Tools"_s);
-    mnuKomprimiere = addItem(mnuTools, "mnuKomprimiere", u"&Datenbank komprimieren"_s);
-    mnuRepariere = addItem(mnuTools, "mnuRepariere", u"&Datenbank reparieren"_s);
-    mnuHilf = addMenu(menuBar, "mnuHilf", u"&?"_s);
-    mnuHandbuch = addItem(mnuHilf, "mnuHandbuch", u"&Handbuch\tF1"_s);
-    mnuInfo = addItem(mnuHilf, "mnuInfo", u"&Info"_s);
+QMenu* Main::menu(QStringView name, QStringView caption) {
+    auto* made = new QMenu(caption.toString(), this);
+    made->setObjectName(name);
+    return made;
+}
 
+QAction* Main::item(QMenu* menu, QStringView name, QStringView caption) {
+    QAction* made = menu->addAction(caption.toString());
+    made->setObjectName(name);
+    return made;
+}
+
+void Main::connectMenus() {
     on(mnuBeenden, &QAction::triggered, [this](bool) { mnuBeenden_Click(); });
     on(mnuKomprimiere, &QAction::triggered, [](bool) { modTools::KomprimiereDatenbank(); });
     on(mnuRepariere, &QAction::triggered, [](bool) { modTools::RepariereDatenbank(); });

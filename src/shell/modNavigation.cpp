@@ -6,10 +6,8 @@
 #include "Hinter.h"
 #include "Main.h"
 #include "MitglList.h"
-#include "NavigationBar.h"
 #include "Screens.h"
 #include "Session.h"
-#include "Stage.h"
 #include "Vorschau.h"
 #include "modMitglList.h"
 

@@ -1,21 +1,13 @@
 #include "Vorschau.h"
 
-#include "ComboBox.h"
-#include "Heading.h"
 #include "Hourglass.h"
-#include "Layout.h"
 #include "MsgBox.h"
 #include "PrintDialogs.h"
 #include "ReportDocument.h"
-#include "ReportPageView.h"
 #include "Screens.h"
-#include "TextBox.h"
-#include "Toolbar.h"
 
-#include <QBoxLayout>
 #include <QDir>
 #include <QFileInfo>
-#include <QLabel>
 #include <QToolButton>
 
 using namespace Qt::StringLiterals;
@@ -25,28 +17,14 @@ namespace {
 constexpr int zoomLevels[] = {50, 75, 100, 125, 150, 200};
 constexpr int pageWidthEntry = static_cast<int>(std::size(zoomLevels));
 
-void addToRow(Toolbar* toolbar, QWidget* control) {
-    auto* row = static_cast<QBoxLayout*>(toolbar->layout());
-    row->insertWidget(row->count() - 1, control);
-}
-
 } // namespace
 
 Vorschau::Vorschau()
-    : Screen(u"Vorschau"_s, u"Vorschau"_s)
-    , Ueberschrift(new Heading(u"Vorschau"_s, this))
-    , Toolbar1(new Toolbar(this))
-    , pageView(new ReportPageView(this)) {
+    : Screen(u"Vorschau"_s, u"Vorschau"_s) {
     standForReading();
     buildToolbar();
     buildNotice();
-    auto* whole = new QVBoxLayout(this);
-    whole->setContentsMargins(0, 0, 0, 0);
-    whole->setSpacing(0);
-    whole->addWidget(Ueberschrift);
-    whole->addWidget(Toolbar1);
-    whole->addWidget(pageView, 1);
-    whole->addWidget(lblAblage);
+    Layout::stack(this, {Ueberschrift, Toolbar1, pageView, lblAblage}, pageView);
     on(pageView, &ReportPageView::pageChanged, [this] { showPageNumber(); });
     on(pageView, &ReportPageView::zoomStepWanted, [this](int step) { zoom(step); });
     cboZoom->setListIndex(pageWidthEntry);
@@ -56,7 +34,7 @@ void Vorschau::buildToolbar() {
     const auto turn = [this](const QString& key, const QString& tip, const QString& icon,
                              const Toolbar::Handler& handler) {
         const QString caption = tip.section(u" ["_s, 0, 0);
-        Toolbar1->addKey(key, caption, tip, icon, handler)->setToolButtonStyle(Qt::ToolButtonIconOnly);
+        Toolbar1->addKey({key, caption, tip, icon, handler})->setToolButtonStyle(Qt::ToolButtonIconOnly);
     };
     turn(u"tbErste"_s, u"Erste Seite [ Pos1 ]"_s, u"seite-erste"_s, [this] { pageView->setPage(0); });
     turn(u"tbZurueck"_s, u"Vorige Seite [ Bild auf ]"_s, u"seite-zurueck"_s,
@@ -69,44 +47,41 @@ void Vorschau::buildToolbar() {
     Toolbar1->addSeparator();
     buildZoomBox();
     Toolbar1->addSeparator();
-    Toolbar1->addKey(u"tbDruck"_s, u"D&rucken"_s, u"Bericht drucken..."_s, u"drucken"_s,
-                     [this] { drucke(); });
-    Toolbar1->addKey(u"tbPdf"_s, u"&PDF"_s, u"Bericht als PDF-Datei speichern..."_s, u"pdf"_s,
-                     [this] { speicherPdf(); });
-    Toolbar1->addSeparator();
-    Toolbar1->addKey(u"tbSchliessen"_s, u"&Schließen"_s, u"Vorschau schließen [ Esc ]"_s, u"schliessen"_s,
-                     &unload<Vorschau>);
+    Toolbar1->addKey(
+        {u"tbDruck"_s, u"D&rucken"_s, u"Bericht drucken..."_s, u"drucken"_s, [this] { drucke(); }});
+    Toolbar1->addKey({u"tbPdf"_s, u"&PDF"_s, u"Bericht als PDF-Datei speichern..."_s, u"pdf"_s,
+                      [this] { speicherPdf(); }});
+    Toolbar1->addKeys({{u"tbSchliessen"_s, u"&Schließen"_s, u"Vorschau schließen [ Esc ]"_s, u"schliessen"_s,
+                        &unload<Vorschau>}});
 }
 
 void Vorschau::buildPageBox() {
-    txtSeite = new TextBox(u"txtSeite"_s, Toolbar1);
+    txtSeite = new TextBox(u"txtSeite", Toolbar1, 7);
     txtSeite->setAlignment(Qt::AlignRight);
-    txtSeite->setMaxLength(7);
     txtSeite->setFixedWidth(txtSeite->fontMetrics().horizontalAdvance(u"0000000"_s) + 16);
     txtSeite->setSelectAllOnFocus(true);
     txtSeite->setAccessibleName(u"Seite"_s);
     txtSeite->setToolTip(u"Seitenzahl, mit Enter bestätigen"_s);
     txtSeite->setKeyFilter([](int code) { return code < 32 || (code >= '0' && code <= '9') ? code : 0; });
-    addToRow(Toolbar1, txtSeite);
-    lblSeiten = Layout::label(u"lblSeiten"_s, {}, Toolbar1);
-    addToRow(Toolbar1, lblSeiten);
+    Toolbar1->add(txtSeite);
+    lblSeiten = Layout::label(u"lblSeiten", {}, Toolbar1);
+    Toolbar1->add(lblSeiten);
     on(txtSeite, &TextBox::returnPressed, [this] { txtSeite_Enter(); });
     on(txtSeite, &TextBox::LostFocus, [this] { showPageNumber(); });
 }
 
 void Vorschau::buildZoomBox() {
-    cboZoom = new ComboBox(u"cboZoom"_s, Toolbar1);
+    cboZoom = new ComboBox(u"cboZoom", Toolbar1);
     for (const int percent : zoomLevels) cboZoom->AddItem(u"%1 %"_s.arg(percent));
     cboZoom->AddItem(u"Seitenbreite"_s);
     cboZoom->AddItem(u"ganze Seite"_s);
     cboZoom->setAccessibleName(u"Zoom"_s);
     cboZoom->setToolTip(u"Größe der Darstellung [ + ] [ - ]"_s);
-    addToRow(Toolbar1, cboZoom);
+    Toolbar1->add(cboZoom);
     on(cboZoom, &ComboBox::Click, [this] { cboZoom_Click(); });
 }
 
 void Vorschau::buildNotice() {
-    lblAblage = Layout::label(u"lblAblage"_s, {}, this);
     lblAblage->setTextInteractionFlags(Qt::TextSelectableByMouse);
     lblAblage->setContentsMargins(Layout::gap, Layout::gap / 2, Layout::gap, Layout::gap / 2);
     // A long path must not make the frame wider.
@@ -134,7 +109,6 @@ void Vorschau::zeige(std::shared_ptr<const ReportDocument> document, std::shared
     m_document = std::move(document);
     m_report = std::move(report);
     setWindowTitle(m_document->caption());
-    setAccessibleName(m_document->caption());
     Ueberschrift->setText(m_document->caption());
     pageView->setDocument(m_document);
     lblAblage->hide();

@@ -1,18 +1,15 @@
 #pragma once
 
+#include "ComboBox.h"
+#include "Layout.h"
+#include "ReportPageView.h"
 #include "Screen.h"
+#include "TextBox.h"
 
 #include <QTimer>
-#include <memory>
 
-class ComboBox;
-class Heading;
-class QLabel;
 class Report;
 class ReportDocument;
-class ReportPageView;
-class TextBox;
-class Toolbar;
 struct PrintTarget;
 
 /// The preview of a report, a screen on the stage. A second report replaces the first. Closing unloads the
@@ -32,13 +29,15 @@ public:
     /// The document shown; null before the first zeige().
     const std::shared_ptr<const ReportDocument>& document() const { return m_document; }
 
-    Heading* Ueberschrift;
-    Toolbar* Toolbar1;
+    Heading* const Ueberschrift = new Heading(u"Vorschau", this);
+    Toolbar* const Toolbar1 = new Toolbar(this);
+    ReportPageView* const pageView = new ReportPageView(this);
+    // In the toolbar, where each is made after the keys before it.
     TextBox* txtSeite;
     QLabel* lblSeiten;
     ComboBox* cboZoom;
-    ReportPageView* pageView;
-    QLabel* lblAblage; ///< the folder of a saved PDF, shown for a while
+    /// The folder of a saved PDF, shown for a while.
+    QLabel* const lblAblage = Layout::label(u"lblAblage", {}, this);
 
 private:
     void buildToolbar();

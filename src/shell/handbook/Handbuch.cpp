@@ -1,16 +1,10 @@
 #include "Handbuch.h"
 
-#include "HandbuchSeite.h"
-#include "Layout.h"
 #include "MsgBox.h"
-#include "TextBox.h"
-#include "Toolbar.h"
 
-#include <QBoxLayout>
 #include <QDir>
 #include <QFileInfo>
 #include <QGuiApplication>
-#include <QLabel>
 #include <QScreen>
 #include <QToolButton>
 #include <QWindow>
@@ -43,42 +37,33 @@ bool kommtVor(const QString& text, const QString& file) {
 } // namespace
 
 Handbuch::Handbuch()
-    : Screen(u"Handbuch"_s, u"Handbuch"_s)
-    , Toolbar1(new Toolbar(this))
-    , Seite(new HandbuchSeite(this))
-    , Suchzeile(new QWidget(this))
-    , txtSuch(new TextBox(u"txtSuch"_s, Suchzeile))
-    , lblFund(Layout::label(u"lblFund"_s, {}, Suchzeile)) {
+    : Screen(u"Handbuch"_s, u"Handbuch"_s) {
     standAlone();
     standForReading();
-    buildToolbar();
     buildSuchzeile();
     Seite->setObjectName(u"Seite"_s);
     Seite->setMinimumSize(420, 300);
     Seite->setAccessibleName(u"Seite des Handbuchs"_s);
-    auto* whole = new QVBoxLayout(this);
-    whole->setContentsMargins(0, 0, 0, 0);
-    whole->setSpacing(0);
-    whole->addWidget(Toolbar1);
-    whole->addWidget(Seite, 1);
-    whole->addWidget(Suchzeile);
+    Layout::stack(this, {Toolbar1, Seite, Suchzeile}, Seite);
     resize(QSize(860, 720).boundedTo(QWidget::screen()->availableSize() * 9 / 10));
     on(Seite, &HandbuchSeite::seiteGewuenscht, [this](const QUrl& page) { blaettere(page); });
     on(Seite, &QTextBrowser::sourceChanged, [this](const QUrl&) { zeigeTitel(); });
     on(Seite, &QTextBrowser::historyChanged, [this] { zeigeTitel(); });
 }
 
-void Handbuch::buildToolbar() {
-    Toolbar1->addKey(u"tbZurueck"_s, u"&Zurück"_s, u"Zur vorigen Seite [ Alt+Links ]"_s, u"seite-zurueck"_s,
-                     [this] { Seite->backward(); });
-    Toolbar1->addKey(u"tbVor"_s, u"&Vor"_s, u"Wieder vor [ Alt+Rechts ]"_s, u"seite-weiter"_s,
-                     [this] { Seite->forward(); });
-    Toolbar1->addKeys({{u"tbInhalt"_s, u"&Inhalt"_s, u"Alle Seiten des Handbuchs"_s, u"liste"_s,
-                        [this] { blaettere(Seite->source().resolved(QUrl(u"index.html"_s))); }},
-                       {u"tbSuch"_s, u"S&uchen"_s, u"Ein Wort in allen Seiten suchen [ Strg+F ]"_s,
-                        u"suchen"_s, [this] { oeffneSuche(); }},
-                       {u"tbSchliessen"_s, u"&Schließen"_s, u"Handbuch schließen [ Esc ]"_s, u"schliessen"_s,
-                        [this] { Hide(); }}});
+Toolbar* Handbuch::buildToolbar() {
+    auto* made = new Toolbar(this);
+    made->addKey({u"tbZurueck"_s, u"&Zurück"_s, u"Zur vorigen Seite [ Alt+Links ]"_s, u"seite-zurueck"_s,
+                  [this] { Seite->backward(); }});
+    made->addKey({u"tbVor"_s, u"&Vor"_s, u"Wieder vor [ Alt+Rechts ]"_s, u"seite-weiter"_s,
+                  [this] { Seite->forward(); }});
+    made->addKeys({{u"tbInhalt"_s, u"&Inhalt"_s, u"Alle Seiten des Handbuchs"_s, u"liste"_s,
+                    [this] { blaettere(Seite->source().resolved(QUrl(u"index.html"_s))); }},
+                   {u"tbSuch"_s, u"S&uchen"_s, u"Ein Wort in allen Seiten suchen [ Strg+F ]"_s, u"suchen"_s,
+                    [this] { oeffneSuche(); }},
+                   {u"tbSchliessen"_s, u"&Schließen"_s, u"Handbuch schließen [ Esc ]"_s, u"schliessen"_s,
+                    [this] { Hide(); }}});
+    return made;
 }
 
 void Handbuch::buildSuchzeile() {

@@ -1,14 +1,14 @@
 #pragma once
 
+#include "HandbuchSeite.h"
+#include "Layout.h"
 #include "Screen.h"
+#include "TextBox.h"
 
 #include <QTextDocument>
 
-class HandbuchSeite;
-class QLabel;
 class QUrl;
-class TextBox;
-class Toolbar;
+class QWindow;
 
 /// The handbook, a window of its own beside the frame. It can be read at any time: also above a modal screen
 /// or a question, which would lock every other window. Ctrl+F opens a line that searches all pages.
@@ -26,17 +26,17 @@ public:
     void Form_QueryUnload() override { Hide(); }
     bool Form_KeyDown(int key, Qt::KeyboardModifiers modifiers) override;
 
-    Toolbar* Toolbar1;
-    HandbuchSeite* Seite;
-    QWidget* Suchzeile;
-    TextBox* txtSuch;
-    QLabel* lblFund;
+    Toolbar* const Toolbar1 = buildToolbar();
+    HandbuchSeite* const Seite = new HandbuchSeite(this);
+    QWidget* const Suchzeile = new QWidget(this);
+    TextBox* const txtSuch = new TextBox(u"txtSuch", Suchzeile);
+    QLabel* const lblFund = Layout::label(u"lblFund", {}, Suchzeile);
 
 protected:
     bool event(QEvent* event) override;
 
 private:
-    void buildToolbar();
+    Toolbar* buildToolbar();
     void buildSuchzeile();
     void blaettere(const QUrl& page);
     void oeffneSuche();

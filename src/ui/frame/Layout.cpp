@@ -1,5 +1,9 @@
 #include "Layout.h"
 
+#include "Theme.h"
+
+#include <QIcon>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -37,6 +41,12 @@ QPushButton* button(QStringView name, QStringView caption, QWidget* parent) {
     return named<QPushButton>(name, caption, parent);
 }
 
+QLabel* picture(QStringView name, QStringView icon, QSize size, QWidget* parent) {
+    auto* made = named<QLabel>(name, {}, parent);
+    made->setPixmap(Theme::icon(icon.toString()).pixmap(size, parent->devicePixelRatio()));
+    return made;
+}
+
 QVBoxLayout* column(QWidget* window) {
     auto* made = new QVBoxLayout(window);
     made->setContentsMargins(12, 12, 12, 12);
@@ -44,16 +54,19 @@ QVBoxLayout* column(QWidget* window) {
     return made;
 }
 
+QVBoxLayout* stack(QWidget* window, const QVector<QWidget*>& parts, QWidget* highest) {
+    auto* made = new QVBoxLayout(window);
+    made->setContentsMargins(0, 0, 0, 0);
+    made->setSpacing(0);
+    for (QWidget* part : parts) made->addWidget(part, part == highest ? 1 : 0);
+    return made;
+}
+
 QVBoxLayout* column(QWidget* screen, Heading* heading, Toolbar* toolbar) {
-    auto* whole = new QVBoxLayout(screen);
-    whole->setContentsMargins(0, 0, 0, 0);
-    whole->setSpacing(0);
-    whole->addWidget(heading);
-    if (toolbar) whole->addWidget(toolbar);
     auto* rest = new QVBoxLayout;
     rest->setContentsMargins(12, gap, 12, 12);
     rest->setSpacing(gap);
-    whole->addLayout(rest, 1);
+    stack(screen, {heading, toolbar})->addLayout(rest, 1);
     return rest;
 }
 

@@ -26,9 +26,13 @@ QGroupBox* frame(QStringView name, QStringView title, QWidget* parent);
 QCheckBox* checkBox(QStringView name, QStringView caption, QWidget* parent);
 QRadioButton* option(QStringView name, QStringView caption, QWidget* parent);
 QPushButton* button(QStringView name, QStringView caption, QWidget* parent);
+/// One of the program's own pictures (see Theme::icon).
+QLabel* picture(QStringView name, QStringView icon, QSize size, QWidget* parent);
 
 /// The outermost layout of a window.
 QVBoxLayout* column(QWidget* window);
+/// Parts one below the other, without margins. Room that is left goes to `highest`.
+QVBoxLayout* stack(QWidget* window, const QVector<QWidget*>& parts, QWidget* highest = nullptr);
 /// Lays out a screen on the stage: heading, toolbar and a column for the rest. Returns the column for the
 /// rest.
 QVBoxLayout* column(QWidget* screen, Heading* heading, Toolbar* toolbar);

@@ -1,15 +1,14 @@
 #include "NavigationBar.h"
 
 #include "HousePaint.h"
+#include "Layout.h"
 #include "LineBreaks.h"
 #include "Theme.h"
 
 #include <QKeyEvent>
-#include <QLabel>
 #include <QPainter>
 #include <QScrollArea>
 #include <QScrollBar>
-#include <QVBoxLayout>
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -74,7 +73,7 @@ void BarItem::paintEvent(QPaintEvent* /*event*/) {
                      m_caption);
 }
 
-NavigationBar::NavigationBar(const QString& name, QWidget* parent)
+NavigationBar::NavigationBar(QStringView name, QWidget* parent)
     : QWidget(parent)
     , m_scroll(new QScrollArea(this))
     , m_face(new QWidget)
@@ -92,9 +91,7 @@ NavigationBar::NavigationBar(const QString& name, QWidget* parent)
     m_scroll->setWidget(m_face);
     m_face->setAutoFillBackground(false);
     m_scroll->viewport()->setAutoFillBackground(false);
-    auto* whole = new QVBoxLayout(this);
-    whole->setContentsMargins(0, 0, 0, 0);
-    whole->addWidget(m_scroll);
+    Layout::stack(this, {m_scroll});
 }
 
 QWidget* NavigationBar::group(const QString& caption) {
@@ -108,10 +105,7 @@ QWidget* NavigationBar::group(const QString& caption) {
     bold.setBold(true);
     heading->setFont(bold);
     heading->setContentsMargins(headingGap, headingGap, headingGap, headingGap);
-    auto* column = new QVBoxLayout(made);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(itemGap);
-    column->addWidget(heading);
+    Layout::stack(made, {heading})->setSpacing(itemGap);
     m_groups.append(made);
     m_column->insertWidget(m_column->count() - 1, made);
     return made;

@@ -37,7 +37,7 @@ class NavigationBar : public QWidget {
     Q_OBJECT
 
 public:
-    explicit NavigationBar(const QString& name, QWidget* parent = nullptr);
+    explicit NavigationBar(QStringView name, QWidget* parent = nullptr);
 
     /// Adds an item at the end of the group, which is made if there is none of this caption.
     void addItem(const QString& group, const QString& key, const QString& caption, const QString& icon);

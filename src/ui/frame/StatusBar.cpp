@@ -11,7 +11,7 @@
 
 using namespace Qt::StringLiterals;
 
-StatusBar::StatusBar(const QString& name, QWidget* parent)
+StatusBar::StatusBar(QStringView name, QWidget* parent)
     : QWidget(parent)
     , m_row(new QHBoxLayout(this)) {
     setObjectName(name);

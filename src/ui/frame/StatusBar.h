@@ -11,7 +11,7 @@ class StatusBar : public QWidget {
     Q_OBJECT
 
 public:
-    explicit StatusBar(const QString& name, QWidget* parent = nullptr);
+    explicit StatusBar(QStringView name, QWidget* parent = nullptr);
 
     /// Adds a panel at the right; `stretch` lets it take the remaining space.
     QLabel* addPanel(const QString& text, const QString& tip, bool stretch = false);

@@ -51,34 +51,33 @@ bool Toolbar::hasShortcut(const QKeySequence& shortcut) const {
     });
 }
 
-QToolButton* Toolbar::addKey(const QString& key, const QString& caption, const QString& tip,
-                             const QString& icon, const Handler& handler) {
+QToolButton* Toolbar::addKey(const Key& key) {
     // Of two keys that want the same letter the first one has it; the toolkit would give it to neither.
-    const bool letterTaken = hasShortcut(QKeySequence::mnemonic(caption));
+    const bool letterTaken = hasShortcut(QKeySequence::mnemonic(key.caption));
     auto* button = new QToolButton(this);
-    button->setObjectName(key);
-    setCaption(button, letterTaken ? QString(caption).remove(u'&') : caption);
-    button->setToolTip(tip);
-    button->setAccessibleName(QString(caption).remove(u'&'));
-    button->setAccessibleDescription(tip);
-    button->setIcon(Theme::icon(icon));
+    button->setObjectName(key.key);
+    button->setAccessibleName(QString(key.caption).remove(u'&'));
+    setCaption(button, letterTaken ? button->accessibleName() : key.caption);
+    button->setToolTip(key.tip);
+    button->setAccessibleDescription(key.tip);
+    button->setIcon(Theme::icon(key.icon));
     button->setIconSize({iconEdge, iconEdge});
     button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     button->setAutoRaise(true);
-    connect(button, &QToolButton::clicked, this, [this, handler] {
+    connect(button, &QToolButton::clicked, this, [this, handler = key.handler] {
         runEvent([&] {
             handler();
             Q_EMIT Pressed();
         });
     });
-    m_row->insertWidget(m_row->count() - 1, button);
+    add(button);
     return button;
 }
 
 void Toolbar::addKeys(std::initializer_list<Key> keys) {
     for (const Key& key : keys) {
         if (m_row->count() > 1) addSeparator(); // the stretch at the end is always there
-        addKey(key.key, key.caption, key.tip, key.icon, key.handler);
+        addKey(key);
     }
 }
 
@@ -92,15 +91,15 @@ void Toolbar::setCaption(QToolButton* key, const QString& caption) {
     key->setFocusPolicy(key->shortcut().isEmpty() ? Qt::TabFocus : Qt::NoFocus);
 }
 
-void Toolbar::addSeparator() { m_row->insertWidget(m_row->count() - 1, new Separator(this)); }
+void Toolbar::addSeparator() { add(new Separator(this)); }
+
+void Toolbar::add(QWidget* control) { m_row->insertWidget(m_row->count() - 1, control); }
 
 QToolButton* Toolbar::key(const QString& key) const {
     return findChild<QToolButton*>(key, Qt::FindDirectChildrenOnly);
 }
 
-void Toolbar::setKeyEnabled(const QString& key, bool on) {
-    if (QToolButton* button = this->key(key)) button->setEnabled(on);
-}
+void Toolbar::setKeyEnabled(const QString& key, bool on) { this->key(key)->setEnabled(on); }
 
 void Toolbar::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);

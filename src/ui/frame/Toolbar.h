@@ -27,11 +27,12 @@ public:
 
     explicit Toolbar(QWidget* parent = nullptr, std::initializer_list<Key> keys = {});
 
-    QToolButton* addKey(const QString& key, const QString& caption, const QString& tip, const QString& icon,
-                        const Handler& handler);
+    QToolButton* addKey(const Key& key);
     /// Adds keys with separators between them, and before the first one if it is not the toolbar's first.
     void addKeys(std::initializer_list<Key> keys);
     void addSeparator();
+    /// Adds another control behind the keys so far.
+    void add(QWidget* control);
     QToolButton* key(const QString& key) const; ///< null if there is none
     void setKeyEnabled(const QString& key, bool on);
     /// Takes these shortcut letters from the buttons, since controls around the toolbar have them. Such a
