@@ -109,7 +109,8 @@ void DateBox::makeCalendar() {
     m_calendar->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
     // Qt's red is hard to read on a dark ground, and its icons are not ours.
     for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday}) m_calendar->setWeekdayTextFormat(day, {});
-    const auto setArrow = [this](const QString& name, Qt::ArrowType arrow) {
+    for (const auto& [name, arrow] : {std::pair(u"qt_calendar_prevmonth"_s, Qt::LeftArrow),
+                                      std::pair(u"qt_calendar_nextmonth"_s, Qt::RightArrow)}) {
         auto* button = m_calendar->findChild<QToolButton*>(name);
         button->setArrowType(arrow);
         // They stand on the ground of a selection.
@@ -117,9 +118,7 @@ void DateBox::makeCalendar() {
         for (const auto ink : {QPalette::ButtonText, QPalette::WindowText, QPalette::Text})
             onBar.setColor(ink, palette().color(QPalette::HighlightedText));
         button->setPalette(onBar);
-    };
-    setArrow(u"qt_calendar_prevmonth"_s, Qt::LeftArrow);
-    setArrow(u"qt_calendar_nextmonth"_s, Qt::RightArrow);
+    }
     // Enter and a click pick a day; going about by the arrow keys does not.
     for (const auto signal : {&QCalendarWidget::activated, &QCalendarWidget::clicked})
         connect(m_calendar, signal, this, [this](QDate day) {

@@ -14,7 +14,7 @@ ProgressBar::ProgressBar(QStringView name, QWidget* parent)
     setObjectName(name);
     setRange(0, hundredths);
     setFormat(u"%p %"_s);
-    setValue(0);
+    setMax(1);
 }
 
 void ProgressBar::setMax(qint64 maximum) {
@@ -29,9 +29,7 @@ void ProgressBar::setProgress(qint64 value) {
     const int reached = static_cast<int>(m_value * hundredths / m_max);
     if (reached == m_reached) return;
     m_reached = reached;
-    if (reached < hundredths && m_sincePainted.isValid() &&
-        !m_sincePainted.hasExpired(millisecondsBetweenPaints))
-        return;
+    if (reached < hundredths && !m_sincePainted.hasExpired(millisecondsBetweenPaints)) return;
     setValue(reached);
     m_sincePainted.start();
 }

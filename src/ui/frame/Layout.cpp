@@ -3,6 +3,7 @@
 #include "Theme.h"
 
 #include <QIcon>
+#include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
 
@@ -116,9 +117,8 @@ void addField(QGridLayout* screen, int row, QLabel* label, QWidget* field, int c
     screen->addWidget(label, row, column);
     screen->addWidget(field, row, column + 1);
     label->setBuddy(field);
-    QString spoken = label->text();
-    while (spoken.endsWith(u':') || spoken.endsWith(u'.') || spoken.endsWith(u' ')) spoken.chop(1);
-    field->setAccessibleName(spoken);
+    static const QRegularExpression marksAtTheEnd(u"[:. ]+$"_s);
+    field->setAccessibleName(label->text().remove(marksAtTheEnd));
 }
 
 void addFields(QGridLayout* screen, std::initializer_list<std::pair<QLabel*, QWidget*>> fields, int column) {

@@ -76,14 +76,14 @@ void BarItem::paintEvent(QPaintEvent* /*event*/) {
 NavigationBar::NavigationBar(QStringView name, QWidget* parent)
     : QWidget(parent)
     , m_scroll(new QScrollArea(this))
-    , m_face(new QWidget)
-    , m_column(new QVBoxLayout(m_face)) {
+    , m_face(new QWidget) {
     setObjectName(name);
     setAccessibleName(tr("Navigation"));
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
-    m_column->setContentsMargins(margin, margin, margin, margin);
-    m_column->setSpacing(groupGap);
-    m_column->addStretch(1);
+    QVBoxLayout* column = Layout::stack(m_face, {});
+    column->setContentsMargins(margin, margin, margin, margin);
+    column->setSpacing(groupGap);
+    column->setAlignment(Qt::AlignTop);
     m_scroll->setFrameShape(QFrame::NoFrame);
     m_scroll->setFocusPolicy(Qt::NoFocus);
     m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -107,7 +107,7 @@ QWidget* NavigationBar::group(const QString& caption) {
     heading->setContentsMargins(headingGap, headingGap, headingGap, headingGap);
     Layout::stack(made, {heading})->setSpacing(itemGap);
     m_groups.append(made);
-    m_column->insertWidget(m_column->count() - 1, made);
+    m_face->layout()->addWidget(made);
     return made;
 }
 

@@ -6,7 +6,6 @@
 #include <QWidget>
 
 class QScrollArea;
-class QVBoxLayout;
 
 /// An item of the bar. Knows the window that it brings forward. The caption may have two lines; "&&" in it
 /// shows one ampersand, and nothing in it is a mnemonic.
@@ -73,5 +72,4 @@ private:
     int m_currentGroup = 0;
     QScrollArea* m_scroll;
     QWidget* m_face;
-    QVBoxLayout* m_column;
 };

@@ -44,16 +44,11 @@ Toolbar::Toolbar(QWidget* parent, std::initializer_list<Key> keys)
     addKeys(keys);
 }
 
-bool Toolbar::hasShortcut(const QKeySequence& shortcut) const {
-    const auto keys = findChildren<QToolButton*>();
-    return std::any_of(keys.begin(), keys.end(), [&](const QToolButton* key) {
-        return !shortcut.isEmpty() && key->shortcut() == shortcut;
-    });
-}
-
 QToolButton* Toolbar::addKey(const Key& key) {
     // Of two keys that want the same letter the first one has it; the toolkit would give it to neither.
-    const bool letterTaken = hasShortcut(QKeySequence::mnemonic(key.caption));
+    const auto letter = QKeySequence::mnemonic(key.caption);
+    const bool letterTaken = !letter.isEmpty() && std::ranges::count(findChildren<QToolButton*>(), letter,
+                                                                     &QToolButton::shortcut) > 0;
     auto* button = new QToolButton(this);
     button->setObjectName(key.key);
     button->setAccessibleName(QString(key.caption).remove(u'&'));

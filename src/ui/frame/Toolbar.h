@@ -46,7 +46,6 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    bool hasShortcut(const QKeySequence& shortcut) const;
     static void setCaption(QToolButton* key, const QString& caption);
 
     QHBoxLayout* m_row;

@@ -31,7 +31,7 @@ bool pressAtOnce(QAbstractButton* button, const QShortcutEvent* shortcut) {
     return true;
 }
 
-bool swallows(Screen* screen, const QWidget* control, QKeyEvent* event) {
+bool swallows(Screen* screen, const QObject* control, QKeyEvent* event) {
     // Keys of an open menu or list belong to it alone. A key that a control ignores goes on to its parents:
     // it is the same key, seen already.
     const QWidget* window = screen->window();
@@ -49,15 +49,12 @@ public:
     using QObject::QObject;
 
     bool eventFilter(QObject* watched, QEvent* event) override {
-        const bool press = event->type() == QEvent::KeyPress;
-        if ((!press && event->type() != QEvent::Shortcut) || !watched->isWidgetType()) return false;
-        QWidget* around = static_cast<QWidget*>(watched);
-        while (around && !qobject_cast<Screen*>(around)) around = around->parentWidget();
-        if (!around) return false;
-        return press ? swallows(static_cast<Screen*>(around), static_cast<QWidget*>(watched),
-                                static_cast<QKeyEvent*>(event))
-                     : pressAtOnce(qobject_cast<QAbstractButton*>(watched),
-                                   static_cast<QShortcutEvent*>(event));
+        if (event->type() == QEvent::Shortcut)
+            return pressAtOnce(qobject_cast<QAbstractButton*>(watched), static_cast<QShortcutEvent*>(event));
+        if (event->type() != QEvent::KeyPress) return false;
+        QObject* around = watched;
+        while (around && !qobject_cast<Screen*>(around)) around = around->parent();
+        return around && swallows(static_cast<Screen*>(around), watched, static_cast<QKeyEvent*>(event));
     }
 };
 
@@ -98,21 +95,15 @@ void Screen::ShowAbove(QWidget* window) {
 
 void Screen::showAsWindow() {
     if (!testAttribute(Qt::WA_Resized)) adjustSize();
-    if (!m_placed && parentWidget())
-        centreOn(parentWidget()->frameGeometry());
-    else if (!m_placed)
-        centreOn(QWidget::screen()->availableGeometry());
-    m_placed = true;
+    if (!std::exchange(m_placed, true)) {
+        const QRect room = QWidget::screen()->availableGeometry();
+        QRect face(QPoint(0, 0), size());
+        face.moveCenter(parentWidget() ? parentWidget()->frameGeometry().center() : room.center());
+        move(std::max(room.left(), face.left()), std::max(room.top(), face.top()));
+    }
     show();
     raise();
     activateWindow();
-}
-
-void Screen::centreOn(const QRect& place) {
-    QRect face(QPoint(0, 0), size());
-    face.moveCenter(place.center());
-    const QRect room = QWidget::screen()->availableGeometry();
-    move(std::max(room.left(), face.left()), std::max(room.top(), face.top()));
 }
 
 void Screen::ShowModal() {
@@ -141,8 +132,7 @@ void Screen::ShowModal() {
 }
 
 void Screen::Hide() {
-    Stage* stage = Stage::current();
-    if (stage && stage->shows(this))
+    if (Stage* stage = Stage::current())
         stage->withdraw(this);
     else
         hide();
@@ -187,9 +177,8 @@ void Screen::keyPressEvent(QKeyEvent* event) {
     const bool takesEnter = qobject_cast<QPushButton*>(button) || qobject_cast<QToolButton*>(button);
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     // Ignores an Enter held down: the focus may have come to the button in the meantime.
-    if (enter && takesEnter && event->isAutoRepeat()) return;
-    if (enter && takesEnter && button->isEnabled())
-        button->click();
-    else
+    if (!enter || !takesEnter)
         QWidget::keyPressEvent(event);
+    else if (!event->isAutoRepeat())
+        button->click();
 }

@@ -82,7 +82,6 @@ protected:
 
 private:
     void showAsWindow();
-    void centreOn(const QRect& place);
 
     QEventLoop* m_modalLoop = nullptr;
     bool m_ownWindow = false;

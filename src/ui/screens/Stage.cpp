@@ -106,8 +106,6 @@ Screen* Stage::front() const {
     return nullptr;
 }
 
-bool Stage::shows(const Screen* screen) const { return screen && m_order.contains(screen); }
-
 void Stage::setActive(bool on) {
     if (on == m_active) return;
     m_active = on;

@@ -24,10 +24,9 @@ public:
     static Stage* current();
 
     void bringToFront(Screen* screen);
-    /// Hides a screen that the stage shows. If it was in front, the one below comes to the front.
+    /// Hides a screen, one of its own or another. If it was in front, the one below comes to the front.
     void withdraw(Screen* screen);
     Screen* front() const;
-    bool shows(const Screen* screen) const;
 
     /// While off (frame hidden) no screen is activated or deactivated. Switching on activates the front one.
     /// A new stage is off.
