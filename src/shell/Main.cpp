@@ -23,7 +23,6 @@
 
 #include <QApplication>
 #include <QCursor>
-#include <QHideEvent>
 #include <QShortcut>
 
 using namespace Qt::StringLiterals;
@@ -86,7 +85,7 @@ void Main::connectMenus() {
     // The key itself is seen by Program, before any control and above any box.
     on(mnuHandbuch, &QAction::triggered,
        [](bool) { modHandbuch::ZeigeHandbuch(QApplication::focusWidget()); });
-    on(mnuInfo, &QAction::triggered, [this](bool) { mnuInfo_Click(); });
+    on(mnuInfo, &QAction::triggered, [this](bool) { the<Info>().ShowAbove(this); });
     on(mnuArbContr, &QAction::triggered, [](bool) { modArbeit::mnuArbContr_Click(); });
 }
 
@@ -123,16 +122,6 @@ void Main::Form_Load() { modStart::StarteUferwart(); }
 void Main::Form_Unload() { Program::current().finish(); }
 
 void Main::Form_QueryUnload() { unload<Main>(); }
-
-void Main::showEvent(QShowEvent* event) {
-    Screen::showEvent(event);
-    stage->setActive(true);
-}
-
-void Main::hideEvent(QHideEvent* event) {
-    Screen::hideEvent(event);
-    if (!event->spontaneous()) stage->setActive(false);
-}
 
 void Main::zeigeBereich(const QString& key) { modNavigation::zeigeBereich(key); }
 

@@ -23,7 +23,6 @@ public:
     void Form_QueryUnload() override;
 
     void zeigeBereich(const QString& key) override;
-    void binde(Screen& screen) override;
     void zeigeMitgliederliste() override;
     void loadKontMenu_Mitgl() override;
     void loadKontMenu_FAusw() override;
@@ -48,11 +47,6 @@ public:
     QMenu* const mnuHilf = menu(u"mnuHilf", u"&?");
     QAction* const mnuHandbuch = item(mnuHilf, u"mnuHandbuch", u"&Handbuch\tF1");
     QAction* const mnuInfo = item(mnuHilf, u"mnuInfo", u"&Info");
-
-protected:
-    // Switch the stage on and off: screens are activated only while the frame is visible.
-    void showEvent(QShowEvent* event) override;
-    void hideEvent(QHideEvent* event) override;
 
 private:
     QMenu* menu(QStringView name, QStringView caption);

@@ -3,6 +3,7 @@
 #include "Screen.h"
 #include "Toolbar.h"
 
+#include <QShowEvent>
 #include <QTabBar>
 #include <QTabWidget>
 
@@ -106,11 +107,16 @@ Screen* Stage::front() const {
     return nullptr;
 }
 
-void Stage::setActive(bool on) {
-    if (on == m_active) return;
-    m_active = on;
-    m_activated.clear();
+void Stage::showEvent(QShowEvent* event) {
+    if (event->spontaneous()) return;
+    m_active = true;
     settle();
+}
+
+void Stage::hideEvent(QHideEvent* event) {
+    if (event->spontaneous()) return;
+    m_active = false;
+    m_activated.clear();
 }
 
 // Room for any screen of the program from the start, with some rows in its grid: the frame must not grow on

@@ -28,10 +28,6 @@ public:
     void withdraw(Screen* screen);
     Screen* front() const;
 
-    /// While off (frame hidden) no screen is activated or deactivated. Switching on activates the front one.
-    /// A new stage is off.
-    void setActive(bool on);
-
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
@@ -39,6 +35,9 @@ Q_SIGNALS:
     void frontChanged(Screen* front);
 
 protected:
+    // While the frame is hidden no screen is activated or deactivated. Its showing activates the front one.
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
@@ -48,5 +47,5 @@ private:
 
     QVector<QPointer<Screen>> m_order; ///< back to front
     QPointer<Screen> m_activated;
-    bool m_active = false;
+    bool m_active = false; ///< the frame is shown
 };

@@ -67,7 +67,6 @@ protected:
         setPrintDialogs(&dialogs);
         stage.resize(900, 600);
         stage.show();
-        stage.setActive(true);
         caller.Show();
         log.clear();
     }
