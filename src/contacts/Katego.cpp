@@ -3,7 +3,6 @@
 #include "Erfassung.h"
 #include "Gitter.h"
 #include "KontaktUebers.h"
-#include "Rahmen.h"
 #include "Screens.h"
 #include "modFangbuch.h"
 #include "modKatego.h"
@@ -79,7 +78,6 @@ bool Katego::Form_KeyDown(int key, Qt::KeyboardModifiers) {
 void Katego::Schliessen() {
     modKatego::KategoAnzeigeLoeschen();
     Hide();
-    rahmen()->binde(the<KontaktUebers>());
     the<KontaktUebers>().Show();
 }
 

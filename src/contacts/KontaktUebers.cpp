@@ -81,10 +81,7 @@ bool KontaktUebers::Form_KeyDown(int key, Qt::KeyboardModifiers modifiers) {
     return true;
 }
 
-void KontaktUebers::BearbeiteKategorien() {
-    rahmen()->binde(the<Katego>());
-    the<Katego>().Show();
-}
+void KontaktUebers::BearbeiteKategorien() { the<Katego>().Show(); }
 
 void KontaktUebers::Suchen() {
     modKontakt::SuchAnzeigeLoeschen();

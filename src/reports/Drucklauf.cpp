@@ -6,7 +6,6 @@
 #include "Hourglass.h"
 #include "MsgBox.h"
 #include "PrintDialogs.h"
-#include "Rahmen.h"
 #include "Screens.h"
 #include "Session.h"
 #include "Stage.h"
@@ -74,7 +73,6 @@ void gibAus(ErrorTail& step, Hourglass& hourglass, const std::shared_ptr<Report>
         });
     } else if (wort == u"vorschau"_s) {
         hourglass.end();
-        step([&] { rahmen()->binde(the<Vorschau>()); });
         step([&] { the<Vorschau>().zeige(report->document(), report); });
     }
 }

@@ -125,13 +125,7 @@ void Main::Form_QueryUnload() { unload<Main>(); }
 
 void Main::zeigeBereich(const QString& key) { modNavigation::zeigeBereich(key); }
 
-void Main::binde(Screen& screen) {
-    // A start-up that ended in a repair leaves the bar without items.
-    if (session().AktBarItem) session().AktBarItem->takeWindow(&screen);
-}
-
 void Main::zeigeMitgliederliste() {
-    binde(the<MitglList>());
     the<MitglList>().Show();
 }
 
@@ -146,7 +140,6 @@ void Main::mnuBeenden_Click() {
 }
 
 void Main::mnuInfo_Click() {
-    binde(the<Info>());
     the<Info>().ShowAbove(this);
 }
 

@@ -39,11 +39,10 @@ void VersteckeFormen() {
     if (isLoaded<Hinter>()) the<Hinter>().Hide();
 }
 
-/// Makes the item the current one, then binds and shows its screen.
+/// Makes the item the current one, then shows its screen.
 void showScreen(const QString& key) {
     Screen& target = std::ranges::find(bereiche(), key, &Bereich::key)->screen.make();
     session().AktBarItem = the<Main>().ButtnBar->item(key);
-    the<Main>().binde(target);
     target.Show();
 }
 

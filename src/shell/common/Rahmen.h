@@ -2,8 +2,6 @@
 
 #include <QString>
 
-class Screen;
-
 /// Services of the frame for the screens in it. The frame knows all screens; a screen knows only this class.
 class Rahmen {
 public:
@@ -11,9 +9,7 @@ public:
 
     /// Shows the area of an item of the navigation bar, as a click on the item does.
     virtual void zeigeBereich(const QString& key) = 0;
-    /// Binds the screen to the current item of the navigation bar. Does not show the screen.
-    virtual void binde(Screen& screen) = 0;
-    /// Shows the list of members. It has no item and is bound to the current one.
+    /// Shows the list of members, which has no item of its own.
     virtual void zeigeMitgliederliste() = 0;
     /// Open a context menu at the mouse. The user's present rights enable its items.
     virtual void loadKontMenu_Mitgl() = 0;

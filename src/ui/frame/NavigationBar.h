@@ -1,14 +1,13 @@
 #pragma once
 
-#include <QPointer>
 #include <QToolButton>
 #include <QVector>
 #include <QWidget>
 
 class QScrollArea;
 
-/// An item of the bar. Knows the window that it brings forward. The caption may have two lines; "&&" in it
-/// shows one ampersand, and nothing in it is a mnemonic.
+/// An item of the bar. The caption may have two lines; "&&" in it shows one ampersand, and nothing in it is a
+/// mnemonic.
 class BarItem : public QToolButton {
     Q_OBJECT
 
@@ -16,7 +15,6 @@ public:
     BarItem(const QString& key, const QString& caption, const QString& icon, QWidget* parent);
 
     QString key() const { return objectName(); }
-    void takeWindow(QWidget* window) { m_window = window; }
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
@@ -27,7 +25,6 @@ protected:
 
 private:
     QString m_caption; ///< as shown
-    QPointer<QWidget> m_window;
 };
 
 /// The navigation bar at the left of the frame: all groups open, one below the other, each under its heading.
