@@ -16,9 +16,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The width of the box: enough for any date and the arrow beside it.
-constexpr int characters = 11;
-
 QString textOf(Date date) { return date.isEmpty() ? QString() : date.toQDate().toString(u"dd.MM.yyyy"_s); }
 
 /// Accepts commas for points, since the number pad has a comma, and adds the points to 01022026.
@@ -36,6 +33,7 @@ QString withPoints(QString typed) {
 DateBox::DateBox(QStringView name, QWidget* parent)
     : QComboBox(parent)
     , m_focus(this) {
+    constexpr int characters = 11; // any date and the arrow beside it
     setObjectName(name);
     setEditable(true);
     setCompleter(nullptr);

@@ -4,11 +4,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-constexpr double headingPoints = 16;
-constexpr QMargins room(12, 8, 12, 4);
-} // namespace
-
 Heading::Heading(QStringView text, QWidget* parent)
     : QLabel(text.toString(), parent) {
     setTextFormat(Qt::PlainText);
@@ -16,9 +11,9 @@ Heading::Heading(QStringView text, QWidget* parent)
     setObjectName(u"Ueberschrift"_s);
     QFont face = font();
     face.setFamilies({u"Comic Sans MS"_s, u"Comic Neue"_s});
-    face.setPointSizeF(headingPoints);
+    face.setPointSizeF(16);
     face.setBold(true);
     setFont(face);
-    setContentsMargins(room);
+    setContentsMargins(12, 8, 12, 4);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }

@@ -4,20 +4,15 @@
 #include <QKeyEvent>
 #include <QWidget>
 
-namespace {
-
-constexpr int firstMomentsMilliseconds = 300;
-
-} // namespace
-
 KeyGuard::KeyGuard(QWidget* window)
     : m_window(window) {
     qApp->installEventFilter(this);
 }
 
 bool KeyGuard::isMeant(const QKeyEvent& key) const {
+    constexpr int firstMoments = 300; // milliseconds
     if (key.isAutoRepeat()) return key.key() == m_pressed;
-    return m_shown.isValid() && m_shown.hasExpired(firstMomentsMilliseconds);
+    return m_shown.isValid() && m_shown.hasExpired(firstMoments);
 }
 
 bool KeyGuard::eventFilter(QObject* watched, QEvent* event) {
