@@ -189,6 +189,5 @@ QSize NavigationBar::sizeHint() const {
 QSize NavigationBar::minimumSizeHint() const { return {sizeHint().width(), leastHeight}; }
 
 void NavigationBar::paintEvent(QPaintEvent* /*event*/) {
-    QPainter painter(this);
-    HousePaint::bar(rect(), Theme::barGround(), Qt::RightEdge, &painter);
+    HousePaint::bar(this, Theme::barGround(), Qt::RightEdge);
 }

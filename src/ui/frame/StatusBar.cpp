@@ -6,7 +6,6 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QPainter>
 #include <QTimer>
 
 using namespace Qt::StringLiterals;
@@ -46,6 +45,5 @@ QString StatusBar::panelText(int number) const { return m_panels.at(number - 1)-
 void StatusBar::setPanelText(int number, const QString& text) { m_panels.at(number - 1)->setText(text); }
 
 void StatusBar::paintEvent(QPaintEvent* /*event*/) {
-    QPainter painter(this);
-    HousePaint::bar(rect(), Theme::toolbarGround(), Qt::TopEdge, &painter);
+    HousePaint::bar(this, Theme::toolbarGround(), Qt::TopEdge);
 }

@@ -97,6 +97,5 @@ QToolButton* Toolbar::key(const QString& key) const {
 void Toolbar::setKeyEnabled(const QString& key, bool on) { this->key(key)->setEnabled(on); }
 
 void Toolbar::paintEvent(QPaintEvent* /*event*/) {
-    QPainter painter(this);
-    HousePaint::bar(rect(), Theme::toolbarGround(), Qt::BottomEdge, &painter);
+    HousePaint::bar(this, Theme::toolbarGround(), Qt::BottomEdge);
 }

@@ -178,13 +178,14 @@ void progressContents(const QRectF& filled, const QStyleOption* option, QPainter
     rounded(painter, filled, Qt::transparent, 0, ground, corner - 1);
 }
 
-void bar(const QRect& place, const QColor& ground, Qt::Edge end, QPainter* painter) {
-    painter->fillRect(place, ground);
-    QRect line = place;
-    if (end == Qt::RightEdge) line.setLeft(place.right());
-    if (end == Qt::BottomEdge) line.setTop(place.bottom());
-    if (end == Qt::TopEdge) line.setBottom(place.top());
-    painter->fillRect(line, Theme::faintLine());
+void bar(QWidget* widget, const QColor& ground, Qt::Edge end) {
+    QPainter painter(widget);
+    painter.fillRect(widget->rect(), ground);
+    QRect line = widget->rect();
+    if (end == Qt::RightEdge) line.setLeft(line.right());
+    if (end == Qt::BottomEdge) line.setTop(line.bottom());
+    if (end == Qt::TopEdge) line.setBottom(line.top());
+    painter.fillRect(line, Theme::faintLine());
 }
 
 void scrollHandle(const QRectF& place, const QStyleOption* option, bool isPressed, QPainter* painter) {

@@ -7,6 +7,7 @@
 class QPainter;
 class QStyleOption;
 class QStyleOptionTab;
+class QWidget;
 
 /// Draws the parts of the controls. Each function draws into the option's rectangle if it takes no place.
 namespace HousePaint {
@@ -23,8 +24,9 @@ void toolButton(const QStyleOption* option, QPainter* painter);
 void focusRing(const QStyleOption* option, QPainter* painter);
 void checkBox(const QStyleOption* option, QPainter* painter);
 void radioButton(const QStyleOption* option, QPainter* painter);
-/// The ground of a toolbar, the status bar or the navigation bar, with a line along its edge `end`.
-void bar(const QRect& place, const QColor& ground, Qt::Edge end, QPainter* painter);
+/// The ground of a toolbar, the status bar or the navigation bar, with a line along its edge `end`. Call in
+/// its paintEvent().
+void bar(QWidget* widget, const QColor& ground, Qt::Edge end);
 void chevron(const QRectF& place, Qt::ArrowType direction, const QStyleOption* option, QPainter* painter);
 void tab(const QStyleOptionTab* option, QPainter* painter);
 void framePanel(const QRectF& place, QPainter* painter);
