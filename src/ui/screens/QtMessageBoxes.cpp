@@ -4,7 +4,6 @@
 #include "LineBreaks.h"
 #include "Stage.h"
 
-#include <QApplication>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
@@ -14,14 +13,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QWidget* windowBelow() {
-    if (QWidget* active = QApplication::activeWindow()) return active;
-    if (QWidget* modal = QApplication::activeModalWidget()) return modal;
-    const Stage* stage = Stage::current();
-    QWidget* frame = stage ? stage->window() : nullptr;
-    return frame && frame->isVisible() ? frame : nullptr;
-}
 
 /// Qt would wrap the lines of a text to half the screen. Their breaks are given, so they stay as they are as
 /// long as the screen has room.
@@ -39,7 +30,7 @@ MsgBoxResult QtMessageBoxes::show(const QString& text, int style, const QString&
     constexpr QMessageBox::Icon icons[] = {QMessageBox::NoIcon, QMessageBox::Critical, QMessageBox::Question,
                                            QMessageBox::Warning, QMessageBox::Information};
     const bool question = (style & vbYesNo) != 0;
-    QMessageBox box(windowBelow());
+    QMessageBox box(Stage::windowBelow());
     box.setWindowTitle(title);
     box.setIcon(icons[style / vbCritical]);
     box.setTextFormat(Qt::PlainText);

@@ -15,14 +15,6 @@
 
 namespace {
 
-QWidget* windowBelow(const QWidget* window) {
-    const Stage* stage = Stage::current();
-    for (QWidget* below : {QApplication::activeModalWidget(), QApplication::activeWindow()}) {
-        if (below && below != window) return below;
-    }
-    return stage ? stage->window() : nullptr;
-}
-
 /// Clicks a button at once when its shortcut is pressed. Qt would show the button pressed and click a tenth
 /// of a second later: on a slow machine, or with a quick user, another record is on the screen by then.
 bool pressAtOnce(QAbstractButton* button, const QShortcutEvent* shortcut) {
@@ -112,7 +104,7 @@ void Screen::ShowModal() {
         return;
     }
     Hide();
-    const QPointer<QWidget> below = windowBelow(this);
+    const QPointer<QWidget> below = Stage::windowBelow(this);
     const QPointer<Screen> alive(this);
     setParent(below, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                          Qt::WindowCloseButtonHint | Qt::WindowMaximizeButtonHint);

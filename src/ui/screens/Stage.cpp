@@ -3,6 +3,7 @@
 #include "Screen.h"
 #include "Toolbar.h"
 
+#include <QApplication>
 #include <QShowEvent>
 #include <QTabBar>
 #include <QTabWidget>
@@ -48,6 +49,12 @@ Stage::~Stage() {
 }
 
 Stage* Stage::current() { return stageInForce; }
+
+QWidget* Stage::windowBelow(const QWidget* window) {
+    for (QWidget* below : {QApplication::activeWindow(), QApplication::activeModalWidget()})
+        if (below && below != window) return below;
+    return stageInForce && stageInForce->isVisible() ? stageInForce->window() : nullptr;
+}
 
 void Stage::bringToFront(Screen* screen) {
     const QPointer<Screen> before = front();

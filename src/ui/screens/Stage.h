@@ -22,6 +22,8 @@ public:
 
     /// The stage of the frame, or null before there is one.
     static Stage* current();
+    /// The window above which a box, or this window of a modal screen, is to open; null if there is none.
+    static QWidget* windowBelow(const QWidget* window = nullptr);
 
     void bringToFront(Screen* screen);
     /// Hides a screen, one of its own or another. If it was in front, the one below comes to the front.
