@@ -89,16 +89,12 @@ void DateBox::keyPressEvent(QKeyEvent* event) {
         QComboBox::keyPressEvent(event);
 }
 
-// Selects the text, so that typing replaces it, if the focus came by a key or by the program. The program may
-// have moved it here while another window was active: then the focus arrives with the window's return.
-void DateBox::focusInEvent(QFocusEvent* event) {
-    QComboBox::focusInEvent(event);
-    if (m_focus.comes(event->reason()) && event->reason() != Qt::MouseFocusReason) lineEdit()->selectAll();
-}
-
-void DateBox::focusOutEvent(QFocusEvent* event) {
-    QComboBox::focusOutEvent(event);
-    m_focus.goes(event->reason());
+// Selects the text, so that typing replaces it, if the focus came by a key or by the program.
+bool DateBox::event(QEvent* event) {
+    const bool handled = QComboBox::event(event);
+    if (m_focus.comesWith(event) && static_cast<QFocusEvent*>(event)->reason() != Qt::MouseFocusReason)
+        lineEdit()->selectAll();
+    return handled;
 }
 
 void DateBox::makeCalendar() {

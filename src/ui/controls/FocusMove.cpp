@@ -1,6 +1,7 @@
 #include "FocusMove.h"
 
 #include <QApplication>
+#include <QFocusEvent>
 #include <QWidget>
 #include <utility>
 
@@ -11,10 +12,12 @@ FocusState::FocusState(QWidget* control, std::function<void()> lost)
     });
 }
 
-bool FocusState::comes(Qt::FocusReason reason) { return !std::exchange(m_has, true) || movesFocus(reason); }
-
-void FocusState::goes(Qt::FocusReason reason) {
-    if (movesFocus(reason)) lose();
+bool FocusState::comesWith(const QEvent* event) {
+    if (event->type() != QEvent::FocusIn && event->type() != QEvent::FocusOut) return false;
+    const bool moves = movesFocus(static_cast<const QFocusEvent*>(event)->reason());
+    if (event->type() == QEvent::FocusIn) return !std::exchange(m_has, true) || moves;
+    if (moves) lose();
+    return false;
 }
 
 void FocusState::lose() {

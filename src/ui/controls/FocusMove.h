@@ -20,11 +20,10 @@ public:
     explicit FocusState(
         QWidget* control, std::function<void()> lost = [] {});
 
-    /// Call in focusInEvent. True if the focus has come to the control, and not back from a box: also where
-    /// it was moved here while another window was active, and arrives with the window's return.
-    bool comes(Qt::FocusReason reason);
-    /// Call in focusOutEvent.
-    void goes(Qt::FocusReason reason);
+    /// Call when the control has handled an event. True if the focus has come to it, and not back from a
+    /// box: also where it was moved here while another window was active, and arrives with the window's
+    /// return.
+    bool comesWith(const QEvent* event);
 
 private:
     void lose();

@@ -82,12 +82,8 @@ void MemoBox::inputMethodEvent(QInputMethodEvent* event) {
     QPlainTextEdit::inputMethodEvent(&passed);
 }
 
-void MemoBox::focusInEvent(QFocusEvent* event) {
-    QPlainTextEdit::focusInEvent(event);
-    m_focus.comes(event->reason());
-}
-
-void MemoBox::focusOutEvent(QFocusEvent* event) {
-    QPlainTextEdit::focusOutEvent(event);
-    m_focus.goes(event->reason());
+bool MemoBox::event(QEvent* event) {
+    const bool handled = QPlainTextEdit::event(event);
+    m_focus.comesWith(event);
+    return handled;
 }

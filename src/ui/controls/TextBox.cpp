@@ -140,16 +140,13 @@ void TextBox::dropEvent(QDropEvent* event) {
     event->acceptProposedAction();
 }
 
-void TextBox::focusInEvent(QFocusEvent* event) {
-    QLineEdit::focusInEvent(event);
-    if (!m_focus.comes(event->reason())) return;
-    m_selectOnRelease = m_selectAllOnFocus && event->reason() == Qt::MouseFocusReason;
-    if (m_selectAllOnFocus && !m_selectOnRelease) selectAll();
-}
-
-void TextBox::focusOutEvent(QFocusEvent* event) {
-    QLineEdit::focusOutEvent(event);
-    m_focus.goes(event->reason());
+bool TextBox::event(QEvent* event) {
+    const bool handled = QLineEdit::event(event);
+    if (m_focus.comesWith(event) && m_selectAllOnFocus) {
+        m_selectOnRelease = static_cast<QFocusEvent*>(event)->reason() == Qt::MouseFocusReason;
+        if (!m_selectOnRelease) selectAll();
+    }
+    return handled;
 }
 
 // The press puts the caret at the pointer, so select on release.

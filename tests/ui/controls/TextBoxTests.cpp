@@ -1,5 +1,6 @@
 #include "MemoBox.h"
 #include "TextBox.h"
+#include "Theme.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -92,6 +93,17 @@ TEST_F(TextBoxTest, WhatIsPastedOrDroppedPassesTheFilter) {
     EXPECT_EQ(pasted([this] { QTest::keyClick(box, Qt::Key_V, Qt::ControlModifier); }), u"-1 O"_s);
     box->setText(u"-5"_s);
     EXPECT_EQ(box->text(), u"-5"_s) << "what a routine puts in is its own affair";
+}
+
+TEST_F(TextBoxTest, ADayThatDoesNotExistIsMarkedOnceItsBoxIsLeft) {
+    box->setHoldsDate();
+    box->setFocus();
+    QTest::keyClicks(box, u"31.2.2026"_s);
+    EXPECT_FALSE(Theme::isFaulty(box));
+    other->setFocus();
+    EXPECT_TRUE(Theme::isFaulty(box));
+    box->setText(u"28.2.2026"_s);
+    EXPECT_FALSE(Theme::isFaulty(box));
 }
 
 TEST_F(TextBoxTest, AMemoRefusesWhatGoesBeyondItsLimit) {
