@@ -5,7 +5,7 @@
 #include <QObject>
 
 /// One run of the program in one program folder, from the start-up to the end. Before start() set the clock,
-/// the message boxes, the print dialogs and the office programs.
+/// the print dialogs and the office programs.
 class Program : public QObject {
     Q_OBJECT
 

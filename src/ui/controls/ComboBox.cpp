@@ -26,11 +26,11 @@ ComboBox::ComboBox(QStringView name, QWidget* parent, Kind kind, Order order)
 }
 
 void ComboBox::AddItem(const QString& text) {
-    const auto entries = std::views::iota(0, m_order == Order::Sorted ? count() : 0);
+    if (m_order == Order::AsAdded) return addItem(text);
+    const auto entries = std::views::iota(0, count());
     const auto isBefore = [](const QString& a, const QString& b) { return germanOrder().compare(a, b) < 0; };
-    const auto place =
-        std::ranges::upper_bound(entries, text, isBefore, [this](int i) { return itemText(i); });
-    insertItem(m_order == Order::Sorted ? *place : count(), text);
+    const auto nameOf = [this](int entry) { return itemText(entry); };
+    insertItem(*std::ranges::upper_bound(entries, text, isBefore, nameOf), text);
 }
 
 void ComboBox::setText(const QString& text) {

@@ -4,10 +4,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-constexpr int hundredths = 100;
-constexpr int millisecondsBetweenPaints = 40;
-} // namespace
+static constexpr int hundredths = 100;
 
 ProgressBar::ProgressBar(QStringView name, QWidget* parent)
     : QProgressBar(parent) {
@@ -25,11 +22,12 @@ void ProgressBar::setMax(qint64 maximum) {
 }
 
 void ProgressBar::setProgress(qint64 value) {
+    constexpr int betweenPaints = 40; // milliseconds
     m_value = std::clamp<qint64>(value, 0, m_max);
     const int reached = static_cast<int>(m_value * hundredths / m_max);
     if (reached == m_reached) return;
     m_reached = reached;
-    if (reached < hundredths && !m_sincePainted.hasExpired(millisecondsBetweenPaints)) return;
+    if (reached < hundredths && !m_sincePainted.hasExpired(betweenPaints)) return;
     setValue(reached);
     m_sincePainted.start();
 }

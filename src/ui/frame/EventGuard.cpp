@@ -15,7 +15,7 @@ bool ended = false;
 // Call only within a catch clause: without a failure routine it rethrows.
 void handOver(const RuntimeError& error) {
     if (!eventFailure) throw;
-    // A copy, since the routine may end the program and be taken away.
+    // A copy, since the routine may be taken away while it ends the program.
     const auto failure = eventFailure;
     failure(error);
 }

@@ -167,7 +167,7 @@ void NavigationBar::setTabStop(BarItem* item) {
     setFocusProxy(item);
 }
 
-// By itself an item would follow the tab order, which leads out of the bar.
+// The arrow keys of each item. By itself an item would follow the tab order, which leads out of the bar.
 bool NavigationBar::eventFilter(QObject* item, QEvent* event) {
     const int key = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent*>(event)->key() : 0;
     if (key != Qt::Key_Up && key != Qt::Key_Down) return false;

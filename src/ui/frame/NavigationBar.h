@@ -57,7 +57,7 @@ Q_SIGNALS:
     void itemClicked(const QString& key);
 
 protected:
-    bool eventFilter(QObject* item, QEvent* event) override; ///< the arrow keys, seen by every item
+    bool eventFilter(QObject* item, QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:

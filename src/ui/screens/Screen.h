@@ -78,7 +78,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void hideEvent(QHideEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override; ///< Enter presses the button that has the focus
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void showAsWindow();
