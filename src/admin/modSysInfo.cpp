@@ -36,17 +36,14 @@ QVector<Tool> placesToLook() {
             {u"msinfo32"_s, {}}};
 }
 
-bool isThere(const QString& page) {
-    return page.isEmpty() || !QStandardPaths::locate(QStandardPaths::ApplicationsLocation, page).isEmpty();
-}
-
 } // namespace
 
 void StartSysInfo() {
     for (const Tool& tool : placesToLook()) {
         const QString path = QStandardPaths::findExecutable(tool.program);
-        if (path.isEmpty() || !isThere(tool.page)) continue;
-        if (QProcess::startDetached(path, tool.arguments)) return;
+        const bool known = tool.page.isEmpty() ||
+                           !QStandardPaths::locate(QStandardPaths::ApplicationsLocation, tool.page).isEmpty();
+        if (!path.isEmpty() && known && QProcess::startDetached(path, tool.arguments)) return;
     }
     MsgBox(u"System Information Is Unavailable At This Time"_s);
 }

@@ -159,7 +159,7 @@ QString Ermittle_DSAnzahl() {
         leseWert(step,
                  u"SELECT COUNT(fa.FangNr) FROM Fang fa WHERE fa.FangJahr = "_s +
                      the<Fangbuch>().cboFJahr->currentText(),
-                 [&](const Value& zahl) { anzahl = zahl.isNull() ? u"0"_s : CStr(zahl); });
+                 [&](const Value& zahl) { anzahl = CStr(zahl); });
     });
     return anzahl;
 }

@@ -5,7 +5,6 @@
 #include "Conversions.h"
 #include "Datensatz.h"
 #include "Eingaben.h"
-#include "Gitter.h"
 #include "MsgBox.h"
 #include "Screens.h"
 
@@ -20,15 +19,18 @@ namespace {
 
 const QString modul = u"modBasis"_s;
 
-/// The name of the record last opened, on whichever page: the old name for "UPDATE".
+/// The name of the record last opened, on whichever page: the old name of a changed one.
 QString alterName;
 
-/// Keeps the names in the catch book's grid in step.
-void gleicheAb(const Basis::Seite& seite, const QString& name, const QString& modus, const QString& alter) {
-    const Basis& screen = the<Basis>();
-    const int column = &seite == &screen.seiten[0] ? 1 : 2;
-    if (screen.fangbuchtabelle)
-        modRun::GridVerweiseAbgleichen(screen.fangbuchtabelle, column, name, modus, alter);
+/// The column of the catch book's grid that shows the names of this page.
+int spalteImFangbuch(const Basis::Seite& seite) { return &seite == &the<Basis>().seiten[0] ? 1 : 2; }
+
+/// Changes the name in the catch book's grid.
+void benenneUm(const Basis::Seite& seite, const QString& name) {
+    DataTable* grid = the<Basis>().fangbuchtabelle;
+    const int column = spalteImFangbuch(seite);
+    for (int row = 0; grid && grid->find(column, row, alterName) >= 0; ++row)
+        grid->setCell(row, column, name);
 }
 
 void fuelle(const QString& routine, const Basis::Seite& seite, const QString& select) {
@@ -67,7 +69,7 @@ void aendere(int row) {
             const int zeile = seite.grid->rowOf(seite.nummer->text(), row);
             step([&] { seite.grid->setCell(zeile, 1, name); });
             seite.grid->markRow(zeile);
-            step([&] { gleicheAb(seite, name, u"UPDATE"_s, alterName); });
+            benenneUm(seite, name);
         }
         BasisAnzeigeLoeschen();
     });
@@ -83,7 +85,8 @@ void loesche(int row) {
         if (Datensatz::loesche(step, seite.tabelle, seite.nummer->text(), {}, &meldeNichtGeloescht)) {
             step([&] { seite.grid->removeRow(seite.grid->rowOf(seite.nummer->text(), row)); });
             seite.zeigeAnzahl();
-            step([&] { gleicheAb(seite, seite.name->text(), u"LOESCHEN"_s, QString()); });
+            if (DataTable* faenge = the<Basis>().fangbuchtabelle)
+                faenge->removeRowsWithText(spalteImFangbuch(seite), seite.name->text());
         }
         BasisAnzeigeLoeschen();
     });

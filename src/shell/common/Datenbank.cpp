@@ -52,9 +52,9 @@ void schlageNach(const QString& module, const QString& routine, const std::funct
 bool leseWert(ErrorTail& step, const QString& select, const std::function<void(const Value&)>& nimm) {
     Recordset satz;
     step([&] { satz = oeffneAbfrage(select); });
-    // RecordCount fails for a query that was not opened.
     const bool gelesen = step([&] {
-        if (satz.RecordCount() == 1) nimm(satz.Collect(u"Expr1000"_s));
+        const Value wert = satz.Collect(u"Expr1000"_s);
+        if (!wert.isNull()) nimm(wert);
     });
     step([&] { satz.Close(); });
     return gelesen;

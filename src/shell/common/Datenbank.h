@@ -36,8 +36,8 @@ void liesSatz(ErrorTail& step, const std::function<QString()>& select,
 void schlageNach(const QString& module, const QString& routine, const std::function<QString()>& select,
                  const std::function<void(const Recordset&)>& nimm, const std::function<void()>& leer = {});
 
-/// Passes the value found by a query such as SELECT COUNT(…) to `nimm`. Errors go to `step`, as for a
-/// statement of the calling routine. False if the value could not be read.
+/// Passes the value found by a query such as SELECT COUNT(…) to `nimm`, unless it is Null. Errors go to
+/// `step`, as for a statement of the calling routine. False if the value could not be read.
 bool leseWert(ErrorTail& step, const QString& select, const std::function<void(const Value&)>& nimm);
 
 /// Appends a grid row for each record found by `select`, with these fields, which `forme` may change. A

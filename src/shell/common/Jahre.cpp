@@ -28,9 +28,7 @@ void haengeJahreAn(ComboBox* combo, qint32 lowest, qint32 highest, qint16 akt) {
 
 /// Sets `jahr` to the lowest or highest one that a query finds. False if the query failed.
 bool leseJahr(ErrorTail& step, const QString& select, qint32& jahr) {
-    return leseWert(step, select, [&](const Value& wert) {
-        if (!wert.isNull()) jahr = CLng(wert);
-    });
+    return leseWert(step, select, [&](const Value& wert) { jahr = CLng(wert); });
 }
 
 } // namespace

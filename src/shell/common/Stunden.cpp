@@ -9,12 +9,8 @@ using namespace Qt::StringLiterals;
 double ErmittleStunden(qint32 knr, qint32 jahr) {
     double stunden = 0;
     withErrorTail(u"modArbeit"_s, u"ErmittleStunden"_s, [&](ErrorTail& step) {
-        leseWert(step,
-                 u"SELECT SUM(ArbStd) FROM Arbeit WHERE KNr = "_s + QString::number(knr) + u" AND Jahr = "_s +
-                     QString::number(jahr),
-                 [&](const Value& summe) {
-                     if (!summe.isNull()) stunden = CDbl(summe);
-                 });
+        leseWert(step, u"SELECT SUM(ArbStd) FROM Arbeit WHERE KNr = %1 AND Jahr = %2"_s.arg(knr).arg(jahr),
+                 [&](const Value& summe) { stunden = CDbl(summe); });
     });
     return stunden;
 }

@@ -3,8 +3,6 @@
 #include "DataTable.h"
 #include "EventGuard.h"
 
-using namespace Qt::StringLiterals;
-
 namespace modRun {
 
 void connectGridFocus(DataTable* grid, const DataTable* counted) {
@@ -19,15 +17,6 @@ void connectGridFocus(DataTable* grid, const DataTable* counted) {
 void leereAuswahlBeiFokus(DataTable* grid) {
     QObject::connect(grid, &DataTable::OnGridGotFocus, grid,
                      [grid] { runEvent([grid] { grid->selectRows(0, grid->rowCount(), false); }); });
-}
-
-void GridVerweiseAbgleichen(DataTable* grid, int column, const QString& text, const QString& mode,
-                            const QString& oldText) {
-    if (mode == u"LOESCHEN"_s) {
-        grid->removeRowsWithText(column, text);
-    } else if (mode == u"UPDATE"_s) {
-        for (int row = 0; grid->find(column, row, oldText) >= 0; ++row) grid->setCell(row, column, text);
-    }
 }
 
 } // namespace modRun
