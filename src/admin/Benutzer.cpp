@@ -98,12 +98,10 @@ void Benutzer::addPage(const QString& caption, QGroupBox* entry, DataTable* grid
                        ValueLabel* count) {
     auto* list = static_cast<QGroupBox*>(grid->parentWidget());
     grid->setAccessibleName(list->title());
-    count->setAccessibleName(u"Anzahl"_s);
-    count->setNumeric();
     auto* foot = new QHBoxLayout;
     foot->addStretch();
-    foot->addWidget(countLabel);
-    foot->addWidget(count);
+    Layout::addCount(foot, countLabel, count);
+    count->setAccessibleName(u"Anzahl"_s);
     auto* inner = new QVBoxLayout(list);
     inner->addWidget(grid, 1);
     inner->addLayout(foot);

@@ -163,7 +163,6 @@ void Fangauswertung::drucke(const QString& wort) {
 }
 
 void Fangauswertung::tblFAusw_OnGridCellOpen(int row) {
-    if (row < 0) return;
     if (!modFangbuch::FangbuchZugriff_Erlaubt()) return modRun::MeldeKeinZugriff();
     modFangbuch::FangAnzeigeLoeschen();
     setGridRow(row);

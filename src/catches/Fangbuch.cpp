@@ -209,7 +209,6 @@ void Fangbuch::txtMonNr_LostFocus() {
 }
 
 void Fangbuch::tblFList_OnGridCellOpen(int row) {
-    if (row < 0) return;
     modFangbuch::FangAnzeigeLoeschen();
     modFangbuch::loadFang(tblFList, row);
     openRecord(lblFNr->text(), row);

@@ -82,7 +82,6 @@ void Katego::Schliessen() {
 }
 
 void Katego::tblKatego_OnGridCellOpen(int row) {
-    if (row < 0) return;
     modKatego::KategoAnzeigeLoeschen();
     modKatego::loadKatego(row);
     openRecord(lblKategoNr->text(), row);

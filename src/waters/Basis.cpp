@@ -48,7 +48,6 @@ void Basis::addPage(const QString& title, const Seite& seite, const std::array<Q
     seite.grid->setEmptyHint(u"Hier steht noch nichts.\n"_s
                              u"Schreiben Sie oben einen Namen und drücken Sie „Speichern“."_s);
     on(seite.grid, &DataTable::OnGridCellOpen, [this, &seite](int row, int) {
-        if (row < 0) return;
         modBasis::BasisAnzeigeLoeschen();
         modBasis::loadAuswahl(row);
         openRecord(seite.nummer->text(), row);

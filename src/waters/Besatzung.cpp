@@ -133,7 +133,6 @@ void Besatzung::drucke(const QString& wort) {
 }
 
 void Besatzung::tblBList_OnGridCellOpen(int row) {
-    if (row < 0) return;
     modBesatzList::BesatzAnzeigeLoeschen();
     modBesatzList::loadEintrag(tblBList, row);
     openRecord(lblBNr->text(), row);

@@ -201,7 +201,6 @@ void Arbeit::cboArbJahr_Click() {
 }
 
 void Arbeit::tblArbStd_OnGridCellOpen(int row) {
-    if (row < 0) return;
     modArbeit::LeereArbEingabe();
     modArbeit::loadArbeitsVorgang(row);
     openRecord(lblArbNr->text(), row);

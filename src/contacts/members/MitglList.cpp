@@ -199,7 +199,6 @@ void MitglList::drucke(const QString& wort) {
 }
 
 void MitglList::tblMList_OnGridCellOpen(int row) {
-    if (row < 0 || tblMList->rowCount() == 0) return;
     if (!modKontakt::KontaktZugriff_Erlaubt()) {
         MsgBox(u"Sie haben keinen Zugriff auf diese Funktion !"_s, vbInformation);
         return;

@@ -2,9 +2,7 @@
 
 #include "Recordset.h"
 
-#include <QString>
 #include <functional>
-#include <vector>
 
 class DataTable;
 class ErrorTail;

@@ -3,7 +3,6 @@
 #include "DBEngine.h"
 
 #include <QPointer>
-#include <QString>
 #include <array>
 
 class BarItem;
