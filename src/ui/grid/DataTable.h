@@ -134,9 +134,9 @@ Q_SIGNALS:
     /// the current one. A press on a category's row header expands or collapses the category after the
     /// handlers, unless one of them has called setOpen(). The keys Right, Left, + and - emit the same signal.
     void OnGridCellDown(int row, int column);
-    /// A double click on a row, or Enter pressed on it (not held down since before). OnGridCellDown comes before
-    /// for the first press of a double click. Enter on a category counts as a press on its row header. A
-    /// double click on a category's row header emits nothing here: its second press would undo the first.
+    /// A double click on a row, or Enter pressed on it (not held down since before). OnGridCellDown comes
+    /// before for the first press of a double click. Enter on a category counts as a press on its row header.
+    /// A double click on a category's row header emits nothing here: its second press would undo the first.
     void OnGridCellOpen(int row, int column);
     /// The right mouse button or the menu key. OnGridCellDown comes before.
     void OnGridCellMenu();
