@@ -4,6 +4,8 @@
 #include <chrono>
 #include <vector>
 
+class DataTable;
+
 /// The median, because other work on the computer disturbs only single runs.
 inline double median(std::vector<double> values) {
     const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
@@ -70,5 +72,5 @@ Pair byTurns(int runs, Own&& own, Baseline&& baseline) {
 /// the memory of the process.
 void printRow(const char* work, Pair seconds, const char* baseline, double wanted);
 constexpr int mostBytesARow = 250; ///< in a grid of catches
-/// Prints the memory of a grid. `most` is the limit of bytes in each row, 0 for none.
-void printGrid(double bytes, int rows, int most = 0);
+/// Clears a grid and prints what that frees. `most` is the limit of bytes in each row, 0 for none.
+void printGrid(DataTable& grid, int most = 0);

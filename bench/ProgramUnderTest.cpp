@@ -1,5 +1,6 @@
 #include "ProgramUnderTest.h"
 
+#include "DataTable.h"
 #include "Login.h"
 #include "Measure.h"
 #include "Screens.h"
@@ -12,6 +13,7 @@
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
+#include <malloc.h>
 
 using namespace Qt::StringLiterals;
 
@@ -37,7 +39,15 @@ void printRow(const char* work, Pair seconds, const char* baseline, double wante
     std::fflush(stdout);
 }
 
-void printGrid(double bytes, int rows, int most) {
+void printGrid(DataTable& grid, int most) {
+    const auto held = [] {
+        const struct mallinfo2 heap = mallinfo2();
+        return double(heap.uordblks + heap.hblkhd);
+    };
+    const int rows = grid.rowCount();
+    double bytes = held();
+    grid.clearRows();
+    bytes -= held();
     std::printf("%-38s x%-4d %10d rows  %21.0f bytes a row", "  its grid", timesInForce, rows, bytes / rows);
     if (most > 0) std::printf(" (at most %d)%s", most, bytes / rows <= most ? "" : "!");
     std::printf("\n");

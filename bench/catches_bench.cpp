@@ -30,7 +30,7 @@ void benchMonthList(const QString& folder) {
     };
     printRow("loadTblFList, catches of a month", byTurns(5, fill, [&] { rawJoin(file, rows); }),
              "join stepped, cells copied", 2.0);
-    printGrid(double(screen.tblFList->memoryInUse()), screen.tblFList->rowCount(), mostBytesARow);
+    printGrid(*screen.tblFList, mostBytesARow);
 }
 
 struct Start {

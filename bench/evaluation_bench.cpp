@@ -73,7 +73,7 @@ void benchEvaluation(const QString& folder) {
     };
     printRow("evaluation of all catches", byTurns(3, fill, [&] { rawEvaluation(file, rows); }),
              "four statements, cells copied", 2.0);
-    printGrid(double(screen.tblFAusw->memoryInUse()), screen.tblFAusw->rowCount(), mostBytesARow);
+    printGrid(*screen.tblFAusw, mostBytesARow);
 }
 
 void writeBuffered(const QString& path, const QByteArray& bytes) {

@@ -69,7 +69,7 @@ void benchLists(const QString& folder) {
     const auto list = [&] { fill(*screen.tblMList); };
     screen.chkArbAnz->setChecked(true);
     printRow("member list with hours", byTurns(runs, list, baseline), "a prepared sum a member", 3.0);
-    printGrid(double(screen.tblMList->memoryInUse()), screen.tblMList->rowCount());
+    printGrid(*screen.tblMList);
     screen.chkArbStd->setChecked(true);
     printRow("  only those below their hours", byTurns(runs, list, baseline), "a prepared sum a member", 3.0);
 }

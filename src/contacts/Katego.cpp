@@ -62,7 +62,7 @@ void Katego::layOutTable() {
 }
 
 void Katego::Form_Deactivate() {
-    tblKatego->selectRows(0, tblKatego->rowCount(), false);
+    tblKatego->deselectRows(tblKatego->rowCount());
     lblKategoNr->setText(QString());
     txtKatego->setText(QString());
 }

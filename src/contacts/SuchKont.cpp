@@ -94,7 +94,7 @@ void SuchKont::cmdSuch_Click() {
     if (tblSuch->rowCount() > 0) {
         lblGefDS->setText(QString::number(tblSuch->rowCount()));
         // The grid must have its rows before it gets the focus, so that Enter opens the first one.
-        tblSuch->refresh();
+        tblSuch->publish();
         tblSuch->setFocus();
     } else {
         lblGefDS->setText(QString());

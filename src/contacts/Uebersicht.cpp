@@ -51,7 +51,7 @@ void schreibeMarke(int row, const QString& name, qint32 anzahl) {
 }
 
 /// Sets the columns of every child table.
-void setzeKontaktSpalten() {
+void SetzeKontaktSpalten() {
     grid().setChildColumns({{u"Kontakt.-Nr"_s, 80, true},
                             {QString(), 16, false, 16, true},
                             {u"Firma"_s, 153, false, 50},
@@ -67,20 +67,19 @@ void setzeKontaktSpalten() {
 
 /// Gives the row a child table with columns and no rows. Replaces an existing one.
 void legeKindAn(int row) {
-    kategorien().createChild(row);
-    setzeKontaktSpalten();
+    SetzeKontaktSpalten();
     // These colours set contacts off from categories.
     const QColor back(172, 199, 247);
     // The second colour's number is 72 less than the first one's. The lowest byte of the number is red.
     const QColor second(back.red() - 72, back.green(), back.blue());
-    grid().setChildColours(row, back, second);
+    kategorien().createChild(row, back, second);
 }
 
 /// Enters the child table of a category, and makes it if there is none. The guard returns to the category
 /// level.
 [[nodiscard]] auto betreteKind(int row) {
     if (!kategorien().hasChild(row)) legeKindAn(row);
-    kategorien().enterChild(row);
+    kategorien().enter({row});
     return qScopeGuard([&grid = grid()] { grid.enter({}); });
 }
 
@@ -258,7 +257,7 @@ void tblKUebersfüllen() {
 
 void FuelleKontaktUebersicht() {
     grid().setColumns({{QString(), 40}, {QString(), 40}, {QString(), 400, false, 50}});
-    setzeKontaktSpalten();
+    SetzeKontaktSpalten();
     tblKUebersfüllen();
     for (int row = 0; row < grid().rowCount(); ++row)
         liesKategorie(row, CLng(grid().cell(row, spalteNr)), &zaehleKontakte);

@@ -34,10 +34,10 @@ public:
             throw CommandFailure{u"row %1 has no child table"_s.arg(m_owner)};
     }
 
-    int rowCount() const { return m_model->rows(m_owner); }
+    int rowCount() const { return m_model->rows(m_owner).rowCount(); }
 
     QString text(int row, int column) const {
-        const QString text = m_model->text(m_owner, row, column);
+        const QString text = m_model->rows(m_owner).text(row, column);
         // The cell of a picture is its path. The program folder differs each time.
         const QString folder = programFolder() + u'/';
         return lineText(text.startsWith(folder) ? text.mid(folder.size()) : text);

@@ -5,18 +5,21 @@
 
 namespace modRun {
 
+namespace {
+void SetzeGridFarben(SelectionStyle& style) { style = {Qt::white, Qt::black, 1}; }
+} // namespace
+
 void connectGridFocus(DataTable* grid, const DataTable* counted) {
-    QObject::connect(grid, &DataTable::OnGridGotFocus, grid, [grid] {
-        grid->selectionStyle() = {Qt::white, Qt::black, 1};
-    });
+    QObject::connect(grid, &DataTable::OnGridGotFocus, grid,
+                     [grid] { SetzeGridFarben(grid->selectionStyle()); });
     QObject::connect(grid, &DataTable::OnGridLostFocus, grid, [grid, counted = counted ? counted : grid] {
-        runEvent([=] { grid->selectRows(0, counted->rowCount(), false); });
+        runEvent([=] { grid->deselectRows(counted->rowCount()); });
     });
 }
 
 void leereAuswahlBeiFokus(DataTable* grid) {
     QObject::connect(grid, &DataTable::OnGridGotFocus, grid,
-                     [grid] { runEvent([grid] { grid->selectRows(0, grid->rowCount(), false); }); });
+                     [grid] { runEvent([grid] { grid->deselectRows(grid->rowCount()); }); });
 }
 
 } // namespace modRun

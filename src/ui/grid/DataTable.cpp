@@ -1,13 +1,10 @@
 #include "DataTable.h"
 
 #include "DataTableHeader.h"
-#include "DataTableLook.h"
 #include "DataTableModel.h"
-#include "DataTableRowPainter.h"
+#include "DataTableShapes.h"
 #include "RuntimeError.h"
 
-#include <QItemSelection>
-#include <QPainter>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
@@ -21,7 +18,7 @@ public:
     using QStyledItemDelegate::QStyledItemDelegate;
 
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-        const int width = QStyledItemDelegate::sizeHint(option, index).width() + 2 * DataTableLook::padding;
+        const int width = QStyledItemDelegate::sizeHint(option, index).width() + 2 * DataTableShapes::padding;
         return {width, option.fontMetrics.height() + 8};
     }
 };
@@ -77,7 +74,7 @@ void DataTable::setColumnShown(int column, bool on) {
     fitColumns();
 }
 
-int DataTable::rowCount() const { return m_model->rows(m_current.parentRow); }
+int DataTable::rowCount() const { return m_model->rows(m_current.parentRow).rowCount(); }
 
 void DataTable::setSortable() {
     header()->setSortIndicator(-1, Qt::AscendingOrder);
@@ -96,51 +93,44 @@ void DataTable::clearRows() {
 
 void DataTable::appendRow(std::span<const Value> cells) {
     m_model->append(m_current.parentRow, cells);
-    schedulePublish();
+    if (m_publishScheduled || !isVisible()) return;
+    m_publishScheduled = true;
+    const auto publishAll = [this] {
+        m_publishScheduled = false;
+        publish();
+    };
+    QMetaObject::invokeMethod(this, publishAll, Qt::QueuedConnection);
 }
 
 void DataTable::insertRow(int row, std::span<const Value> cells) {
-    m_model->insert(m_current.parentRow, row, cells);
-    schedulePublish();
+    if (row >= rowCount()) return appendRow(cells);
+    m_model->insert(row, cells);
 }
 
 void DataTable::removeRow(int row) { m_model->remove(m_current.parentRow, row); }
 
-int DataTable::removeRowsWithText(int column, const QString& text) {
-    return m_model->removeWithText(m_current.parentRow, column, text);
-}
+void DataTable::removeRowsWithText(int column, const QString& text) { m_model->removeWithText(column, text); }
 
-void DataTable::selectRows(int first, int count, bool on) {
-    const int rows = rowCount();
-    const int from = std::clamp(first, 0, rows);
-    const int to = from + std::clamp(count, 0, rows - from);
-    if (!on && from == 0 && to == rows) {
-        clearSelection();
-        return;
-    }
-    if (from == to) return;
-    publish();
-    const int table = m_current.parentRow;
-    const QItemSelection range(m_model->indexOf(table, from, 0),
-                               m_model->indexOf(table, to - 1, m_model->gutterColumn()));
-    selectionModel()->select(range, on ? QItemSelectionModel::Select : QItemSelectionModel::Deselect);
+void DataTable::deselectRows(int count) {
+    // No more than one row is selected at a time.
+    const QModelIndexList selected = selectionModel()->selectedRows();
+    if (count >= rowCount() || (!selected.isEmpty() && selected.first().row() < count)) clearSelection();
 }
 
 const Value DataTable::cell(int row, int column) const {
-    return m_model->value(m_current.parentRow, row, column);
+    return m_model->rows(m_current.parentRow).value(row, column);
 }
 
 QString DataTable::cellText(int row, int column) const {
-    return m_model->text(m_current.parentRow, row, column);
+    return m_model->rows(m_current.parentRow).text(row, column);
 }
 
 void DataTable::setCell(int row, int column, const Value& value) {
     m_model->set(m_current.parentRow, row, column, value);
-    schedulePublish();
 }
 
 int DataTable::find(int column, int& startRow, const QString& text) const {
-    const int row = m_model->find(m_current.parentRow, column, startRow, text);
+    const int row = m_model->rows(m_current.parentRow).find(column, startRow, text);
     if (row >= 0) startRow = row;
     return row;
 }
@@ -161,23 +151,16 @@ void DataTable::markRow(int row) {
     viewport()->update();
 }
 
-void DataTable::refresh() {
-    publish();
-    viewport()->update();
-}
-
-TableHandle DataTable::enterChild(int row) {
-    if (!m_model->hasChild(row)) m_model->createChild(row);
-    return enter({row});
-}
-
 TableHandle DataTable::enter(TableHandle table) {
     if (table.parentRow != DataTableModel::top && !m_model->hasChild(table.parentRow))
         throw runtimeError(RuntimeError::outOfRange);
     return std::exchange(m_current, table);
 }
 
-void DataTable::createChild(int row) { m_model->createChild(row); }
+void DataTable::createChild(int row, const QColor& back, const QColor& second) {
+    m_model->createChild(row, back, second);
+    viewport()->update();
+}
 
 void DataTable::removeChild(int row) {
     m_model->removeChild(row);
@@ -187,26 +170,7 @@ void DataTable::removeChild(int row) {
 
 bool DataTable::hasChild(int row) const { return m_model->hasChild(row); }
 
-void DataTable::setChildColours(int row, const QColor& back, const QColor& second) {
-    m_model->setChildColours(row, back, second);
-    viewport()->update();
-}
-
-std::size_t DataTable::memoryInUse() const { return m_model->memoryInUse(); }
-
 void DataTable::publish() { m_model->publish(); }
-
-void DataTable::schedulePublish() {
-    if (m_publishScheduled || !isVisible()) return;
-    m_publishScheduled = true;
-    QMetaObject::invokeMethod(
-        this,
-        [this] {
-            m_publishScheduled = false;
-            publish();
-        },
-        Qt::QueuedConnection);
-}
 
 QVector<QString> DataTable::visibleHeads() const {
     QVector<QString> heads;
@@ -228,8 +192,9 @@ QRect DataTable::revealCell(TableHandle table, int row, int column) {
     scrollTo(index);
     const QRect line(0, visualRect(index.siblingAtColumn(m_model->gutterColumn())).top(), viewport()->width(),
                      rowHeight(index));
-    if (column == rowHeaderColumn) return line.intersected(QRect(0, 0, DataTableLook::gutterWidth, height()));
-    const QRect cells = line.adjusted(DataTableLook::gutterWidth, 0, 0, 0);
+    if (column == rowHeaderColumn)
+        return line.intersected(QRect(0, 0, DataTableShapes::gutterWidth, height()));
+    const QRect cells = line.adjusted(DataTableShapes::gutterWidth, 0, 0, 0);
     return m_model->isCategory(index) ? cells : visualRect(index).intersected(cells);
 }
 
@@ -266,7 +231,7 @@ void DataTable::showColumns() {
     heads->moveSection(heads->visualIndex(gutter), 0);
     heads->setSectionHidden(gutter, false);
     heads->setSectionResizeMode(gutter, QHeaderView::Fixed);
-    heads->resizeSection(gutter, DataTableLook::gutterWidth);
+    heads->resizeSection(gutter, DataTableShapes::gutterWidth);
     fitColumns();
 }
 
@@ -298,7 +263,7 @@ QVector<int> DataTable::elasticColumns() const {
 void DataTable::fitColumns() {
     const QScopedValueRollback fitting(m_fitting, true);
     QHeaderView* heads = header();
-    int room = viewport()->width() - DataTableLook::gutterWidth;
+    int room = viewport()->width() - DataTableShapes::gutterWidth;
     for (int column = 0; column < m_widths.size(); ++column) {
         if (heads->sectionSize(column) == 0) continue;
         heads->resizeSection(column, m_widths[column]);
@@ -336,40 +301,7 @@ void DataTable::resizeEvent(QResizeEvent* event) {
     fitColumns();
 }
 
-void DataTable::paintEvent(QPaintEvent* event) {
-    QTreeView::paintEvent(event);
-    const DataTableLook look(palette());
-    QRect gutter = spaceBelowRows();
-    gutter.setWidth(DataTableLook::gutterWidth);
-    QPainter painter(viewport());
-    painter.fillRect(gutter, look.gutter);
-    painter.fillRect(QRect(gutter.right(), gutter.top(), 1, gutter.height()), look.gutterEdge);
-    if (m_model->rowCount() > 0) return;
-    constexpr int margin = 16;
-    painter.setPen(palette().color(QPalette::PlaceholderText));
-    painter.drawText(
-        viewport()->rect().adjusted(DataTableLook::gutterWidth + margin, margin, -margin, -margin),
-        Qt::AlignCenter | Qt::TextWordWrap, m_emptyHint);
-}
-
-void DataTable::dataChanged(const QModelIndex& first, const QModelIndex& last, const QVector<int>& roles) {
-    // For several rows the view would add up the places of all of them to find what to paint, which is slow.
-    if (first.row() == last.row()) {
-        QTreeView::dataChanged(first, last, roles);
-    } else {
-        viewport()->update();
-    }
-}
-
-void DataTable::drawRow(QPainter* painter, const QStyleOptionViewItem& option,
-                        const QModelIndex& index) const {
-    DataTableRowState state;
-    state.rect = option.rect;
-    state.selected = selectionModel()->isSelected(index);
-    state.current = currentIndex().siblingAtColumn(index.column()) == index;
-    const QModelIndex marked = m_marked;
-    state.marked = marked.isValid() && marked.siblingAtColumn(index.column()) == index;
-    state.expanded = isExpanded(index);
-    state.focused = hasFocus();
-    DataTableRowPainter(*painter, *m_model, *header()).paint(index, state, m_selectionStyle, palette());
+void DataTable::dataChanged(const QModelIndex&, const QModelIndex&, const QVector<int>&) {
+    // The view would look for the place of each changed cell to find what to paint, which is slow.
+    viewport()->update();
 }

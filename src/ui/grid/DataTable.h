@@ -62,15 +62,14 @@ public:
     void clearRows();
     void appendRow(std::span<const Value> cells);
     void appendRow(std::initializer_list<Value> cells) { appendRow(std::span(cells)); }
-    /// Inserts before `row`; appends if `row` is beyond the end.
+    /// Inserts before `row`; appends if `row` is beyond the end. Not for a two-level grid.
     void insertRow(int row, std::span<const Value> cells);
-    void insertRow(int row, std::initializer_list<Value> cells) { insertRow(row, std::span(cells)); }
     /// Does nothing if there is no such row.
     void removeRow(int row);
-    /// Removes every row that has this text in the column; returns how many.
-    int removeRowsWithText(int column, const QString& text);
-    /// Selects or deselects `count` rows from `first` on; rows beyond the end are ignored.
-    void selectRows(int first, int count, bool on);
+    /// Removes every row that has this text in the column. Not for a two-level grid.
+    void removeRowsWithText(int column, const QString& text);
+    /// Deselects the first `count` rows, and with all rows of the current table those of other tables.
+    void deselectRows(int count);
 
     /// Error 9 if there is no such cell.
     const Value cell(int row, int column) const;
@@ -95,31 +94,24 @@ public:
     void keyboardSearch(const QString& typed) override;
 
     SelectionStyle& selectionStyle() { return m_selectionStyle; }
-    void refresh();
 
     // Two levels. Rows are here those of the top level, even while a child is the current table; error 9 if
     // there is no such row.
 
-    /// Makes the row's child table the current one and creates it if need be. Returns the table that was
-    /// current before; pass it to enter() to return.
-    TableHandle enterChild(int row);
+    /// Makes this table the current one. Returns the one that was current before; pass it to return.
     TableHandle enter(TableHandle table);
-    /// Gives the row an empty child table in place of any it has. Does not expand or collapse the row.
-    void createChild(int row);
+    /// Gives the row an empty child table in place of any it has. Its rows have the two colours by turns, the
+    /// second one softened. Does not expand or collapse the row.
+    void createChild(int row, const QColor& back, const QColor& second);
     /// If the child is the current table, the top level becomes the current one.
     void removeChild(int row);
     bool hasChild(int row) const;
     /// Expands or collapses a category, even if it has no child table yet. Called by a handler of a press on
     /// the category, it replaces the expanding or collapsing by the press itself.
     void setOpen(int row, bool open);
-    /// The row must have a child table. Its rows have the two colours by turns, the second one softened.
-    void setChildColours(int row, const QColor& back, const QColor& second);
 
-    /// Bytes held by rows, cells and shared texts, for the benchmarks.
-    std::size_t memoryInUse() const;
-
-    /// Passes the rows appended and cells changed since the last turn of the event loop to the view. A
-    /// visible grid does so by itself, a hidden one when it is shown.
+    /// Passes the rows appended since the last turn of the event loop to the view. A visible grid does so by
+    /// itself, a hidden one when it is shown.
     void publish();
     QVector<QString> visibleHeads() const;
     /// Scrolls a cell into view and returns its rectangle in the viewport, empty if there is none. Column -5
@@ -175,9 +167,6 @@ private:
     void copyRow() const;
     QVector<int> searchedColumns() const;
     QString clippedText(QPoint position) const;
-    void toggle(int row);
-
-    void schedulePublish();
     void showColumns();
     void columnResized(int section, int width);
     /// The columns that share surplus or missing width: those of texts. Columns of numbers keep their width.

@@ -1,7 +1,7 @@
 #include "DataTable.h"
 
-#include "DataTableLook.h"
 #include "DataTableModel.h"
+#include "DataTableShapes.h"
 #include "FocusMove.h"
 
 #include <QApplication>
@@ -25,7 +25,7 @@ DataTable::Spot DataTable::spotOf(const QModelIndex& index) const {
 
 DataTable::Spot DataTable::spotAt(QPoint position) const {
     Spot spot = spotOf(indexAt(position));
-    if (spot.row >= 0 && position.x() < DataTableLook::gutterWidth) spot.column = rowHeaderColumn;
+    if (spot.row >= 0 && position.x() < DataTableShapes::gutterWidth) spot.column = rowHeaderColumn;
     return spot;
 }
 
@@ -45,18 +45,15 @@ void DataTable::cellDown(const Spot& spot) {
     m_opennessTold = false;
     const QPointer<DataTable> alive(this);
     Q_EMIT OnGridCellDown(spot.row, spot.column);
-    if (alive && isCategory(spot) && spot.column == rowHeaderColumn && !m_opennessTold) toggle(spot.row);
+    if (!alive || !isCategory(spot) || spot.column != rowHeaderColumn || m_opennessTold) return;
+    publish();
+    if (m_model->hasChild(spot.row))
+        setOpen(spot.row, !isExpanded(m_model->indexOf(DataTableModel::top, spot.row, 0)));
 }
 
 void DataTable::cellOpen(const Spot& spot) {
     m_current = spot.table;
     Q_EMIT OnGridCellOpen(spot.row, spot.column);
-}
-
-void DataTable::toggle(int row) {
-    publish();
-    if (!m_model->hasChild(row)) return;
-    setOpen(row, !isExpanded(m_model->indexOf(DataTableModel::top, row, 0)));
 }
 
 void DataTable::setOpen(int row, bool open) {
@@ -166,12 +163,9 @@ void DataTable::keyboardSearch(const QString& typed) {
     const int first = current.row() + (goesOn && !again ? 0 : 1);
     const bool category = m_model->isCategory(current);
     for (const int column : category ? QVector<int>{0} : searchedColumns()) {
-        for (int step = 0; step < rows; ++step) {
-            const QModelIndex cell = m_model->index((first + step) % rows, column, current.parent());
-            if (!cell.data().toString().startsWith(m_typed, Qt::CaseInsensitive)) continue;
-            setCurrentIndex(cell.siblingAtColumn(current.column()));
-            return;
-        }
+        const QModelIndex from = m_model->index(first % rows, column, current.parent());
+        const auto found = m_model->match(from, Qt::DisplayRole, m_typed);
+        if (!found.isEmpty()) return setCurrentIndex(found.first().siblingAtColumn(current.column()));
     }
 }
 
@@ -205,6 +199,6 @@ QString DataTable::clippedText(QPoint position) const {
     if (!index.isValid() || m_model->isCategory(index)) return {};
     if (m_model->shownColumns()[index.column()].tick) return {};
     const QString text = index.data().toString();
-    const int room = columnWidth(index.column()) - 2 * DataTableLook::padding;
+    const int room = columnWidth(index.column()) - 2 * DataTableShapes::padding;
     return fontMetrics().horizontalAdvance(text) > room ? text : QString();
 }

@@ -2,7 +2,6 @@
 
 #include "DataTableColumn.h"
 #include "DataTableRows.h"
-#include <span>
 
 #include <QAbstractItemModel>
 #include <QColor>
@@ -12,8 +11,8 @@
 /// rows. A table is named by the row that owns it, -1 being the top. Error 9 if there is no such table or
 /// cell.
 ///
-/// Appended rows and changed cells reach the view with publish(), once for many. Insert, remove and clear
-/// reach it at once, for the rows published before.
+/// Appended rows reach the view with publish(), once for many. Every other change publishes them and reaches
+/// it at once.
 ///
 /// The view's columns are those of the cells, and after the last one the row header.
 class DataTableModel : public QAbstractItemModel {
@@ -21,10 +20,8 @@ class DataTableModel : public QAbstractItemModel {
 
 public:
     static constexpr int top = -1;
-    static constexpr int linesRole = Qt::UserRole; ///< a head on two lines, or empty
 
-    explicit DataTableModel(QObject* parent = nullptr);
-    ~DataTableModel() override;
+    DataTableModel();
 
     /// Drops all rows.
     void setColumns(const QVector<GridColumn>& columns);
@@ -37,63 +34,56 @@ public:
     int captionColumn() const { return m_captionColumn; }
     int gutterColumn() const { return static_cast<int>(shownColumns().size()); }
 
-    int rows(int table) const;
-    void clear(int table);
-    void append(int table, std::span<const Value> cells);
-    void append(int table, std::initializer_list<Value> cells) { append(table, std::span(cells)); }
-    void insert(int table, int row, std::span<const Value> cells);
-    void insert(int table, int row, std::initializer_list<Value> cells) {
-        insert(table, row, std::span(cells));
-    }
-    void remove(int table, int row);
-    int removeWithText(int table, int column, const QString& text);
-    Value value(int table, int row, int column) const;
-    QString text(int table, int row, int column) const;
-    void set(int table, int row, int column, const Value& value);
-    int find(int table, int column, int first, const QString& text) const;
+    const DataTableRows& rows(int owner) const { return table(owner); }
+    void clear(int owner);
+    void append(int owner, std::span<const Value> cells);
+    void remove(int owner, int row);
+    void set(int owner, int row, int column, const Value& value);
 
-    void createChild(int row);
+    // The top level of a grid without a second one.
+    void insert(int row, std::span<const Value> cells);
+    void removeWithText(int column, const QString& text);
+    void sort(int column, Qt::SortOrder order) override;
+
+    void createChild(int row, const QColor& back, const QColor& second);
     void removeChild(int row);
     bool hasChild(int row) const { return child(row) != nullptr; }
-    void setChildColours(int row, const QColor& back, const QColor& second);
-    /// The background of a child row: its table's two colours by turns.
+    /// The background of a child row: its table's two colours by turns, the second one softened.
     QColor childColour(const QModelIndex& index) const;
 
     void publish();
-    std::size_t memoryInUse() const;
 
     /// The table that a row of the view belongs to.
     int tableOf(const QModelIndex& index) const;
-    QModelIndex indexOf(int table, int row, int column) const;
+    QModelIndex indexOf(int owner, int row, int column) const;
     bool isCategory(const QModelIndex& index) const { return isTwoLevel() && !index.internalPointer(); }
 
     QModelIndex index(int row, int column, const QModelIndex& parent = {}) const override;
     QModelIndex parent(const QModelIndex& child) const override;
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
-    bool hasChildren(const QModelIndex& parent = {}) const override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
-    /// Puts the rows of the top level in the order of a column. Not for a two-level grid.
-    void sort(int column, Qt::SortOrder order) override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
-    struct Table;
+    struct Table : DataTableRows {
+        Table(int columns, int ownerRow)
+            : DataTableRows(columns)
+            , owner(ownerRow) {}
 
-    Table& table(int owner);
-    const Table& table(int owner) const;
+        int owner;
+        int published = 0; ///< number of rows known to the view
+        QColor back;
+        QColor second;
+    };
+
+    Table& table(int owner) const;
     Table* child(int row) const;
-    Table* shownChild(const QModelIndex& parent) const;
     QModelIndex ownerIndex(const Table& table) const;
     void dropRows(Table& table);
-    void dropAll();
-    void renumberChildren();
     void publish(Table& table);
-    void tellChanges(Table& table);
-    void eraseChildren(const std::vector<int>& rows);
-    void movePersistentIndexes(const Table& table, const std::vector<int>& removed);
-    QVariant alignment(int column) const;
+    void arrange(const std::vector<int>& from);
 
     QVector<GridColumn> m_columns;
     QVector<GridColumn> m_childColumns;
@@ -101,5 +91,4 @@ private:
     std::unique_ptr<Table> m_top;
     /// One for each row of the top level in a two-level grid, else empty.
     std::vector<std::unique_ptr<Table>> m_children;
-    bool m_behind = false; ///< some rows or changes are not published
 };

@@ -6,7 +6,6 @@
 #include <QCollator>
 #include <QHash>
 #include <algorithm>
-#include <compare>
 #include <numeric>
 
 namespace {
@@ -19,42 +18,27 @@ struct Key {
     auto operator<=>(const Key&) const = default;
 };
 
-/// The places of texts among one another. Equal texts are compared once only, which makes a long list of few
-/// names as quick as one of numbers.
-class Places {
-public:
-    explicit Places(const QStringList& words)
-        : m_words(words) {}
+using Places = QHash<QString, double>;
 
-    void add(const QString& text) { m_places.insert(text, 0); }
-
-    void settle() {
-        std::vector<std::pair<QCollatorSortKey, double*>> keys;
-        keys.reserve(static_cast<std::size_t>(m_places.size()));
-        for (auto one = m_places.begin(); one != m_places.end(); ++one)
-            keys.emplace_back(germanOrder().sortKey(one.key()), &one.value());
-        std::sort(keys.begin(), keys.end(),
-                  [](const auto& a, const auto& b) { return a.first.compare(b.first) < 0; });
-        double place = static_cast<double>(m_words.size()) - 1;
-        for (std::size_t i = 0; i < keys.size(); ++i) {
-            // What differs in nothing but its capitals has one place.
-            if (i == 0 || keys[i - 1].first.compare(keys[i].first) != 0) ++place;
-            *keys[i].second = place;
-        }
-        for (qsizetype word = 0; word < m_words.size(); ++word)
-            if (const auto found = m_places.find(m_words[word]); found != m_places.end())
-                *found = static_cast<double>(word);
+/// Gives the texts their places among one another, after the words that have an order of their own. Equal
+/// texts are compared once only, which makes a long list of few names as quick as one of numbers.
+void settle(Places& places, const QStringList& words) {
+    std::vector<std::pair<QCollatorSortKey, double*>> keys;
+    for (auto one = places.begin(); one != places.end(); ++one)
+        keys.emplace_back(germanOrder().sortKey(one.key()), &one.value());
+    std::sort(keys.begin(), keys.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
+    double place = static_cast<double>(words.size()) - 1;
+    for (std::size_t i = 0; i < keys.size(); ++i) {
+        // What differs in nothing but its capitals has one place.
+        if (i == 0 || keys[i - 1].first < keys[i].first) ++place;
+        *keys[i].second = place;
     }
+    for (qsizetype word = 0; word < words.size(); ++word)
+        if (const auto found = places.find(words[word]); found != places.end())
+            *found = static_cast<double>(word);
+}
 
-    double of(const QString& text) const { return m_places.value(text); }
-
-private:
-    const QStringList& m_words;
-    QHash<QString, double> m_places;
-};
-
-/// A cell that is no text, or stands for a number.
-Key numberKey(const Value& cell, const GridColumn& kind) {
+Key keyOf(const Value& cell, bool numeric) {
     switch (cell.kind()) {
     case Value::Kind::Null:
         return {};
@@ -62,7 +46,7 @@ Key numberKey(const Value& cell, const GridColumn& kind) {
         return {Key::Class::Number, cell.date().days};
     case Value::Kind::Text:
         if (cell.text().isEmpty()) return {};
-        if (!kind.numeric || !IsNumeric(cell)) return {Key::Class::Text};
+        if (!numeric || !IsNumeric(cell)) return {Key::Class::Text};
         [[fallthrough]];
     default:
         return {Key::Class::Number, CDbl(cell)};
@@ -71,27 +55,24 @@ Key numberKey(const Value& cell, const GridColumn& kind) {
 
 } // namespace
 
-std::vector<int> orderedRows(const DataTableRows& rows, const TextPool& texts, int column,
-                             const GridColumn& kind, Qt::SortOrder order) {
-    const auto count = static_cast<std::size_t>(rows.rowCount());
-    const auto cell = [&](std::size_t row) { return rows.value(static_cast<int>(row), column, texts); };
-    std::vector<Key> keys(count);
-    Places places(kind.order);
-    for (std::size_t row = 0; row < count; ++row) {
-        const Value value = cell(row);
-        keys[row] = numberKey(value, kind);
-        if (keys[row].kind == Key::Class::Text) places.add(value.text());
-    }
-    places.settle();
-    for (std::size_t row = 0; row < count; ++row)
-        if (keys[row].kind == Key::Class::Text) keys[row].place = places.of(cell(row).text());
-
-    std::vector<int> ordered(count);
+std::vector<int> orderedRows(const DataTableRows& rows, int column, const GridColumn& kind,
+                             Qt::SortOrder order) {
+    std::vector<int> ordered(static_cast<std::size_t>(rows.rowCount()));
     std::iota(ordered.begin(), ordered.end(), 0);
-    const auto key = [&](int row) -> const Key& { return keys[static_cast<std::size_t>(row)]; };
-    if (order == Qt::AscendingOrder)
-        std::stable_sort(ordered.begin(), ordered.end(), [&](int a, int b) { return key(a) < key(b); });
-    else
-        std::stable_sort(ordered.begin(), ordered.end(), [&](int a, int b) { return key(b) < key(a); });
+    std::vector<Key> keys;
+    keys.reserve(ordered.size());
+    Places places;
+    for (const int row : ordered) {
+        const Value cell = rows.value(row, column);
+        keys.push_back(keyOf(cell, kind.numeric));
+        if (keys.back().kind == Key::Class::Text) places.insert(cell.text(), 0);
+    }
+    settle(places, kind.order);
+    const auto key = [&](int row) -> Key& { return keys[static_cast<std::size_t>(row)]; };
+    for (const int row : ordered)
+        if (key(row).kind == Key::Class::Text) key(row).place = places.value(rows.value(row, column).text());
+    const bool up = order == Qt::AscendingOrder;
+    std::stable_sort(ordered.begin(), ordered.end(),
+                     [&](int a, int b) { return up ? key(a) < key(b) : key(b) < key(a); });
     return ordered;
 }

@@ -45,7 +45,7 @@ protected:
         m_grid->setColumns({{QString()}, {QString()}, {QString()}});
         m_grid->setChildColumns({{u"Nr"_s, 60}, {u"Name"_s, 100}}, 2);
         for (int row = 0; row < 3; ++row) m_grid->appendRow({row, u"+", u"Kategorie"});
-        m_grid->enter(m_grid->enterChild(0));
+        m_grid->createChild(0, Qt::white, Qt::gray);
         show();
     }
 
