@@ -5,7 +5,7 @@
 #include "Measure.h"
 #include "Screens.h"
 #include "TextBox.h"
-#include "ThemeSetup.h"
+#include "Theme.h"
 
 #include <QDir>
 #include <QFile>
@@ -71,7 +71,7 @@ BenchDesk::BenchDesk(int& argc, char** argv, MessageBoxes& boxes)
     m_clubs = QString::fromLocal8Bit(argv[1]);
     m_size.times = timesInForce = QByteArray(argv[2]).toInt();
     QApplication::setQuitOnLastWindowClosed(false);
-    Theme::apply(m_application, Theme::Mode::Light);
+    Theme::apply(Theme::Mode::Light);
     setClock([] { return QDate(benchYear, benchMonth, 14).startOfDay(); });
     setMessageBoxes(&boxes);
     setPrintDialogs(&m_printing);

@@ -5,7 +5,7 @@
 #include "Program.h"
 #include "QtMessageBoxes.h"
 #include "QtPrintDialogs.h"
-#include "ThemeSetup.h"
+#include "Theme.h"
 
 #include <QApplication>
 
@@ -39,7 +39,7 @@ int main(int argc, char* argv[]) {
     // By this name the desktop finds the menu entry, and with it the icon, of a window.
     QApplication::setDesktopFileName(u"uferwart"_s);
     Theme::loadFonts(QApplication::applicationDirPath() + u"/fonts"_s);
-    Theme::apply(application, Theme::desktopMode(application));
+    Theme::apply(Theme::desktopMode());
     static Surroundings surroundings; // static, as the libraries keep pointers into it
 
     Program program(QApplication::applicationDirPath());

@@ -1,7 +1,7 @@
 // main() of all test programs that show widgets.
 
 #include "FixedClock.h"
-#include "ThemeSetup.h"
+#include "Theme.h"
 
 #include <QApplication>
 #include <gtest/gtest.h>
@@ -12,7 +12,7 @@ int main(int argc, char** argv) {
     ::testing::InitGoogleTest(&argc, argv);
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
-    Theme::apply(application, Theme::Mode::Light);
+    Theme::apply(Theme::Mode::Light);
     const FixedClock clock;
     return RUN_ALL_TESTS();
 }

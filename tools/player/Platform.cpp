@@ -1,6 +1,6 @@
 #include "Platform.h"
 
-#include "ThemeSetup.h"
+#include "Theme.h"
 
 #include <QApplication>
 #include <QHashSeed>
@@ -19,13 +19,13 @@ void settleEnvironment() {
     QHashSeed::setDeterministicGlobalSeed();
 }
 
-void settleApplication(QApplication& application, Theme::Mode mode) {
+void settleApplication(Theme::Mode mode) {
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setCursorFlashTime(0);
     for (const Qt::UIEffect effect : {Qt::UI_AnimateMenu, Qt::UI_FadeMenu, Qt::UI_AnimateCombo,
                                       Qt::UI_AnimateTooltip, Qt::UI_FadeTooltip, Qt::UI_AnimateToolBox})
         QApplication::setEffectEnabled(effect, false);
-    Theme::apply(application, mode);
+    Theme::apply(mode);
 }
 
 bool isUsual(const QString& message) {

@@ -63,7 +63,7 @@ int main(int argc, char* argv[]) {
     qInstallMessageHandler(&passMessage);
     QApplication application(argc, argv);
     const Arguments arguments = readArguments(application);
-    Platform::settleApplication(application, arguments.dark ? Theme::Mode::Dark : Theme::Mode::Light);
+    Platform::settleApplication(arguments.dark ? Theme::Mode::Dark : Theme::Mode::Light);
     QFile file(arguments.file);
     if (!file.open(QIODevice::ReadOnly)) {
         std::fprintf(stderr, "%s can't be read\n", qPrintable(arguments.file));

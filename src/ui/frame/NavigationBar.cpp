@@ -1,6 +1,5 @@
 #include "NavigationBar.h"
 
-#include "HousePaint.h"
 #include "Layout.h"
 #include "LineBreaks.h"
 #include "Theme.h"
@@ -189,5 +188,5 @@ QSize NavigationBar::sizeHint() const {
 QSize NavigationBar::minimumSizeHint() const { return {sizeHint().width(), leastHeight}; }
 
 void NavigationBar::paintEvent(QPaintEvent* /*event*/) {
-    HousePaint::bar(this, Theme::barGround(), Qt::RightEdge);
+    Theme::paintBar(this, Theme::barGround(), Qt::RightEdge);
 }

@@ -1,7 +1,6 @@
 #include "StatusBar.h"
 
 #include "Clock.h"
-#include "HousePaint.h"
 #include "Theme.h"
 
 #include <QHBoxLayout>
@@ -45,5 +44,5 @@ QString StatusBar::panelText(int number) const { return m_panels.at(number - 1)-
 void StatusBar::setPanelText(int number, const QString& text) { m_panels.at(number - 1)->setText(text); }
 
 void StatusBar::paintEvent(QPaintEvent* /*event*/) {
-    HousePaint::bar(this, Theme::toolbarGround(), Qt::TopEdge);
+    Theme::paintBar(this, Theme::toolbarGround(), Qt::TopEdge);
 }

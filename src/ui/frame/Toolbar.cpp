@@ -1,7 +1,6 @@
 #include "Toolbar.h"
 
 #include "EventGuard.h"
-#include "HousePaint.h"
 #include "Theme.h"
 
 #include <QHBoxLayout>
@@ -97,5 +96,5 @@ QToolButton* Toolbar::key(const QString& key) const {
 void Toolbar::setKeyEnabled(const QString& key, bool on) { this->key(key)->setEnabled(on); }
 
 void Toolbar::paintEvent(QPaintEvent* /*event*/) {
-    HousePaint::bar(this, Theme::toolbarGround(), Qt::BottomEdge);
+    Theme::paintBar(this, Theme::toolbarGround(), Qt::BottomEdge);
 }

@@ -7,8 +7,6 @@ class QStyleOptionComboBox;
 /// The flat look of the program's controls: rounded fields, one accent ring for the focus, slim scroll bars.
 /// Leaves everything else to the style below it.
 class HouseStyle : public QProxyStyle {
-    Q_OBJECT
-
 public:
     HouseStyle();
 
@@ -33,6 +31,8 @@ public:
                   QStyleHintReturn* answer = nullptr) const override;
 
 private:
+    static constexpr QPoint groupLabel{10, 6};
+
     void drawEntry(const QStyleOptionComboBox* option, QPainter* painter, const QWidget* widget) const;
     void drawGroupBox(const QStyleOptionComplex* option, QPainter* painter, const QWidget* widget) const;
     void drawSpinBox(const QStyleOptionComplex* option, QPainter* painter, const QWidget* widget) const;

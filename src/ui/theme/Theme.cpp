@@ -1,9 +1,18 @@
 #include "Theme.h"
 
-#include "ThemeIcon.h"
+#include "HouseStyle.h"
 
-#include <QIcon>
+#include <QApplication>
+#include <QDir>
+#include <QFontDatabase>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QPainter>
+#include <QToolTip>
+#include <QTranslator>
 #include <QWidget>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -23,14 +32,6 @@ void setDisabled(QPalette& palette) {
     palette.setColor(QPalette::Disabled, QPalette::HighlightedText, pale);
 }
 
-} // namespace
-
-namespace Theme {
-
-Mode mode() { return currentMode; }
-
-void setMode(Mode mode) { currentMode = mode; }
-
 QPalette palette() {
     QPalette palette;
     const QColor ink = either(0xff1b2230, 0xffe7ebf3);
@@ -43,7 +44,7 @@ QPalette palette() {
     palette.setColor(QPalette::PlaceholderText, either(0xff667080, 0xff9aa4b4));
     palette.setColor(QPalette::Button, either(0xfffbfcfe, 0xff2c323d));
     palette.setColor(QPalette::ButtonText, ink);
-    palette.setColor(headingRole, headingInk());
+    palette.setColor(Theme::headingRole, Theme::headingInk());
     palette.setColor(QPalette::Highlight, either(0xff2b62c4, 0xff35609f));
     palette.setColor(QPalette::HighlightedText, Qt::white);
     palette.setColor(QPalette::Link, either(0xff2b62c4, 0xff8fb6fa));
@@ -58,6 +59,36 @@ QPalette palette() {
     setDisabled(palette);
     return palette;
 }
+
+constexpr double bodyPoints = 9.75;
+/// The longest pause between two letters of a name typed to find it in a list. Qt's 400 ms are too short
+/// for slow typists.
+constexpr int slowestTypingMilliseconds = 2000;
+
+QFont bodyFont() {
+    QFont::insertSubstitutions(u"MS Sans Serif"_s, {u"Liberation Sans"_s, u"Arial"_s});
+    QFont::insertSubstitution(u"Comic Sans MS"_s, u"Comic Neue"_s);
+    QFont font(u"MS Sans Serif"_s);
+    font.setPointSizeF(bodyPoints);
+    font.setStyleHint(QFont::SansSerif);
+    return font;
+}
+
+void loadGermanWords() {
+    QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    const QString name = u"qtbase_de"_s;
+    if (qApp->findChild<QTranslator*>(name)) return;
+    auto* translator = new QTranslator(qApp);
+    translator->setObjectName(name);
+    if (translator->load(name, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(translator);
+}
+
+} // namespace
+
+namespace Theme {
+
+Mode mode() { return currentMode; }
 
 QColor blue() { return {172, 199, 247}; }
 
@@ -84,13 +115,21 @@ QColor barItemGround(bool current, bool hovered, bool pressed) {
     return Qt::transparent;
 }
 
+void paintBar(QWidget* bar, const QColor& ground, Qt::Edge end) {
+    QPainter painter(bar);
+    painter.fillRect(bar->rect(), ground);
+    QRect line = bar->rect();
+    if (end == Qt::RightEdge) line.setLeft(line.right());
+    if (end == Qt::BottomEdge) line.setTop(line.bottom());
+    if (end == Qt::TopEdge) line.setBottom(line.top());
+    painter.fillRect(line, faintLine());
+}
+
 QColor mixed(const QColor& from, const QColor& to, double share) {
     const auto part = [share](float a, float b) { return static_cast<float>(a + (b - a) * share); };
     return QColor::fromRgbF(part(from.redF(), to.redF()), part(from.greenF(), to.greenF()),
                             part(from.blueF(), to.blueF()));
 }
-
-QIcon icon(const QString& name) { return QIcon(new ThemeIcon(name)); }
 
 void setFaulty(QWidget* field, bool on) {
     if (isFaulty(field) == on) return;
@@ -99,5 +138,28 @@ void setFaulty(QWidget* field, bool on) {
 }
 
 bool isFaulty(const QWidget* field) { return field && field->property(faulty).toBool(); }
+
+void loadFonts(const QString& folder) {
+    for (const QFileInfo& file : QDir(folder).entryInfoList({u"*.ttf"_s, u"*.otf"_s}, QDir::Files))
+        QFontDatabase::addApplicationFont(file.filePath());
+}
+
+void apply(Mode mode) {
+    currentMode = mode;
+    loadGermanWords();
+    QApplication::setStyle(new HouseStyle);
+    QApplication::setPalette(palette());
+    QToolTip::setPalette(palette());
+    QApplication::setFont(bodyFont());
+    QApplication::setWindowIcon(icon(u"uferwart"_s));
+    QApplication::setKeyboardInputInterval(slowestTypingMilliseconds);
+}
+
+Mode desktopMode() {
+    const QPalette palette = QApplication::palette();
+    const bool darkWindow =
+        palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
+    return darkWindow ? Mode::Dark : Mode::Light;
+}
 
 } // namespace Theme

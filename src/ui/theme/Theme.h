@@ -14,10 +14,14 @@ namespace Theme {
 enum class Mode { Light, Dark };
 
 Mode mode();
-/// Only for apply(), which also renews style and palette.
-void setMode(Mode mode);
-
-QPalette palette();
+/// Sets style, palette and fonts for the whole program. Also loads Qt's German texts and makes German the
+/// locale of dates and numbers. Call again to change the mode.
+void apply(Mode mode);
+/// Loads the fonts in a folder, whether or not the machine has them. A missing folder is no error. Call
+/// before the first apply().
+void loadFonts(const QString& folder);
+/// Dark if the desktop asks for it. Call before the first apply(), which replaces the desktop's palette.
+Mode desktopMode();
 /// The palette's role for headingInk(): Qt's own drawing has no use for it.
 constexpr QPalette::ColorRole headingRole = QPalette::BrightText;
 
@@ -37,6 +41,10 @@ QColor barItemGround(bool current, bool hovered, bool pressed);
 QColor mixed(const QColor& from, const QColor& to, double share);
 /// One of the program's own icons (assets/icons/NAME.svg), sharp at any scale and legible in both modes.
 QIcon icon(const QString& name);
+
+/// Draws the ground of a toolbar, the status bar or the navigation bar, with a line along its edge `end`. Call
+/// in its paintEvent().
+void paintBar(QWidget* bar, const QColor& ground, Qt::Edge end);
 
 /// Draws the border of a text, combo or date box in the colour above.
 void setFaulty(QWidget* field, bool on);

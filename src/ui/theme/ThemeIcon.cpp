@@ -1,9 +1,8 @@
-#include "ThemeIcon.h"
-
 #include "Theme.h"
 
 #include <QBuffer>
 #include <QFile>
+#include <QIconEngine>
 #include <QImageReader>
 #include <QPainter>
 #include <QPixmapCache>
@@ -34,23 +33,29 @@ QByteArray contentsOf(const QString& name) {
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-QImage faded(const QImage& image) {
-    QImage pale(image.size(), QImage::Format_ARGB32_Premultiplied);
-    pale.fill(Qt::transparent);
-    QPainter painter(&pale);
-    painter.setOpacity(disabledOpacity);
-    painter.drawImage(0, 0, image);
-    return pale;
-}
+/// Draws one of the program's icons, at exactly the requested size and resolution. Its colours follow the
+/// theme, also when the theme changes while a window is open.
+class ThemeIcon : public QIconEngine {
+public:
+    explicit ThemeIcon(const QString& name)
+        : m_name(name)
+        , m_picture(contentsOf(name)) {}
 
-} // namespace
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override;
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override;
+    QPixmap scaledPixmap(const QSize& size, QIcon::Mode mode, QIcon::State state, qreal scale) override;
+    QIconEngine* clone() const override { return new ThemeIcon(*this); }
+    bool isNull() override { return m_picture.isEmpty(); }
 
-ThemeIcon::ThemeIcon(const QString& name)
-    : m_name(name)
-    , m_picture(contentsOf(name)) {}
+private:
+    QPixmap drawn(const QSize& size, double opacity) const;
+
+    QString m_name;
+    QByteArray m_picture;
+};
 
 // In the middle of `size`, with its proportions kept.
-QImage ThemeIcon::drawn(const QSize& size) const {
+QPixmap ThemeIcon::drawn(const QSize& size, double opacity) const {
     QByteArray data = recoloured(m_picture);
     QBuffer buffer(&data);
     QImageReader reader(&buffer, QByteArrayLiteral("svg"));
@@ -59,9 +64,11 @@ QImage ThemeIcon::drawn(const QSize& size) const {
     QImage image(size, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     QPainter painter(&image);
+    painter.setOpacity(opacity);
     painter.drawImage((size.width() - fitting.width()) / 2, (size.height() - fitting.height()) / 2,
                       reader.read());
-    return image;
+    painter.end();
+    return QPixmap::fromImage(image);
 }
 
 QPixmap ThemeIcon::pixmap(const QSize& size, QIcon::Mode mode, QIcon::State /*state*/) {
@@ -73,8 +80,7 @@ QPixmap ThemeIcon::pixmap(const QSize& size, QIcon::Mode mode, QIcon::State /*st
                             .arg(static_cast<int>(Theme::mode()));
     QPixmap found;
     if (QPixmapCache::find(key, &found)) return found;
-    const QImage image = drawn(size);
-    found = QPixmap::fromImage(mode == QIcon::Disabled ? faded(image) : image);
+    found = drawn(size, mode == QIcon::Disabled ? disabledOpacity : 1);
     QPixmapCache::insert(key, found);
     return found;
 }
@@ -91,3 +97,7 @@ void ThemeIcon::paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QI
     painter->setRenderHint(QPainter::SmoothPixmapTransform);
     painter->drawPixmap(rect, pixmap(pixels, mode, state));
 }
+
+} // namespace
+
+QIcon Theme::icon(const QString& name) { return QIcon(new ThemeIcon(name)); }

@@ -38,7 +38,7 @@ int main(int argc, char* argv[]) {
     Platform::settleEnvironment();
     qInstallMessageHandler(&hear);
     QApplication application(argc, argv);
-    Platform::settleApplication(application, Theme::Mode::Light);
+    Platform::settleApplication(Theme::Mode::Light);
     QCommandLineParser parser;
     parser.setApplicationDescription(u"Lets random users loose on the program."_s);
     parser.addHelpOption();

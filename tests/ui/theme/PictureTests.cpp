@@ -1,4 +1,4 @@
-#include "ThemeSetup.h"
+#include "Theme.h"
 
 #include <QApplication>
 #include <QDir>
@@ -35,8 +35,8 @@ double contrast(const QColor& ink, const QColor& ground) {
 
 class ThemeTest : public ::testing::TestWithParam<Theme::Mode> {
 protected:
-    ThemeTest() { Theme::apply(*qApp, GetParam()); }
-    ~ThemeTest() override { Theme::apply(*qApp, Theme::Mode::Light); }
+    ThemeTest() { Theme::apply(GetParam()); }
+    ~ThemeTest() override { Theme::apply(Theme::Mode::Light); }
 };
 
 TEST_P(ThemeTest, EveryPictureIsDrawnAtAnySize) {
