@@ -198,15 +198,10 @@ QRect DataTable::revealCell(TableHandle table, int row, int column) {
     return m_model->isCategory(index) ? cells : visualRect(index).intersected(cells);
 }
 
-QModelIndex DataTable::lastIndex() const {
-    const int last = m_model->rowCount() - 1;
-    const QModelIndex index = m_model->index(last, 0);
-    const int children = isExpanded(index) ? m_model->rowCount(index) : 0;
-    return children > 0 ? m_model->index(children - 1, 0, index) : index;
-}
-
 QRect DataTable::spaceBelowRows() const {
-    const QModelIndex last = lastIndex();
+    QModelIndex last = m_model->index(m_model->rowCount() - 1, 0);
+    const int children = isExpanded(last) ? m_model->rowCount(last) : 0;
+    if (children > 0) last = m_model->index(children - 1, 0, last);
     const int top =
         last.isValid() ? visualRect(last.siblingAtColumn(m_model->gutterColumn())).bottom() + 1 : 0;
     return {0, top, viewport()->width(), std::max(0, viewport()->height() - top)};
@@ -261,6 +256,8 @@ QVector<int> DataTable::elasticColumns() const {
 }
 
 void DataTable::fitColumns() {
+    // The view asks while the columns change, before showColumns() knows their widths.
+    if (m_widths.size() != m_model->gutterColumn()) return;
     const QScopedValueRollback fitting(m_fitting, true);
     QHeaderView* heads = header();
     int room = viewport()->width() - DataTableShapes::gutterWidth;

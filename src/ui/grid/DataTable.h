@@ -8,7 +8,6 @@
 #include <QVector>
 #include <memory>
 #include <span>
-#include <vector>
 
 class DataTableModel;
 
@@ -173,7 +172,6 @@ private:
     QVector<int> elasticColumns() const;
     void fitColumns();
     void shareOut(int room);
-    QModelIndex lastIndex() const;
     QRect spaceBelowRows() const;
 
     std::unique_ptr<DataTableModel> m_model;

@@ -144,9 +144,9 @@ QVector<int> DataTable::searchedColumns() const {
     };
     const auto& shown = m_model->shownColumns();
     if (isSortingEnabled() && header()->sortIndicatorSection() >= 0) add(header()->sortIndicatorSection());
-    for (int column = 0; column < shown.size(); ++column)
-        if (shown[column].name) add(column);
-    for (int column = 0; column < shown.size(); ++column) add(column);
+    for (const bool named : {true, false})
+        for (int column = 0; column < shown.size(); ++column)
+            if (shown[column].name || !named) add(column);
     return columns;
 }
 
