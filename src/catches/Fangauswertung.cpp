@@ -158,9 +158,7 @@ void Fangauswertung::tbExcel_Click() {
                      &modFAuswert::ErzeugeFangDatei);
 }
 
-void Fangauswertung::drucke(const QString& wort) {
-    modFAuswert::DruckeFangListe(wort);
-}
+void Fangauswertung::drucke(const QString& wort) { modFAuswert::DruckeFangListe(wort); }
 
 void Fangauswertung::tblFAusw_OnGridCellOpen(int row) {
     if (!modFangbuch::FangbuchZugriff_Erlaubt()) return modRun::MeldeKeinZugriff();

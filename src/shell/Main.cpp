@@ -125,9 +125,7 @@ void Main::Form_QueryUnload() { unload<Main>(); }
 
 void Main::zeigeBereich(const QString& key) { modNavigation::zeigeBereich(key); }
 
-void Main::zeigeMitgliederliste() {
-    the<MitglList>().Show();
-}
+void Main::zeigeMitgliederliste() { the<MitglList>().Show(); }
 
 void Main::beendeStill() { Program::current().finishUnseen(); }
 
@@ -139,9 +137,7 @@ void Main::mnuBeenden_Click() {
     unload<Main>();
 }
 
-void Main::mnuInfo_Click() {
-    the<Info>().ShowAbove(this);
-}
+void Main::mnuInfo_Click() { the<Info>().ShowAbove(this); }
 
 void Main::loadKontMenu_Mitgl() {
     mnuMitglInfo->setEnabled(modKontakt::KontaktZugriff_Erlaubt());

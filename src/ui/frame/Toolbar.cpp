@@ -5,7 +5,6 @@
 
 #include <QHBoxLayout>
 #include <QIcon>
-#include <QPainter>
 #include <QToolButton>
 #include <algorithm>
 

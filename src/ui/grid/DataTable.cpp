@@ -30,7 +30,7 @@ DataTable::DataTable(QStringView name, QWidget* parent)
     , m_model(std::make_unique<DataTableModel>()) {
     setObjectName(name);
     setAccessibleName(name.toString());
-    setHeader(new DataTableHeader(this));
+    setHeader(new DataTableHeader(*m_model, this));
     setModel(m_model.get());
     setItemDelegate(new OneLine(this));
     setUniformRowHeights(true);

@@ -42,8 +42,8 @@ QColor mixed(const QColor& from, const QColor& to, double share);
 /// One of the program's own icons (assets/icons/NAME.svg), sharp at any scale and legible in both modes.
 QIcon icon(const QString& name);
 
-/// Draws the ground of a toolbar, the status bar or the navigation bar, with a line along its edge `end`. Call
-/// in its paintEvent().
+/// Draws the ground of a toolbar, the status bar or the navigation bar, with a line along its edge `end`.
+/// Call in its paintEvent().
 void paintBar(QWidget* bar, const QColor& ground, Qt::Edge end);
 
 /// Draws the border of a text, combo or date box in the colour above.
